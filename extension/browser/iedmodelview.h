@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "model/scltemplatestore.h"
+
+#include <devicemodel/mmsvalue.h>
+#include <devicemodel/physicaldevice.h>
+#include <remoteclient/iec61850controllerinterface.h>
+
+#include <QtCore/QHash>
+#include <QtWidgets/QDialog>
+
+#include <memory>
+
+class IEDModel;
+class IEDModelDelegate;
+class MMSListener;
+class QAction;
+class QMenu;
+struct FailureTexts;
+struct HostTaskContext;
+struct IEDNode;
+
+namespace Ui {
+class IEDModelView;
+}
+
+/// The IED browser: the data model of one IED as a tree with live values, and the client services on
+/// the selected node.
+///
+/// Construct it, call init(), and show it only when that returned true. GUI thread; every service is
+/// a controller call that blocks the window until the driver has answered. The host context and
+/// what it points at must outlive the window.
+class IEDModelView : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// `taskParameter` is accepted for the host's sake and not kept.
+    IEDModelView(int driverNo, int deviceNo, int taskParameter, HostTaskContext *context,
+                 QWidget *parent);
+    ~IEDModelView() override;
+
+public slots:
+    /// Fetch and show the model, create the service actions, start to listen for live values.
+    /// \return false when the model could not be fetched; the operator has been told
+    bool init();
+    void updateMMSValue(const QList<MMSValue> &values);
+    /// A new menu of what can be done with a node; the caller deletes it.
+    QMenu *createTaskMenu(IEDNode *node);
+    void slotContextMenu(QPoint pos);
+    void slotExpanded(const QModelIndex &index);
+    void writeValue(const QModelIndex &index, const QVariant &value);
+    void readData();
+    void writeData();
+    void selectCo();
+    void operateCo();
+    void openReport();
+    void readSGCB();
+    void cancelCo();
+    void expandChild();
+    void openSGCB();
+    void collapseChild();
+    void locate();
+    void createDataSet();
+    void deleteDataSet();
+    void checkDoubleclick(const QModelIndex &index);
+    void readDataSetList();
+    void readDataSetDirectory();
+    void readXRCB();
+    void readServerDirectory();
+    void readLogicalDevice();
+    void readLogicalNode();
+    void readDataDirectory();
+
+private:
+    void createActions();
+    QAction *createAction(const QString &text, void (IEDModelView::*slot)());
+    void addControlEntries(QMenu *menu);
+    IEDNode *currentNode() const;
+    FailureTexts failureTexts() const;
+
+    /// Make a controller call, `call(error)`, under the busy cursor and report its failure.
+    /// \return whether it succeeded
+    template <typename Call> bool request(Call call);
+
+    std::unique_ptr<Ui::IEDModelView> m_form;
+    const SclTemplateStore m_templates;
+    IEDModel *m_model;
+    HostTaskContext *m_hostContext;
+    IEC61850ControllerInterface m_controller;
+    PhysicalDevice m_device;
+    QHash<DataAttribute *, IEDNode *> m_attributeIndex;
+    IEDModelDelegate *m_delegate;
+    MMSListener *m_listener = nullptr;
+    int m_deviceNo;
+    int m_driverNo;
+
+    QAction *m_readAction = nullptr;
+    QAction *m_writeAction = nullptr;
+    QAction *m_selectAction = nullptr;
+    QAction *m_operateAction = nullptr;
+    QAction *m_cancelAction = nullptr;
+    QAction *m_expandAction = nullptr;
+    QAction *m_collapseAction = nullptr;
+    QAction *m_openReportAction = nullptr;
+    QAction *m_openSettingGroupAction = nullptr;
+    QAction *m_locateAction = nullptr;
+    QAction *m_createPersistentDataSetAction = nullptr;
+    QAction *m_createNonPersistentDataSetAction = nullptr;
+    QAction *m_deleteDataSetAction = nullptr;
+    QAction *m_dataSetListAction = nullptr;
+    QAction *m_dataSetDirectoryAction = nullptr;
+    QAction *m_bufferedReportsAction = nullptr;
+    QAction *m_unbufferedReportsAction = nullptr;
+    QAction *m_settingGroupBlockAction = nullptr;
+    QAction *m_serverDirectoryAction = nullptr;
+    QAction *m_logicalDeviceDirectoryAction = nullptr;
+    QAction *m_logicalNodeDirectoryAction = nullptr;
+    QAction *m_dataDirectoryAction = nullptr;
+
+    bool m_offline = false;
+};
