@@ -1,2 +1,4 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "enumtype.h"
+
+EnumType::~EnumType() = default;

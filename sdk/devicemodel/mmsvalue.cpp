@@ -1,2 +1,222 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mmsvalue.h"
+
+#include "attributevalue.h"
+#include "streamsettings.h"
+
+#include <array>
+#include <cstring>
+
+namespace {
+
+constexpr quint8 formatVersion = 1;
+
+// Version, type, device number, cause and the four lengths of texts.
+constexpr int fixedBytes = 1 + 1 + 4 + 4 + 2 + 2 + 1 + 1;
+constexpr int longestQuality = 32;
+constexpr int longestTimeStamp = 80;
+constexpr int longestValueBesideLongReference = 255;
+static_assert(fixedBytes + longestQuality + longestTimeStamp + longestValueBesideLongReference +
+                      129 <=
+                  MMSValue::rawSize,
+              "the longest visible string and the longest reference fit uncut");
+
+/// UTF-8 of at most `limit` bytes; a text that has more ends in "…" behind its last whole
+/// character.
+QByteArray utf8Within(const QString &text, int limit)
+{
+    static const QByteArray ellipsis = QByteArrayLiteral("\xE2\x80\xA6");
+    QByteArray bytes = text.toUtf8();
+    if (bytes.size() <= limit)
+        return bytes;
+    int end = limit - ellipsis.size();
+    while (end > 0 && (static_cast<uchar>(bytes.at(end)) & 0xC0U) == 0x80U)
+        --end;
+    bytes.truncate(end);
+    return bytes + ellipsis;
+}
+
+quint32 bitsOfFloat(float value)
+{
+    quint32 bits;
+    std::memcpy(&bits, &value, sizeof bits);
+    return bits;
+}
+
+float floatOfBits(quint32 bits)
+{
+    float value;
+    std::memcpy(&value, &bits, sizeof value);
+    return value;
+}
+
+template <typename Length>
+void writeBytes(QDataStream &stream, const QByteArray &bytes)
+{
+    stream << static_cast<Length>(bytes.size());
+    stream.writeRawData(bytes.constData(), bytes.size());
+}
+
+class Reader
+{
+public:
+    explicit Reader(QDataStream &stream)
+        : m_stream(stream)
+    {
+    }
+
+    template <typename Number>
+    Number number()
+    {
+        Number result{};
+        m_stream >> result;
+        return result;
+    }
+
+    template <typename Length>
+    QByteArray bytes()
+    {
+        const int length = number<Length>();
+        std::array<char, MMSValue::rawSize> buffer;
+        if (length > static_cast<int>(buffer.size())) {
+            m_stream.setStatus(QDataStream::ReadCorruptData);
+            return QByteArray();
+        }
+        if (m_stream.readRawData(buffer.data(), length) != length) {
+            m_stream.setStatus(QDataStream::ReadPastEnd);
+            return QByteArray();
+        }
+        return QByteArray(buffer.data(), length);
+    }
+
+    template <typename Length>
+    QString text()
+    {
+        return QString::fromUtf8(bytes<Length>());
+    }
+
+    QVariant value()
+    {
+        switch (number<quint8>()) {
+        case AttributeValue::Invalid:
+            return QVariant();
+        case AttributeValue::Bool:
+            return number<bool>();
+        case AttributeValue::Int:
+            return number<qint32>();
+        case AttributeValue::UInt:
+            return number<quint32>();
+        case AttributeValue::LongLong:
+            return number<qint64>();
+        case AttributeValue::ULongLong:
+            return number<quint64>();
+        case AttributeValue::Double:
+            return number<double>();
+        case AttributeValue::Float:
+            return floatOfBits(number<quint32>());
+        case AttributeValue::Text:
+            return text<quint16>();
+        case AttributeValue::Bytes:
+            return bytes<quint16>();
+        default:
+            m_stream.setStatus(QDataStream::ReadCorruptData);
+            return QVariant();
+        }
+    }
+
+private:
+    QDataStream &m_stream;
+};
+
+} // namespace
+
+MMSValue::MMSValue() = default;
+
+MMSValue::MMSValue(const MMSValue &other) = default;
+
+MMSValue &MMSValue::operator=(const MMSValue &other) = default;
+
+MMSValue::~MMSValue() = default;
+
+void MMSValue::fromStream(QDataStream &stream)
+{
+    *this = MMSValue();
+    const StreamSettings settings(stream);
+    Reader reader(stream);
+
+    if (reader.number<quint8>() != formatVersion) {
+        stream.setStatus(QDataStream::ReadCorruptData);
+        return;
+    }
+    MMSValue read;
+    read.value = reader.value();
+    read.reference = reader.text<quint16>();
+    read.quality = reader.text<quint8>();
+    read.timeStamp = reader.text<quint8>();
+    read.deviceNo = reader.number<qint32>();
+    read.cause = reader.number<quint32>();
+    if (stream.status() == QDataStream::Ok)
+        *this = read;
+}
+
+void MMSValue::toStream(QDataStream &stream) const
+{
+    const StreamSettings settings(stream);
+    const QByteArray qualityBytes = utf8Within(quality, longestQuality);
+    const QByteArray timeBytes = utf8Within(timeStamp, longestTimeStamp);
+
+    // The value gives way to the reference, without which it is worth nothing, but keeps room for
+    // the longest visible string.
+    int left = rawSize - fixedBytes - qualityBytes.size() - timeBytes.size();
+    const int valueLimit = qMax(longestValueBesideLongReference, left - reference.toUtf8().size());
+
+    QVariant written = AttributeValue::represented(value);
+    // Bytes that do not fit become the hexadecimal text by which octet strings are represented,
+    // since a text can be cut visibly.
+    if (written.userType() == AttributeValue::Bytes && written.toByteArray().size() > valueLimit)
+        written = QString::fromLatin1(written.toByteArray().left(rawSize).toHex());
+
+    const int type = written.userType();
+    QByteArray valueBytes;
+    if (type == AttributeValue::Text)
+        valueBytes = utf8Within(written.toString(), valueLimit);
+    else if (type == AttributeValue::Bytes)
+        valueBytes = written.toByteArray();
+    left -= qMax(valueBytes.size(), static_cast<int>(sizeof(double)));
+    const QByteArray referenceBytes = utf8Within(reference, left);
+
+    stream << formatVersion << static_cast<quint8>(type);
+    switch (type) {
+    case AttributeValue::Bool:
+        stream << written.toBool();
+        break;
+    case AttributeValue::Int:
+        stream << static_cast<qint32>(written.toInt());
+        break;
+    case AttributeValue::UInt:
+        stream << static_cast<quint32>(written.toUInt());
+        break;
+    case AttributeValue::LongLong:
+        stream << static_cast<qint64>(written.toLongLong());
+        break;
+    case AttributeValue::ULongLong:
+        stream << static_cast<quint64>(written.toULongLong());
+        break;
+    case AttributeValue::Double:
+        stream << written.toDouble();
+        break;
+    case AttributeValue::Float:
+        stream << bitsOfFloat(written.toFloat());
+        break;
+    case AttributeValue::Text:
+    case AttributeValue::Bytes:
+        writeBytes<quint16>(stream, valueBytes);
+        break;
+    default:
+        break;
+    }
+    writeBytes<quint16>(stream, referenceBytes);
+    writeBytes<quint8>(stream, qualityBytes);
+    writeBytes<quint8>(stream, timeBytes);
+    stream << deviceNo << cause;
+}

@@ -5,11 +5,13 @@
 #include "enumtype.h"
 #include "logicalnode.h"
 
-#include <QtCore/QHash>
 #include <QtCore/QList>
 #include <QtCore/QMap>
 #include <QtCore/QString>
 
+#include <memory>
+
+class AttributeIndex;
 class QDataStream;
 
 /// A logical device (IEC 61850-7-2, clause 9). Owns its logical nodes.
@@ -39,10 +41,14 @@ public:
 
     /// Replace the content by the device on the stream. Every count is checked against the bytes
     /// that are left and nesting ends at 32 levels: on malformed bytes the device is left partly
-    /// filled, consistent and destroyable. Equal texts are shared.
+    /// filled, consistent and destroyable, and the stream's status says so. Equal texts are shared.
+    /// The stream is left behind the bytes that were used. From a sequential source, such as a
+    /// socket, the whole device must have arrived.
     void fromStream(QDataStream &stream);
 
-    /// Write the device in the form that fromStream() reads.
+    /// Write the device in the form that fromStream() reads. Data nested deeper than it accepts is
+    /// left out, and the stream's status becomes WriteFailed. A value of a type by which no
+    /// attribute is represented is written as its text.
     void toStream(QDataStream &stream) const;
 
     /// Delete the whole content.
@@ -69,5 +75,5 @@ public:
     QMap<QString, EnumType> enumTypes;
 
 private:
-    QHash<QString, DataAttribute *> m_attributes;
+    std::unique_ptr<AttributeIndex> m_index;
 };

@@ -1,2 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "reportcontrol.h"
+
+ReportControlList::~ReportControlList()
+{
+    qDeleteAll(blocks);
+}
