@@ -1,0 +1,418 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <tavrix/inprocesseventboxes.h>
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+
+using namespace Tavrix;
+using namespace std::chrono_literals;
+
+namespace {
+
+using Events = std::vector<std::shared_ptr<const Event>>;
+
+constexpr Owner thisThread = 1;
+constexpr Owner otherThread = 2;
+
+std::shared_ptr<Event> eventOf(std::string_view key,
+                               std::initializer_list<std::string_view> records)
+{
+    auto event = std::make_shared<Event>(key, records.size(), 0);
+    for (const std::string_view record : records) {
+        event->append(record);
+    }
+    return event;
+}
+
+class EventBoxes : public testing::Test
+{
+protected:
+    unsigned int open(std::string_view name, Owner owner = thisThread)
+    {
+        unsigned int port = 0;
+        EXPECT_EQ(boxes.connectPort(owner, name, port), Success);
+        return port;
+    }
+
+    unsigned int openNew(std::string_view name, std::size_t capacity = 100,
+                         std::chrono::milliseconds timeToLive = 30s)
+    {
+        EXPECT_EQ(boxes.createBox(thisThread, name, capacity, timeToLive), Success);
+        return open(name);
+    }
+
+    void post(std::string_view prefix, std::string_view record, std::string_view key = "K")
+    {
+        EXPECT_EQ(boxes.post(prefix, eventOf(key, {record})), Success);
+    }
+
+    /// The first records of all events that a port gives without waiting, one after the other.
+    std::vector<std::string> drain(unsigned int port, std::string_view key = {})
+    {
+        std::vector<std::string> records;
+        for (;;) {
+            Events events;
+            if (boxes.receive(port, key, 0ms, 1, events) != Success) {
+                return records;
+            }
+            records.emplace_back(events.front()->record(0));
+        }
+    }
+
+    bool exists(std::string_view name)
+    {
+        unsigned int port = 0;
+        if (boxes.connectPort(otherThread, name, port) != Success) {
+            return false;
+        }
+        boxes.disconnectPort(port);
+        return true;
+    }
+
+    InProcessEventBoxes::TimePoint now{};
+    InProcessEventBoxes boxes{[this] { return now; }};
+};
+
+using Records = std::vector<std::string>;
+
+} // namespace
+
+TEST_F(EventBoxes, ConnectingToAMissingBoxSaysSoAndLeavesThePort)
+{
+    unsigned int port = 42;
+    EXPECT_EQ(boxes.connectPort(thisThread, "A", port), NoSuchEventBox);
+    EXPECT_EQ(port, 42u);
+}
+
+TEST_F(EventBoxes, ASecondBoxOfTheSameNameIsRefusedAndTheFirstKept)
+{
+    const unsigned int port = openNew("A", 1);
+    EXPECT_EQ(boxes.createBox(thisThread, "A", 100, 30s), EventBoxExists);
+    post("A", "1");
+    post("A", "2");
+    EXPECT_EQ(drain(port), Records({"2"}));
+}
+
+TEST_F(EventBoxes, EventsComeInTheOrderOfTheirPosting)
+{
+    const unsigned int port = openNew("A");
+    post("A", "1");
+    post("A", "2");
+    post("A", "3");
+    EXPECT_EQ(drain(port), Records({"1", "2", "3"}));
+}
+
+TEST_F(EventBoxes, AnEmptyBoxHasNothingToReceive)
+{
+    const unsigned int port = openNew("A");
+    Events events;
+    EXPECT_EQ(boxes.receive(port, {}, 0ms, 1, events), NothingReceived);
+    EXPECT_TRUE(events.empty());
+}
+
+TEST_F(EventBoxes, AnEmptyBoxIsWaitedForAsLongAsAsked)
+{
+    const unsigned int port = openNew("A");
+    Events events;
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(boxes.receive(port, {}, 30ms, 1, events), NothingReceived);
+    EXPECT_GE(std::chrono::steady_clock::now() - start, 30ms);
+}
+
+TEST_F(EventBoxes, AnEventIsReceivedOnceAmongThePortsOfABox)
+{
+    const unsigned int first = openNew("A");
+    const unsigned int second = open("A");
+    EXPECT_NE(first, second);
+    post("A", "1");
+    EXPECT_EQ(drain(second), Records({"1"}));
+    EXPECT_EQ(drain(first), Records());
+}
+
+TEST_F(EventBoxes, APostReachesEveryBoxWithThePrefixAndNoOther)
+{
+    const unsigned int one = openNew("DATA:1");
+    const unsigned int two = openNew("DATA:2");
+    const unsigned int bare = openNew("DATA:");
+    const unsigned int shorter = openNew("DATA");
+    const unsigned int other = openNew("DATB:1");
+    post("DATA:", "x");
+    EXPECT_EQ(drain(one), Records({"x"}));
+    EXPECT_EQ(drain(two), Records({"x"}));
+    EXPECT_EQ(drain(bare), Records({"x"}));
+    EXPECT_EQ(drain(shorter), Records());
+    EXPECT_EQ(drain(other), Records());
+}
+
+TEST_F(EventBoxes, AnEmptyPrefixReachesEveryBox)
+{
+    const unsigned int one = openNew("A");
+    const unsigned int two = openNew("B");
+    post("", "x");
+    EXPECT_EQ(drain(one), Records({"x"}));
+    EXPECT_EQ(drain(two), Records({"x"}));
+}
+
+TEST_F(EventBoxes, BoxesShareOneEvent)
+{
+    const unsigned int one = openNew("A1");
+    const unsigned int two = openNew("A2");
+    const auto event = eventOf("K", {"x"});
+    boxes.post("A", event);
+    Events ofOne;
+    Events ofTwo;
+    ASSERT_EQ(boxes.receive(one, {}, 0ms, 1, ofOne), Success);
+    ASSERT_EQ(boxes.receive(two, {}, 0ms, 1, ofTwo), Success);
+    EXPECT_EQ(ofOne.front(), event);
+    EXPECT_EQ(ofTwo.front(), event);
+}
+
+TEST_F(EventBoxes, AKeyTakesItsEventsAndLeavesTheOthers)
+{
+    const unsigned int port = openNew("A");
+    post("A", "1", "X");
+    post("A", "2", "Y");
+    post("A", "3", "X");
+    post("A", "4", "Y");
+    EXPECT_EQ(drain(port, "Y"), Records({"2", "4"}));
+    EXPECT_EQ(drain(port, "Z"), Records());
+    EXPECT_EQ(drain(port, {}), Records({"1", "3"}));
+}
+
+TEST_F(EventBoxes, AReceiveGathersAtMostTheEventsAskedFor)
+{
+    const unsigned int port = openNew("A");
+    for (const std::string_view record : {"1", "2", "3", "4", "5"}) {
+        post("A", record, record == "2" ? "other" : "K");
+    }
+    Events events;
+    ASSERT_EQ(boxes.receive(port, "K", 0ms, 3, events), Success);
+    ASSERT_EQ(events.size(), 3u);
+    EXPECT_EQ(events[0]->record(0), "1");
+    EXPECT_EQ(events[1]->record(0), "3");
+    EXPECT_EQ(events[2]->record(0), "4");
+    EXPECT_EQ(drain(port), Records({"2", "5"}));
+}
+
+TEST_F(EventBoxes, AReceiveStopsBeforeItsRecordsExceedThoseOfTheLargestEvent)
+{
+    const unsigned int port = openNew("A");
+    const auto large = std::make_shared<Event>("K", 3000, 0);
+    for (int i = 0; i < 3000; ++i) {
+        large->append("x");
+    }
+    boxes.post("A", large);
+    boxes.post("A", large);
+    Events events;
+    ASSERT_EQ(boxes.receive(port, {}, 0ms, 10, events), Success);
+    EXPECT_EQ(events.size(), 1u);
+    events.clear();
+    ASSERT_EQ(boxes.receive(port, {}, 0ms, 10, events), Success);
+    EXPECT_EQ(events.size(), 1u);
+}
+
+TEST_F(EventBoxes, AnEventWithoutRecordsIsReceived)
+{
+    const unsigned int port = openNew("A");
+    boxes.post("A", eventOf("K", {}));
+    Events events;
+    ASSERT_EQ(boxes.receive(port, {}, 0ms, 1, events), Success);
+    EXPECT_EQ(events.front()->recordCount(), 0u);
+}
+
+TEST_F(EventBoxes, AFullBoxDropsItsOldestEvents)
+{
+    const unsigned int port = openNew("A", 3);
+    for (const std::string_view record : {"1", "2", "3", "4", "5"}) {
+        post("A", record);
+    }
+    EXPECT_EQ(drain(port), Records({"3", "4", "5"}));
+}
+
+TEST_F(EventBoxes, ABoxKeepsNoMoreBytesThanItsLimit)
+{
+    const unsigned int port = openNew("A", 20005);
+    const std::string record(rawValueSize, 'x');
+    const auto large = std::make_shared<Event>("K", maxRecordsPerEvent, 0);
+    for (int i = 0; i < maxRecordsPerEvent; ++i) {
+        large->append(record);
+    }
+    const std::size_t fitting = static_cast<std::size_t>(maxBoxBytes) / large->cost();
+    post("A", "oldest");
+    for (std::size_t i = 0; i < fitting + 10; ++i) {
+        boxes.post("A", large);
+    }
+    post("A", "newest");
+    Events events;
+    std::size_t cost = 0;
+    std::size_t received = 0;
+    std::string last;
+    while (boxes.receive(port, {}, 0ms, 1, events) == Success) {
+        cost += events.front()->cost();
+        last = events.front()->record(0);
+        ++received;
+        events.clear();
+    }
+    EXPECT_EQ(last, "newest");
+    EXPECT_LE(cost, static_cast<std::size_t>(maxBoxBytes));
+    EXPECT_GE(received, fitting);
+}
+
+TEST_F(EventBoxes, TakenEventsMakeRoomAgain)
+{
+    const unsigned int port = openNew("A", 20005);
+    const std::string record(rawValueSize, 'x');
+    const auto large = std::make_shared<Event>("K", maxRecordsPerEvent, 0);
+    for (int i = 0; i < maxRecordsPerEvent; ++i) {
+        large->append(record);
+    }
+    for (int i = 0; i < 200; ++i) {
+        boxes.post("A", large);
+        EXPECT_EQ(drain(port).size(), 1u);
+    }
+    post("A", "1");
+    boxes.post("A", large);
+    EXPECT_EQ(drain(port), Records({"1", record}));
+}
+
+TEST_F(EventBoxes, AnEventThatNobodyReceivedInTimeIsDropped)
+{
+    const unsigned int port = openNew("A", 100, 1000ms);
+    post("A", "old");
+    now += 1ms;
+    post("A", "young");
+    now += 999ms;
+    EXPECT_EQ(drain(port), Records({"young"}));
+}
+
+TEST_F(EventBoxes, EachBoxHasItsOwnTimeToLive)
+{
+    const unsigned int shortLived = openNew("A1", 100, 10ms);
+    const unsigned int longLived = openNew("A2", 100, 1000ms);
+    post("A", "x");
+    now += 10ms;
+    EXPECT_EQ(drain(shortLived), Records());
+    EXPECT_EQ(drain(longLived), Records({"x"}));
+}
+
+TEST_F(EventBoxes, AnExpiredEventIsFreedByTheNextPost)
+{
+    openNew("A", 100, 10ms);
+    auto event = eventOf("K", {"x"});
+    const std::weak_ptr<const Event> watched = event;
+    boxes.post("A", event);
+    event.reset();
+    EXPECT_FALSE(watched.expired());
+    now += 10ms;
+    post("A", "y");
+    EXPECT_TRUE(watched.expired());
+}
+
+TEST_F(EventBoxes, APortThatWasNeverOpenedIsNotUsable)
+{
+    Events events;
+    EXPECT_EQ(boxes.receive(0, {}, 10s, 1, events), NoSuchEventBox);
+    EXPECT_EQ(boxes.receive(7, {}, 10s, 1, events), NoSuchEventBox);
+    EXPECT_EQ(boxes.disconnectPort(7), NoSuchEventBox);
+}
+
+TEST_F(EventBoxes, AClosedPortIsNotUsable)
+{
+    const unsigned int port = openNew("A");
+    post("A", "1");
+    EXPECT_EQ(boxes.disconnectPort(port), Success);
+    Events events;
+    EXPECT_EQ(boxes.receive(port, {}, 10s, 1, events), NoSuchEventBox);
+    EXPECT_EQ(boxes.disconnectPort(port), NoSuchEventBox);
+    EXPECT_EQ(drain(open("A")), Records({"1"}));
+}
+
+TEST_F(EventBoxes, APersistentBoxKeepsItsEventsWithoutAPort)
+{
+    boxes.disconnectPort(openNew("A"));
+    post("A", "1");
+    EXPECT_EQ(drain(open("A")), Records({"1"}));
+}
+
+TEST_F(EventBoxes, ABoxThatIsNotPersistentDiesWithItsLastPort)
+{
+    const unsigned int first = openNew("A");
+    const unsigned int second = open("A");
+    EXPECT_EQ(boxes.setPersistent("A", false), Success);
+    auto event = eventOf("K", {"x"});
+    const std::weak_ptr<const Event> watched = event;
+    boxes.post("A", event);
+    event.reset();
+
+    boxes.disconnectPort(first);
+    EXPECT_FALSE(watched.expired());
+    boxes.disconnectPort(second);
+    EXPECT_FALSE(exists("A"));
+    EXPECT_TRUE(watched.expired());
+}
+
+TEST_F(EventBoxes, ABoxThatIsNotPersistentWaitsForItsFirstPort)
+{
+    EXPECT_EQ(boxes.createBox(thisThread, "A", 100, 30s), Success);
+    EXPECT_EQ(boxes.setPersistent("A", false), Success);
+    EXPECT_TRUE(exists("A"));
+    EXPECT_FALSE(exists("A"));
+}
+
+TEST_F(EventBoxes, ABoxWithoutPortsDiesWhenItIsMadeNonPersistent)
+{
+    boxes.disconnectPort(openNew("A"));
+    EXPECT_EQ(boxes.setPersistent("A", false), Success);
+    EXPECT_FALSE(exists("A"));
+}
+
+TEST_F(EventBoxes, ABoxMadePersistentAgainOutlivesItsPorts)
+{
+    const unsigned int port = openNew("A");
+    boxes.setPersistent("A", false);
+    boxes.setPersistent("A", true);
+    boxes.disconnectPort(port);
+    EXPECT_TRUE(exists("A"));
+}
+
+TEST_F(EventBoxes, PersistenceOfAMissingBoxIsAnError)
+{
+    EXPECT_EQ(boxes.setPersistent("A", false), NoSuchEventBox);
+}
+
+TEST_F(EventBoxes, PortsEndWithTheThreadThatOpenedThem)
+{
+    const unsigned int ours = openNew("A");
+    const unsigned int theirs = open("A", otherThread);
+    boxes.setPersistent("A", false);
+    boxes.ownerGone(otherThread);
+    Events events;
+    EXPECT_EQ(boxes.receive(theirs, {}, 10s, 1, events), NoSuchEventBox);
+    EXPECT_EQ(boxes.receive(ours, {}, 0ms, 1, events), NothingReceived);
+    boxes.ownerGone(thisThread);
+    EXPECT_FALSE(exists("A"));
+}
+
+TEST_F(EventBoxes, ABoxThatNeverHadAPortEndsWithItsCreatorUnlessPersistent)
+{
+    boxes.createBox(otherThread, "persistent", 100, 30s);
+    boxes.createBox(otherThread, "orphan", 100, 30s);
+    boxes.setPersistent("orphan", false);
+    boxes.createBox(thisThread, "of the other thread", 100, 30s);
+    boxes.setPersistent("of the other thread", false);
+    boxes.ownerGone(otherThread);
+    EXPECT_TRUE(exists("persistent"));
+    EXPECT_FALSE(exists("orphan"));
+    EXPECT_TRUE(exists("of the other thread"));
+}
+
+TEST_F(EventBoxes, ABoxWithPortsOfOtherThreadsOutlivesItsCreator)
+{
+    EXPECT_EQ(boxes.createBox(otherThread, "A", 100, 30s), Success);
+    boxes.setPersistent("A", false);
+    const unsigned int port = open("A");
+    boxes.ownerGone(otherThread);
+    post("A", "1");
+    EXPECT_EQ(drain(port), Records({"1"}));
+}
