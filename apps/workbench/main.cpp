@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "commandline.h"
+#include "embeddeddriver.h"
+#include "mainwindow.h"
+#include "modelcheck.h"
+#include "tour.h"
+#include "workbench.h"
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QLibraryInfo>
+#include <QtCore/QSettings>
+#include <QtCore/QStandardPaths>
+#include <QtCore/QTemporaryDir>
+#include <QtCore/QTranslator>
+#include <QtWidgets/QApplication>
+
+#include <cstdio>
+
+namespace {
+
+constexpr int unusableStatus = 2; // as --check: nothing could be done at all
+const QString geometryKey = QStringLiteral("window/geometry");
+const QString stateKey = QStringLiteral("window/state");
+
+void say(const QString &sentence)
+{
+    QTextStream(stderr) << sentence << '\n';
+}
+
+void installTranslator(const QString &name, const QString &folder)
+{
+    auto *translator = new QTranslator(qApp);
+    if (translator->load(QLocale(), name, QStringLiteral("_"), folder))
+        QCoreApplication::installTranslator(translator);
+    else
+        delete translator;
+}
+
+void installTranslators()
+{
+    const QString folder =
+        QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("translation"));
+    installTranslator(QStringLiteral("workbench"), folder);
+    installTranslator(QStringLiteral("qtbase"), folder);
+}
+
+/// Answers --help, --version and mistakes; true when nothing is left to do.
+bool isAnswered(QCommandLineParser &parser, const CommandLine &line, int &status)
+{
+    if (!line.problem.isEmpty()) {
+        say(line.problem);
+        status = unusableStatus;
+        return true;
+    }
+    if (parser.isSet(QStringLiteral("version")))
+        parser.showVersion();
+    if (parser.isSet(QStringLiteral("help")))
+        parser.showHelp();
+    return false;
+}
+
+int runCheck(const CommandLine &line)
+{
+    QFile out;
+    if (!out.open(stdout, QIODevice::WriteOnly)) {
+        say(QCoreApplication::translate("main", "The standard output cannot be written."));
+        return unusableStatus;
+    }
+    return checkModel(line.check, line.ied, out);
+}
+
+QString pluginFolder(const CommandLine &line)
+{
+    return line.pluginFolder.isEmpty()
+               ? QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("plugins"))
+               : line.pluginFolder;
+}
+
+int runTour(const CommandLine &line)
+{
+    const QTemporaryDir settings;
+    Workbench workbench(settings.filePath(QStringLiteral("workbench.ini")), makeEmbeddedDriver());
+    MainWindow window(workbench, pluginFolder(line));
+    window.loadExtension();
+    Tour tour(workbench, window, line.tour);
+    if (tour.run())
+        return EXIT_SUCCESS;
+    say(tour.problem());
+    return EXIT_FAILURE;
+}
+
+int runWindow(const CommandLine &line)
+{
+    const QString settingsFile =
+        QDir(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation))
+            .filePath(QStringLiteral("workbench.ini"));
+    Workbench workbench(settingsFile, makeEmbeddedDriver());
+    MainWindow window(workbench, pluginFolder(line));
+    QSettings settings(settingsFile, QSettings::IniFormat);
+    window.restoreGeometry(settings.value(geometryKey).toByteArray());
+    window.restoreState(settings.value(stateKey).toByteArray());
+    window.show();
+    window.loadExtension();
+    workbench.restoreDevices();
+    if (line.demonstration)
+        workbench.openDemonstration();
+    for (const QString &file : line.files)
+        workbench.open(file, line.ied);
+    const int status = QApplication::exec();
+    settings.setValue(geometryKey, window.saveGeometry());
+    settings.setValue(stateKey, window.saveState());
+    return status;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication::setApplicationName(QStringLiteral("workbench"));
+    QCoreApplication::setOrganizationName(QStringLiteral("IEC61850Ext"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(WORKBENCH_VERSION));
+
+    QStringList given;
+    for (int i = 0; i < argc; ++i)
+        given << QString::fromLocal8Bit(argv[i]);
+    QCommandLineParser parser;
+    int status = EXIT_SUCCESS;
+
+    if (runsWithoutDisplay(given)) {
+        const QCoreApplication application(argc, argv);
+        const CommandLine line = parseCommandLine(parser, QCoreApplication::arguments());
+        return isAnswered(parser, line, status) ? status : runCheck(line);
+    }
+
+    const bool tour = given.filter(QRegularExpression(QStringLiteral("^--?tour(=|$)"))).size() > 0;
+    if (tour) {
+        // The same picture on every platform: one resolution, one style, one font.
+        qputenv("QT_FONT_DPI", "96");
+        if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
+            && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+        }
+    }
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    const QApplication application(argc, argv);
+    if (tour) {
+        QApplication::setStyle(QStringLiteral("Fusion"));
+        QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 10));
+    }
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/workbench/workbench.png")));
+    installTranslators();
+
+    const CommandLine line = parseCommandLine(parser, QCoreApplication::arguments());
+    if (isAnswered(parser, line, status))
+        return status;
+    return line.tour.isEmpty() ? runWindow(line) : runTour(line);
+}

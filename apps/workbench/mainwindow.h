@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "extensionloader.h"
+#include "findingsmodel.h"
+#include "importresult.h"
+
+#include <host/hosttaskcontext.h>
+
+#include <QtCore/QStringList>
+#include <QtWidgets/QMainWindow>
+
+#include <memory>
+
+namespace Ui {
+class MainWindow;
+}
+class QLabel;
+class QProgressBar;
+class QSortFilterProxyModel;
+class QToolButton;
+class Workbench;
+
+/// The window of the workbench: list of devices, tools of the extension, findings, journal.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// @param workbench not owned; must outlive the window
+    /// @param pluginFolder where the extension is
+    MainWindow(Workbench &workbench, const QString &pluginFolder, QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    /// Load the extension and show its actions, or say in the window why that is impossible.
+    void loadExtension();
+
+    const LoadedExtension &extension() const { return m_extension; }
+
+    /// The extension's actions as this window offers them: enabled while a device with a model is
+    /// selected, of which the extension is told before its own action runs.
+    QList<QAction *> extensionActions() const { return m_extensionActions; }
+
+    /// Number of the selected device, 0 when none is.
+    int selectedDevice() const;
+    void selectDevice(int number);
+
+public slots:
+    void openFile();
+
+protected:
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+private:
+    void setUpViews();
+    void setUpActions();
+    void setUpProgress();
+    void offerExtensionAction(QAction *action);
+    void showSelection();
+    void showDeviceMenu(const QPoint &position);
+    void askForIeds(const QString &file, const QVector<IedSummary> &ieds);
+    void showNextQuestion();
+    void showFailures(const QStringList &sentences);
+    void showAbout();
+    void removeSelected();
+
+    const std::unique_ptr<Ui::MainWindow> m_ui;
+    Workbench &m_workbench;
+    const QString m_pluginFolder;
+    HostTaskContext &m_context;
+    LoadedExtension m_extension;
+    QList<QAction *> m_extensionActions;
+    FindingsModel *m_findings;
+    QSortFilterProxyModel *m_sortedFindings;
+    QLabel *m_progressText = nullptr;
+    QProgressBar *m_progress = nullptr;
+    QToolButton *m_cancel = nullptr;
+
+    struct Question
+    {
+        QString file;
+        QVector<IedSummary> ieds;
+    };
+    QList<Question> m_questions; ///< the first one is on the screen
+};

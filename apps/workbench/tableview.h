@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QtWidgets/QTreeView>
+
+/// A flat list of rows: says in its place why it is empty, and copies the selected rows as text.
+class TableView : public QTreeView
+{
+    Q_OBJECT
+
+public:
+    explicit TableView(QWidget *parent = nullptr);
+
+    /// Text shown while there is no row.
+    void setPlaceholder(const QString &text);
+
+    /// The selected rows from top to bottom, one line each, cells separated by tabulators.
+    QString selectedText() const;
+
+    /// Copies selectedText() to the clipboard; Ctrl+C in this view.
+    QAction *copyAction() const { return m_copyAction; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString m_placeholder;
+    QAction *m_copyAction;
+};

@@ -1,0 +1,276 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "tour.h"
+
+#include "mainwindow.h"
+#include "workbench.h"
+
+#include <QtCore/QDeadlineTimer>
+#include <QtCore/QDir>
+#include <QtCore/QEventLoop>
+#include <QtCore/QTimer>
+#include <QtGui/QMouseEvent>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QDialog>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QTreeView>
+
+#include <chrono>
+#include <functional>
+
+namespace {
+
+constexpr std::chrono::seconds patience{20};
+constexpr std::chrono::milliseconds pollInterval{5};
+constexpr int typeColumn = 2;
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Tour)
+};
+
+/// Runs an event loop until the condition holds; false when that takes too long.
+bool waitFor(const std::function<bool()> &condition)
+{
+    const QDeadlineTimer deadline(patience);
+    QEventLoop loop;
+    QTimer poll;
+    poll.setInterval(pollInterval);
+    QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
+        if (condition() || deadline.hasExpired())
+            loop.quit();
+    });
+    if (condition())
+        return true;
+    poll.start();
+    loop.exec();
+    return condition();
+}
+
+QString describe(const QWidget *widget)
+{
+    if (const auto *box = qobject_cast<const QMessageBox *>(widget))
+        return Texts::tr("a message: \"%1: %2\"").arg(box->windowTitle(), box->text());
+    return Texts::tr("the window \"%1\"").arg(widget->windowTitle());
+}
+
+void dismiss(QWidget *widget)
+{
+    if (auto *dialog = qobject_cast<QDialog *>(widget))
+        dialog->reject();
+    else
+        widget->close();
+}
+
+/// Attends to the modal windows that appear while it lives: hands each to `visit` once it is on the
+/// screen, then closes it. Without this a modal dialog would keep the tour waiting for ever.
+class ModalAttendant
+{
+public:
+    explicit ModalAttendant(std::function<void(QWidget *)> visit)
+        : m_visit(std::move(visit))
+    {
+        m_poll.setInterval(pollInterval);
+        QObject::connect(&m_poll, &QTimer::timeout, &m_poll, [this] {
+            QWidget *modal = QApplication::activeModalWidget();
+            if (!modal || !modal->isVisible())
+                return;
+            m_poll.stop();
+            m_visit(modal);
+            dismiss(modal);
+            m_poll.start();
+        });
+        m_poll.start();
+    }
+
+private:
+    std::function<void(QWidget *)> m_visit;
+    QTimer m_poll;
+};
+
+QWidget *visibleWindow(const QString &objectName)
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (window->objectName() == objectName && window->isVisible())
+            return window;
+    }
+    return nullptr;
+}
+
+/// The first node, depth first, whose cell in the column has that text.
+QModelIndex findNode(const QAbstractItemModel &model, const QModelIndex &below, int column,
+                     const QString &text)
+{
+    for (int row = 0; row < model.rowCount(below); ++row) {
+        const QModelIndex child = model.index(row, 0, below);
+        if (child.sibling(row, column).data().toString() == text)
+            return child;
+        if (const QModelIndex found = findNode(model, child, column, text); found.isValid())
+            return found;
+    }
+    return {};
+}
+
+void expandBelow(QTreeView &tree, const QModelIndex &index)
+{
+    tree.expand(index);
+    for (int row = 0; row < tree.model()->rowCount(index); ++row)
+        expandBelow(tree, tree.model()->index(row, 0, index));
+}
+
+void expandUpTo(QTreeView &tree, const QModelIndex &index)
+{
+    for (QModelIndex node = index; node.isValid(); node = node.parent())
+        tree.expand(node);
+}
+
+} // namespace
+
+Tour::Tour(Workbench &workbench, MainWindow &window, const QString &folder)
+    : m_workbench(workbench)
+    , m_window(window)
+    , m_folder(folder)
+{}
+
+bool Tour::run()
+{
+    if (!QDir().mkpath(m_folder))
+        return fail(Texts::tr("The folder \"%1\" cannot be made.").arg(m_folder));
+    if (!m_window.extension().extension) {
+        return fail(Texts::tr("The plug-in \"%1\" is not available: %2")
+                        .arg(m_window.extension().file, m_window.extension().reason));
+    }
+    return openDevices() && showBrowser() && showOfflineSettingGroups() && showWorkbench();
+}
+
+bool Tour::openDevices()
+{
+    m_window.show();
+    m_workbench.openDemonstration();
+    if (!waitFor([this] { return !m_workbench.loader().isBusy(); }))
+        return fail(Texts::tr("The demonstration device was not read in time."));
+    const DeviceListModel::Device *device = m_workbench.devices().device(m_window.selectedDevice());
+    if (!device || device->state != DeviceListModel::Ready)
+        return fail(Texts::tr("The demonstration device cannot be read."));
+    return true;
+}
+
+bool Tour::triggerTool(int position, const QString &tool)
+{
+    const QList<QAction *> actions = m_window.extensionActions();
+    if (position >= actions.size() || !actions[position]->isEnabled())
+        return fail(Texts::tr("The plug-in offers no tool for the %1.").arg(tool));
+
+    QString surprise;
+    const ModalAttendant attendant([&](QWidget *modal) { surprise = describe(modal); });
+    actions[position]->trigger();
+    if (!surprise.isEmpty())
+        return fail(Texts::tr("Instead of the %1 came %2.").arg(tool, surprise));
+    return true;
+}
+
+bool Tour::showBrowser()
+{
+    const QString name = QStringLiteral("IEDModelView");
+    if (!triggerTool(0, Texts::tr("IED browser")))
+        return false;
+    if (!waitFor([&] { return visibleWindow(name) != nullptr; }))
+        return fail(Texts::tr("The IED browser did not appear."));
+    QWidget *browser = visibleWindow(name);
+    m_tree = browser->findChild<QTreeView *>(QStringLiteral("modelView"));
+    if (!m_tree)
+        return fail(Texts::tr("The IED browser has no tree."));
+    browser->resize(900, 640);
+    arrangeBrowser();
+    return save(browser, QStringLiteral("browser"));
+}
+
+void Tour::arrangeBrowser()
+{
+    const QAbstractItemModel &model = *m_tree->model();
+    m_tree->collapseAll();
+    const QModelIndex root = model.index(0, 0);
+    m_tree->expand(root);
+    const QModelIndex breaker = findNode(model, root, typeColumn, QStringLiteral("XCBR"));
+    if (breaker.isValid()) {
+        expandUpTo(*m_tree, breaker);
+        for (const QString &name : {QStringLiteral("Beh"), QStringLiteral("Pos")}) {
+            const QModelIndex node = findNode(model, breaker, 0, name);
+            if (node.isValid())
+                expandBelow(*m_tree, node);
+        }
+        m_tree->setCurrentIndex(breaker);
+    }
+    m_tree->resizeColumnToContents(0);
+    m_tree->scrollTo(breaker, QAbstractItemView::PositionAtTop);
+}
+
+bool Tour::showOfflineSettingGroups()
+{
+    const QAbstractItemModel &model = *m_tree->model();
+    const QModelIndex root = model.index(0, 0);
+    for (int ld = 0; ld < model.rowCount(root); ++ld) {
+        const QModelIndex device = model.index(ld, 0, root);
+        const QModelIndex lln0 = findNode(model, device, typeColumn, QStringLiteral("LLN0"));
+        // The setting group control block comes first where a logical device has one.
+        if (lln0.isValid()
+            && doubleClick(model.index(0, 0, lln0), QStringLiteral("OfflineSGCB"),
+                           QStringLiteral("offline-setting-groups"))) {
+            return true;
+        }
+        if (!m_problem.isEmpty())
+            return false;
+    }
+    return fail(Texts::tr("The offline setting group dialog did not appear."));
+}
+
+bool Tour::showWorkbench()
+{
+    m_tree->window()->close();
+    m_window.raise();
+    m_window.activateWindow();
+    return save(&m_window, QStringLiteral("workbench"));
+}
+
+/// True when the double-click opened the dialog and its picture was saved.
+bool Tour::doubleClick(const QModelIndex &index, const QString &dialogName, const QString &picture)
+{
+    expandUpTo(*m_tree, index.parent());
+    m_tree->setCurrentIndex(index);
+    m_tree->scrollTo(index);
+
+    bool saved = false;
+    const ModalAttendant attendant([&](QWidget *modal) {
+        if (modal->objectName() == dialogName)
+            saved = save(modal, picture);
+        else
+            fail(Texts::tr("Instead of the picture \"%1\" came %2.").arg(picture, describe(modal)));
+    });
+    const QPointF position = m_tree->visualRect(index).center();
+    const QPointF global = m_tree->viewport()->mapToGlobal(position.toPoint());
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+                                    QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
+        QMouseEvent event(type, position, global, Qt::LeftButton,
+                          type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
+                          Qt::NoModifier);
+        QApplication::sendEvent(m_tree->viewport(), &event);
+    }
+    return saved;
+}
+
+bool Tour::save(QWidget *widget, const QString &picture)
+{
+    const QString file = QDir(m_folder).filePath(picture + QStringLiteral(".png"));
+    QApplication::processEvents();
+    if (!widget->grab().save(file))
+        return fail(Texts::tr("The picture \"%1\" cannot be saved.").arg(file));
+    return true;
+}
+
+bool Tour::fail(const QString &sentence)
+{
+    if (m_problem.isEmpty())
+        m_problem = sentence;
+    return false;
+}
