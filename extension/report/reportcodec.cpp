@@ -36,11 +36,10 @@ bool ReportCodec::isBufferedBlock(const QString &reference)
 quint8 ReportCodec::encodeTriggerOptions(const TriggerOptions &options)
 {
     const auto bit = [](bool set, TriggerBit value) { return set ? value : 0; };
-    return static_cast<quint8>(bit(options.dataChange, DataChangeBit) |
-                               bit(options.qualityChange, QualityChangeBit) |
-                               bit(options.dataUpdate, DataUpdateBit) |
-                               bit(options.integrity, IntegrityBit) |
-                               bit(options.generalInterrogation, GeneralInterrogationBit));
+    return static_cast<quint8>(
+        bit(options.dataChange, DataChangeBit) | bit(options.qualityChange, QualityChangeBit) |
+        bit(options.dataUpdate, DataUpdateBit) | bit(options.integrity, IntegrityBit) |
+        bit(options.generalInterrogation, GeneralInterrogationBit));
 }
 
 TriggerOptions ReportCodec::decodeTriggerOptions(quint8 bits)

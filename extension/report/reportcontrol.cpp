@@ -22,7 +22,7 @@ void showDeviceText(QLabel *label, const QString &text)
     label->setToolTip(text.toHtmlEscaped());
 }
 
-}  // namespace
+} // namespace
 
 ReportControl::ReportControl(int deviceNo, int /*unused*/, IEC61850ControllerInterface *controller,
                              QWidget *parent)
@@ -132,7 +132,7 @@ void ReportControl::updateBlock(const ReportBlock &block)
     if (m_rptName.contains(purgeMark))
         m_form->purge->setEnabled(block.rptEna);
     if (block.rptEna) {
-        // The device refuses changes of an enabled block, and says so: the buttons stay as they are.
+        // Which settings of an enabled block may change is for the device to say.
         m_form->reserved->setEnabled(false);
     } else {
         for (QWidget *widget : std::initializer_list<QWidget *>{
@@ -229,8 +229,8 @@ void ReportControl::writeAttribute(const QString &attribute, const QByteArray &v
     OperationResult result = OperationSucceeded;
     {
         const BusyCursor busy;
-        result = m_controller->writeValue(m_deviceNo, m_ld, m_block.reference, attribute, value,
-                                          error);
+        result =
+            m_controller->writeValue(m_deviceNo, m_ld, m_block.reference, attribute, value, error);
     }
     if (!reportFailure(this, result, error, failureTexts()))
         readAgain();
