@@ -44,7 +44,7 @@ quint8 controlModel(const DataObject &dataObject)
     return static_cast<quint8>(ctlModel->attribute->value.toInt() & 0xFF);
 }
 
-}  // namespace
+} // namespace
 
 IEDModelView::IEDModelView(int driverNo, int deviceNo, int /*taskParameter*/,
                            HostTaskContext *context, QWidget *parent)
@@ -320,8 +320,8 @@ void IEDModelView::locate()
     QTreeView *view = m_form->modelView;
     view->scrollTo(index);
     view->expand(index);
-    view->selectionModel()->setCurrentIndex(
-        index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    view->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect |
+                                                       QItemSelectionModel::Rows);
 }
 
 void IEDModelView::createDataSet() {}
@@ -384,8 +384,7 @@ void IEDModelView::createActions()
         createAction(tr("GetLogicalDevice Directory"), &IEDModelView::readLogicalDevice);
     m_logicalNodeDirectoryAction =
         createAction(tr("GetLogicalNode Directory"), &IEDModelView::readLogicalNode);
-    m_dataDirectoryAction =
-        createAction(tr("GetData Directory"), &IEDModelView::readDataDirectory);
+    m_dataDirectoryAction = createAction(tr("GetData Directory"), &IEDModelView::readDataDirectory);
 }
 
 QAction *IEDModelView::createAction(const QString &text, void (IEDModelView::*slot)())
@@ -405,7 +404,8 @@ FailureTexts IEDModelView::failureTexts() const
     return {tr("Fail"), tr("Cannot connect to driver")};
 }
 
-template <typename Call> bool IEDModelView::request(Call call)
+template <typename Call>
+bool IEDModelView::request(Call call)
 {
     QString error;
     OperationResult result = OperationSucceeded;

@@ -25,11 +25,11 @@ namespace Ui {
 class IEDModelView;
 }
 
-/// The IED browser: the data model of one IED as a tree with live values, and the client services on
-/// the selected node.
+/// The IED browser: the data model of one IED as a tree with live values, and the client services
+/// on the selected node.
 ///
-/// Construct it, call init(), and show it only when that returned true. GUI thread; every service is
-/// a controller call that blocks the window until the driver has answered. The host context and
+/// Construct it, call init(), and show it only when that returned true. GUI thread; every service
+/// is a controller call that blocks the window until the driver has answered. The host context and
 /// what it points at must outlive the window.
 class IEDModelView : public QDialog
 {
@@ -82,7 +82,8 @@ private:
 
     /// Make a controller call, `call(error)`, under the busy cursor and report its failure.
     /// \return whether it succeeded
-    template <typename Call> bool request(Call call);
+    template <typename Call>
+    bool request(Call call);
 
     std::unique_ptr<Ui::IEDModelView> m_form;
     const SclTemplateStore m_templates;

@@ -3,8 +3,8 @@
 
 #include "model/iedmodel.h"
 
-#include <devicemodel/dataset.h>
 #include <devicemodel/dataobject.h>
+#include <devicemodel/dataset.h>
 
 namespace {
 
@@ -20,7 +20,7 @@ QString pathFromDataObject(const IEDNode *node)
     return path;
 }
 
-}  // namespace
+} // namespace
 
 QStringList variableReferences(const IEDNode *node)
 {

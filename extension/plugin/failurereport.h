@@ -11,7 +11,7 @@ class QWidget;
 struct FailureTexts
 {
     QString title;
-    QString cannotConnect;  ///< shown instead of the error text when the driver is unreachable
+    QString cannotConnect; ///< shown instead of the error text when the driver is unreachable
 };
 
 /// The one way in which a tool reports a failed controller call: a modal warning box over `parent`

@@ -22,7 +22,7 @@ Q_LOGGING_CATEGORY(lcExtension, "iec61850ext.plugin", QtWarningMsg)
 
 constexpr int iec61850Protocol = 4;
 
-}  // namespace
+} // namespace
 
 IEC61850TaskExtention::IEC61850TaskExtention() = default;
 
@@ -39,9 +39,9 @@ void IEC61850TaskExtention::initialize()
         return;
 
     auto *translator = new QTranslator(this);
-    const bool translated = translator->load(
-        QStringLiteral("iec61850ext_") + QLocale::system().name(),
-        QCoreApplication::applicationDirPath() + QStringLiteral("/translation"));
+    const bool translated =
+        translator->load(QStringLiteral("iec61850ext_") + QLocale::system().name(),
+                         QCoreApplication::applicationDirPath() + QStringLiteral("/translation"));
     if (!translated)
         qCDebug(lcExtension) << "no translation for" << QLocale::system().name();
     QCoreApplication::installTranslator(translator);
@@ -59,8 +59,7 @@ void IEC61850TaskExtention::initialize()
     m_fileServiceAction =
         createAction(tr("IED File Service"), &IEC61850TaskExtention::openFileService);
     m_abortAction = createAction(tr("Abort"), &IEC61850TaskExtention::abort);
-    m_reportAction =
-        createAction(tr("Report Control"), &IEC61850TaskExtention::openReportService);
+    m_reportAction = createAction(tr("Report Control"), &IEC61850TaskExtention::openReportService);
 }
 
 bool IEC61850TaskExtention::isAvailable()

@@ -12,7 +12,7 @@ namespace {
 constexpr int lookEveryMs = 5;
 constexpr int limitMs = 10000;
 
-}  // namespace
+} // namespace
 
 ModalDriver::ModalDriver(std::vector<Step> steps)
     : m_steps(std::move(steps))

@@ -23,10 +23,10 @@ struct ShownMessage
 
 /// Drives modal dialogs, message boxes and menus while a test's own thread is inside their exec().
 ///
-/// Make it with its steps before the call that opens the first window. Each step is given the topmost
-/// popup or modal window, as soon as there is one that no earlier step is still busy with; a step
-/// that opens another window nests. After the limit everything still open is closed, so that no
-/// test hangs, and finished() answers false.
+/// Make it with its steps before the call that opens the first window. Each step is given the
+/// topmost popup or modal window, as soon as there is one that no earlier step is still busy with;
+/// a step that opens another window nests. After the limit everything still open is closed, so that
+/// no test hangs, and finished() answers false.
 class ModalDriver : public QObject
 {
     Q_OBJECT

@@ -1,0 +1,241 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "fileservicedialog.h"
+
+#include "filemodel.h"
+#include "ui_fileservicedialog.h"
+
+#include "plugin/busycursor.h"
+
+#include <host/hosttaskcontext.h>
+#include <remoteclient/driverconsolinterface.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QShortcut>
+
+namespace {
+
+constexpr int nameColumnWidth = 200;
+constexpr int timeColumnWidth = 160;
+
+const QString filePattern = QStringLiteral("*.*");
+
+} // namespace
+
+FileServiceDialog::FileServiceDialog(int location, int handle, HostTaskContext *host,
+                                     QWidget *parent)
+    : QDialog(parent)
+    , m_handle(handle)
+    , m_location(location)
+    , m_form(std::make_unique<Ui::FileServiceDialog>())
+    , m_model(new FileModel(this))
+{
+    QString place;
+    host->console->getLoc(m_location, m_handle, place);
+    const QString address = host->console->currentAddress();
+
+    setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
+    m_form->setupUi(this);
+    m_form->treeView->setModel(m_model);
+    m_form->treeView->setColumnWidth(0, nameColumnWidth);
+    m_form->treeView->setColumnWidth(1, timeColumnWidth);
+    m_controller.setLocation(address, m_location);
+    readDirectory();
+
+    connect(m_form->close, &QPushButton::released, this, &QDialog::reject);
+    connect(m_form->deleteFile, &QPushButton::released, this, &FileServiceDialog::deleteFile);
+    connect(m_form->upload, &QPushButton::released, this, &FileServiceDialog::upload);
+    connect(m_form->download, &QPushButton::released, this, &FileServiceDialog::download);
+    connect(m_form->refresh, &QPushButton::released, this, &FileServiceDialog::readDirectory);
+    connect(m_form->treeView, &QTreeView::clicked, this, &FileServiceDialog::checkFile);
+    connect(m_form->treeView, &QTreeView::doubleClicked, this, &FileServiceDialog::loadDirectory);
+    connect(m_form->findFile, &QToolButton::released, this, &FileServiceDialog::selectFile);
+
+    m_form->treeView->installEventFilter(this);
+    auto *refreshKey = new QShortcut(QKeySequence(Qt::Key_F5), this);
+    connect(refreshKey, &QShortcut::activated, this, &FileServiceDialog::readDirectory);
+}
+
+FileServiceDialog::~FileServiceDialog() = default;
+
+void FileServiceDialog::readDirectory()
+{
+    QList<MMSFileEntry> entries;
+    QString error;
+    const OperationResult result = request(
+        [&] {
+            return m_controller.getFileDirectory(m_handle, filePattern, m_directory, entries,
+                                                 error);
+        },
+        error);
+    if (result != OperationSucceeded) {
+        showFailure(tr("Fail to readDirectory: Cannot connect to driver"));
+        return;
+    }
+
+    if (!m_directory.isEmpty()) {
+        MMSFileEntry above;
+        above.name = QStringLiteral("..");
+        entries.prepend(above);
+    }
+    m_model->setEntries(entries);
+    m_form->download->setEnabled(false);
+    m_form->deleteFile->setEnabled(false);
+    m_form->directory->setText(m_directory);
+}
+
+void FileServiceDialog::loadDirectory(const QModelIndex &index)
+{
+    const MMSFileEntry entry = m_model->entry(index.row());
+    if (FileModel::isParentEntry(entry)) {
+        // The name of the directory itself goes, its separator included, and the separator before.
+        const int separator = m_directory.lastIndexOf(QLatin1Char('\\'));
+        if (separator >= 0)
+            m_directory.remove(separator, 1);
+        m_directory.truncate(qMax(0, m_directory.lastIndexOf(QLatin1Char('\\'))));
+        readDirectory();
+    } else if (FileModel::isDirectory(entry)) {
+        m_directory += entry.name;
+        readDirectory();
+    }
+}
+
+void FileServiceDialog::checkFile(const QModelIndex &index)
+{
+    const MMSFileEntry entry = m_model->entry(index.row());
+    const bool isFile = !FileModel::isParentEntry(entry) && !FileModel::isDirectory(entry);
+    m_form->download->setEnabled(isFile);
+    m_form->deleteFile->setEnabled(isFile);
+}
+
+void FileServiceDialog::selectFile()
+{
+    const QString file = QFileDialog::getOpenFileName(
+        this, tr("Select file"), QCoreApplication::applicationDirPath(), tr("All Files(*.*)"));
+    if (file.isEmpty())
+        return;
+    m_form->sourceFile->setText(file);
+    m_form->targetFile->setText(QFileInfo(file).fileName());
+}
+
+void FileServiceDialog::download()
+{
+    const std::optional<MMSFileEntry> entry = selectedEntry();
+    if (!entry)
+        return;
+    const QString localName =
+        askLocalFile(QCoreApplication::applicationDirPath() + QDir::separator() + entry->name);
+    if (localName.isEmpty())
+        return;
+
+    const QString fileName = m_directory + entry->name;
+    QByteArray content;
+    QString error;
+    const OperationResult result =
+        request([&] { return m_controller.getFile(m_handle, fileName, content, error); }, error);
+    if (result != OperationSucceeded) {
+        showFailure(tr("Fail to Read File: %1 error:%2").arg(fileName, error));
+        return;
+    }
+    QFile local(localName);
+    if (local.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        local.write(content);
+    local.close();
+    readDirectory();
+    QMessageBox::information(this, tr("Success"), tr("Download Finished"));
+}
+
+void FileServiceDialog::deleteFile()
+{
+    const std::optional<MMSFileEntry> entry = selectedEntry();
+    if (!entry)
+        return;
+    const QString fileName = m_directory + entry->name;
+    QString error;
+    const OperationResult result =
+        request([&] { return m_controller.deleteFile(m_handle, fileName, error); }, error);
+    if (result != OperationSucceeded) {
+        showFailure(tr("Fail to Delete %1 %2").arg(fileName, error));
+        return;
+    }
+    readDirectory();
+    QMessageBox::information(this, tr("Success"), tr("Delete Finished"));
+}
+
+void FileServiceDialog::upload()
+{
+    const QString source = m_form->sourceFile->text();
+    const QString target = m_directory + m_form->targetFile->text();
+    QString error;
+    const OperationResult result =
+        request([&] { return m_controller.writeFile(m_handle, source, target, error); }, error);
+    if (result != OperationSucceeded) {
+        showFailure(tr("Fail to Upload File: %1 error:%2").arg(source, error));
+        return;
+    }
+    readDirectory();
+    QMessageBox::information(nullptr, tr("Success"), tr("Upload Finished"));
+}
+
+bool FileServiceDialog::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_form->treeView && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        const QModelIndex current = m_form->treeView->currentIndex();
+        if ((key == Qt::Key_Return || key == Qt::Key_Enter) && current.isValid()) {
+            loadDirectory(current);
+            return true;
+        }
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+template <typename Call>
+OperationResult FileServiceDialog::request(Call call, QString &error)
+{
+    const BusyCursor busy;
+    const OperationResult result = call();
+    if (result == OperationDriverUnreachable)
+        error = tr("Cannot connect to driver");
+    return result;
+}
+
+void FileServiceDialog::showFailure(const QString &text)
+{
+    QMessageBox::warning(this, tr("Fail"), text, QMessageBox::Ok);
+}
+
+QString FileServiceDialog::askLocalFile(const QString &proposal)
+{
+    const QString caption = tr("Download File");
+    for (;;) {
+        QString name = QFileDialog::getSaveFileName(
+            this, caption, proposal, tr("All Files (*)"), nullptr,
+            QFileDialog::DontConfirmOverwrite | QFileDialog::HideNameFilterDetails);
+        if (name.isEmpty())
+            return {};
+        // The default suffix is empty, so only its point is added.
+        if (QFileInfo(name).suffix().isEmpty() && !name.endsWith(QLatin1Char('.')))
+            name += QLatin1Char('.');
+        if (!QFileInfo::exists(name))
+            return name;
+        const QMessageBox::StandardButton answer = QMessageBox::warning(
+            this, caption,
+            tr("%1 already exists.\nDo you want to replace it?").arg(QFileInfo(name).fileName()),
+            QMessageBox::Yes | QMessageBox::No);
+        if (answer == QMessageBox::Yes)
+            return name;
+    }
+}
+
+std::optional<MMSFileEntry> FileServiceDialog::selectedEntry() const
+{
+    const QModelIndexList rows = m_form->treeView->selectionModel()->selectedRows(0);
+    if (rows.isEmpty())
+        return std::nullopt;
+    return m_model->entry(rows.first().row());
+}
