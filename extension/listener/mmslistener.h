@@ -25,6 +25,9 @@ public:
     /// Stops the thread if it runs.
     ~MMSListener() override;
 
+    /// The same for the object's whole life.
+    QString eventBoxName() const { return m_eventBoxName; }
+
 protected:
     void run() override;
 

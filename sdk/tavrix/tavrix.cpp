@@ -3,6 +3,8 @@
 
 #include "inprocesseventboxes.h"
 
+#include <QtCore/QThreadStorage>
+
 #include <algorithm>
 #include <atomic>
 #include <cstring>
@@ -42,10 +44,12 @@ private:
     const Owner m_owner;
 };
 
+/// In Qt's thread storage, because QThread::wait() does not wait for the end of thread_local
+/// objects.
 Owner currentOwner()
 {
-    thread_local const OwnerGuard guard;
-    return guard.owner();
+    static auto *const guards = new QThreadStorage<OwnerGuard>;
+    return guards->localData().owner();
 }
 
 bool isText(const char *text, int maxLength)

@@ -16,7 +16,8 @@
 /// lives as long as the thread that created it. A box is persistent until SetPersistent() says
 /// otherwise.
 ///
-/// Life of a port: until DisconnectPort(), or until the thread that opened it ends. A listener
+/// Life of a port: until DisconnectPort(), or until the thread that opened it ends - before
+/// QThread::wait() or a join returns; for the main thread with the application object. A listener
 /// thread therefore leaves nothing behind, also when it never disconnects; a thread of a pool,
 /// which does not end with its task, has to. Any number of ports may be open on a box, and any
 /// number of threads may receive through one port while it is open.
