@@ -1,0 +1,333 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "propertyeditors.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QRegularExpression>
+#include <QtGui/QValidator>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QDateTimeEdit>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QToolTip>
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("PropertyEditor", text);
+}
+
+template <typename Number>
+QString rangeText()
+{
+    return translated(
+               QT_TRANSLATE_NOOP("PropertyEditor", "A whole number from %1 to %2 is needed."))
+        .arg(std::numeric_limits<Number>::min())
+        .arg(std::numeric_limits<Number>::max());
+}
+
+/// Integers are read as text, since the validators and spin boxes of the widget library end at 32
+/// bits.
+class IntegerValidator : public QValidator
+{
+public:
+    IntegerValidator(int type, QObject *parent)
+        : QValidator(parent)
+        , m_type(type)
+    {
+    }
+
+    /// Invalid for a text that is no number of the type.
+    QVariant number(const QString &text) const
+    {
+        bool ok = false;
+        QVariant number;
+        switch (m_type) {
+        case QMetaType::Int:
+            number = text.toInt(&ok);
+            break;
+        case QMetaType::UInt:
+            number = text.toUInt(&ok);
+            break;
+        case QMetaType::LongLong:
+            number = text.toLongLong(&ok);
+            break;
+        default:
+            number = text.toULongLong(&ok);
+            break;
+        }
+        return ok ? number : QVariant();
+    }
+
+    QString expectation() const
+    {
+        switch (m_type) {
+        case QMetaType::Int:
+            return rangeText<int>();
+        case QMetaType::UInt:
+            return rangeText<uint>();
+        case QMetaType::LongLong:
+            return rangeText<qlonglong>();
+        default:
+            return rangeText<qulonglong>();
+        }
+    }
+
+    State validate(QString &input, int &position) const override
+    {
+        trim(input, position);
+        static const QRegularExpression pattern(QStringLiteral("^[+-]?[0-9]*$"));
+        if (!pattern.match(input).hasMatch())
+            return Invalid;
+        const bool isSigned = m_type == QMetaType::Int || m_type == QMetaType::LongLong;
+        if (!isSigned && input.startsWith(QLatin1Char('-')))
+            return Invalid;
+        if (input.isEmpty() || !input.back().isDigit())
+            return Intermediate;
+        return number(input).isValid() ? Acceptable : Invalid;
+    }
+
+    static void trim(QString &input, int &position)
+    {
+        const QString trimmed = input.trimmed();
+        if (trimmed.size() == input.size())
+            return;
+        input = trimmed;
+        position = qMin(position, input.size());
+    }
+
+private:
+    int m_type;
+};
+
+class DoubleValidator : public QValidator
+{
+public:
+    using QValidator::QValidator;
+
+    static QVariant number(const QString &text)
+    {
+        bool ok = false;
+        const double number = text.toDouble(&ok);
+        return ok ? QVariant(number) : QVariant();
+    }
+
+    State validate(QString &input, int &position) const override
+    {
+        IntegerValidator::trim(input, position);
+        static const QRegularExpression number(
+            QStringLiteral("^[+-]?[0-9]*([.][0-9]*)?([eE][+-]?[0-9]*)?$"));
+        static const QRegularExpression word(QStringLiteral("^[+-]?(i|in|inf|n|na|nan)$"));
+        if (!number.match(input).hasMatch() && !word.match(input).hasMatch())
+            return Invalid;
+        return DoubleValidator::number(input).isValid() ? Acceptable : Intermediate;
+    }
+};
+
+class CharacterValidator : public QValidator
+{
+public:
+    using QValidator::QValidator;
+
+    State validate(QString &input, int &) const override
+    {
+        if (input.isEmpty())
+            return Intermediate;
+        return input.size() == 1 && !input.at(0).isSurrogate() ? Acceptable : Invalid;
+    }
+};
+
+class TextEditor : public QLineEdit, public PropertyEditor
+{
+public:
+    TextEditor(const QString &text, QWidget *parent)
+        : QLineEdit(text, parent)
+        , m_shownAtFirst(QLineEdit::text())
+    {
+        setFrame(false);
+        connect(this, &QLineEdit::inputRejected, this, [this] {
+            const QString sentence = expectation();
+            if (!sentence.isEmpty())
+                QToolTip::showText(mapToGlobal(QPoint(0, height())), sentence, this);
+        });
+    }
+
+    bool isModified() const override { return text() != m_shownAtFirst; }
+    QVariant value() const override { return text(); }
+
+private:
+    QString m_shownAtFirst;
+};
+
+class IntegerEditor : public TextEditor
+{
+public:
+    IntegerEditor(int type, const QString &text, QWidget *parent)
+        : TextEditor(text, parent)
+        , m_validator(new IntegerValidator(type, this))
+    {
+        setValidator(m_validator);
+    }
+
+    QVariant value() const override { return m_validator->number(text()); }
+    QString expectation() const override { return m_validator->expectation(); }
+
+private:
+    IntegerValidator *m_validator;
+};
+
+class DoubleEditor : public TextEditor
+{
+public:
+    DoubleEditor(const QString &text, QWidget *parent)
+        : TextEditor(text, parent)
+    {
+        setValidator(new DoubleValidator(this));
+    }
+
+    QVariant value() const override { return DoubleValidator::number(text()); }
+    QString expectation() const override
+    {
+        return translated(QT_TRANSLATE_NOOP(
+            "PropertyEditor", "A number with a decimal point is needed, such as 0.25 or 1e-3."));
+    }
+};
+
+class CharacterEditor : public TextEditor
+{
+public:
+    CharacterEditor(const QString &text, QWidget *parent)
+        : TextEditor(text, parent)
+    {
+        setValidator(new CharacterValidator(this));
+    }
+
+    QVariant value() const override { return text().isEmpty() ? QVariant() : text().at(0); }
+    QString expectation() const override
+    {
+        return translated(QT_TRANSLATE_NOOP("PropertyEditor", "One character is needed."));
+    }
+};
+
+class TruthEditor : public QCheckBox, public PropertyEditor
+{
+public:
+    TruthEditor(bool truth, QWidget *parent)
+        : QCheckBox(truthText(truth), parent)
+        , m_shownAtFirst(truth)
+    {
+        setChecked(truth);
+        setAutoFillBackground(true);
+        connect(this, &QCheckBox::toggled, this, [this](bool on) { setText(truthText(on)); });
+    }
+
+    bool isModified() const override { return isChecked() != m_shownAtFirst; }
+    QVariant value() const override { return isChecked(); }
+
+private:
+    bool m_shownAtFirst;
+};
+
+/// Shows date and time in UTC whatever the value's own zone, so that no wall-clock time is shifted
+/// or refused because of a change of summer time; the value keeps its zone.
+class MomentEditor : public QDateTimeEdit, public PropertyEditor
+{
+public:
+    MomentEditor(int type, const QVariant &value, QWidget *parent)
+        : QDateTimeEdit(parent)
+        , m_type(type)
+        , m_original(value)
+    {
+        setFrame(false);
+        setTimeSpec(Qt::UTC);
+        setDateTimeRange(QDateTime(QDate(100, 1, 1), QTime(0, 0), Qt::UTC),
+                         QDateTime(QDate(9999, 12, 31), QTime(23, 59, 59, 999), Qt::UTC));
+        setDisplayFormat(type == QMetaType::QDate   ? QStringLiteral("yyyy-MM-dd")
+                         : type == QMetaType::QTime ? QStringLiteral("HH:mm:ss.zzz")
+                                                    : QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz"));
+        setCalendarPopup(type == QMetaType::QDate);
+        const QDate date = value.toDate().isValid() ? value.toDate() : QDate(1970, 1, 1);
+        const QTime time = value.toTime().isValid() ? value.toTime() : QTime(0, 0);
+        setDateTime(QDateTime(date, time, Qt::UTC));
+        m_shownAtFirst = dateTime();
+    }
+
+    bool isModified() const override { return dateTime() != m_shownAtFirst; }
+    QVariant value() const override
+    {
+        if (m_type == QMetaType::QDate)
+            return date();
+        if (m_type == QMetaType::QTime)
+            return time();
+        QDateTime moment = m_original.toDateTime();
+        if (!moment.isValid())
+            moment = QDateTime(date(), time(), Qt::UTC);
+        moment.setDate(date());
+        moment.setTime(time());
+        return moment;
+    }
+
+private:
+    int m_type;
+    QVariant m_original;
+    QDateTime m_shownAtFirst;
+};
+
+} // namespace
+
+QString truthText(bool truth)
+{
+    return truth ? translated(QT_TRANSLATE_NOOP("PropertyEditor", "True"))
+                 : translated(QT_TRANSLATE_NOOP("PropertyEditor", "False"));
+}
+
+QString numberText(double number, bool single)
+{
+    if (single && std::abs(number) <= double(std::numeric_limits<float>::max())) {
+        const float rounded = static_cast<float>(number);
+        if (static_cast<double>(rounded) == number) {
+            for (int digits = 1; digits < std::numeric_limits<float>::max_digits10; ++digits) {
+                const QString text = QString::number(number, 'g', digits);
+                if (text.toFloat() == rounded)
+                    return text;
+            }
+            return QString::number(number, 'g', std::numeric_limits<float>::max_digits10);
+        }
+    }
+    return QString::number(number, 'g', QLocale::FloatingPointShortest);
+}
+
+PropertyEditor::~PropertyEditor() = default;
+
+QString PropertyEditor::expectation() const
+{
+    return QString();
+}
+
+QWidget *createPropertyEditor(int type, const QVariant &value, const QString &valueText,
+                              QWidget *parent)
+{
+    switch (type) {
+    case QMetaType::Bool:
+        return new TruthEditor(value.toBool(), parent);
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+        return new IntegerEditor(type, valueText, parent);
+    case QMetaType::Double:
+        return new DoubleEditor(valueText, parent);
+    case QMetaType::QString:
+        return new TextEditor(valueText, parent);
+    case QMetaType::QChar:
+        return new CharacterEditor(valueText, parent);
+    case QMetaType::QDate:
+    case QMetaType::QTime:
+    case QMetaType::QDateTime:
+        return new MomentEditor(type, value, parent);
+    default:
+        return nullptr;
+    }
+}
