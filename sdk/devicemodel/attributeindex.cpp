@@ -5,137 +5,186 @@
 
 #include <QtCore/QRandomGenerator>
 
+#include <algorithm>
 #include <cstring>
 #include <utility>
 
 namespace {
 
-constexpr std::size_t wordSize = sizeof(quint64);
-constexpr std::size_t headWords = 2; ///< attribute, then hash and key
-constexpr quint32 latin1Flag = 0x80000000U;
+constexpr std::size_t firstSlots = 64;
+constexpr std::size_t lengthUnits = sizeof(quint32) / sizeof(char16_t);
 
-quint32 hashOf(const QString &text, quint64 seed)
+// Attributes for which there are buckets: of four slots each, that leaves few of them overflowing.
+constexpr std::size_t attributesInBuckets = 8;
+constexpr std::size_t bucketsForThem = 3;
+
+std::size_t bytesOf(QStringView text)
 {
-    return TextHash::of(text.constData(), static_cast<std::size_t>(text.size()) * sizeof(QChar),
-                        seed);
+    return static_cast<std::size_t>(text.size()) * sizeof(QChar);
 }
 
-bool isLatin1(const QString &text)
+QStringView nodeOf(const QString &reference, int separator)
 {
-    ushort all = 0;
-    for (const QChar character : text)
-        all |= character.unicode();
-    return all <= 0xFF;
+    return separator < 0 ? QStringView(reference) : QStringView(reference).left(separator);
 }
 
-quint32 keyOf(const QString &text)
+QStringView pathOf(const QString &reference, int separator)
 {
-    return static_cast<quint32>(text.size()) | (isLatin1(text) ? latin1Flag : 0);
+    return separator < 0 ? QStringView() : QStringView(reference).mid(separator);
 }
 
-std::size_t textBytes(quint32 key)
+quint64 keyOf(quint32 node, quint32 path)
 {
-    const std::size_t length = key & ~latin1Flag;
-    return (key & latin1Flag) ? length : length * sizeof(QChar);
-}
-
-std::size_t entryWords(quint32 key)
-{
-    return headWords + (textBytes(key) + wordSize - 1) / wordSize;
-}
-
-void storeText(quint64 *words, const QString &text, quint32 key)
-{
-    if (!(key & latin1Flag)) {
-        std::memcpy(words, text.constData(), textBytes(key));
-        return;
-    }
-    auto *bytes = reinterpret_cast<uchar *>(words);
-    for (const QChar character : text)
-        *bytes++ = static_cast<uchar>(character.unicode());
-}
-
-bool textEquals(const quint64 *words, quint32 key, const QString &text)
-{
-    if (key & latin1Flag)
-        return text == QLatin1String(reinterpret_cast<const char *>(words), text.size());
-    return std::memcmp(words, text.constData(), textBytes(key)) == 0;
+    return (static_cast<quint64>(node) << 32) | path;
 }
 
 } // namespace
 
-AttributeIndex::AttributeIndex()
+TextNumbers::TextNumbers()
     : m_seed(QRandomGenerator::global()->generate64())
 {
 }
 
-void AttributeIndex::clear()
+void TextNumbers::clear()
 {
-    m_noted.clear();
-    m_starts.clear();
-    m_entries.clear();
+    m_slots = {};
+    m_texts = {};
+    m_used = 0;
 }
 
-std::size_t AttributeIndex::bucketOf(quint32 hash) const
+quint32 TextNumbers::add(QStringView text)
 {
-    const quint64 buckets = m_starts.size() - 1;
-    return static_cast<std::size_t>((hash * buckets) >> 32);
+    if (m_used * 2 >= m_slots.size())
+        grow();
+    const quint32 hash = hashOf(text);
+    Slot &slot = m_slots[slotOf(text, hash)];
+    if (slot.number == none) {
+        slot = {hash, static_cast<quint32>(m_texts.size())};
+        ++m_used;
+        const auto length = static_cast<quint32>(text.size());
+        const std::size_t start = m_texts.size() + lengthUnits;
+        m_texts.resize(start + length);
+        std::memcpy(m_texts.data() + slot.number, &length, sizeof length);
+        if (length > 0)
+            std::memcpy(m_texts.data() + start, text.data(), bytesOf(text));
+    }
+    return slot.number;
+}
+
+quint32 TextNumbers::find(QStringView text) const
+{
+    return m_slots.empty() ? none : m_slots[slotOf(text, hashOf(text))].number;
+}
+
+quint32 TextNumbers::hashOf(QStringView text) const
+{
+    return TextHash::of(text.data(), bytesOf(text), m_seed);
+}
+
+std::size_t TextNumbers::slotOf(QStringView text, quint32 hash) const
+{
+    const std::size_t mask = m_slots.size() - 1;
+    std::size_t position = hash & mask;
+    while (m_slots[position].number != none &&
+           !(m_slots[position].hash == hash && holds(m_slots[position].number, text)))
+        position = (position + 1) & mask;
+    return position;
+}
+
+bool TextNumbers::holds(quint32 number, QStringView text) const
+{
+    quint32 length;
+    std::memcpy(&length, m_texts.data() + number, sizeof length);
+    return length == static_cast<quint32>(text.size()) &&
+           (length == 0 ||
+            std::memcmp(m_texts.data() + number + lengthUnits, text.data(), bytesOf(text)) == 0);
+}
+
+void TextNumbers::grow()
+{
+    std::vector<Slot> larger(std::max(firstSlots, m_slots.size() * 2));
+    const std::size_t mask = larger.size() - 1;
+    for (const Slot &slot : m_slots) {
+        if (slot.number == none)
+            continue;
+        std::size_t position = slot.hash & mask;
+        while (larger[position].number != none)
+            position = (position + 1) & mask;
+        larger[position] = slot;
+    }
+    m_slots = std::move(larger);
+}
+
+void AttributeIndex::clear()
+{
+    m_nodes.clear();
+    m_paths.clear();
+    m_noted = {};
+    m_buckets = {};
 }
 
 void AttributeIndex::add(DataAttribute *attribute)
 {
     const QString &reference = attribute->reference;
-    if (!reference.isEmpty())
-        m_noted.push_back({attribute, hashOf(reference, m_seed), keyOf(reference)});
+    if (reference.isEmpty())
+        return;
+    const int separator = reference.indexOf(QLatin1Char('$'));
+    m_noted.push_back({attribute, keyOf(m_nodes.add(nodeOf(reference, separator)),
+                                        m_paths.add(pathOf(reference, separator)))});
 }
 
 void AttributeIndex::build()
 {
-    const std::vector<Noted> noted = std::move(m_noted);
-    clear();
-    if (noted.empty())
-        return;
+    m_buckets = std::vector<Bucket>(m_noted.size() * bucketsForThem / attributesInBuckets + 1);
+    for (const Noted &entry : m_noted)
+        insert(entry);
+    m_noted = {};
+}
 
-    m_starts.assign(noted.size() + 1, 0);
-    std::size_t words = 0;
-    for (const Noted &entry : noted) {
-        const std::size_t size = entryWords(entry.key);
-        m_starts[bucketOf(entry.hash) + 1] += static_cast<quint32>(size);
-        words += size;
+void AttributeIndex::insert(const Noted &entry)
+{
+    for (std::size_t position = bucketOf(entry.key);; position = bucketAfter(position)) {
+        Bucket &bucket = m_buckets[position];
+        for (std::size_t i = 0; i < bucketSize; ++i) {
+            if (!bucket.attributes[i]) {
+                bucket.keys[i] = entry.key;
+                bucket.attributes[i] = entry.attribute;
+                return;
+            }
+            if (bucket.keys[i] == entry.key)
+                return;
+        }
     }
-    for (std::size_t i = 1; i < m_starts.size(); ++i)
-        m_starts[i] += m_starts[i - 1];
-
-    // While entries are placed, a bucket's start is where its next entry goes; afterwards that is
-    // where the next bucket starts.
-    m_entries.resize(words);
-    for (const Noted &entry : noted) {
-        quint32 &position = m_starts[bucketOf(entry.hash)];
-        quint64 *target = m_entries.data() + position;
-        target[0] = reinterpret_cast<quintptr>(entry.attribute);
-        target[1] = (static_cast<quint64>(entry.hash) << 32) | entry.key;
-        storeText(target + headWords, entry.attribute->reference, entry.key);
-        position += static_cast<quint32>(entryWords(entry.key));
-    }
-    std::memmove(m_starts.data() + 1, m_starts.data(), noted.size() * sizeof m_starts[0]);
-    m_starts[0] = 0;
 }
 
 DataAttribute *AttributeIndex::find(const QString &reference) const
 {
-    if (m_starts.empty() || reference.isEmpty())
+    if (m_buckets.empty() || reference.isEmpty())
         return nullptr;
-    const quint32 hash = hashOf(reference, m_seed);
-    const std::size_t bucket = bucketOf(hash);
-    const quint64 *entry = m_entries.data() + m_starts[bucket];
-    const quint64 *const end = m_entries.data() + m_starts[bucket + 1];
-    while (entry != end) {
-        const quint32 key = static_cast<quint32>(entry[1]);
-        if (static_cast<quint32>(entry[1] >> 32) == hash &&
-            (key & ~latin1Flag) == static_cast<quint32>(reference.size()) &&
-            textEquals(entry + headWords, key, reference))
-            return reinterpret_cast<DataAttribute *>(static_cast<quintptr>(entry[0]));
-        entry += entryWords(key);
+    const int separator = reference.indexOf(QLatin1Char('$'));
+    const quint32 node = m_nodes.find(nodeOf(reference, separator));
+    const quint32 path = m_paths.find(pathOf(reference, separator));
+    if (node == TextNumbers::none || path == TextNumbers::none)
+        return nullptr;
+    const quint64 key = keyOf(node, path);
+    for (std::size_t position = bucketOf(key);; position = bucketAfter(position)) {
+        const Bucket &bucket = m_buckets[position];
+        // Gathered without a branch, since which slot it is cannot be predicted.
+        DataAttribute *found = nullptr;
+        for (std::size_t i = 0; i < bucketSize; ++i)
+            found = bucket.keys[i] == key ? bucket.attributes[i] : found;
+        if (found || !bucket.attributes.back())
+            return found;
     }
-    return nullptr;
+}
+
+std::size_t AttributeIndex::bucketOf(quint64 key) const
+{
+    const quint64 hash = TextHash::mixed(TextHash::mixed(key, 0), key) >> 32;
+    return static_cast<std::size_t>((hash * m_buckets.size()) >> 32);
+}
+
+std::size_t AttributeIndex::bucketAfter(std::size_t bucket) const
+{
+    return bucket + 1 < m_buckets.size() ? bucket + 1 : 0;
 }
