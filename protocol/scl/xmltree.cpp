@@ -716,10 +716,13 @@ std::string XmlTree::pathOf(std::uint32_t element) const
                 }
             }
             if (e.tag == Tag::Fcda && find(*it, Attr::DaName))
-                key += "." + std::string(value(*it, Attr::DaName));
+                key.append(1, '.').append(value(*it, Attr::DaName));
         }
-        if (!key.empty())
-            path += "[" + key + "]";
+        if (!key.empty()) {
+            path += '[';
+            path += key;
+            path += ']';
+        }
     }
     return path;
 }
