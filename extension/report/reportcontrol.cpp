@@ -22,6 +22,13 @@ void showDeviceText(QLabel *label, const QString &text)
     label->setToolTip(text.toHtmlEscaped());
 }
 
+/// A text in an editor, its beginning in sight.
+void showText(QLineEdit *editor, const QString &text)
+{
+    editor->setText(text);
+    editor->home(false);
+}
+
 } // namespace
 
 ReportControl::ReportControl(int deviceNo, int /*unused*/, IEC61850ControllerInterface *controller,
@@ -146,6 +153,7 @@ void ReportControl::updateBlock(const ReportBlock &block)
     showDeviceText(m_form->rptIdClient, block.clientRptId);
     showDeviceText(m_form->dataSetClient, block.clientDataSet);
     m_form->dataSet->setCurrentIndex(m_form->dataSet->findText(block.datSet));
+    m_form->dataSet->lineEdit()->home(false);
 
     showTriggerOptions(ReportCodec::decodeTriggerOptions(block.trgOps));
     const bool buffered = m_rptName.contains(bufferedMark);
@@ -162,7 +170,7 @@ void ReportControl::updateBlock(const ReportBlock &block)
     m_form->useConfigurationRevision->setChecked(fields.configurationRevision);
 
     m_form->reserved->setChecked(block.resv);
-    m_form->name->setText(block.rptId);
+    showText(m_form->name, block.rptId);
     m_form->confRevision->setValue(block.confRev);
     m_form->periodSec->setValue(block.intgPd);
     m_form->bufferTime->setValue(block.bufTm);
@@ -185,7 +193,7 @@ void ReportControl::updateOffline(const stReportControlBlock &block)
     }
 
     showDeviceText(m_form->rptIdClient, block.rptId);
-    m_form->dataSet->setEditText(block.datSet);
+    showText(m_form->dataSet->lineEdit(), block.datSet);
 
     m_form->useDataChange->setChecked(block.dataChange);
     m_form->useQualityChange->setChecked(block.qualityChange);
@@ -201,7 +209,7 @@ void ReportControl::updateOffline(const stReportControlBlock &block)
     m_form->useDataReference->setChecked(block.dataReference);
     m_form->useConfigurationRevision->setChecked(block.configurationRevision);
 
-    m_form->name->setText(block.rptId);
+    showText(m_form->name, block.rptId);
     m_form->confRevision->setValue(block.confRev);
     m_form->periodSec->setValue(block.intgPd);
     m_form->bufferTime->setValue(block.bufTm);

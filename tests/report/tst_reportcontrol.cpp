@@ -210,6 +210,7 @@ private slots:
     void aDialogWithoutABlockTakesEveryButton();
     void methodsWithoutEffectMakeNoCall();
     void textsOfTheDeviceAreShownLiterally();
+    void aLongTextOfTheDeviceIsWholeInItsToolTip();
 
 private:
     std::unique_ptr<ReportControl> opened(const QString &rptName = bufferedName);
@@ -1144,6 +1145,17 @@ void tst_ReportControl::textsOfTheDeviceAreShownLiterally()
         QCOMPARE(find<QLabel>(*dialog, label)->textFormat(), Qt::PlainText);
         QVERIFY(!find<QLabel>(*dialog, label)->toolTip().contains(QLatin1Char('<')));
     }
+}
+
+void tst_ReportControl::aLongTextOfTheDeviceIsWholeInItsToolTip()
+{
+    const int usualWidth = opened()->width();
+    m_service->reportBlock.clientRptId = QString(129, QLatin1Char('W'));
+    const auto dialog = opened();
+    const auto *const label = find<QLabel>(*dialog, "rptIdClient");
+    QCOMPARE(label->toolTip(), m_service->reportBlock.clientRptId);
+    QVERIFY(label->fontMetrics().horizontalAdvance(label->text()) > label->width());
+    QVERIFY(dialog->width() <= usualWidth + label->maximumWidth());
 }
 
 QTEST_MAIN(tst_ReportControl)
