@@ -119,6 +119,55 @@ IEDNode *elementNamed(const IEDNode *node, const QString &name)
     return array ? childNamed(array, name) : nullptr;
 }
 
+/// The nodes of attributes without sub-attributes are also added to `leaves`.
+void addAttribute(DAO *dao, IEDNode *parentNode, QVector<IEDNode *> &leaves)
+{
+    auto *const node = new IEDNode(dao, parentNode);
+    if (dao->children.isEmpty()) {
+        if (dao->attribute)
+            leaves.append(node);
+        return;
+    }
+    node->children.reserve(dao->children.size());
+    for (DAO *const child : qAsConst(dao->children))
+        addAttribute(child, node, leaves);
+}
+
+void addDataSet(DataSet *dataSet, IEDNode *parentNode)
+{
+    auto *const node = new IEDNode(dataSet, parentNode);
+    node->children.reserve(dataSet->members.size());
+    for (DataSetMember *const member : qAsConst(dataSet->members))
+        new IEDNode(member, node);
+}
+
+void addLogicalNode(LogicalNode *logicalNode, IEDNode *parentNode, QVector<IEDNode *> &leaves)
+{
+    auto *const node = new IEDNode(logicalNode, parentNode);
+    const bool hasSettingGroups =
+        logicalNode->lnClass == QLatin1String("LLN0") && logicalNode->settingGroup;
+    node->children.reserve(logicalNode->dataObjects.size() + (hasSettingGroups ? 3 : 2));
+    if (hasSettingGroups)
+        new IEDNode(logicalNode->settingGroup, node);
+
+    auto *const dataSets = new IEDNode(logicalNode->dataSetGroup, node);
+    dataSets->children.reserve(logicalNode->dataSetGroup->dataSets.size());
+    for (DataSet *const dataSet : qAsConst(logicalNode->dataSetGroup->dataSets))
+        addDataSet(dataSet, dataSets);
+
+    auto *const reports = new IEDNode(logicalNode->reportControls, node);
+    reports->children.reserve(logicalNode->reportControls->blocks.size());
+    for (ReportControlBlock *const block : qAsConst(logicalNode->reportControls->blocks))
+        new IEDNode(block, reports);
+
+    for (DataObject *const dataObject : qAsConst(logicalNode->dataObjects)) {
+        auto *const dataObjectNode = new IEDNode(dataObject, node);
+        dataObjectNode->children.reserve(dataObject->attributes.size());
+        for (DAO *const dao : qAsConst(dataObject->attributes))
+            addAttribute(dao, dataObjectNode, leaves);
+    }
+}
+
 } // namespace
 
 IEDModel::IEDModel(const SclTemplateStore *templates, QObject *parent)
@@ -413,71 +462,25 @@ void IEDModel::buildTree()
 {
     if (!m_device)
         return;
+    QVector<IEDNode *> leaves;
     m_root = new IEDNode(m_device);
     m_root->children.reserve(m_device->logicalDevices.size() + m_device->dataSets.size());
     for (LogicalDevice *const logicalDevice : qAsConst(m_device->logicalDevices)) {
         auto *const node = new IEDNode(logicalDevice, m_root);
         node->children.reserve(logicalDevice->logicalNodes.size());
         for (LogicalNode *const logicalNode : qAsConst(logicalDevice->logicalNodes))
-            addLogicalNode(logicalNode, node);
+            addLogicalNode(logicalNode, node, leaves);
     }
     for (DataSet *const dataSet : qAsConst(m_device->dataSets))
         addDataSet(dataSet, m_root);
+    m_attributeIndex = AttributeNodes(leaves);
 }
 
 void IEDModel::deleteTree()
 {
     delete m_root;
     m_root = nullptr;
-    m_attributeIndex.clear();
-}
-
-void IEDModel::addLogicalNode(LogicalNode *logicalNode, IEDNode *parentNode)
-{
-    auto *const node = new IEDNode(logicalNode, parentNode);
-    const bool hasSettingGroups =
-        logicalNode->lnClass == QLatin1String("LLN0") && logicalNode->settingGroup;
-    node->children.reserve(logicalNode->dataObjects.size() + (hasSettingGroups ? 3 : 2));
-    if (hasSettingGroups)
-        new IEDNode(logicalNode->settingGroup, node);
-
-    auto *const dataSets = new IEDNode(logicalNode->dataSetGroup, node);
-    dataSets->children.reserve(logicalNode->dataSetGroup->dataSets.size());
-    for (DataSet *const dataSet : qAsConst(logicalNode->dataSetGroup->dataSets))
-        addDataSet(dataSet, dataSets);
-
-    auto *const reports = new IEDNode(logicalNode->reportControls, node);
-    reports->children.reserve(logicalNode->reportControls->blocks.size());
-    for (ReportControlBlock *const block : qAsConst(logicalNode->reportControls->blocks))
-        new IEDNode(block, reports);
-
-    for (DataObject *const dataObject : qAsConst(logicalNode->dataObjects)) {
-        auto *const dataObjectNode = new IEDNode(dataObject, node);
-        dataObjectNode->children.reserve(dataObject->attributes.size());
-        for (DAO *const dao : qAsConst(dataObject->attributes))
-            addAttribute(dao, dataObjectNode);
-    }
-}
-
-void IEDModel::addDataSet(DataSet *dataSet, IEDNode *parentNode)
-{
-    auto *const node = new IEDNode(dataSet, parentNode);
-    node->children.reserve(dataSet->members.size());
-    for (DataSetMember *const member : qAsConst(dataSet->members))
-        new IEDNode(member, node);
-}
-
-void IEDModel::addAttribute(DAO *dao, IEDNode *parentNode)
-{
-    auto *const node = new IEDNode(dao, parentNode);
-    if (dao->children.isEmpty()) {
-        if (dao->attribute)
-            m_attributeIndex.insert(dao->attribute, node);
-        return;
-    }
-    node->children.reserve(dao->children.size());
-    for (DAO *const child : qAsConst(dao->children))
-        addAttribute(child, node);
+    m_attributeIndex = AttributeNodes();
 }
 
 QVariant IEDModel::text(const IEDNode *node, int column) const

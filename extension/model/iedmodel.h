@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "attributenodes.h"
 #include "iednode.h"
 
 #include <QtCore/QAbstractItemModel>
@@ -70,7 +71,7 @@ public:
     static QString logicalNodeName(const IEDNode *node);
 
     /// The nodes that show an attribute without sub-attributes.
-    const QHash<DataAttribute *, IEDNode *> &attributeIndex() const { return m_attributeIndex; }
+    const AttributeNodes &attributeIndex() const { return m_attributeIndex; }
 
     /// Under an invalid parent every row is the root; its node is null before a device is set.
     QModelIndex index(int row, int column,
@@ -102,16 +103,13 @@ signals:
 private:
     void buildTree();
     void deleteTree();
-    void addLogicalNode(LogicalNode *logicalNode, IEDNode *parentNode);
-    void addDataSet(DataSet *dataSet, IEDNode *parentNode);
-    void addAttribute(DAO *dao, IEDNode *parentNode);
     QVariant text(const IEDNode *node, int column) const;
     QIcon icon(const IEDNode *node) const;
 
     IEDNode *m_root = nullptr;
     PhysicalDevice *m_device = nullptr;
     const SclTemplateStore *m_templates;
-    QHash<DataAttribute *, IEDNode *> m_attributeIndex;
+    AttributeNodes m_attributeIndex;
     quint64 m_deviceCount =
         0; ///< how many devices have been set, so that an edit notices a new one
     const QIcon m_deviceIcon;

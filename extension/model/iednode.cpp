@@ -3,6 +3,86 @@
 
 #include <devicemodel/physicaldevice.h>
 
+#include <memory>
+#include <vector>
+
+namespace {
+
+/// Room for the nodes of all trees; given back to the heap when the last node goes.
+class NodePool
+{
+public:
+    void *take()
+    {
+        if (!m_free)
+            addSlab();
+        Cell *const cell = m_free;
+        m_free = cell->nextFree;
+        ++m_used;
+        return cell;
+    }
+
+    void give(void *node) noexcept
+    {
+        Cell *const cell = static_cast<Cell *>(node);
+        cell->nextFree = m_free;
+        m_free = cell;
+        if (--m_used == 0) {
+            m_slabs.clear();
+            m_free = nullptr;
+        }
+    }
+
+private:
+    union Cell {
+        Cell *nextFree;
+        alignas(IEDNode) unsigned char node[sizeof(IEDNode)];
+    };
+    static constexpr std::size_t slabSize = 1024;
+
+    void addSlab()
+    {
+        m_slabs.emplace_back(new Cell[slabSize]);
+        for (std::size_t i = slabSize; i > 0; --i) {
+            Cell *const cell = &m_slabs.back()[i - 1];
+            cell->nextFree = m_free;
+            m_free = cell;
+        }
+    }
+
+    std::vector<std::unique_ptr<Cell[]>> m_slabs;
+    Cell *m_free = nullptr;
+    std::size_t m_used = 0;
+};
+
+NodePool nodePool;
+
+} // namespace
+
+// The address sanitizer can watch a node only as a heap block of its own.
+#if defined(__SANITIZE_ADDRESS__)
+void *IEDNode::operator new(std::size_t size)
+{
+    return ::operator new(size);
+}
+
+void IEDNode::operator delete(void *node) noexcept
+{
+    ::operator delete(node);
+}
+#else
+void *IEDNode::operator new(std::size_t)
+{
+    return nodePool.take();
+}
+
+void IEDNode::operator delete(void *node) noexcept
+{
+    if (node)
+        nodePool.give(node);
+}
+#endif
+
 IEDNode::IEDNode(IEDNodeType nodeType, void *shownObject, IEDNode *parentNode)
     : type(nodeType)
     , row(parentNode ? parentNode->children.size() : 0)

@@ -4,6 +4,8 @@
 #include <QtCore/QList>
 #include <QtCore/QString>
 
+#include <cstddef>
+
 struct DAO;
 struct DataAttribute;
 struct DataObject;
@@ -37,7 +39,7 @@ enum IEDNodeType : quint32 {
 /// The kind follows from the object given at construction. A node owns its children, not the
 /// object. Each accessor answers null for a node of another kind, so that a caller need not test
 /// the kind first. Valid until the model is reset. GUI thread.
-struct IEDNode
+struct IEDNode final
 {
     /// A node below `parentNode`, appended to its children; without one, the root.
     explicit IEDNode(PhysicalDevice *device);
@@ -76,6 +78,11 @@ struct IEDNode
     /// Name of the object, without marks for the operator such as "(Deletable)"; a member's is its
     /// reference text.
     QString name() const;
+
+    /// A tree has more nodes than its device has values: they are kept without the bookkeeping of a
+    /// heap block each.
+    static void *operator new(std::size_t size);
+    static void operator delete(void *node) noexcept;
 
     const IEDNodeType type;
     const qint32 row; ///< position among the parent's children; 0 for the root
