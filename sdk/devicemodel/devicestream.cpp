@@ -288,6 +288,9 @@ public:
         writeList(device.dataSets, &DeviceWriter::writeDataSet);
         m_out << device.offline;
         writeEnumTypes(device.enumTypes);
+        // Not before the end: a stream takes no more bytes once its status is bad.
+        if (m_leftOut)
+            m_out.setStatus(QDataStream::WriteFailed);
     }
 
 private:
@@ -329,7 +332,7 @@ private:
     {
         if (!nodes.isEmpty() && depth > deepestNesting) {
             m_out << quint32(0);
-            m_out.setStatus(QDataStream::WriteFailed);
+            m_leftOut = true;
             return;
         }
         m_out << static_cast<quint32>(nodes.size());
@@ -382,6 +385,7 @@ private:
     }
 
     QDataStream &m_out;
+    bool m_leftOut = false;
 };
 
 } // namespace
