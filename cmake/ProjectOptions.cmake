@@ -70,6 +70,8 @@ function(project_add_test name)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests/bin)
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
     target_link_libraries(${name} PRIVATE ${arg_LINK})
+    # Expectations read better as plain literals.
+    target_compile_options(${name} PRIVATE -UQT_NO_CAST_FROM_ASCII)
     if(arg_GTEST)
         target_link_libraries(${name} PRIVATE GTest::gtest GTest::gtest_main)
     else()

@@ -2,14 +2,21 @@
 #include "iedmodelview.h"
 
 #include "nodereferences.h"
+#include "treeviewstate.h"
 #include "ui_iedmodelview.h"
 
+#include "control/controlco.h"
+#include "dataset/datasetselectwidget.h"
 #include "listener/mmslistener.h"
 #include "model/iedmodel.h"
 #include "model/iedmodeldelegate.h"
+#include "model/streportcontrolblock.h"
 #include "plugin/busycursor.h"
 #include "plugin/failurereport.h"
+#include "report/reportcontrol.h"
 #include "settinggroup/offlinesgcb.h"
+#include "settinggroup/selectfcdialog.h"
+#include "settinggroup/sgcbdialog.h"
 
 #include <host/hosttaskcontext.h>
 #include <remoteclient/driverconsolinterface.h>
@@ -18,6 +25,9 @@
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QMenu>
+
+#include <algorithm>
+#include <functional>
 
 namespace {
 
@@ -256,19 +266,125 @@ void IEDModelView::writeValue(const QModelIndex &index, const QVariant &value)
     });
 }
 
-void IEDModelView::readData() {}
+void IEDModelView::readData()
+{
+    const IEDNode *node = currentNode();
+    if (!node)
+        return;
+
+    if (const DataSet *dataSet = node->dataSet()) {
+        const bool heldByNode = dataSet->state == 0;
+        const QString ldName = heldByNode ? IEDModel::logicalDeviceName(node) : QString();
+        const QString reference = heldByNode ? nodeDataSetReference(node) : dataSet->name;
+        request([&](QString &error) {
+            return m_controller.readDataSetValue(m_deviceNo, ldName, reference, error);
+        });
+        return;
+    }
+
+    QStringList references;
+    if (const LogicalNode *logicalNode = node->logicalNode()) {
+        SelectFCDialog picker(this);
+        picker.setFCList(logicalNode->posibleFC());
+        if (picker.exec() != QDialog::Accepted)
+            return;
+        references << logicalNode->name + QLatin1Char('$') + picker.selectedFC();
+    } else if (node->type == DataObjectNode || node->type == DataAttributeNode) {
+        references = variableReferences(node);
+    } else {
+        return;
+    }
+    const QString ldName = IEDModel::logicalDeviceName(node);
+    request([&](QString &error) {
+        return m_controller.readVariable(m_deviceNo, ldName, references, error);
+    });
+}
 
 void IEDModelView::writeData() {}
 
-void IEDModelView::selectCo() {}
+void IEDModelView::selectCo()
+{
+    control(&IEC61850ControllerInterface::selectObject, {4}, ControlCheck::Offered);
+}
 
-void IEDModelView::operateCo() {}
+void IEDModelView::operateCo()
+{
+    control(&IEC61850ControllerInterface::controlObject, {1, 2, 3}, ControlCheck::Offered);
+}
 
-void IEDModelView::openReport() {}
+void IEDModelView::openReport()
+{
+    IEDNode *node = currentNode();
+    ReportControlBlock *block = node ? node->reportControl() : nullptr;
+    if (!block)
+        return;
+    if (m_offline) {
+        ReportControl dialog(offlineReportBlock(*block), this);
+        dialog.exec();
+        return;
+    }
 
-void IEDModelView::readSGCB() {}
+    QStringList dataSetNames;
+    if (const LogicalNode *logicalNode = node->parent->parent->logicalNode()) {
+        for (const DataSet *dataSet : logicalNode->dataSetGroup->dataSets)
+            dataSetNames << dataSet->name;
+    }
+    ReportControl dialog(m_deviceNo, 0, &m_controller, this);
+    dialog.setReportName(IEDModel::logicalDeviceName(node), block->reference, dataSetNames);
+    if (!dialog.init())
+        return;
+    dialog.exec();
+    block->enabled = dialog.reportEnabled();
+    m_form->modelView->update(m_model->indexOf(node));
+}
 
-void IEDModelView::cancelCo() {}
+void IEDModelView::readSGCB()
+{
+    const IEDNode *node = currentNode();
+    if (!node)
+        return;
+    const QString ldName = IEDModel::logicalDeviceName(node);
+    QList<NameVaildValue> blocks;
+    request([&](QString &error) {
+        return m_controller.getSGCBBlock(m_deviceNo, ldName, blocks, error);
+    });
+}
+
+void IEDModelView::cancelCo()
+{
+    control(&IEC61850ControllerInterface::cancelObject, {2}, ControlCheck::Locked);
+}
+
+void IEDModelView::control(ControlOperation operation, std::initializer_list<quint8> modelsAsking,
+                           ControlCheck check)
+{
+    const IEDNode *node = currentNode();
+    const DataObject *dataObject = node ? node->dataObject() : nullptr;
+    if (!dataObject)
+        return;
+
+    const quint8 ctlModel = controlModel(*dataObject);
+    ControlBlock block;
+    if (std::find(modelsAsking.begin(), modelsAsking.end(), ctlModel) != modelsAsking.end()) {
+        ControlCo dialog(node, &m_templates, m_templates.entries(QStringLiteral("Check")),
+                         m_templates.entries(QStringLiteral("orCat")),
+                         check == ControlCheck::Locked, this);
+        if (dialog.exec() != QDialog::Accepted)
+            return;
+        block = dialog.getControlBlock();
+    }
+    block.objectReference =
+        QStringLiteral("%1$CO$%2").arg(IEDModel::logicalNodeName(node), dataObject->name);
+    block.controlModel = ctlModel;
+
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    block.toStream(stream);
+    const QString ldName = IEDModel::logicalDeviceName(node);
+    request([&](QString &error) {
+        return (m_controller.*operation)(m_deviceNo, ldName, block.objectReference, bytes, error);
+    });
+}
 
 void IEDModelView::expandChild()
 {
@@ -288,11 +404,17 @@ void IEDModelView::openSGCB()
 {
     const IEDNode *node = currentNode();
     const SettingGroupControl *settingGroup = node ? node->settingGroup() : nullptr;
-    if (!settingGroup || !m_offline)
+    if (!settingGroup)
         return;
-    OfflineSGCB dialog(nullptr);
-    dialog.setValues(settingGroup->numOfSG, settingGroup->activeGroup);
-    dialog.exec();
+    if (m_offline) {
+        OfflineSGCB dialog(nullptr);
+        dialog.setValues(settingGroup->numOfSG, settingGroup->activeGroup);
+        dialog.exec();
+        return;
+    }
+    SGCBDialog dialog(&m_controller, this);
+    if (dialog.initSGCB(m_deviceNo, IEDModel::logicalDeviceName(node)))
+        dialog.exec();
 }
 
 void IEDModelView::collapseChild()
@@ -324,9 +446,57 @@ void IEDModelView::locate()
                                                        QItemSelectionModel::Rows);
 }
 
-void IEDModelView::createDataSet() {}
+void IEDModelView::createDataSet()
+{
+    IEDNode *node = currentNode();
+    if (!node)
+        return;
+    const bool nonPersistent = sender() == m_createNonPersistentDataSetAction;
+    if (!nonPersistent && node->type != DataSetGroupNode)
+        return;
 
-void IEDModelView::deleteDataSet() {}
+    DatasetSelectWidget picker(this);
+    picker.setDevice(&m_device);
+    if (picker.exec() != QDialog::Accepted)
+        return;
+
+    const QString name = picker.dataSetName();
+    const QStringList members = picker.members();
+    const QString ldName = IEDModel::logicalDeviceName(node);
+    const QString reference =
+        nonPersistent ? name : IEDModel::logicalNodeName(node) + QLatin1Char('$') + name;
+    const bool created = request([&](QString &error) {
+        return m_controller.createDataSet(m_deviceNo, ldName, reference,
+                                          members.join(QLatin1Char(';')), nonPersistent ? 1 : 0,
+                                          error);
+    });
+    if (!created)
+        return;
+    const TreeViewState state(*m_form->modelView);
+    const IEDNode *parentNode = nonPersistent ? IEDModel::rootNode(node) : node;
+    m_model->insertDataSet(parentNode, name, members);
+    m_attributeIndex = m_model->attributeIndex();
+    state.restore(*m_form->modelView);
+}
+
+void IEDModelView::deleteDataSet()
+{
+    const IEDNode *node = currentNode();
+    const DataSet *dataSet = node ? node->dataSet() : nullptr;
+    if (!dataSet)
+        return;
+    const QString ldName = IEDModel::logicalDeviceName(node);
+    const QString reference = dataSet->state == 0 ? nodeDataSetReference(node) : dataSet->name;
+    const bool deleted = request([&](QString &error) {
+        return m_controller.deleteDataSet(m_deviceNo, ldName, reference, error);
+    });
+    if (!deleted)
+        return;
+    const TreeViewState state(*m_form->modelView);
+    m_model->removeDataSet(node);
+    m_attributeIndex = m_model->attributeIndex();
+    state.restore(*m_form->modelView);
+}
 
 void IEDModelView::checkDoubleclick(const QModelIndex & /*index*/)
 {
@@ -339,19 +509,96 @@ void IEDModelView::checkDoubleclick(const QModelIndex & /*index*/)
         openSGCB();
 }
 
-void IEDModelView::readDataSetList() {}
+void IEDModelView::readDataSetList()
+{
+    const IEDNode *node = currentNode();
+    if (!node)
+        return;
+    const QString ldName = IEDModel::logicalDeviceName(node);
+    QList<NameVaildValue> dataSets;
+    request([&](QString &error) {
+        return m_controller.getDataSetList(m_deviceNo, ldName, dataSets, error);
+    });
+}
 
-void IEDModelView::readDataSetDirectory() {}
+void IEDModelView::readDataSetDirectory()
+{
+    const IEDNode *node = currentNode();
+    if (!node)
+        return;
+    const DataSet *dataSet = node->dataSet();
+    const QString ldName = IEDModel::logicalDeviceName(node);
+    const QString reference =
+        dataSet && dataSet->state == 0 ? nodeDataSetReference(node) : QString();
+    QList<NameVaildValue> members;
+    request([&](QString &error) {
+        return m_controller.getDataSetDirectory(m_deviceNo, ldName, reference, members, error);
+    });
+}
 
-void IEDModelView::readXRCB() {}
+void IEDModelView::readXRCB()
+{
+    const IEDNode *node = currentNode();
+    const LogicalNode *logicalNode = node && node->parent ? node->parent->logicalNode() : nullptr;
+    if (!logicalNode)
+        return;
+    const QString ldName = IEDModel::logicalDeviceName(node);
+    const QString kind = sender() == m_bufferedReportsAction ? bufferedKind : unbufferedKind;
+    QList<NameVaildValue> blocks;
+    request([&](QString &error) {
+        return m_controller.getXRCB(m_deviceNo, ldName, logicalNode->name, kind, blocks, error);
+    });
+}
 
-void IEDModelView::readServerDirectory() {}
+void IEDModelView::readServerDirectory()
+{
+    if (!currentNode())
+        return;
+    QList<NameVaildValue> logicalDevices;
+    request([&](QString &error) {
+        return m_controller.getServerDirectory(m_deviceNo, logicalDevices, error);
+    });
+}
 
-void IEDModelView::readLogicalDevice() {}
+void IEDModelView::readLogicalDevice()
+{
+    const IEDNode *node = currentNode();
+    const LogicalDevice *logicalDevice = node ? node->logicalDevice() : nullptr;
+    if (!logicalDevice)
+        return;
+    QList<NameVaildValue> logicalNodes;
+    request([&](QString &error) {
+        return m_controller.getLogicalDeviceDirectory(m_deviceNo, logicalDevice->name, logicalNodes,
+                                                      error);
+    });
+}
 
-void IEDModelView::readLogicalNode() {}
+void IEDModelView::readLogicalNode()
+{
+    const IEDNode *node = currentNode();
+    const LogicalNode *logicalNode = node ? node->logicalNode() : nullptr;
+    if (!logicalNode)
+        return;
+    const QString ldName = IEDModel::logicalDeviceName(node);
+    QList<NameVaildValue> names;
+    request([&](QString &error) {
+        return m_controller.getLogicalNodeDirectory(m_deviceNo, ldName, logicalNode->name, names,
+                                                    error);
+    });
+}
 
-void IEDModelView::readDataDirectory() {}
+void IEDModelView::readDataDirectory()
+{
+    const IEDNode *node = currentNode();
+    if (!node)
+        return;
+    const QString ldName = IEDModel::logicalDeviceName(node);
+    const QString reference = variableReferences(node).join(QLatin1Char(';'));
+    QList<NameVaildValue> names;
+    request([&](QString &error) {
+        return m_controller.getDataDirectory(m_deviceNo, ldName, reference, names, error);
+    });
+}
 
 void IEDModelView::createActions()
 {

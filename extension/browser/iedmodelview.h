@@ -10,6 +10,7 @@
 #include <QtCore/QHash>
 #include <QtWidgets/QDialog>
 
+#include <initializer_list>
 #include <memory>
 
 class IEDModel;
@@ -74,9 +75,19 @@ public slots:
     void readDataDirectory();
 
 private:
+    using ControlOperation = OperationResult (IEC61850ControllerInterface::*)(
+        long deviceNo, const QString &ldName, const QString &objectReference,
+        const QByteArray &controlBlock, QString &error);
+    enum class ControlCheck { Offered, Locked };
+
     void createActions();
     QAction *createAction(const QString &text, void (IEDModelView::*slot)());
     void addControlEntries(QMenu *menu);
+
+    /// Send a control service for the current data object; the operator is asked for the request
+    /// when the object's control model is one of `modelsAsking`, otherwise the record is empty.
+    void control(ControlOperation operation, std::initializer_list<quint8> modelsAsking,
+                 ControlCheck check);
     IEDNode *currentNode() const;
     FailureTexts failureTexts() const;
 

@@ -2,6 +2,8 @@
 #include "iec61850taskextention.h"
 
 #include "browser/iedmodelview.h"
+#include "report/reportcontrol.h"
+#include "fileservice/fileservicedialog.h"
 
 #include <devicemodel/mmsvalue.h>
 #include <host/hosttaskcontext.h>
@@ -88,7 +90,11 @@ bool IEC61850TaskExtention::supportsProtocol(int protocolType)
     return protocolType == iec61850Protocol;
 }
 
-void IEC61850TaskExtention::openFileService() {}
+void IEC61850TaskExtention::openFileService()
+{
+    FileServiceDialog dialog(m_driverNo, m_deviceNo, m_hostContext, nullptr);
+    dialog.exec();
+}
 
 void IEC61850TaskExtention::openIEDView()
 {
@@ -102,7 +108,13 @@ void IEC61850TaskExtention::openIEDView()
     view->show();
 }
 
-void IEC61850TaskExtention::openReportService() {}
+void IEC61850TaskExtention::openReportService()
+{
+    IEC61850ControllerInterface controller;
+    controller.setLocation(m_hostContext->console->currentAddress(), m_driverNo);
+    ReportControl dialog(m_deviceNo, m_taskParameter, &controller, nullptr);
+    dialog.exec();
+}
 
 void IEC61850TaskExtention::abort()
 {

@@ -67,15 +67,15 @@ void addReportControl(LogicalNode *logicalNode, const char *name, const char *ty
     auto *block = new ReportControlBlock;
     block->name = QLatin1String(name);
     block->type = QLatin1String(type);
-    block->reference = logicalNode->name + QLatin1Char('$') + block->type + QLatin1Char('$')
-                       + block->name;
+    block->reference =
+        logicalNode->name + QLatin1Char('$') + block->type + QLatin1Char('$') + block->name;
     block->rptId = QStringLiteral("Bay/") + block->name;
     block->dataSet = QStringLiteral("Positions");
     block->confRev = 3;
     logicalNode->reportControls->blocks << block;
 }
 
-}  // namespace
+} // namespace
 
 std::unique_ptr<PhysicalDevice> makeBay()
 {
@@ -90,11 +90,12 @@ std::unique_ptr<PhysicalDevice> makeBay()
     lln0->settingGroup->name = QStringLiteral("SGCB");
     lln0->settingGroup->numOfSG = 4;
     lln0->settingGroup->activeGroup = 2;
-    lln0->dataSetGroup->dataSets
-        << makeDataSet("Positions", 0,
-                       {QStringLiteral("BAYCTRL/XCBR1$ST$Pos$stVal"),
-                        QStringLiteral("BAYCTRL/NOWHERE$ST$Pos")})
-        << makeDataSet("Measurements", 0, {QStringLiteral("BAYCTRL/MMXU1$MX$A$phsA$cVal$mag$f")});
+    lln0->dataSetGroup->dataSets << makeDataSet("Positions", 0,
+                                                {QStringLiteral("BAYCTRL/XCBR1$ST$Pos$stVal"),
+                                                 QStringLiteral("BAYCTRL/NOWHERE$ST$Pos")})
+                                 << makeDataSet(
+                                        "Measurements", 0,
+                                        {QStringLiteral("BAYCTRL/MMXU1$MX$A$phsA$cVal$mag$f")});
     addReportControl(lln0, "brcb01", "BR");
     addReportControl(lln0, "urcb01", "RP");
 
@@ -113,8 +114,8 @@ std::unique_ptr<PhysicalDevice> makeBay()
     DAO *phsA = addSubObject(current->attributes, "phsA", "CMV");
     const QString phsAPath = QStringLiteral("BAYCTRL/MMXU1.A.phsA");
     DAO *cVal = addAttribute(phsA->children, phsAPath, "cVal", "MX", "Struct");
-    DAO *mag = addAttribute(cVal->children, phsAPath + QStringLiteral(".cVal"), "mag", "MX",
-                            "Struct");
+    DAO *mag =
+        addAttribute(cVal->children, phsAPath + QStringLiteral(".cVal"), "mag", "MX", "Struct");
     addAttribute(mag->children, phsAPath + QStringLiteral(".cVal.mag"), "f", "MX", "FLOAT32",
                  12.5F);
     addAttribute(phsA->children, phsAPath, "db", "CF", "INT32U", 100U);

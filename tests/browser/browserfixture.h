@@ -19,7 +19,7 @@ public:
     OperationResult getLoc(long driverNo, long deviceNo, QString &location) override;
 
     QString address = QStringLiteral("browser-test");
-    QList<QPair<long, long>> asked;  ///< driver and device of each getLoc()
+    QList<QPair<long, long>> asked; ///< driver and device of each getLoc()
 };
 
 /// A small bay: breaker, measurements and general I/O under one logical device "BAYCTRL", with data
