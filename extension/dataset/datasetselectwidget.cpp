@@ -108,7 +108,6 @@ DatasetSelectWidget::~DatasetSelectWidget() = default;
 
 void DatasetSelectWidget::setDevice(const PhysicalDevice *device)
 {
-    disconnectItemChange();
     QList<QTreeWidgetItem *> logicalDevices;
     for (const LogicalDevice *logicalDevice : device->logicalDevices) {
         QTreeWidgetItem *deviceItem = addPlainItem(nullptr, logicalDevice->name);
@@ -119,7 +118,6 @@ void DatasetSelectWidget::setDevice(const PhysicalDevice *device)
     m_form->treeWidget->addTopLevelItems(logicalDevices);
     for (QTreeWidgetItem *item : qAsConst(logicalDevices))
         item->setExpanded(true);
-    connectItemChange();
 }
 
 QString DatasetSelectWidget::dataSetName() const

@@ -94,8 +94,10 @@ QVariant FileModel::headerData(int section, Qt::Orientation orientation, int rol
     }
 }
 
-Qt::ItemFlags FileModel::flags(const QModelIndex & /*index*/) const
+Qt::ItemFlags FileModel::flags(const QModelIndex &index) const
 {
+    if (!index.isValid())
+        return Qt::NoItemFlags;
     return Qt::ItemIsSelectable | Qt::ItemIsEnabled;
 }
 

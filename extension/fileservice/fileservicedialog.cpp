@@ -43,6 +43,12 @@ FileServiceDialog::FileServiceDialog(int location, int handle, HostTaskContext *
     m_form->treeView->setModel(m_model);
     m_form->treeView->setColumnWidth(0, nameColumnWidth);
     m_form->treeView->setColumnWidth(1, timeColumnWidth);
+    // The edits of the two rows begin below one another.
+    const int labelWidth =
+        qMax(m_form->label->sizeHint().width(), m_form->label_2->sizeHint().width());
+    m_form->label->setMinimumWidth(labelWidth);
+    m_form->label_2->setMinimumWidth(labelWidth);
+    m_form->treeView->setFocus();
     m_controller.setLocation(address, m_location);
     readDirectory();
 
@@ -64,43 +70,23 @@ FileServiceDialog::~FileServiceDialog() = default;
 
 void FileServiceDialog::readDirectory()
 {
-    QList<MMSFileEntry> entries;
-    QString error;
-    const OperationResult result = request(
-        [&] {
-            return m_controller.getFileDirectory(m_handle, filePattern, m_directory, entries,
-                                                 error);
-        },
-        error);
-    if (result != OperationSucceeded) {
-        showFailure(tr("Fail to readDirectory: Cannot connect to driver"));
-        return;
-    }
-
-    if (!m_directory.isEmpty()) {
-        MMSFileEntry above;
-        above.name = QStringLiteral("..");
-        entries.prepend(above);
-    }
-    m_model->setEntries(entries);
-    m_form->download->setEnabled(false);
-    m_form->deleteFile->setEnabled(false);
-    m_form->directory->setText(m_directory);
+    showDirectory(m_directory);
 }
 
 void FileServiceDialog::loadDirectory(const QModelIndex &index)
 {
     const MMSFileEntry entry = m_model->entry(index.row());
     if (FileModel::isParentEntry(entry)) {
-        // The name of the directory itself goes, its separator included, and the separator before.
-        const int separator = m_directory.lastIndexOf(QLatin1Char('\\'));
+        // A directory's name may hold its separator at either end, so the last one counts as the
+        // name's own and the cut is made at the one before it.
+        QString above = m_directory;
+        const int separator = above.lastIndexOf(QLatin1Char('\\'));
         if (separator >= 0)
-            m_directory.remove(separator, 1);
-        m_directory.truncate(qMax(0, m_directory.lastIndexOf(QLatin1Char('\\'))));
-        readDirectory();
+            above.remove(separator, 1);
+        above.truncate(qMax(0, above.lastIndexOf(QLatin1Char('\\'))));
+        showDirectory(above);
     } else if (FileModel::isDirectory(entry)) {
-        m_directory += entry.name;
-        readDirectory();
+        showDirectory(m_directory + entry.name);
     }
 }
 
@@ -187,11 +173,41 @@ bool FileServiceDialog::eventFilter(QObject *watched, QEvent *event)
         const int key = static_cast<QKeyEvent *>(event)->key();
         const QModelIndex current = m_form->treeView->currentIndex();
         if ((key == Qt::Key_Return || key == Qt::Key_Enter) && current.isValid()) {
+            checkFile(current);
             loadDirectory(current);
             return true;
         }
+        if (key == Qt::Key_Space && current.isValid())
+            checkFile(current);
     }
     return QDialog::eventFilter(watched, event);
+}
+
+void FileServiceDialog::showDirectory(const QString &directory)
+{
+    QList<MMSFileEntry> entries;
+    QString error;
+    const OperationResult result = request(
+        [&] {
+            return m_controller.getFileDirectory(m_handle, filePattern, directory, entries, error);
+        },
+        error);
+    if (result != OperationSucceeded) {
+        showFailure(tr("Fail to readDirectory: Cannot connect to driver"));
+        return;
+    }
+
+    // Only now: names in the list must never be joined to the path of another directory.
+    m_directory = directory;
+    if (!m_directory.isEmpty()) {
+        MMSFileEntry above;
+        above.name = QStringLiteral("..");
+        entries.prepend(above);
+    }
+    m_model->setEntries(entries);
+    m_form->download->setEnabled(false);
+    m_form->deleteFile->setEnabled(false);
+    m_form->directory->setText(m_directory);
 }
 
 template <typename Call>

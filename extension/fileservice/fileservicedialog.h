@@ -39,10 +39,12 @@ public slots:
     void upload();
 
 protected:
-    /// Enter on a directory opens it, as a double click does.
+    /// Keys in the list: Space is a click on the current row, Enter a double click.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    /// List `directory` and make it the current one; a failure is told and changes nothing.
+    void showDirectory(const QString &directory);
     template <typename Call>
     OperationResult request(Call call, QString &error);
     void showFailure(const QString &text);
