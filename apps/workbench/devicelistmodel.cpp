@@ -106,7 +106,7 @@ QVariant DeviceListModel::data(const QModelIndex &index, int role) const
     const QString &file = device.record.file;
 
     if (role == Qt::TextAlignmentRole && index.column() == NumberColumn)
-        return int(Qt::AlignRight | Qt::AlignVCenter);
+        return int(Qt::AlignCenter);
     if (role == Qt::DecorationRole && index.column() == NameColumn) {
         return QApplication::style()->standardIcon(device.state == Failed
                                                        ? QStyle::SP_MessageBoxWarning
@@ -156,7 +156,7 @@ QVariant DeviceListModel::headerData(int section, Qt::Orientation orientation, i
     if (orientation != Qt::Horizontal)
         return {};
     if (role == Qt::TextAlignmentRole) {
-        return section == NumberColumn ? int(Qt::AlignRight | Qt::AlignVCenter)
+        return section == NumberColumn ? int(Qt::AlignCenter)
                                        : int(Qt::AlignLeft | Qt::AlignVCenter);
     }
     if (role != Qt::DisplayRole)

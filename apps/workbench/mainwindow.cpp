@@ -69,8 +69,8 @@ void MainWindow::setUpViews()
     QTreeView *devices = m_ui->deviceView;
     devices->setModel(&m_workbench.devices());
     devices->header()->resizeSection(DeviceListModel::NameColumn, 200);
-    devices->header()->resizeSection(DeviceListModel::NumberColumn, 50);
-    devices->header()->resizeSection(DeviceListModel::SourceColumn, 300);
+    devices->header()->resizeSection(DeviceListModel::NumberColumn, 60);
+    devices->header()->resizeSection(DeviceListModel::SourceColumn, 280);
     connect(devices->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &MainWindow::showSelection);
     connect(devices, &QTreeView::activated, this, [this] {
@@ -121,7 +121,8 @@ void MainWindow::setUpViews()
             journal->scrollToBottom();
     });
 
-    resizeDocks({m_ui->findingsDock, m_ui->journalDock}, {190, 190}, Qt::Vertical);
+    splitDockWidget(m_ui->findingsDock, m_ui->journalDock, Qt::Vertical);
+    resizeDocks({m_ui->findingsDock, m_ui->journalDock}, {180, 180}, Qt::Vertical);
 }
 
 void MainWindow::setUpActions()
@@ -159,6 +160,7 @@ void MainWindow::setUpProgress()
 {
     m_progressText = new QLabel(this);
     m_progress = new QProgressBar(this);
+    m_progress->setObjectName(QStringLiteral("loadingProgress"));
     m_progress->setRange(0, progressRange);
     m_progress->setMaximumWidth(240);
     m_cancel = new QToolButton(this);
@@ -350,7 +352,7 @@ void MainWindow::showFailures(const QStringList &sentences)
 {
     constexpr int longestList = 8;
     QStringList shown = sentences.mid(0, longestList);
-    if (const int more = sentences.size() - shown.size(); more > 0)
+    if (const auto more = sentences.size() - shown.size(); more > 0)
         shown << tr("%1 more files cannot be used.").arg(more);
     auto *box = new QMessageBox(QMessageBox::Warning, tr("Open SCL File"),
                                 shown.join(QStringLiteral("\n\n")), QMessageBox::Ok, this);

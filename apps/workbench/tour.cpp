@@ -7,8 +7,10 @@
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QDir>
 #include <QtCore/QEventLoop>
+#include <QtCore/QFile>
 #include <QtCore/QTimer>
 #include <QtGui/QMouseEvent>
+#include <QtGui/QPainter>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
@@ -141,40 +143,52 @@ bool Tour::run()
         return fail(Texts::tr("The plug-in \"%1\" is not available: %2")
                         .arg(m_window.extension().file, m_window.extension().reason));
     }
-    return openDevices() && showBrowser() && showOfflineSettingGroups() && showWorkbench();
+    return openDevices() && showBrowser() && showOfflineSettingGroups()
+           && showOfflineReportControl() && showFileService() && showWorkbench();
 }
 
 bool Tour::openDevices()
 {
     m_window.show();
+    const QString unfinished = m_files.filePath(QStringLiteral("unfinished.icd"));
+    QFile::copy(QStringLiteral(":/workbench/unfinished.icd"), unfinished);
+    m_workbench.open(unfinished);
     m_workbench.openDemonstration();
     if (!waitFor([this] { return !m_workbench.loader().isBusy(); }))
         return fail(Texts::tr("The demonstration device was not read in time."));
-    const DeviceListModel::Device *device = m_workbench.devices().device(m_window.selectedDevice());
-    if (!device || device->state != DeviceListModel::Ready)
+    m_device = m_window.selectedDevice();
+    const DeviceListModel::Device *device = m_workbench.devices().device(m_device);
+    if (!device || device->record.file != Workbench::demonstrationFile
+        || device->state != DeviceListModel::Ready) {
         return fail(Texts::tr("The demonstration device cannot be read."));
+    }
     return true;
 }
 
-bool Tour::triggerTool(int position, const QString &tool)
+/// The tool's action; null, and the tour has failed, when the plug-in does not offer it.
+QAction *Tour::tool(int position)
 {
     const QList<QAction *> actions = m_window.extensionActions();
-    if (position >= actions.size() || !actions[position]->isEnabled())
-        return fail(Texts::tr("The plug-in offers no tool for the %1.").arg(tool));
-
-    QString surprise;
-    const ModalAttendant attendant([&](QWidget *modal) { surprise = describe(modal); });
-    actions[position]->trigger();
-    if (!surprise.isEmpty())
-        return fail(Texts::tr("Instead of the %1 came %2.").arg(tool, surprise));
-    return true;
+    if (position < actions.size() && actions[position]->isEnabled())
+        return actions[position];
+    fail(Texts::tr("The plug-in offers no tool number %1 for the demonstration device.")
+             .arg(position + 1));
+    return nullptr;
 }
 
 bool Tour::showBrowser()
 {
     const QString name = QStringLiteral("IEDModelView");
-    if (!triggerTool(0, Texts::tr("IED browser")))
+    QAction *action = tool(0);
+    if (!action)
         return false;
+    QString surprise;
+    {
+        const ModalAttendant attendant([&](QWidget *modal) { surprise = describe(modal); });
+        action->trigger();
+    }
+    if (!surprise.isEmpty())
+        return fail(Texts::tr("Instead of the IED browser came %1.").arg(surprise));
     if (!waitFor([&] { return visibleWindow(name) != nullptr; }))
         return fail(Texts::tr("The IED browser did not appear."));
     QWidget *browser = visibleWindow(name);
@@ -210,43 +224,84 @@ bool Tour::showOfflineSettingGroups()
 {
     const QAbstractItemModel &model = *m_tree->model();
     const QModelIndex root = model.index(0, 0);
+    const QString dialog = QStringLiteral("OfflineSGCB");
     for (int ld = 0; ld < model.rowCount(root); ++ld) {
-        const QModelIndex device = model.index(ld, 0, root);
-        const QModelIndex lln0 = findNode(model, device, typeColumn, QStringLiteral("LLN0"));
+        const QModelIndex lln0 =
+            findNode(model, model.index(ld, 0, root), typeColumn, QStringLiteral("LLN0"));
         // The setting group control block comes first where a logical device has one.
-        if (lln0.isValid()
-            && doubleClick(model.index(0, 0, lln0), QStringLiteral("OfflineSGCB"),
-                           QStringLiteral("offline-setting-groups"))) {
+        const QModelIndex first = lln0.isValid() ? model.index(0, 0, lln0) : QModelIndex();
+        if (first.isValid()
+            && showDialog([&] { doubleClick(first); }, dialog,
+                          QStringLiteral("offline-setting-groups"))) {
             return true;
         }
         if (!m_problem.isEmpty())
             return false;
     }
-    return fail(Texts::tr("The offline setting group dialog did not appear."));
+    return fail(Texts::tr("The window \"%1\" did not appear.").arg(dialog));
+}
+
+bool Tour::showOfflineReportControl()
+{
+    const QAbstractItemModel &model = *m_tree->model();
+    const QString dialog = QStringLiteral("ReportControl");
+    const QModelIndex list = findNode(model, model.index(0, 0), 0, dialog);
+    const QModelIndex block = list.isValid() ? model.index(0, 0, list) : QModelIndex();
+    if (block.isValid()
+        && showDialog([&] { doubleClick(block); }, dialog,
+                      QStringLiteral("offline-report-control"))) {
+        return true;
+    }
+    return fail(Texts::tr("The window \"%1\" did not appear.").arg(dialog));
+}
+
+bool Tour::showFileService()
+{
+    QAction *action = tool(1);
+    if (!action)
+        return false;
+    const QString dialog = QStringLiteral("FileServiceDialog");
+    return showDialog([&] { action->trigger(); }, dialog, QStringLiteral("file-service"))
+           || fail(Texts::tr("The window \"%1\" did not appear.").arg(dialog));
 }
 
 bool Tour::showWorkbench()
 {
     m_tree->window()->close();
+    const DeviceListModel &devices = m_workbench.devices();
+    for (int row = 0; row < devices.rowCount(); ++row) {
+        if (devices.deviceAt(row)->record.number != m_device)
+            m_window.selectDevice(devices.deviceAt(row)->record.number);
+    }
     m_window.raise();
     m_window.activateWindow();
+    const auto &journal = m_workbench.journal();
+    if (!waitFor([&] { return journal.rowCount() > 0; }))
+        return fail(Texts::tr("The journal stayed empty."));
     return save(&m_window, QStringLiteral("workbench"));
 }
 
-/// True when the double-click opened the dialog and its picture was saved.
-bool Tour::doubleClick(const QModelIndex &index, const QString &dialogName, const QString &picture)
+/// True when `open` brought the modal dialog up and its picture was saved. Messages that come
+/// before the dialog are closed: a device without a connection refuses most of what a tool asks.
+bool Tour::showDialog(const std::function<void()> &open, const QString &dialogName,
+                      const QString &picture)
 {
-    expandUpTo(*m_tree, index.parent());
-    m_tree->setCurrentIndex(index);
-    m_tree->scrollTo(index);
-
     bool saved = false;
     const ModalAttendant attendant([&](QWidget *modal) {
         if (modal->objectName() == dialogName)
             saved = save(modal, picture);
-        else
-            fail(Texts::tr("Instead of the picture \"%1\" came %2.").arg(picture, describe(modal)));
+        else if (!qobject_cast<QMessageBox *>(modal))
+            fail(Texts::tr("Instead of \"%1\" came %2.").arg(dialogName, describe(modal)));
     });
+    open();
+    return saved;
+}
+
+void Tour::doubleClick(const QModelIndex &index)
+{
+    expandUpTo(*m_tree, index.parent());
+    m_tree->setCurrentIndex(index);
+    m_tree->scrollTo(index);
     const QPointF position = m_tree->visualRect(index).center();
     const QPointF global = m_tree->viewport()->mapToGlobal(position.toPoint());
     for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
@@ -256,14 +311,22 @@ bool Tour::doubleClick(const QModelIndex &index, const QString &dialogName, cons
                           Qt::NoModifier);
         QApplication::sendEvent(m_tree->viewport(), &event);
     }
-    return saved;
 }
 
 bool Tour::save(QWidget *widget, const QString &picture)
 {
     const QString file = QDir(m_folder).filePath(picture + QStringLiteral(".png"));
     QApplication::processEvents();
-    if (!widget->grab().save(file))
+    QPixmap pixmap = widget->grab();
+    if (widget->isModal()) {
+        // A dialog is shown on a piece of the desktop, since its own edges cannot be seen.
+        constexpr int border = 24;
+        QPixmap framed(pixmap.size() + QSize(2 * border, 2 * border));
+        framed.fill(widget->palette().color(QPalette::Dark));
+        QPainter(&framed).drawPixmap(border, border, pixmap);
+        pixmap = framed;
+    }
+    if (!pixmap.save(file))
         return fail(Texts::tr("The picture \"%1\" cannot be saved.").arg(file));
     return true;
 }

@@ -2,8 +2,12 @@
 #pragma once
 
 #include <QtCore/QString>
+#include <QtCore/QTemporaryDir>
+
+#include <functional>
 
 class MainWindow;
+class QAction;
 class QModelIndex;
 class QTreeView;
 class QWidget;
@@ -28,17 +32,23 @@ private:
     bool openDevices();
     bool showBrowser();
     bool showOfflineSettingGroups();
+    bool showOfflineReportControl();
+    bool showFileService();
     bool showWorkbench();
 
-    bool triggerTool(int position, const QString &tool);
+    QAction *tool(int position);
     void arrangeBrowser();
-    bool doubleClick(const QModelIndex &index, const QString &dialogName, const QString &picture);
+    bool showDialog(const std::function<void()> &open, const QString &dialogName,
+                    const QString &picture);
+    void doubleClick(const QModelIndex &index);
     bool save(QWidget *widget, const QString &picture);
     bool fail(const QString &sentence);
 
     Workbench &m_workbench;
     MainWindow &m_window;
     const QString m_folder;
+    const QTemporaryDir m_files; ///< holds an SCL file of the tour's own
+    int m_device = 0;            ///< number of the demonstration device
     QTreeView *m_tree = nullptr; ///< of the browser; lives as long as its window is open
     QString m_problem;
 };

@@ -3,7 +3,6 @@
 
 #include <remoteclient/driverserviceregistry.h>
 
-#include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QLocale>
 
@@ -109,7 +108,7 @@ void Workbench::takeOpened(const ImportRequest &request, const ImportResult &res
         return;
     case ImportResult::Failed:
         m_failures << tr("\"%1\" cannot be used: %2")
-                          .arg(QDir::toNativeSeparators(request.file), result.error);
+                          .arg(QFileInfo(request.file).fileName(), result.error);
         return;
     case ImportResult::ChoiceNeeded:
         emit choiceNeeded(request.file, result.ieds);
