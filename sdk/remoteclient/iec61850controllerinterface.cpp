@@ -14,15 +14,25 @@
 namespace {
 
 constexpr int longestBytesShown = 16;
+constexpr int longestTextShown = 120;
+
+/// One line, whatever the text holds.
+QString cut(const QString &text)
+{
+    const QString line = text.left(longestTextShown + 1).simplified();
+    if (text.size() <= longestTextShown)
+        return line;
+    return line.left(longestTextShown) + QStringLiteral("… %1 characters").arg(text.size());
+}
 
 QString shortText(const QString &text)
 {
-    return QLatin1Char('"') + text + QLatin1Char('"');
+    return QLatin1Char('"') + cut(text) + QLatin1Char('"');
 }
 
 QString shortText(const QStringList &texts)
 {
-    return QLatin1Char('[') + texts.join(QLatin1String(", ")) + QLatin1Char(']');
+    return QLatin1Char('[') + cut(texts.join(QLatin1String(", "))) + QLatin1Char(']');
 }
 
 QString shortText(const QByteArray &bytes)
@@ -82,6 +92,8 @@ OperationResult IEC61850ControllerInterface::perform(Method method, const char *
                                                      long deviceNo, QString &error,
                                                      Arguments &...arguments)
 {
+    // What an earlier call left there is no error of this one.
+    error.clear();
     ControllerCall call;
     call.started = QDateTime::currentDateTime();
     QElapsedTimer timer;
@@ -96,6 +108,7 @@ OperationResult IEC61850ControllerInterface::perform(Method method, const char *
         call.result = OperationDriverUnreachable;
         error = QStringLiteral("No driver answers at \"") + m_address + QLatin1Char('"');
     }
+    call.duration = std::chrono::microseconds(timer.nsecsElapsed() / 1000);
 
     if (ControllerCallObserver *observer = ControllerCallObserver::installed()) {
         QStringList texts;
@@ -106,7 +119,6 @@ OperationResult IEC61850ControllerInterface::perform(Method method, const char *
         call.operation = QString::fromLatin1(operation);
         call.arguments = texts.join(QLatin1String(", "));
         call.error = error;
-        call.duration = std::chrono::microseconds(timer.nsecsElapsed() / 1000);
         observer->controllerCalled(call);
     }
     return call.result;

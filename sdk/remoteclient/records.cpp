@@ -8,7 +8,13 @@ SGCB::~SGCB() = default;
 void ControlBlock::toStream(QDataStream &stream) const
 {
     const int version = stream.version();
+    const QDataStream::ByteOrder byteOrder = stream.byteOrder();
+    const QDataStream::FloatingPointPrecision precision = stream.floatingPointPrecision();
     stream.setVersion(QDataStream::Qt_5_12);
+    stream.setByteOrder(QDataStream::BigEndian);
+    stream.setFloatingPointPrecision(QDataStream::DoublePrecision);
     stream << objectReference << controlValue << orCat << check << test << controlModel;
     stream.setVersion(version);
+    stream.setByteOrder(byteOrder);
+    stream.setFloatingPointPrecision(precision);
 }

@@ -28,8 +28,8 @@ struct REMOTECLIENT_EXPORT ControlBlock
     quint8 test = 0;         ///< 0 or 1
     quint8 controlModel = 0; ///< the object's ctlModel
 
-    /// Write the six fields in order, QDataStream version Qt_5_12; the stream's own version is put
-    /// back afterwards.
+    /// Write the six fields in order, QDataStream version Qt_5_12, big endian and with double
+    /// precision; the stream's own settings are put back afterwards.
     void toStream(QDataStream &stream) const;
 };
 

@@ -16,7 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const quint8 *data, std::size_t size);
 namespace {
 
 constexpr int mutatedInputs = 20000;
-constexpr int longestReadingMs = 10000;
+constexpr qint64 longestReadingMs = 5000; // of one input of a few kilobytes, on a busy machine
 
 QByteArray smallDevice(int leafAttributes = 60)
 {
@@ -70,9 +70,6 @@ class tst_DeviceStreamRobustness : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { m_time.start(); }
-    void cleanup() { QVERIFY(m_time.elapsed() < longestReadingMs * 10); }
-
     void aStreamCutAtAnyByteLeavesADestroyableDevice()
     {
         const QByteArray bytes = smallDevice(12);
@@ -246,8 +243,7 @@ private slots:
         const QList<QByteArray> seeds{smallDevice(5), smallDevice(60),
                                       deviceBytes(PhysicalDevice())};
         std::mt19937 random(20240229);
-        QElapsedTimer timer;
-        timer.start();
+        qint64 longest = 0;
         for (int i = 0; i < mutatedInputs; ++i) {
             QByteArray bytes = seeds.at(i % seeds.size());
             const auto below = [&random](int limit) {
@@ -261,13 +257,13 @@ private slots:
                 bytes.truncate(below(bytes.size()));
             if (below(4) == 0 && bytes.size() > 8)
                 bytes.replace(below(bytes.size() - 4), 4, number(static_cast<quint32>(random())));
+            QElapsedTimer timer;
+            timer.start();
             readAny(bytes);
+            longest = qMax(longest, timer.elapsed());
         }
-        QVERIFY(timer.elapsed() < longestReadingMs * 10);
+        QVERIFY2(longest < longestReadingMs, QByteArray::number(longest));
     }
-
-private:
-    QElapsedTimer m_time;
 };
 
 QTEST_APPLESS_MAIN(tst_DeviceStreamRobustness)
