@@ -2,6 +2,7 @@
 #include "iedmodelview.h"
 
 #include "nodereferences.h"
+#include "treefinder.h"
 #include "treeviewstate.h"
 #include "ui_iedmodelview.h"
 
@@ -87,6 +88,9 @@ IEDModelView::IEDModelView(int driverNo, int deviceNo, int /*taskParameter*/,
     m_delegate = new IEDModelDelegate(&m_templates, this);
     view->setItemDelegate(m_delegate);
     view->setColumnWidth(valueColumn, valueColumnWidth);
+
+    auto *finder = new TreeFinder(view, this);
+    m_form->horizontalLayout->insertWidget(0, finder);
 
     connect(view, &QTreeView::expanded, this, &IEDModelView::slotExpanded);
     connect(view, &QTreeView::doubleClicked, this, &IEDModelView::checkDoubleclick);

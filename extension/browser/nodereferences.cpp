@@ -4,23 +4,52 @@
 #include "model/iedmodel.h"
 
 #include <devicemodel/dataobject.h>
+#include <devicemodel/reportcontrol.h>
 #include <devicemodel/dataset.h>
 
 namespace {
 
-/// The node's path from its data object down, components joined by "$".
-QString pathFromDataObject(const IEDNode *node)
+/// The node's path from its data object down.
+QString pathFromDataObject(const IEDNode *node, QChar separator)
 {
     QString path = node->name();
     for (const IEDNode *above = node->parent; above; above = above->parent) {
         if (above->type != DataAttributeNode && above->type != DataObjectNode)
             break;
-        path.prepend(above->name() + QLatin1Char('$'));
+        path.prepend(above->name() + separator);
     }
     return path;
 }
 
 } // namespace
+
+QString fullReference(const IEDNode *node)
+{
+    if (const DataAttribute *attribute = node->dataAttribute())
+        return attribute->reference;
+
+    const QString logicalDevice = IEDModel::logicalDeviceName(node);
+    const QString logicalNode = IEDModel::logicalNodeName(node);
+    const QString inLogicalNode = logicalDevice + QLatin1Char('/') + logicalNode;
+    switch (node->type) {
+    case LogicalNodeNode:
+        return logicalDevice + QLatin1Char('/') + node->name();
+    case DataObjectNode:
+    case DataAttributeNode:
+        return inLogicalNode + QLatin1Char('.') + pathFromDataObject(node, QLatin1Char('.'));
+    case DataSetNode:
+        return logicalNode.isEmpty() ? node->name()
+                                     : inLogicalNode + QLatin1Char('$') + node->name();
+    case ReportControlNode:
+        return logicalDevice + QLatin1Char('/') + node->reportControl()->reference;
+    case PhysicalDeviceNode:
+    case LogicalDeviceNode:
+    case DataSetMemberNode:
+        return node->name();
+    default:
+        return inLogicalNode + QLatin1Char('$') + node->name();
+    }
+}
 
 QStringList variableReferences(const IEDNode *node)
 {
@@ -33,7 +62,7 @@ QStringList variableReferences(const IEDNode *node)
         constraints = dao->possibleFC();
 
     const QString logicalNode = IEDModel::logicalNodeName(node);
-    const QString path = pathFromDataObject(node);
+    const QString path = pathFromDataObject(node, QLatin1Char('$'));
     QStringList references;
     for (const QString &constraint : constraints)
         references << QStringLiteral("%1$%2$%3").arg(logicalNode, constraint, path);

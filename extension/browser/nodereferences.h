@@ -6,8 +6,13 @@
 
 struct IEDNode;
 
-/// The texts by which the browser's services name a node to the driver. All of them leave out the
-/// logical device, which the services pass on its own.
+/// The texts by which the browser names a node. Those for the driver leave out the logical device,
+/// which the services pass on its own.
+
+/// The node's full reference, for the operator: that of an attribute or member as it is, of a data
+/// object or sub data object in the form logical device "/" logical node "." data object, and so on
+/// up to the plain name of the device.
+QString fullReference(const IEDNode *node);
 
 /// References of the node for a read: the single reference of an attribute, otherwise one per
 /// functional constraint of a data object, sub data object or array. Empty for any other kind.

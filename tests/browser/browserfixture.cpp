@@ -148,6 +148,8 @@ BrowserFixture::BrowserFixture(std::unique_ptr<PhysicalDevice> shownDevice)
     : device(std::move(shownDevice))
     , m_registration(console.address, service)
 {
+    // As the plug-in does when it is initialised.
+    qRegisterMetaType<QList<MMSValue>>();
     context.console = &console;
     context.mainWindow = &mainWindow;
 }

@@ -53,7 +53,6 @@ private slots:
 
 void tst_BrowserWindow::initTestCase()
 {
-    qRegisterMetaType<QList<MMSValue>>();
     QCOMPARE(Tavrix::ConnectMid(nullptr), 0);
 }
 
