@@ -9,10 +9,16 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QToolTip>
 
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <limits>
 
 namespace {
+
+/// Numbers between these are shown without an exponent.
+constexpr double smallestPlain = 1e-5;
+constexpr double largestPlain = 1e15;
 
 QString translated(const char *text)
 {
@@ -28,6 +34,10 @@ QString rangeText()
         .arg(std::numeric_limits<Number>::max());
 }
 
+/// The validators let through whatever can still become a value: the widget library would drop an
+/// unfinished text without a word, whereas the delegate asks for the value and says what is
+/// missing.
+///
 /// Integers are read as text, since the validators and spin boxes of the widget library end at 32
 /// bits.
 class IntegerValidator : public QValidator
@@ -84,9 +94,8 @@ public:
         const bool isSigned = m_type == QMetaType::Int || m_type == QMetaType::LongLong;
         if (!isSigned && input.startsWith(QLatin1Char('-')))
             return Invalid;
-        if (input.isEmpty() || !input.back().isDigit())
-            return Intermediate;
-        return number(input).isValid() ? Acceptable : Invalid;
+        const bool begun = input.isEmpty() || !input.back().isDigit();
+        return begun || number(input).isValid() ? Acceptable : Invalid;
     }
 
     static void trim(QString &input, int &position)
@@ -120,9 +129,8 @@ public:
         static const QRegularExpression number(
             QStringLiteral("^[+-]?[0-9]*([.][0-9]*)?([eE][+-]?[0-9]*)?$"));
         static const QRegularExpression word(QStringLiteral("^[+-]?(i|in|inf|n|na|nan)$"));
-        if (!number.match(input).hasMatch() && !word.match(input).hasMatch())
-            return Invalid;
-        return DoubleValidator::number(input).isValid() ? Acceptable : Intermediate;
+        return number.match(input).hasMatch() || word.match(input).hasMatch() ? Acceptable
+                                                                              : Invalid;
     }
 };
 
@@ -133,9 +141,8 @@ public:
 
     State validate(QString &input, int &) const override
     {
-        if (input.isEmpty())
-            return Intermediate;
-        return input.size() == 1 && !input.at(0).isSurrogate() ? Acceptable : Invalid;
+        const bool character = input.size() == 1 && !input.at(0).isSurrogate();
+        return input.isEmpty() || character ? Acceptable : Invalid;
     }
 };
 
@@ -285,18 +292,19 @@ QString truthText(bool truth)
 
 QString numberText(double number, bool single)
 {
-    if (single && std::abs(number) <= double(std::numeric_limits<float>::max())) {
+    const double size = std::abs(number);
+    const bool plain = size == 0 || (size >= smallestPlain && size < largestPlain);
+    if (single && size <= double(std::numeric_limits<float>::max())) {
         const float rounded = static_cast<float>(number);
         if (static_cast<double>(rounded) == number) {
-            for (int digits = 1; digits < std::numeric_limits<float>::max_digits10; ++digits) {
-                const QString text = QString::number(number, 'g', digits);
-                if (text.toFloat() == rounded)
-                    return text;
-            }
-            return QString::number(number, 'g', std::numeric_limits<float>::max_digits10);
+            std::array<char, 64> text;
+            const auto end =
+                std::to_chars(text.data(), text.data() + text.size(), rounded,
+                              plain ? std::chars_format::fixed : std::chars_format::scientific);
+            return QString::fromLatin1(text.data(), static_cast<int>(end.ptr - text.data()));
         }
     }
-    return QString::number(number, 'g', QLocale::FloatingPointShortest);
+    return QString::number(number, plain ? 'f' : 'g', QLocale::FloatingPointShortest);
 }
 
 PropertyEditor::~PropertyEditor() = default;

@@ -4,6 +4,7 @@
 #include "propertybrowserglobal.h"
 
 #include <QtCore/QList>
+#include <QtCore/QMetaType>
 #include <QtCore/QString>
 
 class QtVariantPropertyManager;
@@ -54,3 +55,5 @@ private:
     QtProperty *m_parent = nullptr;
     QList<QtProperty *> m_subProperties;
 };
+
+Q_DECLARE_METATYPE(QtProperty *)

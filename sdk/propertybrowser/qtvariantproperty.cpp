@@ -7,17 +7,37 @@
 #include <QtCore/QDateTime>
 #include <QtCore/QMetaType>
 
+namespace {
+
+QVariant defaultValue(int type)
+{
+    switch (type) {
+    case QMetaType::Bool:
+        return false;
+    case QMetaType::Int:
+        return 0;
+    case QMetaType::UInt:
+        return 0U;
+    case QMetaType::LongLong:
+        return 0LL;
+    case QMetaType::ULongLong:
+        return 0ULL;
+    case QMetaType::Double:
+        return 0.0;
+    default:
+        return type == QtVariantPropertyManager::groupTypeId() ? QVariant()
+                                                               : QVariant(type, nullptr);
+    }
+}
+
+} // namespace
+
 QtVariantProperty::QtVariantProperty(QtVariantPropertyManager *manager, int type,
                                      const QString &name)
     : QtProperty(manager, name)
     , m_type(type)
+    , m_value(defaultValue(type))
 {
-    if (type != QtVariantPropertyManager::groupTypeId()) {
-        // Made from a default value, since a variant of the type alone counts as null.
-        void *value = QMetaType::create(type);
-        m_value = QVariant(type, value);
-        QMetaType::destroy(type, value);
-    }
 }
 
 QtVariantProperty::~QtVariantProperty() = default;
