@@ -2,6 +2,7 @@
 #include "control/controlco.h"
 
 #include "model/iednode.h"
+#include "model/testtemplates.h"
 #include "support/modaldriver.h"
 
 #include <devicemodel/physicaldevice.h>
@@ -135,6 +136,7 @@ class tst_ControlCo : public QObject
 private slots:
     void theFormHasItsTexts();
     void theObjectIsNamedByItsLogicalNode();
+    void ofSeveralEntriesOfOneCodeTheLastIsCurrent();
     void aNodeThatIsNoDataObjectLeavesTheValuesEmpty();
 
     void checkOffersItsListFirstEntryCurrent();
@@ -220,6 +222,19 @@ void tst_ControlCo::theObjectIsNamedByItsLogicalNode()
     const ControllableObject object;
     const auto dialog = dialogFor(object);
     QCOMPARE(find<QLabel>(*dialog, "objname")->text(), QStringLiteral("Q0CSWI1.Pos"));
+}
+
+void tst_ControlCo::ofSeveralEntriesOfOneCodeTheLastIsCurrent()
+{
+    const TestTemplates templates(R"(<DataTypeTemplate><EnumType id="Odd">
+        <EnumVal ord="1">a</EnumVal><EnumVal ord="2">b</EnumVal><EnumVal ord="1">c</EnumVal>
+        <EnumVal ord="3">d</EnumVal></EnumType></DataTypeTemplate>)");
+    ControllableObject object;
+    object.withStVal(QStringLiteral("Enum"), 1, QStringLiteral("Odd"))
+        .withCtlVal(QStringLiteral("Enum"), 1, QStringLiteral("Odd"));
+    const ControlCo dialog(object.node, &templates, {}, {}, false, nullptr);
+    QCOMPARE(find<QComboBox>(dialog, "stVal")->currentIndex(), 2);
+    QCOMPARE(find<QComboBox>(dialog, "ctrValue")->currentIndex(), 2);
 }
 
 void tst_ControlCo::aNodeThatIsNoDataObjectLeavesTheValuesEmpty()
@@ -340,6 +355,11 @@ void tst_ControlCo::listValuesOfTheStatusAreShown_data()
                        QStringLiteral("higher=2"), QStringLiteral("reserved=3")};
     QTest::newRow("enumeration") << QStringLiteral("Enum") << QStringLiteral("Dbpos") << QVariant(3)
                                  << current(positions, 3);
+    QTest::newRow("check") << QStringLiteral("Check") << none << QVariant(1)
+                           << QStringList{QStringLiteral("no-check=0"),
+                                          QStringLiteral("*interlock-check=1"),
+                                          QStringLiteral("synchrocheck=2"),
+                                          QStringLiteral("synchrocheck and interlock-check=3")};
     QTest::newRow("enumeration without a type")
         << QStringLiteral("Enum") << none << QVariant(1) << QStringList();
     QTest::newRow("enumeration of an unknown type")

@@ -165,6 +165,7 @@ private slots:
     void openingShowsTheBlock();
     void aBlockThatCannotBeReadIsReported_data();
     void aBlockThatCannotBeReadIsReported();
+    void anUnbufferedBlockCannotBePurged_data();
     void anUnbufferedBlockCannotBePurged();
     void aBufferedBlockKeepsItsControls();
     void dataSetsAreOfferedInOrderWithoutAChoice();
@@ -185,6 +186,7 @@ private slots:
 
     void aChangeButtonWritesItsAttributeAndReadsTheBlockAgain_data();
     void aChangeButtonWritesItsAttributeAndReadsTheBlockAgain();
+    void aClearedReservationIsWrittenAsZero();
     void optionalFieldsOfBufferedBlocksAreWrittenByReference_data();
     void optionalFieldsOfBufferedBlocksAreWrittenByReference();
     void aTypedDataSetIsWrittenAsTyped();
@@ -437,10 +439,20 @@ void tst_ReportControl::aBlockThatCannotBeReadIsReported()
     QVERIFY(!dialog.reportEnabled());
 }
 
+void tst_ReportControl::anUnbufferedBlockCannotBePurged_data()
+{
+    QTest::addColumn<QString>("rptName");
+    QTest::newRow("unbuffered") << unbufferedName;
+    QTest::newRow("name that begins like the mark") << QStringLiteral("LLN0$RP$BRmx01");
+    QTest::newRow("lower case") << bufferedName.toLower();
+    QTest::newRow("empty") << QString();
+}
+
 void tst_ReportControl::anUnbufferedBlockCannotBePurged()
 {
+    QFETCH(QString, rptName);
     m_service->reportBlock.reference = unbufferedName;
-    const auto dialog = opened(unbufferedName);
+    const auto dialog = opened(rptName);
     QVERIFY(!find<QPushButton>(*dialog, "purge")->isEnabled());
     QVERIFY(!find<QCheckBox>(*dialog, "useBufferOverflow")->isEnabled());
     QVERIFY(!find<QCheckBox>(*dialog, "useEntryID")->isEnabled());
@@ -698,6 +710,15 @@ void tst_ReportControl::aChangeButtonWritesItsAttributeAndReadsTheBlockAgain()
     QCOMPARE(calls.last().deviceNo, static_cast<long>(deviceNo));
     QCOMPARE(calls.last().arguments, (QVariantList{ldName, deviceBlock().reference}));
     QVERIFY(dialog->isVisible());
+}
+
+void tst_ReportControl::aClearedReservationIsWrittenAsZero()
+{
+    m_service->reportBlock.resv = true;
+    const auto dialog = opened();
+    setChecked(*dialog, "reserved", false);
+    QCOMPARE(callsOfPressing(*dialog, "reservChange").first().arguments.mid(2),
+             (QVariantList{QStringLiteral("Resv"), QByteArray::fromHex("00")}));
 }
 
 void tst_ReportControl::optionalFieldsOfBufferedBlocksAreWrittenByReference_data()
