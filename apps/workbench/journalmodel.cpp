@@ -101,7 +101,7 @@ QString JournalModel::text(const ControllerCall &call, int column) const
         return tr("%1 (%2)").arg(call.error.simplified(), QString::number(call.result));
     case DurationColumn:
         return tr("%1 ms").arg(
-            QLocale().toString(static_cast<double>(call.duration.count()) / 1000.0, 'f', 1));
+            QLocale().toString(static_cast<double>(call.duration.count()) / 1000.0, 'f', 2));
     default:
         return {};
     }

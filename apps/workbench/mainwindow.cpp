@@ -19,6 +19,7 @@
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QScrollBar>
+#include <QtWidgets/QStyledItemDelegate>
 #include <QtWidgets/QToolButton>
 
 #include <algorithm>
@@ -27,6 +28,20 @@ namespace {
 
 constexpr int messageTime = 8000; // milliseconds
 constexpr int progressRange = 1000;
+
+/// Leaves out the middle of a text that is too long: both ends of an element path say something.
+class PathDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->textElideMode = Qt::ElideMiddle;
+    }
+};
 
 } // namespace
 
@@ -96,7 +111,9 @@ void MainWindow::setUpViews()
     QHeaderView *findingsHeader = m_ui->findingsView->header();
     findingsHeader->resizeSection(FindingsModel::SeverityColumn, 100);
     findingsHeader->resizeSection(FindingsModel::LineColumn, 60);
-    findingsHeader->resizeSection(FindingsModel::ElementColumn, 360);
+    findingsHeader->resizeSection(FindingsModel::ElementColumn, 320);
+    m_ui->findingsView->setItemDelegateForColumn(FindingsModel::ElementColumn,
+                                                 new PathDelegate(m_ui->findingsView));
 
     QTreeView *journal = m_ui->journalView;
     journal->setModel(&m_workbench.journal());

@@ -150,18 +150,21 @@ bool Tour::run()
 bool Tour::openDevices()
 {
     m_window.show();
-    const QString unfinished = m_files.filePath(QStringLiteral("unfinished.icd"));
-    QFile::copy(QStringLiteral(":/workbench/unfinished.icd"), unfinished);
-    m_workbench.open(unfinished);
+    const auto wasRead = [this] { return !m_workbench.loader().isBusy(); };
     m_workbench.openDemonstration();
-    if (!waitFor([this] { return !m_workbench.loader().isBusy(); }))
+    if (!waitFor(wasRead))
         return fail(Texts::tr("The demonstration device was not read in time."));
     m_device = m_window.selectedDevice();
     const DeviceListModel::Device *device = m_workbench.devices().device(m_device);
-    if (!device || device->record.file != Workbench::demonstrationFile
-        || device->state != DeviceListModel::Ready) {
+    if (!device || device->state != DeviceListModel::Ready)
         return fail(Texts::tr("The demonstration device cannot be read."));
-    }
+
+    const QString unfinished = m_files.filePath(QStringLiteral("unfinished.icd"));
+    QFile::copy(QStringLiteral(":/workbench/unfinished.icd"), unfinished);
+    m_workbench.open(unfinished);
+    if (!waitFor(wasRead) || m_workbench.devices().rowCount() != 2)
+        return fail(Texts::tr("The second device cannot be read."));
+    m_window.selectDevice(m_device);
     return true;
 }
 

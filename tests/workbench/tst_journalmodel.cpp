@@ -69,7 +69,7 @@ void tst_JournalModel::aCallBecomesARow()
     QCOMPARE(cell(model, 0, JournalModel::ArgumentsColumn), QStringLiteral("1"));
     QCOMPARE(cell(model, 0, JournalModel::ResultColumn), QStringLiteral("OK"));
     QCOMPARE(cell(model, 0, JournalModel::DurationColumn),
-             QLocale().toString(1.2, 'f', 1) + QStringLiteral(" ms"));
+             QLocale().toString(1.24, 'f', 2) + QStringLiteral(" ms"));
 }
 
 void tst_JournalModel::aFailureShowsItsSentenceAndNumber()

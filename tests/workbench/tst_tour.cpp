@@ -48,7 +48,8 @@ void tst_Tour::everyToolGivesAPictureThatShowsSomething()
         run(QStringLiteral(WORKBENCH), {QStringLiteral("--tour"), pictures.path()});
     QVERIFY2(tour.status == 0, qPrintable(tour.sentence));
     QStringList files;
-    for (const char *name : {"workbench", "browser", "offline-setting-groups"})
+    for (const char *name : {"workbench", "browser", "offline-setting-groups",
+                             "offline-report-control", "file-service"})
         files << pictures.filePath(QString::fromLatin1(name) + QStringLiteral(".png"));
     const Outcome check = run(QStringLiteral(PICTURECHECK), files);
     QVERIFY2(check.status == 0, qPrintable(check.sentence));

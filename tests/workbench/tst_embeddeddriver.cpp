@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "workbench/embeddeddriver.h"
+
+#include <devicemodel/physicaldevice.h>
+#include <remoteclient/driverservice.h>
+
+#include <QtCore/QDataStream>
+#include <QtCore/QDir>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+namespace {
+
+QByteArray ied(const char *name, bool withServer = true)
+{
+    const QByteArray server = "<Server><Authentication/><LDevice inst=\"LD0\">"
+                              "<LN0 lnClass=\"LLN0\" inst=\"\" lnType=\"T\"/></LDevice></Server>";
+    return QByteArray("<IED name=\"") + name + "\" manufacturer=\"M\" type=\"T\">"
+           "<AccessPoint name=\"P1\">" + (withServer ? server : QByteArray()) +
+           "</AccessPoint></IED>";
+}
+
+QByteArray sclFile(const QByteArray &ieds)
+{
+    return "<?xml version=\"1.0\"?><SCL xmlns=\"http://www.iec.ch/61850/2003/SCL\" "
+           "version=\"2007\" revision=\"B\" release=\"4\"><Header id=\"x\"/>" + ieds +
+           "<DataTypeTemplates><LNodeType id=\"T\" lnClass=\"LLN0\"><DO name=\"Beh\" type=\"B\"/>"
+           "</LNodeType><DOType id=\"B\" cdc=\"ENS\">"
+           "<DA name=\"q\" fc=\"ST\" bType=\"Quality\"/></DOType></DataTypeTemplates></SCL>";
+}
+
+} // namespace
+
+class tst_EmbeddedDriver : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void theOnlyIedIsImported();
+    void whatWasImportedIsWhatTheDriverAnswers();
+    void severalIedsAskForAChoice();
+    void aNamedIedIsImported();
+    void aCarelessChoiceGivesOneSentence_data();
+    void aCarelessChoiceGivesOneSentence();
+    void aCancelledImportGivesNoDevice();
+
+private:
+    QString file(const QString &name, const QByteArray &content) const;
+    ImportResult import(const QString &file, const QString &iedName = {}, bool cancelled = false);
+
+    QTemporaryDir m_folder;
+    Workbench::Driver m_driver = makeEmbeddedDriver();
+};
+
+void tst_EmbeddedDriver::initTestCase()
+{
+    QVERIFY(m_folder.isValid());
+}
+
+QString tst_EmbeddedDriver::file(const QString &name, const QByteArray &content) const
+{
+    QFile made(m_folder.filePath(name));
+    if (!made.open(QIODevice::WriteOnly) || made.write(content) != content.size())
+        return {};
+    return made.fileName();
+}
+
+ImportResult tst_EmbeddedDriver::import(const QString &path, const QString &iedName, bool cancelled)
+{
+    const std::atomic<bool> flag{cancelled};
+    return m_driver.import({path, iedName}, flag, [](double) {});
+}
+
+void tst_EmbeddedDriver::theOnlyIedIsImported()
+{
+    const ImportResult result = import(file(QStringLiteral("one.icd"), sclFile(ied("BAY1"))));
+    QVERIFY2(result.status == ImportResult::Imported, qPrintable(result.error));
+    QCOMPARE(result.ied, QStringLiteral("BAY1"));
+    QCOMPARE(result.logicalDevices, 1U);
+    QCOMPARE(result.logicalNodes, 1U);
+    QCOMPARE(result.attributes, 1U);
+}
+
+void tst_EmbeddedDriver::whatWasImportedIsWhatTheDriverAnswers()
+{
+    const ImportResult result = import(file(QStringLiteral("one.icd"), sclFile(ied("BAY1"))));
+    QCOMPARE(result.status, ImportResult::Imported);
+    m_driver.hold(5, result.model);
+
+    QByteArray model;
+    QString error;
+    QCOMPARE(m_driver.service->getIEDModel(5, model, error), OperationSucceeded);
+    PhysicalDevice device;
+    QDataStream stream(model);
+    device.fromStream(stream);
+    QVERIFY(device.offline);
+    QCOMPARE(device.logicalDevices.size(), 1);
+    QVERIFY(device.findTag(QStringLiteral("BAY1LD0/LLN0$ST$Beh$q")) != nullptr);
+
+    m_driver.release(5);
+    QVERIFY(m_driver.service->getIEDModel(5, model, error) != OperationSucceeded);
+    QVERIFY(!error.isEmpty());
+}
+
+void tst_EmbeddedDriver::severalIedsAskForAChoice()
+{
+    const ImportResult result = import(
+        file(QStringLiteral("two.scd"), sclFile(ied("BAY1") + ied("HMI", false) + ied("BAY2"))));
+    QCOMPARE(result.status, ImportResult::ChoiceNeeded);
+    QCOMPARE(result.ieds.size(), 3);
+    QCOMPARE(result.ieds[0].name, QStringLiteral("BAY1"));
+    QCOMPARE(result.ieds[0].description, QStringLiteral("M, T"));
+    QCOMPARE(result.ieds[0].logicalDevices, 1);
+    QCOMPARE(result.ieds[1].logicalDevices, 0);
+}
+
+void tst_EmbeddedDriver::aNamedIedIsImported()
+{
+    const ImportResult result =
+        import(file(QStringLiteral("two.scd"), sclFile(ied("BAY1") + ied("BAY2"))),
+               QStringLiteral("BAY2"));
+    QVERIFY2(result.status == ImportResult::Imported, qPrintable(result.error));
+    QCOMPARE(result.ied, QStringLiteral("BAY2"));
+}
+
+void tst_EmbeddedDriver::aCarelessChoiceGivesOneSentence_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("iedName");
+    QTest::newRow("missing file") << m_folder.filePath(QStringLiteral("missing.scd")) << QString();
+    QTest::newRow("folder") << m_folder.path() << QString();
+    QTest::newRow("empty file") << file(QStringLiteral("empty.scd"), {}) << QString();
+    QTest::newRow("picture") << file(QStringLiteral("p.png"), QByteArray("\x89PNG\r\n\x1a\n\0\0", 10))
+                             << QString();
+    QTest::newRow("web page") << file(QStringLiteral("p.html"), "<html><body/></html>") << QString();
+    QTest::newRow("cut off") << file(QStringLiteral("cut.scd"), sclFile(ied("BAY1")).left(300))
+                             << QString();
+    QTest::newRow("no IED") << file(QStringLiteral("none.ssd"), sclFile({})) << QString();
+    QTest::newRow("no server") << file(QStringLiteral("client.icd"), sclFile(ied("HMI", false)))
+                               << QString();
+    QTest::newRow("other IED") << file(QStringLiteral("one.icd"), sclFile(ied("BAY1")))
+                               << QStringLiteral("BAY9");
+}
+
+void tst_EmbeddedDriver::aCarelessChoiceGivesOneSentence()
+{
+    QFETCH(const QString, path);
+    QFETCH(const QString, iedName);
+    const ImportResult result = import(path, iedName);
+    QCOMPARE(result.status, ImportResult::Failed);
+    QVERIFY2(result.error.endsWith(QLatin1Char('.')), qPrintable(result.error));
+    QVERIFY(result.model.isEmpty());
+}
+
+void tst_EmbeddedDriver::aCancelledImportGivesNoDevice()
+{
+    const ImportResult result =
+        import(file(QStringLiteral("one.icd"), sclFile(ied("BAY1"))), {}, true);
+    QVERIFY(result.status != ImportResult::Imported);
+    QVERIFY(result.model.isEmpty());
+}
+
+QTEST_GUILESS_MAIN(tst_EmbeddedDriver)
+#include "tst_embeddeddriver.moc"
