@@ -3,6 +3,7 @@
 #include "model/devicebuilder.h"
 #include "support/modaldriver.h"
 
+#include <QtCore/QTranslator>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <QtWidgets/QDialogButtonBox>
@@ -58,6 +59,18 @@ std::unique_ptr<PhysicalDevice> makeBay()
     return device;
 }
 
+/// A language in which every text is much longer than in English.
+class LongLanguage : public QTranslator
+{
+public:
+    QString translate(const char * /*context*/, const char *text, const char * /*comment*/,
+                      int /*n*/) const override
+    {
+        return QString::fromUtf8(text) + QStringLiteral(" und so weiter");
+    }
+    bool isEmpty() const override { return false; }
+};
+
 /// The tree as indented lines; "[ ]", "[x]" and "[-]" are check boxes.
 void describe(const QTreeWidgetItem *item, int depth, QStringList &lines)
 {
@@ -81,6 +94,7 @@ class tst_DatasetSelectWidget : public QObject
 
 private slots:
     void dialogIsLaidOutAsItsFormSays();
+    void longTranslationsAreShownWhole();
     void treeListsStatusAndMeasurementByConstraint();
     void objectOfBothConstraintsIsListedUnderEach();
     void nodeHasOneItemPerConstraintStatusFirst();
@@ -214,6 +228,17 @@ void tst_DatasetSelectWidget::dialogIsLaidOutAsItsFormSays()
     QVERIFY(!tree()->isHeaderHidden());
     QCOMPARE(m_dialog->findChild<QDialogButtonBox *>("buttonBox")->standardButtons(),
              QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+}
+
+void tst_DatasetSelectWidget::longTranslationsAreShownWhole()
+{
+    LongLanguage language;
+    QCoreApplication::installTranslator(&language);
+    openBay();
+    const QList<QWidget *> texts = {m_dialog->findChild<QLabel *>("label"),
+                                    button(QDialogButtonBox::Ok), button(QDialogButtonBox::Cancel)};
+    for (const QWidget *text : texts)
+        QVERIFY(text->width() >= text->sizeHint().width());
 }
 
 void tst_DatasetSelectWidget::treeListsStatusAndMeasurementByConstraint()

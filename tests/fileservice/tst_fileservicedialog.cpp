@@ -10,6 +10,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QTranslator>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
@@ -46,6 +47,18 @@ public:
     }
 
     QStringList asked;
+};
+
+/// A language in which every text is much longer than in English.
+class LongLanguage : public QTranslator
+{
+public:
+    QString translate(const char * /*context*/, const char *text, const char * /*comment*/,
+                      int /*n*/) const override
+    {
+        return QString::fromUtf8(text) + QStringLiteral(" und so weiter");
+    }
+    bool isEmpty() const override { return false; }
 };
 
 /// What a file dialog asked for.
@@ -147,6 +160,7 @@ private slots:
 
     void slotsAreThoseThatHostsKnow();
     void dialogIsLaidOutAsItsFormSays();
+    void longTranslationsAreShownWhole();
     void constructionAsksTheConsoleAndListsTheRoot();
     void failedFirstListingIsToldBeforeTheDialogIsShown();
 
@@ -374,6 +388,22 @@ void tst_FileServiceDialog::dialogIsLaidOutAsItsFormSays()
     QVERIFY(qobject_cast<FileModel *>(tree()->model()));
     QCOMPARE(tree()->columnWidth(0), 200);
     QCOMPARE(tree()->columnWidth(1), 160);
+}
+
+void tst_FileServiceDialog::longTranslationsAreShownWhole()
+{
+    LongLanguage language;
+    QCoreApplication::installTranslator(&language);
+    open();
+    QList<QWidget *> texts;
+    for (auto *label : m_dialog->findChildren<QLabel *>())
+        texts << label;
+    for (auto *pushButton : m_dialog->findChildren<QPushButton *>())
+        texts << pushButton;
+    QCOMPARE(texts.size(), 8);
+    for (const QWidget *text : qAsConst(texts))
+        QVERIFY2(text->width() >= text->sizeHint().width(), qPrintable(text->objectName()));
+    QCOMPARE(edit("sourceFile")->x(), edit("targetFile")->x());
 }
 
 void tst_FileServiceDialog::constructionAsksTheConsoleAndListsTheRoot()
