@@ -257,7 +257,7 @@ IedCounts countsOf(const Ied &ied)
 }
 
 Document::Document()
-    : m_memory(64U * 1024U)
+    : m_memory(std::size_t{64} * 1024)
 {
 }
 

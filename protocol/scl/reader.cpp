@@ -5,10 +5,12 @@
 #include "xmltree.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <new>
 #include <sys/stat.h>
+#include <system_error>
 
 namespace scl {
 namespace {
@@ -58,7 +60,8 @@ ReadResult readFile(const std::string &path, const ReadOptions &options)
     std::FILE *file = std::fopen(path.c_str(), "rbe");
     if (!file) {
         return failed({ReadError::CannotRead,
-                       "The file \"" + path + "\" cannot be opened: " + std::strerror(errno) + ".",
+                       "The file \"" + path +
+                           "\" cannot be opened: " + std::generic_category().message(errno) + ".",
                        0});
     }
     const std::unique_ptr<std::FILE, int (*)(std::FILE *)> closer(file, &std::fclose);

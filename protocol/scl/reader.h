@@ -17,7 +17,7 @@ namespace scl {
 /// using up memory or time; every file of a real project is far below them.
 struct ReadOptions
 {
-    std::uint64_t maxBytes = 512U * 1024U * 1024U;
+    std::uint64_t maxBytes = std::uint64_t{512} * 1024 * 1024;
     std::uint32_t maxElementDepth = 128;
     /// Levels of data below a logical node; an array counts two.
     std::uint16_t maxDataDepth = 30;

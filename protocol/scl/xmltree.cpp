@@ -411,8 +411,8 @@ public:
     }
 
 private:
-    static constexpr std::size_t firstChunk = 256U * 1024U;
-    static constexpr std::size_t largestChunk = 256U * 1024U * 1024U;
+    static constexpr std::size_t firstChunk = std::size_t{256} * 1024;
+    static constexpr std::size_t largestChunk = std::size_t{256} * 1024 * 1024;
 
     static constexpr std::size_t maxNamespaces = 256;
     static constexpr std::size_t maxUnboundReported = 16;
@@ -474,14 +474,11 @@ private:
 
     std::string_view uriOf(std::string_view prefix, bool &bound) const
     {
-        for (auto it = m_bindings.rbegin(); it != m_bindings.rend(); ++it) {
-            if (it->prefix == prefix) {
-                bound = true;
-                return it->uri;
-            }
-        }
-        bound = prefix.empty();
-        return {};
+        const auto binding =
+            std::find_if(m_bindings.rbegin(), m_bindings.rend(),
+                         [prefix](const Binding &candidate) { return candidate.prefix == prefix; });
+        bound = prefix.empty() || binding != m_bindings.rend();
+        return binding == m_bindings.rend() ? std::string_view() : std::string_view(binding->uri);
     }
 
     void startElement(std::string_view name, const XML_Char **attributes)
@@ -697,26 +694,27 @@ std::string XmlTree::pathOf(std::uint32_t element) const
     std::vector<std::uint32_t> chain;
     for (std::uint32_t i = element; i != noElement; i = elements[i].parent)
         chain.push_back(i);
+    std::reverse(chain.begin(), chain.end());
     std::string path;
-    for (auto it = chain.rbegin(); it != chain.rend(); ++it) {
-        const XmlElement &e = elements[*it];
+    for (const std::uint32_t i : chain) {
+        const XmlElement &e = elements[i];
         if (!path.empty())
             path += '/';
         path += e.name.empty() ? tagName(e.tag) : e.name;
         std::string key;
         if (e.tag == Tag::Ln || e.tag == Tag::Ln0) {
-            key = std::string(value(*it, Attr::Prefix)) + std::string(value(*it, Attr::LnClass)) +
-                  std::string(value(*it, Attr::Inst));
+            key = std::string(value(i, Attr::Prefix)) + std::string(value(i, Attr::LnClass)) +
+                  std::string(value(i, Attr::Inst));
         } else {
             for (const Attr attribute : {Attr::Name, Attr::Inst, Attr::Id, Attr::ApName,
                                          Attr::DoName, Attr::CbName, Attr::Ord}) {
-                if (const std::string_view *found = find(*it, attribute)) {
+                if (const std::string_view *found = find(i, attribute)) {
                     key = *found;
                     break;
                 }
             }
-            if (e.tag == Tag::Fcda && find(*it, Attr::DaName))
-                key.append(1, '.').append(value(*it, Attr::DaName));
+            if (e.tag == Tag::Fcda && find(i, Attr::DaName))
+                key.append(1, '.').append(value(i, Attr::DaName));
         }
         if (!key.empty()) {
             path += '[';
