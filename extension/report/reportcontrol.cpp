@@ -44,6 +44,8 @@ ReportControl::ReportControl(int deviceNo, int /*unused*/, IEC61850ControllerInt
 ReportControl::ReportControl(const stReportControlBlock &block, QWidget *parent)
     : QDialog(parent)
     , m_form(std::make_unique<Ui::ReportControl>())
+    , m_deviceNo(0)
+    , m_controller(nullptr)
 {
     buildForm();
     updateOffline(block);
@@ -53,6 +55,8 @@ ReportControl::~ReportControl() = default;
 
 bool ReportControl::init()
 {
+    if (!m_controller)
+        return false;
     showDeviceText(m_form->control, m_rptName);
 
     ReportBlock block;
@@ -96,6 +100,8 @@ void ReportControl::setReportName(const QString &ld, const QString &rptName,
 
 void ReportControl::changeValue()
 {
+    if (!m_controller)
+        return;
     const QObject *button = sender();
     const ReportBlock edited = editedBlock();
     if (button == m_form->rptidChange) {

@@ -44,7 +44,8 @@ signals:
 
 public slots:
     /// Read the block and show it.
-    /// \return false when it could not be read; the operator has been told
+    /// \return false when it could not be read and the operator has been told, and in the offline
+    /// form
     bool init();
 
 private slots:
@@ -86,9 +87,9 @@ private:
     void showTriggerOptions(const TriggerOptions &options);
 
     std::unique_ptr<Ui::ReportControl> m_form;
-    const int m_deviceNo = 0;
+    const int m_deviceNo;
     ReportBlock m_block;
     QString m_rptName;
     QString m_ld;
-    IEC61850ControllerInterface *const m_controller = nullptr;
+    IEC61850ControllerInterface *const m_controller; ///< null in the offline form
 };

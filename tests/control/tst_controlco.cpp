@@ -227,8 +227,8 @@ void tst_ControlCo::theObjectIsNamedByItsLogicalNode()
 void tst_ControlCo::ofSeveralEntriesOfOneCodeTheLastIsCurrent()
 {
     const TestTemplates templates(R"(<DataTypeTemplate><EnumType id="Odd">
-        <EnumVal ord="1">a</EnumVal><EnumVal ord="2">b</EnumVal><EnumVal ord="1">c</EnumVal>
-        <EnumVal ord="3">d</EnumVal></EnumType></DataTypeTemplate>)");
+        <EnumVal ord="3">a</EnumVal><EnumVal ord="1">b</EnumVal><EnumVal ord="1">c</EnumVal>
+        <EnumVal ord="2">d</EnumVal></EnumType></DataTypeTemplate>)");
     ControllableObject object;
     object.withStVal(QStringLiteral("Enum"), 1, QStringLiteral("Odd"))
         .withCtlVal(QStringLiteral("Enum"), 1, QStringLiteral("Odd"));

@@ -76,6 +76,7 @@ private slots:
     void theTitleBarHasNoHelpButton();
     void aBlockIsNotKnownToBeEnabled();
     void textsOfTheConfigurationAreShownLiterally();
+    void thereIsNoBlockToRead();
 };
 
 void tst_OfflineReportControl::theFormShowsTheConfiguredBlock()
@@ -188,6 +189,13 @@ void tst_OfflineReportControl::textsOfTheConfigurationAreShownLiterally()
     QCOMPARE(find<QLabel>(dialog, "rptIdClient")->textFormat(), Qt::PlainText);
     QCOMPARE(find<QLabel>(dialog, "rptIdClient")->text(), block.rptId);
     QVERIFY(!find<QLabel>(dialog, "rptIdClient")->toolTip().contains(QLatin1Char('<')));
+}
+
+void tst_OfflineReportControl::thereIsNoBlockToRead()
+{
+    ReportControl dialog(configuredBlock(), nullptr);
+    QVERIFY(!dialog.init());
+    QCOMPARE(find<QLabel>(dialog, "control")->text(), QStringLiteral("brcbMX01"));
 }
 
 QTEST_MAIN(tst_OfflineReportControl)
