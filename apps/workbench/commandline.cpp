@@ -18,10 +18,10 @@ struct Texts
 bool runsWithoutDisplay(const QStringList &arguments)
 {
     return std::any_of(arguments.cbegin(), arguments.cend(), [](const QString &argument) {
-        static const QStringList options{QStringLiteral("--check"),  QStringLiteral("-check"),
-                                         QStringLiteral("--help"),   QStringLiteral("-h"),
-                                         QStringLiteral("--help-all"),
-                                         QStringLiteral("--version"), QStringLiteral("-v")};
+        static const QStringList options{QStringLiteral("--check"),    QStringLiteral("-check"),
+                                         QStringLiteral("--help"),     QStringLiteral("-h"),
+                                         QStringLiteral("--help-all"), QStringLiteral("--version"),
+                                         QStringLiteral("-v")};
         return options.contains(argument) || argument.startsWith(QLatin1String("--check="));
     });
 }
@@ -30,8 +30,9 @@ CommandLine parseCommandLine(QCommandLineParser &parser, const QStringList &argu
 {
     const QCommandLineOption check(
         QStringLiteral("check"),
-        Texts::tr("Say what is in an SCL file, as JSON, and exit: with 0 when it is without errors, "
-                  "1 with errors, 2 when it cannot be used. Needs no display."),
+        Texts::tr(
+            "Say what is in an SCL file, as JSON, and exit: with 0 when it is without errors, "
+            "1 with errors, 2 when it cannot be used. Needs no display."),
         Texts::tr("FILE"));
     const QCommandLineOption ied(QStringLiteral("ied"),
                                  Texts::tr("Take this IED of the file. The default asks when there "
@@ -43,7 +44,8 @@ CommandLine parseCommandLine(QCommandLineParser &parser, const QStringList &argu
         Texts::tr("DIR"));
     const QCommandLineOption pluginFolder(
         QStringLiteral("plugin-dir"),
-        Texts::tr("Load the plug-in from DIR instead of the folder \"plugins\" beside the program."),
+        Texts::tr(
+            "Load the plug-in from DIR instead of the folder \"plugins\" beside the program."),
         Texts::tr("DIR"));
     const QCommandLineOption demonstration(QStringLiteral("demo"),
                                            Texts::tr("Open the demonstration device."));
@@ -71,8 +73,8 @@ CommandLine parseCommandLine(QCommandLineParser &parser, const QStringList &argu
         line.problem = Texts::tr("--check needs the name of a file.");
     } else if (parser.isSet(tour) && line.tour.isEmpty()) {
         line.problem = Texts::tr("--tour needs the name of a folder.");
-    } else if (parser.isSet(check)
-               && (parser.isSet(tour) || line.demonstration || !line.files.isEmpty())) {
+    } else if (parser.isSet(check) &&
+               (parser.isSet(tour) || line.demonstration || !line.files.isEmpty())) {
         line.problem =
             Texts::tr("--check takes one file, and nothing else can be done at the same time.");
     } else if (parser.isSet(tour) && (line.demonstration || !line.files.isEmpty())) {

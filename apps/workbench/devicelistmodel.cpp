@@ -18,7 +18,8 @@ bool isResource(const QString &file)
 
 DeviceListModel::DeviceListModel(QObject *parent)
     : QAbstractTableModel(parent)
-{}
+{
+}
 
 void DeviceListModel::append(const DeviceRecord &record)
 {
@@ -55,8 +56,8 @@ void DeviceListModel::setFailed(int number, const QString &reason)
     change(number, Failed, reason, {}, {});
 }
 
-void DeviceListModel::change(int number, State state, const QString &reason,
-                             const QString &content, const QVector<scl::Finding> &findings)
+void DeviceListModel::change(int number, State state, const QString &reason, const QString &content,
+                             const QVector<scl::Finding> &findings)
 {
     const int row = rowOf(number);
     if (row < 0)
@@ -108,9 +109,8 @@ QVariant DeviceListModel::data(const QModelIndex &index, int role) const
     if (role == Qt::TextAlignmentRole && index.column() == NumberColumn)
         return int(Qt::AlignCenter);
     if (role == Qt::DecorationRole && index.column() == NameColumn) {
-        return QApplication::style()->standardIcon(device.state == Failed
-                                                       ? QStyle::SP_MessageBoxWarning
-                                                       : QStyle::SP_ComputerIcon);
+        return QApplication::style()->standardIcon(
+            device.state == Failed ? QStyle::SP_MessageBoxWarning : QStyle::SP_ComputerIcon);
     }
     if (role == Qt::ForegroundRole && index.column() == StateColumn && device.state == Failed)
         return QBrush(Qt::red);

@@ -24,7 +24,8 @@ class Task : public QRunnable
 public:
     explicit Task(std::function<void()> work)
         : m_work(std::move(work))
-    {}
+    {
+    }
 
     void run() override { m_work(); }
 
@@ -92,7 +93,8 @@ void DeviceLoader::start(const std::shared_ptr<Job> &job)
             QMutexLocker lock(&m_mutex);
             m_mailbox.push_back(job);
         }
-        QMetaObject::invokeMethod(this, [this] { takeResults(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { takeResults(); }, Qt::QueuedConnection);
     }));
 }
 

@@ -55,9 +55,8 @@ int DeviceStore::add(const QString &file, const QString &ied)
 
 void DeviceStore::remove(int number)
 {
-    const auto last = std::remove_if(m_devices.begin(), m_devices.end(), [=](const DeviceRecord &d) {
-        return d.number == number;
-    });
+    const auto last = std::remove_if(m_devices.begin(), m_devices.end(),
+                                     [=](const DeviceRecord &d) { return d.number == number; });
     if (last == m_devices.end())
         return;
     m_devices.erase(last, m_devices.end());
@@ -76,10 +75,9 @@ void DeviceStore::read()
         settings.setArrayIndex(i);
         DeviceRecord device{settings.value(numberKey).toInt(), settings.value(fileKey).toString(),
                             settings.value(iedKey).toString()};
-        const bool taken = std::any_of(m_devices.cbegin(), m_devices.cend(),
-                                       [&](const DeviceRecord &other) {
-                                           return other.number == device.number;
-                                       });
+        const bool taken =
+            std::any_of(m_devices.cbegin(), m_devices.cend(),
+                        [&](const DeviceRecord &other) { return other.number == device.number; });
         if (device.file.isEmpty() || device.number < 1 || device.number > highestNumber || taken)
             continue;
         m_nextNumber = std::max(m_nextNumber, device.number + 1);

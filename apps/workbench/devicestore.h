@@ -35,7 +35,8 @@ public:
     /// Forget a device; nothing happens when there is none of that number.
     void remove(int number);
 
-    /// Why the last change may be forgotten at the next start, one sentence; empty when all is well.
+    /// Why the last change may be forgotten at the next start, one sentence; empty when all is
+    /// well.
     QString problem() const { return m_problem; }
 
     /// The one spelling of a path by which files are compared.

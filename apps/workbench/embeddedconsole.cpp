@@ -7,7 +7,8 @@ const QString EmbeddedConsole::address = QStringLiteral("embedded");
 
 EmbeddedConsole::EmbeddedConsole(const DeviceListModel &devices)
     : m_devices(devices)
-{}
+{
+}
 
 QString EmbeddedConsole::currentAddress()
 {

@@ -55,17 +55,19 @@ LoadedExtension loadExtension(const QString &folder)
     QPluginLoader loader(file);
     const QJsonObject metaData = loader.metaData();
     if (metaData.isEmpty()) {
-        return refused(file, Texts::tr("The file is not a plug-in that this Qt can load: %1")
-                                 .arg(loader.errorString()),
+        return refused(file,
+                       Texts::tr("The file is not a plug-in that this Qt can load: %1")
+                           .arg(loader.errorString()),
                        replaceIt);
     }
     const QString iid = metaData.value(QStringLiteral("IID")).toString();
     const QString wantedIid =
         QString::fromLatin1(qobject_interface_iid<DriverProtocolExtentionInterface *>());
     if (iid != wantedIid) {
-        return refused(file, Texts::tr("The plug-in is of another kind: it offers \"%1\" where "
-                                       "\"%2\" is needed.")
-                                 .arg(iid, wantedIid),
+        return refused(file,
+                       Texts::tr("The plug-in is of another kind: it offers \"%1\" where "
+                                 "\"%2\" is needed.")
+                           .arg(iid, wantedIid),
                        replaceIt);
     }
     const QJsonArray keys = metaData.value(QStringLiteral("MetaData"))
@@ -73,25 +75,29 @@ LoadedExtension loadExtension(const QString &folder)
                                 .value(QStringLiteral("Keys"))
                                 .toArray();
     if (!keys.contains(extensionKey)) {
-        return refused(file, Texts::tr("The plug-in does not carry the key \"%1\".").arg(extensionKey),
+        return refused(file,
+                       Texts::tr("The plug-in does not carry the key \"%1\".").arg(extensionKey),
                        replaceIt);
     }
 
     QObject *object = loader.instance();
     if (!object) {
-        return refused(file, Texts::tr("The plug-in cannot be loaded: %1").arg(loader.errorString()),
-                       Texts::tr("Make sure that the libraries it needs are installed and belong to "
-                                 "the same version."));
+        return refused(
+            file, Texts::tr("The plug-in cannot be loaded: %1").arg(loader.errorString()),
+            Texts::tr("Make sure that the libraries it needs are installed and belong to "
+                      "the same version."));
     }
     auto *extension = qobject_cast<DriverProtocolExtentionInterface *>(object);
     if (!extension) {
-        return refused(file, Texts::tr("The plug-in's object does not have the promised interface."),
+        return refused(file,
+                       Texts::tr("The plug-in's object does not have the promised interface."),
                        replaceIt);
     }
     if (!extension->supportsProtocol(iec61850Protocol)) {
-        return refused(file, Texts::tr("The plug-in does not serve IEC 61850 (protocol %1).")
-                                 .arg(iec61850Protocol),
-                       replaceIt);
+        return refused(
+            file,
+            Texts::tr("The plug-in does not serve IEC 61850 (protocol %1).").arg(iec61850Protocol),
+            replaceIt);
     }
     if (!extension->isAvailable()) {
         return refused(file, Texts::tr("The plug-in says that it is not available."),

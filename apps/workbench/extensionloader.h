@@ -8,10 +8,10 @@ class DriverProtocolExtentionInterface;
 /// What came of loading the protocol extension.
 struct LoadedExtension
 {
-    QString file;                                        ///< absolute path that was tried
+    QString file;                                          ///< absolute path that was tried
     DriverProtocolExtentionInterface *extension = nullptr; ///< null when it cannot be used
-    QString reason; ///< why it cannot be used, one sentence
-    QString remedy; ///< what to do about it, one sentence
+    QString reason;                                        ///< why it cannot be used, one sentence
+    QString remedy;                                        ///< what to do about it, one sentence
 };
 
 /// Loads the IEC 61850 extension from a folder and initialises it: looks at the metadata before any

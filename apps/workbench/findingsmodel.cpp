@@ -25,7 +25,8 @@ QIcon severityIcon(scl::Severity severity)
 
 FindingsModel::FindingsModel(QObject *parent)
     : QAbstractTableModel(parent)
-{}
+{
+}
 
 void FindingsModel::setFindings(const QVector<scl::Finding> &findings)
 {
@@ -71,8 +72,8 @@ QVariant FindingsModel::data(const QModelIndex &index, int role) const
         return severityIcon(finding.severity);
     if (role == Qt::TextAlignmentRole && index.column() == LineColumn)
         return int(Qt::AlignRight | Qt::AlignVCenter);
-    if (role == Qt::ToolTipRole
-        && (index.column() == ElementColumn || index.column() == TextColumn)) {
+    if (role == Qt::ToolTipRole &&
+        (index.column() == ElementColumn || index.column() == TextColumn)) {
         return data(index, Qt::DisplayRole);
     }
     if (role == SortRole && index.column() == SeverityColumn)

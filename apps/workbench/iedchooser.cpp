@@ -19,8 +19,7 @@ IedChooser::IedChooser(const QString &file, const QVector<IedSummary> &ieds, QWi
     for (const IedSummary &ied : ieds) {
         auto *item = new QTreeWidgetItem(m_ui->ieds);
         item->setText(0, ied.name);
-        item->setText(1, ied.logicalDevices > 0 ? QString::number(ied.logicalDevices)
-                                                : tr("none"));
+        item->setText(1, ied.logicalDevices > 0 ? QString::number(ied.logicalDevices) : tr("none"));
         item->setText(2, ied.description);
         if (ied.logicalDevices == 0) {
             item->setFlags(Qt::NoItemFlags);
@@ -30,8 +29,11 @@ IedChooser::IedChooser(const QString &file, const QVector<IedSummary> &ieds, QWi
             m_ui->ieds->setCurrentItem(item);
         }
     }
-    m_ui->ieds->resizeColumnToContents(0);
-    m_ui->ieds->resizeColumnToContents(1);
+    constexpr int gap = 24;
+    for (const int column : {0, 1}) {
+        m_ui->ieds->resizeColumnToContents(column);
+        m_ui->ieds->setColumnWidth(column, m_ui->ieds->columnWidth(column) + gap);
+    }
     m_ui->ieds->setFocus();
 
     const auto enableOpen = [this] {

@@ -34,17 +34,18 @@ struct ImportResult
     };
 
     Status status = Failed;
-    QString error;                   ///< one sentence when the import failed
-    QString ied;                     ///< name of the IED that was imported
-    QVector<IedSummary> ieds;        ///< in the order of the file
-    QVector<scl::Finding> findings;  ///< of the whole file
-    QByteArray model;                ///< the device as PhysicalDevice::fromStream() reads it
+    QString error;                  ///< one sentence when the import failed
+    QString ied;                    ///< name of the IED that was imported
+    QVector<IedSummary> ieds;       ///< in the order of the file
+    QVector<scl::Finding> findings; ///< of the whole file
+    QByteArray model;               ///< the device as PhysicalDevice::fromStream() reads it
     quint64 logicalDevices = 0;
     quint64 logicalNodes = 0;
     quint64 attributes = 0; ///< leaf attributes, array elements one by one
 };
 
-/// Does one import. Runs in a worker thread, looks at the flag often and tells how far it is (0 … 1).
-using ImportFunction = std::function<ImportResult(
-    const ImportRequest &request, const std::atomic<bool> &cancelled,
-    const std::function<void(double)> &progress)>;
+/// Does one import. Runs in a worker thread, looks at the flag often and tells how far it is (0 …
+/// 1).
+using ImportFunction =
+    std::function<ImportResult(const ImportRequest &request, const std::atomic<bool> &cancelled,
+                               const std::function<void(double)> &progress)>;

@@ -11,7 +11,8 @@ JournalModel::JournalModel(int capacity, QObject *parent)
     : QAbstractTableModel(parent)
     , m_capacity(std::max(capacity, 1))
     , m_deviceName([](long deviceNo) { return QString::number(deviceNo); })
-{}
+{
+}
 
 JournalModel::~JournalModel()
 {
@@ -35,7 +36,8 @@ void JournalModel::controllerCalled(const ControllerCall &call)
             m_mailbox.pop_front();
     }
     if (first)
-        QMetaObject::invokeMethod(this, [this] { takeCalls(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { takeCalls(); }, Qt::QueuedConnection);
 }
 
 void JournalModel::takeCalls()

@@ -47,6 +47,21 @@ void installTranslators()
     installTranslator(QStringLiteral("qtbase"), folder);
 }
 
+/// True when a window can certainly not be opened: Qt would end the process in its own words.
+bool lacksDisplay(const QStringList &arguments)
+{
+#if defined(Q_OS_LINUX)
+    for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+        if (!qEnvironmentVariableIsEmpty(variable))
+            return false;
+    }
+    return arguments.filter(QRegularExpression(QStringLiteral("^--?platform$"))).isEmpty();
+#else
+    Q_UNUSED(arguments)
+    return false;
+#endif
+}
+
 /// Answers --help, --version and mistakes; true when nothing is left to do.
 bool isAnswered(QCommandLineParser &parser, const CommandLine &line, int &status)
 {
@@ -139,10 +154,12 @@ int main(int argc, char *argv[])
     if (tour) {
         // The same picture on every platform: one resolution, one style, one font.
         qputenv("QT_FONT_DPI", "96");
-        if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
-            && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        if (lacksDisplay(given))
             qputenv("QT_QPA_PLATFORM", "offscreen");
-        }
+    } else if (lacksDisplay(given)) {
+        say(QStringLiteral("There is no display to open a window on. Start the workbench from a "
+                           "desktop session; --check and --tour need none."));
+        return unusableStatus;
     }
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);

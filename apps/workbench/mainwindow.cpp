@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mainwindow.h"
 
-#include "ui_mainwindow.h"
 #include "iedchooser.h"
+#include "ui_mainwindow.h"
 #include "workbench.h"
 
 #include <host/driverprotocolextentioninterface.h>
@@ -57,9 +57,9 @@ MainWindow::MainWindow(Workbench &workbench, const QString &pluginFolder, QWidge
     m_ui->setupUi(this);
     m_context.mainWindow = this;
     m_ui->extensionPanel->hide();
-    m_ui->extensionIcon->setPixmap(
-        style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(style()->pixelMetric(
-            QStyle::PM_LargeIconSize)));
+    m_ui->extensionIcon->setPixmap(style()
+                                       ->standardIcon(QStyle::SP_MessageBoxWarning)
+                                       .pixmap(style()->pixelMetric(QStyle::PM_LargeIconSize)));
 
     setUpViews();
     setUpActions();
@@ -68,9 +68,8 @@ MainWindow::MainWindow(Workbench &workbench, const QString &pluginFolder, QWidge
     connect(&m_workbench, &Workbench::choiceNeeded, this, &MainWindow::askForIeds);
     connect(&m_workbench, &Workbench::deviceOpened, this, &MainWindow::selectDevice);
     connect(&m_workbench, &Workbench::openFailed, this, &MainWindow::showFailures);
-    connect(&m_workbench, &Workbench::loadingCancelled, this, [this] {
-        statusBar()->showMessage(tr("Loading was cancelled."), messageTime);
-    });
+    connect(&m_workbench, &Workbench::loadingCancelled, this,
+            [this] { statusBar()->showMessage(tr("Loading was cancelled."), messageTime); });
     showSelection();
 }
 
@@ -96,11 +95,12 @@ void MainWindow::setUpViews()
 
     DeviceListModel &model = m_workbench.devices();
     connect(&model, &QAbstractItemModel::dataChanged, this, &MainWindow::showSelection);
-    connect(&model, &QAbstractItemModel::rowsInserted, this, [this](const QModelIndex &, int first) {
-        if (!m_ui->deviceView->currentIndex().isValid())
-            m_ui->deviceView->setCurrentIndex(m_workbench.devices().index(first, 0));
-        showSelection();
-    });
+    connect(&model, &QAbstractItemModel::rowsInserted, this,
+            [this](const QModelIndex &, int first) {
+                if (!m_ui->deviceView->currentIndex().isValid())
+                    m_ui->deviceView->setCurrentIndex(m_workbench.devices().index(first, 0));
+                showSelection();
+            });
     connect(&model, &QAbstractItemModel::rowsRemoved, this, &MainWindow::showSelection);
 
     m_sortedFindings->setSourceModel(m_findings);
@@ -165,10 +165,9 @@ void MainWindow::setUpActions()
     connect(m_ui->extensionRetry, &QPushButton::clicked, this, &MainWindow::loadExtension);
 
     m_ui->journalView->addAction(m_ui->actionClearJournal);
-    m_ui->menuView->insertActions(m_ui->actionClearJournal,
-                                  {m_ui->findingsDock->toggleViewAction(),
-                                   m_ui->journalDock->toggleViewAction(),
-                                   m_ui->toolBar->toggleViewAction()});
+    m_ui->menuView->insertActions(m_ui->actionClearJournal, {m_ui->findingsDock->toggleViewAction(),
+                                                             m_ui->journalDock->toggleViewAction(),
+                                                             m_ui->toolBar->toggleViewAction()});
     m_ui->menuView->insertSeparator(m_ui->actionClearJournal);
     m_ui->menuTools->menuAction()->setEnabled(false);
 }
@@ -201,9 +200,9 @@ void MainWindow::setUpProgress()
     connect(&loader, &DeviceLoader::progressed, this, [this](const QString &file, int permille) {
         const QString name = QFileInfo(file).fileName();
         const int left = m_workbench.loader().remaining();
-        m_progressText->setText(left > 1 ? tr("Reading %1 (%2 files left)")
-                                               .arg(name, QString::number(left))
-                                         : tr("Reading %1").arg(name));
+        m_progressText->setText(
+            left > 1 ? tr("Reading %1 (%2 files left)").arg(name, QString::number(left))
+                     : tr("Reading %1").arg(name));
         m_progress->setValue(permille);
     });
 }
@@ -213,10 +212,9 @@ void MainWindow::loadExtension()
     m_extension = ::loadExtension(m_pluginFolder);
     m_ui->extensionPanel->setVisible(m_extension.extension == nullptr);
     if (!m_extension.extension) {
-        m_ui->extensionText->setText(
-            tr("The IEC 61850 tools are not available.\n%1\n%2 %3")
-                .arg(QDir::toNativeSeparators(m_extension.file), m_extension.reason,
-                     m_extension.remedy));
+        m_ui->extensionText->setText(tr("The IEC 61850 tools are not available.\n%1\n%2 %3")
+                                         .arg(QDir::toNativeSeparators(m_extension.file),
+                                              m_extension.reason, m_extension.remedy));
         return;
     }
     const QList<QAction *> actions = m_extension.extension->actions();
@@ -277,7 +275,7 @@ void MainWindow::selectDevice(int number)
 void MainWindow::showSelection()
 {
     m_ui->pages->setCurrentWidget(m_workbench.devices().rowCount() > 0 ? m_ui->devicesPage
-                                                                      : m_ui->emptyPage);
+                                                                       : m_ui->emptyPage);
     const int number = selectedDevice();
     const DeviceListModel::Device *device = m_workbench.devices().device(number);
     const bool ready = device && device->state == DeviceListModel::Ready;
@@ -295,16 +293,25 @@ void MainWindow::showSelection()
     if (!device) {
         m_ui->findingsDock->setWindowTitle(tr("Findings"));
         m_ui->findingsView->setPlaceholder(
-            tr("Select a device to see what its file has to be told about."));
+            tr("Select a device to see what was noticed while its file was read."));
         return;
     }
     const QString summary = m_findings->summary();
     m_ui->findingsDock->setWindowTitle(
         summary.isEmpty() ? tr("Findings: %1").arg(device->record.ied)
                           : tr("Findings: %1 (%2)").arg(device->record.ied, summary));
-    m_ui->findingsView->setPlaceholder(
-        ready ? tr("No findings: everything in the file of this device was understood.")
-              : QString());
+    if (ready) {
+        m_ui->findingsView->setPlaceholder(
+            tr("No findings: everything in the file of this device was understood."));
+    } else if (device->state == DeviceListModel::Failed) {
+        m_ui->findingsView->setPlaceholder(
+            tr("The model cannot be read. %1\nRead it again with %2, or remove the device from the "
+               "list.")
+                .arg(device->reason,
+                     m_ui->actionReload->shortcut().toString(QKeySequence::NativeText)));
+    } else {
+        m_ui->findingsView->setPlaceholder({});
+    }
 }
 
 void MainWindow::showDeviceMenu(const QPoint &position)
@@ -329,8 +336,8 @@ void MainWindow::openFile()
                                "*.SCD *.SED *.SSD *.xml)"),
                             tr("All files (*)")});
     if (const DeviceListModel::Device *device = m_workbench.devices().device(selectedDevice());
-        device && QFileInfo(device->record.file).dir().exists()
-        && !device->record.file.startsWith(QLatin1Char(':'))) {
+        device && QFileInfo(device->record.file).dir().exists() &&
+        !device->record.file.startsWith(QLatin1Char(':'))) {
         dialog->setDirectory(QFileInfo(device->record.file).dir());
     }
     connect(dialog, &QFileDialog::filesSelected, this, [this](const QStringList &files) {

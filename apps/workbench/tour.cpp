@@ -133,7 +133,8 @@ Tour::Tour(Workbench &workbench, MainWindow &window, const QString &folder)
     : m_workbench(workbench)
     , m_window(window)
     , m_folder(folder)
-{}
+{
+}
 
 bool Tour::run()
 {
@@ -143,8 +144,8 @@ bool Tour::run()
         return fail(Texts::tr("The plug-in \"%1\" is not available: %2")
                         .arg(m_window.extension().file, m_window.extension().reason));
     }
-    return openDevices() && showBrowser() && showOfflineSettingGroups()
-           && showOfflineReportControl() && showFileService() && showWorkbench();
+    return openDevices() && showBrowser() && showOfflineSettingGroups() &&
+           showOfflineReportControl() && showFileService() && showWorkbench();
 }
 
 bool Tour::openDevices()
@@ -233,9 +234,8 @@ bool Tour::showOfflineSettingGroups()
             findNode(model, model.index(ld, 0, root), typeColumn, QStringLiteral("LLN0"));
         // The setting group control block comes first where a logical device has one.
         const QModelIndex first = lln0.isValid() ? model.index(0, 0, lln0) : QModelIndex();
-        if (first.isValid()
-            && showDialog([&] { doubleClick(first); }, dialog,
-                          QStringLiteral("offline-setting-groups"))) {
+        if (first.isValid() && showDialog([&] { doubleClick(first); }, dialog,
+                                          QStringLiteral("offline-setting-groups"))) {
             return true;
         }
         if (!m_problem.isEmpty())
@@ -250,9 +250,8 @@ bool Tour::showOfflineReportControl()
     const QString dialog = QStringLiteral("ReportControl");
     const QModelIndex list = findNode(model, model.index(0, 0), 0, dialog);
     const QModelIndex block = list.isValid() ? model.index(0, 0, list) : QModelIndex();
-    if (block.isValid()
-        && showDialog([&] { doubleClick(block); }, dialog,
-                      QStringLiteral("offline-report-control"))) {
+    if (block.isValid() &&
+        showDialog([&] { doubleClick(block); }, dialog, QStringLiteral("offline-report-control"))) {
         return true;
     }
     return fail(Texts::tr("The window \"%1\" did not appear.").arg(dialog));
@@ -264,8 +263,8 @@ bool Tour::showFileService()
     if (!action)
         return false;
     const QString dialog = QStringLiteral("FileServiceDialog");
-    return showDialog([&] { action->trigger(); }, dialog, QStringLiteral("file-service"))
-           || fail(Texts::tr("The window \"%1\" did not appear.").arg(dialog));
+    return showDialog([&] { action->trigger(); }, dialog, QStringLiteral("file-service")) ||
+           fail(Texts::tr("The window \"%1\" did not appear.").arg(dialog));
 }
 
 bool Tour::showWorkbench()

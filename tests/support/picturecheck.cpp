@@ -39,8 +39,8 @@ QString problem(const QString &file)
         for (int x = 0; x < image.width(); ++x)
             ++pixels[line[x]];
     }
-    const double share = static_cast<double>(*std::max_element(pixels.cbegin(), pixels.cend()))
-                         / (static_cast<double>(image.width()) * image.height());
+    const double share = static_cast<double>(*std::max_element(pixels.cbegin(), pixels.cend())) /
+                         (static_cast<double>(image.width()) * image.height());
     if (share > blankShare) {
         return QStringLiteral("is blank: one colour covers %1 % of it.")
             .arg(share * 100, 0, 'f', 1);

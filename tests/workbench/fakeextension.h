@@ -24,14 +24,16 @@ public:
         m_initialized = true;
 #if FAKE_HAS_ACTIONS
         auto *tool = new QAction(QStringLiteral("Fake Tool"), this);
-        connect(tool, &QAction::triggered, this, [this] {
-            record(QStringLiteral("tool on device %1").arg(m_deviceNo));
-        });
+        connect(tool, &QAction::triggered, this,
+                [this] { record(QStringLiteral("tool on device %1").arg(m_deviceNo)); });
         m_actions << tool;
 #endif
     }
 
-    bool isAvailable() override { return FAKE_AVAILABLE; }
+    bool isAvailable() override
+    {
+        return FAKE_AVAILABLE;
+    }
 
     void setTaskContext(int driverNo, int deviceNo, int taskParameter,
                         HostTaskContext *context) override
@@ -40,9 +42,15 @@ public:
         setProperty("context", QVariantList{driverNo, deviceNo, taskParameter, context != nullptr});
     }
 
-    QList<QAction *> actions() override { return m_actions; }
+    QList<QAction *> actions() override
+    {
+        return m_actions;
+    }
 
-    bool supportsProtocol(int protocolType) override { return protocolType == FAKE_PROTOCOL; }
+    bool supportsProtocol(int protocolType) override
+    {
+        return protocolType == FAKE_PROTOCOL;
+    }
 
 private:
     void record(const QString &text)

@@ -117,14 +117,15 @@ void tst_DeviceLoader::aSlowLoadReportsItsProgress()
 void tst_DeviceLoader::cancellingReportsEverythingThatWaits()
 {
     QSemaphore begun;
-    DeviceLoader loader([&](const ImportRequest &, const std::atomic<bool> &cancelled, const auto &) {
-        begun.release();
-        while (!cancelled)
-            QThread::yieldCurrentThread();
-        ImportResult result;
-        result.status = ImportResult::Cancelled;
-        return result;
-    });
+    DeviceLoader loader(
+        [&](const ImportRequest &, const std::atomic<bool> &cancelled, const auto &) {
+            begun.release();
+            while (!cancelled)
+                QThread::yieldCurrentThread();
+            ImportResult result;
+            result.status = ImportResult::Cancelled;
+            return result;
+        });
     QVector<ImportResult::Status> states;
     connect(&loader, &DeviceLoader::finished, this,
             [&](int, const ImportResult &result) { states << result.status; });
@@ -133,8 +134,8 @@ void tst_DeviceLoader::cancellingReportsEverythingThatWaits()
     QVERIFY(begun.tryAcquire(1, 5000));
     loader.cancel();
     QTRY_COMPARE(states.size(), 2);
-    QCOMPARE(states, (QVector<ImportResult::Status>{ImportResult::Cancelled,
-                                                    ImportResult::Cancelled}));
+    QCOMPARE(states,
+             (QVector<ImportResult::Status>{ImportResult::Cancelled, ImportResult::Cancelled}));
     QVERIFY2(!begun.tryAcquire(), "a request that was cancelled while it waited is not begun");
 }
 

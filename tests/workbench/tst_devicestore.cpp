@@ -109,7 +109,8 @@ void tst_DeviceStore::theSameIedOfTheSameFileIsOneDevice()
     DeviceStore store(settingsFile());
     const int number = store.add(file, QStringLiteral("A"));
     QCOMPARE(store.add(file, QStringLiteral("A")), number);
-    QCOMPARE(store.add(m_folder->filePath(QStringLiteral("link.scd")), QStringLiteral("A")), number);
+    QCOMPARE(store.add(m_folder->filePath(QStringLiteral("link.scd")), QStringLiteral("A")),
+             number);
     QCOMPARE(store.find(m_folder->filePath(QStringLiteral("./x/../a.scd")), QStringLiteral("A")),
              number);
     QCOMPARE(store.devices().size(), 1);

@@ -15,15 +15,17 @@ QByteArray ied(const char *name, bool withServer = true)
 {
     const QByteArray server = "<Server><Authentication/><LDevice inst=\"LD0\">"
                               "<LN0 lnClass=\"LLN0\" inst=\"\" lnType=\"T\"/></LDevice></Server>";
-    return QByteArray("<IED name=\"") + name + "\" manufacturer=\"M\" type=\"T\">"
-           "<AccessPoint name=\"P1\">" + (withServer ? server : QByteArray()) +
-           "</AccessPoint></IED>";
+    return QByteArray("<IED name=\"") + name +
+           "\" manufacturer=\"M\" type=\"T\">"
+           "<AccessPoint name=\"P1\">" +
+           (withServer ? server : QByteArray()) + "</AccessPoint></IED>";
 }
 
 QByteArray sclFile(const QByteArray &ieds)
 {
     return "<?xml version=\"1.0\"?><SCL xmlns=\"http://www.iec.ch/61850/2003/SCL\" "
-           "version=\"2007\" revision=\"B\" release=\"4\"><Header id=\"x\"/>" + ieds +
+           "version=\"2007\" revision=\"B\" release=\"4\"><Header id=\"x\"/>" +
+           ieds +
            "<DataTypeTemplates><LNodeType id=\"T\" lnClass=\"LLN0\"><DO name=\"Beh\" type=\"B\"/>"
            "</LNodeType><DOType id=\"B\" cdc=\"ENS\">"
            "<DA name=\"q\" fc=\"ST\" bType=\"Quality\"/></DOType></DataTypeTemplates></SCL>";
@@ -131,9 +133,11 @@ void tst_EmbeddedDriver::aCarelessChoiceGivesOneSentence_data()
     QTest::newRow("missing file") << m_folder.filePath(QStringLiteral("missing.scd")) << QString();
     QTest::newRow("folder") << m_folder.path() << QString();
     QTest::newRow("empty file") << file(QStringLiteral("empty.scd"), {}) << QString();
-    QTest::newRow("picture") << file(QStringLiteral("p.png"), QByteArray("\x89PNG\r\n\x1a\n\0\0", 10))
+    QTest::newRow("picture") << file(QStringLiteral("p.png"),
+                                     QByteArray("\x89PNG\r\n\x1a\n\0\0", 10))
                              << QString();
-    QTest::newRow("web page") << file(QStringLiteral("p.html"), "<html><body/></html>") << QString();
+    QTest::newRow("web page") << file(QStringLiteral("p.html"), "<html><body/></html>")
+                              << QString();
     QTest::newRow("cut off") << file(QStringLiteral("cut.scd"), sclFile(ied("BAY1")).left(300))
                              << QString();
     QTest::newRow("no IED") << file(QStringLiteral("none.ssd"), sclFile({})) << QString();

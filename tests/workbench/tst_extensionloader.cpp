@@ -50,14 +50,16 @@ void tst_ExtensionLoader::aRefusalNamesTheFileTheReasonAndTheRemedy_data()
 {
     QTest::addColumn<QString>("folder");
     QTest::addColumn<QString>("reason");
-    QTest::newRow("no folder") << QStringLiteral("nowhere") << QStringLiteral("folder does not exist");
+    QTest::newRow("no folder") << QStringLiteral("nowhere")
+                               << QStringLiteral("folder does not exist");
     QTest::newRow("no file") << QString() << QStringLiteral("file does not exist");
     QTest::newRow("interface") << QStringLiteral("wronginterface")
                                << QStringLiteral("\"org.example.other\"");
     QTest::newRow("key") << QStringLiteral("wrongkey") << QStringLiteral("key \"IEC61850Ext\"");
     QTest::newRow("protocol") << QStringLiteral("wrongprotocol")
                               << QStringLiteral("does not serve IEC 61850");
-    QTest::newRow("availability") << QStringLiteral("unavailable") << QStringLiteral("not available");
+    QTest::newRow("availability") << QStringLiteral("unavailable")
+                                  << QStringLiteral("not available");
     QTest::newRow("actions") << QStringLiteral("idle") << QStringLiteral("no action");
 }
 

@@ -43,8 +43,7 @@ void tst_FindingsModel::aFindingShowsSeverityLineElementAndSentence()
     QCOMPARE(cell(model, 0, FindingsModel::LineColumn), QStringLiteral("12"));
     QCOMPARE(cell(model, 0, FindingsModel::ElementColumn), QStringLiteral("SCL/IED[BAY1]"));
     QCOMPARE(cell(model, 0, FindingsModel::TextColumn), QStringLiteral("Größe fehlt."));
-    const QVariant icon =
-        model.index(0, FindingsModel::SeverityColumn).data(Qt::DecorationRole);
+    const QVariant icon = model.index(0, FindingsModel::SeverityColumn).data(Qt::DecorationRole);
     QVERIFY(!icon.value<QIcon>().isNull());
 }
 
@@ -84,8 +83,8 @@ void tst_FindingsModel::theSeverestComeFirstWhenSortedBySeverity()
 void tst_FindingsModel::linesAreSortedAsNumbers()
 {
     FindingsModel model;
-    model.setFindings({finding(scl::Severity::Info, 100, "late"),
-                       finding(scl::Severity::Info, 9, "early")});
+    model.setFindings(
+        {finding(scl::Severity::Info, 100, "late"), finding(scl::Severity::Info, 9, "early")});
     QSortFilterProxyModel sorted;
     sorted.setSourceModel(&model);
     sorted.setSortRole(FindingsModel::SortRole);

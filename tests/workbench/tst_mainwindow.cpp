@@ -73,7 +73,8 @@ private slots:
 private:
     ImportResult import(const ImportRequest &request, const std::atomic<bool> &cancelled);
     void open(const QString &name, const QString &ied = {});
-    template <typename T> T *child(const char *name) const
+    template <typename T>
+    T *child(const char *name) const
     {
         return m_window->findChild<T *>(QString::fromLatin1(name));
     }
@@ -286,9 +287,7 @@ void tst_MainWindow::anIedWithoutLogicalDevicesCannotBeChosen()
     QVERIFY(chooser.chosenIeds().isEmpty());
     chooser.findChild<QTreeWidget *>()->selectAll();
     QVERIFY(chooser.chosenIeds().isEmpty());
-    QVERIFY(!chooser.findChild<QDialogButtonBox *>()
-                 ->button(QDialogButtonBox::Ok)
-                 ->isEnabled());
+    QVERIFY(!chooser.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->isEnabled());
 }
 
 void tst_MainWindow::findingsOfTheSelectedDeviceAreShown()

@@ -57,8 +57,7 @@ void tst_PictureCheck::initTestCase()
 
 void tst_PictureCheck::aPictureThatShowsSomethingPasses()
 {
-    const Outcome outcome =
-        check({saved(QStringLiteral("good.png"), QSize(400, 200), 0.05)});
+    const Outcome outcome = check({saved(QStringLiteral("good.png"), QSize(400, 200), 0.05)});
     QCOMPARE(outcome.status, 0);
     QCOMPARE(outcome.sentence, QString());
 }

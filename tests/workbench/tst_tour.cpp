@@ -69,9 +69,9 @@ void tst_Tour::aFolderThatCannotBeMadeEndsTheTourWithASentence()
 {
     QFile inTheWay(m_folder.filePath(QStringLiteral("file")));
     QVERIFY(inTheWay.open(QIODevice::WriteOnly));
-    const Outcome tour = run(QStringLiteral(WORKBENCH), {QStringLiteral("--tour"),
-                                                         inTheWay.fileName()
-                                                             + QStringLiteral("/pictures")});
+    const Outcome tour =
+        run(QStringLiteral(WORKBENCH),
+            {QStringLiteral("--tour"), inTheWay.fileName() + QStringLiteral("/pictures")});
     QCOMPARE(tour.status, 1);
     QVERIFY2(tour.sentence.contains(QStringLiteral("cannot be made")), qPrintable(tour.sentence));
 }

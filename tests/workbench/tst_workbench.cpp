@@ -18,7 +18,7 @@ namespace {
 /// What the import finds in the files of a test, and what the driver was given.
 struct World
 {
-    QMap<QString, QStringList> ieds;  ///< by file name; a file that is not listed cannot be read
+    QMap<QString, QStringList> ieds; ///< by file name; a file that is not listed cannot be read
     QMap<int, QByteArray> held;
     QSemaphore mayEnd;
     std::atomic<bool> slow{false}; ///< the import waits for `mayEnd` or the cancel flag
@@ -87,7 +87,10 @@ private slots:
     void theConsoleKnowsWhereADeviceIs();
 
 private:
-    std::unique_ptr<Workbench> make() { return std::make_unique<Workbench>(m_settings, m_world->driver()); }
+    std::unique_ptr<Workbench> make()
+    {
+        return std::make_unique<Workbench>(m_settings, m_world->driver());
+    }
     /// A workbench that is not at its first start.
     std::unique_ptr<Workbench> makeUsed();
     QString file(const QString &name, const QStringList &ieds);
@@ -173,8 +176,7 @@ void tst_Workbench::openingAFileAddsItsDevice()
 
 void tst_Workbench::rememberedDevicesAreReadAtTheNextStart()
 {
-    const QString path =
-        file(QStringLiteral("a.scd"), {QStringLiteral("A"), QStringLiteral("B")});
+    const QString path = file(QStringLiteral("a.scd"), {QStringLiteral("A"), QStringLiteral("B")});
     {
         const auto workbench = makeUsed();
         workbench->open(path, QStringLiteral("B"));
@@ -223,8 +225,7 @@ void tst_Workbench::severalBadFilesAreReportedTogether()
 void tst_Workbench::aFileWithSeveralIedsAsksWhichOne()
 {
     const auto workbench = makeUsed();
-    const QString path =
-        file(QStringLiteral("a.scd"), {QStringLiteral("A"), QStringLiteral("B")});
+    const QString path = file(QStringLiteral("a.scd"), {QStringLiteral("A"), QStringLiteral("B")});
     QStringList offered;
     connect(workbench.get(), &Workbench::choiceNeeded, this,
             [&](const QString &asked, const QVector<IedSummary> &ieds) {
