@@ -393,8 +393,10 @@ private:
 void DeviceStream::read(QDataStream &stream, PhysicalDevice &device, AttributeIndex &index)
 {
     QIODevice *source = stream.device();
-    if (!source || !source->isReadable())
+    if (!source || !source->isReadable()) {
         stream.setStatus(QDataStream::ReadPastEnd);
+        return;
+    }
     if (stream.status() != QDataStream::Ok)
         return;
 

@@ -33,7 +33,8 @@ inline quint32 of(const void *text, std::size_t size, quint64 seed)
         odd = mixed(odd, wordAt(bytes + sizeof(quint64)));
     }
     char rest[step] = {};
-    std::memcpy(rest, bytes, left);
+    if (left > 0) // an empty text may have no bytes at all
+        std::memcpy(rest, bytes, left);
     even = mixed(even, wordAt(rest));
     odd = mixed(odd, wordAt(rest + sizeof(quint64)));
     return static_cast<quint32>(mixed(even, (odd << 32) | (odd >> 32)));

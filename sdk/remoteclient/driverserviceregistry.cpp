@@ -2,16 +2,15 @@
 #include "driverserviceregistry.h"
 
 #include <QtCore/QHash>
-#include <QtCore/QMutex>
-#include <QtCore/QMutexLocker>
 
+#include <mutex>
 #include <utility>
 
 namespace {
 
 struct Registry
 {
-    QMutex mutex;
+    std::mutex mutex;
     QHash<QString, std::shared_ptr<DriverService>> services;
 };
 
@@ -26,7 +25,7 @@ Registry &registry()
 void DriverServiceRegistry::add(const QString &address, std::shared_ptr<DriverService> service)
 {
     Registry &r = registry();
-    QMutexLocker lock(&r.mutex);
+    std::unique_lock<std::mutex> lock(r.mutex);
     // The service that is replaced dies outside the lock: its destructor may take its time.
     std::swap(r.services[address], service);
     lock.unlock();
@@ -35,7 +34,7 @@ void DriverServiceRegistry::add(const QString &address, std::shared_ptr<DriverSe
 void DriverServiceRegistry::remove(const QString &address)
 {
     Registry &r = registry();
-    QMutexLocker lock(&r.mutex);
+    std::unique_lock<std::mutex> lock(r.mutex);
     const std::shared_ptr<DriverService> removed = r.services.take(address);
     lock.unlock();
 }
@@ -43,6 +42,6 @@ void DriverServiceRegistry::remove(const QString &address)
 std::shared_ptr<DriverService> DriverServiceRegistry::find(const QString &address)
 {
     Registry &r = registry();
-    const QMutexLocker lock(&r.mutex);
+    const std::lock_guard<std::mutex> lock(r.mutex);
     return r.services.value(address);
 }

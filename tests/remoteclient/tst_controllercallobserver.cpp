@@ -4,7 +4,7 @@
 #include <remoteclient/controllercallobserver.h>
 #include <remoteclient/iec61850controllerinterface.h>
 
-#include <QtCore/QSemaphore>
+#include <QtCore/QElapsedTimer>
 #include <QtTest/QtTest>
 
 namespace {

@@ -4,10 +4,10 @@
 #include <remoteclient/driverserviceregistry.h>
 #include <remoteclient/iec61850controllerinterface.h>
 
-#include <QtCore/QSemaphore>
 #include <QtTest/QtTest>
 
 #include <atomic>
+#include <future>
 #include <thread>
 #include <vector>
 
@@ -52,13 +52,13 @@ private slots:
 
     void aServiceRemovedDuringACallAnswersItStill()
     {
-        QSemaphore entered;
-        QSemaphore removed;
+        std::promise<void> entered;
+        std::promise<void> removed;
         auto service = std::make_shared<RecordingDriverService>();
         service->setAnswer(QStringLiteral("deleteFile"), OperationFailed, QStringLiteral("busy"));
         service->setOnCall([&](const RecordingDriverService::Call &) {
-            entered.release();
-            removed.acquire();
+            entered.set_value();
+            removed.get_future().wait();
         });
         const std::weak_ptr<RecordingDriverService> watched = service;
         DriverServiceRegistry::add(QStringLiteral("test:a"), std::move(service));
@@ -70,10 +70,10 @@ private slots:
             controller.setLocation(QStringLiteral("test:a"), 1);
             result = controller.deleteFile(1, QStringLiteral("f"), error);
         });
-        entered.acquire();
+        entered.get_future().wait();
         DriverServiceRegistry::remove(QStringLiteral("test:a"));
         QVERIFY(!watched.expired());
-        removed.release();
+        removed.set_value();
         caller.join();
         QCOMPARE(result, OperationFailed);
         QCOMPARE(error, QStringLiteral("busy"));

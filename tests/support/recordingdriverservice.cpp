@@ -3,31 +3,31 @@
 
 #include <remoteclient/driverserviceregistry.h>
 
-#include <QtCore/QMutexLocker>
+#include <utility>
 
 void RecordingDriverService::setAnswer(const QString &operation, OperationResult result,
                                        const QString &error)
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     m_answers[operation] = {result, error};
 }
 
 void RecordingDriverService::addAnswer(const QString &operation, OperationResult result,
                                        const QString &error)
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     m_nextAnswers[operation].append({result, error});
 }
 
 void RecordingDriverService::setOnCall(std::function<void(const Call &)> onCall)
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     m_onCall = std::move(onCall);
 }
 
 QList<RecordingDriverService::Call> RecordingDriverService::calls() const
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     return m_calls;
 }
 
@@ -51,7 +51,7 @@ QStringList RecordingDriverService::operations() const
 
 void RecordingDriverService::forgetCalls()
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     m_calls.clear();
 }
 
@@ -59,7 +59,7 @@ OperationResult RecordingDriverService::answer(const char *operation, long devic
                                                const QVariantList &arguments, QString &error)
 {
     const Call call{QString::fromLatin1(operation), deviceNo, arguments};
-    QMutexLocker lock(&m_mutex);
+    std::unique_lock<std::mutex> lock(m_mutex);
     m_calls.append(call);
     QList<Answer> &next = m_nextAnswers[call.operation];
     const Answer answer = next.isEmpty() ? m_answers.value(call.operation) : next.takeFirst();

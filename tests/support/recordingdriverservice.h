@@ -5,10 +5,11 @@
 
 #include <QtCore/QHash>
 #include <QtCore/QMetaType>
-#include <QtCore/QMutex>
 #include <QtCore/QVariantList>
 
 #include <functional>
+#include <memory>
+#include <mutex>
 
 /// A driver service for tests: writes down every call and answers as the test has said.
 ///
@@ -135,7 +136,7 @@ private:
     OperationResult answerWithList(QList<NameVaildValue> &list, const char *operation,
                                    long deviceNo, const QVariantList &arguments, QString &error);
 
-    mutable QMutex m_mutex;
+    mutable std::mutex m_mutex;
     QList<Call> m_calls;
     QHash<QString, Answer> m_answers;
     QHash<QString, QList<Answer>> m_nextAnswers;
