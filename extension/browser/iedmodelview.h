@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "model/attributenodes.h"
 #include "model/scltemplatestore.h"
 
 #include <devicemodel/mmsvalue.h>
 #include <devicemodel/physicaldevice.h>
 #include <remoteclient/iec61850controllerinterface.h>
 
-#include <QtCore/QHash>
 #include <QtWidgets/QDialog>
 
 #include <initializer_list>
@@ -102,7 +102,7 @@ private:
     HostTaskContext *m_hostContext;
     IEC61850ControllerInterface m_controller;
     PhysicalDevice m_device;
-    QHash<DataAttribute *, IEDNode *> m_attributeIndex;
+    AttributeNodes m_attributeIndex;
     IEDModelDelegate *m_delegate;
     MMSListener *m_listener = nullptr;
     int m_deviceNo;

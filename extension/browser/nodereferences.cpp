@@ -9,14 +9,17 @@
 
 namespace {
 
-/// The node's path from its data object down.
+/// The node's path from its data object down. An array element bears the array's name already, so
+/// the array's own node is left out: "HA$har(3)".
 QString pathFromDataObject(const IEDNode *node, QChar separator)
 {
     QString path = node->name();
     for (const IEDNode *above = node->parent; above; above = above->parent) {
         if (above->type != DataAttributeNode && above->type != DataObjectNode)
             break;
-        path.prepend(above->name() + separator);
+        const QString name = above->name();
+        if (!path.startsWith(name + QLatin1Char('(')))
+            path.prepend(name + separator);
     }
     return path;
 }

@@ -21,17 +21,6 @@ IEDNode *AttributeNodes::value(const DataAttribute *attribute) const
     return m_slots.isEmpty() || !attribute ? nullptr : m_slots.at(slotOf(attribute)).node;
 }
 
-AttributeNodes::operator QHash<DataAttribute *, IEDNode *>() const
-{
-    QHash<DataAttribute *, IEDNode *> hash;
-    hash.reserve(m_size);
-    for (const Slot &slot : m_slots) {
-        if (slot.attribute)
-            hash.insert(slot.attribute, slot.node);
-    }
-    return hash;
-}
-
 int AttributeNodes::slotOf(const DataAttribute *attribute) const
 {
     // Addresses differ in a few bits in their middle; the factor spreads these over the upper half.

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QtCore/QHash>
 #include <QtCore/QVector>
 
 struct DataAttribute;
@@ -25,9 +24,6 @@ public:
     bool contains(const DataAttribute *attribute) const { return value(attribute) != nullptr; }
     int size() const { return m_size; }
     bool isEmpty() const { return m_size == 0; }
-
-    /// A copy as a QHash.
-    operator QHash<DataAttribute *, IEDNode *>() const;
 
 private:
     struct Slot

@@ -13,6 +13,10 @@ namespace {
 constexpr int valueColumn = 1;
 constexpr int editorOverlap = 2;
 
+/// Set on a list in which the operator has not chosen yet. The view commits whatever editor it
+/// closes, and the entry shown at first need not be the stored value.
+const char untouched[] = "untouched";
+
 bool isEnumerated(const QString &basicType)
 {
     return basicType == QLatin1String("Enum") || basicType == QLatin1String("Dbpos") ||
@@ -62,16 +66,25 @@ QWidget *IEDModelDelegate::createEditor(QWidget *parent, const QStyleOptionViewI
     IEDNode *const node = index.column() == valueColumn ? IEDModel::nodeAt(index) : nullptr;
     const DataAttribute *const attribute = node ? node->dataAttribute() : nullptr;
     const bool isBoolean = attribute && attribute->basicType == QLatin1String("BOOLEAN");
-    if (!attribute || (!isBoolean && !isEnumerated(attribute->basicType)))
-        return QItemDelegate::createEditor(parent, option, index);
+    if (!attribute || (!isBoolean && !isEnumerated(attribute->basicType))) {
+        QWidget *const editor = QItemDelegate::createEditor(parent, option, index);
+        if (editor && attribute)
+            editor->setAccessibleName(attribute->reference);
+        return editor;
+    }
 
     auto *const box = new QComboBox(parent);
+    box->setAccessibleName(attribute->reference);
     if (isBoolean) {
         fillWithBooleans(box, *attribute);
     } else {
         fillWithEnumeration(box, *attribute, *IEDModel::rootNode(node)->physicalDevice(),
                             *m_templates);
     }
+    box->setProperty(untouched, true);
+    const auto choose = [box] { box->setProperty(untouched, false); };
+    connect(box, QOverload<int>::of(&QComboBox::activated), box, choose);
+    connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), box, choose);
     connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &IEDModelDelegate::emitCommitData);
     return box;
@@ -87,7 +100,7 @@ void IEDModelDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
         QItemDelegate::setModelData(editor, model, index);
         return;
     }
-    if (box->currentIndex() >= 0)
+    if (box->currentIndex() >= 0 && !box->property(untouched).toBool())
         model->setData(index, box->currentData(Qt::UserRole).toInt(), Qt::EditRole);
 }
 

@@ -22,7 +22,8 @@ public:
     /// Does nothing: a list is filled when it is created, and stays as it is while values change.
     void setEditorData(QWidget *editor, const QModelIndex &index) const override;
 
-    /// Hand the code of a list's current entry to the model; nothing for a list without one.
+    /// Hand the code of a list's current entry to the model; nothing for a list without one, or one
+    /// in which nothing was chosen.
     void setModelData(QWidget *editor, QAbstractItemModel *model,
                       const QModelIndex &index) const override;
     void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,

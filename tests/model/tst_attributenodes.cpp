@@ -17,7 +17,6 @@ private slots:
     void anotherAttributeIsNotFound();
     void theLastNodeOfAnAttributeHolds();
     void aCopyKeepsWhatTheOriginalLoses();
-    void aHashHoldsTheSame();
 };
 
 void tst_AttributeNodes::nothingIsFoundWithoutNodes()
@@ -116,26 +115,6 @@ void tst_AttributeNodes::aCopyKeepsWhatTheOriginalLoses()
         nodes = AttributeNodes();
         QVERIFY(nodes.isEmpty());
         QCOMPARE(copy.value(dao->attribute), node);
-    }
-    qDeleteAll(daos);
-}
-
-void tst_AttributeNodes::aHashHoldsTheSame()
-{
-    PhysicalDevice device;
-    QList<DAO *> daos;
-    QVector<IEDNode *> leaves;
-    {
-        IEDNode root(&device);
-        for (int i = 0; i < 10; ++i) {
-            leaves << new IEDNode(DeviceBuilder::addAttribute(daos, QString::number(i), QString(),
-                                                              QStringLiteral("INT32")),
-                                  &root);
-        }
-        const QHash<DataAttribute *, IEDNode *> hash = AttributeNodes(leaves);
-        QCOMPARE(hash.size(), 10);
-        for (IEDNode *const node : qAsConst(leaves))
-            QCOMPARE(hash.value(node->dataAttribute()), node);
     }
     qDeleteAll(daos);
 }

@@ -6,6 +6,7 @@
 #include "model/iedmodeldelegate.h"
 
 #include <QtTest/QtTest>
+#include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
@@ -65,6 +66,9 @@ private slots:
     void pickingWithTheKeyboardSendsOneRequest();
     void pickingWithTheMouseSendsOneRequest();
     void openingAndClosingAListSendsNothing();
+    void leavingAListOfAnUnlistedValueSendsNothing();
+    void choosingTheShownEntryOfAnUnlistedValueSendsIt();
+    void editorsAreNamedForTheirAttribute();
     void anEmptyListCanBeClosedAgain();
     void aTypedTextSendsOneRequest();
     void anEmptyTextSendsNothing();
@@ -400,6 +404,45 @@ void tst_IEDModelDelegate::openingAndClosingAListSendsNothing()
     QTest::keyClick(box, Qt::Key_Escape);
     QTRY_VERIFY(!box);
     QCOMPARE(m_requests->count(), 0);
+}
+
+void tst_IEDModelDelegate::leavingAListOfAnUnlistedValueSendsNothing()
+{
+    setAttribute(s("Enum"), 99, s("Beh"));
+    const QPointer<QComboBox> box = openEditor<QComboBox>();
+    QVERIFY(box);
+    QCOMPARE(box->currentIndex(), 0);
+    QTest::keyClick(box, Qt::Key_Return);
+    QTRY_VERIFY(!box);
+    QCOMPARE(m_requests->count(), 0);
+}
+
+void tst_IEDModelDelegate::choosingTheShownEntryOfAnUnlistedValueSendsIt()
+{
+    setAttribute(s("Enum"), 99, s("Beh"));
+    const QPointer<QComboBox> box = openEditor<QComboBox>();
+    QVERIFY(box);
+    const int code = box->itemData(0, Qt::UserRole).toInt();
+    box->showPopup();
+    QTest::keyClick(box->view(), Qt::Key_Return);
+    QTest::keyClick(box, Qt::Key_Return);
+    QTRY_VERIFY(!box);
+    QCOMPARE(m_requests->count(), 1);
+    QCOMPARE(m_requests->first().at(1).toInt(), code);
+}
+
+void tst_IEDModelDelegate::editorsAreNamedForTheirAttribute()
+{
+    setAttribute(s("Enum"), 1, s("Beh"));
+    QPointer<QWidget> editor = openEditor<QComboBox>();
+    QVERIFY(editor);
+    QCOMPARE(editor->accessibleName(), m_attribute->reference);
+    QTest::keyClick(editor, Qt::Key_Escape);
+    QTRY_VERIFY(!editor);
+    setAttribute(s("INT32"), 1, QString());
+    editor = openEditor<QLineEdit>();
+    QVERIFY(editor);
+    QCOMPARE(editor->accessibleName(), m_attribute->reference);
 }
 
 void tst_IEDModelDelegate::anEmptyListCanBeClosedAgain()
