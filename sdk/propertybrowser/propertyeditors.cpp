@@ -248,6 +248,7 @@ public:
         , m_original(value)
     {
         setFrame(false);
+        setAutoFillBackground(true);
         setTimeSpec(Qt::UTC);
         setDateTimeRange(QDateTime(QDate(100, 1, 1), QTime(0, 0), Qt::UTC),
                          QDateTime(QDate(9999, 12, 31), QTime(23, 59, 59, 999), Qt::UTC));

@@ -18,23 +18,6 @@ namespace {
 
 enum Column { NameColumn, ValueColumn };
 
-class PropertyItem : public QTreeWidgetItem
-{
-public:
-    explicit PropertyItem(QtProperty *shown)
-        : property(shown)
-    {
-    }
-
-    /// Null while the row is being taken out, so that an editor closing with it writes nowhere.
-    QtProperty *property;
-};
-
-QtProperty *propertyOf(const QTreeWidgetItem *item)
-{
-    return item ? static_cast<const PropertyItem *>(item)->property : nullptr;
-}
-
 /// Names and values come from devices; what looks like mark-up must not be taken for it.
 QString plainToolTip(const QString &text)
 {
@@ -107,7 +90,7 @@ QtTreePropertyBrowser::QtTreePropertyBrowser(QWidget *parent)
         [this](const QModelIndex &index) {
             PropertyDelegate::Target target;
             if (index.column() == ValueColumn)
-                target.property = propertyOf(m_tree->itemFromIndex(index));
+                target.property = m_properties.value(m_tree->itemFromIndex(index));
             if (target.property)
                 target.factory = factoryFor(target.property);
             return target;
@@ -209,7 +192,7 @@ QList<QtProperty *> QtTreePropertyBrowser::properties() const
 {
     QList<QtProperty *> properties;
     for (int row = 0; row < m_tree->topLevelItemCount(); ++row)
-        properties.append(propertyOf(m_tree->topLevelItem(row)));
+        properties.append(m_properties.value(m_tree->topLevelItem(row)));
     return properties;
 }
 
@@ -238,8 +221,9 @@ void QtTreePropertyBrowser::watch(QtVariantPropertyManager *manager)
 void QtTreePropertyBrowser::insert(QtProperty *property, QTreeWidgetItem *parent)
 {
     watch(property->propertyManager());
-    auto *item = new PropertyItem(property);
+    auto *item = new QTreeWidgetItem;
     m_items.insert(property, item);
+    m_properties.insert(item, property);
     parent->addChild(item);
     refresh(property);
     insertSubProperties(property);
@@ -258,8 +242,8 @@ void QtTreePropertyBrowser::insertSubProperties(QtProperty *property)
 
 void QtTreePropertyBrowser::forget(QTreeWidgetItem *item)
 {
-    m_items.remove(propertyOf(item));
-    static_cast<PropertyItem *>(item)->property = nullptr;
+    // Before the row itself goes: the view ends an open editor then, which must write nowhere.
+    m_items.remove(m_properties.take(item));
     for (int row = 0; row < item->childCount(); ++row)
         forget(item->child(row));
 }

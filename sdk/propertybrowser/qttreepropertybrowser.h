@@ -106,4 +106,5 @@ private:
     QList<QtVariantPropertyManager *> m_watched;
     QHash<const QtVariantPropertyManager *, QPointer<QtVariantEditorFactory>> m_factories;
     QHash<QtProperty *, QTreeWidgetItem *> m_items;
+    QHash<const QTreeWidgetItem *, QtProperty *> m_properties;
 };
