@@ -47,8 +47,8 @@ TextNumbers::TextNumbers()
 
 void TextNumbers::clear()
 {
-    m_slots = {};
-    m_texts = {};
+    m_slots = std::vector<Slot>();
+    m_texts = std::vector<char16_t>();
     m_used = 0;
 }
 
@@ -119,8 +119,8 @@ void AttributeIndex::clear()
 {
     m_nodes.clear();
     m_paths.clear();
-    m_noted = {};
-    m_buckets = {};
+    m_noted = std::vector<Noted>();
+    m_buckets = std::vector<Bucket>();
 }
 
 void AttributeIndex::add(DataAttribute *attribute)
@@ -138,7 +138,7 @@ void AttributeIndex::build()
     m_buckets = std::vector<Bucket>(m_noted.size() * bucketsForThem / attributesInBuckets + 1);
     for (const Noted &entry : m_noted)
         insert(entry);
-    m_noted = {};
+    m_noted = std::vector<Noted>();
 }
 
 void AttributeIndex::insert(const Noted &entry)
