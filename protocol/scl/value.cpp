@@ -32,17 +32,6 @@ char lower(char c)
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-bool equalIgnoringCase(std::string_view left, std::string_view right)
-{
-    if (left.size() != right.size())
-        return false;
-    for (std::size_t i = 0; i < left.size(); ++i) {
-        if (lower(left[i]) != lower(right[i]))
-            return false;
-    }
-    return true;
-}
-
 template <typename Number>
 bool toNumber(std::string_view text, Number &number)
 {
@@ -365,6 +354,17 @@ std::string_view trimmed(std::string_view text)
     while (!text.empty() && isBlank(text.back()))
         text.remove_suffix(1);
     return text;
+}
+
+bool equalIgnoringCase(std::string_view left, std::string_view right)
+{
+    if (left.size() != right.size())
+        return false;
+    for (std::size_t i = 0; i < left.size(); ++i) {
+        if (lower(left[i]) != lower(right[i]))
+            return false;
+    }
+    return true;
 }
 
 ParsedValue parseValue(BasicType type, const Enumeration *enumeration, std::string_view text,

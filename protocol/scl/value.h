@@ -102,4 +102,7 @@ ParsedValue parseValue(BasicType type, const Enumeration *enumeration, std::stri
 /// Text without blanks, tabs and line ends at both sides.
 std::string_view trimmed(std::string_view text);
 
+/// Compares with the letters A to Z equal to a to z.
+bool equalIgnoringCase(std::string_view left, std::string_view right);
+
 } // namespace scl
