@@ -119,7 +119,7 @@ void AttributeIndex::clear()
 {
     m_nodes.clear();
     m_paths.clear();
-    m_noted = std::vector<Noted>();
+    m_noted = std::deque<Noted>();
     m_buckets = std::vector<Bucket>();
 }
 
@@ -138,7 +138,7 @@ void AttributeIndex::build()
     m_buckets = std::vector<Bucket>(m_noted.size() * bucketsForThem / attributesInBuckets + 1);
     for (const Noted &entry : m_noted)
         insert(entry);
-    m_noted = std::vector<Noted>();
+    m_noted = std::deque<Noted>();
 }
 
 void AttributeIndex::insert(const Noted &entry)

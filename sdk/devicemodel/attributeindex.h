@@ -7,6 +7,7 @@
 #include <QtCore/QStringView>
 
 #include <array>
+#include <deque>
 #include <vector>
 
 /// Numbers for texts: equal texts have equal numbers, different texts different ones.
@@ -89,6 +90,6 @@ private:
 
     TextNumbers m_nodes;
     TextNumbers m_paths;
-    std::vector<Noted> m_noted;
+    std::deque<Noted> m_noted;
     std::vector<Bucket> m_buckets;
 };
