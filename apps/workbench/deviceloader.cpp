@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "deviceloader.h"
 
-#include <QtCore/QMutexLocker>
-#include <QtCore/QRunnable>
-
 #include <algorithm>
 
 struct DeviceLoader::Job
@@ -19,27 +16,12 @@ namespace {
 
 constexpr std::chrono::milliseconds progressInterval{100};
 
-class Task : public QRunnable
-{
-public:
-    explicit Task(std::function<void()> work)
-        : m_work(std::move(work))
-    {
-    }
-
-    void run() override { m_work(); }
-
-private:
-    std::function<void()> m_work;
-};
-
 } // namespace
 
 DeviceLoader::DeviceLoader(ImportFunction import, QObject *parent)
     : QObject(parent)
     , m_import(std::move(import))
 {
-    m_worker.setMaxThreadCount(1);
     m_slowTimer.setSingleShot(true);
     m_slowTimer.setInterval(slowAfter);
     m_progressTimer.setInterval(progressInterval);
@@ -49,13 +31,18 @@ DeviceLoader::DeviceLoader(ImportFunction import, QObject *parent)
         reportProgress();
     });
     connect(&m_progressTimer, &QTimer::timeout, this, &DeviceLoader::reportProgress);
+    m_worker = std::thread([this] { work(); });
 }
 
 DeviceLoader::~DeviceLoader()
 {
-    for (const auto &job : m_waiting)
-        job->cancelled = true;
-    m_worker.waitForDone();
+    cancel();
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_ending = true;
+    }
+    m_workArrived.notify_one();
+    m_worker.join();
 }
 
 int DeviceLoader::load(const ImportRequest &request)
@@ -66,7 +53,11 @@ int DeviceLoader::load(const ImportRequest &request)
     if (m_waiting.empty())
         m_slowTimer.start();
     m_waiting.push_back(job);
-    start(job);
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_queue.push_back(job);
+    }
+    m_workArrived.notify_one();
     return job->ticket;
 }
 
@@ -76,33 +67,42 @@ void DeviceLoader::cancel()
         job->cancelled = true;
 }
 
-void DeviceLoader::start(const std::shared_ptr<Job> &job)
+void DeviceLoader::work()
 {
-    m_worker.start(new Task([this, job] {
-        if (!job->cancelled) {
-            job->result = m_import(job->request, job->cancelled, [&job](double fraction) {
-                job->permille = static_cast<int>(std::clamp(fraction, 0.0, 1.0) * 1000.0);
-            });
-        }
-        // A file that was read to its end just before the operator cancelled is cancelled, too.
-        if (job->cancelled) {
-            job->result = {};
-            job->result.status = ImportResult::Cancelled;
-        }
-        {
-            QMutexLocker lock(&m_mutex);
-            m_mailbox.push_back(job);
-        }
-        QMetaObject::invokeMethod(
-            this, [this] { takeResults(); }, Qt::QueuedConnection);
-    }));
+    std::unique_lock<std::mutex> lock(m_mutex);
+    for (;;) {
+        m_workArrived.wait(lock, [this] { return m_ending || !m_queue.empty(); });
+        if (m_ending)
+            return;
+        const std::shared_ptr<Job> job = m_queue.front();
+        m_queue.pop_front();
+        lock.unlock();
+        importNow(*job);
+        lock.lock();
+        m_mailbox.push_back(job);
+        QMetaObject::invokeMethod(this, "takeResults", Qt::QueuedConnection);
+    }
+}
+
+void DeviceLoader::importNow(Job &job) const
+{
+    if (!job.cancelled) {
+        job.result = m_import(job.request, job.cancelled, [&job](double fraction) {
+            job.permille = static_cast<int>(std::clamp(fraction, 0.0, 1.0) * 1000.0);
+        });
+    }
+    // A file that was read to its end just before the operator cancelled is cancelled, too.
+    if (job.cancelled) {
+        job.result = {};
+        job.result.status = ImportResult::Cancelled;
+    }
 }
 
 void DeviceLoader::takeResults()
 {
     std::deque<std::shared_ptr<Job>> done;
     {
-        QMutexLocker lock(&m_mutex);
+        const std::lock_guard<std::mutex> lock(m_mutex);
         done.swap(m_mailbox);
     }
     for (const auto &job : done) {

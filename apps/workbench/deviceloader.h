@@ -3,15 +3,16 @@
 
 #include "importresult.h"
 
-#include <QtCore/QMutex>
 #include <QtCore/QObject>
-#include <QtCore/QThreadPool>
 #include <QtCore/QTimer>
 
 #include <atomic>
 #include <chrono>
+#include <condition_variable>
 #include <deque>
 #include <memory>
+#include <mutex>
+#include <thread>
 
 /// Imports SCL files one after the other in a worker thread. Everything else, signals included,
 /// happens in the GUI thread. The destructor cancels what is under way and waits for it.
@@ -50,8 +51,10 @@ signals:
 private:
     struct Job;
 
-    void start(const std::shared_ptr<Job> &job);
-    void takeResults();
+    // By name, so that what passes from thread to thread goes through the mailbox only.
+    Q_INVOKABLE void takeResults();
+    void work();
+    void importNow(Job &job) const;
     void reportProgress();
 
     const ImportFunction m_import;
@@ -60,8 +63,11 @@ private:
     QTimer m_slowTimer;
     QTimer m_progressTimer;
 
-    QMutex m_mutex;
+    std::mutex m_mutex;
+    std::condition_variable m_workArrived;
+    bool m_ending = false;                      ///< under m_mutex
+    std::deque<std::shared_ptr<Job>> m_queue;   ///< under m_mutex; not begun
     std::deque<std::shared_ptr<Job>> m_mailbox; ///< under m_mutex; done and not reported
 
-    QThreadPool m_worker;
+    std::thread m_worker;
 };

@@ -2,7 +2,6 @@
 #include "journalmodel.h"
 
 #include <QtCore/QLocale>
-#include <QtCore/QMutexLocker>
 #include <QtGui/QBrush>
 
 #include <algorithm>
@@ -29,22 +28,21 @@ void JournalModel::controllerCalled(const ControllerCall &call)
 {
     bool first = false;
     {
-        QMutexLocker lock(&m_mutex);
+        const std::lock_guard<std::mutex> lock(m_mutex);
         first = m_mailbox.empty();
         m_mailbox.push_back(call);
         if (m_mailbox.size() > static_cast<std::size_t>(m_capacity))
             m_mailbox.pop_front();
     }
     if (first)
-        QMetaObject::invokeMethod(
-            this, [this] { takeCalls(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, "takeCalls", Qt::QueuedConnection);
 }
 
 void JournalModel::takeCalls()
 {
     std::deque<ControllerCall> arrived;
     {
-        QMutexLocker lock(&m_mutex);
+        const std::lock_guard<std::mutex> lock(m_mutex);
         arrived.swap(m_mailbox);
     }
     if (arrived.empty())
@@ -66,7 +64,7 @@ void JournalModel::takeCalls()
 void JournalModel::clear()
 {
     {
-        QMutexLocker lock(&m_mutex);
+        const std::lock_guard<std::mutex> lock(m_mutex);
         m_mailbox.clear();
     }
     beginResetModel();

@@ -4,10 +4,10 @@
 #include <remoteclient/controllercallobserver.h>
 
 #include <QtCore/QAbstractTableModel>
-#include <QtCore/QMutex>
 
 #include <deque>
 #include <functional>
+#include <mutex>
 
 /// The controller calls of this process as a table, the newest last. The model belongs to the GUI
 /// thread; calls may come from any thread and appear when the GUI thread next runs its event loop.
@@ -46,13 +46,14 @@ public:
                         int role = Qt::DisplayRole) const override;
 
 private:
-    void takeCalls();
+    // By name, so that what passes from thread to thread goes through the mailbox only.
+    Q_INVOKABLE void takeCalls();
     QString text(const ControllerCall &call, int column) const;
 
     const int m_capacity;
     std::function<QString(long)> m_deviceName;
     std::deque<ControllerCall> m_calls;
 
-    QMutex m_mutex;
+    std::mutex m_mutex;
     std::deque<ControllerCall> m_mailbox; ///< under m_mutex; not yet in the table
 };
