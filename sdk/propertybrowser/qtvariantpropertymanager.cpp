@@ -10,13 +10,19 @@
 
 namespace {
 
+quint64 bitsOf(double number)
+{
+    quint64 bits = 0;
+    static_assert(sizeof bits == sizeof number);
+    std::memcpy(&bits, &number, sizeof bits);
+    return bits;
+}
+
 /// QVariant compares doubles with a tolerance, which would swallow a change of the last digits.
 bool sameValue(const QVariant &one, const QVariant &other)
 {
     if (one.userType() == QMetaType::Double && other.userType() == QMetaType::Double) {
-        const double a = one.toDouble();
-        const double b = other.toDouble();
-        return std::memcmp(&a, &b, sizeof a) == 0;
+        return bitsOf(one.toDouble()) == bitsOf(other.toDouble());
     }
     if (one.userType() == QMetaType::QDateTime && other.userType() == QMetaType::QDateTime) {
         const QDateTime a = one.toDateTime();
