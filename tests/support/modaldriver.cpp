@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "modaldriver.h"
 
+#include <QtCore/QTimer>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
@@ -18,8 +19,7 @@ ModalDriver::ModalDriver(std::vector<Step> steps)
     : m_steps(std::move(steps))
 {
     m_sinceLastStep.start();
-    connect(&m_timer, &QTimer::timeout, this, &ModalDriver::look);
-    m_timer.start(lookEveryMs);
+    lookAgain();
 }
 
 bool ModalDriver::finished() const
@@ -51,8 +51,16 @@ ModalDriver::Step ModalDriver::pressInMessageBox(QMessageBox::StandardButton but
     };
 }
 
+void ModalDriver::lookAgain()
+{
+    QTimer::singleShot(lookEveryMs, this, &ModalDriver::look);
+}
+
 void ModalDriver::look()
 {
+    // Before anything else: a step may sit in a nested event loop, and a timer does not fire again
+    // while its own handler runs.
+    lookAgain();
     QWidget *window = topmost();
     if (!window)
         return;

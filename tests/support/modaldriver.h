@@ -5,7 +5,6 @@
 #include <QtCore/QList>
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
-#include <QtCore/QTimer>
 #include <QtWidgets/QMessageBox>
 
 #include <functional>
@@ -45,6 +44,7 @@ public:
 
 private:
     void look();
+    void lookAgain();
     static QWidget *topmost();
 
     std::vector<Step> m_steps;
@@ -52,6 +52,5 @@ private:
     std::size_t m_done = 0;
     bool m_limitReached = false;
     QList<QPointer<QWidget>> m_busyWith;
-    QTimer m_timer;
     QElapsedTimer m_sinceLastStep;
 };
