@@ -336,7 +336,7 @@ void ControlReader::resolveMember(std::uint32_t element, const Ied &ied,
         reference += '$';
         reference += part.name;
         if (part.index >= 0)
-            reference += "(" + std::to_string(part.index) + ")";
+            reference.append(1, '(').append(std::to_string(part.index)).append(1, ')');
     }
     member.reference = keepText(reference);
     member.resolved = problem.empty();

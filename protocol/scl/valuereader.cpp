@@ -61,13 +61,15 @@ ConfiguredValue ValueReader::readValue(std::uint32_t element, const TemplateNode
             info(element, "The truth value is written " + quoted(result.text) +
                               " instead of \"true\" or \"false\".");
         break;
-    case ValueNote::Unfit:
-        error(element, quoted(result.text) + " is not a value of " +
-                           (node.basicTypeName.empty() ? std::string("its type")
-                                                       : std::string(node.basicTypeName)) +
-                           (node.enumeration ? " " + quoted(node.enumeration->id) : "") +
-                           "; the attribute has no value.");
+    case ValueNote::Unfit: {
+        const std::string_view type = node.basicTypeName.empty() ? "its type" : node.basicTypeName;
+        std::string text = quoted(result.text);
+        text.append(" is not a value of ").append(type);
+        if (node.enumeration)
+            text.append(1, ' ').append(quoted(node.enumeration->id));
+        error(element, text + "; the attribute has no value.");
         break;
+    }
     }
     return result;
 }
