@@ -4,8 +4,8 @@
 #include "model/iedmodel.h"
 
 #include <devicemodel/dataobject.h>
-#include <devicemodel/reportcontrol.h>
 #include <devicemodel/dataset.h>
+#include <devicemodel/reportcontrol.h>
 
 namespace {
 

@@ -5,6 +5,7 @@
 #include "ui_fileservicedialog.h"
 
 #include "plugin/busycursor.h"
+#include "plugin/failurereport.h"
 
 #include <host/hosttaskcontext.h>
 #include <remoteclient/driverconsolinterface.h>
@@ -222,7 +223,7 @@ OperationResult FileServiceDialog::request(Call call, QString &error)
 
 void FileServiceDialog::showFailure(const QString &text)
 {
-    QMessageBox::warning(this, tr("Fail"), text, QMessageBox::Ok);
+    showWarning(this, tr("Fail"), text);
 }
 
 QString FileServiceDialog::askLocalFile(const QString &proposal)

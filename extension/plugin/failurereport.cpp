@@ -8,8 +8,15 @@ bool reportFailure(QWidget *parent, OperationResult result, const QString &error
 {
     if (result == OperationSucceeded)
         return false;
-    QMessageBox::warning(parent, texts.title,
-                         result == OperationDriverUnreachable ? texts.cannotConnect : error,
-                         QMessageBox::Ok);
+    showWarning(parent, texts.title,
+                result == OperationDriverUnreachable ? texts.cannotConnect : error);
     return true;
+}
+
+void showWarning(QWidget *parent, const QString &title, const QString &text)
+{
+    QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::Ok, parent);
+    // What a device or a file says must not be taken for markup.
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
 }

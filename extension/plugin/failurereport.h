@@ -19,3 +19,6 @@ struct FailureTexts
 /// \return whether the call had failed
 bool reportFailure(QWidget *parent, OperationResult result, const QString &error,
                    const FailureTexts &texts);
+
+/// A modal warning box with one OK button that shows `text` as it is, whatever it looks like.
+void showWarning(QWidget *parent, const QString &title, const QString &text);

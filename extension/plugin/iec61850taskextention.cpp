@@ -2,8 +2,8 @@
 #include "iec61850taskextention.h"
 
 #include "browser/iedmodelview.h"
-#include "report/reportcontrol.h"
 #include "fileservice/fileservicedialog.h"
+#include "report/reportcontrol.h"
 
 #include <devicemodel/mmsvalue.h>
 #include <host/hosttaskcontext.h>

@@ -80,12 +80,15 @@ private slots:
     void controlServicesShowTheirDialogByControlModel_data();
     void controlServicesShowTheirDialogByControlModel();
     void operateSendsWhatTheOperatorChose();
+    void failureOfAControlServiceIsReported_data();
+    void failureOfAControlServiceIsReported();
     void cancelledControlDialogSendsNothing();
     void controlOfAnotherKindOfNodeSendsNothing();
 
     void createPersistentDataSet();
     void createNonPersistentDataSet();
     void cancelledPickerSendsNothing();
+    void failedCreationAddsNothing_data();
     void failedCreationAddsNothing();
     void persistentCreationNeedsADataSetGroup();
     void deleteRemovesTheDataSet_data();
@@ -372,13 +375,15 @@ void tst_BrowserServices::failedWriteIsNotReadBack_data()
     QTest::addColumn<QString>("shown");
     QTest::newRow("unreachable") << int(OperationDriverUnreachable) << "Cannot connect to driver";
     QTest::newRow("refused") << int(OperationFailed) << "Value out of range";
+    QTest::newRow("failed without a text") << 77 << "";
 }
 
 void tst_BrowserServices::failedWriteIsNotReadBack()
 {
     QFETCH(int, result);
     QFETCH(QString, shown);
-    m_fixture->service->setAnswer("writeVariable", OperationResult(result), "Value out of range");
+    m_fixture->service->setAnswer("writeVariable", OperationResult(result),
+                                  result == OperationFailed ? shown : QString());
     const QModelIndex cell = select({ld, "XCBR1", "Pos", "ctlModel"}, 1);
     ShownMessage message;
     ModalDriver driver({ModalDriver::pressInMessageBox(QMessageBox::Ok, &message)});
@@ -503,6 +508,64 @@ void tst_BrowserServices::operateSendsWhatTheOperatorChose()
     QCOMPARE(int(sent.model), 1);
 }
 
+void tst_BrowserServices::failureOfAControlServiceIsReported_data()
+{
+    QTest::addColumn<QString>("service");
+    QTest::addColumn<QString>("operation");
+    QTest::addColumn<int>("ctlModel");
+    QTest::addColumn<int>("result");
+    QTest::addColumn<QString>("error");
+    QTest::addColumn<QString>("shown");
+    const struct
+    {
+        const char *service;
+        const char *operation;
+        int ctlModel;
+    } services[] = {{"Select", "selectObject", 4},
+                    {"Operate", "controlObject", 1},
+                    {"Cancel", "cancelObject", 2}};
+    for (const auto &service : services) {
+        QTest::addRow("%s unreachable", service.operation)
+            << service.service << service.operation << service.ctlModel
+            << int(OperationDriverUnreachable) << "whatever"
+            << "Cannot connect to driver";
+        QTest::addRow("%s refused", service.operation)
+            << service.service << service.operation << service.ctlModel << int(OperationFailed)
+            << "Blocked by interlocking"
+            << "Blocked by interlocking";
+        QTest::addRow("%s failed without a text", service.operation)
+            << service.service << service.operation << service.ctlModel << 77 << ""
+            << "";
+    }
+}
+
+void tst_BrowserServices::failureOfAControlServiceIsReported()
+{
+    QFETCH(QString, service);
+    QFETCH(QString, operation);
+    QFETCH(int, ctlModel);
+    QFETCH(int, result);
+    QFETCH(QString, error);
+    QFETCH(QString, shown);
+    m_view.reset();
+    m_fixture->device->findTag("BAYCTRL/XCBR1$CF$Pos$ctlModel")->value = ctlModel;
+    m_view = m_fixture->open();
+    m_fixture->service->forgetCalls();
+    m_fixture->service->setAnswer(operation, OperationResult(result), error);
+    select({ld, "XCBR1", "Pos"});
+
+    ShownMessage message;
+    message.text = "nothing was shown";
+    ModalDriver driver({pressStep(QDialogButtonBox::Ok),
+                        ModalDriver::pressInMessageBox(QMessageBox::Ok, &message)});
+    trigger(service);
+    QVERIFY(driver.finished());
+    QCOMPARE(message.title, QString("Fail"));
+    QCOMPARE(message.text, shown);
+    QCOMPARE(message.parent, m_view.get());
+    QCOMPARE(m_fixture->service->operations(), QStringList{operation});
+}
+
 void tst_BrowserServices::cancelledControlDialogSendsNothing()
 {
     select({ld, "XCBR1", "Pos"});
@@ -588,16 +651,32 @@ void tst_BrowserServices::cancelledPickerSendsNothing()
     QVERIFY(calls().isEmpty());
 }
 
+void tst_BrowserServices::failedCreationAddsNothing_data()
+{
+    QTest::addColumn<int>("result");
+    QTest::addColumn<QString>("error");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("unreachable") << int(OperationDriverUnreachable) << "whatever"
+                                 << "Cannot connect to driver";
+    QTest::newRow("refused") << int(OperationFailed) << "Too many data sets"
+                             << "Too many data sets";
+    QTest::newRow("failed without a text") << 77 << ""
+                                           << "";
+}
+
 void tst_BrowserServices::failedCreationAddsNothing()
 {
-    m_fixture->service->setAnswer("createDataSet", OperationFailed, "Too many data sets");
+    QFETCH(int, result);
+    QFETCH(QString, error);
+    QFETCH(QString, shown);
+    m_fixture->service->setAnswer("createDataSet", OperationResult(result), error);
     const QModelIndex group = select({ld, "LLN0", "DataSet"});
     ShownMessage message;
     ModalDriver driver(
         {pickDataSet("Fresh", "XCBR1"), ModalDriver::pressInMessageBox(QMessageBox::Ok, &message)});
     trigger("Create Persistent DataSet");
     QVERIFY(driver.finished());
-    QCOMPARE(message.text, QString("Too many data sets"));
+    QCOMPARE(message.text, shown);
     QCOMPARE(tree()->model()->rowCount(group), 2);
 }
 

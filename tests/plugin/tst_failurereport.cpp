@@ -14,6 +14,7 @@ private slots:
     void successShowsNothing();
     void failureShowsItsText_data();
     void failureShowsItsText();
+    void textThatLooksLikeMarkupIsShownAsItIs();
 };
 
 void tst_FailureReport::successShowsNothing()
@@ -55,6 +56,18 @@ void tst_FailureReport::failureShowsItsText()
     QCOMPARE(message.icon, QMessageBox::Warning);
     QCOMPARE(message.buttons, QMessageBox::StandardButtons(QMessageBox::Ok));
     QCOMPARE(message.parent, &parent);
+}
+
+void tst_FailureReport::textThatLooksLikeMarkupIsShownAsItIs()
+{
+    Qt::TextFormat format = Qt::AutoText;
+    ModalDriver driver({[&format](QWidget *box) {
+        format = static_cast<QMessageBox *>(box)->textFormat();
+        box->close();
+    }});
+    showWarning(nullptr, "Fail", "<b>no</b> such file");
+    QVERIFY(driver.finished());
+    QCOMPARE(format, Qt::PlainText);
 }
 
 QTEST_MAIN(tst_FailureReport)

@@ -8,6 +8,7 @@ The last cell of a row holds one or more test names in backquotes, separated by 
 test known to ctest for one that is no executable of its own. The executables are asked for their
 tests, so a name that was only ever written down does not pass.
 """
+import os
 import pathlib
 import re
 import subprocess
@@ -36,6 +37,7 @@ def ctest_names(build):
 
 
 def main():
+    os.environ.setdefault("QT_QPA_PLATFORM", "offscreen")
     document, directory = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
     known, registered = {}, ctest_names(directory.parent.parent)
     rows, faults = 0, []
