@@ -2,20 +2,26 @@
 #include "tour.h"
 
 #include "mainwindow.h"
+#include "rehearsaldriverservice.h"
 #include "workbench.h"
+
+#include <remoteclient/driverserviceregistry.h>
 
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QDir>
 #include <QtCore/QEventLoop>
 #include <QtCore/QFile>
 #include <QtCore/QTimer>
+#include <QtGui/QContextMenuEvent>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
-#include <QtWidgets/QTreeView>
+#include <QtWidgets/QTreeWidget>
 
 #include <chrono>
 #include <functional>
@@ -64,8 +70,9 @@ void dismiss(QWidget *widget)
         widget->close();
 }
 
-/// Attends to the modal windows that appear while it lives: hands each to `visit` once it is on the
-/// screen, then closes it. Without this a modal dialog would keep the tour waiting for ever.
+/// Attends to the modal windows and menus that appear while it lives: hands each to `visit` once it
+/// is on the screen, then closes it. Without this a modal dialog would keep the tour waiting for
+/// ever.
 class ModalAttendant
 {
 public:
@@ -74,20 +81,40 @@ public:
     {
         m_poll.setInterval(pollInterval);
         QObject::connect(&m_poll, &QTimer::timeout, &m_poll, [this] {
-            QWidget *modal = QApplication::activeModalWidget();
-            if (!modal || !modal->isVisible())
+            QWidget *modal = QApplication::activePopupWidget();
+            if (!modal)
+                modal = QApplication::activeModalWidget();
+            if (!modal || !modal->isVisible() || m_visited.contains(modal))
                 return;
-            m_poll.stop();
+            m_visited.append(modal);
             m_visit(modal);
+            m_visited.removeLast();
             dismiss(modal);
-            m_poll.start();
         });
         m_poll.start();
     }
 
 private:
     std::function<void(QWidget *)> m_visit;
+    QWidgetList m_visited; ///< at the moment; a visit may open a further window
     QTimer m_poll;
+};
+
+/// The driver that the tools talk to is replaced by a rehearsal as long as this lives.
+class RehearsalInPlace
+{
+public:
+    explicit RehearsalInPlace(const QByteArray &model)
+        : m_replaced(DriverServiceRegistry::find(EmbeddedConsole::address))
+    {
+        DriverServiceRegistry::add(EmbeddedConsole::address,
+                                   std::make_shared<RehearsalDriverService>(model));
+    }
+    ~RehearsalInPlace() { DriverServiceRegistry::add(EmbeddedConsole::address, m_replaced); }
+    Q_DISABLE_COPY(RehearsalInPlace)
+
+private:
+    std::shared_ptr<DriverService> m_replaced;
 };
 
 QWidget *visibleWindow(const QString &objectName)
@@ -121,10 +148,44 @@ void expandBelow(QTreeView &tree, const QModelIndex &index)
         expandBelow(tree, tree.model()->index(row, 0, index));
 }
 
+void press(QTreeView &tree, const QModelIndex &index, QEvent::Type type)
+{
+    const QPointF position = tree.visualRect(index).center();
+    const QPointF global = tree.viewport()->mapToGlobal(position.toPoint());
+    QMouseEvent event(type, position, global, Qt::LeftButton,
+                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(tree.viewport(), &event);
+}
+
+void click(QTreeView &tree, const QModelIndex &index)
+{
+    tree.scrollTo(index);
+    press(tree, index, QEvent::MouseButtonPress);
+    press(tree, index, QEvent::MouseButtonRelease);
+}
+
+void doubleClick(QTreeView &tree, const QModelIndex &index)
+{
+    click(tree, index);
+    press(tree, index, QEvent::MouseButtonDblClick);
+    press(tree, index, QEvent::MouseButtonRelease);
+}
+
 void expandUpTo(QTreeView &tree, const QModelIndex &index)
 {
     for (QModelIndex node = index; node.isValid(); node = node.parent())
         tree.expand(node);
+}
+
+/// The position of the first switch controller.
+QModelIndex findSwitch(const QTreeView &tree)
+{
+    const QAbstractItemModel &model = *tree.model();
+    const QModelIndex controller =
+        findNode(model, model.index(0, 0), typeColumn, QStringLiteral("CSWI"));
+    return controller.isValid() ? findNode(model, controller, 0, QStringLiteral("Pos"))
+                                : QModelIndex();
 }
 
 } // namespace
@@ -144,8 +205,39 @@ bool Tour::run()
         return fail(Texts::tr("The plug-in \"%1\" is not available: %2")
                         .arg(m_window.extension().file, m_window.extension().reason));
     }
-    return openDevices() && showBrowser() && showOfflineSettingGroups() &&
-           showOfflineReportControl() && showFileService() && showWorkbench();
+    return openDevices() && showWithoutConnection() && showConnected();
+}
+
+bool Tour::showWithoutConnection()
+{
+    const bool shown = openBrowser() &&
+                       showSettingGroups(QStringLiteral("OfflineSGCB"),
+                                         QStringLiteral("offline-setting-groups")) &&
+                       showReportControl(QStringLiteral("offline-report-control")) &&
+                       showWorkbench();
+    if (m_tree)
+        m_tree->window()->close();
+    return shown;
+}
+
+bool Tour::showConnected()
+{
+    QByteArray model;
+    QString error;
+    const auto driver = DriverServiceRegistry::find(EmbeddedConsole::address);
+    if (driver->getIEDModel(m_device, model, error) != OperationSucceeded)
+        return fail(error);
+    const RehearsalInPlace rehearsal(model);
+    m_window.selectDevice(m_device);
+    const bool shown =
+        openBrowser() && showBrowser() && showContextMenu() && showFunctionalConstraint() &&
+        showControl() && showDataSetMembers() &&
+        showReportControl(QStringLiteral("report-control")) &&
+        showSettingGroups(QStringLiteral("SGCBDialog"), QStringLiteral("setting-groups")) &&
+        showFileService();
+    if (m_tree)
+        m_tree->window()->close();
+    return shown;
 }
 
 bool Tour::openDevices()
@@ -180,8 +272,9 @@ QAction *Tour::tool(int position)
     return nullptr;
 }
 
-bool Tour::showBrowser()
+bool Tour::openBrowser()
 {
+    m_tree = nullptr;
     const QString name = QStringLiteral("IEDModelView");
     QAction *action = tool(0);
     if (!action)
@@ -200,8 +293,13 @@ bool Tour::showBrowser()
     if (!m_tree)
         return fail(Texts::tr("The IED browser has no tree."));
     browser->resize(900, 640);
+    return true;
+}
+
+bool Tour::showBrowser()
+{
     arrangeBrowser();
-    return save(browser, QStringLiteral("browser"));
+    return save(m_tree->window(), QStringLiteral("browser"));
 }
 
 void Tour::arrangeBrowser()
@@ -224,34 +322,115 @@ void Tour::arrangeBrowser()
     m_tree->scrollTo(breaker, QAbstractItemView::PositionAtTop);
 }
 
-bool Tour::showOfflineSettingGroups()
+/// The menu of a switch that is selected before it is operated.
+bool Tour::showContextMenu()
+{
+    const QModelIndex position = findSwitch(*m_tree);
+    if (!position.isValid())
+        return fail(Texts::tr("The demonstration device has no switch."));
+    expandUpTo(*m_tree, position.parent());
+    click(*m_tree, position);
+    bool saved = false;
+    const ModalAttendant attendant([&](QWidget *menu) {
+        QWidget *browser = m_tree->window();
+        QPixmap picture = browser->grab();
+        QPainter(&picture).drawPixmap(browser->mapFromGlobal(menu->pos()), menu->grab());
+        saved = qobject_cast<QMenu *>(menu) && savePixmap(picture, QStringLiteral("context-menu"));
+    });
+    const QPoint where = m_tree->visualRect(position).center() + QPoint(40, 0);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, where,
+                            m_tree->viewport()->mapToGlobal(where));
+    QApplication::sendEvent(m_tree->viewport(), &event);
+    return saved || fail(Texts::tr("The context menu did not appear."));
+}
+
+bool Tour::showFunctionalConstraint()
+{
+    const QModelIndex node = findSwitch(*m_tree).parent();
+    const QString dialog = QStringLiteral("SelectFCDialog");
+    return showDialog([&] { triggerInBrowser("Read", node); }, dialog,
+                      QStringLiteral("functional-constraint")) ||
+           fail(Texts::tr("The window \"%1\" did not appear.").arg(dialog));
+}
+
+bool Tour::showControl()
+{
+    const QModelIndex position = findSwitch(*m_tree);
+    const QString dialog = QStringLiteral("ControlCo");
+    return showDialog([&] { triggerInBrowser("Select", position); }, dialog,
+                      QStringLiteral("control")) ||
+           fail(Texts::tr("The window \"%1\" did not appear.").arg(dialog));
+}
+
+bool Tour::showDataSetMembers()
+{
+    const QAbstractItemModel &model = *m_tree->model();
+    const QModelIndex group = findNode(model, model.index(0, 0), 0, QStringLiteral("DataSet"));
+    const QString dialog = QStringLiteral("DatasetSelectWidget");
+    const Preparation tickSome = [](QWidget *window) {
+        window->findChild<QLineEdit *>()->setText(QStringLiteral("Switching"));
+        const auto *tree = window->findChild<QTreeWidget *>();
+        const QTreeWidgetItem *device = tree->topLevelItem(0);
+        for (int row = 0; row < device->childCount(); ++row) {
+            QTreeWidgetItem *status = device->child(row)->child(0);
+            for (int object = 0; status && object < status->childCount(); ++object) {
+                QTreeWidgetItem *item = status->child(object);
+                if (item->text(0) != QLatin1String("Pos"))
+                    continue;
+                device->child(row)->setExpanded(true);
+                status->setExpanded(true);
+                item->setCheckState(0, Qt::Checked);
+            }
+        }
+        window->resize(window->width(), window->width());
+    };
+    return showDialog([&] { triggerInBrowser("Create Persistent DataSet", group); }, dialog,
+                      QStringLiteral("data-set-members"), tickSome) ||
+           fail(Texts::tr("The window \"%1\" did not appear.").arg(dialog));
+}
+
+bool Tour::showSettingGroups(const QString &dialogName, const QString &picture)
 {
     const QAbstractItemModel &model = *m_tree->model();
     const QModelIndex root = model.index(0, 0);
-    const QString dialog = QStringLiteral("OfflineSGCB");
+    const Preparation waitForSettings = [](QWidget *window) {
+        const auto *settings = window->findChild<QAbstractItemView *>();
+        waitFor([&] { return !settings || settings->model()->rowCount() > 0; });
+        window->resize(window->width(), window->width());
+    };
+    const bool isOnline = dialogName == QLatin1String("SGCBDialog");
     for (int ld = 0; ld < model.rowCount(root); ++ld) {
         const QModelIndex lln0 =
             findNode(model, model.index(ld, 0, root), typeColumn, QStringLiteral("LLN0"));
         // The setting group control block comes first where a logical device has one.
         const QModelIndex first = lln0.isValid() ? model.index(0, 0, lln0) : QModelIndex();
-        if (first.isValid() && showDialog([&] { doubleClick(first); }, dialog,
-                                          QStringLiteral("offline-setting-groups"))) {
+        if (first.isValid() &&
+            showDialog(
+                [&] {
+                    expandUpTo(*m_tree, first);
+                    doubleClick(*m_tree, first);
+                },
+                dialogName, picture, isOnline ? waitForSettings : Preparation())) {
             return true;
         }
         if (!m_problem.isEmpty())
             return false;
     }
-    return fail(Texts::tr("The window \"%1\" did not appear.").arg(dialog));
+    return fail(Texts::tr("The window \"%1\" did not appear.").arg(dialogName));
 }
 
-bool Tour::showOfflineReportControl()
+bool Tour::showReportControl(const QString &picture)
 {
     const QAbstractItemModel &model = *m_tree->model();
     const QString dialog = QStringLiteral("ReportControl");
     const QModelIndex list = findNode(model, model.index(0, 0), 0, dialog);
     const QModelIndex block = list.isValid() ? model.index(0, 0, list) : QModelIndex();
-    if (block.isValid() &&
-        showDialog([&] { doubleClick(block); }, dialog, QStringLiteral("offline-report-control"))) {
+    if (block.isValid() && showDialog(
+                               [&] {
+                                   expandUpTo(*m_tree, block);
+                                   doubleClick(*m_tree, block);
+                               },
+                               dialog, picture)) {
         return true;
     }
     return fail(Texts::tr("The window \"%1\" did not appear.").arg(dialog));
@@ -263,13 +442,26 @@ bool Tour::showFileService()
     if (!action)
         return false;
     const QString dialog = QStringLiteral("FileServiceDialog");
-    return showDialog([&] { action->trigger(); }, dialog, QStringLiteral("file-service")) ||
+    const Preparation openRecords = [](QWidget *window) {
+        auto *files = window->findChild<QTreeView *>();
+        const QModelIndex records = findNode(*files->model(), {}, 0, QStringLiteral("COMTRADE\\"));
+        if (records.isValid())
+            doubleClick(*files, records);
+        // Below the entry that leads up come the parts of a record.
+        click(*files, files->model()->index(1, 0));
+    };
+    return showDialog([&] { action->trigger(); }, dialog, QStringLiteral("file-service"),
+                      openRecords) ||
            fail(Texts::tr("The window \"%1\" did not appear.").arg(dialog));
 }
 
 bool Tour::showWorkbench()
 {
-    m_tree->window()->close();
+    // One call that a device without a connection refuses, for the journal to show.
+    if (QAction *fileService = tool(1)) {
+        const ModalAttendant attendant([](QWidget *) {});
+        fileService->trigger();
+    }
     const DeviceListModel &devices = m_workbench.devices();
     for (int row = 0; row < devices.rowCount(); ++row) {
         if (devices.deviceAt(row)->record.number != m_device)
@@ -286,38 +478,41 @@ bool Tour::showWorkbench()
 /// True when `open` brought the modal dialog up and its picture was saved. Messages that come
 /// before the dialog are closed: a device without a connection refuses most of what a tool asks.
 bool Tour::showDialog(const std::function<void()> &open, const QString &dialogName,
-                      const QString &picture)
+                      const QString &picture, const Preparation &prepare)
 {
     bool saved = false;
     const ModalAttendant attendant([&](QWidget *modal) {
-        if (modal->objectName() == dialogName)
+        if (modal->objectName() == dialogName) {
+            if (prepare)
+                prepare(modal);
             saved = save(modal, picture);
-        else if (!qobject_cast<QMessageBox *>(modal))
+        } else if (!qobject_cast<QMessageBox *>(modal)) {
             fail(Texts::tr("Instead of \"%1\" came %2.").arg(dialogName, describe(modal)));
+        }
     });
     open();
     return saved;
 }
 
-void Tour::doubleClick(const QModelIndex &index)
+/// Trigger an entry of the browser's context menu on a node, found by its untranslated text.
+bool Tour::triggerInBrowser(const char *entry, const QModelIndex &index)
 {
     expandUpTo(*m_tree, index.parent());
     m_tree->setCurrentIndex(index);
     m_tree->scrollTo(index);
-    const QPointF position = m_tree->visualRect(index).center();
-    const QPointF global = m_tree->viewport()->mapToGlobal(position.toPoint());
-    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
-                                    QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
-        QMouseEvent event(type, position, global, Qt::LeftButton,
-                          type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
-                          Qt::NoModifier);
-        QApplication::sendEvent(m_tree->viewport(), &event);
+    const QString text = QCoreApplication::translate("IEDModelView", entry);
+    const QList<QAction *> actions = m_tree->window()->findChildren<QAction *>();
+    for (QAction *action : actions) {
+        if (action->text() != text)
+            continue;
+        action->trigger();
+        return true;
     }
+    return fail(Texts::tr("The IED browser has no entry \"%1\".").arg(text));
 }
 
 bool Tour::save(QWidget *widget, const QString &picture)
 {
-    const QString file = QDir(m_folder).filePath(picture + QStringLiteral(".png"));
     QApplication::processEvents();
     QPixmap pixmap = widget->grab();
     if (widget->isModal()) {
@@ -328,6 +523,12 @@ bool Tour::save(QWidget *widget, const QString &picture)
         QPainter(&framed).drawPixmap(border, border, pixmap);
         pixmap = framed;
     }
+    return savePixmap(pixmap, picture);
+}
+
+bool Tour::savePixmap(const QPixmap &pixmap, const QString &picture)
+{
+    const QString file = QDir(m_folder).filePath(picture + QStringLiteral(".png"));
     if (!pixmap.save(file))
         return fail(Texts::tr("The picture \"%1\" cannot be saved.").arg(file));
     return true;

@@ -9,13 +9,16 @@
 class MainWindow;
 class QAction;
 class QModelIndex;
+class QPixmap;
 class QTreeView;
 class QWidget;
 class Workbench;
 
 /// Opens the demonstration device and each tool in turn, the way an operator does, and saves a
-/// picture of every window. Tool windows are found by their object names, since the extension is
-/// loaded and not linked. Runs its own event loops; GUI thread.
+/// picture of every window: first without a connection, as the workbench has the device, then on a
+/// RehearsalDriverService, so that the tools for connected devices are seen too. Tool windows are
+/// found by their object names, since the extension is loaded and not linked. Runs its own event
+/// loops; GUI thread.
 class Tour
 {
 public:
@@ -29,19 +32,30 @@ public:
     QString problem() const { return m_problem; }
 
 private:
+    using Preparation = std::function<void(QWidget *)>;
+
     bool openDevices();
+    bool showWithoutConnection();
+    bool showConnected();
+
+    bool openBrowser();
     bool showBrowser();
-    bool showOfflineSettingGroups();
-    bool showOfflineReportControl();
+    bool showContextMenu();
+    bool showFunctionalConstraint();
+    bool showControl();
+    bool showDataSetMembers();
+    bool showSettingGroups(const QString &dialogName, const QString &picture);
+    bool showReportControl(const QString &picture);
     bool showFileService();
     bool showWorkbench();
 
     QAction *tool(int position);
+    bool triggerInBrowser(const char *entry, const QModelIndex &index);
     void arrangeBrowser();
     bool showDialog(const std::function<void()> &open, const QString &dialogName,
-                    const QString &picture);
-    void doubleClick(const QModelIndex &index);
+                    const QString &picture, const Preparation &prepare = {});
     bool save(QWidget *widget, const QString &picture);
+    bool savePixmap(const QPixmap &pixmap, const QString &picture);
     bool fail(const QString &sentence);
 
     Workbench &m_workbench;
