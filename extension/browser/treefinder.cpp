@@ -59,7 +59,6 @@ TreeFinder::TreeFinder(QTreeView *view, QWidget *parent)
 {
     m_text->setPlaceholderText(tr("Find by name or reference"));
     m_text->setAccessibleName(m_text->placeholderText());
-    m_text->setClearButtonEnabled(true);
     m_text->setMinimumWidth(280);
     m_notFound->hide();
 

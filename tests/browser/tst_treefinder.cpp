@@ -63,8 +63,6 @@ void tst_TreeFinder::cleanup()
     Tavrix::PostEvent("MMS_DATACHANGE:", "MMS_VALUE", {});
     m_view.reset();
     m_fixture.reset();
-    // The line's clear button fades in and out by animations that delete themselves later.
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 void tst_TreeFinder::everyNodeHasAReferenceForTheOperator_data()
