@@ -205,26 +205,6 @@ Tag Reader::peek()
     return readHeader(p, tag, length, indefinite) ? tag : Tag();
 }
 
-bool Reader::next(Element &element)
-{
-    if (atEnd())
-        return false;
-    const auto left = static_cast<std::size_t>(m_end - m_position);
-    if (left >= 2) {
-        const std::uint8_t first = m_position[0];
-        const std::size_t length = m_position[1];
-        if ((first & 0x1FU) != 0x1F && length < 0x80 && length <= left - 2) {
-            element.tag =
-                Tag(static_cast<TagClass>(first >> 6), (first & 0x20U) != 0, first & 0x1FU);
-            element.content = {m_position + 2, length};
-            element.offset = offset() + 2;
-            m_position += 2 + length;
-            return true;
-        }
-    }
-    return readSlowly(element);
-}
-
 bool Reader::takeIf(Tag tag, Element &element)
 {
     return peek() == tag && !tag.isNone() && next(element);

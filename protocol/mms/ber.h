@@ -182,7 +182,25 @@ public:
     /// The tag of the next element; none at the end.
     Tag peek();
     /// Steps over the next element; false at the end and when it cannot be read.
-    bool next(Element &element);
+    bool next(Element &element)
+    {
+        if (atEnd())
+            return false;
+        const auto left = static_cast<std::size_t>(m_end - m_position);
+        if (left >= 2) [[likely]] {
+            const std::uint8_t first = m_position[0];
+            const std::size_t length = m_position[1];
+            if ((first & 0x1FU) != 0x1F && length < 0x80 && length <= left - 2) [[likely]] {
+                element.tag =
+                    Tag(static_cast<TagClass>(first >> 6), (first & 0x20U) != 0, first & 0x1FU);
+                element.content = {m_position + 2, length};
+                element.offset = offset() + 2;
+                m_position += 2 + length;
+                return true;
+            }
+        }
+        return readSlowly(element);
+    }
     /// Steps over the next element when it has this tag.
     bool takeIf(Tag tag, Element &element);
     /// Steps over the next element, which must have this tag; @a what names it in the error.
