@@ -11,6 +11,7 @@
 namespace {
 
 constexpr int defaultCategoryIndex = 3;
+constexpr double currentValueOpacity = 0.75;
 
 void addBooleans(QComboBox *box)
 {
@@ -82,6 +83,14 @@ ControlCo::ControlCo(const IEDNode *node, const SclTemplateStore *descriptions,
     m_form->category->setCurrentIndex(defaultCategoryIndex);
     addBooleans(m_form->test);
     m_form->stVal->setEnabled(false);
+    // Not to be chosen from, but the value that the operator decides by: greyed out only a little.
+    QPalette readable = m_form->stVal->palette();
+    for (const QPalette::ColorRole role : {QPalette::Text, QPalette::ButtonText}) {
+        QColor colour = readable.color(QPalette::Active, role);
+        colour.setAlphaF(currentValueOpacity);
+        readable.setColor(QPalette::Disabled, role, colour);
+    }
+    m_form->stVal->setPalette(readable);
 
     const DataObject *dataObject = node->dataObject();
     if (!dataObject)

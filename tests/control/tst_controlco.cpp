@@ -139,6 +139,7 @@ private slots:
     void ofSeveralEntriesOfOneCodeTheLastIsCurrent();
     void aNodeThatIsNoDataObjectLeavesTheValuesEmpty();
 
+    void theCurrentValueIsReadableThoughItCannotBeChosen();
     void checkOffersItsListFirstEntryCurrent();
     void categoryStartsAtItsFourthEntry();
     void aShortCategoryListHasNoCurrentEntry_data();
@@ -245,6 +246,22 @@ void tst_ControlCo::aNodeThatIsNoDataObjectLeavesTheValuesEmpty()
     QVERIFY(offeredBy(dialog, "stVal").isEmpty());
     QVERIFY(offeredBy(dialog, "ctrValue").isEmpty());
     QCOMPARE(dialog.getControlBlock().controlValue, 0.0);
+}
+
+void tst_ControlCo::theCurrentValueIsReadableThoughItCannotBeChosen()
+{
+    ControllableObject object;
+    object.withStVal(QStringLiteral("BOOLEAN"), true);
+    const ControlCo dialog(object.node, &m_templates, {}, {}, false, nullptr);
+    const auto *const list = find<QComboBox>(dialog, "stVal");
+    QVERIFY(!list->isEnabled());
+    for (const QPalette::ColorRole role : {QPalette::Text, QPalette::ButtonText}) {
+        const QPalette palette = list->palette();
+        const double background = palette.color(QPalette::Disabled, QPalette::Button).lightnessF();
+        const QColor text = palette.color(QPalette::Disabled, role);
+        const double shown = text.lightnessF() * text.alphaF() + background * (1 - text.alphaF());
+        QVERIFY2(qAbs(background - shown) > 0.6, qPrintable(QString::number(shown)));
+    }
 }
 
 void tst_ControlCo::checkOffersItsListFirstEntryCurrent()

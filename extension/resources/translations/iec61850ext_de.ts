@@ -408,6 +408,55 @@ Möchten Sie die Datei ersetzen?</translation>
     </message>
 </context>
 <context>
+    <name>PropertyDelegate</name>
+    <message>
+        <source>%1 &quot;%2&quot; keeps its value.</source>
+        <translation>%1 „%2“ behält seinen Wert.</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyEditor</name>
+    <message>
+        <source>A whole number from %1 to %2 is needed.</source>
+        <translation>Eine ganze Zahl von %1 bis %2 ist nötig.</translation>
+    </message>
+    <message>
+        <source>A number with a decimal point is needed, such as 0.25 or 1e-3.</source>
+        <translation>Eine Zahl mit Dezimalpunkt ist nötig, etwa 0.25 oder 1e-3.</translation>
+    </message>
+    <message>
+        <source>One character is needed.</source>
+        <translation>Genau ein Zeichen ist nötig.</translation>
+    </message>
+    <message>
+        <source>True</source>
+        <translation>Wahr</translation>
+    </message>
+    <message>
+        <source>False</source>
+        <translation>Falsch</translation>
+    </message>
+</context>
+<context>
+    <name>QtTreePropertyBrowser</name>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>Eigenschaft</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>ReportControl</name>
     <message>
         <source>Report Control Block</source>
