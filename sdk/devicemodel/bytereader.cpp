@@ -33,7 +33,7 @@ QString TextPool::text(const uchar *bytes, int size)
             return slot.text;
         position = (position + 1) & mask;
     }
-    const QString result = decoded(bytes, size);
+    QString result = decoded(bytes, size);
     m_slots[position] = {bytes, size, hash, result};
     if (++m_used * 2 > m_slots.size())
         grow();

@@ -39,7 +39,7 @@ constexpr int enumValueBytes = 4 + textBytes;
 /// All bytes that can be read from the device now, without taking them.
 QByteArray availableBytes(QIODevice *device)
 {
-    constexpr qint64 firstPeek = 64 * 1024;
+    constexpr qint64 firstPeek = qint64(64) * 1024;
     constexpr qint64 largestPeek = std::numeric_limits<int>::max() - 64;
     qint64 wanted = qBound(firstPeek, device->bytesAvailable() + 1, largestPeek);
     for (;;) {
