@@ -445,16 +445,21 @@ void Writer::boolean(Tag tag, bool value)
     header(tag, 1);
 }
 
-void Writer::integer(Tag tag, std::int64_t value)
+void Writer::integerContent(std::int64_t value)
 {
-    const std::size_t mark = size();
     std::int64_t rest = value;
     std::uint8_t last = 0;
     do {
         last = static_cast<std::uint8_t>(rest & 0xFF);
         octet(last);
         rest >>= 8;
-    } while ((rest != 0 || (last & 0x80U) != 0) && (rest != -1 || (last & 0x80U) == 0));
+    } while (rest != ((last & 0x80U) != 0 ? -1 : 0));
+}
+
+void Writer::integer(Tag tag, std::int64_t value)
+{
+    const std::size_t mark = size();
+    integerContent(value);
     close(tag, mark);
 }
 

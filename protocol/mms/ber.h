@@ -290,6 +290,8 @@ public:
     void element(Tag tag, Bytes content);
     void boolean(Tag tag, bool value);
     void integer(Tag tag, std::int64_t value);
+    /// Without the header.
+    void integerContent(std::int64_t value);
     void unsignedInteger(Tag tag, std::uint64_t value);
     void text(Tag tag, std::string_view value);
     void bitString(Tag tag, const BitString &value);

@@ -1,0 +1,645 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "mms/pdufiles.h"
+
+#include "mms/codec.h"
+
+namespace mms {
+
+using ber::Element;
+using ber::Reader;
+using ber::Tag;
+using ber::Writer;
+
+namespace {
+
+FileName readFileName(Reader reader)
+{
+    FileName name;
+    name.reserve(reader.countRest());
+    while (!reader.atEnd())
+        name.push_back(
+            reader.text(reader.expect(ber::tags::graphicString, "A part of a file name")));
+    return name;
+}
+
+void writeFileName(Writer &writer, const FileName &name)
+{
+    for (auto part = name.rbegin(); part != name.rend(); ++part)
+        writer.text(ber::tags::graphicString, *part);
+}
+
+void writeFileName(Writer &writer, Tag tag, const FileName &name)
+{
+    const std::size_t mark = writer.size();
+    writeFileName(writer, name);
+    writer.close(tag, mark);
+}
+
+std::string fileText(const FileName &name)
+{
+    return codec::joined(name, quoted);
+}
+
+FileAttributes readAttributes(Reader reader)
+{
+    FileAttributes attributes;
+    attributes.size = reader.unsigned32(reader.expect(Tag::context(0), "The size of the file"));
+    Element time;
+    if (reader.takeIf(Tag::context(1), time))
+        attributes.lastModified = reader.text(time);
+    reader.expectEnd("the attributes of the file");
+    return attributes;
+}
+
+void writeAttributes(Writer &writer, const FileAttributes &attributes)
+{
+    const std::size_t mark = writer.size();
+    if (attributes.lastModified)
+        writer.text(Tag::context(1), *attributes.lastModified);
+    writer.unsignedInteger(Tag::context(0), attributes.size);
+    writer.close(Tag::group(1), mark);
+}
+
+std::string attributesText(const FileAttributes &attributes)
+{
+    std::string result = std::to_string(attributes.size) + " octets";
+    if (attributes.lastModified)
+        result += ", modified " + quoted(*attributes.lastModified);
+    return result;
+}
+
+BinaryTime readTime(Reader &reader, const Element &element)
+{
+    if (reader.failed())
+        return {};
+    const Element asData{Tag::context(static_cast<std::uint32_t>(Data::Kind::BinaryTime)),
+                         element.content, element.offset};
+    return DataCodec::read(reader, asData).toBinaryTime().value_or(BinaryTime());
+}
+
+void writeTime(Writer &writer, Tag tag, const BinaryTime &time)
+{
+    writer.element(tag, Data::binaryTime(time).octets());
+}
+
+std::string octetsText(const std::vector<std::uint8_t> &octets)
+{
+    return toText(Data::octetString(octets));
+}
+
+DirectoryEntry readDirectoryEntry(Reader &list)
+{
+    Reader reader = list.expectGroup(ber::tags::sequence, "An entry of the directory");
+    DirectoryEntry entry;
+    entry.name = readFileName(reader.expectGroup(Tag::group(0), "The name of a file"));
+    entry.attributes =
+        readAttributes(reader.expectGroup(Tag::group(1), "The attributes of a file"));
+    reader.expectEnd("an entry of the directory");
+    return entry;
+}
+
+JournalVariable readJournalVariable(Reader reader)
+{
+    JournalVariable variable;
+    variable.tag = reader.text(reader.expect(Tag::context(0), "The tag of a journal variable"));
+    Reader value = reader.expectGroup(Tag::group(1), "The value of a journal variable");
+    variable.value = DataCodec::readNext(value);
+    value.expectEnd("the value of a journal variable");
+    reader.expectEnd("a journal variable");
+    return variable;
+}
+
+JournalEvent readJournalEvent(Reader reader)
+{
+    JournalEvent event;
+    event.condition =
+        codec::readObjectName(reader, Tag::group(0), "The condition of a journal event");
+    event.state = reader.integer32(reader.expect(Tag::context(1), "The state of a journal event"));
+    reader.expectEnd("a journal event");
+    return event;
+}
+
+JournalEntry::Record readJournalRecord(Reader reader)
+{
+    JournalEntry::Record record;
+    Element element;
+    if (reader.takeIf(Tag::group(0), element))
+        record.event = readJournalEvent(reader.enter(element));
+    if (reader.takeIf(Tag::group(1), element)) {
+        Reader list = reader.enter(element);
+        record.variables.reserve(list.countRest());
+        while (!list.atEnd())
+            record.variables.push_back(readJournalVariable(
+                list.expectGroup(ber::tags::sequence, "A variable of a journal entry")));
+    }
+    reader.expectEnd("the data of a journal entry");
+    return record;
+}
+
+JournalEntry readJournalEntry(Reader reader)
+{
+    JournalEntry entry;
+    entry.id = reader.octets(reader.expect(Tag::context(0), "The id of a journal entry"));
+    Reader origin = reader.expectGroup(Tag::group(1), "The origin of a journal entry");
+    entry.origin.content =
+        origin.octets(origin.expect(ber::tags::sequence, "The origin of a journal entry"));
+    origin.expectEnd("the origin of a journal entry");
+    Reader content = reader.expectGroup(Tag::group(2), "The content of a journal entry");
+    entry.time = readTime(content, content.expect(Tag::context(0), "The time of a journal entry"));
+    Element element;
+    if (content.takeIf(Tag::context(1), element))
+        content.null(element);
+    if (content.takeIf(Tag::context(3), element))
+        entry.content = content.text(element);
+    else
+        entry.content =
+            readJournalRecord(content.expectGroup(Tag::group(2), "The data of a journal entry"));
+    content.expectEnd("the content of a journal entry");
+    reader.expectEnd("a journal entry");
+    return entry;
+}
+
+void writeJournalEntry(Writer &writer, const JournalEntry &entry)
+{
+    const std::size_t entryMark = writer.size();
+    if (const auto *annotation = std::get_if<std::string>(&entry.content)) {
+        writer.text(Tag::context(3), *annotation);
+    } else {
+        const auto &record = std::get<JournalEntry::Record>(entry.content);
+        if (!record.variables.empty()) {
+            const std::size_t listMark = writer.size();
+            for (auto variable = record.variables.rbegin(); variable != record.variables.rend();
+                 ++variable) {
+                const std::size_t mark = writer.size();
+                DataCodec::write(writer, variable->value);
+                writer.close(Tag::group(1), mark);
+                writer.text(Tag::context(0), variable->tag);
+                writer.close(ber::tags::sequence, mark);
+            }
+            writer.close(Tag::group(1), listMark);
+        }
+        if (record.event) {
+            const std::size_t mark = writer.size();
+            writer.integer(Tag::context(1), record.event->state);
+            codec::write(writer, Tag::group(0), record.event->condition);
+            writer.close(Tag::group(0), mark);
+        }
+        writer.close(Tag::group(2), entryMark);
+    }
+    writeTime(writer, Tag::context(0), entry.time);
+    writer.close(Tag::group(2), entryMark);
+    const std::size_t originMark = writer.size();
+    writer.element(ber::tags::sequence, entry.origin.content);
+    writer.close(Tag::group(1), originMark);
+    writer.element(Tag::context(0), entry.id);
+    writer.close(ber::tags::sequence, entryMark);
+}
+
+std::string entryText(const JournalEntry &entry)
+{
+    std::string result = octetsText(entry.id) + " at " + toText(entry.time);
+    if (const auto *annotation = std::get_if<std::string>(&entry.content))
+        return result + ": " + quoted(*annotation);
+    const auto &record = std::get<JournalEntry::Record>(entry.content);
+    if (record.event)
+        result += ", event " + toText(record.event->condition) + " state " +
+                  std::to_string(record.event->state);
+    return result + ": {" +
+           codec::joined(record.variables,
+                         [](const JournalVariable &variable) {
+                             return quoted(variable.tag) + " = " + toText(variable.value);
+                         }) +
+           '}';
+}
+
+} // namespace
+
+ObtainFileRequest ObtainFileRequest::read(Reader &outer, const Element &element)
+{
+    Reader reader = outer.enter(element);
+    ObtainFileRequest request;
+    Element server;
+    // Where no server is named, [0] is absent, and the first name has the tag [1].
+    if (reader.takeIf(Tag::group(0), server))
+        request.sourceServer = ApplicationReference{reader.octets(server)};
+    request.source = readFileName(reader.expectGroup(Tag::group(1), "The file to fetch"));
+    request.destination =
+        readFileName(reader.expectGroup(Tag::group(2), "The name of the copy of the file"));
+    reader.expectEnd("the request");
+    return request;
+}
+
+void ObtainFileRequest::write(Writer &writer) const
+{
+    writeFileName(writer, Tag::group(2), destination);
+    writeFileName(writer, Tag::group(1), source);
+    if (sourceServer)
+        writer.element(Tag::group(0), sourceServer->content);
+}
+
+std::string ObtainFileRequest::text() const
+{
+    return fileText(source) + " to " + fileText(destination) +
+           (sourceServer ? " from another server" : "");
+}
+
+FileOpenRequest FileOpenRequest::read(Reader &outer, const Element &element)
+{
+    Reader reader = outer.enter(element);
+    FileOpenRequest request;
+    request.name = readFileName(reader.expectGroup(Tag::group(0), "The name of the file"));
+    request.position =
+        reader.unsigned32(reader.expect(Tag::context(1), "The position in the file"));
+    reader.expectEnd("the request");
+    return request;
+}
+
+void FileOpenRequest::write(Writer &writer) const
+{
+    writer.unsignedInteger(Tag::context(1), position);
+    writeFileName(writer, Tag::group(0), name);
+}
+
+std::string FileOpenRequest::text() const
+{
+    return fileText(name) + " at " + std::to_string(position);
+}
+
+FileOpenResponse FileOpenResponse::read(Reader &outer, const Element &element)
+{
+    Reader reader = outer.enter(element);
+    FileOpenResponse response;
+    response.frsmId = reader.integer32(reader.expect(Tag::context(0), "The id of the open file"));
+    response.attributes =
+        readAttributes(reader.expectGroup(Tag::group(1), "The attributes of the file"));
+    reader.expectEnd("the answer");
+    return response;
+}
+
+void FileOpenResponse::write(Writer &writer) const
+{
+    writeAttributes(writer, attributes);
+    writer.integer(Tag::context(0), frsmId);
+}
+
+std::string FileOpenResponse::text() const
+{
+    return "frsm " + std::to_string(frsmId) + ", " + attributesText(attributes);
+}
+
+FileReadRequest FileReadRequest::read(Reader &outer, const Element &element)
+{
+    return {outer.integer32(element)};
+}
+
+FileReadResponse FileReadResponse::read(Reader &outer, const Element &element)
+{
+    Reader reader = outer.enter(element);
+    FileReadResponse response;
+    response.data = reader.octets(reader.expect(Tag::context(0), "The data of the file"));
+    Element more;
+    if (reader.takeIf(Tag::context(1), more))
+        response.moreFollows = reader.boolean(more);
+    reader.expectEnd("the answer");
+    return response;
+}
+
+void FileReadResponse::write(Writer &writer) const
+{
+    writer.boolean(Tag::context(1), moreFollows);
+    writer.element(Tag::context(0), data);
+}
+
+std::string FileReadResponse::text() const
+{
+    return std::to_string(data.size()) + " octets, more follows " +
+           (moreFollows ? "true" : "false");
+}
+
+FileCloseRequest FileCloseRequest::read(Reader &outer, const Element &element)
+{
+    return {outer.integer32(element)};
+}
+
+FileRenameRequest FileRenameRequest::read(Reader &outer, const Element &element)
+{
+    Reader reader = outer.enter(element);
+    FileRenameRequest request;
+    request.currentName = readFileName(reader.expectGroup(Tag::group(0), "The name of the file"));
+    request.newName = readFileName(reader.expectGroup(Tag::group(1), "The new name of the file"));
+    reader.expectEnd("the request");
+    return request;
+}
+
+void FileRenameRequest::write(Writer &writer) const
+{
+    writeFileName(writer, Tag::group(1), newName);
+    writeFileName(writer, Tag::group(0), currentName);
+}
+
+std::string FileRenameRequest::text() const
+{
+    return fileText(currentName) + " to " + fileText(newName);
+}
+
+FileDeleteRequest FileDeleteRequest::read(Reader &outer, const Element &element)
+{
+    return {readFileName(outer.enter(element))};
+}
+
+void FileDeleteRequest::write(Writer &writer) const
+{
+    writeFileName(writer, name);
+}
+
+std::string FileDeleteRequest::text() const
+{
+    return fileText(name);
+}
+
+FileDirectoryRequest FileDirectoryRequest::read(Reader &outer, const Element &element)
+{
+    Reader reader = outer.enter(element);
+    FileDirectoryRequest request;
+    Element name;
+    if (reader.takeIf(Tag::group(0), name))
+        request.specification = readFileName(reader.enter(name));
+    if (reader.takeIf(Tag::group(1), name))
+        request.continueAfter = readFileName(reader.enter(name));
+    reader.expectEnd("the request");
+    return request;
+}
+
+void FileDirectoryRequest::write(Writer &writer) const
+{
+    if (continueAfter)
+        writeFileName(writer, Tag::group(1), *continueAfter);
+    if (specification)
+        writeFileName(writer, Tag::group(0), *specification);
+}
+
+std::string FileDirectoryRequest::text() const
+{
+    return (specification ? fileText(*specification) : std::string("all")) +
+           (continueAfter ? " after " + fileText(*continueAfter) : std::string());
+}
+
+FileDirectoryResponse FileDirectoryResponse::read(Reader &outer, const Element &element)
+{
+    Reader reader = outer.enter(element);
+    FileDirectoryResponse response;
+    Reader tagged = reader.expectGroup(Tag::group(0), "The entries of the directory");
+    // Peers disagree on whether the list's own tag stands inside [0]: an entry begins with [0].
+    Reader list = tagged;
+    Element element0;
+    if (list.takeIf(ber::tags::sequence, element0)) {
+        Reader inside = tagged.enter(element0);
+        if (inside.peek() != Tag::group(0)) {
+            list.expectEnd("the entries of the directory");
+            list = inside;
+        } else {
+            list = tagged;
+        }
+    }
+    response.entries.reserve(list.countRest());
+    while (!list.atEnd())
+        response.entries.push_back(readDirectoryEntry(list));
+    Element more;
+    if (reader.takeIf(Tag::context(1), more))
+        response.moreFollows = reader.boolean(more);
+    reader.expectEnd("the answer");
+    return response;
+}
+
+void FileDirectoryResponse::write(Writer &writer) const
+{
+    if (moreFollows)
+        writer.boolean(Tag::context(1), true);
+    const std::size_t mark = writer.size();
+    for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry) {
+        const std::size_t entryMark = writer.size();
+        writeAttributes(writer, entry->attributes);
+        writeFileName(writer, Tag::group(0), entry->name);
+        writer.close(ber::tags::sequence, entryMark);
+    }
+    writer.close(ber::tags::sequence, mark);
+    writer.close(Tag::group(0), mark);
+}
+
+std::string FileDirectoryResponse::text() const
+{
+    return '{' +
+           codec::joined(entries,
+                         [](const DirectoryEntry &entry) {
+                             return fileText(entry.name) + " (" + attributesText(entry.attributes) +
+                                    ')';
+                         }) +
+           "}, more follows " + (moreFollows ? "true" : "false");
+}
+
+ReadJournalRequest ReadJournalRequest::read(Reader &outer, const Element &element)
+{
+    Reader reader = outer.enter(element);
+    ReadJournalRequest request;
+    request.journal = codec::readObjectName(reader, Tag::group(0), "The name of the journal");
+    Element optional;
+    if (reader.takeIf(Tag::group(1), optional)) {
+        Reader choice = reader.enter(optional);
+        Element chosen;
+        if (choice.takeIf(Tag::context(0), chosen))
+            request.start = readTime(choice, chosen);
+        else
+            request.start =
+                choice.octets(choice.expect(Tag::context(1), "The first entry to read"));
+        choice.expectEnd("the first entry to read");
+    }
+    if (reader.takeIf(Tag::group(2), optional)) {
+        Reader choice = reader.enter(optional);
+        Element chosen;
+        if (choice.takeIf(Tag::context(0), chosen))
+            request.stop = readTime(choice, chosen);
+        else
+            request.stop =
+                choice.integer32(choice.expect(Tag::context(1), "The number of entries"));
+        choice.expectEnd("the last entry to read");
+    }
+    if (reader.takeIf(Tag::group(4), optional)) {
+        Reader list = reader.enter(optional);
+        auto &names = request.variables.emplace();
+        names.reserve(list.countRest());
+        while (!list.atEnd())
+            names.push_back(
+                list.text(list.expect(ber::tags::visibleString, "The tag of a variable")));
+    }
+    if (reader.takeIf(Tag::group(5), optional)) {
+        Reader position = reader.enter(optional);
+        JournalPosition after;
+        after.time = readTime(
+            position, position.expect(Tag::context(0), "The time of the entry to start after"));
+        after.entry =
+            position.octets(position.expect(Tag::context(1), "The id of the entry to start after"));
+        position.expectEnd("the entry to start after");
+        request.startAfter = std::move(after);
+    }
+    reader.expectEnd("the request");
+    return request;
+}
+
+void ReadJournalRequest::write(Writer &writer) const
+{
+    std::size_t mark = writer.size();
+    if (startAfter) {
+        writer.element(Tag::context(1), startAfter->entry);
+        writeTime(writer, Tag::context(0), startAfter->time);
+        writer.close(Tag::group(5), mark);
+    }
+    if (variables) {
+        mark = writer.size();
+        for (auto name = variables->rbegin(); name != variables->rend(); ++name)
+            writer.text(ber::tags::visibleString, *name);
+        writer.close(Tag::group(4), mark);
+    }
+    if (stop) {
+        mark = writer.size();
+        if (const auto *time = std::get_if<BinaryTime>(&*stop))
+            writeTime(writer, Tag::context(0), *time);
+        else
+            writer.integer(Tag::context(1), std::get<std::int32_t>(*stop));
+        writer.close(Tag::group(2), mark);
+    }
+    if (start) {
+        mark = writer.size();
+        if (const auto *time = std::get_if<BinaryTime>(&*start))
+            writeTime(writer, Tag::context(0), *time);
+        else
+            writer.element(Tag::context(1), std::get<std::vector<std::uint8_t>>(*start));
+        writer.close(Tag::group(1), mark);
+    }
+    codec::write(writer, Tag::group(0), journal);
+}
+
+std::string ReadJournalRequest::text() const
+{
+    std::string result = toText(journal);
+    if (start) {
+        const auto *time = std::get_if<BinaryTime>(&*start);
+        result += " from " +
+                  (time ? toText(*time) : octetsText(std::get<std::vector<std::uint8_t>>(*start)));
+    }
+    if (stop) {
+        const auto *time = std::get_if<BinaryTime>(&*stop);
+        result += time ? " to " + toText(*time)
+                       : ", " + std::to_string(std::get<std::int32_t>(*stop)) + " entries";
+    }
+    if (variables)
+        result += ", only " + codec::joined(*variables, quoted);
+    if (startAfter)
+        result += ", after " + octetsText(startAfter->entry) + " at " + toText(startAfter->time);
+    return result;
+}
+
+ReadJournalResponse ReadJournalResponse::read(Reader &outer, const Element &element)
+{
+    Reader reader = outer.enter(element);
+    ReadJournalResponse response;
+    Reader list = reader.expectGroup(Tag::group(0), "The entries of the journal");
+    response.entries.reserve(list.countRest());
+    while (!list.atEnd())
+        response.entries.push_back(
+            readJournalEntry(list.expectGroup(ber::tags::sequence, "A journal entry")));
+    Element more;
+    if (reader.takeIf(Tag::context(1), more))
+        response.moreFollows = reader.boolean(more);
+    reader.expectEnd("the answer");
+    return response;
+}
+
+void ReadJournalResponse::write(Writer &writer) const
+{
+    if (moreFollows)
+        writer.boolean(Tag::context(1), true);
+    const std::size_t mark = writer.size();
+    for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry)
+        writeJournalEntry(writer, *entry);
+    writer.close(Tag::group(0), mark);
+}
+
+std::string ReadJournalResponse::text() const
+{
+    return '{' + codec::joined(entries, entryText) + "}, more follows " +
+           (moreFollows ? "true" : "false");
+}
+
+ObtainFileResponse ObtainFileResponse::read(Reader &outer, const Element &element)
+{
+    outer.null(element);
+    return {};
+}
+
+void ObtainFileResponse::write(Writer &) const {}
+
+std::string ObtainFileResponse::text() const
+{
+    return {};
+}
+
+FileCloseResponse FileCloseResponse::read(Reader &outer, const Element &element)
+{
+    outer.null(element);
+    return {};
+}
+
+void FileCloseResponse::write(Writer &) const {}
+
+std::string FileCloseResponse::text() const
+{
+    return {};
+}
+
+FileRenameResponse FileRenameResponse::read(Reader &outer, const Element &element)
+{
+    outer.null(element);
+    return {};
+}
+
+void FileRenameResponse::write(Writer &) const {}
+
+std::string FileRenameResponse::text() const
+{
+    return {};
+}
+
+FileDeleteResponse FileDeleteResponse::read(Reader &outer, const Element &element)
+{
+    outer.null(element);
+    return {};
+}
+
+void FileDeleteResponse::write(Writer &) const {}
+
+std::string FileDeleteResponse::text() const
+{
+    return {};
+}
+
+void FileReadRequest::write(Writer &writer) const
+{
+    writer.integerContent(frsmId);
+}
+
+std::string FileReadRequest::text() const
+{
+    return "frsm " + std::to_string(frsmId);
+}
+
+void FileCloseRequest::write(Writer &writer) const
+{
+    writer.integerContent(frsmId);
+}
+
+std::string FileCloseRequest::text() const
+{
+    return "frsm " + std::to_string(frsmId);
+}
+
+} // namespace mms
