@@ -153,7 +153,7 @@ private:
                        DataAttribute &attribute)
     {
         attribute.name = name;
-        attribute.fc = texts.fc.isEmpty() ? shared(source.fc()) : texts.fc;
+        attribute.fc = texts.fc.isEmpty() ? constraintOf(source.fc()) : texts.fc;
         attribute.enumTypeId = texts.enumTypeId;
         attribute.basicType = texts.basicType;
         attribute.present = texts.isPresent && !attribute.fc.isEmpty();
@@ -167,6 +167,13 @@ private:
             attribute.value = texts.defaultValue;
         else if (const scl::ConfiguredValue *configured = source.value(m_settingGroup))
             attribute.value = valueOf(source.node().basicType, configured->value);
+    }
+
+    /// A setting that SCL marks SE can be edited: the device has it under SE while a group is being
+    /// edited, and always under SG, where its value in force is read.
+    QString constraintOf(std::string_view fc)
+    {
+        return shared(fc == "SE" ? std::string_view("SG") : fc);
     }
 
     /// The reference of the node that is being built. Nothing addresses an attribute without a
@@ -190,7 +197,7 @@ private:
         if (!isNew)
             return texts;
         texts.name = shared(source.name);
-        texts.fc = shared(source.fc);
+        texts.fc = constraintOf(source.fc);
         texts.basicType = shared(source.basicTypeName);
         if (source.kind != scl::NodeKind::Attribute || source.array)
             texts.typeName = typeNameOf(source);

@@ -57,6 +57,7 @@ private slots:
     void configuredValuesHaveTheRepresentationOfTheirType_data();
     void configuredValuesHaveTheRepresentationOfTheirType();
     void aSettingHasTheValueOfTheActiveGroup();
+    void anEditableSettingIsShownAsItsValueInForce();
     void enumerationsInUseComeWithTheDevice();
     void dataSetsOfALogicalNodeArePersistentWithTheirMembers();
     void membersThatDoNotExistAreMarkedAbsent();
@@ -231,6 +232,17 @@ void tst_SclImport::aSettingHasTheValueOfTheActiveGroup()
     const DataAttribute *setting =
         imported.device->findTag(QStringLiteral("BAY1CTRL/PTOC1$SG$StrVal$setMag$f"));
     QCOMPARE(setting->value, QVariant(200.5F));
+}
+
+void tst_SclImport::anEditableSettingIsShownAsItsValueInForce()
+{
+    const Imported imported = import("editable-setting.icd");
+    const DataAttribute *setting =
+        imported.device->findTag(QStringLiteral("FEEDERPROT/PTOC1$SG$OpDlTmms$setVal"));
+    QVERIFY(setting);
+    QCOMPARE(setting->fc, QStringLiteral("SG"));
+    QCOMPARE(setting->value, QVariant(150));
+    QVERIFY(!imported.device->findTag(QStringLiteral("FEEDERPROT/PTOC1$SE$OpDlTmms$setVal")));
 }
 
 void tst_SclImport::enumerationsInUseComeWithTheDevice()
