@@ -282,7 +282,8 @@ void tst_BrowserWindow::twoWindowsListenToBoxesOfTheirOwn()
     const auto second = fixture.open();
     const auto *one = first->findChild<MMSListener *>();
     const auto *other = second->findChild<MMSListener *>();
-    QVERIFY(one && other);
+    QVERIFY(one);
+    QVERIFY(other);
     QVERIFY(one->eventBoxName().startsWith("MMS_DATACHANGE:"));
     QVERIFY(one->eventBoxName() != other->eventBoxName());
 }

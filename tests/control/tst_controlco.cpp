@@ -258,7 +258,7 @@ void tst_ControlCo::theCurrentValueIsReadableThoughItCannotBeChosen()
     for (const QPalette::ColorRole role : {QPalette::Text, QPalette::ButtonText}) {
         const QPalette palette = list->palette();
         const double background = palette.color(QPalette::Disabled, QPalette::Button).lightnessF();
-        const QColor text = palette.color(QPalette::Disabled, role);
+        const QColor &text = palette.color(QPalette::Disabled, role);
         const double shown = text.lightnessF() * text.alphaF() + background * (1 - text.alphaF());
         QVERIFY2(qAbs(background - shown) > 0.6, qPrintable(QString::number(shown)));
     }
