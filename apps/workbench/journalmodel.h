@@ -26,7 +26,7 @@ public:
         ColumnCount
     };
 
-    static constexpr int defaultCapacity = 10'000;
+    static constexpr int defaultCapacity = 10000;
 
     /// @param capacity rows kept; the oldest go first
     explicit JournalModel(int capacity = defaultCapacity, QObject *parent = nullptr);

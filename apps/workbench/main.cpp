@@ -4,6 +4,7 @@
 #include "mainwindow.h"
 #include "modelcheck.h"
 #include "tour.h"
+#include "translators.h"
 #include "workbench.h"
 
 #include <QtCore/QCommandLineParser>
@@ -14,7 +15,6 @@
 #include <QtCore/QStandardPaths>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTextStream>
-#include <QtCore/QTranslator>
 #include <QtWidgets/QApplication>
 
 #include <cstdio>
@@ -28,23 +28,6 @@ const QString stateKey = QStringLiteral("window/state");
 void say(const QString &sentence)
 {
     QTextStream(stderr) << sentence << '\n';
-}
-
-void installTranslator(const QString &name, const QString &folder)
-{
-    auto *translator = new QTranslator(qApp);
-    if (translator->load(QLocale(), name, QStringLiteral("_"), folder))
-        QCoreApplication::installTranslator(translator);
-    else
-        delete translator;
-}
-
-void installTranslators()
-{
-    const QString folder =
-        QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("translation"));
-    installTranslator(QStringLiteral("workbench"), folder);
-    installTranslator(QStringLiteral("qtbase"), folder);
 }
 
 /// True when a window can certainly not be opened: Qt would end the process in its own words.
@@ -146,6 +129,7 @@ int main(int argc, char *argv[])
 
     if (runsWithoutDisplay(given)) {
         const QCoreApplication application(argc, argv);
+        installTranslators(translationFolder());
         const CommandLine line = parseCommandLine(parser, QCoreApplication::arguments());
         return isAnswered(parser, line, status) ? status : runCheck(line);
     }
@@ -169,7 +153,7 @@ int main(int argc, char *argv[])
         QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 10));
     }
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/workbench/workbench.png")));
-    installTranslators();
+    installTranslators(translationFolder());
 
     const CommandLine line = parseCommandLine(parser, QCoreApplication::arguments());
     if (isAnswered(parser, line, status))

@@ -43,6 +43,12 @@ protected:
     }
 };
 
+/// The width, or more where the language of the header needs it.
+void setWidth(QHeaderView *header, int column, int width)
+{
+    header->resizeSection(column, qMax(width, header->sectionSizeHint(column)));
+}
+
 } // namespace
 
 MainWindow::MainWindow(Workbench &workbench, const QString &pluginFolder, QWidget *parent)
@@ -82,9 +88,9 @@ void MainWindow::setUpViews()
 {
     QTreeView *devices = m_ui->deviceView;
     devices->setModel(&m_workbench.devices());
-    devices->header()->resizeSection(DeviceListModel::NameColumn, 200);
-    devices->header()->resizeSection(DeviceListModel::NumberColumn, 60);
-    devices->header()->resizeSection(DeviceListModel::SourceColumn, 280);
+    setWidth(devices->header(), DeviceListModel::NameColumn, 200);
+    setWidth(devices->header(), DeviceListModel::NumberColumn, 60);
+    setWidth(devices->header(), DeviceListModel::SourceColumn, 280);
     connect(devices->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &MainWindow::showSelection);
     connect(devices, &QTreeView::activated, this, [this] {
@@ -109,9 +115,9 @@ void MainWindow::setUpViews()
     m_ui->findingsView->setSortingEnabled(true);
     m_ui->findingsView->sortByColumn(FindingsModel::LineColumn, Qt::AscendingOrder);
     QHeaderView *findingsHeader = m_ui->findingsView->header();
-    findingsHeader->resizeSection(FindingsModel::SeverityColumn, 100);
-    findingsHeader->resizeSection(FindingsModel::LineColumn, 60);
-    findingsHeader->resizeSection(FindingsModel::ElementColumn, 320);
+    setWidth(findingsHeader, FindingsModel::SeverityColumn, 100);
+    setWidth(findingsHeader, FindingsModel::LineColumn, 60);
+    setWidth(findingsHeader, FindingsModel::ElementColumn, 320);
     m_ui->findingsView->setItemDelegateForColumn(FindingsModel::ElementColumn,
                                                  new PathDelegate(m_ui->findingsView));
 
@@ -120,11 +126,11 @@ void MainWindow::setUpViews()
     m_ui->journalView->setPlaceholder(
         tr("No call to the driver yet. Every request that a tool makes is listed here."));
     QHeaderView *journalHeader = journal->header();
-    journalHeader->resizeSection(JournalModel::TimeColumn, 110);
-    journalHeader->resizeSection(JournalModel::DeviceColumn, 150);
-    journalHeader->resizeSection(JournalModel::OperationColumn, 170);
-    journalHeader->resizeSection(JournalModel::ArgumentsColumn, 270);
-    journalHeader->resizeSection(JournalModel::DurationColumn, 90);
+    setWidth(journalHeader, JournalModel::TimeColumn, 110);
+    setWidth(journalHeader, JournalModel::DeviceColumn, 150);
+    setWidth(journalHeader, JournalModel::OperationColumn, 170);
+    setWidth(journalHeader, JournalModel::ArgumentsColumn, 270);
+    setWidth(journalHeader, JournalModel::DurationColumn, 90);
     journalHeader->setStretchLastSection(false);
     journalHeader->setSectionResizeMode(JournalModel::ResultColumn, QHeaderView::Stretch);
     const auto follow = std::make_shared<bool>(true);

@@ -541,8 +541,8 @@ void RehearsalDriverService::takeReportBlocks(const LogicalDevice &logicalDevice
 
 void RehearsalDriverService::fillFileStore()
 {
-    constexpr quint32 someMorning = 1'715'675'467; // 2024-05-14 08:31:07 UTC
-    constexpr quint32 halfDay = 43'200;
+    constexpr quint32 someMorning = 1715675467; // 2024-05-14 08:31:07 UTC
+    constexpr quint32 halfDay = 43200;
     const auto add = [this](const QString &path, int size, quint32 modified) {
         m_files.insert(path, {QByteArray(size, ' '), modified});
     };
@@ -550,15 +550,15 @@ void RehearsalDriverService::fillFileStore()
     for (const int fault : {17, 18, 19}) {
         const QString record =
             QStringLiteral("COMTRADE\\FRA%1").arg(fault, 5, 10, QLatin1Char('0'));
-        add(record + QStringLiteral(".cfg"), 1'846, recorded);
-        add(record + QStringLiteral(".dat"), 96'000 + 1'200 * fault, recorded);
+        add(record + QStringLiteral(".cfg"), 1846, recorded);
+        add(record + QStringLiteral(".dat"), 96000 + 1200 * fault, recorded);
         add(record + QStringLiteral(".hdr"), 412, recorded);
         recorded += 5 * halfDay;
     }
-    add(QStringLiteral("SCL\\") + m_device.name + QStringLiteral(".cid"), 212'480,
+    add(QStringLiteral("SCL\\") + m_device.name + QStringLiteral(".cid"), 212480,
         someMorning - 60 * halfDay);
-    add(QStringLiteral("events.log"), 18'204, recorded);
-    add(QStringLiteral("settings.xml"), 40'310, someMorning - 58 * halfDay);
+    add(QStringLiteral("events.log"), 18204, recorded);
+    add(QStringLiteral("settings.xml"), 40310, someMorning - 58 * halfDay);
 }
 
 RehearsalDriverService::SettingGroups *

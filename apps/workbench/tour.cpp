@@ -514,6 +514,8 @@ bool Tour::triggerInBrowser(const char *entry, const QModelIndex &index)
 bool Tour::save(QWidget *widget, const QString &picture)
 {
     QApplication::processEvents();
+    if (m_witness)
+        m_witness(*widget, picture);
     QPixmap pixmap = widget->grab();
     if (widget->isModal()) {
         // A dialog is shown on a piece of the desktop, since its own edges cannot be seen.

@@ -5,6 +5,7 @@
 #include <QtCore/QTemporaryDir>
 
 #include <functional>
+#include <utility>
 
 class MainWindow;
 class QAction;
@@ -24,6 +25,11 @@ class Tour
 public:
     /// @param folder where the pictures go; made when it does not exist
     Tour(Workbench &workbench, MainWindow &window, const QString &folder);
+
+    using Witness = std::function<void(const QWidget &window, const QString &picture)>;
+
+    /// Called for every window but the context menu, shown as its picture is about to be taken.
+    void setWitness(Witness witness) { m_witness = std::move(witness); }
 
     /// False when a window did not appear or a picture could not be saved; problem() says which.
     bool run();
@@ -64,5 +70,6 @@ private:
     const QTemporaryDir m_files; ///< holds an SCL file of the tour's own
     int m_device = 0;            ///< number of the demonstration device
     QTreeView *m_tree = nullptr; ///< of the browser; lives as long as its window is open
+    Witness m_witness;
     QString m_problem;
 };

@@ -1,0 +1,698 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en_US">
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Say what is in an SCL file, as JSON, and exit: with 0 when it is without errors, 1 with errors, 2 when it cannot be used. Needs no display.</source>
+        <translation>Sagen, was in einer SCL-Datei steht, als JSON, und enden: mit 0, wenn sie fehlerfrei ist, 1 bei Fehlern, 2, wenn sie nicht zu verwenden ist. Braucht keinen Bildschirm.</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>DATEI</translation>
+    </message>
+    <message>
+        <source>Take this IED of the file. The default asks when there are several; --check takes all.</source>
+        <translation>Dieses IED der Datei nehmen. Ohne Angabe wird bei mehreren gefragt; --check nimmt alle.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NAME</translation>
+    </message>
+    <message>
+        <source>Open each tool on the demonstration device, save a picture of it in DIR, exit.</source>
+        <translation>Jedes Werkzeug am Demonstrationsgerät öffnen, ein Bild davon in ORDNER ablegen, enden.</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <translation>ORDNER</translation>
+    </message>
+    <message>
+        <source>Load the plug-in from DIR instead of the folder &quot;plugins&quot; beside the program.</source>
+        <translation>Das Plug-in aus ORDNER laden statt aus dem Ordner „plugins“ neben dem Programm.</translation>
+    </message>
+    <message>
+        <source>Open the demonstration device.</source>
+        <translation>Das Demonstrationsgerät öffnen.</translation>
+    </message>
+    <message>
+        <source>A small host for the IEC 61850 tools: opens devices from SCL files.</source>
+        <translation>Eine kleine Umgebung für die IEC-61850-Werkzeuge: öffnet Geräte aus SCL-Dateien.</translation>
+    </message>
+    <message>
+        <source>SCL files to open.</source>
+        <translation>Zu öffnende SCL-Dateien.</translation>
+    </message>
+    <message>
+        <source>--check needs the name of a file.</source>
+        <translation>--check braucht den Namen einer Datei.</translation>
+    </message>
+    <message>
+        <source>--tour needs the name of a folder.</source>
+        <translation>--tour braucht den Namen eines Ordners.</translation>
+    </message>
+    <message>
+        <source>--check takes one file, and nothing else can be done at the same time.</source>
+        <translation>--check nimmt eine Datei, und sonst kann gleichzeitig nichts getan werden.</translation>
+    </message>
+    <message>
+        <source>--tour shows the demonstration device and opens no other file.</source>
+        <translation>--tour zeigt das Demonstrationsgerät und öffnet keine andere Datei.</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceListModel</name>
+    <message>
+        <source>The demonstration device, a part of the workbench</source>
+        <translation>Das Demonstrationsgerät, ein Teil der Workbench</translation>
+    </message>
+    <message>
+        <source>Demonstration</source>
+        <translation>Demonstration</translation>
+    </message>
+    <message>
+        <source>Loading…</source>
+        <translation>Wird geladen …</translation>
+    </message>
+    <message>
+        <source>Offline model</source>
+        <translation>Offline-Modell</translation>
+    </message>
+    <message>
+        <source>Model cannot be read: %1</source>
+        <translation>Modell nicht lesbar: %1</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
+    <message>
+        <source>Model source</source>
+        <translation>Quelle des Modells</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceStore</name>
+    <message>
+        <source>The list of devices in &quot;%1&quot; cannot be read completely.</source>
+        <translation>Die Geräteliste in „%1“ kann nicht vollständig gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The list of devices cannot be saved in &quot;%1&quot; and will be as before at the next start.</source>
+        <translation>Die Geräteliste kann nicht in „%1“ gespeichert werden; beim nächsten Start ist sie wie zuvor.</translation>
+    </message>
+</context>
+<context>
+    <name>EmbeddedDriver</name>
+    <message>
+        <source>The IED &quot;%1&quot; has no logical devices, so there is nothing to browse.</source>
+        <translation>Das IED „%1“ hat keine logischen Geräte, es gibt also nichts anzuzeigen.</translation>
+    </message>
+</context>
+<context>
+    <name>ExtensionLoader</name>
+    <message>
+        <source>Replace the file by the one that was built together with this workbench.</source>
+        <translation>Ersetzen Sie die Datei durch diejenige, die mit dieser Workbench gebaut wurde.</translation>
+    </message>
+    <message>
+        <source>The plug-in folder does not exist.</source>
+        <translation>Der Plug-in-Ordner existiert nicht.</translation>
+    </message>
+    <message>
+        <source>Install the plug-in there, or start the workbench with --plugin-dir and the folder that holds it.</source>
+        <translation>Installieren Sie das Plug-in dort, oder starten Sie die Workbench mit --plugin-dir und dem Ordner, der es enthält.</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>Die Datei existiert nicht.</translation>
+    </message>
+    <message>
+        <source>Put the plug-in there, or start the workbench with --plugin-dir and the folder that holds it.</source>
+        <translation>Legen Sie das Plug-in dort ab, oder starten Sie die Workbench mit --plugin-dir und dem Ordner, der es enthält.</translation>
+    </message>
+    <message>
+        <source>The file is not a plug-in that this Qt can load: %1</source>
+        <translation>Die Datei ist kein Plug-in, das dieses Qt laden kann: %1</translation>
+    </message>
+    <message>
+        <source>The plug-in is of another kind: it offers &quot;%1&quot; where &quot;%2&quot; is needed.</source>
+        <translation>Das Plug-in ist von anderer Art: Es bietet „%1“, benötigt wird „%2“.</translation>
+    </message>
+    <message>
+        <source>The plug-in does not carry the key &quot;%1&quot;.</source>
+        <translation>Das Plug-in trägt nicht den Schlüssel „%1“.</translation>
+    </message>
+    <message>
+        <source>The plug-in cannot be loaded: %1</source>
+        <translation>Das Plug-in kann nicht geladen werden: %1</translation>
+    </message>
+    <message>
+        <source>Make sure that the libraries it needs are installed and belong to the same version.</source>
+        <translation>Stellen Sie sicher, dass die nötigen Bibliotheken installiert sind und zur selben Version gehören.</translation>
+    </message>
+    <message>
+        <source>The plug-in's object does not have the promised interface.</source>
+        <translation>Das Objekt des Plug-ins hat nicht die zugesagte Schnittstelle.</translation>
+    </message>
+    <message>
+        <source>The plug-in does not serve IEC 61850 (protocol %1).</source>
+        <translation>Das Plug-in bedient IEC 61850 nicht (Protokoll %1).</translation>
+    </message>
+    <message>
+        <source>The plug-in says that it is not available.</source>
+        <translation>Das Plug-in meldet, dass es nicht verfügbar ist.</translation>
+    </message>
+    <message>
+        <source>Try again later, or ask whoever supplied the plug-in.</source>
+        <translation>Versuchen Sie es später noch einmal, oder fragen Sie den Lieferanten des Plug-ins.</translation>
+    </message>
+    <message>
+        <source>The plug-in offers no action.</source>
+        <translation>Das Plug-in bietet keine Aktion.</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsModel</name>
+    <message>
+        <source>1 error</source>
+        <translation>1 Fehler</translation>
+    </message>
+    <message>
+        <source>%1 errors</source>
+        <translation>%1 Fehler</translation>
+    </message>
+    <message>
+        <source>1 warning</source>
+        <translation>1 Warnung</translation>
+    </message>
+    <message>
+        <source>%1 warnings</source>
+        <translation>%1 Warnungen</translation>
+    </message>
+    <message>
+        <source>1 note</source>
+        <translation>1 Hinweis</translation>
+    </message>
+    <message>
+        <source>%1 notes</source>
+        <translation>%1 Hinweise</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Schwere</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>Element</source>
+        <translation>Element</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>Befund</translation>
+    </message>
+</context>
+<context>
+    <name>IedChooser</name>
+    <message>
+        <source>Choose the IED</source>
+        <translation>IED auswählen</translation>
+    </message>
+    <message>
+        <source>IED</source>
+        <translation>IED</translation>
+    </message>
+    <message>
+        <source>Logical devices</source>
+        <translation>Logische Geräte</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds %2 IEDs. Which of them do you want to open?</source>
+        <translation>„%1“ enthält %2 IEDs. Welche davon möchten Sie öffnen?</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>This IED has no logical devices, so there is nothing to browse.</source>
+        <translation>Dieses IED hat keine logischen Geräte, es gibt also nichts anzuzeigen.</translation>
+    </message>
+</context>
+<context>
+    <name>JournalModel</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Failed (%1)</source>
+        <translation>Fehlgeschlagen (%1)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>Operation</translation>
+    </message>
+    <message>
+        <source>Arguments</source>
+        <translation>Argumente</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>IEC 61850 Workbench</source>
+        <translation>IEC-61850-Workbench</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>Erneut &amp;versuchen</translation>
+    </message>
+    <message>
+        <source>No device yet: open an SCL file</source>
+        <translation>Noch kein Gerät: Öffnen Sie eine SCL-Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Open SCL File…</source>
+        <translation>SCL-Datei ö&amp;ffnen …</translation>
+    </message>
+    <message>
+        <source>Open De&amp;monstration Device</source>
+        <translation>De&amp;monstrationsgerät öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>&amp;Gerät</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Werkzeuge</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Werkzeugleiste</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Befunde</translation>
+    </message>
+    <message>
+        <source>Journal</source>
+        <translation>Journal</translation>
+    </message>
+    <message>
+        <source>Add a device from an SCL file</source>
+        <translation>Ein Gerät aus einer SCL-Datei hinzufügen</translation>
+    </message>
+    <message>
+        <source>Ctrl+O</source>
+        <translation>Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Open &amp;Demonstration Device</source>
+        <translation>&amp;Demonstrationsgerät öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Read Model &amp;Again</source>
+        <translation>Modell &amp;erneut lesen</translation>
+    </message>
+    <message>
+        <source>F5</source>
+        <translation>F5</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from List</source>
+        <translation>Aus der &amp;Liste entfernen</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Journal</source>
+        <translation>&amp;Journal leeren</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Info</translation>
+    </message>
+    <message>
+        <source>Loading was cancelled.</source>
+        <translation>Das Laden wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>No call to the driver yet. Every request that a tool makes is listed here.</source>
+        <translation>Noch kein Aufruf an den Treiber. Jede Anforderung eines Werkzeugs wird hier aufgeführt.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Reading %1 (%2 files left)</source>
+        <translation>%1 wird gelesen (noch %2 Dateien)</translation>
+    </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>%1 wird gelesen</translation>
+    </message>
+    <message>
+        <source>The IEC 61850 tools are not available.
+%1
+%2 %3</source>
+        <translation>Die IEC-61850-Werkzeuge sind nicht verfügbar.
+%1
+%2 %3</translation>
+    </message>
+    <message>
+        <source>Select a device to see what was noticed while its file was read.</source>
+        <translation>Wählen Sie ein Gerät aus, um zu sehen, was beim Lesen seiner Datei aufgefallen ist.</translation>
+    </message>
+    <message>
+        <source>Findings: %1</source>
+        <translation>Befunde: %1</translation>
+    </message>
+    <message>
+        <source>Findings: %1 (%2)</source>
+        <translation>Befunde: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>No findings: everything in the file of this device was understood.</source>
+        <translation>Keine Befunde: Alles in der Datei dieses Geräts wurde verstanden.</translation>
+    </message>
+    <message>
+        <source>The model cannot be read. %1
+Read it again with %2, or remove the device from the list.</source>
+        <translation>Das Modell kann nicht gelesen werden. %1
+Lesen Sie es mit %2 erneut, oder entfernen Sie das Gerät aus der Liste.</translation>
+    </message>
+    <message>
+        <source>Open SCL File</source>
+        <translation>SCL-Datei öffnen</translation>
+    </message>
+    <message>
+        <source>SCL files (*.icd *.cid *.iid *.scd *.sed *.ssd *.ICD *.CID *.IID *.SCD *.SED *.SSD *.xml)</source>
+        <translation>SCL-Dateien (*.icd *.cid *.iid *.scd *.sed *.ssd *.ICD *.CID *.IID *.SCD *.SED *.SSD *.xml)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>%1 more files cannot be used.</source>
+        <translation>%1 weitere Dateien sind nicht zu verwenden.</translation>
+    </message>
+    <message>
+        <source>%1 was taken off the list; its file stays where it is.</source>
+        <translation>%1 wurde aus der Liste genommen; die Datei bleibt, wo sie ist.</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>IEC 61850 Workbench %1
+
+A small host for the IEC 61850 tools: it lists devices, loads the plug-in and shows every request that its tools make.
+
+Apache License 2.0</source>
+        <translation>IEC-61850-Workbench %1
+
+Eine kleine Umgebung für die IEC-61850-Werkzeuge: Sie führt Geräte auf, lädt das Plug-in und zeigt jede Anforderung seiner Werkzeuge.
+
+Apache License 2.0</translation>
+    </message>
+</context>
+<context>
+    <name>OfflineDriverService</name>
+    <message>
+        <source>Not connected to the device</source>
+        <translation>Keine Verbindung zum Gerät</translation>
+    </message>
+    <message>
+        <source>There is no device %1 on this driver.</source>
+        <translation>Auf diesem Treiber gibt es kein Gerät %1.</translation>
+    </message>
+</context>
+<context>
+    <name>RehearsalDriverService</name>
+    <message>
+        <source>There is no logical device &quot;%1&quot;.</source>
+        <translation>Es gibt kein logisches Gerät „%1“.</translation>
+    </message>
+    <message>
+        <source>There is nothing at &quot;%1&quot;.</source>
+        <translation>Unter „%1“ gibt es nichts.</translation>
+    </message>
+    <message>
+        <source>There is no data set &quot;%1&quot;.</source>
+        <translation>Es gibt keinen Datensatz „%1“.</translation>
+    </message>
+    <message>
+        <source>The control request cannot be read.</source>
+        <translation>Die Steueranforderung kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>Es gibt keine Datei „%1“.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read: %2</source>
+        <translation>Die Datei „%1“ kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>No setting group is selected for editing.</source>
+        <translation>Es ist kein Parametersatz zum Ändern gewählt.</translation>
+    </message>
+    <message>
+        <source>There is no setting group %1.</source>
+        <translation>Es gibt keinen Parametersatz %1.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no setting groups.</source>
+        <translation>„%1“ hat keine Parametersätze.</translation>
+    </message>
+    <message>
+        <source>There is no report control block &quot;%1&quot;.</source>
+        <translation>Es gibt keinen Report-Steuerblock „%1“.</translation>
+    </message>
+    <message>
+        <source>There is no such attribute.</source>
+        <translation>Ein solches Attribut gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value of the type %2.</source>
+        <translation>„%1“ ist kein Wert des Typs %2.</translation>
+    </message>
+    <message>
+        <source>The values cannot be published.</source>
+        <translation>Die Werte können nicht veröffentlicht werden.</translation>
+    </message>
+</context>
+<context>
+    <name>SclImport</name>
+    <message>
+        <source>The file &quot;%1&quot; cannot be opened: %2.</source>
+        <translation>Die Datei „%1“ kann nicht geöffnet werden: %2.</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>The file describes no IED.</source>
+        <translation>Die Datei beschreibt kein IED.</translation>
+    </message>
+    <message>
+        <source>There is no IED &quot;%1&quot; in the file.</source>
+        <translation>Es gibt kein IED „%1“ in der Datei.</translation>
+    </message>
+    <message>
+        <source>The file describes several IEDs; one must be chosen.</source>
+        <translation>Die Datei beschreibt mehrere IEDs; eines muss gewählt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>TableView</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>Tour</name>
+    <message>
+        <source>a message: &quot;%1: %2&quot;</source>
+        <translation>eine Meldung: „%1: %2“</translation>
+    </message>
+    <message>
+        <source>the window &quot;%1&quot;</source>
+        <translation>das Fenster „%1“</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <translation>Der Ordner „%1“ kann nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>The plug-in &quot;%1&quot; is not available: %2</source>
+        <translation>Das Plug-in „%1“ ist nicht verfügbar: %2</translation>
+    </message>
+    <message>
+        <source>The demonstration device was not read in time.</source>
+        <translation>Das Demonstrationsgerät wurde nicht rechtzeitig gelesen.</translation>
+    </message>
+    <message>
+        <source>The demonstration device cannot be read.</source>
+        <translation>Das Demonstrationsgerät kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The second device cannot be read.</source>
+        <translation>Das zweite Gerät kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The plug-in offers no tool number %1 for the demonstration device.</source>
+        <translation>Das Plug-in bietet kein Werkzeug Nummer %1 für das Demonstrationsgerät.</translation>
+    </message>
+    <message>
+        <source>Instead of the IED browser came %1.</source>
+        <translation>Statt des IED-Browsers kam %1.</translation>
+    </message>
+    <message>
+        <source>The IED browser did not appear.</source>
+        <translation>Der IED-Browser ist nicht erschienen.</translation>
+    </message>
+    <message>
+        <source>The IED browser has no tree.</source>
+        <translation>Der IED-Browser hat keinen Baum.</translation>
+    </message>
+    <message>
+        <source>The demonstration device has no switch.</source>
+        <translation>Das Demonstrationsgerät hat kein Schaltgerät.</translation>
+    </message>
+    <message>
+        <source>The context menu did not appear.</source>
+        <translation>Das Kontextmenü ist nicht erschienen.</translation>
+    </message>
+    <message>
+        <source>The window &quot;%1&quot; did not appear.</source>
+        <translation>Das Fenster „%1“ ist nicht erschienen.</translation>
+    </message>
+    <message>
+        <source>The journal stayed empty.</source>
+        <translation>Das Journal blieb leer.</translation>
+    </message>
+    <message>
+        <source>Instead of &quot;%1&quot; came %2.</source>
+        <translation>Statt „%1“ kam %2.</translation>
+    </message>
+    <message>
+        <source>The IED browser has no entry &quot;%1&quot;.</source>
+        <translation>Der IED-Browser hat keinen Eintrag „%1“.</translation>
+    </message>
+    <message>
+        <source>The picture &quot;%1&quot; cannot be saved.</source>
+        <translation>Das Bild „%1“ kann nicht gespeichert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be used: %2</source>
+        <translation>„%1“ ist nicht zu verwenden: %2</translation>
+    </message>
+    <message>
+        <source>%1 logical devices, %2 logical nodes, %3 data attributes</source>
+        <translation>%1 logische Geräte, %2 logische Knoten, %3 Datenattribute</translation>
+    </message>
+    <message>
+        <source>Loading was cancelled.</source>
+        <translation>Das Laden wurde abgebrochen.</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>The standard output cannot be written.</source>
+        <translation>In die Standardausgabe kann nicht geschrieben werden.</translation>
+    </message>
+</context>
+</TS>

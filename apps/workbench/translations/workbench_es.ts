@@ -1,0 +1,698 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es_ES" sourcelanguage="en_US">
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Say what is in an SCL file, as JSON, and exit: with 0 when it is without errors, 1 with errors, 2 when it cannot be used. Needs no display.</source>
+        <translation>Indicar en JSON qué contiene un archivo SCL y terminar: con 0 si no tiene errores, 1 si los tiene, 2 si no se puede usar. No necesita pantalla.</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>ARCHIVO</translation>
+    </message>
+    <message>
+        <source>Take this IED of the file. The default asks when there are several; --check takes all.</source>
+        <translation>Tomar este IED del archivo. De forma predeterminada se pregunta cuando hay varios; --check los toma todos.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NOMBRE</translation>
+    </message>
+    <message>
+        <source>Open each tool on the demonstration device, save a picture of it in DIR, exit.</source>
+        <translation>Abrir cada herramienta con el dispositivo de demostración, guardar una imagen en CARPETA y terminar.</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <translation>CARPETA</translation>
+    </message>
+    <message>
+        <source>Load the plug-in from DIR instead of the folder &quot;plugins&quot; beside the program.</source>
+        <translation>Cargar el complemento desde CARPETA en vez de la carpeta «plugins» junto al programa.</translation>
+    </message>
+    <message>
+        <source>Open the demonstration device.</source>
+        <translation>Abrir el dispositivo de demostración.</translation>
+    </message>
+    <message>
+        <source>A small host for the IEC 61850 tools: opens devices from SCL files.</source>
+        <translation>Un pequeño anfitrión para las herramientas IEC 61850: abre dispositivos a partir de archivos SCL.</translation>
+    </message>
+    <message>
+        <source>SCL files to open.</source>
+        <translation>Archivos SCL que se van a abrir.</translation>
+    </message>
+    <message>
+        <source>--check needs the name of a file.</source>
+        <translation>--check necesita el nombre de un archivo.</translation>
+    </message>
+    <message>
+        <source>--tour needs the name of a folder.</source>
+        <translation>--tour necesita el nombre de una carpeta.</translation>
+    </message>
+    <message>
+        <source>--check takes one file, and nothing else can be done at the same time.</source>
+        <translation>--check toma un solo archivo y no se puede hacer nada más al mismo tiempo.</translation>
+    </message>
+    <message>
+        <source>--tour shows the demonstration device and opens no other file.</source>
+        <translation>--tour muestra el dispositivo de demostración y no abre ningún otro archivo.</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceListModel</name>
+    <message>
+        <source>The demonstration device, a part of the workbench</source>
+        <translation>El dispositivo de demostración, parte del banco de trabajo</translation>
+    </message>
+    <message>
+        <source>Demonstration</source>
+        <translation>Demostración</translation>
+    </message>
+    <message>
+        <source>Loading…</source>
+        <translation>Cargando…</translation>
+    </message>
+    <message>
+        <source>Offline model</source>
+        <translation>Modelo sin conexión</translation>
+    </message>
+    <message>
+        <source>Model cannot be read: %1</source>
+        <translation>No se puede leer el modelo: %1</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N.º</translation>
+    </message>
+    <message>
+        <source>Model source</source>
+        <translation>Origen del modelo</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceStore</name>
+    <message>
+        <source>The list of devices in &quot;%1&quot; cannot be read completely.</source>
+        <translation>La lista de dispositivos en «%1» no se puede leer por completo.</translation>
+    </message>
+    <message>
+        <source>The list of devices cannot be saved in &quot;%1&quot; and will be as before at the next start.</source>
+        <translation>La lista de dispositivos no se puede guardar en «%1» y en el próximo inicio será como antes.</translation>
+    </message>
+</context>
+<context>
+    <name>EmbeddedDriver</name>
+    <message>
+        <source>The IED &quot;%1&quot; has no logical devices, so there is nothing to browse.</source>
+        <translation>El IED «%1» no tiene dispositivos lógicos, así que no hay nada que explorar.</translation>
+    </message>
+</context>
+<context>
+    <name>ExtensionLoader</name>
+    <message>
+        <source>Replace the file by the one that was built together with this workbench.</source>
+        <translation>Sustituya el archivo por el que se compiló junto con este banco de trabajo.</translation>
+    </message>
+    <message>
+        <source>The plug-in folder does not exist.</source>
+        <translation>La carpeta del complemento no existe.</translation>
+    </message>
+    <message>
+        <source>Install the plug-in there, or start the workbench with --plugin-dir and the folder that holds it.</source>
+        <translation>Instale allí el complemento o inicie el banco de trabajo con --plugin-dir y la carpeta que lo contiene.</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>El archivo no existe.</translation>
+    </message>
+    <message>
+        <source>Put the plug-in there, or start the workbench with --plugin-dir and the folder that holds it.</source>
+        <translation>Ponga allí el complemento o inicie el banco de trabajo con --plugin-dir y la carpeta que lo contiene.</translation>
+    </message>
+    <message>
+        <source>The file is not a plug-in that this Qt can load: %1</source>
+        <translation>El archivo no es un complemento que este Qt pueda cargar: %1</translation>
+    </message>
+    <message>
+        <source>The plug-in is of another kind: it offers &quot;%1&quot; where &quot;%2&quot; is needed.</source>
+        <translation>El complemento es de otro tipo: ofrece «%1» donde se necesita «%2».</translation>
+    </message>
+    <message>
+        <source>The plug-in does not carry the key &quot;%1&quot;.</source>
+        <translation>El complemento no lleva la clave «%1».</translation>
+    </message>
+    <message>
+        <source>The plug-in cannot be loaded: %1</source>
+        <translation>El complemento no se puede cargar: %1</translation>
+    </message>
+    <message>
+        <source>Make sure that the libraries it needs are installed and belong to the same version.</source>
+        <translation>Compruebe que las bibliotecas que necesita están instaladas y son de la misma versión.</translation>
+    </message>
+    <message>
+        <source>The plug-in's object does not have the promised interface.</source>
+        <translation>El objeto del complemento no tiene la interfaz prometida.</translation>
+    </message>
+    <message>
+        <source>The plug-in does not serve IEC 61850 (protocol %1).</source>
+        <translation>El complemento no atiende IEC 61850 (protocolo %1).</translation>
+    </message>
+    <message>
+        <source>The plug-in says that it is not available.</source>
+        <translation>El complemento indica que no está disponible.</translation>
+    </message>
+    <message>
+        <source>Try again later, or ask whoever supplied the plug-in.</source>
+        <translation>Inténtelo más tarde o consulte a quien suministró el complemento.</translation>
+    </message>
+    <message>
+        <source>The plug-in offers no action.</source>
+        <translation>El complemento no ofrece ninguna acción.</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsModel</name>
+    <message>
+        <source>1 error</source>
+        <translation>1 error</translation>
+    </message>
+    <message>
+        <source>%1 errors</source>
+        <translation>%1 errores</translation>
+    </message>
+    <message>
+        <source>1 warning</source>
+        <translation>1 advertencia</translation>
+    </message>
+    <message>
+        <source>%1 warnings</source>
+        <translation>%1 advertencias</translation>
+    </message>
+    <message>
+        <source>1 note</source>
+        <translation>1 nota</translation>
+    </message>
+    <message>
+        <source>%1 notes</source>
+        <translation>%1 notas</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Gravedad</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Línea</translation>
+    </message>
+    <message>
+        <source>Element</source>
+        <translation>Elemento</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>Observación</translation>
+    </message>
+</context>
+<context>
+    <name>IedChooser</name>
+    <message>
+        <source>Choose the IED</source>
+        <translation>Elegir el IED</translation>
+    </message>
+    <message>
+        <source>IED</source>
+        <translation>IED</translation>
+    </message>
+    <message>
+        <source>Logical devices</source>
+        <translation>Dispositivos lógicos</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Descripción</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds %2 IEDs. Which of them do you want to open?</source>
+        <translation>«%1» contiene %2 IED. ¿Cuáles desea abrir?</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Abrir</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguno</translation>
+    </message>
+    <message>
+        <source>This IED has no logical devices, so there is nothing to browse.</source>
+        <translation>Este IED no tiene dispositivos lógicos, así que no hay nada que explorar.</translation>
+    </message>
+</context>
+<context>
+    <name>JournalModel</name>
+    <message>
+        <source>OK</source>
+        <translation>Correcto</translation>
+    </message>
+    <message>
+        <source>Failed (%1)</source>
+        <translation>Error (%1)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>Operación</translation>
+    </message>
+    <message>
+        <source>Arguments</source>
+        <translation>Argumentos</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duración</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>IEC 61850 Workbench</source>
+        <translation>Banco de trabajo IEC 61850</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;Reintentar</translation>
+    </message>
+    <message>
+        <source>No device yet: open an SCL file</source>
+        <translation>Todavía no hay ningún dispositivo: abra un archivo SCL</translation>
+    </message>
+    <message>
+        <source>&amp;Open SCL File…</source>
+        <translation>A&amp;brir archivo SCL…</translation>
+    </message>
+    <message>
+        <source>Open De&amp;monstration Device</source>
+        <translation>Abrir el dispositivo de de&amp;mostración</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>&amp;Dispositivo</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Herramientas</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Barra de herramientas</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Observaciones</translation>
+    </message>
+    <message>
+        <source>Journal</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>Add a device from an SCL file</source>
+        <translation>Añadir un dispositivo a partir de un archivo SCL</translation>
+    </message>
+    <message>
+        <source>Ctrl+O</source>
+        <translation>Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Open &amp;Demonstration Device</source>
+        <translation>Abrir el dispositivo de &amp;demostración</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Read Model &amp;Again</source>
+        <translation>Leer el modelo de &amp;nuevo</translation>
+    </message>
+    <message>
+        <source>F5</source>
+        <translation>F5</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from List</source>
+        <translation>&amp;Quitar de la lista</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Journal</source>
+        <translation>&amp;Vaciar el registro</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Acerca de</translation>
+    </message>
+    <message>
+        <source>Loading was cancelled.</source>
+        <translation>Se ha cancelado la carga.</translation>
+    </message>
+    <message>
+        <source>No call to the driver yet. Every request that a tool makes is listed here.</source>
+        <translation>Todavía no hay llamadas al controlador. Aquí se anota cada petición de una herramienta.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Reading %1 (%2 files left)</source>
+        <translation>Leyendo %1 (quedan %2 archivos)</translation>
+    </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>Leyendo %1</translation>
+    </message>
+    <message>
+        <source>The IEC 61850 tools are not available.
+%1
+%2 %3</source>
+        <translation>Las herramientas IEC 61850 no están disponibles.
+%1
+%2 %3</translation>
+    </message>
+    <message>
+        <source>Select a device to see what was noticed while its file was read.</source>
+        <translation>Seleccione un dispositivo para ver lo que se observó al leer su archivo.</translation>
+    </message>
+    <message>
+        <source>Findings: %1</source>
+        <translation>Observaciones: %1</translation>
+    </message>
+    <message>
+        <source>Findings: %1 (%2)</source>
+        <translation>Observaciones: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>No findings: everything in the file of this device was understood.</source>
+        <translation>Sin observaciones: se ha entendido todo el archivo de este dispositivo.</translation>
+    </message>
+    <message>
+        <source>The model cannot be read. %1
+Read it again with %2, or remove the device from the list.</source>
+        <translation>No se puede leer el modelo. %1
+Léalo de nuevo con %2 o quite el dispositivo de la lista.</translation>
+    </message>
+    <message>
+        <source>Open SCL File</source>
+        <translation>Abrir archivo SCL</translation>
+    </message>
+    <message>
+        <source>SCL files (*.icd *.cid *.iid *.scd *.sed *.ssd *.ICD *.CID *.IID *.SCD *.SED *.SSD *.xml)</source>
+        <translation>Archivos SCL (*.icd *.cid *.iid *.scd *.sed *.ssd *.ICD *.CID *.IID *.SCD *.SED *.SSD *.xml)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>%1 more files cannot be used.</source>
+        <translation>Otros %1 archivos no se pueden usar.</translation>
+    </message>
+    <message>
+        <source>%1 was taken off the list; its file stays where it is.</source>
+        <translation>%1 se ha quitado de la lista; su archivo permanece donde está.</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>IEC 61850 Workbench %1
+
+A small host for the IEC 61850 tools: it lists devices, loads the plug-in and shows every request that its tools make.
+
+Apache License 2.0</source>
+        <translation>Banco de trabajo IEC 61850 %1
+
+Un pequeño anfitrión para las herramientas IEC 61850: enumera los dispositivos, carga el complemento y muestra cada petición de sus herramientas.
+
+Apache License 2.0</translation>
+    </message>
+</context>
+<context>
+    <name>OfflineDriverService</name>
+    <message>
+        <source>Not connected to the device</source>
+        <translation>Sin conexión con el dispositivo</translation>
+    </message>
+    <message>
+        <source>There is no device %1 on this driver.</source>
+        <translation>No hay ningún dispositivo %1 en este controlador.</translation>
+    </message>
+</context>
+<context>
+    <name>RehearsalDriverService</name>
+    <message>
+        <source>There is no logical device &quot;%1&quot;.</source>
+        <translation>No hay ningún dispositivo lógico «%1».</translation>
+    </message>
+    <message>
+        <source>There is nothing at &quot;%1&quot;.</source>
+        <translation>No hay nada en «%1».</translation>
+    </message>
+    <message>
+        <source>There is no data set &quot;%1&quot;.</source>
+        <translation>No hay ningún conjunto de datos «%1».</translation>
+    </message>
+    <message>
+        <source>The control request cannot be read.</source>
+        <translation>No se puede leer la petición de mando.</translation>
+    </message>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>No hay ningún archivo «%1».</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read: %2</source>
+        <translation>No se puede leer el archivo «%1»: %2</translation>
+    </message>
+    <message>
+        <source>No setting group is selected for editing.</source>
+        <translation>No hay ningún grupo de ajustes seleccionado para edición.</translation>
+    </message>
+    <message>
+        <source>There is no setting group %1.</source>
+        <translation>No hay ningún grupo de ajustes %1.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no setting groups.</source>
+        <translation>«%1» no tiene grupos de ajustes.</translation>
+    </message>
+    <message>
+        <source>There is no report control block &quot;%1&quot;.</source>
+        <translation>No hay ningún bloque de control de informes «%1».</translation>
+    </message>
+    <message>
+        <source>There is no such attribute.</source>
+        <translation>No existe ese atributo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value of the type %2.</source>
+        <translation>«%1» no es un valor del tipo %2.</translation>
+    </message>
+    <message>
+        <source>The values cannot be published.</source>
+        <translation>No se pueden publicar los valores.</translation>
+    </message>
+</context>
+<context>
+    <name>SclImport</name>
+    <message>
+        <source>The file &quot;%1&quot; cannot be opened: %2.</source>
+        <translation>No se puede abrir el archivo «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Línea %1: %2</translation>
+    </message>
+    <message>
+        <source>The file describes no IED.</source>
+        <translation>El archivo no describe ningún IED.</translation>
+    </message>
+    <message>
+        <source>There is no IED &quot;%1&quot; in the file.</source>
+        <translation>No hay ningún IED «%1» en el archivo.</translation>
+    </message>
+    <message>
+        <source>The file describes several IEDs; one must be chosen.</source>
+        <translation>El archivo describe varios IED; hay que elegir uno.</translation>
+    </message>
+</context>
+<context>
+    <name>TableView</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+</context>
+<context>
+    <name>Tour</name>
+    <message>
+        <source>a message: &quot;%1: %2&quot;</source>
+        <translation>un mensaje: «%1: %2»</translation>
+    </message>
+    <message>
+        <source>the window &quot;%1&quot;</source>
+        <translation>la ventana «%1»</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <translation>No se puede crear la carpeta «%1».</translation>
+    </message>
+    <message>
+        <source>The plug-in &quot;%1&quot; is not available: %2</source>
+        <translation>El complemento «%1» no está disponible: %2</translation>
+    </message>
+    <message>
+        <source>The demonstration device was not read in time.</source>
+        <translation>El dispositivo de demostración no se ha leído a tiempo.</translation>
+    </message>
+    <message>
+        <source>The demonstration device cannot be read.</source>
+        <translation>No se puede leer el dispositivo de demostración.</translation>
+    </message>
+    <message>
+        <source>The second device cannot be read.</source>
+        <translation>No se puede leer el segundo dispositivo.</translation>
+    </message>
+    <message>
+        <source>The plug-in offers no tool number %1 for the demonstration device.</source>
+        <translation>El complemento no ofrece la herramienta número %1 para el dispositivo de demostración.</translation>
+    </message>
+    <message>
+        <source>Instead of the IED browser came %1.</source>
+        <translation>En lugar del explorador del IED ha aparecido %1.</translation>
+    </message>
+    <message>
+        <source>The IED browser did not appear.</source>
+        <translation>El explorador del IED no ha aparecido.</translation>
+    </message>
+    <message>
+        <source>The IED browser has no tree.</source>
+        <translation>El explorador del IED no tiene árbol.</translation>
+    </message>
+    <message>
+        <source>The demonstration device has no switch.</source>
+        <translation>El dispositivo de demostración no tiene ningún aparato de maniobra.</translation>
+    </message>
+    <message>
+        <source>The context menu did not appear.</source>
+        <translation>El menú contextual no ha aparecido.</translation>
+    </message>
+    <message>
+        <source>The window &quot;%1&quot; did not appear.</source>
+        <translation>La ventana «%1» no ha aparecido.</translation>
+    </message>
+    <message>
+        <source>The journal stayed empty.</source>
+        <translation>El registro ha quedado vacío.</translation>
+    </message>
+    <message>
+        <source>Instead of &quot;%1&quot; came %2.</source>
+        <translation>En lugar de «%1» ha aparecido %2.</translation>
+    </message>
+    <message>
+        <source>The IED browser has no entry &quot;%1&quot;.</source>
+        <translation>El explorador del IED no tiene la entrada «%1».</translation>
+    </message>
+    <message>
+        <source>The picture &quot;%1&quot; cannot be saved.</source>
+        <translation>No se puede guardar la imagen «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be used: %2</source>
+        <translation>«%1» no se puede usar: %2</translation>
+    </message>
+    <message>
+        <source>%1 logical devices, %2 logical nodes, %3 data attributes</source>
+        <translation>%1 dispositivos lógicos, %2 nodos lógicos, %3 atributos de datos</translation>
+    </message>
+    <message>
+        <source>Loading was cancelled.</source>
+        <translation>Se ha cancelado la carga.</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>The standard output cannot be written.</source>
+        <translation>No se puede escribir en la salida estándar.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,698 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en_US">
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Say what is in an SCL file, as JSON, and exit: with 0 when it is without errors, 1 with errors, 2 when it cannot be used. Needs no display.</source>
+        <translation>Dire, en JSON, ce que contient un fichier SCL, puis terminer : avec 0 s'il est sans erreur, 1 s'il a des erreurs, 2 s'il est inutilisable. N'a pas besoin d'écran.</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>FICHIER</translation>
+    </message>
+    <message>
+        <source>Take this IED of the file. The default asks when there are several; --check takes all.</source>
+        <translation>Prendre cet IED du fichier. Par défaut, la question est posée s'il y en a plusieurs ; --check les prend tous.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NOM</translation>
+    </message>
+    <message>
+        <source>Open each tool on the demonstration device, save a picture of it in DIR, exit.</source>
+        <translation>Ouvrir chaque outil sur l'équipement de démonstration, en enregistrer une image dans DOSSIER, puis terminer.</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <translation>DOSSIER</translation>
+    </message>
+    <message>
+        <source>Load the plug-in from DIR instead of the folder &quot;plugins&quot; beside the program.</source>
+        <translation>Charger le plug-in depuis DOSSIER au lieu du dossier « plugins » à côté du programme.</translation>
+    </message>
+    <message>
+        <source>Open the demonstration device.</source>
+        <translation>Ouvrir l'équipement de démonstration.</translation>
+    </message>
+    <message>
+        <source>A small host for the IEC 61850 tools: opens devices from SCL files.</source>
+        <translation>Un petit hôte pour les outils IEC 61850 : ouvre des équipements à partir de fichiers SCL.</translation>
+    </message>
+    <message>
+        <source>SCL files to open.</source>
+        <translation>Fichiers SCL à ouvrir.</translation>
+    </message>
+    <message>
+        <source>--check needs the name of a file.</source>
+        <translation>--check demande le nom d'un fichier.</translation>
+    </message>
+    <message>
+        <source>--tour needs the name of a folder.</source>
+        <translation>--tour demande le nom d'un dossier.</translation>
+    </message>
+    <message>
+        <source>--check takes one file, and nothing else can be done at the same time.</source>
+        <translation>--check prend un seul fichier, et rien d'autre ne peut être fait en même temps.</translation>
+    </message>
+    <message>
+        <source>--tour shows the demonstration device and opens no other file.</source>
+        <translation>--tour montre l'équipement de démonstration et n'ouvre aucun autre fichier.</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceListModel</name>
+    <message>
+        <source>The demonstration device, a part of the workbench</source>
+        <translation>L'équipement de démonstration, qui fait partie du banc de travail</translation>
+    </message>
+    <message>
+        <source>Demonstration</source>
+        <translation>Démonstration</translation>
+    </message>
+    <message>
+        <source>Loading…</source>
+        <translation>Chargement…</translation>
+    </message>
+    <message>
+        <source>Offline model</source>
+        <translation>Modèle hors ligne</translation>
+    </message>
+    <message>
+        <source>Model cannot be read: %1</source>
+        <translation>Modèle illisible : %1</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Équipement</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N°</translation>
+    </message>
+    <message>
+        <source>Model source</source>
+        <translation>Source du modèle</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceStore</name>
+    <message>
+        <source>The list of devices in &quot;%1&quot; cannot be read completely.</source>
+        <translation>La liste des équipements dans « %1 » ne peut pas être lue entièrement.</translation>
+    </message>
+    <message>
+        <source>The list of devices cannot be saved in &quot;%1&quot; and will be as before at the next start.</source>
+        <translation>La liste des équipements ne peut pas être enregistrée dans « %1 » et sera comme avant au prochain démarrage.</translation>
+    </message>
+</context>
+<context>
+    <name>EmbeddedDriver</name>
+    <message>
+        <source>The IED &quot;%1&quot; has no logical devices, so there is nothing to browse.</source>
+        <translation>L'IED « %1 » n'a aucun dispositif logique ; il n'y a rien à parcourir.</translation>
+    </message>
+</context>
+<context>
+    <name>ExtensionLoader</name>
+    <message>
+        <source>Replace the file by the one that was built together with this workbench.</source>
+        <translation>Remplacez le fichier par celui qui a été construit avec ce banc de travail.</translation>
+    </message>
+    <message>
+        <source>The plug-in folder does not exist.</source>
+        <translation>Le dossier du plug-in n'existe pas.</translation>
+    </message>
+    <message>
+        <source>Install the plug-in there, or start the workbench with --plugin-dir and the folder that holds it.</source>
+        <translation>Installez-y le plug-in, ou démarrez le banc de travail avec --plugin-dir et le dossier qui le contient.</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>Le fichier n'existe pas.</translation>
+    </message>
+    <message>
+        <source>Put the plug-in there, or start the workbench with --plugin-dir and the folder that holds it.</source>
+        <translation>Placez-y le plug-in, ou démarrez le banc de travail avec --plugin-dir et le dossier qui le contient.</translation>
+    </message>
+    <message>
+        <source>The file is not a plug-in that this Qt can load: %1</source>
+        <translation>Le fichier n'est pas un plug-in que ce Qt peut charger : %1</translation>
+    </message>
+    <message>
+        <source>The plug-in is of another kind: it offers &quot;%1&quot; where &quot;%2&quot; is needed.</source>
+        <translation>Le plug-in est d'un autre type : il offre « %1 » alors que « %2 » est nécessaire.</translation>
+    </message>
+    <message>
+        <source>The plug-in does not carry the key &quot;%1&quot;.</source>
+        <translation>Le plug-in ne porte pas la clé « %1 ».</translation>
+    </message>
+    <message>
+        <source>The plug-in cannot be loaded: %1</source>
+        <translation>Le plug-in ne peut pas être chargé : %1</translation>
+    </message>
+    <message>
+        <source>Make sure that the libraries it needs are installed and belong to the same version.</source>
+        <translation>Assurez-vous que les bibliothèques nécessaires sont installées et de la même version.</translation>
+    </message>
+    <message>
+        <source>The plug-in's object does not have the promised interface.</source>
+        <translation>L'objet du plug-in n'a pas l'interface promise.</translation>
+    </message>
+    <message>
+        <source>The plug-in does not serve IEC 61850 (protocol %1).</source>
+        <translation>Le plug-in ne sert pas IEC 61850 (protocole %1).</translation>
+    </message>
+    <message>
+        <source>The plug-in says that it is not available.</source>
+        <translation>Le plug-in indique qu'il n'est pas disponible.</translation>
+    </message>
+    <message>
+        <source>Try again later, or ask whoever supplied the plug-in.</source>
+        <translation>Réessayez plus tard, ou adressez-vous au fournisseur du plug-in.</translation>
+    </message>
+    <message>
+        <source>The plug-in offers no action.</source>
+        <translation>Le plug-in n'offre aucune action.</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsModel</name>
+    <message>
+        <source>1 error</source>
+        <translation>1 erreur</translation>
+    </message>
+    <message>
+        <source>%1 errors</source>
+        <translation>%1 erreurs</translation>
+    </message>
+    <message>
+        <source>1 warning</source>
+        <translation>1 avertissement</translation>
+    </message>
+    <message>
+        <source>%1 warnings</source>
+        <translation>%1 avertissements</translation>
+    </message>
+    <message>
+        <source>1 note</source>
+        <translation>1 remarque</translation>
+    </message>
+    <message>
+        <source>%1 notes</source>
+        <translation>%1 remarques</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Remarque</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Gravité</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Element</source>
+        <translation>Élément</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>Constat</translation>
+    </message>
+</context>
+<context>
+    <name>IedChooser</name>
+    <message>
+        <source>Choose the IED</source>
+        <translation>Choisir l'IED</translation>
+    </message>
+    <message>
+        <source>IED</source>
+        <translation>IED</translation>
+    </message>
+    <message>
+        <source>Logical devices</source>
+        <translation>Dispositifs logiques</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds %2 IEDs. Which of them do you want to open?</source>
+        <translation>« %1 » contient %2 IED. Lesquels voulez-vous ouvrir ?</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Ouvrir</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucun</translation>
+    </message>
+    <message>
+        <source>This IED has no logical devices, so there is nothing to browse.</source>
+        <translation>Cet IED n'a aucun dispositif logique ; il n'y a rien à parcourir.</translation>
+    </message>
+</context>
+<context>
+    <name>JournalModel</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Failed (%1)</source>
+        <translation>Échec (%1)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Équipement</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>Opération</translation>
+    </message>
+    <message>
+        <source>Arguments</source>
+        <translation>Arguments</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durée</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>IEC 61850 Workbench</source>
+        <translation>Banc de travail IEC 61850</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;Réessayer</translation>
+    </message>
+    <message>
+        <source>No device yet: open an SCL file</source>
+        <translation>Aucun équipement : ouvrez un fichier SCL</translation>
+    </message>
+    <message>
+        <source>&amp;Open SCL File…</source>
+        <translation>Ou&amp;vrir un fichier SCL…</translation>
+    </message>
+    <message>
+        <source>Open De&amp;monstration Device</source>
+        <translation>Ouvrir l'équipement de dé&amp;monstration</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>É&amp;quipement</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Outils</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Ai&amp;de</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Barre d'outils</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Constats</translation>
+    </message>
+    <message>
+        <source>Journal</source>
+        <translation>Journal</translation>
+    </message>
+    <message>
+        <source>Add a device from an SCL file</source>
+        <translation>Ajouter un équipement à partir d'un fichier SCL</translation>
+    </message>
+    <message>
+        <source>Ctrl+O</source>
+        <translation>Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Open &amp;Demonstration Device</source>
+        <translation>Ouvrir l'équipement de &amp;démonstration</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Read Model &amp;Again</source>
+        <translation>R&amp;elire le modèle</translation>
+    </message>
+    <message>
+        <source>F5</source>
+        <translation>F5</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from List</source>
+        <translation>&amp;Retirer de la liste</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Journal</source>
+        <translation>&amp;Vider le journal</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>À &amp;propos</translation>
+    </message>
+    <message>
+        <source>Loading was cancelled.</source>
+        <translation>Le chargement a été annulé.</translation>
+    </message>
+    <message>
+        <source>No call to the driver yet. Every request that a tool makes is listed here.</source>
+        <translation>Aucun appel au pilote pour l'instant. Chaque requête d'un outil est notée ici.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Reading %1 (%2 files left)</source>
+        <translation>Lecture de %1 (encore %2 fichiers)</translation>
+    </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>Lecture de %1</translation>
+    </message>
+    <message>
+        <source>The IEC 61850 tools are not available.
+%1
+%2 %3</source>
+        <translation>Les outils IEC 61850 ne sont pas disponibles.
+%1
+%2 %3</translation>
+    </message>
+    <message>
+        <source>Select a device to see what was noticed while its file was read.</source>
+        <translation>Sélectionnez un équipement pour voir ce qui a été relevé à la lecture de son fichier.</translation>
+    </message>
+    <message>
+        <source>Findings: %1</source>
+        <translation>Constats : %1</translation>
+    </message>
+    <message>
+        <source>Findings: %1 (%2)</source>
+        <translation>Constats : %1 (%2)</translation>
+    </message>
+    <message>
+        <source>No findings: everything in the file of this device was understood.</source>
+        <translation>Aucun constat : tout le fichier de cet équipement a été compris.</translation>
+    </message>
+    <message>
+        <source>The model cannot be read. %1
+Read it again with %2, or remove the device from the list.</source>
+        <translation>Le modèle ne peut pas être lu. %1
+Relisez-le avec %2, ou retirez l'équipement de la liste.</translation>
+    </message>
+    <message>
+        <source>Open SCL File</source>
+        <translation>Ouvrir un fichier SCL</translation>
+    </message>
+    <message>
+        <source>SCL files (*.icd *.cid *.iid *.scd *.sed *.ssd *.ICD *.CID *.IID *.SCD *.SED *.SSD *.xml)</source>
+        <translation>Fichiers SCL (*.icd *.cid *.iid *.scd *.sed *.ssd *.ICD *.CID *.IID *.SCD *.SED *.SSD *.xml)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>%1 more files cannot be used.</source>
+        <translation>%1 autres fichiers sont inutilisables.</translation>
+    </message>
+    <message>
+        <source>%1 was taken off the list; its file stays where it is.</source>
+        <translation>%1 a été retiré de la liste ; son fichier reste à sa place.</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>IEC 61850 Workbench %1
+
+A small host for the IEC 61850 tools: it lists devices, loads the plug-in and shows every request that its tools make.
+
+Apache License 2.0</source>
+        <translation>Banc de travail IEC 61850 %1
+
+Un petit hôte pour les outils IEC 61850 : il dresse la liste des équipements, charge le plug-in et montre chaque requête de ses outils.
+
+Apache License 2.0</translation>
+    </message>
+</context>
+<context>
+    <name>OfflineDriverService</name>
+    <message>
+        <source>Not connected to the device</source>
+        <translation>Pas de connexion à l'équipement</translation>
+    </message>
+    <message>
+        <source>There is no device %1 on this driver.</source>
+        <translation>Il n'y a pas d'équipement %1 sur ce pilote.</translation>
+    </message>
+</context>
+<context>
+    <name>RehearsalDriverService</name>
+    <message>
+        <source>There is no logical device &quot;%1&quot;.</source>
+        <translation>Il n'y a pas de dispositif logique « %1 ».</translation>
+    </message>
+    <message>
+        <source>There is nothing at &quot;%1&quot;.</source>
+        <translation>Il n'y a rien à « %1 ».</translation>
+    </message>
+    <message>
+        <source>There is no data set &quot;%1&quot;.</source>
+        <translation>Il n'y a pas d'ensemble de données « %1 ».</translation>
+    </message>
+    <message>
+        <source>The control request cannot be read.</source>
+        <translation>La requête de commande ne peut pas être lue.</translation>
+    </message>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>Il n'y a pas de fichier « %1 ».</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read: %2</source>
+        <translation>Le fichier « %1 » ne peut pas être lu : %2</translation>
+    </message>
+    <message>
+        <source>No setting group is selected for editing.</source>
+        <translation>Aucun groupe de réglages n'est sélectionné pour modification.</translation>
+    </message>
+    <message>
+        <source>There is no setting group %1.</source>
+        <translation>Il n'y a pas de groupe de réglages %1.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no setting groups.</source>
+        <translation>« %1 » n'a pas de groupes de réglages.</translation>
+    </message>
+    <message>
+        <source>There is no report control block &quot;%1&quot;.</source>
+        <translation>Il n'y a pas de bloc de contrôle de rapport « %1 ».</translation>
+    </message>
+    <message>
+        <source>There is no such attribute.</source>
+        <translation>Il n'y a pas de tel attribut.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value of the type %2.</source>
+        <translation>« %1 » n'est pas une valeur du type %2.</translation>
+    </message>
+    <message>
+        <source>The values cannot be published.</source>
+        <translation>Les valeurs ne peuvent pas être publiées.</translation>
+    </message>
+</context>
+<context>
+    <name>SclImport</name>
+    <message>
+        <source>The file &quot;%1&quot; cannot be opened: %2.</source>
+        <translation>Le fichier « %1 » ne peut pas être ouvert : %2.</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Ligne %1 : %2</translation>
+    </message>
+    <message>
+        <source>The file describes no IED.</source>
+        <translation>Le fichier ne décrit aucun IED.</translation>
+    </message>
+    <message>
+        <source>There is no IED &quot;%1&quot; in the file.</source>
+        <translation>Il n'y a pas d'IED « %1 » dans le fichier.</translation>
+    </message>
+    <message>
+        <source>The file describes several IEDs; one must be chosen.</source>
+        <translation>Le fichier décrit plusieurs IED ; il faut en choisir un.</translation>
+    </message>
+</context>
+<context>
+    <name>TableView</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+</context>
+<context>
+    <name>Tour</name>
+    <message>
+        <source>a message: &quot;%1: %2&quot;</source>
+        <translation>un message : « %1 : %2 »</translation>
+    </message>
+    <message>
+        <source>the window &quot;%1&quot;</source>
+        <translation>la fenêtre « %1 »</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <translation>Le dossier « %1 » ne peut pas être créé.</translation>
+    </message>
+    <message>
+        <source>The plug-in &quot;%1&quot; is not available: %2</source>
+        <translation>Le plug-in « %1 » n'est pas disponible : %2</translation>
+    </message>
+    <message>
+        <source>The demonstration device was not read in time.</source>
+        <translation>L'équipement de démonstration n'a pas été lu à temps.</translation>
+    </message>
+    <message>
+        <source>The demonstration device cannot be read.</source>
+        <translation>L'équipement de démonstration ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>The second device cannot be read.</source>
+        <translation>Le deuxième équipement ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>The plug-in offers no tool number %1 for the demonstration device.</source>
+        <translation>Le plug-in n'offre pas d'outil numéro %1 pour l'équipement de démonstration.</translation>
+    </message>
+    <message>
+        <source>Instead of the IED browser came %1.</source>
+        <translation>Au lieu du navigateur IED est apparu : %1.</translation>
+    </message>
+    <message>
+        <source>The IED browser did not appear.</source>
+        <translation>Le navigateur IED n'est pas apparu.</translation>
+    </message>
+    <message>
+        <source>The IED browser has no tree.</source>
+        <translation>Le navigateur IED n'a pas d'arborescence.</translation>
+    </message>
+    <message>
+        <source>The demonstration device has no switch.</source>
+        <translation>L'équipement de démonstration n'a pas d'appareil de coupure.</translation>
+    </message>
+    <message>
+        <source>The context menu did not appear.</source>
+        <translation>Le menu contextuel n'est pas apparu.</translation>
+    </message>
+    <message>
+        <source>The window &quot;%1&quot; did not appear.</source>
+        <translation>La fenêtre « %1 » n'est pas apparue.</translation>
+    </message>
+    <message>
+        <source>The journal stayed empty.</source>
+        <translation>Le journal est resté vide.</translation>
+    </message>
+    <message>
+        <source>Instead of &quot;%1&quot; came %2.</source>
+        <translation>Au lieu de « %1 » est apparu : %2.</translation>
+    </message>
+    <message>
+        <source>The IED browser has no entry &quot;%1&quot;.</source>
+        <translation>Le navigateur IED n'a pas d'entrée « %1 ».</translation>
+    </message>
+    <message>
+        <source>The picture &quot;%1&quot; cannot be saved.</source>
+        <translation>L'image « %1 » ne peut pas être enregistrée.</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be used: %2</source>
+        <translation>« %1 » est inutilisable : %2</translation>
+    </message>
+    <message>
+        <source>%1 logical devices, %2 logical nodes, %3 data attributes</source>
+        <translation>%1 dispositifs logiques, %2 nœuds logiques, %3 attributs de données</translation>
+    </message>
+    <message>
+        <source>Loading was cancelled.</source>
+        <translation>Le chargement a été annulé.</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>The standard output cannot be written.</source>
+        <translation>Impossible d'écrire sur la sortie standard.</translation>
+    </message>
+</context>
+</TS>

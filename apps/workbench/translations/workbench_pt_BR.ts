@@ -1,0 +1,698 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt_BR" sourcelanguage="en_US">
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Say what is in an SCL file, as JSON, and exit: with 0 when it is without errors, 1 with errors, 2 when it cannot be used. Needs no display.</source>
+        <translation>Informar em JSON o que há em um arquivo SCL e terminar: com 0 se não houver erros, 1 se houver erros, 2 se não puder ser usado. Não precisa de tela.</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>ARQUIVO</translation>
+    </message>
+    <message>
+        <source>Take this IED of the file. The default asks when there are several; --check takes all.</source>
+        <translation>Usar este IED do arquivo. Por padrão, pergunta-se quando há vários; --check usa todos.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NOME</translation>
+    </message>
+    <message>
+        <source>Open each tool on the demonstration device, save a picture of it in DIR, exit.</source>
+        <translation>Abrir cada ferramenta com o dispositivo de demonstração, salvar uma imagem em PASTA e terminar.</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <translation>PASTA</translation>
+    </message>
+    <message>
+        <source>Load the plug-in from DIR instead of the folder &quot;plugins&quot; beside the program.</source>
+        <translation>Carregar o plug-in de PASTA em vez da pasta “plugins” ao lado do programa.</translation>
+    </message>
+    <message>
+        <source>Open the demonstration device.</source>
+        <translation>Abrir o dispositivo de demonstração.</translation>
+    </message>
+    <message>
+        <source>A small host for the IEC 61850 tools: opens devices from SCL files.</source>
+        <translation>Um pequeno hospedeiro para as ferramentas IEC 61850: abre dispositivos a partir de arquivos SCL.</translation>
+    </message>
+    <message>
+        <source>SCL files to open.</source>
+        <translation>Arquivos SCL a abrir.</translation>
+    </message>
+    <message>
+        <source>--check needs the name of a file.</source>
+        <translation>--check precisa do nome de um arquivo.</translation>
+    </message>
+    <message>
+        <source>--tour needs the name of a folder.</source>
+        <translation>--tour precisa do nome de uma pasta.</translation>
+    </message>
+    <message>
+        <source>--check takes one file, and nothing else can be done at the same time.</source>
+        <translation>--check aceita um arquivo, e nada mais pode ser feito ao mesmo tempo.</translation>
+    </message>
+    <message>
+        <source>--tour shows the demonstration device and opens no other file.</source>
+        <translation>--tour mostra o dispositivo de demonstração e não abre nenhum outro arquivo.</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceListModel</name>
+    <message>
+        <source>The demonstration device, a part of the workbench</source>
+        <translation>O dispositivo de demonstração, parte da bancada</translation>
+    </message>
+    <message>
+        <source>Demonstration</source>
+        <translation>Demonstração</translation>
+    </message>
+    <message>
+        <source>Loading…</source>
+        <translation>Carregando…</translation>
+    </message>
+    <message>
+        <source>Offline model</source>
+        <translation>Modelo offline</translation>
+    </message>
+    <message>
+        <source>Model cannot be read: %1</source>
+        <translation>O modelo não pode ser lido: %1</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N.º</translation>
+    </message>
+    <message>
+        <source>Model source</source>
+        <translation>Origem do modelo</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceStore</name>
+    <message>
+        <source>The list of devices in &quot;%1&quot; cannot be read completely.</source>
+        <translation>A lista de dispositivos em “%1” não pode ser lida por completo.</translation>
+    </message>
+    <message>
+        <source>The list of devices cannot be saved in &quot;%1&quot; and will be as before at the next start.</source>
+        <translation>A lista de dispositivos não pode ser salva em “%1” e estará como antes na próxima inicialização.</translation>
+    </message>
+</context>
+<context>
+    <name>EmbeddedDriver</name>
+    <message>
+        <source>The IED &quot;%1&quot; has no logical devices, so there is nothing to browse.</source>
+        <translation>O IED “%1” não tem dispositivos lógicos, portanto não há nada a explorar.</translation>
+    </message>
+</context>
+<context>
+    <name>ExtensionLoader</name>
+    <message>
+        <source>Replace the file by the one that was built together with this workbench.</source>
+        <translation>Substitua o arquivo pelo que foi compilado junto com esta bancada.</translation>
+    </message>
+    <message>
+        <source>The plug-in folder does not exist.</source>
+        <translation>A pasta do plug-in não existe.</translation>
+    </message>
+    <message>
+        <source>Install the plug-in there, or start the workbench with --plugin-dir and the folder that holds it.</source>
+        <translation>Instale o plug-in nessa pasta ou inicie a bancada com --plugin-dir e a pasta que o contém.</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>O arquivo não existe.</translation>
+    </message>
+    <message>
+        <source>Put the plug-in there, or start the workbench with --plugin-dir and the folder that holds it.</source>
+        <translation>Coloque o plug-in nessa pasta ou inicie a bancada com --plugin-dir e a pasta que o contém.</translation>
+    </message>
+    <message>
+        <source>The file is not a plug-in that this Qt can load: %1</source>
+        <translation>O arquivo não é um plug-in que este Qt possa carregar: %1</translation>
+    </message>
+    <message>
+        <source>The plug-in is of another kind: it offers &quot;%1&quot; where &quot;%2&quot; is needed.</source>
+        <translation>O plug-in é de outro tipo: oferece “%1” onde é necessário “%2”.</translation>
+    </message>
+    <message>
+        <source>The plug-in does not carry the key &quot;%1&quot;.</source>
+        <translation>O plug-in não traz a chave “%1”.</translation>
+    </message>
+    <message>
+        <source>The plug-in cannot be loaded: %1</source>
+        <translation>O plug-in não pode ser carregado: %1</translation>
+    </message>
+    <message>
+        <source>Make sure that the libraries it needs are installed and belong to the same version.</source>
+        <translation>Verifique se as bibliotecas necessárias estão instaladas e são da mesma versão.</translation>
+    </message>
+    <message>
+        <source>The plug-in's object does not have the promised interface.</source>
+        <translation>O objeto do plug-in não tem a interface prometida.</translation>
+    </message>
+    <message>
+        <source>The plug-in does not serve IEC 61850 (protocol %1).</source>
+        <translation>O plug-in não atende IEC 61850 (protocolo %1).</translation>
+    </message>
+    <message>
+        <source>The plug-in says that it is not available.</source>
+        <translation>O plug-in informa que não está disponível.</translation>
+    </message>
+    <message>
+        <source>Try again later, or ask whoever supplied the plug-in.</source>
+        <translation>Tente mais tarde ou consulte quem forneceu o plug-in.</translation>
+    </message>
+    <message>
+        <source>The plug-in offers no action.</source>
+        <translation>O plug-in não oferece nenhuma ação.</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsModel</name>
+    <message>
+        <source>1 error</source>
+        <translation>1 erro</translation>
+    </message>
+    <message>
+        <source>%1 errors</source>
+        <translation>%1 erros</translation>
+    </message>
+    <message>
+        <source>1 warning</source>
+        <translation>1 aviso</translation>
+    </message>
+    <message>
+        <source>%1 warnings</source>
+        <translation>%1 avisos</translation>
+    </message>
+    <message>
+        <source>1 note</source>
+        <translation>1 observação</translation>
+    </message>
+    <message>
+        <source>%1 notes</source>
+        <translation>%1 observações</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erro</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Observação</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Gravidade</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linha</translation>
+    </message>
+    <message>
+        <source>Element</source>
+        <translation>Elemento</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>Constatação</translation>
+    </message>
+</context>
+<context>
+    <name>IedChooser</name>
+    <message>
+        <source>Choose the IED</source>
+        <translation>Escolher o IED</translation>
+    </message>
+    <message>
+        <source>IED</source>
+        <translation>IED</translation>
+    </message>
+    <message>
+        <source>Logical devices</source>
+        <translation>Dispositivos lógicos</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Descrição</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds %2 IEDs. Which of them do you want to open?</source>
+        <translation>“%1” contém %2 IEDs. Quais deles deseja abrir?</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Abrir</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nenhum</translation>
+    </message>
+    <message>
+        <source>This IED has no logical devices, so there is nothing to browse.</source>
+        <translation>Este IED não tem dispositivos lógicos, portanto não há nada a explorar.</translation>
+    </message>
+</context>
+<context>
+    <name>JournalModel</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Failed (%1)</source>
+        <translation>Falha (%1)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>Operação</translation>
+    </message>
+    <message>
+        <source>Arguments</source>
+        <translation>Argumentos</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duração</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>IEC 61850 Workbench</source>
+        <translation>Bancada IEC 61850</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;Tentar novamente</translation>
+    </message>
+    <message>
+        <source>No device yet: open an SCL file</source>
+        <translation>Ainda não há dispositivo: abra um arquivo SCL</translation>
+    </message>
+    <message>
+        <source>&amp;Open SCL File…</source>
+        <translation>A&amp;brir arquivo SCL…</translation>
+    </message>
+    <message>
+        <source>Open De&amp;monstration Device</source>
+        <translation>Abrir o dispositivo de de&amp;monstração</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Arquivo</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>&amp;Dispositivo</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Ferramentas</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Exibir</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Aj&amp;uda</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Barra de ferramentas</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Constatações</translation>
+    </message>
+    <message>
+        <source>Journal</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>Add a device from an SCL file</source>
+        <translation>Adicionar um dispositivo a partir de um arquivo SCL</translation>
+    </message>
+    <message>
+        <source>Ctrl+O</source>
+        <translation>Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Open &amp;Demonstration Device</source>
+        <translation>Abrir o dispositivo de &amp;demonstração</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Sair</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Read Model &amp;Again</source>
+        <translation>Ler o modelo &amp;novamente</translation>
+    </message>
+    <message>
+        <source>F5</source>
+        <translation>F5</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from List</source>
+        <translation>&amp;Remover da lista</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Journal</source>
+        <translation>&amp;Limpar o registro</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Sobre</translation>
+    </message>
+    <message>
+        <source>Loading was cancelled.</source>
+        <translation>O carregamento foi cancelado.</translation>
+    </message>
+    <message>
+        <source>No call to the driver yet. Every request that a tool makes is listed here.</source>
+        <translation>Ainda não houve chamada ao driver. Cada requisição de uma ferramenta é listada aqui.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Reading %1 (%2 files left)</source>
+        <translation>Lendo %1 (restam %2 arquivos)</translation>
+    </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>Lendo %1</translation>
+    </message>
+    <message>
+        <source>The IEC 61850 tools are not available.
+%1
+%2 %3</source>
+        <translation>As ferramentas IEC 61850 não estão disponíveis.
+%1
+%2 %3</translation>
+    </message>
+    <message>
+        <source>Select a device to see what was noticed while its file was read.</source>
+        <translation>Selecione um dispositivo para ver o que foi notado na leitura do seu arquivo.</translation>
+    </message>
+    <message>
+        <source>Findings: %1</source>
+        <translation>Constatações: %1</translation>
+    </message>
+    <message>
+        <source>Findings: %1 (%2)</source>
+        <translation>Constatações: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>No findings: everything in the file of this device was understood.</source>
+        <translation>Nenhuma constatação: tudo no arquivo deste dispositivo foi compreendido.</translation>
+    </message>
+    <message>
+        <source>The model cannot be read. %1
+Read it again with %2, or remove the device from the list.</source>
+        <translation>O modelo não pode ser lido. %1
+Leia-o novamente com %2 ou remova o dispositivo da lista.</translation>
+    </message>
+    <message>
+        <source>Open SCL File</source>
+        <translation>Abrir arquivo SCL</translation>
+    </message>
+    <message>
+        <source>SCL files (*.icd *.cid *.iid *.scd *.sed *.ssd *.ICD *.CID *.IID *.SCD *.SED *.SSD *.xml)</source>
+        <translation>Arquivos SCL (*.icd *.cid *.iid *.scd *.sed *.ssd *.ICD *.CID *.IID *.SCD *.SED *.SSD *.xml)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos os arquivos (*)</translation>
+    </message>
+    <message>
+        <source>%1 more files cannot be used.</source>
+        <translation>Outros %1 arquivos não podem ser usados.</translation>
+    </message>
+    <message>
+        <source>%1 was taken off the list; its file stays where it is.</source>
+        <translation>%1 foi removido da lista; o arquivo permanece onde está.</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Sobre</translation>
+    </message>
+    <message>
+        <source>IEC 61850 Workbench %1
+
+A small host for the IEC 61850 tools: it lists devices, loads the plug-in and shows every request that its tools make.
+
+Apache License 2.0</source>
+        <translation>Bancada IEC 61850 %1
+
+Um pequeno hospedeiro para as ferramentas IEC 61850: lista os dispositivos, carrega o plug-in e mostra cada requisição das suas ferramentas.
+
+Apache License 2.0</translation>
+    </message>
+</context>
+<context>
+    <name>OfflineDriverService</name>
+    <message>
+        <source>Not connected to the device</source>
+        <translation>Sem conexão com o dispositivo</translation>
+    </message>
+    <message>
+        <source>There is no device %1 on this driver.</source>
+        <translation>Não há dispositivo %1 neste driver.</translation>
+    </message>
+</context>
+<context>
+    <name>RehearsalDriverService</name>
+    <message>
+        <source>There is no logical device &quot;%1&quot;.</source>
+        <translation>Não há dispositivo lógico “%1”.</translation>
+    </message>
+    <message>
+        <source>There is nothing at &quot;%1&quot;.</source>
+        <translation>Não há nada em “%1”.</translation>
+    </message>
+    <message>
+        <source>There is no data set &quot;%1&quot;.</source>
+        <translation>Não há conjunto de dados “%1”.</translation>
+    </message>
+    <message>
+        <source>The control request cannot be read.</source>
+        <translation>A requisição de comando não pode ser lida.</translation>
+    </message>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>Não há arquivo “%1”.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read: %2</source>
+        <translation>O arquivo “%1” não pode ser lido: %2</translation>
+    </message>
+    <message>
+        <source>No setting group is selected for editing.</source>
+        <translation>Nenhum grupo de ajustes está selecionado para edição.</translation>
+    </message>
+    <message>
+        <source>There is no setting group %1.</source>
+        <translation>Não há grupo de ajustes %1.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no setting groups.</source>
+        <translation>“%1” não tem grupos de ajustes.</translation>
+    </message>
+    <message>
+        <source>There is no report control block &quot;%1&quot;.</source>
+        <translation>Não há bloco de controle de relatório “%1”.</translation>
+    </message>
+    <message>
+        <source>There is no such attribute.</source>
+        <translation>Esse atributo não existe.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value of the type %2.</source>
+        <translation>“%1” não é um valor do tipo %2.</translation>
+    </message>
+    <message>
+        <source>The values cannot be published.</source>
+        <translation>Os valores não podem ser publicados.</translation>
+    </message>
+</context>
+<context>
+    <name>SclImport</name>
+    <message>
+        <source>The file &quot;%1&quot; cannot be opened: %2.</source>
+        <translation>O arquivo “%1” não pode ser aberto: %2.</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Linha %1: %2</translation>
+    </message>
+    <message>
+        <source>The file describes no IED.</source>
+        <translation>O arquivo não descreve nenhum IED.</translation>
+    </message>
+    <message>
+        <source>There is no IED &quot;%1&quot; in the file.</source>
+        <translation>Não há IED “%1” no arquivo.</translation>
+    </message>
+    <message>
+        <source>The file describes several IEDs; one must be chosen.</source>
+        <translation>O arquivo descreve vários IEDs; é preciso escolher um.</translation>
+    </message>
+</context>
+<context>
+    <name>TableView</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+</context>
+<context>
+    <name>Tour</name>
+    <message>
+        <source>a message: &quot;%1: %2&quot;</source>
+        <translation>uma mensagem: “%1: %2”</translation>
+    </message>
+    <message>
+        <source>the window &quot;%1&quot;</source>
+        <translation>a janela “%1”</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <translation>A pasta “%1” não pode ser criada.</translation>
+    </message>
+    <message>
+        <source>The plug-in &quot;%1&quot; is not available: %2</source>
+        <translation>O plug-in “%1” não está disponível: %2</translation>
+    </message>
+    <message>
+        <source>The demonstration device was not read in time.</source>
+        <translation>O dispositivo de demonstração não foi lido a tempo.</translation>
+    </message>
+    <message>
+        <source>The demonstration device cannot be read.</source>
+        <translation>O dispositivo de demonstração não pode ser lido.</translation>
+    </message>
+    <message>
+        <source>The second device cannot be read.</source>
+        <translation>O segundo dispositivo não pode ser lido.</translation>
+    </message>
+    <message>
+        <source>The plug-in offers no tool number %1 for the demonstration device.</source>
+        <translation>O plug-in não oferece a ferramenta número %1 para o dispositivo de demonstração.</translation>
+    </message>
+    <message>
+        <source>Instead of the IED browser came %1.</source>
+        <translation>Em vez do navegador do IED apareceu %1.</translation>
+    </message>
+    <message>
+        <source>The IED browser did not appear.</source>
+        <translation>O navegador do IED não apareceu.</translation>
+    </message>
+    <message>
+        <source>The IED browser has no tree.</source>
+        <translation>O navegador do IED não tem árvore.</translation>
+    </message>
+    <message>
+        <source>The demonstration device has no switch.</source>
+        <translation>O dispositivo de demonstração não tem equipamento de manobra.</translation>
+    </message>
+    <message>
+        <source>The context menu did not appear.</source>
+        <translation>O menu de contexto não apareceu.</translation>
+    </message>
+    <message>
+        <source>The window &quot;%1&quot; did not appear.</source>
+        <translation>A janela “%1” não apareceu.</translation>
+    </message>
+    <message>
+        <source>The journal stayed empty.</source>
+        <translation>O registro ficou vazio.</translation>
+    </message>
+    <message>
+        <source>Instead of &quot;%1&quot; came %2.</source>
+        <translation>Em vez de “%1” apareceu %2.</translation>
+    </message>
+    <message>
+        <source>The IED browser has no entry &quot;%1&quot;.</source>
+        <translation>O navegador do IED não tem a entrada “%1”.</translation>
+    </message>
+    <message>
+        <source>The picture &quot;%1&quot; cannot be saved.</source>
+        <translation>A imagem “%1” não pode ser salva.</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be used: %2</source>
+        <translation>“%1” não pode ser usado: %2</translation>
+    </message>
+    <message>
+        <source>%1 logical devices, %2 logical nodes, %3 data attributes</source>
+        <translation>%1 dispositivos lógicos, %2 nós lógicos, %3 atributos de dados</translation>
+    </message>
+    <message>
+        <source>Loading was cancelled.</source>
+        <translation>O carregamento foi cancelado.</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>The standard output cannot be written.</source>
+        <translation>Não é possível escrever na saída padrão.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,698 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru_RU" sourcelanguage="en_US">
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Say what is in an SCL file, as JSON, and exit: with 0 when it is without errors, 1 with errors, 2 when it cannot be used. Needs no display.</source>
+        <translation>Сообщить в формате JSON, что содержит файл SCL, и завершить работу: с кодом 0, если ошибок нет, 1 при ошибках, 2, если файл непригоден. Экран не требуется.</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>ФАЙЛ</translation>
+    </message>
+    <message>
+        <source>Take this IED of the file. The default asks when there are several; --check takes all.</source>
+        <translation>Взять из файла это ИЭУ. По умолчанию, если их несколько, задаётся вопрос; --check берёт все.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>ИМЯ</translation>
+    </message>
+    <message>
+        <source>Open each tool on the demonstration device, save a picture of it in DIR, exit.</source>
+        <translation>Открыть каждый инструмент на демонстрационном устройстве, сохранить его снимок в ПАПКУ и завершить работу.</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <translation>ПАПКА</translation>
+    </message>
+    <message>
+        <source>Load the plug-in from DIR instead of the folder &quot;plugins&quot; beside the program.</source>
+        <translation>Загрузить модуль из ПАПКИ вместо папки «plugins» рядом с программой.</translation>
+    </message>
+    <message>
+        <source>Open the demonstration device.</source>
+        <translation>Открыть демонстрационное устройство.</translation>
+    </message>
+    <message>
+        <source>A small host for the IEC 61850 tools: opens devices from SCL files.</source>
+        <translation>Небольшая оболочка для инструментов МЭК 61850: открывает устройства из файлов SCL.</translation>
+    </message>
+    <message>
+        <source>SCL files to open.</source>
+        <translation>Открываемые файлы SCL.</translation>
+    </message>
+    <message>
+        <source>--check needs the name of a file.</source>
+        <translation>Для --check нужно имя файла.</translation>
+    </message>
+    <message>
+        <source>--tour needs the name of a folder.</source>
+        <translation>Для --tour нужно имя папки.</translation>
+    </message>
+    <message>
+        <source>--check takes one file, and nothing else can be done at the same time.</source>
+        <translation>--check принимает один файл, и ничего другого одновременно делать нельзя.</translation>
+    </message>
+    <message>
+        <source>--tour shows the demonstration device and opens no other file.</source>
+        <translation>--tour показывает демонстрационное устройство и не открывает других файлов.</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceListModel</name>
+    <message>
+        <source>The demonstration device, a part of the workbench</source>
+        <translation>Демонстрационное устройство, часть рабочего стенда</translation>
+    </message>
+    <message>
+        <source>Demonstration</source>
+        <translation>Демонстрация</translation>
+    </message>
+    <message>
+        <source>Loading…</source>
+        <translation>Загрузка…</translation>
+    </message>
+    <message>
+        <source>Offline model</source>
+        <translation>Модель без связи</translation>
+    </message>
+    <message>
+        <source>Model cannot be read: %1</source>
+        <translation>Модель не читается: %1</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Устройство</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>№</translation>
+    </message>
+    <message>
+        <source>Model source</source>
+        <translation>Источник модели</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Состояние</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceStore</name>
+    <message>
+        <source>The list of devices in &quot;%1&quot; cannot be read completely.</source>
+        <translation>Список устройств в «%1» не удаётся прочитать полностью.</translation>
+    </message>
+    <message>
+        <source>The list of devices cannot be saved in &quot;%1&quot; and will be as before at the next start.</source>
+        <translation>Список устройств не удаётся сохранить в «%1»; при следующем запуске он будет прежним.</translation>
+    </message>
+</context>
+<context>
+    <name>EmbeddedDriver</name>
+    <message>
+        <source>The IED &quot;%1&quot; has no logical devices, so there is nothing to browse.</source>
+        <translation>В ИЭУ «%1» нет логических устройств, просматривать нечего.</translation>
+    </message>
+</context>
+<context>
+    <name>ExtensionLoader</name>
+    <message>
+        <source>Replace the file by the one that was built together with this workbench.</source>
+        <translation>Замените файл тем, который собран вместе с этим рабочим стендом.</translation>
+    </message>
+    <message>
+        <source>The plug-in folder does not exist.</source>
+        <translation>Папка модуля не существует.</translation>
+    </message>
+    <message>
+        <source>Install the plug-in there, or start the workbench with --plugin-dir and the folder that holds it.</source>
+        <translation>Установите модуль туда или запустите рабочий стенд с --plugin-dir и папкой, в которой он находится.</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>Файл не существует.</translation>
+    </message>
+    <message>
+        <source>Put the plug-in there, or start the workbench with --plugin-dir and the folder that holds it.</source>
+        <translation>Поместите модуль туда или запустите рабочий стенд с --plugin-dir и папкой, в которой он находится.</translation>
+    </message>
+    <message>
+        <source>The file is not a plug-in that this Qt can load: %1</source>
+        <translation>Файл не является модулем, который может загрузить эта версия Qt: %1</translation>
+    </message>
+    <message>
+        <source>The plug-in is of another kind: it offers &quot;%1&quot; where &quot;%2&quot; is needed.</source>
+        <translation>Модуль другого вида: он предлагает «%1», а требуется «%2».</translation>
+    </message>
+    <message>
+        <source>The plug-in does not carry the key &quot;%1&quot;.</source>
+        <translation>Модуль не содержит ключа «%1».</translation>
+    </message>
+    <message>
+        <source>The plug-in cannot be loaded: %1</source>
+        <translation>Модуль не загружается: %1</translation>
+    </message>
+    <message>
+        <source>Make sure that the libraries it needs are installed and belong to the same version.</source>
+        <translation>Убедитесь, что нужные ему библиотеки установлены и относятся к той же версии.</translation>
+    </message>
+    <message>
+        <source>The plug-in's object does not have the promised interface.</source>
+        <translation>У объекта модуля нет обещанного интерфейса.</translation>
+    </message>
+    <message>
+        <source>The plug-in does not serve IEC 61850 (protocol %1).</source>
+        <translation>Модуль не обслуживает МЭК 61850 (протокол %1).</translation>
+    </message>
+    <message>
+        <source>The plug-in says that it is not available.</source>
+        <translation>Модуль сообщает, что он недоступен.</translation>
+    </message>
+    <message>
+        <source>Try again later, or ask whoever supplied the plug-in.</source>
+        <translation>Повторите попытку позже или обратитесь к поставщику модуля.</translation>
+    </message>
+    <message>
+        <source>The plug-in offers no action.</source>
+        <translation>Модуль не предлагает ни одного действия.</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsModel</name>
+    <message>
+        <source>1 error</source>
+        <translation>ошибок: 1</translation>
+    </message>
+    <message>
+        <source>%1 errors</source>
+        <translation>ошибок: %1</translation>
+    </message>
+    <message>
+        <source>1 warning</source>
+        <translation>предупреждений: 1</translation>
+    </message>
+    <message>
+        <source>%1 warnings</source>
+        <translation>предупреждений: %1</translation>
+    </message>
+    <message>
+        <source>1 note</source>
+        <translation>замечаний: 1</translation>
+    </message>
+    <message>
+        <source>%1 notes</source>
+        <translation>замечаний: %1</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Ошибка</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Предупреждение</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Замечание</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Важность</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Строка</translation>
+    </message>
+    <message>
+        <source>Element</source>
+        <translation>Элемент</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>Сообщение</translation>
+    </message>
+</context>
+<context>
+    <name>IedChooser</name>
+    <message>
+        <source>Choose the IED</source>
+        <translation>Выбор ИЭУ</translation>
+    </message>
+    <message>
+        <source>IED</source>
+        <translation>ИЭУ</translation>
+    </message>
+    <message>
+        <source>Logical devices</source>
+        <translation>Логические устройства</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Описание</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds %2 IEDs. Which of them do you want to open?</source>
+        <translation>Число ИЭУ в «%1»: %2. Какие из них открыть?</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Открыть</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>нет</translation>
+    </message>
+    <message>
+        <source>This IED has no logical devices, so there is nothing to browse.</source>
+        <translation>В этом ИЭУ нет логических устройств, просматривать нечего.</translation>
+    </message>
+</context>
+<context>
+    <name>JournalModel</name>
+    <message>
+        <source>OK</source>
+        <translation>Успешно</translation>
+    </message>
+    <message>
+        <source>Failed (%1)</source>
+        <translation>Ошибка (%1)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 мс</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Время</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Устройство</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>Операция</translation>
+    </message>
+    <message>
+        <source>Arguments</source>
+        <translation>Аргументы</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Результат</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Длительность</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>IEC 61850 Workbench</source>
+        <translation>Рабочий стенд МЭК 61850</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;Повторить</translation>
+    </message>
+    <message>
+        <source>No device yet: open an SCL file</source>
+        <translation>Устройств пока нет: откройте файл SCL</translation>
+    </message>
+    <message>
+        <source>&amp;Open SCL File…</source>
+        <translation>&amp;Открыть файл SCL…</translation>
+    </message>
+    <message>
+        <source>Open De&amp;monstration Device</source>
+        <translation>Открыть де&amp;монстрационное устройство</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Файл</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>&amp;Устройство</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Инструменты</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Вид</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Справка</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Панель инструментов</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Замечания</translation>
+    </message>
+    <message>
+        <source>Journal</source>
+        <translation>Журнал</translation>
+    </message>
+    <message>
+        <source>Add a device from an SCL file</source>
+        <translation>Добавить устройство из файла SCL</translation>
+    </message>
+    <message>
+        <source>Ctrl+O</source>
+        <translation>Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Open &amp;Demonstration Device</source>
+        <translation>Открыть &amp;демонстрационное устройство</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>В&amp;ыход</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Read Model &amp;Again</source>
+        <translation>Прочитать модель &amp;заново</translation>
+    </message>
+    <message>
+        <source>F5</source>
+        <translation>F5</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from List</source>
+        <translation>У&amp;брать из списка</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Journal</source>
+        <translation>О&amp;чистить журнал</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>О &amp;программе</translation>
+    </message>
+    <message>
+        <source>Loading was cancelled.</source>
+        <translation>Загрузка отменена.</translation>
+    </message>
+    <message>
+        <source>No call to the driver yet. Every request that a tool makes is listed here.</source>
+        <translation>Обращений к драйверу ещё не было. Здесь перечисляются все запросы инструментов.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Reading %1 (%2 files left)</source>
+        <translation>Чтение %1 (осталось файлов: %2)</translation>
+    </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>Чтение %1</translation>
+    </message>
+    <message>
+        <source>The IEC 61850 tools are not available.
+%1
+%2 %3</source>
+        <translation>Инструменты МЭК 61850 недоступны.
+%1
+%2 %3</translation>
+    </message>
+    <message>
+        <source>Select a device to see what was noticed while its file was read.</source>
+        <translation>Выберите устройство, чтобы увидеть, что было замечено при чтении его файла.</translation>
+    </message>
+    <message>
+        <source>Findings: %1</source>
+        <translation>Замечания: %1</translation>
+    </message>
+    <message>
+        <source>Findings: %1 (%2)</source>
+        <translation>Замечания: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>No findings: everything in the file of this device was understood.</source>
+        <translation>Замечаний нет: всё содержимое файла этого устройства распознано.</translation>
+    </message>
+    <message>
+        <source>The model cannot be read. %1
+Read it again with %2, or remove the device from the list.</source>
+        <translation>Модель не читается. %1
+Прочитайте её заново с помощью %2 или уберите устройство из списка.</translation>
+    </message>
+    <message>
+        <source>Open SCL File</source>
+        <translation>Открыть файл SCL</translation>
+    </message>
+    <message>
+        <source>SCL files (*.icd *.cid *.iid *.scd *.sed *.ssd *.ICD *.CID *.IID *.SCD *.SED *.SSD *.xml)</source>
+        <translation>Файлы SCL (*.icd *.cid *.iid *.scd *.sed *.ssd *.ICD *.CID *.IID *.SCD *.SED *.SSD *.xml)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>%1 more files cannot be used.</source>
+        <translation>Других непригодных файлов: %1.</translation>
+    </message>
+    <message>
+        <source>%1 was taken off the list; its file stays where it is.</source>
+        <translation>%1: убрано из списка; файл остаётся на месте.</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>О программе</translation>
+    </message>
+    <message>
+        <source>IEC 61850 Workbench %1
+
+A small host for the IEC 61850 tools: it lists devices, loads the plug-in and shows every request that its tools make.
+
+Apache License 2.0</source>
+        <translation>Рабочий стенд МЭК 61850 %1
+
+Небольшая оболочка для инструментов МЭК 61850: ведёт список устройств, загружает модуль и показывает каждый запрос его инструментов.
+
+Apache License 2.0</translation>
+    </message>
+</context>
+<context>
+    <name>OfflineDriverService</name>
+    <message>
+        <source>Not connected to the device</source>
+        <translation>Нет связи с устройством</translation>
+    </message>
+    <message>
+        <source>There is no device %1 on this driver.</source>
+        <translation>На этом драйвере нет устройства %1.</translation>
+    </message>
+</context>
+<context>
+    <name>RehearsalDriverService</name>
+    <message>
+        <source>There is no logical device &quot;%1&quot;.</source>
+        <translation>Логического устройства «%1» нет.</translation>
+    </message>
+    <message>
+        <source>There is nothing at &quot;%1&quot;.</source>
+        <translation>По ссылке «%1» ничего нет.</translation>
+    </message>
+    <message>
+        <source>There is no data set &quot;%1&quot;.</source>
+        <translation>Набора данных «%1» нет.</translation>
+    </message>
+    <message>
+        <source>The control request cannot be read.</source>
+        <translation>Запрос управления не читается.</translation>
+    </message>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>Файла «%1» нет.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read: %2</source>
+        <translation>Файл «%1» не читается: %2</translation>
+    </message>
+    <message>
+        <source>No setting group is selected for editing.</source>
+        <translation>Группа уставок для изменения не выбрана.</translation>
+    </message>
+    <message>
+        <source>There is no setting group %1.</source>
+        <translation>Группы уставок %1 нет.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no setting groups.</source>
+        <translation>В «%1» нет групп уставок.</translation>
+    </message>
+    <message>
+        <source>There is no report control block &quot;%1&quot;.</source>
+        <translation>Блока управления отчётом «%1» нет.</translation>
+    </message>
+    <message>
+        <source>There is no such attribute.</source>
+        <translation>Такого атрибута нет.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value of the type %2.</source>
+        <translation>«%1» не является значением типа %2.</translation>
+    </message>
+    <message>
+        <source>The values cannot be published.</source>
+        <translation>Значения не удаётся опубликовать.</translation>
+    </message>
+</context>
+<context>
+    <name>SclImport</name>
+    <message>
+        <source>The file &quot;%1&quot; cannot be opened: %2.</source>
+        <translation>Файл «%1» не открывается: %2.</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Строка %1: %2</translation>
+    </message>
+    <message>
+        <source>The file describes no IED.</source>
+        <translation>В файле не описано ни одного ИЭУ.</translation>
+    </message>
+    <message>
+        <source>There is no IED &quot;%1&quot; in the file.</source>
+        <translation>В файле нет ИЭУ «%1».</translation>
+    </message>
+    <message>
+        <source>The file describes several IEDs; one must be chosen.</source>
+        <translation>В файле описано несколько ИЭУ; нужно выбрать одно.</translation>
+    </message>
+</context>
+<context>
+    <name>TableView</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Копировать</translation>
+    </message>
+</context>
+<context>
+    <name>Tour</name>
+    <message>
+        <source>a message: &quot;%1: %2&quot;</source>
+        <translation>сообщение: «%1: %2»</translation>
+    </message>
+    <message>
+        <source>the window &quot;%1&quot;</source>
+        <translation>окно «%1»</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <translation>Папку «%1» не удаётся создать.</translation>
+    </message>
+    <message>
+        <source>The plug-in &quot;%1&quot; is not available: %2</source>
+        <translation>Модуль «%1» недоступен: %2</translation>
+    </message>
+    <message>
+        <source>The demonstration device was not read in time.</source>
+        <translation>Демонстрационное устройство не было прочитано вовремя.</translation>
+    </message>
+    <message>
+        <source>The demonstration device cannot be read.</source>
+        <translation>Демонстрационное устройство не читается.</translation>
+    </message>
+    <message>
+        <source>The second device cannot be read.</source>
+        <translation>Второе устройство не читается.</translation>
+    </message>
+    <message>
+        <source>The plug-in offers no tool number %1 for the demonstration device.</source>
+        <translation>Модуль не предлагает инструмента номер %1 для демонстрационного устройства.</translation>
+    </message>
+    <message>
+        <source>Instead of the IED browser came %1.</source>
+        <translation>Вместо обозревателя ИЭУ появилось: %1.</translation>
+    </message>
+    <message>
+        <source>The IED browser did not appear.</source>
+        <translation>Обозреватель ИЭУ не появился.</translation>
+    </message>
+    <message>
+        <source>The IED browser has no tree.</source>
+        <translation>В обозревателе ИЭУ нет дерева.</translation>
+    </message>
+    <message>
+        <source>The demonstration device has no switch.</source>
+        <translation>В демонстрационном устройстве нет коммутационного аппарата.</translation>
+    </message>
+    <message>
+        <source>The context menu did not appear.</source>
+        <translation>Контекстное меню не появилось.</translation>
+    </message>
+    <message>
+        <source>The window &quot;%1&quot; did not appear.</source>
+        <translation>Окно «%1» не появилось.</translation>
+    </message>
+    <message>
+        <source>The journal stayed empty.</source>
+        <translation>Журнал остался пустым.</translation>
+    </message>
+    <message>
+        <source>Instead of &quot;%1&quot; came %2.</source>
+        <translation>Вместо «%1» появилось: %2.</translation>
+    </message>
+    <message>
+        <source>The IED browser has no entry &quot;%1&quot;.</source>
+        <translation>В обозревателе ИЭУ нет пункта «%1».</translation>
+    </message>
+    <message>
+        <source>The picture &quot;%1&quot; cannot be saved.</source>
+        <translation>Снимок «%1» не удаётся сохранить.</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be used: %2</source>
+        <translation>Файл «%1» непригоден: %2</translation>
+    </message>
+    <message>
+        <source>%1 logical devices, %2 logical nodes, %3 data attributes</source>
+        <translation>логических устройств: %1, логических узлов: %2, атрибутов данных: %3</translation>
+    </message>
+    <message>
+        <source>Loading was cancelled.</source>
+        <translation>Загрузка отменена.</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>The standard output cannot be written.</source>
+        <translation>В стандартный вывод не удаётся записать.</translation>
+    </message>
+</context>
+</TS>

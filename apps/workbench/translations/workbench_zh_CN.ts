@@ -1,0 +1,698 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en_US">
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Say what is in an SCL file, as JSON, and exit: with 0 when it is without errors, 1 with errors, 2 when it cannot be used. Needs no display.</source>
+        <translation>以 JSON 格式说明 SCL 文件的内容后退出：没有错误时返回 0，有错误时返回 1，文件无法使用时返回 2。不需要显示器。</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Take this IED of the file. The default asks when there are several; --check takes all.</source>
+        <translation>使用文件中的这台 IED。默认情况下，有多台时会询问；--check 使用全部。</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Open each tool on the demonstration device, save a picture of it in DIR, exit.</source>
+        <translation>在演示设备上打开每个工具，将其图片保存到“文件夹”后退出。</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>Load the plug-in from DIR instead of the folder &quot;plugins&quot; beside the program.</source>
+        <translation>从“文件夹”加载插件，而不是从程序旁的“plugins”文件夹加载。</translation>
+    </message>
+    <message>
+        <source>Open the demonstration device.</source>
+        <translation>打开演示设备。</translation>
+    </message>
+    <message>
+        <source>A small host for the IEC 61850 tools: opens devices from SCL files.</source>
+        <translation>IEC 61850 工具的小型宿主程序：从 SCL 文件打开设备。</translation>
+    </message>
+    <message>
+        <source>SCL files to open.</source>
+        <translation>要打开的 SCL 文件。</translation>
+    </message>
+    <message>
+        <source>--check needs the name of a file.</source>
+        <translation>--check 需要文件名。</translation>
+    </message>
+    <message>
+        <source>--tour needs the name of a folder.</source>
+        <translation>--tour 需要文件夹名。</translation>
+    </message>
+    <message>
+        <source>--check takes one file, and nothing else can be done at the same time.</source>
+        <translation>--check 只接受一个文件，且不能同时执行其他操作。</translation>
+    </message>
+    <message>
+        <source>--tour shows the demonstration device and opens no other file.</source>
+        <translation>--tour 显示演示设备，不打开其他文件。</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceListModel</name>
+    <message>
+        <source>The demonstration device, a part of the workbench</source>
+        <translation>演示设备，工作台的一部分</translation>
+    </message>
+    <message>
+        <source>Demonstration</source>
+        <translation>演示</translation>
+    </message>
+    <message>
+        <source>Loading…</source>
+        <translation>正在加载…</translation>
+    </message>
+    <message>
+        <source>Offline model</source>
+        <translation>离线模型</translation>
+    </message>
+    <message>
+        <source>Model cannot be read: %1</source>
+        <translation>无法读取模型：%1</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>编号</translation>
+    </message>
+    <message>
+        <source>Model source</source>
+        <translation>模型来源</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceStore</name>
+    <message>
+        <source>The list of devices in &quot;%1&quot; cannot be read completely.</source>
+        <translation>无法完整读取“%1”中的设备列表。</translation>
+    </message>
+    <message>
+        <source>The list of devices cannot be saved in &quot;%1&quot; and will be as before at the next start.</source>
+        <translation>无法将设备列表保存到“%1”，下次启动时列表将与之前相同。</translation>
+    </message>
+</context>
+<context>
+    <name>EmbeddedDriver</name>
+    <message>
+        <source>The IED &quot;%1&quot; has no logical devices, so there is nothing to browse.</source>
+        <translation>IED“%1”没有逻辑设备，因此没有可浏览的内容。</translation>
+    </message>
+</context>
+<context>
+    <name>ExtensionLoader</name>
+    <message>
+        <source>Replace the file by the one that was built together with this workbench.</source>
+        <translation>请用与此工作台一起构建的文件替换该文件。</translation>
+    </message>
+    <message>
+        <source>The plug-in folder does not exist.</source>
+        <translation>插件文件夹不存在。</translation>
+    </message>
+    <message>
+        <source>Install the plug-in there, or start the workbench with --plugin-dir and the folder that holds it.</source>
+        <translation>请将插件安装到该处，或使用 --plugin-dir 和插件所在文件夹启动工作台。</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>文件不存在。</translation>
+    </message>
+    <message>
+        <source>Put the plug-in there, or start the workbench with --plugin-dir and the folder that holds it.</source>
+        <translation>请将插件放到该处，或使用 --plugin-dir 和插件所在文件夹启动工作台。</translation>
+    </message>
+    <message>
+        <source>The file is not a plug-in that this Qt can load: %1</source>
+        <translation>该文件不是此 Qt 能加载的插件：%1</translation>
+    </message>
+    <message>
+        <source>The plug-in is of another kind: it offers &quot;%1&quot; where &quot;%2&quot; is needed.</source>
+        <translation>插件种类不符：它提供的是“%1”，而需要的是“%2”。</translation>
+    </message>
+    <message>
+        <source>The plug-in does not carry the key &quot;%1&quot;.</source>
+        <translation>插件不带有键“%1”。</translation>
+    </message>
+    <message>
+        <source>The plug-in cannot be loaded: %1</source>
+        <translation>无法加载插件：%1</translation>
+    </message>
+    <message>
+        <source>Make sure that the libraries it needs are installed and belong to the same version.</source>
+        <translation>请确认它所需的库已安装且版本一致。</translation>
+    </message>
+    <message>
+        <source>The plug-in's object does not have the promised interface.</source>
+        <translation>插件对象没有所承诺的接口。</translation>
+    </message>
+    <message>
+        <source>The plug-in does not serve IEC 61850 (protocol %1).</source>
+        <translation>插件不支持 IEC 61850（协议 %1）。</translation>
+    </message>
+    <message>
+        <source>The plug-in says that it is not available.</source>
+        <translation>插件报告其不可用。</translation>
+    </message>
+    <message>
+        <source>Try again later, or ask whoever supplied the plug-in.</source>
+        <translation>请稍后再试，或询问插件的提供者。</translation>
+    </message>
+    <message>
+        <source>The plug-in offers no action.</source>
+        <translation>插件没有提供任何操作。</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsModel</name>
+    <message>
+        <source>1 error</source>
+        <translation>1 个错误</translation>
+    </message>
+    <message>
+        <source>%1 errors</source>
+        <translation>%1 个错误</translation>
+    </message>
+    <message>
+        <source>1 warning</source>
+        <translation>1 个警告</translation>
+    </message>
+    <message>
+        <source>%1 warnings</source>
+        <translation>%1 个警告</translation>
+    </message>
+    <message>
+        <source>1 note</source>
+        <translation>1 个提示</translation>
+    </message>
+    <message>
+        <source>%1 notes</source>
+        <translation>%1 个提示</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>严重程度</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>Element</source>
+        <translation>元素</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>检查结果</translation>
+    </message>
+</context>
+<context>
+    <name>IedChooser</name>
+    <message>
+        <source>Choose the IED</source>
+        <translation>选择 IED</translation>
+    </message>
+    <message>
+        <source>IED</source>
+        <translation>IED</translation>
+    </message>
+    <message>
+        <source>Logical devices</source>
+        <translation>逻辑设备</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>描述</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds %2 IEDs. Which of them do you want to open?</source>
+        <translation>“%1”包含 %2 台 IED。要打开其中哪些？</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>打开(&amp;O)</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>This IED has no logical devices, so there is nothing to browse.</source>
+        <translation>此 IED 没有逻辑设备，因此没有可浏览的内容。</translation>
+    </message>
+</context>
+<context>
+    <name>JournalModel</name>
+    <message>
+        <source>OK</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>Failed (%1)</source>
+        <translation>失败 (%1)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 毫秒</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>Arguments</source>
+        <translation>参数</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>用时</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>IEC 61850 Workbench</source>
+        <translation>IEC 61850 工作台</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>重试(&amp;R)</translation>
+    </message>
+    <message>
+        <source>No device yet: open an SCL file</source>
+        <translation>尚无设备：请打开 SCL 文件</translation>
+    </message>
+    <message>
+        <source>&amp;Open SCL File…</source>
+        <translation>打开 SCL 文件(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>Open De&amp;monstration Device</source>
+        <translation>打开演示设备(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>设备(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>工具(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>工具栏</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>检查结果</translation>
+    </message>
+    <message>
+        <source>Journal</source>
+        <translation>日志</translation>
+    </message>
+    <message>
+        <source>Add a device from an SCL file</source>
+        <translation>从 SCL 文件添加设备</translation>
+    </message>
+    <message>
+        <source>Ctrl+O</source>
+        <translation>Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Open &amp;Demonstration Device</source>
+        <translation>打开演示设备(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Read Model &amp;Again</source>
+        <translation>重新读取模型(&amp;A)</translation>
+    </message>
+    <message>
+        <source>F5</source>
+        <translation>F5</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from List</source>
+        <translation>从列表中移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Journal</source>
+        <translation>清空日志(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>关于(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Loading was cancelled.</source>
+        <translation>加载已取消。</translation>
+    </message>
+    <message>
+        <source>No call to the driver yet. Every request that a tool makes is listed here.</source>
+        <translation>尚未调用驱动程序。工具发出的每个请求都会列在这里。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Reading %1 (%2 files left)</source>
+        <translation>正在读取 %1（还剩 %2 个文件）</translation>
+    </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>正在读取 %1</translation>
+    </message>
+    <message>
+        <source>The IEC 61850 tools are not available.
+%1
+%2 %3</source>
+        <translation>IEC 61850 工具不可用。
+%1
+%2 %3</translation>
+    </message>
+    <message>
+        <source>Select a device to see what was noticed while its file was read.</source>
+        <translation>选择一台设备，查看读取其文件时发现的情况。</translation>
+    </message>
+    <message>
+        <source>Findings: %1</source>
+        <translation>检查结果：%1</translation>
+    </message>
+    <message>
+        <source>Findings: %1 (%2)</source>
+        <translation>检查结果：%1（%2）</translation>
+    </message>
+    <message>
+        <source>No findings: everything in the file of this device was understood.</source>
+        <translation>没有检查结果：此设备文件中的全部内容均已识别。</translation>
+    </message>
+    <message>
+        <source>The model cannot be read. %1
+Read it again with %2, or remove the device from the list.</source>
+        <translation>无法读取模型。%1
+请用 %2 重新读取，或将设备从列表中移除。</translation>
+    </message>
+    <message>
+        <source>Open SCL File</source>
+        <translation>打开 SCL 文件</translation>
+    </message>
+    <message>
+        <source>SCL files (*.icd *.cid *.iid *.scd *.sed *.ssd *.ICD *.CID *.IID *.SCD *.SED *.SSD *.xml)</source>
+        <translation>SCL 文件 (*.icd *.cid *.iid *.scd *.sed *.ssd *.ICD *.CID *.IID *.SCD *.SED *.SSD *.xml)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>%1 more files cannot be used.</source>
+        <translation>另有 %1 个文件无法使用。</translation>
+    </message>
+    <message>
+        <source>%1 was taken off the list; its file stays where it is.</source>
+        <translation>%1 已从列表中移除；其文件仍在原处。</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>IEC 61850 Workbench %1
+
+A small host for the IEC 61850 tools: it lists devices, loads the plug-in and shows every request that its tools make.
+
+Apache License 2.0</source>
+        <translation>IEC 61850 工作台 %1
+
+IEC 61850 工具的小型宿主程序：列出设备，加载插件，并显示其工具发出的每个请求。
+
+Apache License 2.0</translation>
+    </message>
+</context>
+<context>
+    <name>OfflineDriverService</name>
+    <message>
+        <source>Not connected to the device</source>
+        <translation>未连接到设备</translation>
+    </message>
+    <message>
+        <source>There is no device %1 on this driver.</source>
+        <translation>此驱动程序上没有设备 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>RehearsalDriverService</name>
+    <message>
+        <source>There is no logical device &quot;%1&quot;.</source>
+        <translation>没有逻辑设备“%1”。</translation>
+    </message>
+    <message>
+        <source>There is nothing at &quot;%1&quot;.</source>
+        <translation>“%1”处没有任何内容。</translation>
+    </message>
+    <message>
+        <source>There is no data set &quot;%1&quot;.</source>
+        <translation>没有数据集“%1”。</translation>
+    </message>
+    <message>
+        <source>The control request cannot be read.</source>
+        <translation>无法读取控制请求。</translation>
+    </message>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>没有文件“%1”。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read: %2</source>
+        <translation>无法读取文件“%1”：%2</translation>
+    </message>
+    <message>
+        <source>No setting group is selected for editing.</source>
+        <translation>未选择要编辑的定值组。</translation>
+    </message>
+    <message>
+        <source>There is no setting group %1.</source>
+        <translation>没有定值组 %1。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no setting groups.</source>
+        <translation>“%1”没有定值组。</translation>
+    </message>
+    <message>
+        <source>There is no report control block &quot;%1&quot;.</source>
+        <translation>没有报告控制块“%1”。</translation>
+    </message>
+    <message>
+        <source>There is no such attribute.</source>
+        <translation>没有此属性。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value of the type %2.</source>
+        <translation>“%1”不是类型 %2 的值。</translation>
+    </message>
+    <message>
+        <source>The values cannot be published.</source>
+        <translation>无法发布这些值。</translation>
+    </message>
+</context>
+<context>
+    <name>SclImport</name>
+    <message>
+        <source>The file &quot;%1&quot; cannot be opened: %2.</source>
+        <translation>无法打开文件“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>第 %1 行：%2</translation>
+    </message>
+    <message>
+        <source>The file describes no IED.</source>
+        <translation>文件中没有描述任何 IED。</translation>
+    </message>
+    <message>
+        <source>There is no IED &quot;%1&quot; in the file.</source>
+        <translation>文件中没有 IED“%1”。</translation>
+    </message>
+    <message>
+        <source>The file describes several IEDs; one must be chosen.</source>
+        <translation>文件描述了多台 IED，必须选择一台。</translation>
+    </message>
+</context>
+<context>
+    <name>TableView</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>Tour</name>
+    <message>
+        <source>a message: &quot;%1: %2&quot;</source>
+        <translation>消息：“%1：%2”</translation>
+    </message>
+    <message>
+        <source>the window &quot;%1&quot;</source>
+        <translation>窗口“%1”</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <translation>无法创建文件夹“%1”。</translation>
+    </message>
+    <message>
+        <source>The plug-in &quot;%1&quot; is not available: %2</source>
+        <translation>插件“%1”不可用：%2</translation>
+    </message>
+    <message>
+        <source>The demonstration device was not read in time.</source>
+        <translation>未能及时读完演示设备。</translation>
+    </message>
+    <message>
+        <source>The demonstration device cannot be read.</source>
+        <translation>无法读取演示设备。</translation>
+    </message>
+    <message>
+        <source>The second device cannot be read.</source>
+        <translation>无法读取第二台设备。</translation>
+    </message>
+    <message>
+        <source>The plug-in offers no tool number %1 for the demonstration device.</source>
+        <translation>插件没有为演示设备提供第 %1 个工具。</translation>
+    </message>
+    <message>
+        <source>Instead of the IED browser came %1.</source>
+        <translation>出现的不是 IED 浏览器，而是%1。</translation>
+    </message>
+    <message>
+        <source>The IED browser did not appear.</source>
+        <translation>IED 浏览器没有出现。</translation>
+    </message>
+    <message>
+        <source>The IED browser has no tree.</source>
+        <translation>IED 浏览器没有树视图。</translation>
+    </message>
+    <message>
+        <source>The demonstration device has no switch.</source>
+        <translation>演示设备没有开关设备。</translation>
+    </message>
+    <message>
+        <source>The context menu did not appear.</source>
+        <translation>上下文菜单没有出现。</translation>
+    </message>
+    <message>
+        <source>The window &quot;%1&quot; did not appear.</source>
+        <translation>窗口“%1”没有出现。</translation>
+    </message>
+    <message>
+        <source>The journal stayed empty.</source>
+        <translation>日志仍为空。</translation>
+    </message>
+    <message>
+        <source>Instead of &quot;%1&quot; came %2.</source>
+        <translation>出现的不是“%1”，而是%2。</translation>
+    </message>
+    <message>
+        <source>The IED browser has no entry &quot;%1&quot;.</source>
+        <translation>IED 浏览器没有菜单项“%1”。</translation>
+    </message>
+    <message>
+        <source>The picture &quot;%1&quot; cannot be saved.</source>
+        <translation>无法保存图片“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be used: %2</source>
+        <translation>“%1”无法使用：%2</translation>
+    </message>
+    <message>
+        <source>%1 logical devices, %2 logical nodes, %3 data attributes</source>
+        <translation>%1 个逻辑设备，%2 个逻辑节点，%3 个数据属性</translation>
+    </message>
+    <message>
+        <source>Loading was cancelled.</source>
+        <translation>加载已取消。</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>The standard output cannot be written.</source>
+        <translation>无法写入标准输出。</translation>
+    </message>
+</context>
+</TS>
