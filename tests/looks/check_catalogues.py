@@ -6,7 +6,8 @@
 
 Has lupdate renew a copy of each catalogue from the sources. A text that only the sources or only
 the catalogue has is a flaw, and so is a translation that is missing, unfinished, lacks a
-placeholder or begins or ends in other blanks than its source.
+placeholder or begins or ends in other blanks than its source. So is what lupdate complains of: it
+may have missed a text there (it does not know the digit separators of C++, for one).
 """
 
 import pathlib
@@ -72,8 +73,8 @@ def renew(lupdate, catalogue, folder, sources):
     renewed.write_bytes(catalogue.read_bytes())
     command = [lupdate, "-silent", "-no-obsolete", "-locations", "none"]
     command += ["-source-language", "en_US", *sources, "-ts", renewed]
-    subprocess.run(command, check=True)
-    return renewed
+    outcome = subprocess.run(command, check=True, stderr=subprocess.PIPE, text=True)
+    return renewed, outcome.stderr.splitlines()
 
 
 def main(arguments):
@@ -88,8 +89,8 @@ def main(arguments):
     flawed = False
     with tempfile.TemporaryDirectory() as copies:
         for catalogue in catalogues:
-            renewed = renew(lupdate, catalogue, copies, sources)
-            for flaw in sorted(flaws_of(catalogue, renewed)):
+            renewed, complaints = renew(lupdate, catalogue, copies, sources)
+            for flaw in complaints + sorted(flaws_of(catalogue, renewed)):
                 flawed = True
                 print(f"{catalogue.name}: {flaw}")
             print(f"{catalogue.name}: {len(messages(renewed))} texts of the sources compared")

@@ -168,8 +168,10 @@ private:
                 if (header->isSectionHidden(section))
                     continue;
                 const QString text = view.model()->headerData(section, Qt::Horizontal).toString();
+                // Beside the text come margins and, where the section can be sorted by, an arrow.
                 requireRoom(*header, text,
-                            {header->sectionSize(section) - margins, header->height() - margins});
+                            {header->sectionSize(section), header->height() - margins},
+                            {header->sectionSizeHint(section), header->fontMetrics().height()});
             }
         }
     }

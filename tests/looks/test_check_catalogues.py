@@ -31,20 +31,20 @@ CLOSE = message("Close", "Schließen")
 
 
 class CheckCatalogues(unittest.TestCase):
-    def flaws(self, *texts):
+    def flaws(self, *texts, source=SOURCE):
         with tempfile.TemporaryDirectory() as name:
             folder = pathlib.Path(name)
             (folder / "sources").mkdir()
-            (folder / "sources" / "dialog.cpp").write_text(SOURCE, encoding="utf-8")
+            (folder / "sources" / "dialog.cpp").write_text(source, encoding="utf-8")
             (folder / "copies").mkdir()
             catalogue = folder / "sample_de.ts"
             catalogue.write_text(
                 '<?xml version="1.0" encoding="utf-8"?><!DOCTYPE TS>'
                 '<TS version="2.1" language="de_DE" sourcelanguage="en_US"><context>'
                 f'<name>Dialog</name>{"".join(texts)}</context></TS>', encoding="utf-8")
-            renewed = check_catalogues.renew(LUPDATE, catalogue, folder / "copies",
-                                             [str(folder / "sources")])
-            return list(check_catalogues.flaws_of(catalogue, renewed))
+            renewed, complaints = check_catalogues.renew(
+                LUPDATE, catalogue, folder / "copies", [str(folder / "sources")])
+            return complaints + list(check_catalogues.flaws_of(catalogue, renewed))
 
     def test_a_complete_catalogue_has_no_flaw(self):
         self.assertEqual(self.flaws(DELETE, CLOSE), [])
@@ -74,6 +74,11 @@ class CheckCatalogues(unittest.TestCase):
         found = self.flaws(message("Delete %1 in %2 ", "%1 in %2 löschen"), CLOSE)
         self.assertEqual(found, ['Dialog: "Delete %1 in %2 " begins or ends in other blanks in '
                                  '"%1 in %2 löschen".'])
+
+    def test_a_source_that_lupdate_cannot_read_is_a_flaw(self):
+        found = self.flaws(DELETE, CLOSE, source=SOURCE + "const int many = 10'000;\n")
+        self.assertEqual(len(found), 1)
+        self.assertIn("Unterminated C++ character", found[0])
 
 
 if __name__ == "__main__":
