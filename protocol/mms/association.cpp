@@ -1,0 +1,538 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "mms/association.h"
+
+#include <asio/async_result.hpp>
+#include <asio/bind_cancellation_slot.hpp>
+#include <asio/dispatch.hpp>
+#include <asio/post.hpp>
+#include <asio/use_awaitable.hpp>
+
+#include <algorithm>
+#include <utility>
+
+namespace mms {
+
+namespace {
+
+constexpr std::uint32_t headRequest = 0;
+constexpr std::uint32_t headResponse = 1;
+constexpr std::uint32_t headError = 2;
+constexpr std::uint32_t headReject = 4;
+constexpr std::int32_t unconfirmedInvalidArgument = 2;
+
+CallFailure failure(CallFailure::Kind kind, std::string message)
+{
+    return {kind, std::move(message)};
+}
+
+/// A completion token's handler as a copyable function that completes in the handler's executor.
+template <typename Value, typename Handler>
+std::function<void(Value)> completing(std::shared_ptr<Handler> handler)
+{
+    return [handler = std::move(handler)](Value value) {
+        const auto executor = asio::get_associated_executor(*handler);
+        asio::post(executor, [handler, value = std::move(value)]() mutable {
+            auto slot = asio::get_associated_cancellation_slot(*handler);
+            if (slot.is_connected())
+                slot.clear();
+            (*handler)(std::move(value));
+        });
+    };
+}
+
+} // namespace
+
+std::string failureText(const CallOutcome &outcome)
+{
+    if (const auto *error = std::get_if<ServiceError>(&outcome))
+        return describe(*error);
+    if (const auto *reject = std::get_if<RejectPdu>(&outcome))
+        return describe(*reject);
+    if (const auto *none = std::get_if<CallFailure>(&outcome))
+        return none->message;
+    return {};
+}
+
+std::shared_ptr<Association> Association::create(asio::any_io_executor executor,
+                                                 AssociationOptions options, Handlers handlers)
+{
+    auto strand = asio::make_strand(std::move(executor));
+    const auto association =
+        std::make_shared<Association>(Private(), strand, std::move(options), std::move(handlers));
+    association->m_link = std::make_shared<Link>(strand, association->m_options.link);
+    return association;
+}
+
+std::shared_ptr<Association> Association::serve(Link::Strand strand, asio::ip::tcp::socket socket,
+                                                AssociationOptions options, Handlers handlers,
+                                                OpenHandler opened,
+                                                std::weak_ptr<Association> &self)
+{
+    const auto association =
+        std::make_shared<Association>(Private(), strand, std::move(options), std::move(handlers));
+    association->m_opened = std::move(opened);
+    association->m_link =
+        std::make_shared<Link>(strand, association->m_options.link, std::move(socket));
+    self = association;
+    asio::dispatch(strand, [association] {
+        association->m_link->serve(
+            [association](StackEvent event) { association->handle(std::move(event)); });
+    });
+    return association;
+}
+
+Association::Association(Private, Link::Strand strand, AssociationOptions options,
+                         Handlers handlers)
+    : m_strand(std::move(strand))
+    , m_options(std::move(options))
+    , m_handlers(std::move(handlers))
+    , m_table(1, m_options.grace)
+    , m_timer(m_strand)
+{
+    m_options.maxPduSize = std::max(m_options.maxPduSize, smallestPduSize);
+}
+
+Association::~Association() = default;
+
+void Association::connect(std::string host, std::uint16_t port, OpenHandler handler)
+{
+    asio::dispatch(m_strand, [self = shared_from_this(), host = std::move(host), port,
+                              handler = std::move(handler)]() mutable {
+        self->m_opened = std::move(handler);
+        self->m_link->connect(
+            std::move(host), port, encode(InitiateRequestPdu{self->proposal()}),
+            [self](StackEvent event) { self->handle(std::move(event)); });
+    });
+}
+
+asio::awaitable<Result<InitiateParameters>> Association::connect(std::string host,
+                                                                 std::uint16_t port)
+{
+    const auto self = shared_from_this();
+    co_return co_await asio::async_initiate<const asio::use_awaitable_t<>,
+                                            void(Result<InitiateParameters>)>(
+        [&](auto handler) {
+            auto shared = std::make_shared<decltype(handler)>(std::move(handler));
+            self->connect(std::move(host), port,
+                          completing<Result<InitiateParameters>>(std::move(shared)));
+        },
+        asio::use_awaitable);
+}
+
+Association::CallId Association::call(RequestService request, std::chrono::milliseconds timeout,
+                                      CallHandler handler)
+{
+    const CallId id = ++m_lastId;
+    const auto deadline = CallTable::Clock::now() + timeout;
+    asio::dispatch(m_strand, [self = shared_from_this(), id, deadline,
+                              request = std::move(request), handler = std::move(handler)]() mutable {
+        if (!self->m_open) {
+            handler(failure(CallFailure::Kind::NotOpen, "There is no association."));
+            return;
+        }
+        const CallTable::Ticket ticket = self->m_table.add(deadline);
+        self->m_calls.emplace(ticket, Call{id, std::move(request), std::move(handler)});
+        self->sendCalls();
+    });
+    return id;
+}
+
+asio::awaitable<CallOutcome> Association::call(RequestService request,
+                                               std::chrono::milliseconds timeout)
+{
+    const auto self = shared_from_this();
+    co_return co_await asio::async_initiate<const asio::use_awaitable_t<>, void(CallOutcome)>(
+        [&](auto handler) {
+            auto shared = std::make_shared<decltype(handler)>(std::move(handler));
+            auto slot = asio::get_associated_cancellation_slot(*shared);
+            const auto target = std::make_shared<std::atomic<CallId>>(0);
+            if (slot.is_connected()) {
+                slot.assign([weak = self->weak_from_this(), target](asio::cancellation_type) {
+                    if (const auto association = weak.lock())
+                        association->cancel(*target);
+                });
+            }
+            *target = self->call(std::move(request), timeout,
+                                 completing<CallOutcome>(std::move(shared)));
+        },
+        asio::use_awaitable);
+}
+
+void Association::cancel(CallId id)
+{
+    asio::post(m_strand, [self = shared_from_this(), id] { self->cancelInStrand(id); });
+}
+
+void Association::cancelInStrand(CallId id)
+{
+    const auto found = std::ranges::find_if(
+        m_calls, [id](const auto &entry) { return entry.second.id == id; });
+    if (found == m_calls.end())
+        return;
+    const CallTable::Ticket ticket = found->first;
+    m_table.cancel(ticket, CallTable::Clock::now());
+    finish(ticket, failure(CallFailure::Kind::Cancelled, "The call was cancelled."));
+    startTimer();
+}
+
+void Association::respond(std::uint32_t invokeId, ResponseService response)
+{
+    asio::dispatch(m_strand, [self = shared_from_this(), invokeId,
+                              response = std::move(response)]() mutable {
+        if (self->m_requestsOpen > 0)
+            --self->m_requestsOpen;
+        if (self->send(ConfirmedResponsePdu{invokeId, std::move(response)}))
+            return;
+        ServiceError error{ErrorClass::Resource, serviceerrors::resourceOther, {}, {}, {}};
+        self->send(ConfirmedErrorPdu{invokeId, std::nullopt, std::move(error)});
+    });
+}
+
+void Association::fail(std::uint32_t invokeId, ServiceError error)
+{
+    asio::dispatch(m_strand,
+                   [self = shared_from_this(), invokeId, error = std::move(error)]() mutable {
+                       if (self->m_requestsOpen > 0)
+                           --self->m_requestsOpen;
+                       self->send(ConfirmedErrorPdu{invokeId, std::nullopt, std::move(error)});
+                   });
+}
+
+void Association::reject(std::uint32_t invokeId, std::int32_t code)
+{
+    asio::dispatch(m_strand, [self = shared_from_this(), invokeId, code] {
+        if (self->m_requestsOpen > 0)
+            --self->m_requestsOpen;
+        self->send(RejectPdu{invokeId, RejectedPdu::ConfirmedRequest, code});
+    });
+}
+
+void Association::report(InformationReport report)
+{
+    asio::dispatch(m_strand, [self = shared_from_this(), report = std::move(report)]() mutable {
+        self->send(UnconfirmedPdu{std::move(report)});
+    });
+}
+
+void Association::conclude(std::function<void(Result<void>)> handler)
+{
+    asio::dispatch(m_strand, [self = shared_from_this(), handler = std::move(handler)]() mutable {
+        if (!self->m_open) {
+            handler(Error{"There is no association.", 0});
+            return;
+        }
+        self->m_concluded = std::move(handler);
+        self->send(ConcludeRequestPdu());
+        self->m_link->expectRelease();
+    });
+}
+
+asio::awaitable<Result<void>> Association::conclude()
+{
+    const auto self = shared_from_this();
+    co_return co_await asio::async_initiate<const asio::use_awaitable_t<>, void(Result<void>)>(
+        [&](auto handler) {
+            auto shared = std::make_shared<decltype(handler)>(std::move(handler));
+            self->conclude(completing<Result<void>>(std::move(shared)));
+        },
+        asio::use_awaitable);
+}
+
+void Association::abort(const std::string &reason)
+{
+    asio::dispatch(m_strand, [self = shared_from_this(), reason] { self->m_link->abort(reason); });
+}
+
+AssociationCounters Association::counters() const
+{
+    return {m_late, m_unknown, m_malformed};
+}
+
+InitiateParameters Association::proposal() const
+{
+    InitiateParameters parameters;
+    parameters.maxPduSize = m_options.maxPduSize;
+    parameters.maxOutstandingCalling = m_options.maxOutstandingCalling;
+    parameters.maxOutstandingCalled = m_options.maxOutstandingCalled;
+    parameters.nestingLevel = m_options.nestingLevel;
+    parameters.parameters = m_options.parameters;
+    parameters.parameters.set(parameterBits - 1, m_options.parameters.test(parameterBits - 1));
+    parameters.services = m_options.services;
+    parameters.services.set(serviceBits - 1, m_options.services.test(serviceBits - 1));
+    return parameters;
+}
+
+void Association::handle(StackEvent event)
+{
+    if (const auto *indication = std::get_if<AssociateIndication>(&event)) {
+        handleIndication(*indication);
+    } else if (const auto *confirm = std::get_if<AssociateConfirm>(&event)) {
+        handleConfirm(*confirm);
+    } else if (const auto *pdu = std::get_if<PduIndication>(&event)) {
+        handlePdu(pdu->pdu);
+    } else if (const auto *refused = std::get_if<AssociateRefused>(&event)) {
+        std::string reason = refused->reason;
+        const auto answer = decodePdu(refused->pdu);
+        if (const auto *error = answer ? std::get_if<InitiateErrorPdu>(&*answer) : nullptr)
+            reason += " " + describe(error->error);
+        close(reason);
+    } else if (std::holds_alternative<ReleaseIndication>(event)) {
+        m_link->answerRelease();
+    } else if (std::holds_alternative<ReleaseConfirm>(event)) {
+        if (auto concluded = std::exchange(m_concluded, nullptr))
+            concluded({});
+        close("The association was released.");
+    } else if (const auto *lost = std::get_if<AssociationLost>(&event)) {
+        close(lost->reason);
+    }
+}
+
+void Association::handleIndication(const AssociateIndication &indication)
+{
+    const auto pdu = decodePdu(indication.pdu);
+    const auto *request = pdu ? std::get_if<InitiateRequestPdu>(&*pdu) : nullptr;
+    const auto refuse = [this] {
+        m_link->refuse(acse::Result::RejectedPermanently, acse::diagnosticNoReason,
+                       encode(InitiateErrorPdu{{ErrorClass::Initiate, 0, {}, {}, {}}}));
+    };
+    if (!request) {
+        ++m_malformed;
+        refuse();
+        return;
+    }
+    const InitiateParameters &asked = request->parameters;
+    InitiateParameters agreed = proposal();
+    agreed.maxPduSize =
+        std::min(asked.maxPduSize.value_or(m_options.maxPduSize), m_options.maxPduSize);
+    if (*agreed.maxPduSize < smallestPduSize) {
+        refuse();
+        return;
+    }
+    const auto atLeastOne = [](std::int16_t value) { return std::max<std::int16_t>(value, 1); };
+    agreed.maxOutstandingCalling =
+        atLeastOne(std::min(asked.maxOutstandingCalling, m_options.maxOutstandingCalled));
+    agreed.maxOutstandingCalled =
+        atLeastOne(std::min(asked.maxOutstandingCalled, m_options.maxOutstandingCalling));
+    agreed.nestingLevel =
+        std::min(asked.nestingLevel.value_or(m_options.nestingLevel), m_options.nestingLevel);
+    for (std::size_t bit = 0; bit < agreed.parameters.size(); ++bit)
+        agreed.parameters.set(bit, agreed.parameters.test(bit) && asked.parameters.test(bit));
+    m_table.setLimit(static_cast<std::size_t>(agreed.maxOutstandingCalled));
+    m_link->accept(encode(InitiateResponsePdu{agreed}));
+    open(agreed);
+}
+
+void Association::handleConfirm(const AssociateConfirm &confirm)
+{
+    const auto pdu = decodePdu(confirm.pdu);
+    if (!pdu) {
+        ++m_malformed;
+        m_link->abort("The peer's initiate answer cannot be read: " + pdu.error().message + ".");
+        return;
+    }
+    if (const auto *error = std::get_if<InitiateErrorPdu>(&*pdu)) {
+        m_link->abort("The peer refuses the initiate request. " + describe(error->error));
+        return;
+    }
+    const auto *response = std::get_if<InitiateResponsePdu>(&*pdu);
+    if (!response) {
+        m_link->abort("The peer answered the initiate request with something else.");
+        return;
+    }
+    InitiateParameters agreed = response->parameters;
+    agreed.maxPduSize =
+        std::min(agreed.maxPduSize.value_or(m_options.maxPduSize), m_options.maxPduSize);
+    constexpr std::int32_t uselessPduSize = 64;
+    if (*agreed.maxPduSize < uselessPduSize) {
+        m_link->abort("The peer's PDU size of " + std::to_string(*agreed.maxPduSize)
+                      + " octets is too small.");
+        return;
+    }
+    agreed.maxOutstandingCalling =
+        std::min(agreed.maxOutstandingCalling, m_options.maxOutstandingCalling);
+    m_table.setLimit(
+        static_cast<std::size_t>(std::max<std::int16_t>(agreed.maxOutstandingCalling, 1)));
+    open(agreed);
+}
+
+void Association::handlePdu(Bytes octets)
+{
+    const auto head = peekPdu(octets);
+    if (head && head->invokeId && (head->type == headResponse || head->type == headError)) {
+        handleAnswer(*head, octets);
+        return;
+    }
+    auto pdu = decodePdu(octets);
+    if (!pdu) {
+        rejectMalformed(head);
+        return;
+    }
+    if (auto *request = std::get_if<ConfirmedRequestPdu>(&*pdu)) {
+        handleRequest(std::move(*request));
+    } else if (auto *unconfirmed = std::get_if<UnconfirmedPdu>(&*pdu)) {
+        auto *report = std::get_if<InformationReport>(&unconfirmed->service);
+        if (report && m_handlers.report)
+            m_handlers.report(std::move(*report));
+    } else if (std::holds_alternative<RejectPdu>(*pdu)) {
+        handleAnswer(head.value_or(PduHead()), octets);
+    } else if (const auto *cancel = std::get_if<CancelRequestPdu>(&*pdu)) {
+        ServiceError error{ErrorClass::Cancel, serviceerrors::cancelNotPossible, {}, {}, {}};
+        send(CancelErrorPdu{cancel->invokeId, std::move(error)});
+    } else if (std::holds_alternative<ConcludeRequestPdu>(*pdu)) {
+        send(ConcludeResponsePdu());
+    } else if (std::holds_alternative<ConcludeResponsePdu>(*pdu)) {
+        if (m_concluded)
+            m_link->release();
+    } else if (const auto *error = std::get_if<ConcludeErrorPdu>(&*pdu)) {
+        if (auto concluded = std::exchange(m_concluded, nullptr)) {
+            m_link->forgetRelease();
+            concluded(Error{describe(error->error), 0});
+        }
+    }
+}
+
+void Association::handleRequest(ConfirmedRequestPdu pdu)
+{
+    ++m_requestsOpen;
+    const std::uint32_t invokeId = pdu.invokeId;
+    // Some peers use one place more than agreed; twice the number is no mistake in counting.
+    const auto limit = 2 * static_cast<std::size_t>(std::max<std::int16_t>(
+                               m_options.maxOutstandingCalled, 1));
+    if (m_requestsOpen > limit)
+        reject(invokeId, rejectcodes::requestMaxOutstandingExceeded);
+    else if (!m_handlers.request || std::holds_alternative<UnknownService>(pdu.request))
+        reject(invokeId, rejectcodes::requestUnrecognizedService);
+    else
+        m_handlers.request(shared_from_this(), invokeId, std::move(pdu.request));
+}
+
+void Association::handleAnswer(const PduHead &head, Bytes octets)
+{
+    if (!head.invokeId) {
+        ++m_unknown;
+        return;
+    }
+    const auto ticket = m_table.answered(*head.invokeId);
+    m_late = m_table.counters().late;
+    m_unknown = m_table.counters().unknown;
+    if (ticket) {
+        auto pdu = decodePdu(octets);
+        if (!pdu) {
+            ++m_malformed;
+            if (head.type != headReject) {
+                send(RejectPdu{head.invokeId,
+                               head.type == headResponse ? RejectedPdu::ConfirmedResponse
+                                                         : RejectedPdu::ConfirmedError,
+                               rejectcodes::responseInvalidResult});
+            }
+            finish(*ticket, failure(CallFailure::Kind::Malformed,
+                                    "The answer cannot be read: " + pdu.error().message + "."));
+        } else if (auto *response = std::get_if<ConfirmedResponsePdu>(&*pdu)) {
+            finish(*ticket, std::move(response->response));
+        } else if (auto *error = std::get_if<ConfirmedErrorPdu>(&*pdu)) {
+            finish(*ticket, std::move(error->error));
+        } else if (auto *reject = std::get_if<RejectPdu>(&*pdu)) {
+            finish(*ticket, std::move(*reject));
+        }
+    }
+    sendCalls();
+}
+
+void Association::rejectMalformed(const std::optional<PduHead> &head)
+{
+    ++m_malformed;
+    if (!head)
+        send(RejectPdu{std::nullopt, RejectedPdu::PduError, rejectcodes::pduUnknownType});
+    else if (head->type == headRequest)
+        send(RejectPdu{head->invokeId, RejectedPdu::ConfirmedRequest,
+                       rejectcodes::requestInvalidArgument});
+    else if (head->type != headReject)
+        send(RejectPdu{std::nullopt, RejectedPdu::Unconfirmed, unconfirmedInvalidArgument});
+}
+
+void Association::sendCalls()
+{
+    while (m_open) {
+        const auto next = m_table.next();
+        if (!next)
+            break;
+        Call &call = m_calls.at(next->ticket);
+        if (send(ConfirmedRequestPdu{next->invokeId, std::move(call.request)}))
+            continue;
+        m_table.answered(next->invokeId);
+        finish(next->ticket, failure(CallFailure::Kind::TooLarge,
+                                     "The request is longer than the negotiated PDU size of "
+                                         + std::to_string(m_pduSize) + " octets."));
+    }
+    startTimer();
+}
+
+void Association::finish(CallTable::Ticket ticket, CallOutcome outcome)
+{
+    auto call = m_calls.extract(ticket);
+    if (!call.empty())
+        call.mapped().handler(std::move(outcome));
+}
+
+void Association::startTimer()
+{
+    const auto deadline = m_table.nextDeadline();
+    if (!deadline) {
+        m_timerRuns = false;
+        m_timer.cancel();
+        return;
+    }
+    if (m_timerRuns && m_timer.expiry() == *deadline)
+        return;
+    m_timer.expires_at(*deadline);
+    m_timerRuns = true;
+    m_timer.async_wait([weak = weak_from_this()](const asio::error_code &error) {
+        const auto self = weak.lock();
+        if (error || !self)
+            return;
+        self->m_timerRuns = false;
+        for (const CallTable::Ticket ticket : self->m_table.expire(CallTable::Clock::now()))
+            self->finish(ticket, failure(CallFailure::Kind::TimedOut,
+                                         "The peer did not answer in time."));
+        self->sendCalls();
+    });
+}
+
+bool Association::send(const Pdu &pdu)
+{
+    const std::vector<std::uint8_t> octets = encode(pdu);
+    if (octets.size() > m_pduSize)
+        return false;
+    m_link->send(octets);
+    return true;
+}
+
+void Association::open(const InitiateParameters &parameters)
+{
+    m_negotiated = parameters;
+    m_pduSize = static_cast<std::size_t>(*parameters.maxPduSize);
+    m_open = true;
+    if (auto opened = std::exchange(m_opened, nullptr))
+        opened(parameters);
+}
+
+void Association::close(const std::string &reason)
+{
+    if (std::exchange(m_closed, true))
+        return;
+    const bool wasOpen = std::exchange(m_open, false);
+    m_timer.cancel();
+    m_table.clear();
+    auto calls = std::exchange(m_calls, {});
+    for (auto &[ticket, call] : calls)
+        call.handler(failure(CallFailure::Kind::Lost, reason));
+    if (auto opened = std::exchange(m_opened, nullptr))
+        opened(Error{reason, 0});
+    if (auto concluded = std::exchange(m_concluded, nullptr))
+        concluded(Error{reason, 0});
+    const Handlers handlers = std::exchange(m_handlers, {});
+    if (wasOpen && handlers.closed)
+        handlers.closed(reason);
+}
+
+} // namespace mms

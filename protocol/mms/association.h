@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "mms/calls.h"
+#include "mms/link.h"
+#include "mms/pdu.h"
+
+#include <atomic>
+#include <chrono>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <variant>
+
+namespace mms {
+
+/// No side may offer a PDU size below this: some devices crash on small ones.
+inline constexpr std::int32_t smallestPduSize = 1000;
+
+/// A call that got no answer of the peer's service.
+struct CallFailure
+{
+    enum class Kind : std::uint8_t {
+        NotOpen,   ///< there is no association
+        TooLarge,  ///< the request is longer than the negotiated PDU size; nothing was sent
+        TimedOut,  ///< the deadline passed
+        Cancelled, ///< by cancel()
+        Lost,      ///< the association ended before the answer
+        Malformed  ///< the answer cannot be read; it was rejected
+    };
+
+    Kind kind = Kind::NotOpen;
+    std::string message; ///< one sentence
+};
+
+/// How a call ended.
+using CallOutcome = std::variant<ResponseService, ServiceError, RejectPdu, CallFailure>;
+
+/// The answer when it is of the service that was called; none otherwise. Lives as long as
+/// @p outcome.
+template <typename Response>
+const Response *answerOf(const CallOutcome &outcome)
+{
+    const auto *service = std::get_if<ResponseService>(&outcome);
+    return service ? std::get_if<Response>(service) : nullptr;
+}
+
+/// Why a call has no answer, as one sentence; empty for an answer.
+std::string failureText(const CallOutcome &outcome);
+
+struct AssociationOptions
+{
+    LinkOptions link;
+    /// Longest PDU that is offered or accepted, in octets; raised to smallestPduSize.
+    std::int32_t maxPduSize = 65000;
+    /// Calls that this side wants to have on the way, and calls that it serves, at the same time.
+    std::int16_t maxOutstandingCalling = 5;
+    std::int16_t maxOutstandingCalled = 5;
+    std::int8_t nestingLevel = 10;
+    BitString parameters = BitString::fromText("11110001");
+    /// What this side serves; as initiator a peer asks for little.
+    BitString services;
+    /// How long a call that was given up keeps its place.
+    std::chrono::milliseconds grace{10000};
+};
+
+struct AssociationCounters
+{
+    std::uint64_t late = 0;      ///< answers to calls that had been given up
+    std::uint64_t unknown = 0;   ///< answers to invoke ids that nobody used
+    std::uint64_t malformed = 0; ///< PDUs that cannot be read
+};
+
+/// MMS on a network connection, as one or the other side. Every member function may be called from
+/// any thread; every handler is called in the association's strand, one at a time.
+///
+/// Each call ends by exactly one call of its handler: with the answer, or at the latest at its
+/// deadline, whatever the peer does. After Handlers::closed nothing is called any more.
+class Association : public std::enable_shared_from_this<Association>
+{
+    struct Private
+    {
+    };
+
+public:
+    using CallId = std::uint64_t;
+    using CallHandler = std::function<void(CallOutcome outcome)>;
+    using OpenHandler = std::function<void(Result<InitiateParameters> negotiated)>;
+
+    struct Handlers
+    {
+        /// The peer calls a service; answer once with respond(), fail() or reject(), now or later.
+        /// Without a handler, and for a service that cannot be read, the request is rejected.
+        std::function<void(const std::shared_ptr<Association> &association, std::uint32_t invokeId,
+                           RequestService request)>
+            request;
+        std::function<void(InformationReport report)> report;
+        /// The association, which had been open, has ended; one sentence says why.
+        std::function<void(const std::string &reason)> closed;
+    };
+
+    /// The side that connects.
+    static std::shared_ptr<Association> create(asio::any_io_executor executor,
+                                               AssociationOptions options, Handlers handlers);
+    /// The side that was connected to. The executor of @p socket is @p strand; @p self is set
+    /// before the first handler is called.
+    static std::shared_ptr<Association> serve(Link::Strand strand, asio::ip::tcp::socket socket,
+                                              AssociationOptions options, Handlers handlers,
+                                              OpenHandler opened,
+                                              std::weak_ptr<Association> &self);
+    Association(Private, Link::Strand strand, AssociationOptions options, Handlers handlers);
+    ~Association();
+
+    /// Ask for an association. Not again on the same object.
+    void connect(std::string host, std::uint16_t port, OpenHandler handler);
+    asio::awaitable<Result<InitiateParameters>> connect(std::string host, std::uint16_t port);
+
+    /// Call a service of the peer. @p timeout counts from now, waiting for a place included.
+    CallId call(RequestService request, std::chrono::milliseconds timeout, CallHandler handler);
+    /// Cancelling the awaiting coroutine cancels the call.
+    asio::awaitable<CallOutcome> call(RequestService request, std::chrono::milliseconds timeout);
+    /// End a call with CallFailure::Kind::Cancelled, unless it is over.
+    void cancel(CallId id);
+
+    void respond(std::uint32_t invokeId, ResponseService response);
+    void fail(std::uint32_t invokeId, ServiceError error);
+    void reject(std::uint32_t invokeId, std::int32_t code);
+    /// A report longer than the negotiated PDU size is not sent.
+    void report(InformationReport report);
+
+    /// Conclude and release; the handler hears how it went. An association that cannot be
+    /// concluded in time is aborted.
+    void conclude(std::function<void(Result<void> result)> handler);
+    asio::awaitable<Result<void>> conclude();
+    /// End at once.
+    void abort(const std::string &reason);
+
+    /// What was negotiated; meant for handlers, valid in the strand after opening.
+    const InitiateParameters &negotiated() const { return m_negotiated; }
+    std::size_t pduSize() const { return m_pduSize; }
+    /// Octets that wait for the network; in the strand.
+    std::size_t queued() const { return m_link->queued(); }
+    const Link::Strand &strand() const { return m_strand; }
+    AssociationCounters counters() const;
+
+private:
+    struct Call
+    {
+        CallId id;
+        RequestService request;
+        CallHandler handler;
+    };
+
+    InitiateParameters proposal() const;
+    void handle(StackEvent event);
+    void handleIndication(const AssociateIndication &indication);
+    void handleConfirm(const AssociateConfirm &confirm);
+    void handlePdu(Bytes octets);
+    void handleRequest(ConfirmedRequestPdu pdu);
+    void handleAnswer(const PduHead &head, Bytes octets);
+    void rejectMalformed(const std::optional<PduHead> &head);
+    void sendCalls();
+    void finish(CallTable::Ticket ticket, CallOutcome outcome);
+    void startTimer();
+    bool send(const Pdu &pdu);
+    void open(const InitiateParameters &parameters);
+    void close(const std::string &reason);
+    void cancelInStrand(CallId id);
+
+    Link::Strand m_strand;
+    AssociationOptions m_options;
+    Handlers m_handlers;
+    std::shared_ptr<Link> m_link;
+    OpenHandler m_opened;
+    std::function<void(Result<void>)> m_concluded;
+    InitiateParameters m_negotiated;
+    std::size_t m_pduSize = 0;
+    bool m_open = false;
+    bool m_closed = false;
+    std::size_t m_requestsOpen = 0;
+    CallTable m_table;
+    std::map<CallTable::Ticket, Call> m_calls;
+    asio::steady_timer m_timer;
+    bool m_timerRuns = false;
+    std::atomic<CallId> m_lastId{0};
+    std::atomic<std::uint64_t> m_late{0};
+    std::atomic<std::uint64_t> m_unknown{0};
+    std::atomic<std::uint64_t> m_malformed{0};
+};
+
+} // namespace mms

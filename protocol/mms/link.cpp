@@ -1,0 +1,310 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "mms/link.h"
+
+#include <asio/co_spawn.hpp>
+#include <asio/connect.hpp>
+#include <asio/detached.hpp>
+#include <asio/experimental/as_tuple.hpp>
+#include <asio/use_awaitable.hpp>
+#include <asio/write.hpp>
+
+#include <array>
+#include <utility>
+
+namespace mms {
+
+namespace {
+
+constexpr auto asTuple = asio::experimental::as_tuple(asio::use_awaitable);
+constexpr std::size_t readPortion = 16 * 1024;
+
+template <typename Event>
+constexpr bool endsAssociation = std::is_same_v<Event, AssociateRefused>
+    || std::is_same_v<Event, ReleaseConfirm> || std::is_same_v<Event, AssociationLost>;
+
+void prepare(asio::ip::tcp::socket &socket)
+{
+    asio::error_code ignored;
+    socket.set_option(asio::ip::tcp::no_delay(true), ignored);
+    socket.set_option(asio::socket_base::keep_alive(true), ignored);
+}
+
+} // namespace
+
+Link::Link(Strand strand, LinkOptions options)
+    : m_strand(std::move(strand))
+    , m_options(std::move(options))
+    , m_stack(Stack::Role::Initiator, m_options.stack)
+    , m_socket(m_strand)
+    , m_resolver(m_strand)
+    , m_establishTimer(m_strand)
+    , m_sendTimer(m_strand)
+    , m_releaseTimer(m_strand)
+{
+}
+
+Link::Link(Strand strand, LinkOptions options, asio::ip::tcp::socket socket)
+    : m_strand(std::move(strand))
+    , m_options(std::move(options))
+    , m_stack(Stack::Role::Responder, m_options.stack)
+    , m_socket(std::move(socket))
+    , m_resolver(m_strand)
+    , m_establishTimer(m_strand)
+    , m_sendTimer(m_strand)
+    , m_releaseTimer(m_strand)
+{
+    prepare(m_socket);
+}
+
+std::size_t Link::queued() const
+{
+    return m_queue.size() + m_writing.size();
+}
+
+void Link::connect(std::string host, std::uint16_t port, Octets pdu, Handler handler)
+{
+    m_handler = std::move(handler);
+    arm(Watch::Establish);
+    asio::co_spawn(
+        m_strand,
+        [self = shared_from_this(), host = std::move(host), port,
+         pdu = std::move(pdu)]() mutable {
+            return self->establish(std::move(host), port, std::move(pdu));
+        },
+        asio::detached);
+}
+
+void Link::serve(Handler handler)
+{
+    m_handler = std::move(handler);
+    arm(Watch::Establish);
+    asio::co_spawn(
+        m_strand, [self = shared_from_this()] { return self->readLoop(); }, asio::detached);
+}
+
+void Link::accept(Bytes pdu)
+{
+    if (m_options.trace)
+        m_options.trace(Direction::Sent, pdu);
+    disarm(Watch::Establish);
+    apply(m_stack.accept(pdu));
+}
+
+void Link::refuse(acse::Result result, std::int64_t diagnostic, Bytes pdu)
+{
+    if (m_options.trace && !pdu.empty())
+        m_options.trace(Direction::Sent, pdu);
+    apply(m_stack.refuse(result, diagnostic, pdu));
+    deliver(AssociationLost{false, "The association was refused."});
+}
+
+void Link::send(Bytes pdu)
+{
+    if (!m_stack.isOpen())
+        return;
+    if (m_options.trace)
+        m_options.trace(Direction::Sent, pdu);
+    apply(m_stack.send(pdu));
+    if (queued() > m_options.maxQueued)
+        lose("The peer does not read what it is sent.");
+}
+
+void Link::release()
+{
+    arm(Watch::Release);
+    apply(m_stack.release());
+}
+
+void Link::expectRelease()
+{
+    arm(Watch::Release);
+}
+
+void Link::forgetRelease()
+{
+    disarm(Watch::Release);
+}
+
+void Link::answerRelease()
+{
+    apply(m_stack.answerRelease());
+    if (m_stack.isClosed())
+        deliver(ReleaseConfirm());
+}
+
+void Link::abort(const std::string &reason)
+{
+    apply(m_stack.abort());
+    deliver(AssociationLost{false, reason});
+}
+
+asio::awaitable<void> Link::establish(std::string host, std::uint16_t port, Octets pdu)
+{
+    const auto self = shared_from_this();
+    const auto [resolveError, endpoints] =
+        co_await m_resolver.async_resolve(host, std::to_string(port), asTuple);
+    if (resolveError) {
+        lose("The name \"" + host + "\" cannot be resolved: " + resolveError.message() + ".");
+        co_return;
+    }
+    if (m_stack.isClosed())
+        co_return;
+    const auto [connectError, endpoint] = co_await asio::async_connect(m_socket, endpoints, asTuple);
+    if (connectError) {
+        lose("No connection to " + host + " port " + std::to_string(port) + ": "
+             + connectError.message() + ".");
+        co_return;
+    }
+    if (m_stack.isClosed()) {
+        closeSocket();
+        co_return;
+    }
+    prepare(m_socket);
+    if (m_options.trace)
+        m_options.trace(Direction::Sent, pdu);
+    apply(m_stack.connect(pdu));
+    co_await readLoop();
+}
+
+asio::awaitable<void> Link::readLoop()
+{
+    const auto self = shared_from_this();
+    // Not a member: an association that is idle keeps no buffer of a coroutine that ended.
+    std::array<std::uint8_t, readPortion> buffer{};
+    while (true) {
+        const auto [error, count] = co_await m_socket.async_read_some(asio::buffer(buffer), asTuple);
+        if (error) {
+            lose(error == asio::error::eof ? "The peer closed the network connection."
+                                           : "The network connection broke: " + error.message()
+                         + ".");
+            co_return;
+        }
+        apply(m_stack.receive(Bytes(buffer).first(count)));
+        if (m_stack.isClosed())
+            co_return;
+    }
+}
+
+asio::awaitable<void> Link::writeLoop()
+{
+    const auto self = shared_from_this();
+    m_isWriting = true;
+    while (!m_queue.empty()) {
+        m_writing = std::exchange(m_queue, {});
+        arm(Watch::Send);
+        const auto [error, count] =
+            co_await asio::async_write(m_socket, asio::buffer(m_writing), asTuple);
+        disarm(Watch::Send);
+        m_writing.clear();
+        if (error) {
+            m_queue.clear();
+            lose("The network connection broke: " + error.message() + ".");
+            break;
+        }
+    }
+    m_isWriting = false;
+    if (m_closeWhenSent)
+        closeSocket();
+}
+
+void Link::apply(StackOutput output)
+{
+    m_queue.insert(m_queue.end(), output.octets.begin(), output.octets.end());
+    if (output.closeNetwork)
+        m_closeWhenSent = true;
+    if (!m_queue.empty() && !m_isWriting) {
+        m_isWriting = true;
+        asio::co_spawn(
+            m_strand, [self = shared_from_this()] { return self->writeLoop(); }, asio::detached);
+    }
+    for (StackEvent &event : output.events)
+        deliver(std::move(event));
+    if (m_closeWhenSent && !m_isWriting)
+        closeSocket();
+}
+
+void Link::deliver(StackEvent event)
+{
+    const auto self = shared_from_this();
+    const bool last = std::visit(
+        [](const auto &each) { return endsAssociation<std::decay_t<decltype(each)>>; }, event);
+    if (std::holds_alternative<AssociateConfirm>(event))
+        disarm(Watch::Establish);
+    if (m_options.trace) {
+        std::visit(
+            [this](const auto &each) {
+                if constexpr (requires { each.pdu; }) {
+                    if (!each.pdu.empty())
+                        m_options.trace(Direction::Received, each.pdu);
+                }
+            },
+            event);
+    }
+    if (!m_handler)
+        return;
+    if (!last) {
+        m_handler(std::move(event));
+        return;
+    }
+    disarm(Watch::Establish);
+    disarm(Watch::Release);
+    const Handler handler = std::exchange(m_handler, nullptr);
+    handler(std::move(event));
+}
+
+void Link::lose(const std::string &reason)
+{
+    apply(m_stack.networkClosed(reason));
+    m_queue.clear();
+    closeSocket();
+    deliver(AssociationLost{false, reason});
+}
+
+void Link::arm(Watch watch)
+{
+    asio::steady_timer &timer = timerOf(watch);
+    timer.expires_after(watch == Watch::Establish ? m_options.establishTimeout
+                            : watch == Watch::Send ? m_options.sendTimeout
+                                                   : m_options.releaseTimeout);
+    timer.async_wait([weak = weak_from_this(), watch](const asio::error_code &error) {
+        const auto self = weak.lock();
+        if (error || !self)
+            return;
+        // An expiry that was queued already when the timer was set again does not count.
+        if (self->timerOf(watch).expiry() > std::chrono::steady_clock::now())
+            return;
+        switch (watch) {
+        case Watch::Establish:
+            self->lose("The peer did not complete the association in time.");
+            break;
+        case Watch::Send:
+            self->lose("The peer does not read what it is sent.");
+            break;
+        case Watch::Release:
+            self->lose("The peer did not answer the release in time.");
+            break;
+        }
+    });
+}
+
+void Link::disarm(Watch watch)
+{
+    timerOf(watch).expires_at(asio::steady_timer::time_point::max());
+}
+
+asio::steady_timer &Link::timerOf(Watch watch)
+{
+    return watch == Watch::Establish ? m_establishTimer
+        : watch == Watch::Send       ? m_sendTimer
+                                     : m_releaseTimer;
+}
+
+void Link::closeSocket()
+{
+    asio::error_code ignored;
+    m_resolver.cancel();
+    m_socket.shutdown(asio::ip::tcp::socket::shutdown_both, ignored);
+    m_socket.close(ignored);
+}
+
+} // namespace mms

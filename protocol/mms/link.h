@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "mms/stack.h"
+#include "mms/trace.h"
+
+#include <asio/any_io_executor.hpp>
+#include <asio/awaitable.hpp>
+#include <asio/ip/tcp.hpp>
+#include <asio/steady_timer.hpp>
+#include <asio/strand.hpp>
+
+#include <chrono>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace mms {
+
+struct LinkOptions
+{
+    StackOptions stack;
+    /// Until the association stands, from the first attempt to connect.
+    std::chrono::milliseconds establishTimeout{10000};
+    /// Until the network has taken what is to be sent; a peer that does not read is cut off.
+    std::chrono::milliseconds sendTimeout{10000};
+    /// Until the peer has answered a release or an abort is on its way.
+    std::chrono::milliseconds releaseTimeout{3000};
+    /// Octets that may wait for the network before the peer is cut off.
+    std::size_t maxQueued = 16 * 1024 * 1024;
+    TraceHook trace;
+};
+
+/// A network connection with the layers of one association on it. It belongs to one strand: every
+/// member, and the handler, is called there.
+///
+/// Exactly one of AssociateRefused, ReleaseConfirm and AssociationLost is the last event; the
+/// handler is dropped after it.
+class Link : public std::enable_shared_from_this<Link>
+{
+public:
+    using Strand = asio::strand<asio::any_io_executor>;
+    using Handler = std::function<void(StackEvent event)>;
+
+    /// The end that connects.
+    Link(Strand strand, LinkOptions options);
+    /// The end that was connected to.
+    Link(Strand strand, LinkOptions options, asio::ip::tcp::socket socket);
+    Link(const Link &) = delete;
+    Link &operator=(const Link &) = delete;
+
+    const Strand &strand() const { return m_strand; }
+    bool isOpen() const { return m_stack.isOpen(); }
+    /// Octets that wait for the network.
+    std::size_t queued() const;
+
+    /// Initiator: connect to @p host (a name or an address) and ask for an association.
+    void connect(std::string host, std::uint16_t port, Octets pdu, Handler handler);
+    /// Responder: wait for the peer's request.
+    void serve(Handler handler);
+    void accept(Bytes pdu);
+    void refuse(acse::Result result, std::int64_t diagnostic, Bytes pdu);
+    void send(Bytes pdu);
+    void release();
+    /// The release is about to come: from now on its deadline counts.
+    void expectRelease();
+    /// The release will not come after all.
+    void forgetRelease();
+    void answerRelease();
+    /// End at once. The handler hears AssociationLost with @p reason.
+    void abort(const std::string &reason);
+
+private:
+    enum class Watch : std::uint8_t { Establish, Send, Release };
+
+    asio::awaitable<void> establish(std::string host, std::uint16_t port, Octets pdu);
+    asio::awaitable<void> readLoop();
+    asio::awaitable<void> writeLoop();
+    void apply(StackOutput output);
+    void deliver(StackEvent event);
+    void lose(const std::string &reason);
+    void arm(Watch watch);
+    void disarm(Watch watch);
+    asio::steady_timer &timerOf(Watch watch);
+    void closeSocket();
+
+    Strand m_strand;
+    LinkOptions m_options;
+    Stack m_stack;
+    asio::ip::tcp::socket m_socket;
+    asio::ip::tcp::resolver m_resolver;
+    asio::steady_timer m_establishTimer;
+    asio::steady_timer m_sendTimer;
+    asio::steady_timer m_releaseTimer;
+    Handler m_handler;
+    Octets m_queue;
+    Octets m_writing;
+    bool m_isWriting = false;
+    bool m_closeWhenSent = false;
+};
+
+} // namespace mms

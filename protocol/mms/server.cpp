@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "mms/server.h"
+
+#include <asio/co_spawn.hpp>
+#include <asio/detached.hpp>
+#include <asio/dispatch.hpp>
+#include <asio/experimental/as_tuple.hpp>
+#include <asio/post.hpp>
+#include <asio/use_awaitable.hpp>
+
+#include <utility>
+
+namespace mms {
+
+namespace {
+
+constexpr auto asTuple = asio::experimental::as_tuple(asio::use_awaitable);
+constexpr std::chrono::milliseconds pauseAfterFailure{100};
+
+} // namespace
+
+void ServerHandler::opened(const std::shared_ptr<Association> &) {}
+
+void ServerHandler::closed(const std::shared_ptr<Association> &, const std::string &) {}
+
+std::shared_ptr<Server> Server::create(asio::any_io_executor executor, ServerOptions options,
+                                       std::shared_ptr<ServerHandler> handler)
+{
+    return std::make_shared<Server>(Private(), std::move(executor), std::move(options),
+                                    std::move(handler));
+}
+
+Server::Server(Private, asio::any_io_executor executor, ServerOptions options,
+               std::shared_ptr<ServerHandler> handler)
+    : m_executor(std::move(executor))
+    , m_options(std::move(options))
+    , m_handler(std::move(handler))
+    , m_strand(asio::make_strand(m_executor))
+    , m_acceptor(m_strand)
+{
+}
+
+Result<std::uint16_t> Server::start()
+{
+    asio::error_code error;
+    const auto address = asio::ip::make_address(m_options.address, error);
+    if (error)
+        return Error{"\"" + m_options.address + "\" is not an address of a network interface.", 0};
+    const asio::ip::tcp::endpoint endpoint(address, m_options.port);
+    m_acceptor.open(endpoint.protocol(), error);
+    if (!error)
+        m_acceptor.set_option(asio::socket_base::reuse_address(true), error);
+    if (!error)
+        m_acceptor.bind(endpoint, error);
+    if (!error)
+        m_acceptor.listen(asio::socket_base::max_listen_connections, error);
+    const auto local = error ? asio::ip::tcp::endpoint() : m_acceptor.local_endpoint(error);
+    if (error) {
+        asio::error_code ignored;
+        m_acceptor.close(ignored);
+        return Error{"Cannot listen on " + m_options.address + " port "
+                         + std::to_string(m_options.port) + ": " + error.message() + ".",
+                     0};
+    }
+    asio::co_spawn(
+        m_strand, [self = shared_from_this()] { return self->acceptLoop(); }, asio::detached);
+    return local.port();
+}
+
+void Server::stop()
+{
+    asio::dispatch(m_strand, [self = shared_from_this()] {
+        self->m_stopped = true;
+        asio::error_code ignored;
+        self->m_acceptor.close(ignored);
+        for (const auto &association : self->m_associations)
+            association->abort("The server was stopped.");
+    });
+}
+
+asio::awaitable<void> Server::acceptLoop()
+{
+    const auto self = shared_from_this();
+    asio::steady_timer pause(m_strand);
+    while (!m_stopped) {
+        auto strand = asio::make_strand(m_executor);
+        asio::ip::tcp::socket socket(strand);
+        const auto [error] = co_await m_acceptor.async_accept(socket, asTuple);
+        if (m_stopped)
+            break;
+        if (error) {
+            // Usually too many open files, which only time can mend.
+            pause.expires_after(pauseAfterFailure);
+            co_await pause.async_wait(asTuple);
+        } else if (m_associations.size() >= m_options.maxAssociations) {
+            ++m_turnedAway;
+        } else {
+            take(std::move(strand), std::move(socket));
+        }
+    }
+}
+
+void Server::take(Link::Strand strand, asio::ip::tcp::socket socket)
+{
+    // The association that the handlers mean is known only after they were made.
+    const auto place = std::make_shared<std::weak_ptr<Association>>();
+    const auto forget = [self = shared_from_this(), place] {
+        asio::post(self->m_strand, [self, association = place->lock()] {
+            self->m_associations.erase(association);
+            self->m_count = self->m_associations.size();
+        });
+    };
+    Association::Handlers handlers;
+    handlers.request = [handler = m_handler](const std::shared_ptr<Association> &association,
+                                             std::uint32_t invokeId, RequestService request) {
+        handler->request(association, invokeId, std::move(request));
+    };
+    handlers.closed = [handler = m_handler, place, forget](const std::string &reason) {
+        handler->closed(place->lock(), reason);
+        forget();
+    };
+    auto opened = [handler = m_handler, place, forget](const Result<InitiateParameters> &result) {
+        if (result)
+            handler->opened(place->lock());
+        else
+            forget();
+    };
+    const auto association =
+        Association::serve(std::move(strand), std::move(socket), m_options.association,
+                           std::move(handlers), std::move(opened), *place);
+    m_associations.insert(association);
+    m_count = m_associations.size();
+}
+
+} // namespace mms

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "mms/association.h"
+
+#include <asio/any_io_executor.hpp>
+
+#include <cstdint>
+#include <memory>
+#include <set>
+#include <string>
+
+namespace mms {
+
+struct ServerOptions
+{
+    /// Address of this machine; all interfaces by default.
+    std::string address = "0.0.0.0";
+    /// 0 takes a free port.
+    std::uint16_t port = 102;
+    /// A connection beyond this is closed at once.
+    std::size_t maxAssociations = 16;
+    AssociationOptions association;
+};
+
+/// What a server does with its associations. Called in the strand of the association concerned, and
+/// so for different associations at the same time when several threads run the executor.
+class ServerHandler
+{
+public:
+    virtual ~ServerHandler() = default;
+
+    /// An association stands.
+    virtual void opened(const std::shared_ptr<Association> &association);
+    /// Answer once with respond(), fail() or reject(), now or later, from any thread.
+    virtual void request(const std::shared_ptr<Association> &association, std::uint32_t invokeId,
+                         RequestService request) = 0;
+    /// An association that had been opened has ended.
+    virtual void closed(const std::shared_ptr<Association> &association, const std::string &reason);
+};
+
+/// Accepts associations. Peers that do not ask for an association in time, or do not read what they
+/// are sent, are cut off; a peer's other mistakes end at most its own association. Every member may
+/// be called from any thread.
+class Server : public std::enable_shared_from_this<Server>
+{
+    struct Private
+    {
+    };
+
+public:
+    /// @p handler lives until the last association has ended.
+    static std::shared_ptr<Server> create(asio::any_io_executor executor, ServerOptions options,
+                                          std::shared_ptr<ServerHandler> handler);
+    Server(Private, asio::any_io_executor executor, ServerOptions options,
+           std::shared_ptr<ServerHandler> handler);
+
+    /// Listen; the port that is used.
+    Result<std::uint16_t> start();
+    /// Listen no more and abort all associations.
+    void stop();
+    /// Connections, opened or not. In no strand; changes at any time.
+    std::size_t associations() const { return m_count; }
+    /// Connections closed because there were too many.
+    std::uint64_t turnedAway() const { return m_turnedAway; }
+
+private:
+    asio::awaitable<void> acceptLoop();
+    void take(Link::Strand strand, asio::ip::tcp::socket socket);
+
+    asio::any_io_executor m_executor;
+    ServerOptions m_options;
+    std::shared_ptr<ServerHandler> m_handler;
+    Link::Strand m_strand;
+    asio::ip::tcp::acceptor m_acceptor;
+    std::set<std::shared_ptr<Association>> m_associations;
+    std::atomic<std::size_t> m_count{0};
+    std::atomic<std::uint64_t> m_turnedAway{0};
+    bool m_stopped = false;
+};
+
+} // namespace mms

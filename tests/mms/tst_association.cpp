@@ -1,0 +1,546 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "mms/bytes.h"
+#include "mms/loopback.h"
+
+#include <asio/co_spawn.hpp>
+#include <asio/detached.hpp>
+#include <gtest/gtest.h>
+
+#include <atomic>
+
+namespace {
+
+using namespace mms;
+using namespace std::chrono_literals;
+using mmstest::Awaited;
+using mmstest::fromHex;
+using mmstest::Loop;
+using mmstest::RawPeer;
+
+/// Identifies itself, reads every variable as its number in the list, refuses to delete files, has
+/// more names than fit, and never answers a status request.
+class TestDevice : public ServerHandler
+{
+public:
+    void opened(const std::shared_ptr<Association> &association) override
+    {
+        ++openings;
+        if (reportOnOpening)
+            association->report({ObjectName::ofVmd("RPT"), {Data::float32(1.5F)}});
+    }
+
+    void request(const std::shared_ptr<Association> &association, std::uint32_t invokeId,
+                 RequestService request) override
+    {
+        if (std::holds_alternative<IdentifyRequest>(request)) {
+            association->respond(invokeId, IdentifyResponse{"vendor", "model", "1.0", {}});
+        } else if (const auto *read = std::get_if<ReadRequest>(&request)) {
+            ReadResponse response;
+            const auto &list = std::get<std::vector<VariableAccess>>(read->variables);
+            for (std::size_t i = 0; i < list.size(); ++i)
+                response.results.emplace_back(Data::unsignedInteger(i));
+            association->respond(invokeId, response);
+        } else if (std::holds_alternative<FileDeleteRequest>(request)) {
+            association->fail(
+                invokeId, {ErrorClass::File, serviceerrors::fileNonExistent, {}, {}, {}});
+        } else if (std::holds_alternative<GetNameListRequest>(request)) {
+            association->respond(
+                invokeId, GetNameListResponse{std::vector<std::string>(9000, "LLN0$ST$Mod"), true});
+        } else if (!std::holds_alternative<StatusRequest>(request)) {
+            association->reject(invokeId, rejectcodes::requestUnrecognizedService);
+        }
+    }
+
+    void closed(const std::shared_ptr<Association> &, const std::string &reason) override
+    {
+        end.setter()(reason);
+    }
+
+    bool reportOnOpening = false;
+    std::atomic<int> openings{0};
+    Awaited<std::string> end;
+};
+
+AssociationOptions quickOptions()
+{
+    AssociationOptions options;
+    options.link.establishTimeout = 5s;
+    options.link.releaseTimeout = 5s;
+    return options;
+}
+
+class AssociationTest : public testing::Test
+{
+protected:
+    void TearDown() override
+    {
+        if (m_server)
+            m_server->stop();
+        if (m_client)
+            m_client->abort("The test is over.");
+    }
+
+    std::uint16_t startServer(ServerOptions options = {})
+    {
+        options.address = "127.0.0.1";
+        options.port = 0;
+        m_server = Server::create(m_loop.executor(), options, m_device);
+        const auto port = m_server->start();
+        EXPECT_TRUE(port.ok());
+        return port ? *port : 0;
+    }
+
+    Result<InitiateParameters> connect(std::uint16_t port, AssociationOptions options,
+                                       Association::Handlers handlers = {})
+    {
+        if (!handlers.closed)
+            handlers.closed = m_clientEnd.setter();
+        m_client = Association::create(m_loop.executor(), std::move(options), std::move(handlers));
+        Awaited<Result<InitiateParameters>> opened;
+        m_client->connect("127.0.0.1", port, opened.setter());
+        return opened.get();
+    }
+
+    CallOutcome call(RequestService request, std::chrono::milliseconds timeout = 10s)
+    {
+        Awaited<CallOutcome> outcome;
+        m_client->call(std::move(request), timeout, outcome.setter());
+        return outcome.get();
+    }
+
+    /// Accepts the association of the client that is connecting, and then stands still.
+    void acceptByHand(RawPeer &peer, Stack &stack)
+    {
+        peer.accept();
+        std::vector<StackEvent> events;
+        ASSERT_TRUE(peer.feed(stack, events));
+        const auto *asked = std::get_if<AssociateIndication>(&events.front());
+        ASSERT_NE(asked, nullptr);
+        const auto pdu = decodePdu(asked->pdu);
+        ASSERT_TRUE(pdu.ok());
+        const auto &request = std::get<InitiateRequestPdu>(*pdu);
+        peer.send(stack.accept(encode(InitiateResponsePdu{request.parameters})).octets);
+    }
+
+    void connectToRawPeer(RawPeer &peer, Stack &stack)
+    {
+        Association::Handlers handlers;
+        handlers.closed = m_clientEnd.setter();
+        m_client = Association::create(m_loop.executor(), quickOptions(), std::move(handlers));
+        Awaited<Result<InitiateParameters>> opened;
+        m_client->connect("127.0.0.1", peer.port(), opened.setter());
+        acceptByHand(peer, stack);
+        ASSERT_TRUE(opened.get().ok());
+    }
+
+    CallFailure::Kind failureOf(const CallOutcome &outcome)
+    {
+        const auto *none = std::get_if<CallFailure>(&outcome);
+        EXPECT_NE(none, nullptr);
+        return none ? none->kind : CallFailure::Kind::NotOpen;
+    }
+
+    std::shared_ptr<TestDevice> m_device = std::make_shared<TestDevice>();
+    std::shared_ptr<Server> m_server;
+    std::shared_ptr<Association> m_client;
+    Awaited<std::string> m_clientEnd;
+    Loop m_loop;
+};
+
+} // namespace
+
+TEST_F(AssociationTest, InitiatesIdentifiesReadsAndConcludes)
+{
+    const auto negotiated = connect(startServer(), quickOptions());
+    ASSERT_TRUE(negotiated.ok()) << negotiated.error().message;
+    EXPECT_EQ(negotiated->maxPduSize, 65000);
+    EXPECT_EQ(negotiated->maxOutstandingCalling, 5);
+    const auto who = call(IdentifyRequest());
+    ASSERT_NE(answerOf<IdentifyResponse>(who), nullptr) << failureText(who);
+    EXPECT_EQ(answerOf<IdentifyResponse>(who)->vendor, "vendor");
+    const auto read = call(ReadRequest{false, variablesOf("LD", {"a", "b", "c"})});
+    ASSERT_NE(answerOf<ReadResponse>(read), nullptr) << failureText(read);
+    EXPECT_EQ(answerOf<ReadResponse>(read)->results.size(), 3U);
+    EXPECT_EQ(answerOf<ReadResponse>(read)->results[2], AccessResult(Data::unsignedInteger(2)));
+    Awaited<Result<void>> concluded;
+    m_client->conclude(concluded.setter());
+    const auto result = concluded.get();
+    EXPECT_TRUE(result.ok()) << result.error().message;
+    EXPECT_EQ(m_clientEnd.get(), "The association was released.");
+    EXPECT_EQ(m_device->end.get(), "The association was released.");
+    EXPECT_EQ(failureOf(call(IdentifyRequest())), CallFailure::Kind::NotOpen);
+}
+
+TEST_F(AssociationTest, CoroutinesConnectCallAndConclude)
+{
+    const std::uint16_t port = startServer();
+    m_client = Association::create(m_loop.executor(), quickOptions(), {});
+    Awaited<std::string> done;
+    asio::co_spawn(
+        m_loop.executor(),
+        [client = m_client, port, finish = done.setter()]() -> asio::awaitable<void> {
+            const auto opened = co_await client->connect("127.0.0.1", port);
+            if (!opened) {
+                finish(opened.error().message);
+                co_return;
+            }
+            const auto outcome = co_await client->call(IdentifyRequest(), 10s);
+            const auto concluded = co_await client->conclude();
+            const auto *who = answerOf<IdentifyResponse>(outcome);
+            finish(who && concluded ? who->model : failureText(outcome));
+        },
+        asio::detached);
+    EXPECT_EQ(done.get(), "model");
+}
+
+TEST_F(AssociationTest, ErrorsAndRejectsOfTheServiceReachTheCaller)
+{
+    ASSERT_TRUE(connect(startServer(), quickOptions()).ok());
+    const auto refused = call(FileDeleteRequest{{"x"}});
+    const auto *error = std::get_if<ServiceError>(&refused);
+    ASSERT_NE(error, nullptr);
+    EXPECT_EQ(error->errorClass, ErrorClass::File);
+    EXPECT_FALSE(failureText(refused).empty());
+    const auto rejected = call(FileCloseRequest{1});
+    ASSERT_TRUE(std::holds_alternative<RejectPdu>(rejected));
+    EXPECT_EQ(std::get<RejectPdu>(rejected).code, rejectcodes::requestUnrecognizedService);
+}
+
+TEST_F(AssociationTest, ReportsReachTheClient)
+{
+    m_device->reportOnOpening = true;
+    Awaited<InformationReport> report;
+    Association::Handlers handlers;
+    handlers.report = report.setter();
+    ASSERT_TRUE(connect(startServer(), quickOptions(), std::move(handlers)).ok());
+    EXPECT_EQ(report.get(),
+              (InformationReport{ObjectName::ofVmd("RPT"), {Data::float32(1.5F)}}));
+}
+
+TEST_F(AssociationTest, ThePduSizeIsKeptInBothDirections)
+{
+    AssociationOptions options = quickOptions();
+    options.maxPduSize = 10;
+    const auto negotiated = connect(startServer(), options);
+    ASSERT_TRUE(negotiated.ok());
+    EXPECT_EQ(negotiated->maxPduSize, smallestPduSize);
+    const std::vector<std::string> many(200, "LLN0$ST$Mod");
+    EXPECT_EQ(failureOf(call(ReadRequest{false, variablesOf("LD", many)})),
+              CallFailure::Kind::TooLarge);
+    const auto tooLong = call(GetNameListRequest());
+    ASSERT_TRUE(std::holds_alternative<ServiceError>(tooLong));
+    EXPECT_EQ(std::get<ServiceError>(tooLong).errorClass, ErrorClass::Resource);
+    EXPECT_NE(answerOf<IdentifyResponse>(call(IdentifyRequest())), nullptr);
+}
+
+TEST_F(AssociationTest, LongAnswersArriveThroughManyTransportUnits)
+{
+    AssociationOptions options = quickOptions();
+    options.link.stack.transport.unitSize = 128;
+    ServerOptions server;
+    server.association.maxPduSize = 200000;
+    options.maxPduSize = 200000;
+    ASSERT_TRUE(connect(startServer(server), options).ok());
+    const auto names = call(GetNameListRequest());
+    ASSERT_NE(answerOf<GetNameListResponse>(names), nullptr) << failureText(names);
+    EXPECT_EQ(answerOf<GetNameListResponse>(names)->names.size(), 9000U);
+}
+
+TEST_F(AssociationTest, ACallWithoutAnswerEndsAtItsDeadlineAndOthersGoOn)
+{
+    ASSERT_TRUE(connect(startServer(), quickOptions()).ok());
+    Awaited<CallOutcome> silent;
+    const auto begin = std::chrono::steady_clock::now();
+    m_client->call(StatusRequest(), 150ms, silent.setter());
+    EXPECT_NE(answerOf<IdentifyResponse>(call(IdentifyRequest())), nullptr);
+    EXPECT_EQ(failureOf(silent.get()), CallFailure::Kind::TimedOut);
+    const auto took = std::chrono::steady_clock::now() - begin;
+    EXPECT_GE(took, 150ms);
+    EXPECT_LT(took, 3s);
+}
+
+TEST_F(AssociationTest, CallsBeyondTheOutstandingLimitWaitAndAllAreAnswered)
+{
+    ServerOptions server;
+    server.association.maxOutstandingCalled = 3;
+    const auto negotiated = connect(startServer(server), quickOptions());
+    ASSERT_TRUE(negotiated.ok());
+    EXPECT_EQ(negotiated->maxOutstandingCalling, 3);
+    constexpr int calls = 500;
+    std::atomic<int> answers{0};
+    Awaited<int> all;
+    for (int i = 0; i < calls; ++i) {
+        m_client->call(IdentifyRequest(), 30s,
+                       [&answers, done = all.setter()](const CallOutcome &outcome) {
+                           EXPECT_NE(answerOf<IdentifyResponse>(outcome), nullptr);
+                           if (++answers == calls)
+                               done(calls);
+                       });
+    }
+    EXPECT_EQ(all.get(), calls);
+}
+
+TEST_F(AssociationTest, ACancelledCallEndsAtOnce)
+{
+    ASSERT_TRUE(connect(startServer(), quickOptions()).ok());
+    Awaited<CallOutcome> outcome;
+    const auto id = m_client->call(StatusRequest(), 60s, outcome.setter());
+    m_client->cancel(id);
+    EXPECT_EQ(failureOf(outcome.get()), CallFailure::Kind::Cancelled);
+}
+
+TEST_F(AssociationTest, AnAbortEndsCallsOnThisSideAndTheAssociationOnTheOther)
+{
+    ASSERT_TRUE(connect(startServer(), quickOptions()).ok());
+    Awaited<CallOutcome> outcome;
+    m_client->call(StatusRequest(), 60s, outcome.setter());
+    m_client->abort("The operator gave up.");
+    const auto lost = outcome.get();
+    EXPECT_EQ(failureOf(lost), CallFailure::Kind::Lost);
+    EXPECT_EQ(failureText(lost), "The operator gave up.");
+    EXPECT_EQ(m_device->end.get(), "The peer aborted the association.");
+}
+
+TEST_F(AssociationTest, OnlyTheRightPasswordOpensAnAssociation)
+{
+    ServerOptions server;
+    server.association.link.stack.association.authentication =
+        acse::Authentication{acse::passwordMechanism, fromHex("736563726574")};
+    const std::uint16_t port = startServer(server);
+    const auto without = connect(port, quickOptions());
+    ASSERT_FALSE(without.ok());
+    EXPECT_NE(without.error().message.find("an authentication is required"), std::string::npos);
+    AssociationOptions wrong = quickOptions();
+    wrong.link.stack.association.authentication =
+        acse::Authentication{acse::passwordMechanism, fromHex("00")};
+    EXPECT_FALSE(connect(port, wrong).ok());
+    EXPECT_EQ(m_device->openings, 0);
+    AssociationOptions right = quickOptions();
+    right.link.stack.association.authentication =
+        server.association.link.stack.association.authentication;
+    EXPECT_TRUE(connect(port, right).ok());
+}
+
+TEST_F(AssociationTest, AServerRefusesAPduSizeThatIsTooSmallToWorkWith)
+{
+    const std::uint16_t port = startServer();
+    RawPeer peer;
+    peer.connect(port);
+    Stack stack(Stack::Role::Initiator, {});
+    InitiateParameters parameters;
+    parameters.maxPduSize = smallestPduSize - 1;
+    peer.send(stack.connect(encode(InitiateRequestPdu{parameters})).octets);
+    std::vector<StackEvent> events;
+    ASSERT_TRUE(peer.feed(stack, events));
+    ASSERT_TRUE(std::holds_alternative<AssociateRefused>(events.front()));
+    const auto pdu = decodePdu(std::get<AssociateRefused>(events.front()).pdu);
+    ASSERT_TRUE(pdu.ok());
+    EXPECT_EQ(std::get<InitiateErrorPdu>(*pdu).error.errorClass, ErrorClass::Initiate);
+    EXPECT_TRUE(peer.receive().empty());
+}
+
+TEST_F(AssociationTest, ConnectionsBeyondTheLimitAreClosedAndTheOthersLive)
+{
+    ServerOptions server;
+    server.maxAssociations = 1;
+    const std::uint16_t port = startServer(server);
+    ASSERT_TRUE(connect(port, quickOptions()).ok());
+    RawPeer second;
+    second.connect(port);
+    EXPECT_TRUE(second.receive().empty());
+    EXPECT_EQ(m_server->turnedAway(), 1U);
+    EXPECT_NE(answerOf<IdentifyResponse>(call(IdentifyRequest())), nullptr);
+}
+
+TEST_F(AssociationTest, AServerCutsOffAPeerThatSaysNothing)
+{
+    ServerOptions server;
+    server.association.link.establishTimeout = 100ms;
+    RawPeer peer;
+    peer.connect(startServer(server));
+    EXPECT_TRUE(peer.receive().empty());
+}
+
+TEST_F(AssociationTest, AServerCutsOffAPeerThatDoesNotReadAnswers)
+{
+    ServerOptions server;
+    server.association.link.sendTimeout = 200ms;
+    server.association.maxPduSize = 200000;
+    server.association.maxOutstandingCalled = 2000;
+    RawPeer peer;
+    peer.connect(startServer(server));
+    Stack stack(Stack::Role::Initiator, {});
+    InitiateParameters parameters;
+    parameters.maxPduSize = 200000;
+    parameters.maxOutstandingCalling = 2000;
+    peer.send(stack.connect(encode(InitiateRequestPdu{parameters})).octets);
+    std::vector<StackEvent> events;
+    ASSERT_TRUE(peer.feed(stack, events));
+    Octets requests;
+    for (std::uint32_t i = 0; i < 200; ++i) {
+        const auto octets =
+            stack.send(encode(ConfirmedRequestPdu{i, GetNameListRequest()})).octets;
+        requests.insert(requests.end(), octets.begin(), octets.end());
+    }
+    peer.send(requests);
+    EXPECT_EQ(m_device->end.get(), "The peer does not read what it is sent.");
+}
+
+TEST_F(AssociationTest, GarbageInsteadOfAnAssociationIsCutOff)
+{
+    ServerOptions server;
+    server.association.link.establishTimeout = 200ms;
+    const std::uint16_t port = startServer(server);
+    for (const std::string_view garbage :
+         {"474554202f20485454502f312e310d0a0d0a", "0300000702f080", "03000005ff", "030000",
+          "0300000b06e0000000010000"}) {
+        RawPeer peer;
+        peer.connect(port);
+        peer.send(fromHex(garbage));
+        peer.send(fromHex("47"));
+        while (!peer.receive().empty()) {
+        }
+    }
+    EXPECT_TRUE(connect(port, quickOptions()).ok());
+}
+
+TEST_F(AssociationTest, ASilentPeerEndsTheAttemptToConnectInTime)
+{
+    RawPeer peer;
+    AssociationOptions options = quickOptions();
+    options.link.establishTimeout = 150ms;
+    const auto begin = std::chrono::steady_clock::now();
+    const auto opened = connect(peer.port(), options);
+    ASSERT_FALSE(opened.ok());
+    EXPECT_EQ(opened.error().message, "The peer did not complete the association in time.");
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, 3s);
+}
+
+TEST_F(AssociationTest, ARefusedConnectionIsSaidWithHostAndPort)
+{
+    const std::uint16_t port = RawPeer().port();
+    const auto opened = connect(port, quickOptions());
+    ASSERT_FALSE(opened.ok());
+    EXPECT_NE(opened.error().message.find("127.0.0.1 port " + std::to_string(port)),
+              std::string::npos);
+}
+
+TEST_F(AssociationTest, AConclusionThatIsNotAnsweredEndsByItsDeadline)
+{
+    RawPeer peer;
+    Stack stack(Stack::Role::Responder, {});
+    Association::Handlers handlers;
+    AssociationOptions options = quickOptions();
+    options.link.releaseTimeout = 150ms;
+    m_client = Association::create(m_loop.executor(), options, std::move(handlers));
+    Awaited<Result<InitiateParameters>> opened;
+    m_client->connect("127.0.0.1", peer.port(), opened.setter());
+    acceptByHand(peer, stack);
+    ASSERT_TRUE(opened.get().ok());
+    Awaited<Result<void>> concluded;
+    m_client->conclude(concluded.setter());
+    const auto result = concluded.get();
+    ASSERT_FALSE(result.ok());
+    EXPECT_EQ(result.error().message, "The peer did not answer the release in time.");
+}
+
+TEST_F(AssociationTest, LateAndUnknownAnswersAreCountedAndDropped)
+{
+    RawPeer peer;
+    Stack stack(Stack::Role::Responder, {});
+    connectToRawPeer(peer, stack);
+    EXPECT_EQ(failureOf(call(StatusRequest(), 50ms)), CallFailure::Kind::TimedOut);
+    const IdentifyResponse who{"v", "m", "r", {}};
+    peer.send(stack.send(encode(ConfirmedResponsePdu{1, who})).octets);
+    peer.send(stack.send(encode(ConfirmedResponsePdu{4711, who})).octets);
+    Awaited<CallOutcome> outcome;
+    m_client->call(IdentifyRequest(), 10s, outcome.setter());
+    peer.send(stack.send(encode(ConfirmedResponsePdu{2, who})).octets);
+    // The answer may overtake the call; then it is unknown, and the next one comes.
+    std::vector<StackEvent> events;
+    while (peer.feed(stack, events)) {
+        const auto head = peekPdu(std::get<PduIndication>(events.back()).pdu);
+        if (head && head->invokeId == 2U)
+            break;
+        events.clear();
+    }
+    peer.send(stack.send(encode(ConfirmedResponsePdu{2, who})).octets);
+    EXPECT_NE(answerOf<IdentifyResponse>(outcome.get()), nullptr);
+    EXPECT_EQ(m_client->counters().late, 1U);
+    EXPECT_GE(m_client->counters().unknown, 1U);
+}
+
+TEST_F(AssociationTest, AMalformedAnswerIsRejectedAndEndsOnlyItsCall)
+{
+    RawPeer peer;
+    Stack stack(Stack::Role::Responder, {});
+    connectToRawPeer(peer, stack);
+    Awaited<CallOutcome> outcome;
+    m_client->call(IdentifyRequest(), 10s, outcome.setter());
+    std::vector<StackEvent> events;
+    ASSERT_TRUE(peer.feed(stack, events));
+    peer.send(stack.send(fromHex("a107 020101 a202 8005")).octets);
+    EXPECT_EQ(failureOf(outcome.get()), CallFailure::Kind::Malformed);
+    events.clear();
+    ASSERT_TRUE(peer.feed(stack, events));
+    const auto rejected = decodePdu(std::get<PduIndication>(events.front()).pdu);
+    ASSERT_TRUE(rejected.ok());
+    EXPECT_EQ(std::get<RejectPdu>(*rejected),
+              (RejectPdu{1, RejectedPdu::ConfirmedResponse, rejectcodes::responseInvalidResult}));
+    EXPECT_EQ(m_client->counters().malformed, 1U);
+}
+
+TEST_F(AssociationTest, AMalformedRequestIsRejectedByTheServer)
+{
+    RawPeer peer;
+    peer.connect(startServer());
+    Stack stack(Stack::Role::Initiator, {});
+    InitiateParameters parameters;
+    parameters.maxPduSize = 65000;
+    peer.send(stack.connect(encode(InitiateRequestPdu{parameters})).octets);
+    std::vector<StackEvent> events;
+    ASSERT_TRUE(peer.feed(stack, events));
+    peer.send(stack.send(fromHex("a006 020109 a401 00")).octets);
+    events.clear();
+    ASSERT_TRUE(peer.feed(stack, events));
+    const auto rejected = decodePdu(std::get<PduIndication>(events.front()).pdu);
+    ASSERT_TRUE(rejected.ok());
+    EXPECT_EQ(std::get<RejectPdu>(*rejected),
+              (RejectPdu{9, RejectedPdu::ConfirmedRequest, rejectcodes::requestInvalidArgument}));
+    peer.send(stack.send(fromHex("bf7f00")).octets);
+    events.clear();
+    ASSERT_TRUE(peer.feed(stack, events));
+    const auto unknown = decodePdu(std::get<PduIndication>(events.front()).pdu);
+    EXPECT_EQ(std::get<RejectPdu>(*unknown).rejected, RejectedPdu::PduError);
+}
+
+TEST_F(AssociationTest, ALostConnectionEndsAllCallsAndSaysSo)
+{
+    RawPeer peer;
+    Stack stack(Stack::Role::Responder, {});
+    connectToRawPeer(peer, stack);
+    Awaited<CallOutcome> outcome;
+    m_client->call(IdentifyRequest(), 60s, outcome.setter());
+    std::vector<StackEvent> events;
+    ASSERT_TRUE(peer.feed(stack, events));
+    peer.close();
+    EXPECT_EQ(failureOf(outcome.get()), CallFailure::Kind::Lost);
+    EXPECT_EQ(m_clientEnd.get(), "The peer closed the network connection.");
+}
+
+TEST_F(AssociationTest, TheTraceSeesEveryPduInBothDirections)
+{
+    AssociationOptions options = quickOptions();
+    std::vector<std::string> lines;
+    options.link.trace = [&lines](Direction direction, Bytes pdu) {
+        lines.push_back((direction == Direction::Sent ? "> " : "< ")
+                        + std::to_string(peekPdu(pdu)->type));
+    };
+    ASSERT_TRUE(connect(startServer(), options).ok());
+    call(IdentifyRequest());
+    Awaited<Result<void>> concluded;
+    m_client->conclude(concluded.setter());
+    EXPECT_TRUE(concluded.get().ok());
+    EXPECT_EQ(m_clientEnd.get(), "The association was released.");
+    EXPECT_EQ(lines, (std::vector<std::string>{"> 8", "< 9", "> 0", "< 1", "> 11", "< 12"}));
+}
