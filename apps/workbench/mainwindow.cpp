@@ -383,7 +383,7 @@ void MainWindow::showFailures(const QStringList &sentences)
     constexpr int longestList = 8;
     QStringList shown = sentences.mid(0, longestList);
     if (const auto more = sentences.size() - shown.size(); more > 0)
-        shown << tr("%1 more files cannot be used.").arg(more);
+        shown << tr("Further files that cannot be used: %1").arg(more);
     auto *box = new QMessageBox(QMessageBox::Warning, tr("Open SCL File"),
                                 shown.join(QStringLiteral("\n\n")), QMessageBox::Ok, this);
     box->setTextFormat(Qt::PlainText);

@@ -135,7 +135,7 @@ void Workbench::takeListed(const DeviceListModel::Device &previous, const Import
         const QLocale locale;
         m_driver.hold(number, result.model);
         m_devices.setReady(number,
-                           tr("%1 logical devices, %2 logical nodes, %3 data attributes")
+                           tr("Logical devices: %1, logical nodes: %2, data attributes: %3")
                                .arg(locale.toString(result.logicalDevices),
                                     locale.toString(result.logicalNodes),
                                     locale.toString(result.attributes)),

@@ -16,29 +16,36 @@ private slots:
     void aMissingPluginEndsTheTourWithASentence();
     void aFolderThatCannotBeMadeEndsTheTourWithASentence();
     void theOperatorsOwnListIsLeftAlone();
+    void theHelpSpeaksTheLanguageOfTheSystem();
 
 private:
     struct Outcome
     {
         int status = -1;
         QString sentence;
+        QString output;
     };
 
-    Outcome run(const QString &program, const QStringList &arguments) const;
+    Outcome run(const QString &program, const QStringList &arguments,
+                const QString &locale = QStringLiteral("C.UTF-8")) const;
     QTemporaryDir m_folder;
 };
 
-tst_Tour::Outcome tst_Tour::run(const QString &program, const QStringList &arguments) const
+tst_Tour::Outcome tst_Tour::run(const QString &program, const QStringList &arguments,
+                                const QString &locale) const
 {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_folder.path());
+    environment.insert(QStringLiteral("LC_ALL"), locale);
+    environment.remove(QStringLiteral("LANGUAGE"));
     process.setProcessEnvironment(environment);
     process.start(program, arguments);
     constexpr int patience = 90'000;
     if (!process.waitForFinished(patience))
         return {};
-    return {process.exitCode(), QString::fromLocal8Bit(process.readAllStandardError())};
+    return {process.exitCode(), QString::fromLocal8Bit(process.readAllStandardError()),
+            QString::fromLocal8Bit(process.readAllStandardOutput())};
 }
 
 void tst_Tour::everyToolGivesAPictureThatShowsSomething()
@@ -84,6 +91,16 @@ void tst_Tour::theOperatorsOwnListIsLeftAlone()
         run(QStringLiteral(WORKBENCH), {QStringLiteral("--tour"), pictures.path()});
     QVERIFY2(tour.status == 0, qPrintable(tour.sentence));
     QVERIFY(!QDir(m_folder.path()).exists(QStringLiteral("IEC61850Ext")));
+}
+
+void tst_Tour::theHelpSpeaksTheLanguageOfTheSystem()
+{
+    const QStringList help{QStringLiteral("--help")};
+    const Outcome english = run(QStringLiteral(WORKBENCH), help);
+    QVERIFY(english.output.contains(QStringLiteral("Open the demonstration device.")));
+    const Outcome german = run(QStringLiteral(WORKBENCH), help, QStringLiteral("de_DE.UTF-8"));
+    QVERIFY2(german.output.contains(QStringLiteral("Das Demonstrationsger")),
+             qPrintable(german.output));
 }
 
 QTEST_GUILESS_MAIN(tst_Tour)

@@ -14,6 +14,7 @@
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QMenuBar>
+#include <QtWidgets/QPushButton>
 
 class tst_TourLanguages : public QObject
 {
@@ -23,6 +24,7 @@ private slots:
     void initTestCase();
 
     void windowPluginAndStandardButtonsSpeakTheLanguage();
+    void noMnemonicStandsForTwoEntries();
     void theTourShowsEveryWindowWithoutClippedTexts();
     void everyPictureShowsSomething();
 
@@ -43,8 +45,8 @@ void tst_TourLanguages::initTestCase()
     installTranslators(translationFolder());
     // Where a person wants to see the pictures too.
     m_pictures = qEnvironmentVariable("TOUR_PICTURES", m_folder.path());
-    m_workbench = std::make_unique<Workbench>(m_folder.filePath("workbench.ini"),
-                                              makeEmbeddedDriver());
+    m_workbench =
+        std::make_unique<Workbench>(m_folder.filePath("workbench.ini"), makeEmbeddedDriver());
     m_window = std::make_unique<MainWindow>(*m_workbench, PLUGIN_FOLDER);
     m_window->loadExtension();
     QVERIFY2(m_window->extension().extension, qPrintable(m_window->extension().reason));
@@ -64,6 +66,31 @@ void tst_TourLanguages::windowPluginAndStandardButtonsSpeakTheLanguage()
     QCOMPARE(tool == "IED Browser", isEnglish());
     const QString button = QCoreApplication::translate("QPlatformTheme", "Cancel");
     QCOMPARE(button == "Cancel", isEnglish());
+}
+
+void tst_TourLanguages::noMnemonicStandsForTwoEntries()
+{
+    QMultiMap<QString, QString> taken;
+    const auto take = [&](const QString &where, const QString &text) {
+        const QKeySequence mnemonic = QKeySequence::mnemonic(text);
+        if (!mnemonic.isEmpty())
+            taken.insert(where + ' ' + mnemonic.toString(), text);
+    };
+    // What Alt and a letter reach in the window, and what a letter reaches in each open menu.
+    const QList<QAction *> menus = m_window->menuBar()->actions();
+    for (const QAction *menu : menus) {
+        take("window", menu->text());
+        const QList<QAction *> entries = menu->menu()->actions();
+        for (const QAction *entry : entries)
+            take(menu->text(), entry->text());
+    }
+    const QList<QPushButton *> buttons = m_window->findChildren<QPushButton *>();
+    for (const QPushButton *button : buttons)
+        take("window", button->text());
+    QVERIFY(taken.size() > menus.size());
+    const QStringList places = taken.uniqueKeys();
+    for (const QString &place : places)
+        QVERIFY2(taken.count(place) == 1, qPrintable(taken.values(place).join(" / ")));
 }
 
 void tst_TourLanguages::theTourShowsEveryWindowWithoutClippedTexts()

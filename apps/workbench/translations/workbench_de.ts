@@ -320,7 +320,7 @@
         <translation>IEC-61850-Workbench</translation>
     </message>
     <message>
-        <source>&amp;Try Again</source>
+        <source>T&amp;ry Again</source>
         <translation>Erneut &amp;versuchen</translation>
     </message>
     <message>
@@ -474,8 +474,8 @@ Lesen Sie es mit %2 erneut, oder entfernen Sie das Gerät aus der Liste.</transl
         <translation>Alle Dateien (*)</translation>
     </message>
     <message>
-        <source>%1 more files cannot be used.</source>
-        <translation>%1 weitere Dateien sind nicht zu verwenden.</translation>
+        <source>Further files that cannot be used: %1</source>
+        <translation>Weitere Dateien, die nicht zu verwenden sind: %1</translation>
     </message>
     <message>
         <source>%1 was taken off the list; its file stays where it is.</source>
@@ -680,8 +680,8 @@ Apache License 2.0</translation>
         <translation>„%1“ ist nicht zu verwenden: %2</translation>
     </message>
     <message>
-        <source>%1 logical devices, %2 logical nodes, %3 data attributes</source>
-        <translation>%1 logische Geräte, %2 logische Knoten, %3 Datenattribute</translation>
+        <source>Logical devices: %1, logical nodes: %2, data attributes: %3</source>
+        <translation>Logische Geräte: %1, logische Knoten: %2, Datenattribute: %3</translation>
     </message>
     <message>
         <source>Loading was cancelled.</source>

@@ -320,7 +320,7 @@
         <translation>Banco de trabajo IEC 61850</translation>
     </message>
     <message>
-        <source>&amp;Try Again</source>
+        <source>T&amp;ry Again</source>
         <translation>&amp;Reintentar</translation>
     </message>
     <message>
@@ -474,8 +474,8 @@ Léalo de nuevo con %2 o quite el dispositivo de la lista.</translation>
         <translation>Todos los archivos (*)</translation>
     </message>
     <message>
-        <source>%1 more files cannot be used.</source>
-        <translation>Otros %1 archivos no se pueden usar.</translation>
+        <source>Further files that cannot be used: %1</source>
+        <translation>Otros archivos que no se pueden usar: %1</translation>
     </message>
     <message>
         <source>%1 was taken off the list; its file stays where it is.</source>
@@ -680,8 +680,8 @@ Apache License 2.0</translation>
         <translation>«%1» no se puede usar: %2</translation>
     </message>
     <message>
-        <source>%1 logical devices, %2 logical nodes, %3 data attributes</source>
-        <translation>%1 dispositivos lógicos, %2 nodos lógicos, %3 atributos de datos</translation>
+        <source>Logical devices: %1, logical nodes: %2, data attributes: %3</source>
+        <translation>Dispositivos lógicos: %1, nodos lógicos: %2, atributos de datos: %3</translation>
     </message>
     <message>
         <source>Loading was cancelled.</source>

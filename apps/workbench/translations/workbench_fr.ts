@@ -320,7 +320,7 @@
         <translation>Banc de travail IEC 61850</translation>
     </message>
     <message>
-        <source>&amp;Try Again</source>
+        <source>T&amp;ry Again</source>
         <translation>&amp;Réessayer</translation>
     </message>
     <message>
@@ -474,8 +474,8 @@ Relisez-le avec %2, ou retirez l'équipement de la liste.</translation>
         <translation>Tous les fichiers (*)</translation>
     </message>
     <message>
-        <source>%1 more files cannot be used.</source>
-        <translation>%1 autres fichiers sont inutilisables.</translation>
+        <source>Further files that cannot be used: %1</source>
+        <translation>Autres fichiers inutilisables : %1</translation>
     </message>
     <message>
         <source>%1 was taken off the list; its file stays where it is.</source>
@@ -680,8 +680,8 @@ Apache License 2.0</translation>
         <translation>« %1 » est inutilisable : %2</translation>
     </message>
     <message>
-        <source>%1 logical devices, %2 logical nodes, %3 data attributes</source>
-        <translation>%1 dispositifs logiques, %2 nœuds logiques, %3 attributs de données</translation>
+        <source>Logical devices: %1, logical nodes: %2, data attributes: %3</source>
+        <translation>Dispositifs logiques : %1, nœuds logiques : %2, attributs de données : %3</translation>
     </message>
     <message>
         <source>Loading was cancelled.</source>

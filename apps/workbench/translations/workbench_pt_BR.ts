@@ -320,7 +320,7 @@
         <translation>Bancada IEC 61850</translation>
     </message>
     <message>
-        <source>&amp;Try Again</source>
+        <source>T&amp;ry Again</source>
         <translation>&amp;Tentar novamente</translation>
     </message>
     <message>
@@ -474,8 +474,8 @@ Leia-o novamente com %2 ou remova o dispositivo da lista.</translation>
         <translation>Todos os arquivos (*)</translation>
     </message>
     <message>
-        <source>%1 more files cannot be used.</source>
-        <translation>Outros %1 arquivos não podem ser usados.</translation>
+        <source>Further files that cannot be used: %1</source>
+        <translation>Outros arquivos que não podem ser usados: %1</translation>
     </message>
     <message>
         <source>%1 was taken off the list; its file stays where it is.</source>
@@ -680,8 +680,8 @@ Apache License 2.0</translation>
         <translation>“%1” não pode ser usado: %2</translation>
     </message>
     <message>
-        <source>%1 logical devices, %2 logical nodes, %3 data attributes</source>
-        <translation>%1 dispositivos lógicos, %2 nós lógicos, %3 atributos de dados</translation>
+        <source>Logical devices: %1, logical nodes: %2, data attributes: %3</source>
+        <translation>Dispositivos lógicos: %1, nós lógicos: %2, atributos de dados: %3</translation>
     </message>
     <message>
         <source>Loading was cancelled.</source>

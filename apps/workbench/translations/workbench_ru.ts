@@ -320,7 +320,7 @@
         <translation>Рабочий стенд МЭК 61850</translation>
     </message>
     <message>
-        <source>&amp;Try Again</source>
+        <source>T&amp;ry Again</source>
         <translation>&amp;Повторить</translation>
     </message>
     <message>
@@ -474,8 +474,8 @@ Read it again with %2, or remove the device from the list.</source>
         <translation>Все файлы (*)</translation>
     </message>
     <message>
-        <source>%1 more files cannot be used.</source>
-        <translation>Других непригодных файлов: %1.</translation>
+        <source>Further files that cannot be used: %1</source>
+        <translation>Других непригодных файлов: %1</translation>
     </message>
     <message>
         <source>%1 was taken off the list; its file stays where it is.</source>
@@ -680,8 +680,8 @@ Apache License 2.0</translation>
         <translation>Файл «%1» непригоден: %2</translation>
     </message>
     <message>
-        <source>%1 logical devices, %2 logical nodes, %3 data attributes</source>
-        <translation>логических устройств: %1, логических узлов: %2, атрибутов данных: %3</translation>
+        <source>Logical devices: %1, logical nodes: %2, data attributes: %3</source>
+        <translation>Логических устройств: %1, логических узлов: %2, атрибутов данных: %3</translation>
     </message>
     <message>
         <source>Loading was cancelled.</source>

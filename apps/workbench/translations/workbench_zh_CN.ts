@@ -320,7 +320,7 @@
         <translation>IEC 61850 工作台</translation>
     </message>
     <message>
-        <source>&amp;Try Again</source>
+        <source>T&amp;ry Again</source>
         <translation>重试(&amp;R)</translation>
     </message>
     <message>
@@ -474,8 +474,8 @@ Read it again with %2, or remove the device from the list.</source>
         <translation>所有文件 (*)</translation>
     </message>
     <message>
-        <source>%1 more files cannot be used.</source>
-        <translation>另有 %1 个文件无法使用。</translation>
+        <source>Further files that cannot be used: %1</source>
+        <translation>其他无法使用的文件：%1</translation>
     </message>
     <message>
         <source>%1 was taken off the list; its file stays where it is.</source>
@@ -680,8 +680,8 @@ Apache License 2.0</translation>
         <translation>“%1”无法使用：%2</translation>
     </message>
     <message>
-        <source>%1 logical devices, %2 logical nodes, %3 data attributes</source>
-        <translation>%1 个逻辑设备，%2 个逻辑节点，%3 个数据属性</translation>
+        <source>Logical devices: %1, logical nodes: %2, data attributes: %3</source>
+        <translation>逻辑设备：%1，逻辑节点：%2，数据属性：%3</translation>
     </message>
     <message>
         <source>Loading was cancelled.</source>
