@@ -239,13 +239,22 @@ Reader Reader::expectGroup(Tag tag, std::string_view what)
 
 std::size_t Reader::countRest()
 {
-    Reader ahead = *this;
-    Element element;
-    std::size_t count = 0;
-    while (ahead.next(element))
-        ++count;
     if (failed())
         return 0;
+    const std::uint8_t *p = m_position;
+    std::size_t count = 0;
+    for (; p != m_end; ++count) {
+        const auto left = static_cast<std::size_t>(m_end - p);
+        if (left >= 2 && (p[0] & 0x1FU) != 0x1F && p[1] < 0x80 && p[1] <= left - 2) [[likely]] {
+            p += 2U + p[1];
+            continue;
+        }
+        Reader ahead(m_input, p, m_end, m_depth);
+        Element element;
+        if (!ahead.readSlowly(element))
+            return 0;
+        p = ahead.m_position;
+    }
     if (count > m_input->m_countLeft) {
         fail("The message holds more elements than allowed");
         return 0;

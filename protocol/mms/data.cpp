@@ -326,6 +326,12 @@ void DataCodec::readInto(Reader &reader, const Element &element, Data &data)
 {
     const Bytes content = element.content;
     const auto refuse = [&](const char *message) { reader.input().fail(message, element.offset); };
+    // The value is a new one, so that nothing is to be released.
+    const auto setNumber = [&](std::uint64_t bits) {
+        data.m_kind = static_cast<Data::Kind>(element.tag.number());
+        data.m_size = 1;
+        data.m_content.bits = bits;
+    };
     const auto copyOctets = [&](Data::Kind kind) {
         std::uint8_t *const room = data.makeRoom(kind, content.size());
         if (!content.empty())
@@ -354,23 +360,21 @@ void DataCodec::readInto(Reader &reader, const Element &element, Data &data)
         return;
     }
     case Data::Kind::Boolean:
-        data = Data::boolean(reader.boolean(element));
+        setNumber(reader.boolean(element) ? 1U : 0U);
         return;
     case Data::Kind::Integer:
-        data = Data::integer(reader.integer(element));
+        setNumber(static_cast<std::uint64_t>(reader.integer(element)));
         return;
     case Data::Kind::Unsigned:
-        data = Data::unsignedInteger(reader.unsignedInteger(element));
-        return;
     case Data::Kind::Bcd:
-        data = Data::bcd(reader.unsignedInteger(element));
+        setNumber(reader.unsignedInteger(element));
         return;
     case Data::Kind::FloatingPoint:
         if (content.size() == 5 && content[0] == floatExponentWidth) {
-            data = Data::number(kind, bigEndian(content.subspan(1)));
+            setNumber(bigEndian(content.subspan(1, 4)));
             data.m_width = 32;
         } else if (content.size() == 9 && content[0] == doubleExponentWidth) {
-            data = Data::number(kind, bigEndian(content.subspan(1)));
+            setNumber(bigEndian(content.subspan(1, 8)));
             data.m_width = 64;
         } else {
             refuse("A floating-point number has neither 32 nor 64 bits");
@@ -397,7 +401,8 @@ void DataCodec::readInto(Reader &reader, const Element &element, Data &data)
     case Data::Kind::UtcTime:
         if (content.size() != 8)
             return refuse("A UTC time has not 8 octets");
-        return copyOctets(kind);
+        std::memcpy(data.makeRoom(kind, 8), content.data(), 8);
+        return;
     case Data::Kind::ObjectIdentifier:
         (void)reader.objectIdentifier(element);
         if (!reader.failed())
@@ -642,7 +647,7 @@ std::string toText(const Data &data)
     case Data::Kind::ObjectIdentifier: {
         std::string result;
         for (const std::uint32_t number : data.toObjectIdentifier())
-            result += (result.empty() ? "" : ".") + std::to_string(number);
+            result.append(result.empty() ? "" : ".").append(std::to_string(number));
         return result;
     }
     }
