@@ -1,0 +1,30 @@
+# SPDX-License-Identifier: Apache-2.0
+# Debian packages, one for each component: `cpack` in the build folder.
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME iec61850ext)
+set(CPACK_PACKAGE_VENDOR "The IEC61850Ext developers")
+set(CPACK_PACKAGE_CONTACT "The IEC61850Ext developers <maintainers@example.org>")
+set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY ${PROJECT_DESCRIPTION})
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_COMPONENTS_ALL plugin sdk workbench)
+
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# Where the libraries of one package are found while the dependencies of another are looked up.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
+set(CPACK_DEBIAN_PLUGIN_PACKAGE_NAME iec61850ext)
+set(CPACK_DEBIAN_PLUGIN_PACKAGE_SECTION libs)
+set(CPACK_COMPONENT_PLUGIN_DESCRIPTION "IEC 61850 client tools for supervisory-control hosts: the plug-in and its shared libraries")
+set(CPACK_DEBIAN_SDK_PACKAGE_NAME iec61850ext-dev)
+set(CPACK_DEBIAN_SDK_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_SDK_PACKAGE_DEPENDS
+    "iec61850ext (= ${PROJECT_VERSION}), qtbase5-dev (>= 5.14)")
+set(CPACK_COMPONENT_SDK_DESCRIPTION "IEC 61850 client tools: headers and CMake package for hosts and drivers")
+set(CPACK_DEBIAN_WORKBENCH_PACKAGE_NAME iec61850ext-workbench)
+set(CPACK_DEBIAN_WORKBENCH_PACKAGE_SECTION science)
+set(CPACK_DEBIAN_WORKBENCH_PACKAGE_DEPENDS "iec61850ext (= ${PROJECT_VERSION})")
+set(CPACK_COMPONENT_WORKBENCH_DESCRIPTION "IEC 61850 workbench: browse the devices of SCL files")
+include(CPack)
