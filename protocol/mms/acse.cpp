@@ -473,7 +473,7 @@ Actions Association::receiveRequest(const AssociateRequest &unit)
     if (!diagnostic)
         return {AssociateIndication{unit.calling, pduOf(unit.userInformation)}};
     Actions actions = refuse(Result::RejectedPermanently, *diagnostic, {});
-    actions.push_back(Aborted{false, std::move(reason)});
+    actions.emplace_back(Aborted{false, std::move(reason)});
     return actions;
 }
 
@@ -486,8 +486,8 @@ Actions Association::receiveResponse(const AssociateResponse &unit, Service serv
     m_state = State::Closed;
     Actions actions;
     if (service == Service::Accept)
-        actions.push_back(Request{Service::UserAbort, encode(Abort())});
-    actions.push_back(
+        actions.emplace_back(Request{Service::UserAbort, encode(Abort())});
+    actions.emplace_back(
         Refused{refusalText(unit.result, unit.diagnostic), pduOf(unit.userInformation)});
     return actions;
 }
@@ -514,11 +514,11 @@ Actions Association::protocolError(const std::string &reason)
 {
     Actions actions;
     if (m_state != State::Idle)
-        actions.push_back(Request{Service::UserAbort, encode(Abort{true, 1})});
+        actions.emplace_back(Request{Service::UserAbort, encode(Abort{true, 1})});
     else
-        actions.push_back(Request{Service::ProviderAbort, {}});
+        actions.emplace_back(Request{Service::ProviderAbort, {}});
     m_state = State::Closed;
-    actions.push_back(Aborted{false, reason});
+    actions.emplace_back(Aborted{false, reason});
     return actions;
 }
 

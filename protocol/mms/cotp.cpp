@@ -353,7 +353,7 @@ Actions Connection::send(Bytes message)
         return actions;
     Send send;
     this->send(message, send.octets);
-    actions.push_back(std::move(send));
+    actions.emplace_back(std::move(send));
     return actions;
 }
 
@@ -430,7 +430,7 @@ void Connection::handleRequest(const ConnectRequest &request, Actions &actions)
     }
     sendUnit(confirm, actions);
     m_state = State::Open;
-    actions.push_back(Connected());
+    actions.emplace_back(Connected());
 }
 
 void Connection::handleConfirm(const ConnectConfirm &confirm, Actions &actions)
@@ -445,7 +445,7 @@ void Connection::handleConfirm(const ConnectConfirm &confirm, Actions &actions)
     const std::uint8_t exponent = confirm.sizeExponent.value_or(ownSizeExponent());
     m_unitSize = std::size_t{1} << std::min(exponent, ownSizeExponent());
     m_state = State::Open;
-    actions.push_back(Connected());
+    actions.emplace_back(Connected());
 }
 
 void Connection::handleData(const DataUnit &data, Actions &actions)
@@ -459,7 +459,7 @@ void Connection::handleData(const DataUnit &data, Actions &actions)
     m_message.insert(m_message.end(), data.data.begin(), data.data.end());
     if (!data.endOfMessage)
         return;
-    actions.push_back(Message{std::exchange(m_message, {})});
+    actions.emplace_back(Message{std::exchange(m_message, {})});
 }
 
 void Connection::protocolError(std::uint8_t cause, Bytes packet, const std::string &reason,
@@ -474,14 +474,14 @@ void Connection::protocolError(std::uint8_t cause, Bytes packet, const std::stri
 void Connection::close(std::string reason, Actions &actions)
 {
     m_state = State::Closed;
-    actions.push_back(Closed{std::move(reason)});
+    actions.emplace_back(Closed{std::move(reason)});
 }
 
 void Connection::sendUnit(const Unit &unit, Actions &actions)
 {
     Send send;
     appendTpkt(send.octets, encode(unit));
-    actions.push_back(std::move(send));
+    actions.emplace_back(std::move(send));
 }
 
 std::uint8_t Connection::ownSizeExponent() const

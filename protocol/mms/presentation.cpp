@@ -557,7 +557,7 @@ Actions Connection::indicate(Service service, const std::vector<DataValue> &valu
         const bool association = value.contextId == m_associationContext;
         if (!association && value.contextId != m_mmsContext)
             return fail("A presentation value belongs to a context that was not agreed.");
-        actions.push_back(Indication{service, association, value.value, {}});
+        actions.emplace_back(Indication{service, association, value.value, {}});
     }
     return actions;
 }

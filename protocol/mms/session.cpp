@@ -438,7 +438,7 @@ Actions Connection::disconnect(Octets userData)
         m_state = State::Closed;
     else if (m_state != State::Finishing || !std::exchange(m_finishCollision, false))
         return actions;
-    actions.push_back(Send{encode(Disconnect{std::move(userData)})});
+    actions.emplace_back(Send{encode(Disconnect{std::move(userData)})});
     return actions;
 }
 
@@ -552,9 +552,9 @@ Actions Connection::protocolError(const std::string &reason)
 {
     Actions actions;
     if (m_state != State::Idle)
-        actions.push_back(Send{encode(Abort{false, true, {}})});
+        actions.emplace_back(Send{encode(Abort{false, true, {}})});
     m_state = State::Closed;
-    actions.push_back(AbortIndication{false, reason, {}});
+    actions.emplace_back(AbortIndication{false, reason, {}});
     return actions;
 }
 

@@ -204,7 +204,7 @@ void Stack::run(const presentation::Actions &actions, StackOutput &output,
             if (ends)
                 end(AssociationLost{false, reason}, output);
         } else if (up.service == Service::Data && !m_closed) {
-            output.events.push_back(PduIndication{copyOf(up.value)});
+            output.events.emplace_back(PduIndication{copyOf(up.value)});
         }
     }
 }
@@ -241,16 +241,16 @@ void Stack::run(const acse::Actions &actions, StackOutput &output)
                     }
                 },
                 [&](const acse::AssociateIndication &up) {
-                    output.events.push_back(AssociateIndication{up.calling, copyOf(up.pdu)});
+                    output.events.emplace_back(AssociateIndication{up.calling, copyOf(up.pdu)});
                 },
                 [&](const acse::AssociateConfirm &up) {
-                    output.events.push_back(AssociateConfirm{up.responding, copyOf(up.pdu)});
+                    output.events.emplace_back(AssociateConfirm{up.responding, copyOf(up.pdu)});
                 },
                 [&](const acse::Refused &up) {
                     end(AssociateRefused{up.reason, copyOf(up.pdu)}, output);
                 },
                 [&](const acse::ReleaseIndication &) {
-                    output.events.push_back(ReleaseIndication());
+                    output.events.emplace_back(ReleaseIndication());
                 },
                 [&](const acse::ReleaseConfirm &) { end(ReleaseConfirm(), output); },
                 [&](const acse::Aborted &up) {
@@ -295,7 +295,7 @@ void Stack::end(StackEvent event, StackOutput &output)
     if (m_closed)
         return;
     m_closed = output.closeNetwork = true;
-    output.events.push_back(std::move(event));
+    output.events.emplace_back(std::move(event));
 }
 
 } // namespace mms
