@@ -25,6 +25,7 @@ private slots:
 
     void windowPluginAndStandardButtonsSpeakTheLanguage();
     void noMnemonicStandsForTwoEntries();
+    void theWindowWithoutDevicesHasRoomForItsTexts();
     void theTourShowsEveryWindowWithoutClippedTexts();
     void everyPictureShowsSomething();
 
@@ -91,6 +92,15 @@ void tst_TourLanguages::noMnemonicStandsForTwoEntries()
     const QStringList places = taken.uniqueKeys();
     for (const QString &place : places)
         QVERIFY2(taken.count(place) == 1, qPrintable(taken.values(place).join(" / ")));
+}
+
+void tst_TourLanguages::theWindowWithoutDevicesHasRoomForItsTexts()
+{
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QVERIFY(m_window->findChild<QPushButton *>("emptyOpen")->isVisible());
+    const QStringList flaws = flawsOf(*m_window);
+    QVERIFY2(flaws.isEmpty(), qPrintable(flaws.join('\n')));
 }
 
 void tst_TourLanguages::theTourShowsEveryWindowWithoutClippedTexts()
