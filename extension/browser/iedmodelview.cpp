@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "iedmodelview.h"
 
+#include "nodeexplanations.h"
 #include "nodereferences.h"
 #include "treefinder.h"
 #include "treeviewstate.h"
@@ -9,6 +10,7 @@
 #include "control/controlco.h"
 #include "dataset/datasetselectwidget.h"
 #include "listener/mmslistener.h"
+#include "model/explanationtips.h"
 #include "model/iedmodel.h"
 #include "model/iedmodeldelegate.h"
 #include "model/streportcontrolblock.h"
@@ -88,6 +90,10 @@ IEDModelView::IEDModelView(int driverNo, int deviceNo, int /*taskParameter*/,
     m_delegate = new IEDModelDelegate(&m_templates, this);
     view->setItemDelegate(m_delegate);
     view->setColumnWidth(valueColumn, valueColumnWidth);
+
+    new ExplanationTips(view, [this](const QModelIndex &index) {
+        return nodeExplanation(IEDModel::nodeAt(index), m_explanations);
+    });
 
     auto *finder = new TreeFinder(view, this);
     m_form->horizontalLayout->insertWidget(0, finder);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/attributenodes.h"
+#include "model/sclexplanations.h"
 #include "model/scltemplatestore.h"
 
 #include <devicemodel/mmsvalue.h>
@@ -98,6 +99,7 @@ private:
 
     std::unique_ptr<Ui::IEDModelView> m_form;
     const SclTemplateStore m_templates;
+    const SclExplanations m_explanations;
     IEDModel *m_model;
     HostTaskContext *m_hostContext;
     IEC61850ControllerInterface m_controller;

@@ -3,11 +3,16 @@
 
 #include "ui_datasetselectwidget.h"
 
+#include "model/explanationtips.h"
+
 #include <devicemodel/physicaldevice.h>
 
 #include <QtWidgets/QMessageBox>
 
 namespace {
+
+constexpr int typeRole = Qt::UserRole;
+constexpr int enumerationRole = Qt::UserRole + 1;
 
 const QStringList offeredConstraints = {QStringLiteral("ST"), QStringLiteral("MX")};
 
@@ -34,8 +39,16 @@ void addAttributes(QTreeWidgetItem *parent, const QList<DAO *> &attributes,
                    const QString &constraint)
 {
     for (const DAO *attribute : attributes) {
-        if (attribute->possibleFC().contains(constraint))
-            addAttributes(addCheckItem(parent, attribute->name()), attribute->children, constraint);
+        if (!attribute->possibleFC().contains(constraint))
+            continue;
+        QTreeWidgetItem *const item = addCheckItem(parent, attribute->name());
+        if (attribute->attribute) {
+            item->setData(0, typeRole, attribute->attribute->basicType);
+            item->setData(0, enumerationRole, attribute->attribute->enumTypeId);
+        } else if (attribute->subDataObject) {
+            item->setData(0, typeRole, attribute->subDataObject->type);
+        }
+        addAttributes(item, attribute->children, constraint);
     }
 }
 
@@ -50,10 +63,42 @@ void addDataObjects(QTreeWidgetItem *nodeItem, const LogicalNode &logicalNode)
             QTreeWidgetItem *&constraintItem = constraintItems[constraint];
             if (!constraintItem)
                 constraintItem = addPlainItem(nodeItem, constraint);
-            addAttributes(addCheckItem(constraintItem, dataObject->name), dataObject->attributes,
-                          constraint);
+            QTreeWidgetItem *const item = addCheckItem(constraintItem, dataObject->name);
+            item->setData(0, typeRole, dataObject->type);
+            addAttributes(item, dataObject->attributes, constraint);
         }
     }
+}
+
+QString typeOf(const QModelIndex &item)
+{
+    return item.data(typeRole).toString();
+}
+
+/// The tip of an item; the tree's levels are logical device, logical node, functional constraint,
+/// data object and then attributes.
+QString explanation(const QModelIndex &item, const SclExplanations &explanations,
+                    const QMap<QString, EnumType> &enumerations)
+{
+    QVector<QModelIndex> line; // from the logical device to the item
+    for (QModelIndex level = item.sibling(item.row(), 0); level.isValid(); level = level.parent())
+        line.prepend(level);
+    if (line.size() == 2)
+        return logicalNodeTip(explanations, typeOf(line.at(1)));
+    if (line.size() < 4)
+        return {};
+    const DataObjectPlace dataObject = {typeOf(line.at(1)), line.at(3).data().toString(),
+                                        typeOf(line.at(3))};
+    if (line.size() == 4)
+        return dataObjectTip(explanations, dataObject);
+    AttributePlace place{dataObject,
+                         {},
+                         typeOf(item),
+                         line.at(2).data().toString(),
+                         item.data(enumerationRole).toString()};
+    for (int level = 4; level < line.size(); ++level)
+        place.path << line.at(level).data().toString();
+    return attributeTip(explanations, place, enumerations);
 }
 
 void setAllBelow(QTreeWidgetItem *item, Qt::CheckState state)
@@ -101,6 +146,9 @@ DatasetSelectWidget::DatasetSelectWidget(QWidget *parent)
     m_form->setupUi(this);
     connect(m_form->buttonBox, &QDialogButtonBox::accepted, this, &DatasetSelectWidget::slotAccept);
     connect(m_form->buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    new ExplanationTips(m_form->treeWidget, [this](const QModelIndex &item) {
+        return explanation(item, m_explanations, m_enumerations);
+    });
     connectItemChange();
 }
 
@@ -111,10 +159,14 @@ void DatasetSelectWidget::setDevice(const PhysicalDevice *device)
     QList<QTreeWidgetItem *> logicalDevices;
     for (const LogicalDevice *logicalDevice : device->logicalDevices) {
         QTreeWidgetItem *deviceItem = addPlainItem(nullptr, logicalDevice->name);
-        for (const LogicalNode *logicalNode : logicalDevice->logicalNodes)
-            addDataObjects(addPlainItem(deviceItem, logicalNode->name), *logicalNode);
+        for (const LogicalNode *logicalNode : logicalDevice->logicalNodes) {
+            QTreeWidgetItem *const nodeItem = addPlainItem(deviceItem, logicalNode->name);
+            nodeItem->setData(0, typeRole, logicalNode->lnClass);
+            addDataObjects(nodeItem, *logicalNode);
+        }
         logicalDevices << deviceItem;
     }
+    m_enumerations = device->enumTypes;
     m_form->treeWidget->addTopLevelItems(logicalDevices);
     for (QTreeWidgetItem *item : qAsConst(logicalDevices))
         item->setExpanded(true);

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "model/sclexplanations.h"
+
+#include <devicemodel/enumtype.h>
+
+#include <QtCore/QMap>
 #include <QtCore/QStringList>
 #include <QtWidgets/QDialog>
 
@@ -43,4 +48,6 @@ private:
     void disconnectItemChange();
 
     std::unique_ptr<Ui::DatasetSelectWidget> m_form;
+    const SclExplanations m_explanations;
+    QMap<QString, EnumType> m_enumerations; ///< the device's
 };

@@ -4,6 +4,7 @@
 #include "support/modaldriver.h"
 
 #include <QtCore/QTranslator>
+#include <QtGui/QHelpEvent>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <QtWidgets/QDialogButtonBox>
@@ -11,6 +12,7 @@
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QToolTip>
 #include <QtWidgets/QTreeWidget>
 
 #include <memory>
@@ -128,6 +130,9 @@ private slots:
     void enterInTheNameIsOk();
     void tabFollowsReadingOrder();
     void nameAndTreeHaveAccessibleNames();
+
+    void itemsAreExplained_data();
+    void itemsAreExplained();
 
 private:
     enum class Way { Mouse, Keyboard };
@@ -569,6 +574,49 @@ void tst_DatasetSelectWidget::nameAndTreeHaveAccessibleNames()
     openBay();
     QVERIFY(!nameEdit()->accessibleName().isEmpty());
     QVERIFY(!tree()->accessibleName().isEmpty());
+}
+
+void tst_DatasetSelectWidget::itemsAreExplained_data()
+{
+    QTest::addColumn<QStringList>("path");
+    QTest::addColumn<QStringList>("expected");
+    const QStringList breaker = {"BAYCTRL", "XCBR1"};
+    const QStringList position = breaker + QStringList{"ST", "Pos"};
+    QTest::newRow("logical device") << QStringList(breaker.mid(0, 1)) << QStringList();
+    QTest::newRow("logical node") << breaker << QStringList{"<b>XCBR</b>", "breaker"};
+    QTest::newRow("functional constraint") << QStringList(position.mid(0, 3)) << QStringList();
+    QTest::newRow("data object") << position << QStringList{"<b>Pos</b>", "Data type: DPC"};
+    QTest::newRow("attribute") << QStringList(position + QStringList{"stVal"})
+                               << QStringList{"<b>stVal</b>", "Data type: Dbpos",
+                                              "Functional constraint: ST", "2 = on"};
+    QTest::newRow("structure in a sub data object")
+        << QStringList{"BAYMEAS", "MMXU1", "MX", "A", "phsB", "cVal"}
+        << QStringList{"<b>cVal</b>", "Data type: Vector"};
+}
+
+void tst_DatasetSelectWidget::itemsAreExplained()
+{
+    QFETCH(QStringList, path);
+    QFETCH(QStringList, expected);
+    open(makeBay());
+    tree()->expandAll();
+    QModelIndex index;
+    for (const QString &name : qAsConst(path)) {
+        const QModelIndexList found = tree()->model()->match(
+            tree()->model()->index(0, 0, index), Qt::DisplayRole, name, 1, Qt::MatchExactly);
+        QCOMPARE(found.size(), 1);
+        index = found.constFirst();
+    }
+    tree()->scrollTo(index);
+    const QPoint position = tree()->visualRect(index).center();
+    QToolTip::hideText();
+    QTRY_VERIFY(!QToolTip::isVisible());
+    QHelpEvent event(QEvent::ToolTip, position, tree()->viewport()->mapToGlobal(position));
+    QCoreApplication::sendEvent(tree()->viewport(), &event);
+    QCOMPARE(QToolTip::isVisible(), !expected.isEmpty());
+    for (const QString &part : qAsConst(expected))
+        QVERIFY2(QToolTip::text().contains(part), qPrintable(QToolTip::text()));
+    QToolTip::hideText();
 }
 
 QTEST_MAIN(tst_DatasetSelectWidget)
