@@ -270,7 +270,7 @@ TEST(Ber, NestingIsLimited)
     EXPECT_EQ(errorOf(indefinite), "The elements are nested too deeply");
     definite.erase(definite.begin(), definite.begin() + 2);
     indefinite.erase(indefinite.begin(), indefinite.begin() + 2);
-    indefinite.resize(indefinite.size() - 2);
+    indefinite.erase(indefinite.end() - 2, indefinite.end());
     EXPECT_EQ(errorOf(definite), "");
     EXPECT_EQ(errorOf(indefinite), "");
 }
