@@ -96,6 +96,49 @@
     </message>
 </context>
 <context>
+    <name>ExplanationTips</name>
+    <message>
+        <source>Data type:</source>
+        <translation>Datentyp:</translation>
+    </message>
+    <message>
+        <source>Enumeration:</source>
+        <translation>Aufzählung:</translation>
+    </message>
+    <message>
+        <source>Functional constraint:</source>
+        <translation>Functional Constraint:</translation>
+    </message>
+    <message>
+        <source>Presence:</source>
+        <translation>Vorhandensein:</translation>
+    </message>
+    <message>
+        <source>Transient:</source>
+        <translation>Transient:</translation>
+    </message>
+    <message>
+        <source>Values:</source>
+        <translation>Werte:</translation>
+    </message>
+    <message>
+        <source>conditional (%1)</source>
+        <translation>bedingt (%1)</translation>
+    </message>
+    <message>
+        <source>mandatory</source>
+        <translation>obligatorisch</translation>
+    </message>
+    <message>
+        <source>optional</source>
+        <translation>optional</translation>
+    </message>
+    <message>
+        <source>true only for a moment</source>
+        <translation>nur für einen Augenblick wahr</translation>
+    </message>
+</context>
+<context>
     <name>FileModel</name>
     <message>
         <source>Name</source>

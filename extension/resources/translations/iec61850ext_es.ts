@@ -96,6 +96,49 @@
     </message>
 </context>
 <context>
+    <name>ExplanationTips</name>
+    <message>
+        <source>Data type:</source>
+        <translation>Tipo de datos:</translation>
+    </message>
+    <message>
+        <source>Enumeration:</source>
+        <translation>Enumeración:</translation>
+    </message>
+    <message>
+        <source>Functional constraint:</source>
+        <translation>Restricción funcional:</translation>
+    </message>
+    <message>
+        <source>Presence:</source>
+        <translation>Presencia:</translation>
+    </message>
+    <message>
+        <source>Transient:</source>
+        <translation>Transitorio:</translation>
+    </message>
+    <message>
+        <source>Values:</source>
+        <translation>Valores:</translation>
+    </message>
+    <message>
+        <source>conditional (%1)</source>
+        <translation>condicional (%1)</translation>
+    </message>
+    <message>
+        <source>mandatory</source>
+        <translation>obligatorio</translation>
+    </message>
+    <message>
+        <source>optional</source>
+        <translation>opcional</translation>
+    </message>
+    <message>
+        <source>true only for a moment</source>
+        <translation>verdadero solo por un instante</translation>
+    </message>
+</context>
+<context>
     <name>FileModel</name>
     <message>
         <source>Name</source>

@@ -96,6 +96,49 @@
     </message>
 </context>
 <context>
+    <name>ExplanationTips</name>
+    <message>
+        <source>Data type:</source>
+        <translation>Type de données :</translation>
+    </message>
+    <message>
+        <source>Enumeration:</source>
+        <translation>Énumération :</translation>
+    </message>
+    <message>
+        <source>Functional constraint:</source>
+        <translation>Contrainte fonctionnelle :</translation>
+    </message>
+    <message>
+        <source>Presence:</source>
+        <translation>Présence :</translation>
+    </message>
+    <message>
+        <source>Transient:</source>
+        <translation>Transitoire :</translation>
+    </message>
+    <message>
+        <source>Values:</source>
+        <translation>Valeurs :</translation>
+    </message>
+    <message>
+        <source>conditional (%1)</source>
+        <translation>conditionnel (%1)</translation>
+    </message>
+    <message>
+        <source>mandatory</source>
+        <translation>obligatoire</translation>
+    </message>
+    <message>
+        <source>optional</source>
+        <translation>facultatif</translation>
+    </message>
+    <message>
+        <source>true only for a moment</source>
+        <translation>vrai seulement un instant</translation>
+    </message>
+</context>
+<context>
     <name>FileModel</name>
     <message>
         <source>Name</source>

@@ -96,6 +96,49 @@
     </message>
 </context>
 <context>
+    <name>ExplanationTips</name>
+    <message>
+        <source>Data type:</source>
+        <translation>Tipo de dados:</translation>
+    </message>
+    <message>
+        <source>Enumeration:</source>
+        <translation>Enumeração:</translation>
+    </message>
+    <message>
+        <source>Functional constraint:</source>
+        <translation>Restrição funcional:</translation>
+    </message>
+    <message>
+        <source>Presence:</source>
+        <translation>Presença:</translation>
+    </message>
+    <message>
+        <source>Transient:</source>
+        <translation>Transitório:</translation>
+    </message>
+    <message>
+        <source>Values:</source>
+        <translation>Valores:</translation>
+    </message>
+    <message>
+        <source>conditional (%1)</source>
+        <translation>condicional (%1)</translation>
+    </message>
+    <message>
+        <source>mandatory</source>
+        <translation>obrigatório</translation>
+    </message>
+    <message>
+        <source>optional</source>
+        <translation>opcional</translation>
+    </message>
+    <message>
+        <source>true only for a moment</source>
+        <translation>verdadeiro apenas por um instante</translation>
+    </message>
+</context>
+<context>
     <name>FileModel</name>
     <message>
         <source>Name</source>

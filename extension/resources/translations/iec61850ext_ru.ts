@@ -96,6 +96,49 @@
     </message>
 </context>
 <context>
+    <name>ExplanationTips</name>
+    <message>
+        <source>Data type:</source>
+        <translation>Тип данных:</translation>
+    </message>
+    <message>
+        <source>Enumeration:</source>
+        <translation>Перечисление:</translation>
+    </message>
+    <message>
+        <source>Functional constraint:</source>
+        <translation>Функциональная связь:</translation>
+    </message>
+    <message>
+        <source>Presence:</source>
+        <translation>Наличие:</translation>
+    </message>
+    <message>
+        <source>Transient:</source>
+        <translation>Кратковременный:</translation>
+    </message>
+    <message>
+        <source>Values:</source>
+        <translation>Значения:</translation>
+    </message>
+    <message>
+        <source>conditional (%1)</source>
+        <translation>условно (%1)</translation>
+    </message>
+    <message>
+        <source>mandatory</source>
+        <translation>обязательно</translation>
+    </message>
+    <message>
+        <source>optional</source>
+        <translation>необязательно</translation>
+    </message>
+    <message>
+        <source>true only for a moment</source>
+        <translation>истина лишь на мгновение</translation>
+    </message>
+</context>
+<context>
     <name>FileModel</name>
     <message>
         <source>Name</source>

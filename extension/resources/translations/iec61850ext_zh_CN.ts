@@ -96,6 +96,49 @@
     </message>
 </context>
 <context>
+    <name>ExplanationTips</name>
+    <message>
+        <source>Data type:</source>
+        <translation>数据类型：</translation>
+    </message>
+    <message>
+        <source>Enumeration:</source>
+        <translation>枚举：</translation>
+    </message>
+    <message>
+        <source>Functional constraint:</source>
+        <translation>功能约束：</translation>
+    </message>
+    <message>
+        <source>Presence:</source>
+        <translation>存在条件：</translation>
+    </message>
+    <message>
+        <source>Transient:</source>
+        <translation>瞬态：</translation>
+    </message>
+    <message>
+        <source>Values:</source>
+        <translation>取值：</translation>
+    </message>
+    <message>
+        <source>conditional (%1)</source>
+        <translation>条件 (%1)</translation>
+    </message>
+    <message>
+        <source>mandatory</source>
+        <translation>必选</translation>
+    </message>
+    <message>
+        <source>optional</source>
+        <translation>可选</translation>
+    </message>
+    <message>
+        <source>true only for a moment</source>
+        <translation>仅瞬间为真</translation>
+    </message>
+</context>
+<context>
     <name>FileModel</name>
     <message>
         <source>Name</source>
