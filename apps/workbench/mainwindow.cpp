@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mainwindow.h"
 
+#include "guideviewer.h"
 #include "iedchooser.h"
 #include "ui_mainwindow.h"
 #include "workbench.h"
@@ -167,6 +168,7 @@ void MainWindow::setUpActions()
     connect(m_ui->actionRemove, &QAction::triggered, this, &MainWindow::removeSelected);
     connect(m_ui->actionClearJournal, &QAction::triggered, this,
             [this] { m_workbench.journal().clear(); });
+    connect(m_ui->actionGuide, &QAction::triggered, this, &MainWindow::showGuide);
     connect(m_ui->actionAbout, &QAction::triggered, this, &MainWindow::showAbout);
     connect(m_ui->extensionRetry, &QPushButton::clicked, this, &MainWindow::loadExtension);
 
@@ -400,6 +402,17 @@ void MainWindow::removeSelected()
         tr("%1 was taken off the list; its file stays where it is.").arg(device->record.ied);
     m_workbench.remove(device->record.number);
     statusBar()->showMessage(message, messageTime);
+}
+
+void MainWindow::showGuide()
+{
+    if (!m_guide) {
+        m_guide = new GuideViewer(this);
+        m_guide->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    m_guide->show();
+    m_guide->raise();
+    m_guide->activateWindow();
 }
 
 void MainWindow::showAbout()

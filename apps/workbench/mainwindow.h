@@ -7,6 +7,7 @@
 
 #include <host/hosttaskcontext.h>
 
+#include <QtCore/QPointer>
 #include <QtCore/QStringList>
 #include <QtWidgets/QMainWindow>
 
@@ -15,6 +16,7 @@
 namespace Ui {
 class MainWindow;
 }
+class GuideViewer;
 class QLabel;
 class QProgressBar;
 class QSortFilterProxyModel;
@@ -62,6 +64,7 @@ private:
     void askForIeds(const QString &file, const QVector<IedSummary> &ieds);
     void showNextQuestion();
     void showFailures(const QStringList &sentences);
+    void showGuide();
     void showAbout();
     void removeSelected();
 
@@ -73,6 +76,7 @@ private:
     QList<QAction *> m_extensionActions;
     FindingsModel *m_findings;
     QSortFilterProxyModel *m_sortedFindings;
+    QPointer<GuideViewer> m_guide;
     QLabel *m_progressText = nullptr;
     QProgressBar *m_progress = nullptr;
     QToolButton *m_cancel = nullptr;

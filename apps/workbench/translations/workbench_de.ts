@@ -236,6 +236,21 @@
     </message>
 </context>
 <context>
+    <name>GuideViewer</name>
+    <message>
+        <source>Operator Guide</source>
+        <translation>Bedienungsanleitung</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Find in the guide</source>
+        <translation>In der Anleitung suchen</translation>
+    </message>
+</context>
+<context>
     <name>IedChooser</name>
     <message>
         <source>Choose the IED</source>
@@ -406,6 +421,10 @@
     <message>
         <source>&amp;Clear Journal</source>
         <translation>&amp;Journal leeren</translation>
+    </message>
+    <message>
+        <source>&amp;Operator Guide</source>
+        <translation>&amp;Bedienungsanleitung</translation>
     </message>
     <message>
         <source>&amp;About</source>

@@ -236,6 +236,21 @@
     </message>
 </context>
 <context>
+    <name>GuideViewer</name>
+    <message>
+        <source>Operator Guide</source>
+        <translation>Guía del operador</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Find in the guide</source>
+        <translation>Buscar en la guía</translation>
+    </message>
+</context>
+<context>
     <name>IedChooser</name>
     <message>
         <source>Choose the IED</source>
@@ -406,6 +421,10 @@
     <message>
         <source>&amp;Clear Journal</source>
         <translation>&amp;Vaciar el registro</translation>
+    </message>
+    <message>
+        <source>&amp;Operator Guide</source>
+        <translation>&amp;Guía del operador</translation>
     </message>
     <message>
         <source>&amp;About</source>

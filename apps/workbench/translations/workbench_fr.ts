@@ -236,6 +236,21 @@
     </message>
 </context>
 <context>
+    <name>GuideViewer</name>
+    <message>
+        <source>Operator Guide</source>
+        <translation>Guide de l’opérateur</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Find in the guide</source>
+        <translation>Rechercher dans le guide</translation>
+    </message>
+</context>
+<context>
     <name>IedChooser</name>
     <message>
         <source>Choose the IED</source>
@@ -406,6 +421,10 @@
     <message>
         <source>&amp;Clear Journal</source>
         <translation>&amp;Vider le journal</translation>
+    </message>
+    <message>
+        <source>&amp;Operator Guide</source>
+        <translation>&amp;Guide de l’opérateur</translation>
     </message>
     <message>
         <source>&amp;About</source>

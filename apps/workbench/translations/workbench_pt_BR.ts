@@ -236,6 +236,21 @@
     </message>
 </context>
 <context>
+    <name>GuideViewer</name>
+    <message>
+        <source>Operator Guide</source>
+        <translation>Guia do operador</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Voltar</translation>
+    </message>
+    <message>
+        <source>Find in the guide</source>
+        <translation>Localizar no guia</translation>
+    </message>
+</context>
+<context>
     <name>IedChooser</name>
     <message>
         <source>Choose the IED</source>
@@ -406,6 +421,10 @@
     <message>
         <source>&amp;Clear Journal</source>
         <translation>&amp;Limpar o registro</translation>
+    </message>
+    <message>
+        <source>&amp;Operator Guide</source>
+        <translation>&amp;Guia do operador</translation>
     </message>
     <message>
         <source>&amp;About</source>

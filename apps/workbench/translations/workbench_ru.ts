@@ -236,6 +236,21 @@
     </message>
 </context>
 <context>
+    <name>GuideViewer</name>
+    <message>
+        <source>Operator Guide</source>
+        <translation>Руководство оператора</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>Find in the guide</source>
+        <translation>Найти в руководстве</translation>
+    </message>
+</context>
+<context>
     <name>IedChooser</name>
     <message>
         <source>Choose the IED</source>
@@ -406,6 +421,10 @@
     <message>
         <source>&amp;Clear Journal</source>
         <translation>О&amp;чистить журнал</translation>
+    </message>
+    <message>
+        <source>&amp;Operator Guide</source>
+        <translation>&amp;Руководство оператора</translation>
     </message>
     <message>
         <source>&amp;About</source>

@@ -236,6 +236,21 @@
     </message>
 </context>
 <context>
+    <name>GuideViewer</name>
+    <message>
+        <source>Operator Guide</source>
+        <translation>操作指南</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>后退</translation>
+    </message>
+    <message>
+        <source>Find in the guide</source>
+        <translation>在指南中查找</translation>
+    </message>
+</context>
+<context>
     <name>IedChooser</name>
     <message>
         <source>Choose the IED</source>
@@ -406,6 +421,10 @@
     <message>
         <source>&amp;Clear Journal</source>
         <translation>清空日志(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Operator Guide</source>
+        <translation>操作指南(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;About</source>
