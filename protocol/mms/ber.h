@@ -109,7 +109,7 @@ struct Limits
     /// Constructed elements inside each other.
     std::size_t depth = 32;
     /// Octets of the whole input.
-    std::size_t length = 16U * 1024U * 1024U;
+    std::size_t length = std::size_t{16} * 1024 * 1024;
     /// Elements that lists of unknown length may bring, all lists of one input together.
     std::size_t count = 1000000;
 };
