@@ -76,7 +76,8 @@ struct AssociationCounters
 /// any thread; every handler is called in the association's strand, one at a time.
 ///
 /// Each call ends by exactly one call of its handler: with the answer, or at the latest at its
-/// deadline, whatever the peer does. After Handlers::closed nothing is called any more.
+/// deadline, whatever the peer does. After Handlers::closed nothing is called any more. The
+/// execution context outlives the association.
 class Association : public std::enable_shared_from_this<Association>
 {
     struct Private

@@ -140,11 +140,11 @@ protected:
         return none ? none->kind : CallFailure::Kind::NotOpen;
     }
 
+    Loop m_loop;
     std::shared_ptr<TestDevice> m_device = std::make_shared<TestDevice>();
     std::shared_ptr<Server> m_server;
     std::shared_ptr<Association> m_client;
     Awaited<std::string> m_clientEnd;
-    Loop m_loop;
 };
 
 } // namespace
