@@ -138,8 +138,8 @@ std::optional<Error> readParameters(Bytes octets, bool nested, Parameters &into)
             break;
         }
         if (!valid) {
-            return Error{"The session parameter " + std::to_string(field->code)
-                             + " has a wrong length.",
+            return Error{"The session parameter " + std::to_string(field->code) +
+                             " has a wrong length.",
                          at};
         }
         at = field->next;
@@ -194,7 +194,9 @@ void putUserData(Octets &out, Bytes userData)
 
 Octets unitOf(std::uint8_t code, Bytes parameters)
 {
+    constexpr std::size_t longestHeader = 4;
     Octets out;
+    out.reserve(longestHeader + parameters.size());
     putHeader(out, code, parameters.size());
     out.insert(out.end(), parameters.begin(), parameters.end());
     return out;
@@ -267,7 +269,10 @@ struct Encoder
     }
 
     Octets operator()(const Disconnect &unit) const { return plain(codeDisconnect, unit.userData); }
-    Octets operator()(const NotFinished &unit) const { return plain(codeNotFinished, unit.userData); }
+    Octets operator()(const NotFinished &unit) const
+    {
+        return plain(codeNotFinished, unit.userData);
+    }
 
     Octets operator()(const Abort &unit) const
     {
@@ -560,8 +565,8 @@ Actions Connection::protocolError(const std::string &reason)
 
 Actions Connection::misplaced(const char *unit)
 {
-    return protocolError(std::string("The peer sent the session unit \"") + unit
-                         + "\", which does not belong here.");
+    return protocolError(std::string("The peer sent the session unit \"") + unit +
+                         "\", which does not belong here.");
 }
 
 } // namespace mms::session

@@ -36,6 +36,22 @@ Stack::Stack(Role role, StackOptions options)
 {
 }
 
+// Events are built in their place: GCC 12 loses track of a variant that is moved.
+template <typename Event>
+void Stack::tell(Event event, StackOutput &output)
+{
+    output.events.emplace_back(std::in_place_type<Event>, std::move(event));
+}
+
+template <typename Event>
+void Stack::end(Event event, StackOutput &output)
+{
+    if (m_closed)
+        return;
+    m_closed = output.closeNetwork = true;
+    tell(std::move(event), output);
+}
+
 bool Stack::isOpen() const
 {
     return !m_closed && m_association.state() == acse::Association::State::Open;
@@ -129,24 +145,23 @@ StackOutput Stack::networkClosed(const std::string &reason)
 void Stack::run(const cotp::Actions &actions, StackOutput &output)
 {
     for (const cotp::Action &action : actions) {
-        std::visit(
-            Overloaded{
-                [&](const cotp::Send &send) {
-                    output.octets.insert(output.octets.end(), send.octets.begin(),
-                                         send.octets.end());
-                },
-                [&](const cotp::Connected &) {
-                    if (!m_firstPdu.empty())
-                        run(m_association.associate(std::exchange(m_firstPdu, {})), output);
-                },
-                [&](const cotp::Message &message) {
-                    if (!m_closed)
-                        run(m_session.receive(message.octets), output);
-                },
-                [&](const cotp::Closed &closed) {
-                    end(AssociationLost{false, closed.reason}, output);
-                }},
-            action);
+        std::visit(Overloaded{[&](const cotp::Send &send) {
+                                  output.octets.insert(output.octets.end(), send.octets.begin(),
+                                                       send.octets.end());
+                              },
+                              [&](const cotp::Connected &) {
+                                  if (!m_firstPdu.empty())
+                                      run(m_association.associate(std::exchange(m_firstPdu, {})),
+                                          output);
+                              },
+                              [&](const cotp::Message &message) {
+                                  if (!m_closed)
+                                      run(m_session.receive(message.octets), output);
+                              },
+                              [&](const cotp::Closed &closed) {
+                                  end(AssociationLost{false, closed.reason}, output);
+                              }},
+                   action);
     }
 }
 
@@ -176,9 +191,9 @@ void Stack::run(const session::Actions &actions, StackOutput &output)
                     run(m_presentation.receive(Service::Disconnect, finish.userData), output);
                 },
                 [&](const session::AbortIndication &abort) {
-                    run(m_presentation.receive(
-                            abort.byUser ? Service::UserAbort : Service::ProviderAbort,
-                            abort.userData),
+                    run(m_presentation.receive(abort.byUser ? Service::UserAbort
+                                                            : Service::ProviderAbort,
+                                               abort.userData),
                         output, abort.reason);
                     end(AssociationLost{abort.byUser, abort.reason}, output);
                 }},
@@ -195,16 +210,16 @@ void Stack::run(const presentation::Actions &actions, StackOutput &output,
             continue;
         }
         const auto &up = std::get<presentation::Indication>(action);
-        const bool ends = up.service == Service::UserAbort || up.service == Service::ProviderAbort
-            || up.service == Service::Refuse;
+        const bool ends = up.service == Service::UserAbort ||
+                          up.service == Service::ProviderAbort || up.service == Service::Refuse;
         if (up.association || ends) {
-            const std::string &reason = up.reason.empty() && !up.association ? sessionReason
-                                                                             : up.reason;
+            const std::string &reason =
+                up.reason.empty() && !up.association ? sessionReason : up.reason;
             run(m_association.receive(up.service, up.value, reason), output);
             if (ends)
                 end(AssociationLost{false, reason}, output);
         } else if (up.service == Service::Data && !m_closed) {
-            output.events.emplace_back(PduIndication{copyOf(up.value)});
+            tell(PduIndication{copyOf(up.value)}, output);
         }
     }
 }
@@ -213,49 +228,46 @@ void Stack::run(const acse::Actions &actions, StackOutput &output)
 {
     for (const acse::Action &action : actions) {
         std::visit(
-            Overloaded{
-                [&](const acse::Request &down) {
-                    switch (down.service) {
-                    case Service::Connect:
-                        run(m_presentation.connect(down.unit), output);
-                        break;
-                    case Service::Accept:
-                        run(m_presentation.accept(down.unit), output);
-                        break;
-                    case Service::Refuse:
-                        run(m_presentation.refuse(down.unit), output);
-                        break;
-                    case Service::Finish:
-                        run(m_presentation.finish(down.unit), output);
-                        break;
-                    case Service::Disconnect:
-                        run(m_presentation.disconnect(down.unit), output);
-                        break;
-                    case Service::UserAbort:
-                        run(m_presentation.abort(down.unit), output);
-                        break;
-                    case Service::Data:
-                    case Service::ProviderAbort:
-                        run(m_presentation.abortByProvider(), output);
-                        break;
-                    }
-                },
-                [&](const acse::AssociateIndication &up) {
-                    output.events.emplace_back(AssociateIndication{up.calling, copyOf(up.pdu)});
-                },
-                [&](const acse::AssociateConfirm &up) {
-                    output.events.emplace_back(AssociateConfirm{up.responding, copyOf(up.pdu)});
-                },
-                [&](const acse::Refused &up) {
-                    end(AssociateRefused{up.reason, copyOf(up.pdu)}, output);
-                },
-                [&](const acse::ReleaseIndication &) {
-                    output.events.emplace_back(ReleaseIndication());
-                },
-                [&](const acse::ReleaseConfirm &) { end(ReleaseConfirm(), output); },
-                [&](const acse::Aborted &up) {
-                    end(AssociationLost{up.byUser, up.reason}, output);
-                }},
+            Overloaded{[&](const acse::Request &down) {
+                           switch (down.service) {
+                           case Service::Connect:
+                               run(m_presentation.connect(down.unit), output);
+                               break;
+                           case Service::Accept:
+                               run(m_presentation.accept(down.unit), output);
+                               break;
+                           case Service::Refuse:
+                               run(m_presentation.refuse(down.unit), output);
+                               break;
+                           case Service::Finish:
+                               run(m_presentation.finish(down.unit), output);
+                               break;
+                           case Service::Disconnect:
+                               run(m_presentation.disconnect(down.unit), output);
+                               break;
+                           case Service::UserAbort:
+                               run(m_presentation.abort(down.unit), output);
+                               break;
+                           case Service::Data:
+                           case Service::ProviderAbort:
+                               run(m_presentation.abortByProvider(), output);
+                               break;
+                           }
+                       },
+                       [&](const acse::AssociateIndication &up) {
+                           tell(AssociateIndication{up.calling, copyOf(up.pdu)}, output);
+                       },
+                       [&](const acse::AssociateConfirm &up) {
+                           tell(AssociateConfirm{up.responding, copyOf(up.pdu)}, output);
+                       },
+                       [&](const acse::Refused &up) {
+                           end(AssociateRefused{up.reason, copyOf(up.pdu)}, output);
+                       },
+                       [&](const acse::ReleaseIndication &) { tell(ReleaseIndication(), output); },
+                       [&](const acse::ReleaseConfirm &) { end(ReleaseConfirm(), output); },
+                       [&](const acse::Aborted &up) {
+                           end(AssociationLost{up.byUser, up.reason}, output);
+                       }},
             action);
     }
 }
@@ -288,14 +300,6 @@ void Stack::request(const presentation::Request &request, StackOutput &output)
         run(m_session.abort(false, request.userData), output);
         break;
     }
-}
-
-void Stack::end(StackEvent event, StackOutput &output)
-{
-    if (m_closed)
-        return;
-    m_closed = output.closeNetwork = true;
-    output.events.emplace_back(std::move(event));
 }
 
 } // namespace mms

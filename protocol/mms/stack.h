@@ -108,7 +108,10 @@ private:
              const std::string &sessionReason = {});
     void run(const acse::Actions &actions, StackOutput &output);
     void request(const presentation::Request &request, StackOutput &output);
-    void end(StackEvent event, StackOutput &output);
+    template <typename Event>
+    void tell(Event event, StackOutput &output);
+    template <typename Event>
+    void end(Event event, StackOutput &output);
 
     cotp::Connection m_transport;
     session::Connection m_session;
