@@ -51,7 +51,6 @@ GuideViewer::GuideViewer(QWidget *parent)
     back->setShortcut(QKeySequence::Back);
     back->setEnabled(false);
     m_pattern->setPlaceholderText(tr("Find in the guide"));
-    m_pattern->setClearButtonEnabled(true);
     auto *line = new QHBoxLayout;
     line->addWidget(back);
     line->addWidget(m_pattern);
