@@ -34,8 +34,8 @@ ALLOWED = {
     "protocol/scl": set(),
     "protocol/mms": set(),
     "protocol/acsi": {"protocol/mms"},
-    "apps/driver": SDK | {"protocol/scl", "protocol/acsi"},
-    "apps/simulator": {"protocol/scl", "protocol/acsi"},
+    "apps/driver": SDK | {"protocol/scl", "protocol/acsi", "protocol/mms"},
+    "apps/simulator": {"protocol/scl", "protocol/acsi", "protocol/mms"},
     "apps/iedctl": SDK | {"apps/driver"},
     "apps/workbench": SDK | {"apps/driver", "apps/simulator", "protocol/scl"},
 }
