@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "mms/association.h"
+
+#include <asio/any_io_executor.hpp>
+#include <asio/awaitable.hpp>
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace acsi {
+
+struct ClientOptions
+{
+    mms::AssociationOptions association;
+    /// Of each single request.
+    std::chrono::milliseconds callTimeout{5000};
+    /// One file call at a time unless the device is known to allow more.
+    int outstandingFileReads = 1;
+};
+
+/// The client side of an association with a server of IEC 61850-8-1: the generic services, split
+/// and paged as the negotiated PDU size wants it. Data sets, reports, control, setting groups and
+/// files are functions and classes of their own that take a client.
+///
+/// Thread: every member function is called, and every awaitable awaited, in strand(); handlers are
+/// called there. Each call ends within ClientOptions::callTimeout for each request that it sends;
+/// once the association has ended every call fails at once with the reason.
+class Client : public std::enable_shared_from_this<Client>
+{
+    struct Private
+    {
+    };
+
+public:
+    using InformationHandler = std::function<bool(const mms::InformationReport &report)>;
+    using RequestHandler =
+        std::function<bool(std::uint32_t invokeId, const mms::RequestService &request)>;
+    using Registration = std::uint64_t;
+
+    /// Connect and associate. Afterwards @p closed hears once, with one sentence, that the
+    /// association has ended; it is not called when connecting fails.
+    static asio::awaitable<mms::Result<std::shared_ptr<Client>>>
+    connect(asio::any_io_executor executor, std::string host, std::uint16_t port,
+            ClientOptions options, std::function<void(const std::string &reason)> closed = {});
+
+    Client(Private, ClientOptions options);
+
+    const mms::Link::Strand &strand() const;
+    const ClientOptions &options() const { return m_options; }
+    mms::Association &association() { return *m_association; }
+    bool isOpen() const { return m_open; }
+    /// Why the association ended; empty while it stands.
+    const std::string &closeReason() const { return m_closeReason; }
+
+    /// Conclude in an orderly way; aborts when the peer does not answer.
+    asio::awaitable<void> close();
+    void abort(const std::string &reason);
+
+    asio::awaitable<mms::CallOutcome> call(mms::RequestService request);
+    /// The answer of the service that was called, or one sentence why there is none.
+    template <typename Response>
+    asio::awaitable<mms::Result<Response>> ask(mms::RequestService request)
+    {
+        mms::CallOutcome outcome = co_await call(std::move(request));
+        if (const Response *response = mms::answerOf<Response>(outcome))
+            co_return *response;
+        const std::string text = mms::failureText(outcome);
+        co_return mms::Error{
+            text.empty() ? std::string("The device answered another service.") : text, 0};
+    }
+
+    /// All names of a class in a scope, page after page. Ends with an error when a peer repeats
+    /// pages.
+    asio::awaitable<mms::Result<std::vector<std::string>>>
+    nameList(mms::ObjectClass objectClass, mms::Scope scope, std::string domain = {});
+
+    asio::awaitable<mms::Result<mms::TypeDescription>> type(mms::ObjectName variable);
+
+    /// Reads in as few requests as request and answers fit; an answer that is too large for the
+    /// PDU is asked for in halves. One result for each variable, in their order.
+    asio::awaitable<mms::Result<std::vector<mms::AccessResult>>>
+    read(std::vector<mms::VariableAccess> variables);
+    /// The members of a data set.
+    asio::awaitable<mms::Result<std::vector<mms::AccessResult>>> readList(mms::ObjectName list);
+    /// One variable; the access error becomes a sentence.
+    asio::awaitable<mms::Result<mms::Data>> readOne(mms::VariableAccess variable);
+
+    /// Writes in as few requests as fit. Nothing for each variable that was written.
+    asio::awaitable<mms::Result<std::vector<std::optional<mms::DataAccessError>>>>
+    write(std::vector<mms::VariableAccess> variables, std::vector<mms::Data> values);
+    asio::awaitable<mms::Result<void>> writeOne(mms::VariableAccess variable, mms::Data value);
+
+    /// Hear the information reports of the peer, until removed. Handlers are asked in the order of
+    /// their registration until one takes the report (returns true).
+    Registration addInformationHandler(InformationHandler handler);
+    /// Hear the requests of the peer (it fetches files that this side offers). A request that no
+    /// handler takes is rejected; one that takes it answers on association().
+    Registration addRequestHandler(RequestHandler handler);
+    void remove(Registration registration);
+
+    /// Information reports that no handler took.
+    std::uint64_t unclaimedReports() const { return m_unclaimed; }
+
+private:
+    struct InformationEntry
+    {
+        Registration id;
+        InformationHandler handler;
+    };
+    struct RequestEntry
+    {
+        Registration id;
+        RequestHandler handler;
+    };
+
+    ClientOptions m_options;
+    std::shared_ptr<mms::Association> m_association;
+    std::vector<InformationEntry> m_informationHandlers;
+    std::vector<RequestEntry> m_requestHandlers;
+    std::function<void(const std::string &)> m_closed;
+    std::string m_closeReason;
+    Registration m_lastRegistration = 0;
+    std::uint64_t m_unclaimed = 0;
+    bool m_open = false;
+};
+
+} // namespace acsi

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "acsi/client.h"
+#include "mms/typedescription.h"
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace acsi {
+
+/// What a server told of one data set.
+struct DataSetDescription
+{
+    mms::ObjectName name;
+    bool deletable = false;
+    std::vector<mms::VariableAccess> members;
+};
+
+struct NodeDescription
+{
+    std::string name;
+    /// A structure of functional constraints, each a structure of data: in the order of the
+    /// server's model. Empty when the server refused it.
+    mms::TypeDescription type;
+};
+
+struct DeviceDescription
+{
+    std::string name; ///< the MMS domain
+    std::vector<NodeDescription> nodes;
+    std::vector<DataSetDescription> dataSets;
+    std::vector<std::string> journals;
+};
+
+/// A server as it describes itself.
+struct ServerDescription
+{
+    mms::IdentifyResponse identity; ///< empty texts when the server does not say
+    std::vector<DeviceDescription> devices;
+    std::vector<DataSetDescription> associationDataSets;
+    /// What the server refused, one sentence each with the name of the object.
+    std::vector<std::string> refused;
+};
+
+struct DiscoveryOptions
+{
+    /// Requests on the way at a time; 0 means as many as were negotiated.
+    int outstanding = 0;
+    /// Steps that are done and known so far; the total grows until all names are known.
+    std::function<void(std::size_t done, std::size_t total)> progress;
+    /// Set from any thread; discovery then ends with an error soon.
+    std::shared_ptr<std::atomic<bool>> cancelled;
+};
+
+/// Asks a server for everything it has: the domains side by side, types by whole logical node, by
+/// functional constraint or data object where that is too large for a PDU. A peer whose answers
+/// get confused (rejects, missing answers) is asked again one call at a time. Objects that are
+/// refused are left out and named in ServerDescription::refused. In the client's strand.
+asio::awaitable<mms::Result<ServerDescription>> discover(std::shared_ptr<Client> client,
+                                                         DiscoveryOptions options = {});
+
+/// The type of data below the type of a logical node; null when there is none.
+/// @p constraint and @p path as in the node's type, "ST", "Pos$stVal"; elements of arrays "har(3)".
+const mms::TypeDescription *typeBelow(const mms::TypeDescription &node, std::string_view constraint,
+                                      std::string_view path);
+
+} // namespace acsi

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "acsi/client.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace acsi {
+
+/// A file or directory of a server.
+struct FileEntry
+{
+    /// Below the directory that was listed; a directory ends in '/'. Separators are '/' whatever
+    /// the peer sends.
+    std::string name;
+    std::uint32_t size = 0; ///< octets
+    /// UTC, "20210304050607.123Z" as the standard writes it; empty when the server does not say.
+    std::string lastModified;
+
+    bool isDirectory() const { return !name.empty() && name.back() == '/'; }
+};
+
+/// One level of a directory ("" is the root), also from peers that answer with a flat list of
+/// everything below, with other separators, or with full paths. Page after page.
+asio::awaitable<mms::Result<std::vector<FileEntry>>> listDirectory(std::shared_ptr<Client> client,
+                                                                   std::string directory);
+
+/// Reads a file in blocks; @p sink gets them in order and returns false to stop. The file of the
+/// peer is closed in every case. Opens the name as given, then with and without a leading
+/// separator. Reports the size that the peer announces first.
+asio::awaitable<mms::Result<std::uint64_t>>
+download(std::shared_ptr<Client> client, std::string name,
+         std::function<bool(std::span<const std::uint8_t> block)> sink,
+         std::function<void(std::uint32_t size)> announced = {});
+
+/// A file that this side offers. read() fills @p block from @p position and answers how many octets
+/// it gave, less than asked only at the end, or an error.
+struct FileSource
+{
+    std::uint32_t size = 0; ///< octets
+    std::function<mms::Result<std::size_t>(std::uint64_t position, std::span<std::uint8_t> block)>
+        read;
+};
+
+/// Has the peer fetch a file from here (ObtainFile) and answers its FileOpen, FileRead and
+/// FileClose meanwhile. An existing file is replaced: where the peer refuses that, the upload goes
+/// to another name first, so that one of the two versions is there at any time. Afterwards a half
+/// file is deleted where the peer can.
+asio::awaitable<mms::Result<void>> upload(std::shared_ptr<Client> client, std::string name,
+                                          FileSource source);
+
+asio::awaitable<mms::Result<void>> deleteFile(std::shared_ptr<Client> client, std::string name);
+asio::awaitable<mms::Result<void>> renameFile(std::shared_ptr<Client> client, std::string from,
+                                              std::string to);
+
+} // namespace acsi

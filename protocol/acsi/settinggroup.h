@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "acsi/client.h"
+#include "acsi/discovery.h"
+#include "acsi/reference.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace acsi {
+
+/// The attributes of a setting group control block (IEC 61850-8-1, 16).
+struct SettingGroupBlock
+{
+    std::uint32_t numOfSG = 0;
+    std::uint32_t actSG = 0;
+    std::uint32_t editSG = 0; ///< 0: no group is being edited
+    bool cnfEdit = false;
+    std::optional<mms::UtcTime> lActTm;
+    std::optional<std::uint32_t> resvTms; ///< seconds
+};
+
+/// @p block is "LD/LN$SP$SGCB" in the functions below.
+asio::awaitable<mms::Result<SettingGroupBlock>>
+readSettingGroupBlock(std::shared_ptr<Client> client, Reference block);
+asio::awaitable<mms::Result<void>> selectActiveGroup(std::shared_ptr<Client> client,
+                                                     Reference block, std::uint32_t group);
+/// Group 0 gives up editing.
+asio::awaitable<mms::Result<void>> selectEditGroup(std::shared_ptr<Client> client, Reference block,
+                                                   std::uint32_t group);
+asio::awaitable<mms::Result<void>> confirmEdit(std::shared_ptr<Client> client, Reference block);
+
+struct SettingLeaf
+{
+    Reference reference;
+    mms::TypeDescription type;
+};
+
+/// Every setting of a logical device under SG or SE, in the order of the model.
+std::vector<SettingLeaf> settingLeaves(const DeviceDescription &device,
+                                       FunctionalConstraint constraint);
+
+} // namespace acsi
