@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "simulator/asioclock.h"
+#include "simulator/engine.h"
+#include "simulator/fileservice.h"
+
+#include "mms/server.h"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace sim {
+
+struct DeviceOptions
+{
+    mms::ServerOptions server;
+    WriteRules writeRules;
+    DataSetLimits dataSets;
+    /// Serves the files; without one the file services are refused.
+    std::shared_ptr<FileService> files;
+    /// For Identify; empty texts are taken from the SCL description.
+    std::string vendor;
+    std::string model;
+    std::string revision;
+};
+
+/// A simulated IED on the network: its model, its engines and its server. Any number of them may
+/// live in one process. Each has a strand in which everything of it happens, its associations
+/// included; create(), start(), stop() and strand() may be called from any thread, everything else
+/// in that strand.
+class Device : public mms::ServerHandler, public std::enable_shared_from_this<Device>
+{
+    struct Private
+    {
+    };
+
+public:
+    using Strand = asio::strand<asio::any_io_executor>;
+    /// Sees a request before the device: true when it has taken it, to answer it or not.
+    using RequestFilter = std::function<bool(const std::shared_ptr<mms::Association> &association,
+                                             std::uint32_t invokeId, mms::RequestService &request)>;
+
+    /// Nothing of @p ied is kept.
+    static std::shared_ptr<Device> create(asio::any_io_executor executor, const scl::Ied &ied,
+                                          DeviceOptions options);
+    Device(Private, asio::any_io_executor executor, const scl::Ied &ied, DeviceOptions options);
+    ~Device() override;
+
+    /// Listen; the port that is used.
+    mms::Result<std::uint16_t> start();
+    /// Listen no more and abort all associations.
+    void stop();
+
+    const Strand &strand() const { return m_strand; }
+    Model &model() { return m_model; }
+    Access &access() { return m_access; }
+    DataSets &dataSets() { return m_dataSets; }
+    AsioClock &clock() { return *m_clock; }
+    Host host() { return {m_model, m_access, m_dataSets, *m_clock}; }
+    /// Another engine, besides those that every device has. Before start().
+    void addEngine(std::unique_ptr<Engine> engine);
+    /// Before start().
+    void setRequestFilter(RequestFilter filter) { m_filter = std::move(filter); }
+
+    void opened(const std::shared_ptr<mms::Association> &association) override;
+    void request(const std::shared_ptr<mms::Association> &association, std::uint32_t invokeId,
+                 mms::RequestService request) override;
+    void closed(const std::shared_ptr<mms::Association> &association,
+                const std::string &reason) override;
+
+private:
+    class AssociationClient;
+    class Call;
+
+    Strand m_strand;
+    DeviceOptions m_options;
+    std::unique_ptr<AsioClock> m_clock;
+    Model m_model;
+    Access m_access;
+    DataSets m_dataSets;
+    std::vector<std::unique_ptr<Engine>> m_engines;
+    std::map<const mms::Association *, std::unique_ptr<AssociationClient>> m_clients;
+    RequestFilter m_filter;
+    std::shared_ptr<mms::Server> m_server;
+};
+
+} // namespace sim

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "simulator/client.h"
+
+#include <functional>
+#include <variant>
+
+namespace sim {
+
+/// Serves the files of a device. Every member is called in the device's strand; each request is
+/// answered once by calling @a answer there, now or later. After closed() nothing is answered to
+/// that client any more.
+class FileService
+{
+public:
+    using Answer = std::function<void(std::variant<mms::ResponseService, mms::ServiceError>)>;
+
+    virtual ~FileService() = default;
+
+    virtual void open(Client &client, const mms::FileOpenRequest &request, Answer answer) = 0;
+    virtual void read(Client &client, const mms::FileReadRequest &request, Answer answer) = 0;
+    virtual void close(Client &client, const mms::FileCloseRequest &request, Answer answer) = 0;
+    virtual void directory(Client &client, const mms::FileDirectoryRequest &request,
+                           Answer answer) = 0;
+    virtual void remove(Client &client, const mms::FileDeleteRequest &request, Answer answer) = 0;
+    virtual void rename(Client &client, const mms::FileRenameRequest &request, Answer answer) = 0;
+    /// Fetch a file from the client with Client::call().
+    virtual void obtain(Client &client, const mms::ObtainFileRequest &request, Answer answer) = 0;
+    /// The client has left: its files are closed.
+    virtual void closed(Client &client) = 0;
+};
+
+} // namespace sim
