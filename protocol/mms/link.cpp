@@ -8,6 +8,7 @@
 #include <asio/use_awaitable.hpp>
 #include <asio/write.hpp>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -84,10 +85,7 @@ void Link::serve(Handler handler)
 
 void Link::accept(Bytes pdu)
 {
-    if (m_options.trace)
-        m_options.trace(Direction::Sent, pdu);
-    disarm(Watch::Establish);
-    apply(m_stack.accept(pdu));
+    pass(pdu, true);
 }
 
 void Link::refuse(acse::Result result, std::int64_t diagnostic, Bytes pdu)
@@ -102,11 +100,56 @@ void Link::send(Bytes pdu)
 {
     if (!m_stack.isOpen())
         return;
-    if (m_options.trace)
-        m_options.trace(Direction::Sent, pdu);
-    apply(m_stack.send(pdu));
+    pass(pdu, false);
     if (queued() > m_options.maxQueued)
         lose("The peer does not read what it is sent.");
+}
+
+void Link::pass(Bytes pdu, bool accepts)
+{
+    if (m_options.interference) {
+        auto outgoing = m_options.interference->outgoing(pdu);
+        if (outgoing.delay.count() <= 0) {
+            emit(outgoing, accepts);
+            return;
+        }
+        const auto timer = m_delays.emplace(m_delays.end(), m_strand, outgoing.delay);
+        timer->async_wait([self = shared_from_this(), timer, outgoing = std::move(outgoing),
+                           accepts](const asio::error_code &error) {
+            self->m_delays.erase(timer);
+            if (!error)
+                self->emit(outgoing, accepts);
+        });
+        return;
+    }
+    if (m_options.trace)
+        m_options.trace(Direction::Sent, pdu);
+    if (accepts)
+        disarm(Watch::Establish);
+    apply(accepts ? m_stack.accept(pdu) : m_stack.send(pdu));
+}
+
+void Link::emit(const Interference::Outgoing &outgoing, bool accepts)
+{
+    if (m_resetWhenSent || m_stack.isClosed())
+        return;
+    StackOutput all;
+    for (const Octets &pdu : outgoing.pdus) {
+        if (m_options.trace)
+            m_options.trace(Direction::Sent, pdu);
+        if (accepts)
+            disarm(Watch::Establish);
+        const StackOutput output = accepts ? m_stack.accept(pdu) : m_stack.send(pdu);
+        all.octets.insert(all.octets.end(), output.octets.begin(), output.octets.end());
+        accepts = false;
+    }
+    all.octets.insert(all.octets.end(), outgoing.noise.begin(), outgoing.noise.end());
+    if (outgoing.resetAfter) {
+        all.octets.resize(std::min(all.octets.size(), *outgoing.resetAfter));
+        all.closeNetwork = true;
+        m_resetWhenSent = true;
+    }
+    apply(std::move(all));
 }
 
 void Link::release()
@@ -240,6 +283,18 @@ void Link::deliver(StackEvent event)
             },
             event);
     }
+    if (const auto *indication = std::get_if<PduIndication>(&event);
+        indication && m_options.interference) {
+        const Interference::Incoming incoming =
+            m_options.interference->incoming(indication->pdu);
+        if (!incoming.answer.empty() && m_stack.isOpen()) {
+            if (m_options.trace)
+                m_options.trace(Direction::Sent, incoming.answer);
+            apply(m_stack.send(incoming.answer));
+        }
+        if (!incoming.deliver)
+            return;
+    }
     if (!m_handler)
         return;
     if (!last) {
@@ -303,7 +358,12 @@ void Link::closeSocket()
 {
     asio::error_code ignored;
     m_resolver.cancel();
-    m_socket.shutdown(asio::ip::tcp::socket::shutdown_both, ignored);
+    for (asio::steady_timer &delay : m_delays)
+        delay.cancel();
+    if (m_resetWhenSent)
+        m_socket.set_option(asio::socket_base::linger(true, 0), ignored);
+    else
+        m_socket.shutdown(asio::ip::tcp::socket::shutdown_both, ignored);
     m_socket.close(ignored);
 }
 

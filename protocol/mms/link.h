@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "mms/interference.h"
 #include "mms/stack.h"
 #include "mms/trace.h"
 
@@ -13,6 +14,7 @@
 #include <chrono>
 #include <deque>
 #include <functional>
+#include <list>
 #include <memory>
 #include <string>
 
@@ -30,6 +32,8 @@ struct LinkOptions
     /// Octets that may wait for the network before the peer is cut off.
     std::size_t maxQueued = 16 * 1024 * 1024;
     TraceHook trace;
+    /// Changes what is sent and received, to simulate devices that misbehave; usually null.
+    std::shared_ptr<Interference> interference;
 };
 
 /// A network connection with the layers of one association on it. It belongs to one strand: every
@@ -77,6 +81,8 @@ private:
     asio::awaitable<void> establish(std::string host, std::uint16_t port, Octets pdu);
     asio::awaitable<void> readLoop();
     asio::awaitable<void> writeLoop();
+    void pass(Bytes pdu, bool accepts);
+    void emit(const Interference::Outgoing &outgoing, bool accepts);
     void apply(StackOutput output);
     void deliver(StackEvent event);
     void lose(const std::string &reason);
@@ -98,6 +104,8 @@ private:
     Octets m_writing;
     bool m_isWriting = false;
     bool m_closeWhenSent = false;
+    bool m_resetWhenSent = false;
+    std::list<asio::steady_timer> m_delays;
 };
 
 } // namespace mms
