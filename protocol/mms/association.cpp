@@ -207,11 +207,26 @@ void Association::reject(std::uint32_t invokeId, std::int32_t code)
     });
 }
 
-void Association::report(InformationReport report)
+void Association::report(InformationReport report, std::function<void(ReportFate)> handler)
 {
-    asio::dispatch(m_strand, [self = shared_from_this(), report = std::move(report)]() mutable {
-        self->send(UnconfirmedPdu{std::move(report)});
+    asio::dispatch(m_strand, [self = shared_from_this(), report = std::move(report),
+                              handler = std::move(handler)]() mutable {
+        const ReportFate fate = !self->m_open                               ? ReportFate::NotOpen
+            : self->send(UnconfirmedPdu{std::move(report)}) ? ReportFate::Queued
+                                                            : ReportFate::TooLong;
+        if (fate != ReportFate::Queued)
+            ++self->m_unsent;
+        if (handler)
+            handler(fate);
     });
+}
+
+void Association::whenQueued(std::size_t octets, std::function<void()> handler)
+{
+    asio::dispatch(m_strand,
+                   [self = shared_from_this(), octets, handler = std::move(handler)]() mutable {
+                       self->m_link->whenQueued(octets, std::move(handler));
+                   });
 }
 
 void Association::conclude(std::function<void(Result<void>)> handler)
@@ -245,7 +260,7 @@ void Association::abort(const std::string &reason)
 
 AssociationCounters Association::counters() const
 {
-    return {m_late, m_unknown, m_malformed};
+    return {m_late, m_unknown, m_malformed, m_unsent};
 }
 
 InitiateParameters Association::proposal() const

@@ -70,6 +70,14 @@ struct AssociationCounters
     std::uint64_t late = 0;      ///< answers to calls that had been given up
     std::uint64_t unknown = 0;   ///< answers to invoke ids that nobody used
     std::uint64_t malformed = 0; ///< PDUs that cannot be read
+    std::uint64_t unsent = 0;    ///< reports that were too long or came without an association
+};
+
+/// What became of a report.
+enum class ReportFate : std::uint8_t {
+    Queued,  ///< it is on its way; reports and answers arrive in the order they were handed over
+    TooLong, ///< it is longer than the negotiated PDU size; nothing was sent
+    NotOpen  ///< there is no association
 };
 
 /// MMS on a network connection, as one or the other side. Every member function may be called from
@@ -127,8 +135,13 @@ public:
     void respond(std::uint32_t invokeId, ResponseService response);
     void fail(std::uint32_t invokeId, ServiceError error);
     void reject(std::uint32_t invokeId, std::int32_t code);
-    /// A report longer than the negotiated PDU size is not sent.
-    void report(InformationReport report);
+    /// @p handler hears what became of the report. A report longer than the negotiated PDU size is
+    /// not sent: compare encodedSize(report) with pduSize() and divide it before.
+    void report(InformationReport report, std::function<void(ReportFate fate)> handler = {});
+    /// Calls @p handler once, as soon as at most @p octets wait for the network, at once when they
+    /// do already; never when the association ends before. Who sends much holds back until then: an
+    /// association with more than LinkOptions::maxQueued octets waiting is cut off.
+    void whenQueued(std::size_t octets, std::function<void()> handler);
 
     /// Conclude and release; the handler hears how it went. An association that cannot be
     /// concluded in time is aborted.
@@ -139,6 +152,7 @@ public:
 
     /// What was negotiated; meant for handlers, valid in the strand after opening.
     const InitiateParameters &negotiated() const { return m_negotiated; }
+    /// The longest PDU in octets that both sides take; 0 before opening. In any thread.
     std::size_t pduSize() const { return m_pduSize; }
     /// Octets that wait for the network; in the strand.
     std::size_t queued() const { return m_link->queued(); }
@@ -176,7 +190,7 @@ private:
     OpenHandler m_opened;
     std::function<void(Result<void>)> m_concluded;
     InitiateParameters m_negotiated;
-    std::size_t m_pduSize = 0;
+    std::atomic<std::size_t> m_pduSize{0};
     bool m_open = false;
     bool m_closed = false;
     std::size_t m_requestsOpen = 0;
@@ -188,6 +202,7 @@ private:
     std::atomic<std::uint64_t> m_late{0};
     std::atomic<std::uint64_t> m_unknown{0};
     std::atomic<std::uint64_t> m_malformed{0};
+    std::atomic<std::uint64_t> m_unsent{0};
 };
 
 } // namespace mms

@@ -62,6 +62,30 @@ std::size_t Link::queued() const
     return m_queue.size() + m_writing.size();
 }
 
+void Link::whenQueued(std::size_t octets, std::function<void()> handler)
+{
+    if (!m_handler)
+        return;
+    m_queueWatches.push_back({octets, std::move(handler)});
+    tellQueued();
+}
+
+void Link::tellQueued()
+{
+    // A handler may queue more and watch again.
+    std::vector<QueueWatch> due;
+    for (auto watch = m_queueWatches.begin(); watch != m_queueWatches.end();) {
+        if (watch->octets < queued()) {
+            ++watch;
+            continue;
+        }
+        due.push_back(std::move(*watch));
+        watch = m_queueWatches.erase(watch);
+    }
+    for (const QueueWatch &watch : due)
+        watch.handler();
+}
+
 void Link::connect(std::string host, std::uint16_t port, Octets pdu, Handler handler)
 {
     m_handler = std::move(handler);
@@ -244,6 +268,7 @@ asio::awaitable<void> Link::writeLoop()
             lose("The network connection broke: " + error.message() + ".");
             break;
         }
+        tellQueued();
     }
     m_isWriting = false;
     if (m_closeWhenSent)
@@ -303,6 +328,7 @@ void Link::deliver(StackEvent event)
     }
     disarm(Watch::Establish);
     disarm(Watch::Release);
+    m_queueWatches.clear();
     const Handler handler = std::exchange(m_handler, nullptr);
     handler(std::move(event));
 }

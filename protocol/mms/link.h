@@ -12,11 +12,11 @@
 #include <asio/strand.hpp>
 
 #include <chrono>
-#include <deque>
 #include <functional>
 #include <list>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace mms {
 
@@ -58,6 +58,9 @@ public:
     bool isOpen() const { return m_stack.isOpen(); }
     /// Octets that wait for the network.
     std::size_t queued() const;
+    /// Calls @p handler once at most @p octets wait, at once when they do already; never after the
+    /// end.
+    void whenQueued(std::size_t octets, std::function<void()> handler);
 
     /// Initiator: connect to @p host (a name or an address) and ask for an association.
     void connect(std::string host, std::uint16_t port, Octets pdu, Handler handler);
@@ -78,6 +81,12 @@ public:
 private:
     enum class Watch : std::uint8_t { Establish, Send, Release };
 
+    struct QueueWatch
+    {
+        std::size_t octets;
+        std::function<void()> handler;
+    };
+
     asio::awaitable<void> establish(std::string host, std::uint16_t port, Octets pdu);
     asio::awaitable<void> readLoop();
     asio::awaitable<void> writeLoop();
@@ -89,6 +98,7 @@ private:
     void arm(Watch watch);
     void disarm(Watch watch);
     asio::steady_timer &timerOf(Watch watch);
+    void tellQueued();
     void closeSocket();
 
     Strand m_strand;
@@ -102,6 +112,7 @@ private:
     Handler m_handler;
     Octets m_queue;
     Octets m_writing;
+    std::vector<QueueWatch> m_queueWatches;
     bool m_isWriting = false;
     bool m_closeWhenSent = false;
     bool m_resetWhenSent = false;

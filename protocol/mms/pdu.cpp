@@ -530,6 +530,22 @@ std::vector<std::uint8_t> encode(const Pdu &pdu)
     return writer.take();
 }
 
+std::size_t encodedSize(const InformationReport &report)
+{
+    Writer writer;
+    report.write(writer);
+    writer.close(InformationReport::tag, 0);
+    writer.close(pduTags[3], 0);
+    return writer.size();
+}
+
+std::size_t encodedSize(const AccessResult &result)
+{
+    Writer writer;
+    DataCodec::write(writer, result);
+    return writer.size();
+}
+
 std::optional<PduHead> peekPdu(Bytes bytes, const ber::Limits &limits)
 {
     ber::Input input(bytes, limits);

@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "mms/bytes.h"
+#include "mms/loopback.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+
+namespace mmstest {
+
+using namespace mms;
+using namespace std::chrono_literals;
+
+/// Identifies itself, reads every variable as its number in the list, refuses to delete files, has
+/// more names than fit, and never answers a status request.
+class TestDevice : public ServerHandler
+{
+public:
+    void opened(const std::shared_ptr<Association> &association) override
+    {
+        ++openings;
+        if (reportOnOpening)
+            association->report({ObjectName::ofVmd("RPT"), {Data::float32(1.5F)}});
+    }
+
+    void request(const std::shared_ptr<Association> &association, std::uint32_t invokeId,
+                 RequestService request) override
+    {
+        if (std::holds_alternative<IdentifyRequest>(request)) {
+            association->respond(invokeId, IdentifyResponse{"vendor", "model", "1.0", {}});
+        } else if (const auto *read = std::get_if<ReadRequest>(&request)) {
+            ReadResponse response;
+            const auto &list = std::get<std::vector<VariableAccess>>(read->variables);
+            for (std::size_t i = 0; i < list.size(); ++i)
+                response.results.emplace_back(Data::unsignedInteger(i));
+            association->respond(invokeId, response);
+        } else if (std::holds_alternative<FileDeleteRequest>(request)) {
+            association->fail(
+                invokeId, {ErrorClass::File, serviceerrors::fileNonExistent, {}, {}, {}});
+        } else if (std::holds_alternative<GetNameListRequest>(request)) {
+            association->respond(
+                invokeId, GetNameListResponse{std::vector<std::string>(9000, "LLN0$ST$Mod"), true});
+        } else if (!std::holds_alternative<StatusRequest>(request)) {
+            association->reject(invokeId, rejectcodes::requestUnrecognizedService);
+        }
+    }
+
+    void closed(const std::shared_ptr<Association> &, const std::string &reason) override
+    {
+        end.setter()(reason);
+    }
+
+    bool reportOnOpening = false;
+    std::atomic<int> openings{0};
+    Awaited<std::string> end;
+};
+
+inline AssociationOptions quickOptions()
+{
+    AssociationOptions options;
+    options.link.establishTimeout = 5s;
+    options.link.releaseTimeout = 5s;
+    return options;
+}
+
+class AssociationTest : public testing::Test
+{
+protected:
+    void TearDown() override
+    {
+        if (m_server)
+            m_server->stop();
+        if (m_client)
+            m_client->abort("The test is over.");
+    }
+
+    std::uint16_t startServer(ServerOptions options = {})
+    {
+        options.address = "127.0.0.1";
+        options.port = 0;
+        m_server = Server::create(m_loop.executor(), options, m_device);
+        const auto port = m_server->start();
+        EXPECT_TRUE(port.ok());
+        return port ? *port : 0;
+    }
+
+    Result<InitiateParameters> connect(std::uint16_t port, AssociationOptions options,
+                                       Association::Handlers handlers = {})
+    {
+        if (!handlers.closed)
+            handlers.closed = m_clientEnd.setter();
+        m_client = Association::create(m_loop.executor(), std::move(options), std::move(handlers));
+        Awaited<Result<InitiateParameters>> opened;
+        m_client->connect("127.0.0.1", port, opened.setter());
+        return opened.get();
+    }
+
+    CallOutcome call(RequestService request, std::chrono::milliseconds timeout = 10s)
+    {
+        Awaited<CallOutcome> outcome;
+        m_client->call(std::move(request), timeout, outcome.setter());
+        return outcome.get();
+    }
+
+    /// Accepts the association of the client that is connecting, and then stands still.
+    void acceptByHand(RawPeer &peer, Stack &stack)
+    {
+        peer.accept();
+        std::vector<StackEvent> events;
+        ASSERT_TRUE(peer.feed(stack, events));
+        const auto *asked = std::get_if<AssociateIndication>(&events.front());
+        ASSERT_NE(asked, nullptr);
+        const auto pdu = decodePdu(asked->pdu);
+        ASSERT_TRUE(pdu.ok());
+        const auto &request = std::get<InitiateRequestPdu>(*pdu);
+        peer.send(stack.accept(encode(InitiateResponsePdu{request.parameters})).octets);
+    }
+
+    void connectToRawPeer(RawPeer &peer, Stack &stack)
+    {
+        Association::Handlers handlers;
+        handlers.closed = m_clientEnd.setter();
+        m_client = Association::create(m_loop.executor(), quickOptions(), std::move(handlers));
+        Awaited<Result<InitiateParameters>> opened;
+        m_client->connect("127.0.0.1", peer.port(), opened.setter());
+        acceptByHand(peer, stack);
+        ASSERT_TRUE(opened.get().ok());
+    }
+
+    CallFailure::Kind failureOf(const CallOutcome &outcome)
+    {
+        const auto *none = std::get_if<CallFailure>(&outcome);
+        EXPECT_NE(none, nullptr);
+        return none ? none->kind : CallFailure::Kind::NotOpen;
+    }
+
+    Loop m_loop;
+    std::shared_ptr<TestDevice> m_device = std::make_shared<TestDevice>();
+    std::shared_ptr<Server> m_server;
+    std::shared_ptr<Association> m_client;
+    Awaited<std::string> m_clientEnd;
+};
+
+} // namespace mmstest
