@@ -10,8 +10,7 @@
 namespace mms {
 
 /// Stands between a link and its user and changes PDUs on their way, to simulate devices and
-/// networks that misbehave. Called in the strand of each link that has it, and so from several
-/// threads when several links share it. It must not call back into the link.
+/// networks that misbehave. Called in the strand of its link. It must not call back into the link.
 class Interference
 {
 public:

@@ -41,6 +41,7 @@ Link::Link(Strand strand, LinkOptions options)
     , m_establishTimer(m_strand)
     , m_sendTimer(m_strand)
     , m_releaseTimer(m_strand)
+    , m_interference(m_options.interference ? m_options.interference() : nullptr)
 {
 }
 
@@ -53,6 +54,7 @@ Link::Link(Strand strand, LinkOptions options, asio::ip::tcp::socket socket)
     , m_establishTimer(m_strand)
     , m_sendTimer(m_strand)
     , m_releaseTimer(m_strand)
+    , m_interference(m_options.interference ? m_options.interference() : nullptr)
 {
     prepare(m_socket);
 }
@@ -131,8 +133,8 @@ void Link::send(Bytes pdu)
 
 void Link::pass(Bytes pdu, bool accepts)
 {
-    if (m_options.interference) {
-        auto outgoing = m_options.interference->outgoing(pdu);
+    if (m_interference) {
+        auto outgoing = m_interference->outgoing(pdu);
         if (outgoing.delay.count() <= 0) {
             emit(outgoing, accepts);
             return;
@@ -309,9 +311,9 @@ void Link::deliver(StackEvent event)
             event);
     }
     if (const auto *indication = std::get_if<PduIndication>(&event);
-        indication && m_options.interference) {
+        indication && m_interference) {
         const Interference::Incoming incoming =
-            m_options.interference->incoming(indication->pdu);
+            m_interference->incoming(indication->pdu);
         if (!incoming.answer.empty() && m_stack.isOpen()) {
             if (m_options.trace)
                 m_options.trace(Direction::Sent, incoming.answer);

@@ -32,8 +32,9 @@ struct LinkOptions
     /// Octets that may wait for the network before the peer is cut off.
     std::size_t maxQueued = 16 * 1024 * 1024;
     TraceHook trace;
-    /// Changes what is sent and received, to simulate devices that misbehave; usually null.
-    std::shared_ptr<Interference> interference;
+    /// Makes what changes PDUs of a link on their way, to simulate devices that misbehave; usually
+    /// null. Called when a link is made.
+    std::function<std::unique_ptr<Interference>()> interference;
 };
 
 /// A network connection with the layers of one association on it. It belongs to one strand: every
@@ -116,6 +117,7 @@ private:
     bool m_isWriting = false;
     bool m_closeWhenSent = false;
     bool m_resetWhenSent = false;
+    std::unique_ptr<Interference> m_interference;
     std::list<asio::steady_timer> m_delays;
 };
 
