@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "acsi/reference.h"
+
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+
+/// Read any text as a reference; whatever was read is printed, accessed and read again as the same
+/// reference, and whatever cannot be read has an error.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const std::string_view text(reinterpret_cast<const char *>(data), size);
+    const auto check = [](bool holds) {
+        if (!holds)
+            std::abort();
+    };
+    const auto first = acsi::parseReference(text);
+    if (first) {
+        const auto printed = acsi::parseReference(acsi::toText(*first));
+        check(printed && *printed == *first);
+        if (!first->node.empty()) {
+            const auto item = acsi::parseReference(first->device, acsi::itemText(*first));
+            check(item && *item == *first);
+            const auto accessed = acsi::referenceOf(acsi::accessOf(*first));
+            check(accessed && *accessed == *first);
+        }
+        if (first->constraint) {
+            const auto dotted = acsi::parseObjectReference(acsi::objectReferenceText(*first),
+                                                           *first->constraint);
+            check(dotted && *dotted == *first);
+        }
+    } else {
+        check(!first.error().message.empty());
+    }
+    const auto dotted = acsi::parseObjectReference(text, acsi::FunctionalConstraint::MX);
+    if (dotted) {
+        const auto printed = acsi::parseReference(acsi::toText(*dotted));
+        check(printed && *printed == *dotted);
+    }
+    return 0;
+}
