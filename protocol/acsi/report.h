@@ -43,6 +43,8 @@ struct Triggers
     bool applicationTrigger = false; ///< bit 6, only in reasons
 
     static Triggers from(const mms::BitString &bits);
+    /// All false when @p bits is no bit string.
+    static Triggers from(const mms::Data &bits);
     /// Six bits, the reserved one first; seven with @p applicationTrigger.
     mms::BitString toBits() const;
     friend bool operator==(const Triggers &, const Triggers &) = default;
@@ -54,6 +56,8 @@ struct ReportMember
     std::string reference; ///< as the report gives it; empty without data references
     std::optional<Triggers> reason;
     mms::AccessResult value;
+
+    friend bool operator==(const ReportMember &, const ReportMember &) = default;
 };
 
 /// A report as it came, optional fields where its OptFlds say so.
@@ -71,15 +75,19 @@ struct Report
     bool moreSegmentsFollow = false;
     std::size_t dataSetSize = 0; ///< bits of the inclusion string
     std::vector<ReportMember> members;
+
+    friend bool operator==(const Report &, const Report &) = default;
 };
 
 /// True for the list of variables that reports come in.
 bool isReport(const mms::InformationReport &information);
 
 /// Takes a report apart by its own OptFlds (IEC 61850-8-1, 17.2.5). The error says which field is
-/// missing or of the wrong type. Values are moved out of @p information.
+/// missing or of the wrong type. Values are moved out of @p information. BufOvfl and EntryID may be
+/// missing in reports of unbuffered blocks; Report::optFlds then does without them.
 mms::Result<Report> decodeReport(mms::InformationReport information);
-/// The inverse, for servers. Members are in the order of their index.
+/// The inverse, for servers. Members are in the order of their index, each index once; what OptFlds
+/// wants and the report does not have is sent as zero.
 mms::InformationReport encodeReport(const Report &report);
 
 /// Joins the segments of reports that did not fit a PDU. Not thread-safe.
@@ -94,8 +102,10 @@ public:
     }
 
     /// The whole report when @p segment was its last part or is not segmented. Parts that miss a
-    /// predecessor, and parts older than the patience, are dropped and counted.
+    /// predecessor or successor, parts that wait longer than the patience, and the oldest of very
+    /// many reports that wait are dropped and counted.
     std::optional<Report> take(Report segment, Time now);
+    /// Parts that will not be part of any report.
     std::uint64_t dropped() const { return m_dropped; }
 
 private:
@@ -106,8 +116,11 @@ private:
         Time since;
     };
 
+    void forgetOld(Time now);
+    std::map<std::string, Pending>::iterator drop(std::map<std::string, Pending>::iterator pending);
+
     std::chrono::milliseconds m_patience;
-    std::map<std::string, Pending> m_pending; ///< by report id
+    std::map<std::string, Pending> m_pending; ///< by report id and data set
     std::uint64_t m_dropped = 0;
 };
 
