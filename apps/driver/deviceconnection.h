@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "deviceconfiguration.h"
+#include "devicestatus.h"
+#include "livevalues.h"
+#include "onlinemodel.h"
+#include "pducapture.h"
+
+#include "acsi/client.h"
+#include "acsi/discovery.h"
+
+#include <remoteclient/operationresult.h>
+
+#include <asio/awaitable.hpp>
+#include <asio/steady_timer.hpp>
+#include <asio/strand.hpp>
+
+#include <QtCore/QSet>
+
+#include <atomic>
+#include <functional>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <typeindex>
+#include <vector>
+
+class DeviceConnection;
+
+/// How an operation ended; an error holds one sentence for the operator.
+struct Outcome
+{
+    OperationResult result = OperationSucceeded;
+    QString error;
+
+    static Outcome failed(const QString &sentence);
+    static Outcome failed(const mms::Error &error);
+
+    explicit operator bool() const { return result == OperationSucceeded; }
+};
+
+/// Something that lives with the associations of a device, such as its report subscriptions. Made
+/// by DeviceConnection::part() at its first use and destroyed with the connection; everything is
+/// called in the connection's strand. Coroutines are awaited before the next one is called.
+class AssociationPart
+{
+public:
+    AssociationPart() = default;
+    virtual ~AssociationPart();
+    Q_DISABLE_COPY(AssociationPart)
+
+    /// An association stands and the model is known.
+    virtual asio::awaitable<void> opened();
+    /// The association is about to be concluded: give back what was reserved on the device.
+    virtual asio::awaitable<void> leaving();
+    /// The association has ended, orderly or not.
+    virtual void closed(const QString &reason);
+};
+
+/// What a connection needs of the driver. Called in the strands of connections, several at a time.
+struct ConnectionEnvironment
+{
+    std::shared_ptr<LiveValues> values;
+    std::function<void(const DeviceStatus &)> statusChanged;
+    std::function<void(const DeviceChange &)> changed;
+    /// Claims the names of logical devices for the device that goes online; a sentence when another
+    /// device has one of them, otherwise empty.
+    std::function<QString(int number, const QStringList &logicalDevices)> claim;
+    std::function<void(int number)> release;
+    /// Folder of the descriptions that devices gave of themselves; empty for none.
+    QString cacheFolder;
+};
+
+/// The driver's side of one device with an address: makes the association, keeps it, notices its
+/// loss and makes it again; reads the model; runs operations.
+///
+/// Functions under "any thread" may be called from any thread; the others only in the strand, that
+/// is from parts, from operations and from the handlers of client(). No state of the connection may
+/// be relied on behind a co_await without looking again: the association may have ended meanwhile,
+/// client() may be null or another one.
+class DeviceConnection : public std::enable_shared_from_this<DeviceConnection>
+{
+    struct Private
+    {
+    };
+
+public:
+    using Strand = asio::strand<asio::any_io_executor>;
+    /// An operation on the device. What it captures lives as long as it runs; it writes its results
+    /// into shared memory, since the caller may have gone when its time is over.
+    using Operation = std::function<asio::awaitable<Outcome>(std::shared_ptr<DeviceConnection>)>;
+
+    /// What an operation waits for before it begins.
+    enum class Need { Association, Model };
+
+    static std::shared_ptr<DeviceConnection> create(asio::any_io_executor executor,
+                                                    DeviceConfiguration configuration,
+                                                    ConnectionEnvironment environment);
+    DeviceConnection(Private, asio::any_io_executor executor, DeviceConfiguration configuration,
+                     ConnectionEnvironment environment);
+    ~DeviceConnection();
+
+    // Any thread:
+
+    const DeviceConfiguration &configuration() const { return m_configuration; }
+    const Strand &strand() const { return m_strand; }
+    DeviceStatus status() const;
+    PduCapture &capture() const { return *m_capture; }
+
+    /// Want an association from now on.
+    void connect();
+    /// Leave the device in an orderly way and want no association any more. @p left is called once
+    /// the association is gone, in the strand.
+    void disconnect(std::function<void()> left = {});
+    /// End the association at once; the next operation makes a new one.
+    void abort();
+    /// Stop reading the model; the device is then disconnected.
+    void cancelReading();
+
+    /// Runs the operation in the strand and waits for its end in the calling thread, which must be
+    /// none of the driver's. Ends at the latest after @p limit: then the operation is cancelled.
+    /// A device that is not associated answers at once with OperationNotConnected and a sentence,
+    /// unless its first association is being made or an abort left it: then that is waited for.
+    Outcome perform(Need need, std::chrono::milliseconds limit, Operation operation);
+    Outcome perform(Need need, Operation operation);
+
+    // In the strand:
+
+    /// Null without an association.
+    const std::shared_ptr<acsi::Client> &client() const { return m_client; }
+    /// Null until the model has been read for the first time.
+    OnlineModel *model() const { return m_model.get(); }
+
+    /// The one part of that class; @p Part has a constructor that takes this connection and keeps
+    /// it by reference.
+    template <typename Part>
+    Part &part()
+    {
+        std::unique_ptr<AssociationPart> &place = m_parts[std::type_index(typeid(Part))];
+        if (!place)
+            place = std::make_unique<Part>(*this);
+        return static_cast<Part &>(*place);
+    }
+
+    /// What goes with published values.
+    struct Publication
+    {
+        std::uint32_t cause = PublishCause::Read;
+        bool onlyChanges = false;          ///< leave out values that are known already
+        const mms::Data *time = nullptr;   ///< of a report, for values without a time of their own
+    };
+    /// Takes the data apart, keeps the values in the model and publishes them. False when the data
+    /// does not fit the live type.
+    bool publish(const acsi::Reference &reference, const mms::Data &data,
+                 const Publication &publication);
+
+    /// Data that comes by itself under @p source (a report control block), "LD/LN$FC$DO..." each:
+    /// polling leaves it out. An empty list takes the source away.
+    void setReported(const QString &source, const std::vector<acsi::Reference> &references);
+
+    /// Reads the variables and publishes what came; one sentence names those that failed.
+    asio::awaitable<Outcome> readAndPublish(std::vector<acsi::Reference> references,
+                                            Publication publication);
+
+    /// Tells the host's journal. Time, number and device are filled in.
+    void journal(DeviceChange change);
+    void countReport() { ++m_reports; }
+
+    /// The model with the values of now, as PhysicalDevice::fromStream() reads it. Values that
+    /// change shortly after are published again a little later, since a browser that opens with
+    /// these bytes does not listen yet.
+    QByteArray modelBytes();
+
+    QString notConnectedSentence() const;
+
+private:
+    struct Pending;
+
+    asio::awaitable<void> live();
+    /// One sentence why the device cannot be used; empty when it is ready.
+    asio::awaitable<QString> getReady(std::shared_ptr<acsi::Client> client);
+    asio::awaitable<void> identify(std::shared_ptr<acsi::Client> client);
+    asio::awaitable<QString> readModel(std::shared_ptr<acsi::Client> client);
+    asio::awaitable<void> readSettingsOfBlocks(std::shared_ptr<acsi::Client> client);
+    asio::awaitable<void> readValues(std::vector<std::string> constraints,
+                                     Publication publication);
+    asio::awaitable<void> stay(std::shared_ptr<acsi::Client> client);
+    asio::awaitable<void> poll(std::shared_ptr<acsi::Client> client);
+    asio::awaitable<void> republishLater();
+    asio::awaitable<void> pause(std::chrono::milliseconds time);
+    asio::awaitable<Outcome> waitFor(Need need, std::chrono::steady_clock::time_point deadline);
+    std::vector<acsi::Reference> polledReferences() const;
+
+    void setState(DeviceState state, const QString &reason = {});
+    void notify();
+    void wake();
+    acsi::ClientOptions clientOptions() const;
+    void associationEnded(const std::string &reason);
+
+    const DeviceConfiguration m_configuration;
+    const ConnectionEnvironment m_environment;
+    const Strand m_strand;
+    const std::shared_ptr<PduCapture> m_capture;
+
+    // In the strand:
+    std::shared_ptr<acsi::Client> m_client;
+    std::unique_ptr<OnlineModel> m_model;
+    QByteArray m_fingerprint; ///< of the device when the model was read
+    std::unique_ptr<PhysicalDevice> m_fromFile;
+    std::map<std::type_index, std::unique_ptr<AssociationPart>> m_parts;
+    QHash<QString, std::vector<acsi::Reference>> m_reported;
+    std::shared_ptr<std::atomic<bool>> m_readingCancelled;
+    asio::steady_timer m_wake; ///< cancelled when something changed that is being waited for
+    bool m_wanted = false;
+    bool m_living = false;
+    bool m_modelReady = false; ///< the model belongs to the present association
+    bool m_attempted = false;  ///< since connect() an attempt has come to an end
+    bool m_dormant = false;    ///< aborted; the next operation connects
+    QString m_endReason;
+    std::vector<std::function<void()>> m_left;
+    QHash<QString, MMSValue> m_recent; ///< values to be published again
+    int m_recentUsers = 0;
+
+    mutable std::mutex m_statusMutex;
+    DeviceStatus m_status;
+    std::atomic<std::uint64_t> m_published{0};
+    std::atomic<std::uint64_t> m_reports{0};
+};

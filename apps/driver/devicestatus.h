@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QtCore/QDateTime>
+#include <QtCore/QString>
+
+#include <chrono>
+#include <cstdint>
+
+/// Where the association with a device is in its life.
+enum class DeviceState {
+    Disconnected, ///< nobody wants an association
+    Connecting,
+    ReadingModel, ///< the association stands, the model is being read
+    Online,
+    Waiting, ///< there is no association; the next attempt comes by itself
+};
+
+struct DeviceCounters
+{
+    std::uint64_t sentPdus = 0;
+    std::uint64_t receivedPdus = 0;
+    std::uint64_t reports = 0;         ///< that brought values
+    std::uint64_t publishedValues = 0;
+    std::uint64_t connections = 0;     ///< associations since the device was added
+    std::uint64_t unclaimedReports = 0; ///< information that nobody had asked for
+};
+
+/// A device as the driver sees it. A value type.
+struct DeviceStatus
+{
+    int number = 0;
+    QString name;
+    DeviceState state = DeviceState::Disconnected;
+    /// Why the state is as it is, one sentence; empty while all is well.
+    QString reason;
+    QString vendor;
+    QString model;
+    QString revision;
+    QDateTime since;                           ///< when the state began, local time
+    std::chrono::microseconds roundTrip{0};    ///< of the last measured call; 0: not measured yet
+    int modelStepsDone = 0;                    ///< while the model is being read
+    int modelSteps = 0;
+    int refusedObjects = 0;                    ///< that the device did not describe
+    DeviceCounters counters;
+};
+
+/// A change that the driver made on a device, or tried to, for a host's journal.
+struct DeviceChange
+{
+    QDateTime time; ///< local time
+    int number = 0; ///< of the device
+    QString device;
+    QString operation; ///< name of the controller operation
+    QString reference; ///< logical device "/" ...
+    QString oldValue;  ///< empty where it is not known
+    QString newValue;
+    QString error;     ///< empty when it was done
+    QString additionalCause; ///< of a refused control
+};
+
+/// Why a value was published: MMSValue::cause.
+namespace PublishCause {
+enum : std::uint32_t {
+    Read = 1,   ///< the operator asked for it, or it was read back
+    Polled = 2,
+    /// Of a report; the bits of its reasons for inclusion are added: 1 data change, 2 quality
+    /// change, 4 data update, 8 integrity, 16 general interrogation.
+    Report = 0x100,
+};
+}

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "acsi/discovery.h"
+#include "acsi/reference.h"
+
+#include <devicemodel/mmsvalue.h>
+#include <devicemodel/physicaldevice.h>
+
+#include <QtCore/QByteArray>
+#include <QtCore/QHash>
+#include <QtCore/QString>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+/// What the driver knows of a connected device: what the device told of itself, and the model that
+/// the browser shows, with the last known values. In the strand of the device's connection.
+class OnlineModel
+{
+public:
+    /// A leaf of structured data.
+    struct Leaf
+    {
+        QString reference;                            ///< full
+        DataAttribute *attribute = nullptr;           ///< null for one that the model does not show
+        const mms::TypeDescription *type = nullptr;   ///< of the leaf
+        const mms::Data *data = nullptr;
+        const mms::Data *quality = nullptr; ///< that goes with the value, where there is one
+        const mms::Data *time = nullptr;
+    };
+    using LeafVisitor = std::function<void(const Leaf &leaf)>;
+
+    /// @param fromFile the model of the device's SCL file, or null; what the two disagree in is
+    ///                 marked
+    OnlineModel(std::shared_ptr<const acsi::ServerDescription> description, const QString &name,
+                const PhysicalDevice *fromFile);
+
+    PhysicalDevice &device() { return *m_device; }
+    const PhysicalDevice &device() const { return *m_device; }
+    const acsi::ServerDescription &description() const { return *m_description; }
+
+    /// The live type of what the reference names; null when the device did not describe it.
+    const mms::TypeDescription *type(const acsi::Reference &reference) const;
+    LogicalNode *node(const QString &device, const QString &node) const;
+    ReportControlBlock *reportBlock(const QString &device, const QString &reference) const;
+
+    /// Takes structured data apart to the leaves of the model, in the order of the type. False when
+    /// the value does not have the shape of the live type; leaves before the mistake were visited.
+    bool forEachLeaf(const acsi::Reference &reference, const mms::Data &data,
+                     const LeafVisitor &visitor) const;
+    /// The leaves of a data set member or of whatever a reference names, without values.
+    std::vector<Leaf> leavesOf(const acsi::Reference &reference) const;
+
+    QByteArray toBytes() const;
+
+private:
+    struct Walk;
+
+    std::shared_ptr<const acsi::ServerDescription> m_description;
+    std::unique_ptr<PhysicalDevice> m_device;
+    QHash<QString, const acsi::NodeDescription *> m_nodes; ///< by "LD/LN"
+    QHash<QString, LogicalNode *> m_shownNodes;            ///< by "LD/LN"
+};
