@@ -52,8 +52,12 @@ public:
             ClientOptions options, std::function<void(const std::string &reason)> closed = {});
 
     Client(Private, ClientOptions options);
+    /// Aborts an association that still stands; nobody hears of it.
+    ~Client();
+    Client(const Client &) = delete;
+    Client &operator=(const Client &) = delete;
 
-    const mms::Link::Strand &strand() const;
+    const mms::Link::Strand &strand() const { return m_association->strand(); }
     const ClientOptions &options() const { return m_options; }
     mms::Association &association() { return *m_association; }
     bool isOpen() const { return m_open; }
@@ -84,16 +88,19 @@ public:
 
     asio::awaitable<mms::Result<mms::TypeDescription>> type(mms::ObjectName variable);
 
-    /// Reads in as few requests as request and answers fit; an answer that is too large for the
-    /// PDU is asked for in halves. One result for each variable, in their order.
+    /// Reads in as few requests as request and answers fit; a list that is refused as a whole, or
+    /// whose answer is too large for the PDU, is asked for in halves. One result for each variable,
+    /// in their order; one that cannot be asked for even alone has an access error. An error when
+    /// none can be asked for, and when an answer is missing.
     asio::awaitable<mms::Result<std::vector<mms::AccessResult>>>
     read(std::vector<mms::VariableAccess> variables);
-    /// The members of a data set.
+    /// The members of a data set; one by one where the peer cannot give them together.
     asio::awaitable<mms::Result<std::vector<mms::AccessResult>>> readList(mms::ObjectName list);
     /// One variable; the access error becomes a sentence.
     asio::awaitable<mms::Result<mms::Data>> readOne(mms::VariableAccess variable);
 
-    /// Writes in as few requests as fit. Nothing for each variable that was written.
+    /// Writes in as few requests as fit. Nothing for each variable that was written. An error when
+    /// the device refused all as a whole, and when an answer is missing: some may be written then.
     asio::awaitable<mms::Result<std::vector<std::optional<mms::DataAccessError>>>>
     write(std::vector<mms::VariableAccess> variables, std::vector<mms::Data> values);
     asio::awaitable<mms::Result<void>> writeOne(mms::VariableAccess variable, mms::Data value);
@@ -110,21 +117,36 @@ public:
     std::uint64_t unclaimedReports() const { return m_unclaimed; }
 
 private:
-    struct InformationEntry
+    /// A handler that may be removed while it, or another, is being called.
+    template <typename Function>
+    struct Entry
     {
         Registration id;
-        InformationHandler handler;
+        Function handler;
+        bool removed = false;
     };
-    struct RequestEntry
-    {
-        Registration id;
-        RequestHandler handler;
-    };
+    template <typename Function>
+    using Entries = std::vector<std::shared_ptr<Entry<Function>>>;
+
+    template <typename Function>
+    Registration add(std::shared_ptr<const Entries<Function>> &entries, Function handler);
+    template <typename Function>
+    static void removeFrom(std::shared_ptr<const Entries<Function>> &entries, Registration id);
+    template <typename Function, typename... Arguments>
+    static bool offer(std::shared_ptr<const Entries<Function>> entries,
+                      const Arguments &...arguments);
+
+    static asio::awaitable<mms::Result<void>> open(std::shared_ptr<Client> client,
+                                                   std::string host, std::uint16_t port);
+    mms::Association::Handlers handlers();
+    void ended(const std::string &reason);
+    mms::Error endError(const mms::CallOutcome &outcome) const;
+    std::size_t outstanding() const;
 
     ClientOptions m_options;
     std::shared_ptr<mms::Association> m_association;
-    std::vector<InformationEntry> m_informationHandlers;
-    std::vector<RequestEntry> m_requestHandlers;
+    std::shared_ptr<const Entries<InformationHandler>> m_informationHandlers;
+    std::shared_ptr<const Entries<RequestHandler>> m_requestHandlers;
     std::function<void(const std::string &)> m_closed;
     std::string m_closeReason;
     Registration m_lastRegistration = 0;

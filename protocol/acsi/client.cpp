@@ -1,0 +1,496 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "acsi/client.h"
+
+#include "acsi/callgroup.h"
+#include "acsi/namepages.h"
+
+#include <asio/co_spawn.hpp>
+#include <asio/experimental/as_tuple.hpp>
+#include <asio/steady_timer.hpp>
+#include <asio/this_coro.hpp>
+#include <asio/use_awaitable.hpp>
+
+#include <algorithm>
+#include <deque>
+#include <utility>
+
+namespace acsi {
+
+namespace {
+
+using mms::CallFailure;
+using mms::CallOutcome;
+using mms::DataAccessError;
+
+constexpr auto asTuple = asio::experimental::as_tuple(asio::use_awaitable);
+
+mms::Error cancelledError()
+{
+    return {"The call was cancelled.", 0};
+}
+
+/// Some variables of a list that are asked for together.
+struct Range
+{
+    std::size_t first = 0;
+    std::size_t count = 0;
+};
+
+/// Octets that a PDU takes with all its lengths at their longest.
+std::size_t longestSize(mms::RequestService request)
+{
+    // Four lengths of a long PDU, each with up to three octets more than those of a short one.
+    constexpr std::size_t growth = 4 * 3;
+    constexpr std::uint32_t longInvokeId = 0x7fffffff;
+    return mms::encode(mms::ConfirmedRequestPdu{longInvokeId, std::move(request)}).size() + growth;
+}
+
+mms::RequestService readRequest(std::vector<mms::VariableAccess> variables)
+{
+    mms::ReadRequest request;
+    request.variables = std::move(variables);
+    return request;
+}
+
+mms::RequestService writeRequest(std::vector<mms::VariableAccess> variables,
+                                 std::vector<mms::Data> values)
+{
+    mms::WriteRequest request;
+    request.variables = std::move(variables);
+    request.values = std::move(values);
+    return request;
+}
+
+/// The list of @p sizes in as few ranges as fit @p room; what fits nowhere stands alone.
+std::deque<Range> ranges(const std::vector<std::size_t> &sizes, std::size_t room)
+{
+    std::deque<Range> result;
+    std::size_t used = 0;
+    for (std::size_t i = 0; i < sizes.size(); ++i) {
+        if (result.empty() || used + sizes[i] > room) {
+            result.push_back({i, 0});
+            used = 0;
+        }
+        ++result.back().count;
+        used += sizes[i];
+    }
+    return result;
+}
+
+/// Nothing more can be expected of the association or of this peer's service.
+bool endsAll(const CallOutcome &outcome)
+{
+    if (const auto *failure = std::get_if<CallFailure>(&outcome)) {
+        return failure->kind != CallFailure::Kind::TooLarge
+            && failure->kind != CallFailure::Kind::Malformed;
+    }
+    const auto *reject = std::get_if<mms::RejectPdu>(&outcome);
+    return reject && reject->rejected == mms::RejectedPdu::ConfirmedRequest
+        && reject->code == mms::rejectcodes::requestUnrecognizedService;
+}
+
+/// The error of a single variable that could not be asked for.
+DataAccessError accessErrorOf(const CallOutcome &outcome)
+{
+    const auto *error = std::get_if<mms::ServiceError>(&outcome);
+    if (!error || error->errorClass != mms::ErrorClass::Access)
+        return DataAccessError::ObjectAccessUnsupported;
+    switch (error->code) {
+    case mms::serviceerrors::accessNonExistent:
+        return DataAccessError::ObjectNonExistent;
+    case mms::serviceerrors::accessDenied:
+        return DataAccessError::ObjectAccessDenied;
+    case mms::serviceerrors::accessInvalidated:
+        return DataAccessError::ObjectInvalidated;
+    default:
+        return DataAccessError::ObjectAccessUnsupported;
+    }
+}
+
+std::string whyNot(const CallOutcome &outcome)
+{
+    std::string text = mms::failureText(outcome);
+    return text.empty() ? "The device's answer does not match the question." : text;
+}
+
+/// A long list on its way in several calls: gives ranges to ask for, takes what became of them.
+class ListCalls
+{
+public:
+    ListCalls(std::deque<Range> waiting, std::size_t size)
+        : m_waiting(std::move(waiting))
+        , m_size(size)
+    {
+    }
+
+    bool idle() const { return m_waiting.empty(); }
+    Range next()
+    {
+        const Range range = m_waiting.front();
+        m_waiting.pop_front();
+        return range;
+    }
+    /// The range was refused as a whole. The error of the variable when it is only one.
+    std::optional<DataAccessError> refused(const Range &range, const CallOutcome &outcome)
+    {
+        if (range.count > 1) {
+            const std::size_t half = range.count / 2;
+            m_waiting.push_front({range.first + half, range.count - half});
+            m_waiting.push_front({range.first, half});
+            return std::nullopt;
+        }
+        if (m_refused++ == 0)
+            m_reason = whyNot(outcome);
+        return accessErrorOf(outcome);
+    }
+    /// When not a single variable could be asked for.
+    std::optional<mms::Error> failure() const
+    {
+        if (m_refused == 0 || m_refused < m_size)
+            return std::nullopt;
+        return mms::Error{m_reason, 0};
+    }
+
+private:
+    std::deque<Range> m_waiting;
+    std::size_t m_size;
+    std::size_t m_refused = 0;
+    std::string m_reason;
+};
+
+template <typename T>
+std::vector<T> part(const std::vector<T> &list, const Range &range)
+{
+    const auto first = list.begin() + static_cast<std::ptrdiff_t>(range.first);
+    return std::vector<T>(first, first + static_cast<std::ptrdiff_t>(range.count));
+}
+
+} // namespace
+
+asio::awaitable<mms::Result<std::shared_ptr<Client>>>
+Client::connect(asio::any_io_executor executor, std::string host, std::uint16_t port,
+                ClientOptions options, std::function<void(const std::string &)> closed)
+{
+    const auto client = std::make_shared<Client>(Private(), std::move(options));
+    client->m_closed = std::move(closed);
+    client->m_association =
+        mms::Association::create(executor, client->m_options.association, client->handlers());
+    auto opening = open(client, std::move(host), port);
+    const mms::Result<void> opened =
+        co_await asio::co_spawn(client->strand(), std::move(opening), asio::use_awaitable);
+    if (!opened)
+        co_return opened.error();
+    co_return client;
+}
+
+asio::awaitable<mms::Result<void>> Client::open(std::shared_ptr<Client> client, std::string host,
+                                                std::uint16_t port)
+{
+    struct State
+    {
+        asio::steady_timer wake;
+        std::optional<mms::Result<void>> result;
+    };
+    const auto state = std::make_shared<State>(State{asio::steady_timer(client->strand()), {}});
+    client->m_association->connect(
+        std::move(host), port,
+        [state, weak = client->weak_from_this()](mms::Result<mms::InitiateParameters> opened) {
+            if (const auto self = weak.lock(); self && opened)
+                self->m_open = true;
+            state->result = opened ? mms::Result<void>() : opened.error();
+            state->wake.cancel();
+        });
+    while (!state->result) {
+        const auto cancellation = co_await asio::this_coro::cancellation_state;
+        if (cancellation.cancelled() != asio::cancellation_type::none)
+            co_return cancelledError();
+        state->wake.expires_at(asio::steady_timer::time_point::max());
+        co_await state->wake.async_wait(asTuple);
+    }
+    co_return *state->result;
+}
+
+Client::Client(Private, ClientOptions options)
+    : m_options(std::move(options))
+    , m_informationHandlers(std::make_shared<Entries<InformationHandler>>())
+    , m_requestHandlers(std::make_shared<Entries<RequestHandler>>())
+{
+}
+
+Client::~Client()
+{
+    if (m_association)
+        m_association->abort("The client is gone.");
+}
+
+mms::Association::Handlers Client::handlers()
+{
+    const auto weak = weak_from_this();
+    mms::Association::Handlers result;
+    result.request = [weak](const std::shared_ptr<mms::Association> &association,
+                            std::uint32_t invokeId, const mms::RequestService &request) {
+        const auto self = weak.lock();
+        if (!self || !offer(self->m_requestHandlers, invokeId, request))
+            association->reject(invokeId, mms::rejectcodes::requestUnrecognizedService);
+    };
+    result.report = [weak](const mms::InformationReport &report) {
+        const auto self = weak.lock();
+        if (self && !offer(self->m_informationHandlers, report))
+            ++self->m_unclaimed;
+    };
+    result.closed = [weak](const std::string &reason) {
+        if (const auto self = weak.lock())
+            self->ended(reason);
+    };
+    return result;
+}
+
+void Client::ended(const std::string &reason)
+{
+    m_open = false;
+    m_closeReason = reason;
+    if (const auto closed = std::exchange(m_closed, nullptr))
+        closed(reason);
+}
+
+mms::Error Client::endError(const CallOutcome &outcome) const
+{
+    return {m_open || m_closeReason.empty() ? whyNot(outcome) : m_closeReason, 0};
+}
+
+std::size_t Client::outstanding() const
+{
+    const auto agreed = m_association->negotiated().maxOutstandingCalling;
+    return static_cast<std::size_t>(std::max<std::int16_t>(agreed, 1));
+}
+
+asio::awaitable<void> Client::close()
+{
+    const auto self = shared_from_this();
+    if (!m_open)
+        co_return;
+    const mms::Result<void> concluded = co_await m_association->conclude();
+    if (!concluded && m_open)
+        m_association->abort("The peer does not conclude the association: "
+                             + concluded.error().message);
+}
+
+void Client::abort(const std::string &reason)
+{
+    m_association->abort(reason);
+}
+
+asio::awaitable<CallOutcome> Client::call(mms::RequestService request)
+{
+    const auto self = shared_from_this();
+    if (!m_open)
+        co_return CallFailure{CallFailure::Kind::NotOpen, m_closeReason};
+    co_return co_await m_association->call(std::move(request), m_options.callTimeout);
+}
+
+asio::awaitable<mms::Result<std::vector<std::string>>>
+Client::nameList(mms::ObjectClass objectClass, mms::Scope scope, std::string domain)
+{
+    const auto self = shared_from_this();
+    NamePages pages(objectClass, scope, std::move(domain));
+    while (!pages.complete()) {
+        auto page = co_await ask<mms::GetNameListResponse>(pages.request());
+        if (!page)
+            co_return page.error();
+        if (const auto taken = pages.take(std::move(*page)); !taken)
+            co_return taken.error();
+    }
+    co_return std::move(pages).names();
+}
+
+asio::awaitable<mms::Result<mms::TypeDescription>> Client::type(mms::ObjectName variable)
+{
+    const auto self = shared_from_this();
+    mms::GetVariableAccessAttributesRequest request;
+    request.variable = std::move(variable);
+    auto answer = co_await ask<mms::GetVariableAccessAttributesResponse>(std::move(request));
+    if (!answer)
+        co_return answer.error();
+    co_return std::move(answer->type);
+}
+
+asio::awaitable<mms::Result<std::vector<mms::AccessResult>>>
+Client::read(std::vector<mms::VariableAccess> variables)
+{
+    const auto self = shared_from_this();
+    const std::size_t frame = longestSize(readRequest({}));
+    std::vector<std::size_t> sizes;
+    if (variables.size() > 1) {
+        for (const mms::VariableAccess &variable : variables)
+            sizes.push_back(longestSize(readRequest({variable})) - frame);
+    } else {
+        sizes.resize(variables.size());
+    }
+    const std::size_t limit = m_association->pduSize();
+    ListCalls calls(ranges(sizes, limit - std::min(limit, frame)), variables.size());
+    std::vector<mms::AccessResult> results(variables.size(), DataAccessError::ObjectInvalidated);
+    std::map<std::size_t, Range> asked;
+    CallGroup group(self);
+    while (!calls.idle() || group.onTheWay() != 0) {
+        while (!calls.idle() && group.onTheWay() < outstanding()) {
+            const Range range = calls.next();
+            asked[range.first] = range;
+            group.start(range.first, readRequest(part(variables, range)), m_options.callTimeout);
+        }
+        auto arrival = co_await group.next();
+        if (!arrival)
+            co_return cancelledError();
+        const Range range = asked[arrival->id];
+        auto *service = std::get_if<mms::ResponseService>(&arrival->outcome);
+        auto *answer = service ? std::get_if<mms::ReadResponse>(service) : nullptr;
+        if (answer && answer->results.size() == range.count) {
+            std::ranges::move(answer->results,
+                              results.begin() + static_cast<std::ptrdiff_t>(range.first));
+        } else if (endsAll(arrival->outcome)) {
+            co_return endError(arrival->outcome);
+        } else if (const auto error = calls.refused(range, arrival->outcome)) {
+            results[range.first] = *error;
+        }
+    }
+    if (auto failure = calls.failure())
+        co_return std::move(*failure);
+    co_return results;
+}
+
+asio::awaitable<mms::Result<std::vector<mms::AccessResult>>>
+Client::readList(mms::ObjectName list)
+{
+    const auto self = shared_from_this();
+    mms::ReadRequest request;
+    request.variables = list;
+    CallOutcome outcome = co_await call(std::move(request));
+    if (const auto *answer = mms::answerOf<mms::ReadResponse>(outcome))
+        co_return answer->results;
+    const auto *refused = std::get_if<mms::ServiceError>(&outcome);
+    if (endsAll(outcome) || (refused && refused->errorClass == mms::ErrorClass::Access))
+        co_return endError(outcome);
+    mms::GetNamedVariableListAttributesRequest directory;
+    directory.name = std::move(list);
+    auto members =
+        co_await ask<mms::GetNamedVariableListAttributesResponse>(std::move(directory));
+    if (!members || members->members.empty())
+        co_return endError(outcome);
+    co_return co_await read(std::move(members->members));
+}
+
+asio::awaitable<mms::Result<mms::Data>> Client::readOne(mms::VariableAccess variable)
+{
+    std::vector<mms::VariableAccess> variables;
+    variables.push_back(std::move(variable));
+    auto results = co_await read(std::move(variables));
+    if (!results)
+        co_return results.error();
+    mms::AccessResult &result = results->front();
+    if (!result.ok())
+        co_return mms::Error{mms::describe(result.error()), 0};
+    co_return std::move(result).data();
+}
+
+asio::awaitable<mms::Result<std::vector<std::optional<DataAccessError>>>>
+Client::write(std::vector<mms::VariableAccess> variables, std::vector<mms::Data> values)
+{
+    const auto self = shared_from_this();
+    if (variables.size() != values.size())
+        co_return mms::Error{"Each variable needs one value to write.", 0};
+    const std::size_t frame = longestSize(writeRequest({}, {}));
+    std::vector<std::size_t> sizes;
+    if (variables.size() > 1) {
+        for (std::size_t i = 0; i < variables.size(); ++i)
+            sizes.push_back(longestSize(writeRequest({variables[i]}, {values[i]})) - frame);
+    } else {
+        sizes.resize(variables.size());
+    }
+    const std::size_t limit = m_association->pduSize();
+    ListCalls calls(ranges(sizes, limit - std::min(limit, frame)), variables.size());
+    std::vector<std::optional<DataAccessError>> results(variables.size());
+    // One request after the other: what is written keeps its order.
+    while (!calls.idle()) {
+        const Range range = calls.next();
+        const CallOutcome outcome =
+            co_await call(writeRequest(part(variables, range), part(values, range)));
+        const auto *answer = mms::answerOf<mms::WriteResponse>(outcome);
+        const auto *failure = std::get_if<CallFailure>(&outcome);
+        if (answer && answer->results.size() == range.count) {
+            std::ranges::copy(answer->results,
+                              results.begin() + static_cast<std::ptrdiff_t>(range.first));
+        } else if (endsAll(outcome) || std::holds_alternative<mms::ResponseService>(outcome)
+                   || (failure && failure->kind == CallFailure::Kind::Malformed)) {
+            // Writing again could do a thing twice.
+            co_return endError(outcome);
+        } else if (const auto error = calls.refused(range, outcome)) {
+            results[range.first] = error;
+        }
+    }
+    if (auto failure = calls.failure())
+        co_return std::move(*failure);
+    co_return results;
+}
+
+asio::awaitable<mms::Result<void>> Client::writeOne(mms::VariableAccess variable, mms::Data value)
+{
+    std::vector<mms::VariableAccess> variables;
+    variables.push_back(std::move(variable));
+    std::vector<mms::Data> values;
+    values.push_back(std::move(value));
+    const auto results = co_await write(std::move(variables), std::move(values));
+    if (!results)
+        co_return results.error();
+    if (const auto &error = results->front())
+        co_return mms::Error{mms::describe(*error), 0};
+    co_return mms::Result<void>();
+}
+
+template <typename Function>
+Client::Registration Client::add(std::shared_ptr<const Entries<Function>> &entries,
+                                 Function handler)
+{
+    const Registration id = ++m_lastRegistration;
+    auto changed = std::make_shared<Entries<Function>>(*entries);
+    changed->push_back(std::make_shared<Entry<Function>>(Entry<Function>{id, std::move(handler)}));
+    entries = std::move(changed);
+    return id;
+}
+
+template <typename Function>
+void Client::removeFrom(std::shared_ptr<const Entries<Function>> &entries, Registration id)
+{
+    const auto isMeant = [id](const auto &entry) { return entry->id == id; };
+    const auto found = std::ranges::find_if(*entries, isMeant);
+    if (found == entries->end())
+        return;
+    (*found)->removed = true;
+    auto changed = std::make_shared<Entries<Function>>(*entries);
+    std::erase_if(*changed, isMeant);
+    entries = std::move(changed);
+}
+
+template <typename Function, typename... Arguments>
+bool Client::offer(std::shared_ptr<const Entries<Function>> entries, const Arguments &...arguments)
+{
+    return std::ranges::any_of(*entries, [&](const auto &entry) {
+        return !entry->removed && entry->handler(arguments...);
+    });
+}
+
+Client::Registration Client::addInformationHandler(InformationHandler handler)
+{
+    return add(m_informationHandlers, std::move(handler));
+}
+
+Client::Registration Client::addRequestHandler(RequestHandler handler)
+{
+    return add(m_requestHandlers, std::move(handler));
+}
+
+void Client::remove(Registration registration)
+{
+    removeFrom(m_informationHandlers, registration);
+    removeFrom(m_requestHandlers, registration);
+}
+
+} // namespace acsi
