@@ -9,6 +9,8 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace sim {
 
@@ -54,8 +56,8 @@ public:
 
     Model &model() { return m_model; }
 
-    /// @p object decides about @p part from now on; a deeper one decides before it. Instead of the
-    /// object that stood there.
+    /// @p object decides about @p part, which is not inside an array, from now on; a deeper one
+    /// decides before it. Nothing stands there yet.
     void attach(const Part &part, std::shared_ptr<Object> object);
 
     mms::AccessResult read(Client &client, const mms::VariableAccess &access);
@@ -67,23 +69,21 @@ public:
                                               const mms::Data &value);
 
 private:
-    struct Place
-    {
-        Part part;
-        std::shared_ptr<Object> object;
-    };
+    using Key = std::pair<std::uint32_t, const LayoutNode *>; ///< logical node and node of its type
 
     /// The innermost object around a part.
     Object *around(const Part &part) const;
+    bool hasObjectsWithin(const Part &part) const;
     void refreshWithin(const Part &part);
     mms::AccessResult select(Client &client, const Part &part,
-                             std::span<const mms::AlternateAccess> parts);
+                             const std::vector<mms::AlternateAccess> &parts);
+    mms::AccessResult selectOne(Client &client, const Part &part,
+                                const mms::AlternateAccess &selection);
 
     Model &m_model;
     WriteRules m_rules;
-    /// By first leaf, then outer before inner.
-    std::map<std::pair<Leaf, std::uint32_t>, Place> m_objects;
-    std::uint32_t m_longest = 0;
+    std::map<Key, std::shared_ptr<Object>> m_objects;
+    std::multimap<Leaf, Object *> m_objectsByLeaf;
 };
 
 } // namespace sim

@@ -5,6 +5,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 namespace sim {
@@ -16,10 +17,13 @@ class Client
 public:
     virtual ~Client() = default;
 
-    /// Send a report. One that is longer than pduSize() is not sent.
+    /// Send a report. One that is longer than pduSize(), see mms::encodedSize(), is not sent.
     virtual void report(mms::InformationReport report) = 0;
     /// Octets that wait for the network: how far behind the client is.
     virtual std::size_t queued() const = 0;
+    /// Calls @p handler once, as soon as at most @p octets wait for the network; never when the
+    /// client leaves before.
+    virtual void whenQueued(std::size_t octets, std::function<void()> handler) = 0;
     /// Longest PDU that the client takes, in octets.
     virtual std::size_t pduSize() const = 0;
     /// Its network address in network order, 4 or 16 octets; empty when it is not known.

@@ -134,8 +134,9 @@ public:
         Leaf edited = 0;
     };
 
-    /// @p now is the time stamp of everything that has one.
-    Model(const scl::Ied &ied, const mms::UtcTime &now);
+    /// @p now is the time stamp of everything that has one. Control blocks of a device of the first
+    /// edition have no owner and no reservation time.
+    Model(const scl::Ied &ied, const mms::UtcTime &now, bool firstEdition = false);
     Model(const Model &) = delete;
     Model &operator=(const Model &) = delete;
     ~Model();
@@ -216,7 +217,7 @@ public:
 
     /// All settings of a logical device, which its setting group control block governs.
     std::vector<Setting> settings(const Domain &domain) const;
-    /// The value that the SCL file gives a setting in a group (from 1), else its value at the start.
+    /// The value that the SCL file gives a setting in a group (from 1), else its present value.
     mms::Data configuredValue(Leaf setting, std::uint32_t group) const;
 
 private:
@@ -225,7 +226,6 @@ private:
     static constexpr std::uint8_t triggerFlags = 7;
     static constexpr std::uint8_t readOnlyFlag = 8;
 
-    std::size_t store(const Part &part, std::span<const mms::Data> values);
     void notify();
 
     std::pmr::monotonic_buffer_resource m_memory; ///< names
