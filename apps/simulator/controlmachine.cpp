@@ -1,0 +1,327 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "simulator/controlmachine.h"
+
+#include "acsi/reference.h"
+
+#include <utility>
+
+namespace sim {
+
+namespace {
+
+using acsi::ControlModel;
+using acsi::ControlRequest;
+using mms::DataAccessError;
+
+constexpr std::int32_t highestCategory = 8;
+constexpr std::size_t longestIdentification = 64;
+
+bool selects(ControlModel model)
+{
+    return model == ControlModel::SelectNormal || model == ControlModel::SelectEnhanced;
+}
+
+bool isEnhanced(ControlModel model)
+{
+    return model == ControlModel::DirectEnhanced || model == ControlModel::SelectEnhanced;
+}
+
+/// A control service has to repeat what was selected; only its time may be another.
+bool repeats(const ControlRequest &selection, const ControlRequest &request)
+{
+    return selection.value == request.value && selection.originator == request.originator
+        && selection.ctlNum == request.ctlNum && selection.test == request.test
+        && selection.operateTime == request.operateTime
+        && selection.synchrocheck == request.synchrocheck
+        && selection.interlockCheck == request.interlockCheck;
+}
+
+bool isPlausible(const ControlRequest &request)
+{
+    return request.originator.category >= 0 && request.originator.category <= highestCategory
+        && request.originator.identification.size() <= longestIdentification;
+}
+
+std::int32_t errorOf(AddCause cause)
+{
+    switch (cause) {
+    case AddCause::TimeLimitOver:
+        return 2;
+    case AddCause::BlockedBySwitchingHierarchy:
+    case AddCause::BlockedByMode:
+    case AddCause::BlockedByProcess:
+    case AddCause::BlockedByInterlocking:
+    case AddCause::BlockedBySynchrocheck:
+    case AddCause::BlockedByHealth:
+        return 3;
+    default:
+        return 1;
+    }
+}
+
+bool isNow(const ControlRequest &request)
+{
+    return !request.operateTime
+        || (request.operateTime->seconds == 0 && request.operateTime->fraction == 0);
+}
+
+Clock::WallTime wallTimeOf(const mms::UtcTime &time)
+{
+    constexpr std::uint64_t nanosecondsPerSecond = 1000000000;
+    const auto rest = (time.fraction * nanosecondsPerSecond) >> 24U;
+    return Clock::WallTime(std::chrono::seconds(time.seconds) + std::chrono::nanoseconds(rest));
+}
+
+mms::VariableAccess variable(mms::ObjectName name)
+{
+    mms::VariableAccess access;
+    access.variable = std::move(name);
+    return access;
+}
+
+} // namespace
+
+ControlMachine::ControlMachine(std::string reference, ControlHost &host, const Clock &clock)
+    : m_reference(std::move(reference))
+    , m_host(host)
+    , m_clock(clock)
+{
+}
+
+bool ControlMachine::select(Client &client)
+{
+    const ControlSettings settings = m_host.settings();
+    if (settings.model != ControlModel::SelectNormal || isBusy())
+        return false;
+    if (m_state == State::Selected && m_client != &client)
+        return false;
+    m_selection.reset();
+    select(client, settings);
+    return true;
+}
+
+void ControlMachine::select(Client &client, const ControlSettings &settings)
+{
+    m_client = &client;
+    m_sboTimeout = settings.sboTimeout;
+    m_deadline = m_clock.steadyNow() + m_sboTimeout;
+    m_state = State::Selected;
+    setSelected(true);
+}
+
+void ControlMachine::setSelected(bool selected)
+{
+    if (m_selected == selected)
+        return;
+    m_selected = selected;
+    m_host.selected(selected);
+}
+
+ControlMachine::Answer ControlMachine::selectWithValue(Client &client,
+                                                       const ControlRequest &request)
+{
+    const ControlSettings settings = m_host.settings();
+    AddCause cause = AddCause::None;
+    if (settings.model != ControlModel::SelectEnhanced)
+        cause = AddCause::NotSupported;
+    else if (isBusy())
+        cause = AddCause::CommandAlreadyInExecution;
+    else if (m_state == State::Selected && m_client != &client)
+        cause = AddCause::ObjectAlreadySelected;
+    else if (!isPlausible(request))
+        cause = AddCause::InconsistentParameters;
+    else
+        cause = m_host.check(request);
+    if (cause != AddCause::None)
+        return refuse(client, "SBOw", request, cause);
+    m_selection = request;
+    select(client, settings);
+    return std::nullopt;
+}
+
+AddCause ControlMachine::mayOperate(const Client &client, const ControlRequest &request,
+                                    const ControlSettings &settings) const
+{
+    if (settings.model == ControlModel::StatusOnly)
+        return AddCause::NotSupported;
+    if (isBusy())
+        return m_client == &client ? AddCause::CommandAlreadyInExecution
+                                   : AddCause::LockedByOtherClient;
+    if (selects(settings.model)) {
+        if (m_state != State::Selected)
+            return AddCause::ObjectNotSelected;
+        if (m_client != &client)
+            return AddCause::LockedByOtherClient;
+        if (m_selection && !repeats(*m_selection, request))
+            return AddCause::InconsistentParameters;
+    }
+    if (!isPlausible(request))
+        return AddCause::InconsistentParameters;
+    if (!isNow(request) && wallTimeOf(*request.operateTime) <= m_clock.now())
+        return AddCause::InconsistentParameters;
+    return m_host.check(request);
+}
+
+ControlMachine::Answer ControlMachine::operate(Client &client, const ControlRequest &request,
+                                               const mms::Data &value)
+{
+    const ControlSettings settings = m_host.settings();
+    const AddCause cause = mayOperate(client, request, settings);
+    if (cause != AddCause::None) {
+        const Answer answer = refuse(client, "Oper", request, cause);
+        if (m_state == State::Selected && m_client == &client)
+            deselect();
+        return answer;
+    }
+    m_client = &client;
+    m_request = request;
+    m_value = value;
+    m_enhanced = isEnhanced(settings.model);
+    m_selection.reset();
+    setSelected(m_selected && settings.operateMany);
+    if (isNow(request)) {
+        start();
+    } else {
+        m_state = State::Waiting;
+        m_deadline = m_clock.steadyNow() + (wallTimeOf(*request.operateTime) - m_clock.now());
+    }
+    return std::nullopt;
+}
+
+void ControlMachine::start()
+{
+    const ControlSettings settings = m_host.settings();
+    m_state = State::Operating;
+    m_tooSlow = !settings.operatingTime || *settings.operatingTime > settings.operTimeout;
+    m_deadline = m_clock.steadyNow()
+        + (m_tooSlow ? settings.operTimeout : *settings.operatingTime);
+    m_host.started(m_request);
+}
+
+ControlMachine::Answer ControlMachine::cancel(Client &client, const ControlRequest &request)
+{
+    if (m_state == State::Idle)
+        return refuse(client, "Cancel", request, AddCause::ObjectNotSelected);
+    if (m_client != &client)
+        return refuse(client, "Cancel", request, AddCause::LockedByOtherClient);
+    if (m_state == State::Selected) {
+        deselect();
+        return std::nullopt;
+    }
+    if (m_state == State::Operating)
+        end(AddCause::AbortionByCancel);
+    else
+        terminate(AddCause::AbortionByCancel);
+    deselect();
+    return std::nullopt;
+}
+
+void ControlMachine::closed(const Client &client)
+{
+    if (m_client != &client)
+        return;
+    if (m_state == State::Selected || m_state == State::Waiting)
+        deselect();
+    setSelected(false);
+    m_client = nullptr;
+}
+
+void ControlMachine::deselect()
+{
+    m_state = State::Idle;
+    m_client = nullptr;
+    m_selection.reset();
+    m_deadline.reset();
+    setSelected(false);
+}
+
+std::optional<Clock::SteadyTime> ControlMachine::deadline() const
+{
+    return m_deadline;
+}
+
+void ControlMachine::advance()
+{
+    if (!m_deadline || m_clock.steadyNow() < *m_deadline)
+        return;
+    switch (m_state) {
+    case State::Idle:
+        m_deadline.reset();
+        break;
+    case State::Selected:
+        deselect();
+        break;
+    case State::Waiting: {
+        const AddCause cause = m_host.check(m_request);
+        if (cause == AddCause::None) {
+            start();
+        } else {
+            terminate(cause);
+            deselect();
+        }
+        break;
+    }
+    case State::Operating:
+        end(m_tooSlow ? AddCause::TimeLimitOver : AddCause::None);
+        break;
+    }
+}
+
+void ControlMachine::end(AddCause cause)
+{
+    m_deadline.reset();
+    if (cause == AddCause::None)
+        m_host.finished(m_request);
+    else
+        m_host.stopped(m_request, cause);
+    terminate(cause);
+    if (m_selected && m_client) {
+        m_state = State::Selected;
+        m_deadline = m_clock.steadyNow() + m_sboTimeout;
+    } else {
+        deselect();
+    }
+}
+
+void ControlMachine::terminate(AddCause cause)
+{
+    if (!m_enhanced || !m_client)
+        return;
+    const std::size_t slash = m_reference.find('/');
+    mms::InformationReport report;
+    std::vector<mms::VariableAccess> variables;
+    if (cause != AddCause::None) {
+        variables.push_back(variable(mms::ObjectName::ofVmd("LastApplError")));
+        report.results.push_back(acsi::toData(lastApplError("Oper", m_request, cause)));
+    }
+    variables.push_back(variable(mms::ObjectName::inDomain(
+        m_reference.substr(0, slash), m_reference.substr(slash + 1) + "$Oper")));
+    report.results.push_back(m_value);
+    report.variables = std::move(variables);
+    m_host.send(*m_client, std::move(report));
+}
+
+acsi::LastApplError ControlMachine::lastApplError(std::string_view service,
+                                                  const ControlRequest &request,
+                                                  AddCause cause) const
+{
+    acsi::LastApplError error;
+    error.controlObject = m_reference + '$' + std::string(service);
+    error.error = errorOf(cause);
+    error.originator = request.originator;
+    error.ctlNum = request.ctlNum;
+    error.addCause = static_cast<std::int32_t>(cause);
+    return error;
+}
+
+ControlMachine::Answer ControlMachine::refuse(Client &client, std::string_view service,
+                                              const ControlRequest &request, AddCause cause)
+{
+    mms::InformationReport report;
+    report.variables = std::vector{variable(mms::ObjectName::ofVmd("LastApplError"))};
+    report.results.push_back(acsi::toData(lastApplError(service, request, cause)));
+    m_host.send(client, std::move(report));
+    return DataAccessError::ObjectAccessDenied;
+}
+
+} // namespace sim

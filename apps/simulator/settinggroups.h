@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "simulator/client.h"
+#include "simulator/clock.h"
+
+#include <chrono>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace sim {
+
+/// What a setting group control block needs from its device. Groups count from 1.
+class SettingGroupHost
+{
+public:
+    virtual ~SettingGroupHost() = default;
+
+    /// The values of @p group become the active ones.
+    virtual void activate(std::uint32_t group) = 0;
+    /// The values of @p group are copied to be edited.
+    virtual void edit(std::uint32_t group) = 0;
+    /// The values that were edited become those of @p group.
+    virtual void keep(std::uint32_t group) = 0;
+};
+
+/// The state machine of a setting group control block (IEC 61850-7-2, 16). One client edits one
+/// group at a time; what it does not confirm is forgotten.
+class SettingGroups
+{
+public:
+    struct Config
+    {
+        std::uint32_t count = 1;
+        std::uint32_t active = 1;
+        /// Until an edit without activity is given up; zero for never.
+        std::chrono::seconds reservation{0};
+    };
+
+    SettingGroups(Config config, SettingGroupHost &host, const Clock &clock);
+
+    /// The value of an attribute ("ActSG"); none for a name that no block has.
+    std::optional<mms::Data> value(std::string_view attribute) const;
+    /// @p data is of the attribute's type. None when it was written.
+    std::optional<mms::DataAccessError> write(Client &client, std::string_view attribute,
+                                              const mms::Data &data);
+    /// None when @p client may change a setting of the group being edited now.
+    std::optional<mms::DataAccessError> writeSetting(const Client &client);
+    /// Whether there is something to read of a group being edited.
+    bool isEditing() const { return m_edited != 0; }
+    void closed(const Client &client);
+
+    std::optional<Clock::SteadyTime> deadline() const { return m_deadline; }
+    void advance();
+
+private:
+    std::optional<mms::DataAccessError> selectEdited(Client &client, std::uint64_t group);
+    void touch();
+    void release();
+
+    Config m_config;
+    SettingGroupHost &m_host;
+    const Clock &m_clock;
+    std::uint32_t m_active;
+    std::uint32_t m_edited = 0;
+    const Client *m_client = nullptr;
+    mms::UtcTime m_activatedAt;
+    std::optional<Clock::SteadyTime> m_deadline;
+};
+
+} // namespace sim
