@@ -66,13 +66,14 @@ std::shared_ptr<Association> Association::create(asio::any_io_executor executor,
 std::shared_ptr<Association> Association::serve(Link::Strand strand, asio::ip::tcp::socket socket,
                                                 AssociationOptions options, Handlers handlers,
                                                 OpenHandler opened,
-                                                std::weak_ptr<Association> &self)
+                                                std::weak_ptr<Association> &self,
+                                                std::shared_ptr<const TlsContext> tls)
 {
     const auto association =
         std::make_shared<Association>(Private(), strand, std::move(options), std::move(handlers));
     association->m_opened = std::move(opened);
-    association->m_link =
-        std::make_shared<Link>(strand, association->m_options.link, std::move(socket));
+    association->m_link = std::make_shared<Link>(strand, association->m_options.link,
+                                                 std::move(socket), std::move(tls));
     self = association;
     asio::dispatch(strand, [association] {
         association->m_link->serve(

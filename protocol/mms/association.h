@@ -113,11 +113,13 @@ public:
     static std::shared_ptr<Association> create(asio::any_io_executor executor,
                                                AssociationOptions options, Handlers handlers);
     /// The side that was connected to. The executor of @p socket is @p strand; @p self is set
-    /// before the first handler is called.
+    /// before the first handler is called. @p tls is what LinkOptions::tls describes, where it is
+    /// loaded already.
     static std::shared_ptr<Association> serve(Link::Strand strand, asio::ip::tcp::socket socket,
                                               AssociationOptions options, Handlers handlers,
                                               OpenHandler opened,
-                                              std::weak_ptr<Association> &self);
+                                              std::weak_ptr<Association> &self,
+                                              std::shared_ptr<const TlsContext> tls = {});
     Association(Private, Link::Strand strand, AssociationOptions options, Handlers handlers);
     ~Association();
 
@@ -156,6 +158,8 @@ public:
     std::size_t pduSize() const { return m_pduSize; }
     /// Octets that wait for the network; in the strand.
     std::size_t queued() const { return m_link->queued(); }
+    /// Who the peer of an association with TLS is; in the strand, from opening on.
+    std::optional<TlsPeer> tlsPeer() const { return m_link->tlsPeer(); }
     const Link::Strand &strand() const { return m_strand; }
     AssociationCounters counters() const;
 

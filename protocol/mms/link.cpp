@@ -6,7 +6,6 @@
 #include <asio/detached.hpp>
 #include <asio/experimental/as_tuple.hpp>
 #include <asio/use_awaitable.hpp>
-#include <asio/write.hpp>
 
 #include <algorithm>
 #include <array>
@@ -23,6 +22,12 @@ template <typename Event>
 constexpr bool endsAssociation = std::is_same_v<Event, AssociateRefused>
     || std::is_same_v<Event, ReleaseConfirm> || std::is_same_v<Event, AssociationLost>;
 
+/// Whether a connection begins as those with TLS do: with a handshake or an alert.
+bool isTls(std::uint8_t firstOctet)
+{
+    return firstOctet == 0x15 || firstOctet == 0x16;
+}
+
 void prepare(asio::ip::tcp::socket &socket)
 {
     asio::error_code ignored;
@@ -36,7 +41,7 @@ Link::Link(Strand strand, LinkOptions options)
     : m_strand(std::move(strand))
     , m_options(std::move(options))
     , m_stack(Stack::Role::Initiator, m_options.stack)
-    , m_socket(m_strand)
+    , m_stream(asio::ip::tcp::socket(m_strand))
     , m_resolver(m_strand)
     , m_establishTimer(m_strand)
     , m_sendTimer(m_strand)
@@ -45,18 +50,20 @@ Link::Link(Strand strand, LinkOptions options)
 {
 }
 
-Link::Link(Strand strand, LinkOptions options, asio::ip::tcp::socket socket)
+Link::Link(Strand strand, LinkOptions options, asio::ip::tcp::socket socket,
+           std::shared_ptr<const TlsContext> tls)
     : m_strand(std::move(strand))
     , m_options(std::move(options))
     , m_stack(Stack::Role::Responder, m_options.stack)
-    , m_socket(std::move(socket))
+    , m_stream(std::move(socket))
+    , m_tls(std::move(tls))
     , m_resolver(m_strand)
     , m_establishTimer(m_strand)
     , m_sendTimer(m_strand)
     , m_releaseTimer(m_strand)
     , m_interference(m_options.interference ? m_options.interference() : nullptr)
 {
-    prepare(m_socket);
+    prepare(m_stream.socket());
 }
 
 std::size_t Link::queued() const
@@ -106,7 +113,7 @@ void Link::serve(Handler handler)
     m_handler = std::move(handler);
     arm(Watch::Establish);
     asio::co_spawn(
-        m_strand, [self = shared_from_this()] { return self->readLoop(); }, asio::detached);
+        m_strand, [self = shared_from_this()] { return self->attend(); }, asio::detached);
 }
 
 void Link::accept(Bytes pdu)
@@ -136,7 +143,7 @@ void Link::pass(Bytes pdu, bool accepts)
     if (m_interference) {
         auto outgoing = m_interference->outgoing(pdu);
         if (outgoing.delay.count() <= 0) {
-            emit(outgoing, accepts);
+            transmit(outgoing, accepts);
             return;
         }
         const auto timer = m_delays.emplace(m_delays.end(), m_strand, outgoing.delay);
@@ -144,7 +151,7 @@ void Link::pass(Bytes pdu, bool accepts)
                            accepts](const asio::error_code &error) {
             self->m_delays.erase(timer);
             if (!error)
-                self->emit(outgoing, accepts);
+                self->transmit(outgoing, accepts);
         });
         return;
     }
@@ -155,7 +162,7 @@ void Link::pass(Bytes pdu, bool accepts)
     apply(accepts ? m_stack.accept(pdu) : m_stack.send(pdu));
 }
 
-void Link::emit(const Interference::Outgoing &outgoing, bool accepts)
+void Link::transmit(const Interference::Outgoing &outgoing, bool accepts)
 {
     if (m_resetWhenSent || m_stack.isClosed())
         return;
@@ -218,7 +225,8 @@ asio::awaitable<void> Link::establish(std::string host, std::uint16_t port, Octe
     }
     if (m_stack.isClosed())
         co_return;
-    const auto [connectError, endpoint] = co_await asio::async_connect(m_socket, endpoints, asTuple);
+    const auto [connectError, endpoint] =
+        co_await asio::async_connect(m_stream.socket(), endpoints, asTuple);
     if (connectError) {
         lose("No connection to " + host + " port " + std::to_string(port) + ": "
              + connectError.message() + ".");
@@ -228,11 +236,40 @@ asio::awaitable<void> Link::establish(std::string host, std::uint16_t port, Octe
         closeSocket();
         co_return;
     }
-    prepare(m_socket);
+    prepare(m_stream.socket());
+    if (!co_await secure(TlsRole::Client))
+        co_return;
     if (m_options.trace)
         m_options.trace(Direction::Sent, pdu);
     apply(m_stack.connect(pdu));
     co_await readLoop();
+}
+
+asio::awaitable<void> Link::attend()
+{
+    const auto self = shared_from_this();
+    if (co_await secure(TlsRole::Server))
+        co_await readLoop();
+}
+
+asio::awaitable<bool> Link::secure(TlsRole role)
+{
+    if (!m_options.tls)
+        co_return true;
+    if (!m_tls) {
+        auto loaded = TlsContext::load(*m_options.tls);
+        if (!loaded) {
+            lose(loaded.error().message);
+            co_return false;
+        }
+        m_tls = *std::move(loaded);
+    }
+    m_isSecuring = true;
+    const auto secured = co_await m_stream.handshake(m_tls, role);
+    m_isSecuring = false;
+    if (!secured)
+        lose(secured.error().message);
+    co_return secured.ok() && !m_stack.isClosed();
 }
 
 asio::awaitable<void> Link::readLoop()
@@ -240,12 +277,15 @@ asio::awaitable<void> Link::readLoop()
     const auto self = shared_from_this();
     // Not a member: an association that is idle keeps no buffer of a coroutine that ended.
     std::array<std::uint8_t, readPortion> buffer{};
+    bool isFirst = true;
     while (true) {
-        const auto [error, count] = co_await m_socket.async_read_some(asio::buffer(buffer), asTuple);
+        const auto [error, count] = co_await m_stream.readSome(asio::buffer(buffer));
         if (error) {
-            lose(error == asio::error::eof ? "The peer closed the network connection."
-                                           : "The network connection broke: " + error.message()
-                         + ".");
+            lose(m_stream.describe(error));
+            co_return;
+        }
+        if (std::exchange(isFirst, false) && !m_stream.isSecure() && isTls(buffer[0])) {
+            lose("The peer speaks TLS, which is not configured here.");
             co_return;
         }
         apply(m_stack.receive(Bytes(buffer).first(count)));
@@ -257,24 +297,38 @@ asio::awaitable<void> Link::readLoop()
 asio::awaitable<void> Link::writeLoop()
 {
     const auto self = shared_from_this();
-    m_isWriting = true;
     while (!m_queue.empty()) {
-        m_writing = std::exchange(m_queue, {});
+        std::swap(m_writing, m_queue);
         arm(Watch::Send);
-        const auto [error, count] =
-            co_await asio::async_write(m_socket, asio::buffer(m_writing), asTuple);
+        const auto error = co_await m_stream.write(asio::buffer(m_writing));
         disarm(Watch::Send);
         m_writing.clear();
         if (error) {
             m_queue.clear();
-            lose("The network connection broke: " + error.message() + ".");
+            lose(m_stream.describe(error));
             break;
         }
         tellQueued();
     }
+    for (Octets *buffer : {&m_queue, &m_writing}) {
+        if (buffer->capacity() > readPortion)
+            Octets().swap(*buffer);
+    }
+    if (m_closeWhenSent && !m_resetWhenSent && m_stream.isSecure()) {
+        arm(Watch::Release);
+        co_await m_stream.shutdown();
+        disarm(Watch::Release);
+    }
     m_isWriting = false;
     if (m_closeWhenSent)
         closeSocket();
+}
+
+void Link::startWriting()
+{
+    m_isWriting = true;
+    asio::co_spawn(
+        m_strand, [self = shared_from_this()] { return self->writeLoop(); }, asio::detached);
 }
 
 void Link::apply(StackOutput output)
@@ -282,11 +336,9 @@ void Link::apply(StackOutput output)
     m_queue.insert(m_queue.end(), output.octets.begin(), output.octets.end());
     if (output.closeNetwork)
         m_closeWhenSent = true;
-    if (!m_queue.empty() && !m_isWriting) {
-        m_isWriting = true;
-        asio::co_spawn(
-            m_strand, [self = shared_from_this()] { return self->writeLoop(); }, asio::detached);
-    }
+    const bool saysGoodbye = m_closeWhenSent && m_stream.isSecure();
+    if ((!m_queue.empty() || saysGoodbye) && !m_isWriting)
+        startWriting();
     for (StackEvent &event : output.events)
         deliver(std::move(event));
     if (m_closeWhenSent && !m_isWriting)
@@ -358,7 +410,9 @@ void Link::arm(Watch watch)
             return;
         switch (watch) {
         case Watch::Establish:
-            self->lose("The peer did not complete the association in time.");
+            self->lose(!self->m_stream.refusal().empty() ? self->m_stream.refusal()
+                       : self->m_isSecuring ? "The peer did not complete the TLS handshake in time."
+                                            : "The peer did not complete the association in time.");
             break;
         case Watch::Send:
             self->lose("The peer does not read what it is sent.");
@@ -384,15 +438,13 @@ asio::steady_timer &Link::timerOf(Watch watch)
 
 void Link::closeSocket()
 {
-    asio::error_code ignored;
     m_resolver.cancel();
     for (asio::steady_timer &delay : m_delays)
         delay.cancel();
     if (m_resetWhenSent)
-        m_socket.set_option(asio::socket_base::linger(true, 0), ignored);
+        m_stream.reset();
     else
-        m_socket.shutdown(asio::ip::tcp::socket::shutdown_both, ignored);
-    m_socket.close(ignored);
+        m_stream.close();
 }
 
 } // namespace mms

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "mms/interference.h"
+#include "mms/networkstream.h"
 #include "mms/stack.h"
 #include "mms/trace.h"
 
@@ -15,6 +16,7 @@
 #include <functional>
 #include <list>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -32,6 +34,8 @@ struct LinkOptions
     /// Octets that may wait for the network before the peer is cut off.
     std::size_t maxQueued = 16 * 1024 * 1024;
     TraceHook trace;
+    /// Without, the connection is plain.
+    std::optional<TlsOptions> tls;
     /// Makes what changes PDUs of a link on their way, to simulate devices that misbehave; usually
     /// null. Called when a link is made.
     std::function<std::unique_ptr<Interference>()> interference;
@@ -50,13 +54,17 @@ public:
 
     /// The end that connects.
     Link(Strand strand, LinkOptions options);
-    /// The end that was connected to.
-    Link(Strand strand, LinkOptions options, asio::ip::tcp::socket socket);
+    /// The end that was connected to. @p tls is what LinkOptions::tls describes, where it is loaded
+    /// already.
+    Link(Strand strand, LinkOptions options, asio::ip::tcp::socket socket,
+         std::shared_ptr<const TlsContext> tls = {});
     Link(const Link &) = delete;
     Link &operator=(const Link &) = delete;
 
     const Strand &strand() const { return m_strand; }
     bool isOpen() const { return m_stack.isOpen(); }
+    /// Of a connection with TLS.
+    std::optional<TlsPeer> tlsPeer() const { return m_stream.peer(); }
     /// Octets that wait for the network.
     std::size_t queued() const;
     /// Calls @p handler once at most @p octets wait, at once when they do already; never after the
@@ -89,10 +97,12 @@ private:
     };
 
     asio::awaitable<void> establish(std::string host, std::uint16_t port, Octets pdu);
+    asio::awaitable<void> attend();
+    asio::awaitable<bool> secure(TlsRole role);
     asio::awaitable<void> readLoop();
     asio::awaitable<void> writeLoop();
     void pass(Bytes pdu, bool accepts);
-    void emit(const Interference::Outgoing &outgoing, bool accepts);
+    void transmit(const Interference::Outgoing &outgoing, bool accepts);
     void apply(StackOutput output);
     void deliver(StackEvent event);
     void lose(const std::string &reason);
@@ -100,17 +110,20 @@ private:
     void disarm(Watch watch);
     asio::steady_timer &timerOf(Watch watch);
     void tellQueued();
+    void startWriting();
     void closeSocket();
 
     Strand m_strand;
     LinkOptions m_options;
     Stack m_stack;
-    asio::ip::tcp::socket m_socket;
+    NetworkStream m_stream;
+    std::shared_ptr<const TlsContext> m_tls;
     asio::ip::tcp::resolver m_resolver;
     asio::steady_timer m_establishTimer;
     asio::steady_timer m_sendTimer;
     asio::steady_timer m_releaseTimer;
     Handler m_handler;
+    bool m_isSecuring = false;
     Octets m_queue;
     Octets m_writing;
     std::vector<QueueWatch> m_queueWatches;

@@ -21,6 +21,8 @@ constexpr std::chrono::milliseconds pauseAfterFailure{100};
 
 void ServerHandler::opened(const std::shared_ptr<Association> &) {}
 
+void ServerHandler::refused(const std::string &) {}
+
 void ServerHandler::closed(const std::shared_ptr<Association> &, const std::string &) {}
 
 std::shared_ptr<Server> Server::create(asio::any_io_executor executor, ServerOptions options,
@@ -42,6 +44,8 @@ Server::Server(Private, asio::any_io_executor executor, ServerOptions options,
 
 Result<std::uint16_t> Server::start()
 {
+    if (auto loaded = reloadTls(); !loaded)
+        return loaded.error();
     asio::error_code error;
     const auto address = asio::ip::make_address(m_options.address, error);
     if (error)
@@ -65,6 +69,19 @@ Result<std::uint16_t> Server::start()
     asio::co_spawn(
         m_strand, [self = shared_from_this()] { return self->acceptLoop(); }, asio::detached);
     return local.port();
+}
+
+Result<void> Server::reloadTls()
+{
+    if (!m_options.association.link.tls)
+        return {};
+    auto loaded = TlsContext::load(*m_options.association.link.tls);
+    if (!loaded)
+        return loaded.error();
+    asio::dispatch(m_strand, [self = shared_from_this(), tls = *std::move(loaded)]() mutable {
+        self->m_tls = std::move(tls);
+    });
+    return {};
 }
 
 void Server::stop()
@@ -120,14 +137,16 @@ void Server::take(Link::Strand strand, asio::ip::tcp::socket socket)
         forget();
     };
     auto opened = [handler = m_handler, place, forget](const Result<InitiateParameters> &result) {
-        if (result)
+        if (result) {
             handler->opened(place->lock());
-        else
+        } else {
+            handler->refused(result.error().message);
             forget();
+        }
     };
     const auto association =
         Association::serve(std::move(strand), std::move(socket), m_options.association,
-                           std::move(handlers), std::move(opened), *place);
+                           std::move(handlers), std::move(opened), *place, m_tls);
     m_associations.insert(association);
     m_count = m_associations.size();
 }

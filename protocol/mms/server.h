@@ -35,6 +35,9 @@ public:
     /// Answer once with respond(), fail() or reject(), now or later, from any thread.
     virtual void request(const std::shared_ptr<Association> &association, std::uint32_t invokeId,
                          RequestService request) = 0;
+    /// A connection has ended before it became an association, for instance because the peer could
+    /// not prove who it is; one sentence says why.
+    virtual void refused(const std::string &reason);
     /// An association that had been opened has ended.
     virtual void closed(const std::shared_ptr<Association> &association, const std::string &reason);
 };
@@ -55,8 +58,11 @@ public:
     Server(Private, asio::any_io_executor executor, ServerOptions options,
            std::shared_ptr<ServerHandler> handler);
 
-    /// Listen; the port that is used.
+    /// Listen; the port that is used. With TLS its files are read once, here.
     Result<std::uint16_t> start();
+    /// Read the files of TLS again, such as new revocation lists; connections from now on use them.
+    /// After an error the old ones stay in use.
+    Result<void> reloadTls();
     /// Listen no more and abort all associations.
     void stop();
     /// Connections, opened or not. In no strand; changes at any time.
@@ -73,6 +79,7 @@ private:
     std::shared_ptr<ServerHandler> m_handler;
     Link::Strand m_strand;
     asio::ip::tcp::acceptor m_acceptor;
+    std::shared_ptr<const TlsContext> m_tls;
     std::set<std::shared_ptr<Association>> m_associations;
     std::atomic<std::size_t> m_count{0};
     std::atomic<std::uint64_t> m_turnedAway{0};

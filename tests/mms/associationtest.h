@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
 
 namespace mmstest {
@@ -49,12 +50,17 @@ public:
 
     void closed(const std::shared_ptr<Association> &, const std::string &reason) override
     {
-        end.setter()(reason);
+        if (!m_ended.exchange(true))
+            end.setter()(reason);
     }
 
     bool reportOnOpening = false;
     std::atomic<int> openings{0};
+    /// Why the first association ended.
     Awaited<std::string> end;
+
+private:
+    std::atomic<bool> m_ended{false};
 };
 
 inline AssociationOptions quickOptions()
@@ -89,6 +95,7 @@ protected:
     Result<InitiateParameters> connect(std::uint16_t port, AssociationOptions options,
                                        Association::Handlers handlers = {})
     {
+        m_clientEnd = {};
         if (!handlers.closed)
             handlers.closed = m_clientEnd.setter();
         m_client = Association::create(m_loop.executor(), std::move(options), std::move(handlers));

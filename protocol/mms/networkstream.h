@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "mms/tls.h"
+
+#include <asio/awaitable.hpp>
+#include <asio/buffer.hpp>
+#include <asio/ip/tcp.hpp>
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace mms {
+
+/// A TCP connection, secured by TLS or plain. It belongs to the socket's executor, which is a
+/// strand. At most one read and one write may be under way; close() ends them.
+class NetworkStream
+{
+public:
+    using Socket = asio::ip::tcp::socket;
+
+    struct Read
+    {
+        asio::error_code error;
+        std::size_t count = 0;
+    };
+
+    explicit NetworkStream(Socket socket);
+    ~NetworkStream();
+    NetworkStream(const NetworkStream &) = delete;
+    NetworkStream &operator=(const NetworkStream &) = delete;
+
+    Socket &socket() { return m_socket; }
+    bool isSecure() const { return m_tls != nullptr; }
+
+    /// Secure the connection, which stands; before the first read and write. The error is one
+    /// sentence; the connection is of no use then and drained until the peer has closed it, so that
+    /// the peer learns the reason.
+    asio::awaitable<Result<void>> handshake(std::shared_ptr<const TlsContext> context, TlsRole role);
+    /// What a handshake that has failed said, also while the peer is waited for; empty otherwise.
+    const std::string &refusal() const { return m_refusal; }
+
+    asio::awaitable<Read> readSome(asio::mutable_buffer buffer);
+    asio::awaitable<asio::error_code> write(asio::const_buffer buffer);
+    /// Tell the peer that nothing follows, and wait until it does the same.
+    asio::awaitable<void> shutdown();
+    void close();
+    /// Close without the usual ceremony, so that the peer sees a reset.
+    void reset();
+
+    /// What a failure of readSome() or write() means, as one sentence.
+    std::string describe(const asio::error_code &error) const;
+    std::optional<TlsPeer> peer() const;
+
+private:
+    struct Tls;
+
+    std::string handshakeFailure(const asio::error_code &error, TlsRole role,
+                                 bool isPlainPeer) const;
+
+    Socket m_socket;
+    std::unique_ptr<Tls> m_tls;
+    std::string m_refusal;
+};
+
+} // namespace mms
