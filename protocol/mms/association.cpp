@@ -172,6 +172,7 @@ void Association::cancelInStrand(CallId id)
         return;
     const CallTable::Ticket ticket = found->first;
     m_table.cancel(ticket, CallTable::Clock::now());
+    tellCancelled(ticket);
     finish(ticket, failure(CallFailure::Kind::Cancelled, "The call was cancelled."));
     startTimer();
 }
@@ -180,8 +181,8 @@ void Association::respond(std::uint32_t invokeId, ResponseService response)
 {
     asio::dispatch(m_strand, [self = shared_from_this(), invokeId,
                               response = std::move(response)]() mutable {
-        if (self->m_requestsOpen > 0)
-            --self->m_requestsOpen;
+        if (!self->closeRequest(invokeId))
+            return;
         if (self->send(ConfirmedResponsePdu{invokeId, std::move(response)}))
             return;
         ServiceError error{ErrorClass::Resource, serviceerrors::resourceOther, {}, {}, {}};
@@ -193,19 +194,27 @@ void Association::fail(std::uint32_t invokeId, ServiceError error)
 {
     asio::dispatch(m_strand,
                    [self = shared_from_this(), invokeId, error = std::move(error)]() mutable {
-                       if (self->m_requestsOpen > 0)
-                           --self->m_requestsOpen;
-                       self->send(ConfirmedErrorPdu{invokeId, std::nullopt, std::move(error)});
+                       if (self->closeRequest(invokeId))
+                           self->send(
+                               ConfirmedErrorPdu{invokeId, std::nullopt, std::move(error)});
                    });
 }
 
 void Association::reject(std::uint32_t invokeId, std::int32_t code)
 {
     asio::dispatch(m_strand, [self = shared_from_this(), invokeId, code] {
-        if (self->m_requestsOpen > 0)
-            --self->m_requestsOpen;
-        self->send(RejectPdu{invokeId, RejectedPdu::ConfirmedRequest, code});
+        if (self->closeRequest(invokeId))
+            self->send(RejectPdu{invokeId, RejectedPdu::ConfirmedRequest, code});
     });
+}
+
+bool Association::closeRequest(std::uint32_t invokeId)
+{
+    const auto found = std::ranges::find(m_openRequests, invokeId);
+    if (found == m_openRequests.end())
+        return false;
+    m_openRequests.erase(found);
+    return true;
 }
 
 void Association::report(InformationReport report, std::function<void(ReportFate)> handler)
@@ -334,6 +343,7 @@ void Association::handleIndication(const AssociateIndication &indication)
     for (std::size_t bit = 0; bit < agreed.parameters.size(); ++bit)
         agreed.parameters.set(bit, agreed.parameters.test(bit) && asked.parameters.test(bit));
     m_table.setLimit(static_cast<std::size_t>(agreed.maxOutstandingCalled));
+    m_peerServices = asked.services;
     m_link->accept(encode(InitiateResponsePdu{agreed}));
     open(agreed);
 }
@@ -368,6 +378,7 @@ void Association::handleConfirm(const AssociateConfirm &confirm)
         std::min(agreed.maxOutstandingCalling, m_options.maxOutstandingCalling);
     m_table.setLimit(
         static_cast<std::size_t>(std::max<std::int16_t>(agreed.maxOutstandingCalling, 1)));
+    m_peerServices = agreed.services;
     open(agreed);
 }
 
@@ -389,11 +400,17 @@ void Association::handlePdu(Bytes octets)
         auto *report = std::get_if<InformationReport>(&unconfirmed->service);
         if (report && m_handlers.report)
             m_handlers.report(std::move(*report));
-    } else if (std::holds_alternative<RejectPdu>(*pdu)) {
-        handleAnswer(head.value_or(PduHead()), octets);
+    } else if (const auto *reject = std::get_if<RejectPdu>(&*pdu)) {
+        handleReject(*reject, head.value_or(PduHead()), octets);
     } else if (const auto *cancel = std::get_if<CancelRequestPdu>(&*pdu)) {
-        ServiceError error{ErrorClass::Cancel, serviceerrors::cancelNotPossible, {}, {}, {}};
-        send(CancelErrorPdu{cancel->invokeId, std::move(error)});
+        handleCancel(cancel->invokeId);
+    } else if (const auto *refused = std::get_if<CancelErrorPdu>(&*pdu)) {
+        // What the peer does not know it will not answer either; else the answer frees the place.
+        if (refused->error.errorClass == ErrorClass::Cancel
+            && refused->error.code == serviceerrors::cancelInvokeIdUnknown) {
+            m_table.forget(refused->invokeId);
+            sendCalls();
+        }
     } else if (std::holds_alternative<ConcludeRequestPdu>(*pdu)) {
         send(ConcludeResponsePdu());
     } else if (std::holds_alternative<ConcludeResponsePdu>(*pdu)) {
@@ -407,14 +424,53 @@ void Association::handlePdu(Bytes octets)
     }
 }
 
+void Association::handleReject(const RejectPdu &reject, const PduHead &head, Bytes octets)
+{
+    switch (reject.rejected) {
+    case RejectedPdu::ConfirmedRequest:
+    case RejectedPdu::PduError:
+        handleAnswer(head, octets);
+        return;
+    case RejectedPdu::CancelRequest:
+        m_refusesCancel = true;
+        return;
+    case RejectedPdu::ConcludeRequest:
+        if (auto concluded = std::exchange(m_concluded, nullptr)) {
+            m_link->forgetRelease();
+            concluded(Error{describe(reject) + '.', 0});
+        }
+        return;
+    default:
+        return;
+    }
+}
+
+void Association::handleCancel(std::uint32_t invokeId)
+{
+    const auto refuse = [this, invokeId](std::int32_t code) {
+        send(CancelErrorPdu{invokeId, {ErrorClass::Cancel, code, {}, {}, {}}});
+    };
+    if (!std::ranges::count(m_openRequests, invokeId))
+        return refuse(serviceerrors::cancelInvokeIdUnknown);
+    if (!m_handlers.cancel || !m_handlers.cancel(shared_from_this(), invokeId))
+        return refuse(serviceerrors::cancelNotPossible);
+    if (!closeRequest(invokeId))
+        return refuse(serviceerrors::cancelInvokeIdUnknown);
+    send(CancelResponsePdu{invokeId});
+    send(ConfirmedErrorPdu{
+        invokeId,
+        std::nullopt,
+        {ErrorClass::ServicePreempt, serviceerrors::preemptCancel, {}, {}, {}}});
+}
+
 void Association::handleRequest(ConfirmedRequestPdu pdu)
 {
-    ++m_requestsOpen;
     const std::uint32_t invokeId = pdu.invokeId;
+    m_openRequests.push_back(invokeId);
     // Some peers use one place more than agreed; twice the number is no mistake in counting.
     const auto limit = 2 * static_cast<std::size_t>(std::max<std::int16_t>(
                                m_options.maxOutstandingCalled, 1));
-    if (m_requestsOpen > limit)
+    if (m_openRequests.size() > limit)
         reject(invokeId, rejectcodes::requestMaxOutstandingExceeded);
     else if (!m_handlers.request || std::holds_alternative<UnknownService>(pdu.request))
         reject(invokeId, rejectcodes::requestUnrecognizedService);
@@ -490,28 +546,85 @@ void Association::finish(CallTable::Ticket ticket, CallOutcome outcome)
         call.mapped().handler(std::move(outcome));
 }
 
+// The timer may fire earlier than needed: setting it again for each call would cost more.
 void Association::startTimer()
 {
-    const auto deadline = m_table.nextDeadline();
-    if (!deadline) {
-        m_timerRuns = false;
-        m_timer.cancel();
+    if (!m_open)
         return;
-    }
-    if (m_timerRuns && m_timer.expiry() == *deadline)
+    auto deadline = m_table.nextDeadline();
+    const auto consider = [&deadline](CallTable::Clock::time_point time) {
+        deadline = deadline ? std::min(*deadline, time) : time;
+    };
+    if (m_options.keepAlive.count() > 0 && !m_isAskingForLife)
+        consider(m_nextLifeCheck);
+    if (m_options.idleLimit.count() > 0)
+        consider(m_link->lastHeard() + m_options.idleLimit);
+    if (!deadline || (m_timerRuns && m_timer.expiry() <= *deadline))
         return;
     m_timer.expires_at(*deadline);
     m_timerRuns = true;
     m_timer.async_wait([weak = weak_from_this()](const asio::error_code &error) {
         const auto self = weak.lock();
-        if (error || !self)
-            return;
-        self->m_timerRuns = false;
-        for (const CallTable::Ticket ticket : self->m_table.expire(CallTable::Clock::now()))
-            self->finish(ticket, failure(CallFailure::Kind::TimedOut,
-                                         "The peer did not answer in time."));
-        self->sendCalls();
+        if (!error && self)
+            self->expireTimer();
     });
+}
+
+void Association::expireTimer()
+{
+    m_timerRuns = false;
+    const auto now = CallTable::Clock::now();
+    for (const CallTable::Ticket ticket : m_table.expire(now)) {
+        tellCancelled(ticket);
+        finish(ticket,
+               failure(CallFailure::Kind::TimedOut, "The peer did not answer in time."));
+    }
+    if (isIdle(now)) {
+        m_link->abort("The peer said nothing for "
+                      + std::to_string(m_options.idleLimit.count()) + " ms.");
+        return;
+    }
+    if (m_open && m_options.keepAlive.count() > 0 && !m_isAskingForLife && now >= m_nextLifeCheck)
+        askForSignOfLife(now);
+    sendCalls();
+}
+
+void Association::tellCancelled(CallTable::Ticket ticket)
+{
+    const auto invokeId = m_table.placeOf(ticket);
+    if (m_open && invokeId && !m_refusesCancel
+        && m_peerServices.test(static_cast<std::size_t>(Service::Cancel)))
+        send(CancelRequestPdu{*invokeId});
+}
+
+bool Association::isIdle(CallTable::Clock::time_point now) const
+{
+    return m_open && m_options.idleLimit.count() > 0
+        && m_link->lastHeard() + m_options.idleLimit <= now;
+}
+
+void Association::askForSignOfLife(CallTable::Clock::time_point now)
+{
+    m_nextLifeCheck = m_link->lastHeard() + m_options.keepAlive;
+    if (m_nextLifeCheck > now)
+        return;
+    if (!m_table.hasPlace()) {
+        m_nextLifeCheck = now + m_options.keepAlive;
+        return;
+    }
+    m_isAskingForLife = true;
+    RequestService request = IdentifyRequest();
+    if (m_peerServices.test(static_cast<std::size_t>(Service::Status)))
+        request = StatusRequest();
+    const auto judge = [this, now](const CallOutcome &outcome) {
+        m_isAskingForLife = false;
+        m_nextLifeCheck = std::max(m_link->lastHeard(), now) + m_options.keepAlive;
+        const auto *none = std::get_if<CallFailure>(&outcome);
+        if (none && none->kind == CallFailure::Kind::TimedOut && m_link->lastHeard() < now)
+            m_link->abort("The peer gave no sign of life in time.");
+    };
+    const CallTable::Ticket ticket = m_table.add(now + m_options.keepAliveTimeout);
+    m_calls.emplace(ticket, Call{++m_lastId, std::move(request), judge});
 }
 
 bool Association::send(const Pdu &pdu)
@@ -528,6 +641,8 @@ void Association::open(const InitiateParameters &parameters)
     m_negotiated = parameters;
     m_pduSize = static_cast<std::size_t>(*parameters.maxPduSize);
     m_open = true;
+    m_nextLifeCheck = CallTable::Clock::now() + m_options.keepAlive;
+    startTimer();
     if (auto opened = std::exchange(m_opened, nullptr))
         opened(parameters);
 }

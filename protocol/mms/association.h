@@ -12,6 +12,7 @@
 #include <memory>
 #include <string>
 #include <variant>
+#include <vector>
 
 namespace mms {
 
@@ -63,6 +64,13 @@ struct AssociationOptions
     BitString services;
     /// How long a call that was given up keeps its place.
     std::chrono::milliseconds grace{10000};
+    /// After so long a silence of the peer a sign of life is asked for, by Status or Identify; 0
+    /// for never. Calls that wait for their answer have their own deadlines and are not disturbed.
+    std::chrono::milliseconds keepAlive{0};
+    /// Until the sign of life must have come; the association is aborted otherwise.
+    std::chrono::milliseconds keepAliveTimeout{5000};
+    /// A peer that says nothing for so long is cut off; 0 for never. Meant for servers.
+    std::chrono::milliseconds idleLimit{0};
 };
 
 struct AssociationCounters
@@ -104,6 +112,12 @@ public:
         std::function<void(const std::shared_ptr<Association> &association, std::uint32_t invokeId,
                            RequestService request)>
             request;
+        /// The peer does not want the answer to a request any more. True when the request was
+        /// given up: it must not be answered then, and the peer is told. Without a handler every
+        /// request goes on.
+        std::function<bool(const std::shared_ptr<Association> &association,
+                           std::uint32_t invokeId)>
+            cancel;
         std::function<void(InformationReport report)> report;
         /// The association, which had been open, has ended; one sentence says why.
         std::function<void(const std::string &reason)> closed;
@@ -131,9 +145,11 @@ public:
     CallId call(RequestService request, std::chrono::milliseconds timeout, CallHandler handler);
     /// Cancelling the awaiting coroutine cancels the call.
     asio::awaitable<CallOutcome> call(RequestService request, std::chrono::milliseconds timeout);
-    /// End a call with CallFailure::Kind::Cancelled, unless it is over.
+    /// End a call with CallFailure::Kind::Cancelled, unless it is over. A peer that knows the
+    /// service Cancel is told, as it is of a call whose deadline passed.
     void cancel(CallId id);
 
+    // An answer to a request that is not open, such as one that was cancelled, is dropped.
     void respond(std::uint32_t invokeId, ResponseService response);
     void fail(std::uint32_t invokeId, ServiceError error);
     void reject(std::uint32_t invokeId, std::int32_t code);
@@ -177,11 +193,18 @@ private:
     void handleConfirm(const AssociateConfirm &confirm);
     void handlePdu(Bytes octets);
     void handleRequest(ConfirmedRequestPdu pdu);
+    void handleReject(const RejectPdu &reject, const PduHead &head, Bytes octets);
+    void handleCancel(std::uint32_t invokeId);
+    bool closeRequest(std::uint32_t invokeId);
     void handleAnswer(const PduHead &head, Bytes octets);
     void rejectMalformed(const std::optional<PduHead> &head);
     void sendCalls();
     void finish(CallTable::Ticket ticket, CallOutcome outcome);
     void startTimer();
+    void expireTimer();
+    void tellCancelled(CallTable::Ticket ticket);
+    bool isIdle(CallTable::Clock::time_point now) const;
+    void askForSignOfLife(CallTable::Clock::time_point now);
     bool send(const Pdu &pdu);
     void open(const InitiateParameters &parameters);
     void close(const std::string &reason);
@@ -197,7 +220,11 @@ private:
     std::atomic<std::size_t> m_pduSize{0};
     bool m_open = false;
     bool m_closed = false;
-    std::size_t m_requestsOpen = 0;
+    std::vector<std::uint32_t> m_openRequests;
+    BitString m_peerServices;
+    bool m_refusesCancel = false;
+    CallTable::Clock::time_point m_nextLifeCheck;
+    bool m_isAskingForLife = false;
     CallTable m_table;
     std::map<CallTable::Ticket, Call> m_calls;
     asio::steady_timer m_timer;

@@ -12,9 +12,11 @@ constexpr std::uint32_t largestInvokeId = 0x7fffffff;
 
 } // namespace
 
-CallTable::CallTable(std::size_t limit, std::chrono::milliseconds grace)
+CallTable::CallTable(std::size_t limit, std::chrono::milliseconds grace,
+                     std::uint32_t lastInvokeId)
     : m_limit(limit)
     , m_grace(grace)
+    , m_lastInvokeId(lastInvokeId)
 {
 }
 
@@ -34,7 +36,9 @@ std::optional<CallTable::Sent> CallTable::next()
     if (m_waiting.empty() || m_sent.size() >= m_limit)
         return std::nullopt;
     do {
-        m_lastInvokeId = m_lastInvokeId == largestInvokeId ? 1 : m_lastInvokeId + 1;
+        const bool wraps = m_lastInvokeId >= largestInvokeId;
+        m_hasWrapped = m_hasWrapped || wraps;
+        m_lastInvokeId = wraps ? 1 : m_lastInvokeId + 1;
     } while (m_sent.contains(m_lastInvokeId));
     const Waiting call = m_waiting.front();
     m_waiting.pop_front();
@@ -46,7 +50,8 @@ std::optional<CallTable::Ticket> CallTable::answered(std::uint32_t invokeId)
 {
     const auto found = m_sent.find(invokeId);
     if (found == m_sent.end()) {
-        ++(invokeId != 0 && invokeId <= m_lastInvokeId ? m_counters.late : m_counters.unknown);
+        const std::uint32_t largestUsed = m_hasWrapped ? largestInvokeId : m_lastInvokeId;
+        ++(invokeId != 0 && invokeId <= largestUsed ? m_counters.late : m_counters.unknown);
         return std::nullopt;
     }
     const OnTheWay call = found->second;
@@ -64,6 +69,22 @@ std::optional<std::uint32_t> CallTable::invokeIdOf(Ticket ticket) const
             return invokeId;
     }
     return std::nullopt;
+}
+
+std::optional<std::uint32_t> CallTable::placeOf(Ticket ticket) const
+{
+    for (const auto &[invokeId, call] : m_sent) {
+        if (call.ticket == ticket)
+            return invokeId;
+    }
+    return std::nullopt;
+}
+
+void CallTable::forget(std::uint32_t invokeId)
+{
+    const auto found = m_sent.find(invokeId);
+    if (found != m_sent.end() && found->second.givenUp)
+        m_sent.erase(found);
 }
 
 bool CallTable::cancel(Ticket ticket, Clock::time_point now)

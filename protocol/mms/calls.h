@@ -35,7 +35,9 @@ public:
         std::uint64_t unknown = 0; ///< answers to invoke ids that nobody used
     };
 
-    explicit CallTable(std::size_t limit, std::chrono::milliseconds grace);
+    /// The first invoke id is the one behind @p lastInvokeId.
+    explicit CallTable(std::size_t limit, std::chrono::milliseconds grace,
+                       std::uint32_t lastInvokeId = 0);
 
     void setLimit(std::size_t limit);
     /// A new call, behind those that wait.
@@ -46,6 +48,10 @@ public:
     std::optional<Ticket> answered(std::uint32_t invokeId);
     /// The invoke id of a call that is on the way.
     std::optional<std::uint32_t> invokeIdOf(Ticket ticket) const;
+    /// The invoke id of a call that was sent and is not answered, given up or not.
+    std::optional<std::uint32_t> placeOf(Ticket ticket) const;
+    /// The peer does not work on a call any more: when it was given up, its place is free.
+    void forget(std::uint32_t invokeId);
     /// Give up a call; false when it is over already.
     bool cancel(Ticket ticket, Clock::time_point now);
     /// The calls whose deadline has passed, oldest first. They are over now.
@@ -55,6 +61,8 @@ public:
     /// All calls that are not over, oldest first. They are over now.
     std::vector<Ticket> clear();
 
+    /// A call that came now would be sent at once.
+    bool hasPlace() const { return m_waiting.empty() && m_sent.size() < m_limit; }
     std::size_t onTheWay() const { return m_sent.size(); }
     std::size_t waiting() const { return m_waiting.size(); }
     const Counters &counters() const { return m_counters; }
@@ -75,7 +83,8 @@ private:
     std::size_t m_limit;
     std::chrono::milliseconds m_grace;
     Ticket m_lastTicket = 0;
-    std::uint32_t m_lastInvokeId = 0;
+    std::uint32_t m_lastInvokeId;
+    bool m_hasWrapped = false;
     std::deque<Waiting> m_waiting;
     std::map<std::uint32_t, OnTheWay> m_sent;
     Counters m_counters;

@@ -284,6 +284,7 @@ asio::awaitable<void> Link::readLoop()
             lose(m_stream.describe(error));
             co_return;
         }
+        m_lastHeard = std::chrono::steady_clock::now();
         if (std::exchange(isFirst, false) && !m_stream.isSecure() && isTls(buffer[0])) {
             lose("The peer speaks TLS, which is not configured here.");
             co_return;

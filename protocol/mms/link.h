@@ -67,6 +67,8 @@ public:
     std::optional<TlsPeer> tlsPeer() const { return m_stream.peer(); }
     /// Octets that wait for the network.
     std::size_t queued() const;
+    /// When the last octets came from the network.
+    std::chrono::steady_clock::time_point lastHeard() const { return m_lastHeard; }
     /// Calls @p handler once at most @p octets wait, at once when they do already; never after the
     /// end.
     void whenQueued(std::size_t octets, std::function<void()> handler);
@@ -124,6 +126,7 @@ private:
     asio::steady_timer m_releaseTimer;
     Handler m_handler;
     bool m_isSecuring = false;
+    std::chrono::steady_clock::time_point m_lastHeard;
     Octets m_queue;
     Octets m_writing;
     std::vector<QueueWatch> m_queueWatches;

@@ -21,6 +21,11 @@ constexpr std::chrono::milliseconds pauseAfterFailure{100};
 
 void ServerHandler::opened(const std::shared_ptr<Association> &) {}
 
+bool ServerHandler::cancel(const std::shared_ptr<Association> &, std::uint32_t)
+{
+    return false;
+}
+
 void ServerHandler::refused(const std::string &) {}
 
 void ServerHandler::closed(const std::shared_ptr<Association> &, const std::string &) {}
@@ -131,6 +136,10 @@ void Server::take(Link::Strand strand, asio::ip::tcp::socket socket)
     handlers.request = [handler = m_handler](const std::shared_ptr<Association> &association,
                                              std::uint32_t invokeId, RequestService request) {
         handler->request(association, invokeId, std::move(request));
+    };
+    handlers.cancel = [handler = m_handler](const std::shared_ptr<Association> &association,
+                                            std::uint32_t invokeId) {
+        return handler->cancel(association, invokeId);
     };
     handlers.closed = [handler = m_handler, place, forget](const std::string &reason) {
         handler->closed(place->lock(), reason);

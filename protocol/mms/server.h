@@ -35,6 +35,9 @@ public:
     /// Answer once with respond(), fail() or reject(), now or later, from any thread.
     virtual void request(const std::shared_ptr<Association> &association, std::uint32_t invokeId,
                          RequestService request) = 0;
+    /// The peer does not want the answer to a request any more. True when the request was given up
+    /// and will not be answered; false, as by default, when it goes on.
+    virtual bool cancel(const std::shared_ptr<Association> &association, std::uint32_t invokeId);
     /// A connection has ended before it became an association, for instance because the peer could
     /// not prove who it is; one sentence says why.
     virtual void refused(const std::string &reason);

@@ -63,6 +63,7 @@ inline constexpr std::int32_t serviceOther = 0;
 inline constexpr std::int32_t serviceObjectStateConflict = 2;
 inline constexpr std::int32_t serviceContinuationInvalid = 4;
 inline constexpr std::int32_t serviceConstraintConflict = 5;
+inline constexpr std::int32_t preemptCancel = 3;
 inline constexpr std::int32_t accessUnsupported = 1;
 inline constexpr std::int32_t accessNonExistent = 2;
 inline constexpr std::int32_t accessDenied = 3;

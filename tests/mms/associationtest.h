@@ -112,7 +112,7 @@ protected:
     }
 
     /// Accepts the association of the client that is connecting, and then stands still.
-    void acceptByHand(RawPeer &peer, Stack &stack)
+    void acceptByHand(RawPeer &peer, Stack &stack, const std::vector<Service> &services = {})
     {
         peer.accept();
         std::vector<StackEvent> events;
@@ -121,8 +121,10 @@ protected:
         ASSERT_NE(asked, nullptr);
         const auto pdu = decodePdu(asked->pdu);
         ASSERT_TRUE(pdu.ok());
-        const auto &request = std::get<InitiateRequestPdu>(*pdu);
-        peer.send(stack.accept(encode(InitiateResponsePdu{request.parameters})).octets);
+        InitiateParameters parameters = std::get<InitiateRequestPdu>(*pdu).parameters;
+        for (const Service service : services)
+            parameters.services.set(static_cast<std::size_t>(service));
+        peer.send(stack.accept(encode(InitiateResponsePdu{parameters})).octets);
     }
 
     void connectToRawPeer(RawPeer &peer, Stack &stack)

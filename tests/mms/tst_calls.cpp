@@ -100,3 +100,33 @@ TEST(CallTable, TheEndOfAnAssociationEndsAllCallsThatAreNotOver)
     EXPECT_EQ(table.onTheWay() + table.waiting(), 0U);
     EXPECT_FALSE(table.nextDeadline());
 }
+
+TEST(CallTable, InvokeIdsBeginAgainAfterTheLargest)
+{
+    CallTable table(3, 1s, 0x7ffffffe);
+    const auto first = table.add(start);
+    const auto second = table.add(start);
+    EXPECT_EQ(table.next()->invokeId, 0x7fffffffU);
+    EXPECT_EQ(table.next()->invokeId, 1U);
+    EXPECT_EQ(table.answered(0x7fffffff), first);
+    EXPECT_EQ(table.answered(1), second);
+    // What was used before the beginning is late, not unknown.
+    EXPECT_FALSE(table.answered(0x7ffffffe));
+    EXPECT_EQ(table.counters().late, 1U);
+    EXPECT_EQ(table.counters().unknown, 0U);
+}
+
+TEST(CallTable, ACallThatThePeerForgotFreesItsPlaceOnlyWhenItWasGivenUp)
+{
+    CallTable table(1, 1h);
+    const auto ticket = table.add(start + 1s);
+    const auto invokeId = table.next()->invokeId;
+    EXPECT_EQ(table.placeOf(ticket), invokeId);
+    table.forget(invokeId);
+    EXPECT_FALSE(table.hasPlace());
+    EXPECT_TRUE(table.cancel(ticket, start));
+    EXPECT_EQ(table.placeOf(ticket), invokeId);
+    table.forget(invokeId);
+    EXPECT_TRUE(table.hasPlace());
+    EXPECT_FALSE(table.placeOf(ticket));
+}
