@@ -3,6 +3,7 @@
 
 #include "simulator/faults.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
