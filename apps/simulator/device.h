@@ -4,12 +4,15 @@
 #include "simulator/asioclock.h"
 #include "simulator/engine.h"
 #include "simulator/fileservice.h"
+#include "simulator/journals.h"
+#include "simulator/services.h"
 
 #include "mms/server.h"
 
 #include <functional>
 #include <map>
 #include <memory>
+#include <mutex>
 #include <string>
 #include <vector>
 
@@ -22,10 +25,10 @@ struct DeviceOptions
     DataSetLimits dataSets;
     /// Serves the files; without one the file services are refused.
     std::shared_ptr<FileService> files;
-    /// For Identify; empty texts are taken from the SCL description.
-    std::string vendor;
-    std::string model;
-    std::string revision;
+    /// Control blocks have the attributes of the first edition of the standard only.
+    bool firstEdition = false;
+    /// Empty texts are taken from the SCL description.
+    Identity identity;
 };
 
 /// A simulated IED on the network: its model, its engines and its server. Any number of them may
@@ -44,7 +47,8 @@ public:
     using RequestFilter = std::function<bool(const std::shared_ptr<mms::Association> &association,
                                              std::uint32_t invokeId, mms::RequestService &request)>;
 
-    /// Nothing of @p ied is kept.
+    /// Nothing of @p ied is kept. The device is destroyed in its strand, after the last association
+    /// has ended; the execution context outlives it.
     static std::shared_ptr<Device> create(asio::any_io_executor executor, const scl::Ied &ied,
                                           DeviceOptions options);
     Device(Private, asio::any_io_executor executor, const scl::Ied &ied, DeviceOptions options);
@@ -74,7 +78,9 @@ public:
 
 private:
     class AssociationClient;
-    class Call;
+
+    mms::ServerOptions serverOptions() const;
+    AssociationClient *clientOf(const mms::Association *association) const;
 
     Strand m_strand;
     DeviceOptions m_options;
@@ -82,9 +88,11 @@ private:
     Model m_model;
     Access m_access;
     DataSets m_dataSets;
+    Journals m_journals;
     std::vector<std::unique_ptr<Engine>> m_engines;
     std::map<const mms::Association *, std::unique_ptr<AssociationClient>> m_clients;
     RequestFilter m_filter;
+    std::mutex m_serverMutex;
     std::shared_ptr<mms::Server> m_server;
 };
 

@@ -41,8 +41,10 @@ std::int64_t initialOrdinal(const LeafPlace &place)
     const auto has = [enumeration](std::int64_t ordinal) {
         return !enumeration || std::ranges::binary_search(enumeration->ordinals, ordinal);
     };
-    const bool startsAtOne = place.dataObject == "Mod" || place.dataObject == "Beh"
-        || place.dataObject.ends_with("Health") || place.leaf.name == "SIUnit";
+    const bool isState = place.leaf.name == "stVal"
+        && (place.dataObject == "Mod" || place.dataObject == "Beh"
+            || place.dataObject.ends_with("Health"));
+    const bool startsAtOne = isState || place.leaf.name == "SIUnit";
     if (startsAtOne && has(1))
         return 1;
     if (place.leaf.name == "ctlModel" && place.controllable && has(controlModelDirect))

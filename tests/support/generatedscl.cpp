@@ -3,7 +3,6 @@
 
 namespace {
 
-constexpr int nodesPerDevice = 40;
 constexpr int objectsPerNode = 12;
 constexpr int leavesPerObject = 12;
 constexpr int arrayElements = 16;
