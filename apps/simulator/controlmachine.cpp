@@ -309,6 +309,9 @@ acsi::LastApplError ControlMachine::lastApplError(std::string_view service,
     error.controlObject = m_reference + '$' + std::string(service);
     error.error = errorOf(cause);
     error.originator = request.originator;
+    // What is too long to be accepted is too long to be repeated.
+    if (error.originator.identification.size() > longestIdentification)
+        error.originator.identification.resize(longestIdentification);
     error.ctlNum = request.ctlNum;
     error.addCause = static_cast<std::int32_t>(cause);
     return error;

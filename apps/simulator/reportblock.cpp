@@ -581,9 +581,9 @@ void ReportBlock::drain()
     }
 }
 
-bool ReportBlock::isHeldBack() const
+Client *ReportBlock::heldBack() const
 {
-    return m_config.buffered && m_enabled && !m_resumes && m_nextId < endId();
+    return m_config.buffered && m_enabled && !m_resumes && m_nextId < endId() ? m_client : nullptr;
 }
 
 void ReportBlock::send(const Entry &entry, std::uint64_t id)

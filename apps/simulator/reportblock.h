@@ -98,8 +98,8 @@ public:
     /// When advance() wants to be called; none while there is nothing to wait for.
     std::optional<Clock::SteadyTime> deadline() const;
     void advance();
-    /// Whether entries wait because the client is behind.
-    bool isHeldBack() const;
+    /// The client for whom entries wait because it is behind; null when none do.
+    Client *heldBack() const;
 
     /// Reports that were not sent because the client was behind; their numbers are missing.
     std::uint64_t reportsLost() const { return m_lost; }

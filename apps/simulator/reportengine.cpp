@@ -11,8 +11,8 @@ namespace {
 
 /// Octets that may wait for a client before what comes next is held back or lost.
 constexpr std::size_t mostQueued = 1024 * 1024;
-/// A client that is behind is looked after this often.
-constexpr std::chrono::milliseconds catchUpPause{2};
+/// A client that is so little behind gets more.
+constexpr std::size_t fewQueued = mostQueued / 2;
 
 acsi::OptFlds optFldsOf(const scl::ReportOptionalFields &fields)
 {
@@ -137,6 +137,7 @@ void ReportEngine::add(const scl::LogicalDevice &device, const scl::LogicalNode 
 
 void ReportEngine::closed(Client &client)
 {
+    m_behind.erase(&client);
     for (std::size_t i = 0; i < m_blocks.size(); ++i) {
         m_blocks[i].block->closed(client);
         written(i);
@@ -208,8 +209,24 @@ void ReportEngine::wakeFor(const ReportBlock &block)
 {
     if (const auto time = block.deadline())
         wakeAt(*time);
-    if (block.isHeldBack())
-        wakeAt(m_host.clock.steadyNow() + catchUpPause);
+    Client *behind = block.heldBack();
+    if (!behind || !m_behind.insert(behind).second)
+        return;
+    behind->whenQueued(fewQueued, [this, behind, alive = std::weak_ptr<int>(m_alive)] {
+        if (!alive.expired())
+            catchUp(*behind);
+    });
+}
+
+void ReportEngine::catchUp(const Client &client)
+{
+    m_behind.erase(&client);
+    for (const Place &place : m_blocks) {
+        if (place.block->heldBack() == &client) {
+            place.block->drain();
+            wakeFor(*place.block);
+        }
+    }
 }
 
 void ReportEngine::wakeAt(Clock::SteadyTime time)
@@ -228,7 +245,6 @@ void ReportEngine::wake()
         const auto time = block.deadline();
         if (time && *time <= m_host.clock.steadyNow())
             block.advance();
-        block.drain();
         written(i);
     }
 }

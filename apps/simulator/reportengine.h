@@ -5,6 +5,7 @@
 #include "simulator/reportblock.h"
 
 #include <memory>
+#include <set>
 #include <vector>
 
 namespace sim {
@@ -54,6 +55,7 @@ private:
     void checkRevision(std::size_t index);
     void indexUses();
     void wakeFor(const ReportBlock &block);
+    void catchUp(const Client &client);
     void wakeAt(Clock::SteadyTime time);
     void wake();
 
@@ -63,6 +65,9 @@ private:
     std::vector<Use> m_uses;
     bool m_usesOutdated = true;
     std::vector<std::uint32_t> m_touched;
+    /// Clients whose network is to say when it has caught up.
+    std::set<const Client *> m_behind;
+    std::shared_ptr<int> m_alive = std::make_shared<int>(0);
     std::unique_ptr<Timer> m_timer;
     Clock::SteadyTime m_wakeTime = Clock::SteadyTime::max();
 };
