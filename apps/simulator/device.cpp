@@ -96,6 +96,7 @@ class Device::AssociationClient : public Client
 public:
     explicit AssociationClient(std::shared_ptr<mms::Association> association)
         : m_association(std::move(association))
+        , m_address(m_association->peerAddress())
     {
     }
 
@@ -107,7 +108,7 @@ public:
         m_association->whenQueued(octets, std::move(handler));
     }
     std::size_t pduSize() const override { return m_association->pduSize(); }
-    std::vector<std::uint8_t> address() const override { return {}; }
+    std::vector<std::uint8_t> address() const override { return m_address; }
     void call(mms::RequestService request, std::chrono::milliseconds timeout,
               mms::Association::CallHandler handler) override
     {
@@ -116,6 +117,7 @@ public:
 
 private:
     std::shared_ptr<mms::Association> m_association;
+    std::vector<std::uint8_t> m_address; ///< also once the connection is closed
 };
 
 std::shared_ptr<Device> Device::create(asio::any_io_executor executor, const scl::Ied &ied,

@@ -176,6 +176,9 @@ public:
     std::size_t queued() const { return m_link->queued(); }
     /// Who the peer of an association with TLS is; in the strand, from opening on.
     std::optional<TlsPeer> tlsPeer() const { return m_link->tlsPeer(); }
+    /// The network address of the peer in network order, 4 or 16 octets; empty without a
+    /// connection. In the strand.
+    std::vector<std::uint8_t> peerAddress() const { return m_link->peerAddress(); }
     const Link::Strand &strand() const { return m_strand; }
     AssociationCounters counters() const;
 

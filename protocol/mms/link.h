@@ -65,6 +65,8 @@ public:
     bool isOpen() const { return m_stack.isOpen(); }
     /// Of a connection with TLS.
     std::optional<TlsPeer> tlsPeer() const { return m_stream.peer(); }
+    /// The network address of the peer: 4 or 16 octets; empty while there is no connection.
+    std::vector<std::uint8_t> peerAddress() const { return m_stream.peerAddress(); }
     /// Octets that wait for the network.
     std::size_t queued() const;
     /// When the last octets came from the network.

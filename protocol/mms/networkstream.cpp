@@ -216,4 +216,22 @@ std::optional<TlsPeer> NetworkStream::peer() const
                    SSL_get_version(ssl), SSL_get_cipher_name(ssl)};
 }
 
+std::vector<std::uint8_t> NetworkStream::peerAddress() const
+{
+    asio::error_code error;
+    const auto endpoint = m_socket.remote_endpoint(error);
+    if (error)
+        return {};
+    const auto octets = [](const auto &bytes) {
+        return std::vector<std::uint8_t>(bytes.begin(), bytes.end());
+    };
+    const asio::ip::address address = endpoint.address();
+    if (address.is_v4())
+        return octets(address.to_v4().to_bytes());
+    const asio::ip::address_v6 wide = address.to_v6();
+    if (wide.is_v4_mapped())
+        return octets(asio::ip::make_address_v4(asio::ip::v4_mapped, wide).to_bytes());
+    return octets(wide.to_bytes());
+}
+
 } // namespace mms

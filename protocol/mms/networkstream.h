@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace mms {
 
@@ -52,6 +53,8 @@ public:
     /// What a failure of readSome() or write() means, as one sentence.
     std::string describe(const asio::error_code &error) const;
     std::optional<TlsPeer> peer() const;
+    /// Of the other end, in network order: 4 or 16 octets; empty while there is no connection.
+    std::vector<std::uint8_t> peerAddress() const;
 
 private:
     struct Tls;
