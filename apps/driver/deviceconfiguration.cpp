@@ -2,6 +2,7 @@
 #include "deviceconfiguration.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QJsonArray>
 #include <QtCore/QRegularExpression>
@@ -35,17 +36,11 @@ bool isObjectIdentifier(const QString &text)
     if (!form.match(text).hasMatch())
         return false;
     // Below the first two roots the second number ends at 39 (ITU-T X.660).
-    return text.startsWith(QLatin1Char('2')) ||
-           text.section(QLatin1Char('.'), 1, 1).toInt() <= 39;
+    return text.startsWith(QLatin1Char('2')) || text.section(QLatin1Char('.'), 1, 1).toInt() <= 39;
 }
 
-bool isFingerprint(const QString &text)
-{
-    const std::optional<QByteArray> octets = octetsFromHex(text);
-    return octets && octets->size() == 32;
-}
-
-void checkSelector(QStringList &faults, const QString &name, const QByteArray &selector, int longest)
+void checkSelector(QStringList &faults, const QString &name, const QByteArray &selector,
+                   int longest)
 {
     if (selector.size() > longest) {
         faults.append(Texts::tr("The %1 has %2 octets; at most %3 are possible.")
@@ -94,23 +89,17 @@ void checkTls(QStringList &faults, const TlsConfiguration &tls)
 {
     if (!tls.enabled)
         return;
-    if (tls.certificateFile.isEmpty() != tls.keyFile.isEmpty())
-        faults.append(Texts::tr("A certificate and its key are only of use together."));
-    if (tls.authoritiesFile.isEmpty() && tls.pins.isEmpty()) {
-        faults.append(Texts::tr("For TLS the certificates of the issuers or a fingerprint of the "
-                                "device's certificate are needed."));
-    }
-    checkFile(faults, Texts::tr("certificate file"), tls.certificateFile);
-    checkFile(faults, Texts::tr("key file"), tls.keyFile);
-    checkFile(faults, Texts::tr("file of issuers"), tls.authoritiesFile);
-    checkFile(faults, Texts::tr("revocation list"), tls.revocationFile);
-    for (const QString &pin : tls.pins) {
-        if (!isFingerprint(pin)) {
-            faults.append(Texts::tr("\"%1\" is no SHA-256 fingerprint: 64 hexadecimal digits are "
-                                    "needed.")
-                              .arg(pin));
-        }
-    }
+    const mms::Result<void> result = mms::validate(tls.toOptions());
+    if (!result)
+        faults.append(QString::fromStdString(result.error().message));
+}
+
+std::vector<std::string> encodedNames(const QStringList &files)
+{
+    std::vector<std::string> names;
+    for (const QString &file : files)
+        names.push_back(QFile::encodeName(file).toStdString());
+    return names;
 }
 
 QString hex(const QByteArray &octets)
@@ -135,9 +124,11 @@ QJsonObject toJson(const TlsConfiguration &tls)
     return {{QStringLiteral("enabled"), tls.enabled},
             {QStringLiteral("certificateFile"), tls.certificateFile},
             {QStringLiteral("keyFile"), tls.keyFile},
-            {QStringLiteral("authoritiesFile"), tls.authoritiesFile},
-            {QStringLiteral("revocationFile"), tls.revocationFile},
-            {QStringLiteral("pins"), QJsonArray::fromStringList(tls.pins)}};
+            {QStringLiteral("keyPassword"), tls.keyPassword},
+            {QStringLiteral("authorityFiles"), QJsonArray::fromStringList(tls.authorityFiles)},
+            {QStringLiteral("revocationFiles"), QJsonArray::fromStringList(tls.revocationFiles)},
+            {QStringLiteral("pins"), QJsonArray::fromStringList(tls.pins)},
+            {QStringLiteral("peerName"), tls.peerName}};
 }
 
 /// Takes members out of an object and remembers the first that has the wrong form.
@@ -254,9 +245,11 @@ void fromJson(const QJsonObject &object, TlsConfiguration &tls, QString &error)
     members.take("enabled", tls.enabled);
     members.take("certificateFile", tls.certificateFile);
     members.take("keyFile", tls.keyFile);
-    members.take("authoritiesFile", tls.authoritiesFile);
-    members.take("revocationFile", tls.revocationFile);
+    members.take("keyPassword", tls.keyPassword);
+    members.take("authorityFiles", tls.authorityFiles);
+    members.take("revocationFiles", tls.revocationFiles);
     members.take("pins", tls.pins);
+    members.take("peerName", tls.peerName);
 }
 
 } // namespace
@@ -277,6 +270,20 @@ std::optional<QByteArray> octetsFromHex(const QString &text)
     if (digits.size() % 2 != 0)
         return std::nullopt;
     return QByteArray::fromHex(digits);
+}
+
+mms::TlsOptions TlsConfiguration::toOptions() const
+{
+    mms::TlsOptions options;
+    options.certificateFile = QFile::encodeName(certificateFile).toStdString();
+    options.keyFile = QFile::encodeName(keyFile).toStdString();
+    options.keyPassword = keyPassword.toStdString();
+    options.authorityFiles = encodedNames(authorityFiles);
+    options.revocationFiles = encodedNames(revocationFiles);
+    for (const QString &pin : pins)
+        options.pins.push_back(pin.toStdString());
+    options.peerName = peerName.toStdString();
+    return options;
 }
 
 QStringList DeviceConfiguration::faults() const
@@ -305,8 +312,7 @@ QStringList DeviceConfiguration::faults() const
                                 "requests."));
     }
     if (outstandingCalls < 1 || outstandingCalls > mostCalls) {
-        faults.append(
-            Texts::tr("From 1 to %1 outstanding calls are possible.").arg(mostCalls));
+        faults.append(Texts::tr("From 1 to %1 outstanding calls are possible.").arg(mostCalls));
     }
     if (maxPduSize < smallestPduSize || maxPduSize > largestPduSize) {
         faults.append(Texts::tr("The PDU size must be from %1 to %2 octets.")

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "mms/tls.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QJsonObject>
 #include <QtCore/QString>
@@ -12,48 +14,38 @@
 /// How one side of an association is addressed (ISO 8072, 8326, 8822 selectors; ISO 8650 titles).
 struct AssociationAddress
 {
-    QByteArray transportSelector{"\0\1", 2};        ///< at most 32 octets; above 4 some devices refuse
-    QByteArray sessionSelector{"\0\1", 2};          ///< at most 16 octets
+    QByteArray transportSelector{"\0\1", 2}; ///< at most 32 octets; above 4 some devices refuse
+    QByteArray sessionSelector{"\0\1", 2};   ///< at most 16 octets
     QByteArray presentationSelector{"\0\0\0\1", 4}; ///< at most 16 octets
     QString apTitle;                                ///< object identifier "1.1.1.999.1", or empty
     std::optional<qint64> aeQualifier;
-
-    friend bool operator==(const AssociationAddress &left, const AssociationAddress &right)
-    {
-        return left.transportSelector == right.transportSelector &&
-               left.sessionSelector == right.sessionSelector &&
-               left.presentationSelector == right.presentationSelector &&
-               left.apTitle == right.apTitle && left.aeQualifier == right.aeQualifier;
-    }
 };
 
-/// Files and rules of a connection over TLS (IEC 62351-3). Files are in PEM.
+/// How the device and the driver prove to each other who they are (IEC 62351-3); files in PEM, the
+/// members as mms::TlsOptions explains them.
 struct TlsConfiguration
 {
     bool enabled = false;
-    QString certificateFile; ///< own chain, own certificate first
+    QString certificateFile;
     QString keyFile;
-    QString authoritiesFile; ///< certificates of those who may have issued the device's
-    QString revocationFile;  ///< revocation lists, or empty
-    QStringList pins;        ///< SHA-256 fingerprints of device certificates, hexadecimal; or empty
+    QString keyPassword;
+    QStringList authorityFiles;
+    QStringList revocationFiles;
+    QStringList pins; ///< SHA-256 fingerprints of device certificates, hexadecimal
+    QString peerName;
 
-    friend bool operator==(const TlsConfiguration &left, const TlsConfiguration &right)
-    {
-        return left.enabled == right.enabled && left.certificateFile == right.certificateFile &&
-               left.keyFile == right.keyFile && left.authoritiesFile == right.authoritiesFile &&
-               left.revocationFile == right.revocationFile && left.pins == right.pins;
-    }
+    mms::TlsOptions toOptions() const;
 };
 
 /// All that the driver has to know about a device. A value type.
 struct DeviceConfiguration
 {
-    int number = 0;   ///< on the driver, from 1
-    QString name;     ///< for the operator; the IED's name where it is known
-    QString host;     ///< name or address; empty for a device known only from its SCL file
+    int number = 0; ///< on the driver, from 1
+    QString name;   ///< for the operator; the IED's name where it is known
+    QString host;   ///< name or address; empty for a device known only from its SCL file
     int port = 102;
-    QString sclFile;  ///< path, or empty
-    QString ied;      ///< IED of the file; may be empty when the file describes a single one
+    QString sclFile; ///< path, or empty
+    QString ied;     ///< IED of the file; may be empty when the file describes a single one
 
     AssociationAddress local;
     AssociationAddress remote;

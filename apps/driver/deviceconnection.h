@@ -23,6 +23,7 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <set>
 #include <typeindex>
 #include <vector>
 
@@ -41,8 +42,9 @@ struct Outcome
 };
 
 /// Something that lives with the associations of a device, such as its report subscriptions. Made
-/// by DeviceConnection::part() at its first use and destroyed with the connection; everything is
-/// called in the connection's strand. Coroutines are awaited before the next one is called.
+/// by DeviceConnection::part() at its first use, which may be while an association stands, and
+/// destroyed with the connection; everything is called in the connection's strand. Each coroutine
+/// is awaited before the next one is called.
 class AssociationPart
 {
 public:
@@ -147,8 +149,8 @@ public:
     struct Publication
     {
         std::uint32_t cause = PublishCause::Read;
-        bool onlyChanges = false;          ///< leave out values that are known already
-        const mms::Data *time = nullptr;   ///< of a report, for values without a time of their own
+        bool onlyChanges = false;        ///< leave out values that are known already
+        const mms::Data *time = nullptr; ///< of a report, for values without a time of their own
     };
     /// Takes the data apart, keeps the values in the model and publishes them. False when the data
     /// does not fit the live type.
@@ -175,25 +177,43 @@ public:
     QString notConnectedSentence() const;
 
 private:
+    using ClientPointer = std::shared_ptr<acsi::Client>;
+    using Deadline = std::chrono::steady_clock::time_point;
     struct Pending;
+    struct Attempt;
 
+    static asio::awaitable<Outcome> run(std::shared_ptr<DeviceConnection> self, Need need,
+                                        Deadline deadline, Operation operation);
+    static asio::awaitable<void> attempt(std::shared_ptr<DeviceConnection> self,
+                                         std::shared_ptr<Attempt> attempt);
     asio::awaitable<void> live();
-    /// One sentence why the device cannot be used; empty when it is ready.
-    asio::awaitable<QString> getReady(std::shared_ptr<acsi::Client> client);
-    asio::awaitable<void> identify(std::shared_ptr<acsi::Client> client);
-    asio::awaitable<QString> readModel(std::shared_ptr<acsi::Client> client);
-    asio::awaitable<void> readSettingsOfBlocks(std::shared_ptr<acsi::Client> client);
-    asio::awaitable<void> readValues(std::vector<std::string> constraints,
+    /// From connecting to the end of the association; why it ended, or never stood.
+    asio::awaitable<QString> associate();
+    asio::awaitable<void> beOnline(ClientPointer client);
+    asio::awaitable<void> identify(ClientPointer client);
+    /// One sentence why the device cannot be used; empty when its model is there.
+    asio::awaitable<QString> getReady(ClientPointer client);
+    /// The names that tell whether the device is still the same.
+    asio::awaitable<mms::Result<QByteArray>> fingerprint(ClientPointer client,
+                                                         const std::vector<std::string> &domains);
+    asio::awaitable<mms::Result<acsi::ServerDescription>> describe(ClientPointer client,
+                                                                   const QByteArray &fingerprint);
+    asio::awaitable<void> readBlocks(ClientPointer client);
+    asio::awaitable<void> poll(ClientPointer client);
+    /// Reads and publishes the data under the constraints; a variable that is refused is asked for
+    /// in parts, and parts that are refused are not asked for again.
+    asio::awaitable<void> readValues(ClientPointer client,
+                                     const std::vector<acsi::FunctionalConstraint> &constraints,
                                      Publication publication);
-    asio::awaitable<void> stay(std::shared_ptr<acsi::Client> client);
-    asio::awaitable<void> poll(std::shared_ptr<acsi::Client> client);
-    asio::awaitable<void> republishLater();
+    asio::awaitable<void> republish();
     asio::awaitable<void> pause(std::chrono::milliseconds time);
-    asio::awaitable<Outcome> waitFor(Need need, std::chrono::steady_clock::time_point deadline);
-    std::vector<acsi::Reference> polledReferences() const;
+    asio::awaitable<Outcome> waitFor(Need need, Deadline deadline);
+    std::vector<acsi::Reference> polled(acsi::FunctionalConstraint constraint) const;
 
+    void connectInStrand();
+    QString loadFile();
     void setState(DeviceState state, const QString &reason = {});
-    void notify();
+    void updateStatus(const std::function<void(DeviceStatus &)> &change);
     void wake();
     acsi::ClientOptions clientOptions() const;
     void associationEnded(const std::string &reason);
@@ -208,16 +228,21 @@ private:
     std::unique_ptr<OnlineModel> m_model;
     QByteArray m_fingerprint; ///< of the device when the model was read
     std::unique_ptr<PhysicalDevice> m_fromFile;
+    bool m_fileRead = false;
+    QString m_fileProblem;
     std::map<std::type_index, std::unique_ptr<AssociationPart>> m_parts;
-    QHash<QString, std::vector<acsi::Reference>> m_reported;
+    QHash<QString, std::vector<std::string>> m_reported; ///< by source
+    std::set<std::string> m_inParts; ///< nodes' constraints that have to be read in parts
+    std::set<std::string> m_refused; ///< data that the device does not hand out
     std::shared_ptr<std::atomic<bool>> m_readingCancelled;
-    asio::steady_timer m_wake; ///< cancelled when something changed that is being waited for
+    std::set<asio::steady_timer *> m_pauses; ///< of the coroutines in pause()
     bool m_wanted = false;
     bool m_living = false;
     bool m_modelReady = false; ///< the model belongs to the present association
-    bool m_attempted = false;  ///< since connect() an attempt has come to an end
+    bool m_attempted = false;  ///< an attempt has come to an end since an association was wanted
     bool m_dormant = false;    ///< aborted; the next operation connects
-    QString m_endReason;
+    QString m_endReason;       ///< why the last association ended
+    QString m_leaveReason;     ///< why the driver left by itself
     std::vector<std::function<void()>> m_left;
     QHash<QString, MMSValue> m_recent; ///< values to be published again
     int m_recentUsers = 0;

@@ -20,9 +20,9 @@ struct DeviceCounters
 {
     std::uint64_t sentPdus = 0;
     std::uint64_t receivedPdus = 0;
-    std::uint64_t reports = 0;         ///< that brought values
+    std::uint64_t reports = 0; ///< that brought values
     std::uint64_t publishedValues = 0;
-    std::uint64_t connections = 0;     ///< associations since the device was added
+    std::uint64_t connections = 0;      ///< associations since the device was added
     std::uint64_t unclaimedReports = 0; ///< information that nobody had asked for
 };
 
@@ -37,11 +37,11 @@ struct DeviceStatus
     QString vendor;
     QString model;
     QString revision;
-    QDateTime since;                           ///< when the state began, local time
-    std::chrono::microseconds roundTrip{0};    ///< of the last measured call; 0: not measured yet
-    int modelStepsDone = 0;                    ///< while the model is being read
+    QDateTime since;                        ///< when the state began, local time
+    std::chrono::microseconds roundTrip{0}; ///< of the last measured call; 0: not measured yet
+    int modelStepsDone = 0;                 ///< while the model is being read
     int modelSteps = 0;
-    int refusedObjects = 0;                    ///< that the device did not describe
+    int refusedObjects = 0; ///< that the device did not describe
     DeviceCounters counters;
 };
 
@@ -55,14 +55,14 @@ struct DeviceChange
     QString reference; ///< logical device "/" ...
     QString oldValue;  ///< empty where it is not known
     QString newValue;
-    QString error;     ///< empty when it was done
+    QString error;           ///< empty when it was done
     QString additionalCause; ///< of a refused control
 };
 
 /// Why a value was published: MMSValue::cause.
 namespace PublishCause {
 enum : std::uint32_t {
-    Read = 1,   ///< the operator asked for it, or it was read back
+    Read = 1, ///< the operator asked for it, or it was read back
     Polled = 2,
     /// Of a report; the bits of its reasons for inclusion are added: 1 data change, 2 quality
     /// change, 4 data update, 8 integrity, 16 general interrogation.

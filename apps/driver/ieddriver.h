@@ -2,24 +2,15 @@
 #pragma once
 
 #include "deviceconfiguration.h"
-#include "deviceconnection.h"
 #include "devicestatus.h"
-#include "livevalues.h"
-#include "offlinedriverservice.h"
+#include "pducapture.h"
 
 #include <remoteclient/driverservice.h>
 
-#include <asio/executor_work_guard.hpp>
-#include <asio/io_context.hpp>
-
 #include <QtCore/QVector>
 
-#include <atomic>
-#include <map>
+#include <functional>
 #include <memory>
-#include <mutex>
-#include <thread>
-#include <vector>
 
 class QIODevice;
 
@@ -29,8 +20,9 @@ struct IedDriverOptions
     /// Folder in which the descriptions that devices gave of themselves are kept between starts;
     /// empty for none.
     QString cacheFolder;
-    /// Takes the records of live-value events; the event middleware unless given.
-    LiveValues::Poster poster;
+    /// Takes the records of live-value events, in one thread at a time; the event middleware unless
+    /// given.
+    std::function<void(const QList<QByteArray> &records)> poster;
     /// Told of every change of a device's state, in one of the driver's threads, several devices at
     /// a time. Must not call the driver.
     std::function<void(const DeviceStatus &)> statusChanged;
@@ -69,8 +61,8 @@ public:
     QVector<DeviceStatus> statuses() const;
 
     /// Refuse every operation that changes something on a device.
-    void setReadOnly(bool readOnly) { m_readOnly = readOnly; }
-    bool isReadOnly() const { return m_readOnly; }
+    void setReadOnly(bool readOnly);
+    bool isReadOnly() const;
 
     /// Write the device's last PDUs as a pcapng capture; one sentence when that fails.
     QString saveCapture(long deviceNo, QIODevice &out) const;
@@ -165,29 +157,7 @@ public:
     OperationResult abortClose(long deviceNo) override;
 
 private:
-    enum class Effect { Reads, Changes };
+    class Runtime;
 
-    /// Runs an operation on the device: refused when it changes something and the driver is
-    /// read-only, or when the device has no address. Fills @p error.
-    OperationResult run(long deviceNo, Effect effect, QString &error,
-                        DeviceConnection::Operation operation,
-                        DeviceConnection::Need need = DeviceConnection::Need::Model);
-    /// The same with a limit other than the device's operation time-out.
-    OperationResult runWithin(std::chrono::milliseconds limit, long deviceNo, Effect effect,
-                              QString &error, DeviceConnection::Operation operation,
-                              DeviceConnection::Need need = DeviceConnection::Need::Model);
-    std::shared_ptr<DeviceConnection> connection(long deviceNo) const;
-    QString claim(int number, const QStringList &logicalDevices);
-    void release(int number);
-
-    const IedDriverOptions m_options;
-    asio::io_context m_context;
-    asio::executor_work_guard<asio::io_context::executor_type> m_work;
-    std::shared_ptr<LiveValues> m_values;
-    OfflineDriverService m_offline;
-    std::atomic<bool> m_readOnly{false};
-    mutable std::mutex m_mutex;
-    std::map<long, std::shared_ptr<DeviceConnection>> m_connections;
-    std::map<QString, int> m_claimed; ///< number of the device online with the logical device
-    std::vector<std::thread> m_threads;
+    std::unique_ptr<Runtime> m_runtime;
 };

@@ -23,9 +23,9 @@ public:
     /// A leaf of structured data.
     struct Leaf
     {
-        QString reference;                            ///< full
-        DataAttribute *attribute = nullptr;           ///< null for one that the model does not show
-        const mms::TypeDescription *type = nullptr;   ///< of the leaf
+        QString reference;                          ///< full
+        DataAttribute *attribute = nullptr;         ///< null for one that the model does not show
+        const mms::TypeDescription *type = nullptr; ///< of the leaf
         const mms::Data *data = nullptr;
         const mms::Data *quality = nullptr; ///< that goes with the value, where there is one
         const mms::Data *time = nullptr;

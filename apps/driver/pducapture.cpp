@@ -92,9 +92,10 @@ QVector<PduCapture::Line> PduCapture::trace(int count) const
     lines.reserve(static_cast<int>(entries.size()));
     for (const Entry &entry : entries) {
         const auto sinceEpoch = entry.time.time_since_epoch();
-        lines.append({QDateTime::fromMSecsSinceEpoch(
-                          std::chrono::duration_cast<std::chrono::milliseconds>(sinceEpoch).count()),
-                      entry.direction == mms::Direction::Sent, textOf(entry.pdu)});
+        lines.append(
+            {QDateTime::fromMSecsSinceEpoch(
+                 std::chrono::duration_cast<std::chrono::milliseconds>(sinceEpoch).count()),
+             entry.direction == mms::Direction::Sent, textOf(entry.pdu)});
     }
     return lines;
 }

@@ -54,17 +54,16 @@ bool isCoded(const QString &basicType)
 
 QString hexText(mms::Bytes octets)
 {
-    return QString::fromLatin1(QByteArray(reinterpret_cast<const char *>(octets.data()),
-                                          static_cast<int>(octets.size()))
-                                   .toHex());
+    return QString::fromLatin1(
+        QByteArray(reinterpret_cast<const char *>(octets.data()), static_cast<int>(octets.size()))
+            .toHex());
 }
 
 QVariant fromInteger(const QString &basicType, std::int64_t number)
 {
-    const bool isWide = basicType == QLatin1String("INT64") ||
-                        basicType == QLatin1String("INT128") ||
-                        number < std::numeric_limits<int>::min() ||
-                        number > std::numeric_limits<int>::max();
+    const bool isWide =
+        basicType == QLatin1String("INT64") || basicType == QLatin1String("INT128") ||
+        number < std::numeric_limits<int>::min() || number > std::numeric_limits<int>::max();
     return isWide ? QVariant(static_cast<qlonglong>(number)) : QVariant(static_cast<int>(number));
 }
 
@@ -236,7 +235,8 @@ mms::Result<Data> toVisibleString(const QString &name, const TypeDescription &ty
     const QString text = value.toString();
     for (const QChar c : text) {
         if (c.unicode() < 0x20 || c.unicode() > 0x7E)
-            return error(Texts::tr("\"%1\" holds characters that %2 does not have.").arg(text, name));
+            return error(
+                Texts::tr("\"%1\" holds characters that %2 does not have.").arg(text, name));
     }
     const int longest = std::abs(type.size);
     if (longest != 0 && (type.size > 0 ? text.size() != longest : text.size() > longest))
@@ -308,8 +308,8 @@ bool hasSize(const TypeDescription &type, TypeDescription::Kind kind,
              std::initializer_list<int> sizes)
 {
     return type.kind == kind &&
-           (sizes.size() == 0 || std::find(sizes.begin(), sizes.end(), std::abs(type.size)) !=
-                                     sizes.end());
+           (sizes.size() == 0 ||
+            std::find(sizes.begin(), sizes.end(), std::abs(type.size)) != sizes.end());
 }
 
 } // namespace
@@ -510,9 +510,9 @@ bool ValueConversion::readVariant(const QByteArray &bytes, QVariant &value)
 {
     // The type is looked at first: reading constructs whatever type the bytes name.
     static constexpr std::array<quint32, 9> allowed = {
-        QMetaType::Bool,      QMetaType::Int,    QMetaType::UInt,    QMetaType::LongLong,
-        QMetaType::ULongLong, QMetaType::Double, QMetaType::QString, QMetaType::QByteArray,
-        QMetaType::Float};
+        QMetaType::Bool,     QMetaType::Int,        QMetaType::UInt,
+        QMetaType::LongLong, QMetaType::ULongLong,  QMetaType::Double,
+        QMetaType::QString,  QMetaType::QByteArray, QMetaType::Float};
     QDataStream head(bytes);
     quint32 type = 0;
     head >> type;

@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "driverruntime.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <algorithm>
+#include <condition_variable>
+
+using std::chrono::milliseconds;
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(IedDriver)
+};
+
+/// How long the driver waits at its end for devices to be left in an orderly way.
+constexpr milliseconds leavePatience{3000};
+
+} // namespace
+
+IedDriver::Runtime::Runtime(IedDriverOptions options)
+    : m_options(std::move(options))
+    , m_work(asio::make_work_guard(m_context))
+    , m_values(LiveValues::create(m_context.get_executor(), m_options.poster))
+{
+    for (int i = 0; i < std::max(m_options.threads, 1); ++i)
+        m_threads.emplace_back([this] { m_context.run(); });
+}
+
+IedDriver::Runtime::~Runtime()
+{
+    struct Remaining
+    {
+        std::mutex mutex;
+        std::condition_variable changed;
+        std::size_t count = 0;
+    };
+    const auto remaining = std::make_shared<Remaining>();
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        remaining->count = m_connections.size();
+        for (const auto &each : m_connections) {
+            // The connection is held until its last handler has run.
+            each.second->disconnect([remaining, held = each.second] {
+                const std::lock_guard<std::mutex> inner(remaining->mutex);
+                --remaining->count;
+                remaining->changed.notify_all();
+            });
+        }
+    }
+    {
+        std::unique_lock<std::mutex> lock(remaining->mutex);
+        remaining->changed.wait_for(lock, leavePatience, [&] { return remaining->count == 0; });
+    }
+    m_values->flush();
+    m_work.reset();
+    // What is still under way are attempts to connect that nobody waits for.
+    m_context.stop();
+    for (std::thread &thread : m_threads)
+        thread.join();
+}
+
+void IedDriver::Runtime::setDevice(const DeviceConfiguration &configuration)
+{
+    std::shared_ptr<DeviceConnection> created;
+    if (configuration.host.isEmpty()) {
+        m_offline.addDevice(configuration.number, configuration.sclFile, configuration.ied);
+    } else {
+        ConnectionEnvironment environment;
+        environment.values = m_values;
+        environment.statusChanged = m_options.statusChanged;
+        environment.changed = m_options.changed;
+        environment.claim = [this](int number, const QStringList &names) {
+            return claim(number, names);
+        };
+        environment.release = [this](int number) { release(number); };
+        environment.cacheFolder = m_options.cacheFolder;
+        created = DeviceConnection::create(m_context.get_executor(), configuration,
+                                           std::move(environment));
+    }
+    std::shared_ptr<DeviceConnection> replaced;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        std::shared_ptr<DeviceConnection> &place = m_connections[configuration.number];
+        replaced = std::move(place);
+        place = created;
+        if (created)
+            m_offlineNumbers.erase(configuration.number);
+        else {
+            m_connections.erase(configuration.number);
+            m_offlineNumbers.insert(configuration.number);
+        }
+    }
+    if (replaced)
+        replaced->disconnect();
+}
+
+void IedDriver::Runtime::holdModel(long deviceNo, const QByteArray &model)
+{
+    m_offline.holdModel(deviceNo, model);
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_offlineNumbers.insert(deviceNo);
+}
+
+void IedDriver::Runtime::removeDevice(long deviceNo)
+{
+    m_offline.removeDevice(deviceNo);
+    std::shared_ptr<DeviceConnection> removed;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_offlineNumbers.erase(deviceNo);
+        const auto found = m_connections.find(deviceNo);
+        if (found == m_connections.end())
+            return;
+        removed = found->second;
+        m_connections.erase(found);
+    }
+    removed->disconnect();
+}
+
+std::shared_ptr<DeviceConnection> IedDriver::Runtime::connection(long deviceNo) const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const auto found = m_connections.find(deviceNo);
+    return found == m_connections.end() ? nullptr : found->second;
+}
+
+std::vector<std::shared_ptr<DeviceConnection>> IedDriver::Runtime::connections() const
+{
+    std::vector<std::shared_ptr<DeviceConnection>> result;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    for (const auto &each : m_connections)
+        result.push_back(each.second);
+    return result;
+}
+
+std::shared_ptr<DeviceConnection>
+IedDriver::Runtime::separate(const DeviceConfiguration &configuration)
+{
+    ConnectionEnvironment environment;
+    environment.values = m_values;
+    environment.claim = [](int, const QStringList &) { return QString(); };
+    environment.release = [](int) {};
+    return DeviceConnection::create(m_context.get_executor(), configuration,
+                                    std::move(environment));
+}
+
+OperationResult IedDriver::Runtime::run(long deviceNo, Effect effect, QString &error,
+                                        DeviceConnection::Operation operation,
+                                        DeviceConnection::Need need)
+{
+    return runWithin(milliseconds::zero(), deviceNo, effect, error, std::move(operation), need);
+}
+
+OperationResult IedDriver::Runtime::runWithin(milliseconds limit, long deviceNo, Effect effect,
+                                              QString &error, DeviceConnection::Operation operation,
+                                              DeviceConnection::Need need)
+{
+    const auto device = connection(deviceNo);
+    if (!device) {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        const bool isKnown = m_offlineNumbers.count(deviceNo) != 0;
+        error = isKnown ? Texts::tr("Not connected to the device")
+                        : Texts::tr("There is no device %1 on this driver.").arg(deviceNo);
+        return isKnown ? OperationNotConnected : OperationFailed;
+    }
+    if (effect == Effect::Changes && m_readOnly) {
+        error = Texts::tr("The driver is read-only: nothing on %1 was changed.")
+                    .arg(device->configuration().title());
+        return OperationFailed;
+    }
+    Outcome outcome = limit == milliseconds::zero()
+                          ? device->perform(need, std::move(operation))
+                          : device->perform(need, limit, std::move(operation));
+    error = outcome.error;
+    return outcome.result;
+}
+
+QString IedDriver::Runtime::claim(int number, const QStringList &logicalDevices)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    for (const QString &name : logicalDevices) {
+        const auto holder = m_claimed.find(name);
+        if (holder == m_claimed.end() || holder->second == number)
+            continue;
+        const auto other = m_connections.find(holder->second);
+        const QString title = other == m_connections.end()
+                                  ? Texts::tr("Device %1").arg(holder->second)
+                                  : other->second->configuration().title();
+        return Texts::tr("Its logical device \"%1\" is online already as part of %2; live values "
+                         "could not be told apart.")
+            .arg(name, title);
+    }
+    for (const QString &name : logicalDevices)
+        m_claimed[name] = number;
+    return {};
+}
+
+void IedDriver::Runtime::release(int number)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    for (auto each = m_claimed.begin(); each != m_claimed.end();)
+        each = each->second == number ? m_claimed.erase(each) : std::next(each);
+}

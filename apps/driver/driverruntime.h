@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "deviceconnection.h"
+#include "ieddriver.h"
+#include "livevalues.h"
+#include "offlinedriverservice.h"
+
+#include <asio/executor_work_guard.hpp>
+#include <asio/io_context.hpp>
+
+#include <atomic>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <set>
+#include <thread>
+#include <vector>
+
+/// What the controller operations of the driver run on: threads, devices by number, and the rules
+/// that hold for every operation. Any thread.
+class IedDriver::Runtime
+{
+public:
+    enum class Effect { Reads, Changes };
+    using Need = DeviceConnection::Need;
+
+    explicit Runtime(IedDriverOptions options);
+    ~Runtime();
+
+    void setDevice(const DeviceConfiguration &configuration);
+    void holdModel(long deviceNo, const QByteArray &model);
+    void removeDevice(long deviceNo);
+    /// Null for a device without an address, and for one that does not exist.
+    std::shared_ptr<DeviceConnection> connection(long deviceNo) const;
+    std::vector<std::shared_ptr<DeviceConnection>> connections() const;
+    /// A connection that is in no list and claims no names.
+    std::shared_ptr<DeviceConnection> separate(const DeviceConfiguration &configuration);
+    OfflineDriverService &offline() { return m_offline; }
+
+    void setReadOnly(bool readOnly) { m_readOnly = readOnly; }
+    bool isReadOnly() const { return m_readOnly; }
+
+    /// Runs an operation on the device: refused when it changes something and the driver is
+    /// read-only, or when the device has no address. Fills @p error. Ends at the latest after the
+    /// device's operation time-out.
+    OperationResult run(long deviceNo, Effect effect, QString &error,
+                        DeviceConnection::Operation operation, Need need = Need::Model);
+    /// The same with a limit of its own.
+    OperationResult runWithin(std::chrono::milliseconds limit, long deviceNo, Effect effect,
+                              QString &error, DeviceConnection::Operation operation,
+                              Need need = Need::Model);
+
+private:
+    QString claim(int number, const QStringList &logicalDevices);
+    void release(int number);
+
+    const IedDriverOptions m_options;
+    asio::io_context m_context;
+    asio::executor_work_guard<asio::io_context::executor_type> m_work;
+    std::shared_ptr<LiveValues> m_values;
+    OfflineDriverService m_offline;
+    std::atomic<bool> m_readOnly{false};
+    mutable std::mutex m_mutex;
+    std::map<long, std::shared_ptr<DeviceConnection>> m_connections;
+    std::set<long> m_offlineNumbers;  ///< devices without an address
+    std::map<QString, int> m_claimed; ///< number of the device online with the logical device
+    std::vector<std::thread> m_threads;
+};

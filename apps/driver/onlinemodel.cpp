@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "onlinemodel.h"
+
+#include "discoveredmodel.h"
+
+#include <QtCore/QDataStream>
+#include <QtCore/QIODevice>
+
+using mms::Data;
+using mms::TypeDescription;
+
+namespace {
+
+QString text(std::string_view utf8)
+{
+    return QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
+}
+
+std::string pathText(const acsi::Reference &reference)
+{
+    std::string result;
+    for (const acsi::PathStep &step : reference.path) {
+        if (!result.empty())
+            result += '$';
+        result += step.name;
+        if (step.element)
+            result += '(' + std::to_string(*step.element) + ')';
+    }
+    return result;
+}
+
+} // namespace
+
+/// The way through type and data to the leaves.
+struct OnlineModel::Walk
+{
+    const PhysicalDevice &device;
+    const LeafVisitor &visitor;
+    QString reference;
+    bool fits = true;
+
+    void visit(const TypeDescription &type, const Data *data, const Data *quality, const Data *time)
+    {
+        if (type.kind == TypeDescription::Kind::Structure)
+            visitStructure(type, data, quality, time);
+        else if (type.kind == TypeDescription::Kind::Array)
+            visitArray(type, data, quality, time);
+        else
+            visitLeaf(type, data, quality, time);
+    }
+
+    void visitStructure(const TypeDescription &type, const Data *data, const Data *quality,
+                        const Data *time)
+    {
+        const bool hasShape = !data || (data->kind() == Data::Kind::Structure &&
+                                        data->children().size() == type.components.size());
+        if (!hasShape) {
+            fits = false;
+            return;
+        }
+        for (std::size_t i = 0; data && i < type.components.size(); ++i) {
+            const Data &member = data->children()[i];
+            if (type.components[i].name == "q" && member.kind() == Data::Kind::BitString)
+                quality = &member;
+            else if (type.components[i].name == "t" && member.kind() == Data::Kind::UtcTime)
+                time = &member;
+        }
+        const int length = reference.size();
+        for (std::size_t i = 0; i < type.components.size(); ++i) {
+            reference += QLatin1Char('$');
+            reference += text(type.components[i].name);
+            visit(type.components[i].type, data ? &data->children()[i] : nullptr, quality, time);
+            reference.truncate(length);
+        }
+    }
+
+    void visitArray(const TypeDescription &type, const Data *data, const Data *quality,
+                    const Data *time)
+    {
+        if (type.components.empty() ||
+            (data && (data->kind() != Data::Kind::Array || data->size() != type.elementCount))) {
+            fits = false;
+            return;
+        }
+        const int length = reference.size();
+        for (std::uint32_t i = 0; i < type.elementCount; ++i) {
+            reference += QLatin1Char('(') + QString::number(i) + QLatin1Char(')');
+            visit(type.components.front().type, data ? &data->children()[i] : nullptr, quality,
+                  time);
+            reference.truncate(length);
+        }
+    }
+
+    void visitLeaf(const TypeDescription &type, const Data *data, const Data *quality,
+                   const Data *time)
+    {
+        if (data && (data->kind() == Data::Kind::Structure || data->kind() == Data::Kind::Array)) {
+            fits = false;
+            return;
+        }
+        visitor({reference, device.findTag(reference), &type, data,
+                 quality == data ? nullptr : quality, time == data ? nullptr : time});
+    }
+};
+
+OnlineModel::OnlineModel(std::shared_ptr<const acsi::ServerDescription> description,
+                         const QString &name, const PhysicalDevice *fromFile)
+    : m_description(std::move(description))
+    , m_device(DiscoveredModel::makeDevice(*m_description, name, fromFile))
+{
+    for (const acsi::DeviceDescription &device : m_description->devices) {
+        for (const acsi::NodeDescription &node : device.nodes)
+            m_nodes.insert(text(device.name) + QLatin1Char('/') + text(node.name), &node);
+    }
+    for (const LogicalDevice *device : qAsConst(m_device->logicalDevices)) {
+        for (LogicalNode *node : device->logicalNodes)
+            m_shownNodes.insert(device->name + QLatin1Char('/') + node->name, node);
+    }
+}
+
+const mms::TypeDescription *OnlineModel::type(const acsi::Reference &reference) const
+{
+    const acsi::NodeDescription *node =
+        m_nodes.value(text(reference.device) + QLatin1Char('/') + text(reference.node));
+    if (!node)
+        return nullptr;
+    if (!reference.constraint)
+        return &node->type;
+    return acsi::typeBelow(node->type, acsi::toText(*reference.constraint), pathText(reference));
+}
+
+LogicalNode *OnlineModel::node(const QString &device, const QString &node) const
+{
+    return m_shownNodes.value(device + QLatin1Char('/') + node);
+}
+
+ReportControlBlock *OnlineModel::reportBlock(const QString &device, const QString &reference) const
+{
+    const LogicalNode *owner = node(device, reference.section(QLatin1Char('$'), 0, 0));
+    if (!owner)
+        return nullptr;
+    for (ReportControlBlock *block : qAsConst(owner->reportControls->blocks)) {
+        if (block->reference == reference)
+            return block;
+    }
+    return nullptr;
+}
+
+bool OnlineModel::forEachLeaf(const acsi::Reference &reference, const mms::Data &data,
+                              const LeafVisitor &visitor) const
+{
+    const TypeDescription *described = type(reference);
+    if (!described)
+        return false;
+    Walk walk{*m_device, visitor, text(acsi::toText(reference))};
+    walk.visit(*described, &data, nullptr, nullptr);
+    return walk.fits;
+}
+
+std::vector<OnlineModel::Leaf> OnlineModel::leavesOf(const acsi::Reference &reference) const
+{
+    std::vector<Leaf> leaves;
+    const TypeDescription *described = type(reference);
+    if (!described)
+        return leaves;
+    const LeafVisitor visitor = [&leaves](const Leaf &leaf) { leaves.push_back(leaf); };
+    Walk walk{*m_device, visitor, text(acsi::toText(reference))};
+    walk.visit(*described, nullptr, nullptr, nullptr);
+    return leaves;
+}
+
+QByteArray OnlineModel::toBytes() const
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    m_device->toStream(stream);
+    return bytes;
+}
