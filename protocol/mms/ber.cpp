@@ -239,6 +239,21 @@ Reader Reader::expectGroup(Tag tag, std::string_view what)
 
 std::size_t Reader::countRest()
 {
+    const std::size_t count = countAhead();
+    return allow(count) ? count : 0;
+}
+
+bool Reader::allow(std::size_t count)
+{
+    if (count > m_input->m_countLeft)
+        fail("The message holds more elements than allowed");
+    else
+        m_input->m_countLeft -= count;
+    return !failed();
+}
+
+std::size_t Reader::countAhead()
+{
     if (failed())
         return 0;
     const std::uint8_t *p = m_position;
@@ -255,11 +270,6 @@ std::size_t Reader::countRest()
             return 0;
         p = ahead.m_position;
     }
-    if (count > m_input->m_countLeft) {
-        fail("The message holds more elements than allowed");
-        return 0;
-    }
-    m_input->m_countLeft -= count;
     return count;
 }
 

@@ -211,6 +211,10 @@ public:
     Reader expectGroup(Tag tag, std::string_view what);
     /// Elements of this level that are left, taken from the count that the limits allow.
     std::size_t countRest();
+    /// Elements of this level that are left; none where they cannot be read.
+    std::size_t countAhead();
+    /// Takes so many elements from the count that the limits allow; false when it is used up.
+    bool allow(std::size_t count);
     /// Fails when an element is left; @a what names the level in the error.
     void expectEnd(std::string_view what);
 

@@ -73,6 +73,44 @@ std::string shortest(Number number)
     return failure == std::errc() ? std::string(buffer, end) : std::string();
 }
 
+/// The elements that are left, with all that groups among them hold.
+std::size_t countNested(Reader reader)
+{
+    std::size_t count = 0;
+    Element element;
+    for (; reader.next(element); ++count) {
+        if (element.tag.isConstructed())
+            count += countNested(reader.enter(element));
+    }
+    return count;
+}
+
+/// The same in one go through the octets, as most values allow it. What lengths that contradict
+/// each other lead to is any number.
+std::optional<std::size_t> countNestedQuickly(Bytes content)
+{
+    std::size_t count = 0;
+    const std::uint8_t *p = content.data();
+    const std::uint8_t *const end = p + content.size();
+    for (; p != end; ++count) {
+        const auto left = static_cast<std::size_t>(end - p);
+        if (left < 2 || (p[0] & 0x1FU) == 0x1F)
+            return std::nullopt;
+        std::size_t header = 2;
+        std::size_t length = p[1];
+        if (length >= 0x80) {
+            header += length & 0x7FU;
+            if (length == 0x80 || header > 4 || header > left)
+                return std::nullopt;
+            length = header == 3 ? p[2] : std::size_t{p[2]} << 8U | p[3];
+        }
+        if (length > left - header)
+            return std::nullopt;
+        p += (p[0] & 0x20U) != 0 ? header : header + length;
+    }
+    return count;
+}
+
 } // namespace
 
 Data Data::group(Kind kind, std::vector<Data> children)
@@ -198,9 +236,24 @@ void Data::freeMemory() noexcept
         delete[] m_content.octets;
 }
 
+void Data::stealBorrowed(Data &other) noexcept
+{
+    auto *const children = new Data[other.m_size];
+    for (std::uint32_t i = 0; i < other.m_size; ++i)
+        children[i].stealFrom(other.m_content.children[i]);
+    m_kind = other.m_kind;
+    m_width = other.m_width;
+    m_isBorrowed = false;
+    m_size = other.m_size;
+    m_content.children = children;
+    other.m_kind = Kind::Structure;
+    other.m_isBorrowed = false;
+    other.m_size = 0;
+}
+
 void Data::copyFrom(const Data &other)
 {
-    if (!other.ownsMemory()) {
+    if (!other.ownsMemory() && !other.m_isBorrowed) {
         m_content = other.m_content;
     } else if (other.isGroup()) {
         m_content.children = new Data[other.m_size];
@@ -322,7 +375,7 @@ bool operator==(const Data &left, const Data &right)
     return left.m_width == right.m_width && left.m_content.bits == right.m_content.bits;
 }
 
-void DataCodec::readInto(Reader &reader, const Element &element, Data &data)
+void DataCodec::readInto(Reader &reader, const Element &element, Data &data, Room *room)
 {
     const Bytes content = element.content;
     const auto refuse = [&](const char *message) { reader.input().fail(message, element.offset); };
@@ -333,9 +386,9 @@ void DataCodec::readInto(Reader &reader, const Element &element, Data &data)
         data.m_content.bits = bits;
     };
     const auto copyOctets = [&](Data::Kind kind) {
-        std::uint8_t *const room = data.makeRoom(kind, content.size());
+        std::uint8_t *const place = data.makeRoom(kind, content.size());
         if (!content.empty())
-            std::memcpy(room, content.data(), content.size());
+            std::memcpy(place, content.data(), content.size());
     };
 
     const auto kind = static_cast<Data::Kind>(element.tag.number());
@@ -348,15 +401,31 @@ void DataCodec::readInto(Reader &reader, const Element &element, Data &data)
     case Data::Kind::Array:
     case Data::Kind::Structure: {
         Reader inner = reader.enter(element);
-        const std::size_t count = inner.countRest();
         data.m_kind = kind;
+        const std::size_t count = inner.countAhead();
         if (count == 0)
             return;
-        data.m_content.children = new Data[count];
-        data.m_size = static_cast<std::uint32_t>(count);
+        Room own;
+        data.m_isBorrowed = room != nullptr;
+        if (!room) {
+            const auto quick = countNestedQuickly(content);
+            const std::size_t all = quick ? *quick : countNested(inner);
+            if (!inner.allow(all))
+                return;
+            own.next = new Data[all];
+            own.end = own.next + all;
+            room = &own;
+        }
+        Data *place = room->next;
+        const auto left = static_cast<std::size_t>(room->end - place);
+        data.m_content.children = place;
+        data.m_size = static_cast<std::uint32_t>(std::min(count, left));
+        if (count > left)
+            return refuse("An element is longer than the group that it is in");
+        room->next += count;
         Element child;
-        for (Data *place = data.m_content.children; inner.next(child); ++place)
-            readInto(inner, child, *place);
+        for (; inner.next(child); ++place)
+            readInto(inner, child, *place, room);
         return;
     }
     case Data::Kind::Boolean:
@@ -385,13 +454,13 @@ void DataCodec::readInto(Reader &reader, const Element &element, Data &data)
         if (content.empty() || content[0] > 7 || (content.size() == 1 && content[0] != 0))
             return refuse("A bit string does not say how many of its bits count");
         const std::size_t size = (content.size() - 1) * 8 - content[0];
-        std::uint8_t *const room = data.makeRoom(kind, size);
+        std::uint8_t *const place = data.makeRoom(kind, size);
         const std::size_t octets = content.size() - 1;
         if (octets == 0)
             return;
-        std::memcpy(room, content.data() + 1, octets);
-        room[octets - 1] =
-            static_cast<std::uint8_t>(room[octets - 1] & (0xFFU << content[0] & 0xFFU));
+        std::memcpy(place, content.data() + 1, octets);
+        place[octets - 1] =
+            static_cast<std::uint8_t>(place[octets - 1] & (0xFFU << content[0] & 0xFFU));
         return;
     }
     case Data::Kind::BinaryTime:

@@ -8,6 +8,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace mms {
@@ -79,8 +80,10 @@ public:
     Data &operator=(Data &&other) noexcept
     {
         if (this != &other) {
+            // What is assigned may be inside this value.
+            Data taken(std::move(other));
             release();
-            stealFrom(other);
+            stealFrom(taken);
         }
         return *this;
     }
@@ -176,7 +179,7 @@ private:
     std::size_t octetCount() const noexcept { return isBits() ? (m_size + 7U) / 8U : m_size; }
     bool ownsMemory() const noexcept
     {
-        return isGroup() ? m_size != 0 : isOctets() && octetCount() > insideSize;
+        return isGroup() ? m_size != 0 && !m_isBorrowed : isOctets() && octetCount() > insideSize;
     }
     void release() noexcept
     {
@@ -186,6 +189,10 @@ private:
     void freeMemory() noexcept;
     void stealFrom(Data &other) noexcept
     {
+        if (other.m_isBorrowed) {
+            stealBorrowed(other);
+            return;
+        }
         m_kind = other.m_kind;
         m_width = other.m_width;
         m_size = other.m_size;
@@ -193,6 +200,7 @@ private:
         other.m_kind = Kind::Structure;
         other.m_size = 0;
     }
+    void stealBorrowed(Data &other) noexcept;
     void copyFrom(const Data &other);
     /// Room for octets of a value that holds none yet.
     std::uint8_t *makeRoom(Kind kind, std::size_t size);
@@ -206,6 +214,9 @@ private:
 
     Kind m_kind = Kind::Structure;
     std::uint8_t m_width = 0;
+    /// A group that was read within another one: the outermost group owns one block with the
+    /// children of all of them.
+    bool m_isBorrowed = false;
     std::uint32_t m_size = 0;
     Content m_content = {};
 };
@@ -279,7 +290,15 @@ public:
     static void write(ber::Writer &writer, const AccessResult &result);
 
 private:
-    static void readInto(ber::Reader &reader, const ber::Element &element, Data &data);
+    /// Where the children of groups within another one are put.
+    struct Room
+    {
+        Data *next = nullptr;
+        Data *end = nullptr;
+    };
+
+    static void readInto(ber::Reader &reader, const ber::Element &element, Data &data,
+                         Room *room = nullptr);
 };
 
 /// Whole input as one value.

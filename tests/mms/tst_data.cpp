@@ -293,3 +293,72 @@ TEST(TypeDescription, WhatIsNoTypeIsSaid)
         EXPECT_EQ(result.error().message, "An element that is no type stands where a type belongs");
     }
 }
+
+namespace {
+
+/// Groups within groups, texts inside and outside of the values among them.
+Data nested()
+{
+    return Data::structure(
+        {Data::structure({Data::float32(1.5F), Data::visibleString("a text of many octets")}),
+         Data::array({Data::structure({Data::visibleString("short")}), Data::structure({}),
+                      Data::structure({Data::array({Data::integer(1), Data::integer(2)})})}),
+         Data::octetString(std::vector<std::uint8_t>(200, 7))});
+}
+
+Data decoded()
+{
+    const auto result = decodeData(encode(nested()));
+    EXPECT_TRUE(result.ok());
+    return result.ok() ? *result : Data();
+}
+
+} // namespace
+
+TEST(Data, WhatIsTakenOutOfADecodedValueOutlivesIt)
+{
+    Data taken;
+    Data copied;
+    {
+        auto whole = decodeData(encode(nested()));
+        ASSERT_TRUE(whole.ok());
+        copied = whole->children()[1];
+        taken = std::move(whole->children()[1]);
+        EXPECT_EQ(whole->children()[1], Data());
+        EXPECT_EQ(whole->children()[0], nested().children()[0]);
+    }
+    EXPECT_EQ(taken, nested().children()[1]);
+    EXPECT_EQ(copied, nested().children()[1]);
+    Data deeper = std::move(taken.children()[2].children()[0]);
+    taken = {};
+    EXPECT_EQ(deeper, Data::array({Data::integer(1), Data::integer(2)}));
+}
+
+TEST(Data, ADecodedValueCanBeChangedLikeAnyOther)
+{
+    Data value = decoded();
+    value.children()[0] = Data::structure({Data::visibleString("another text of many octets")});
+    value.children()[1].children()[2] = value.children()[0];
+    Data copy = value;
+    value = std::move(value.children()[1]);
+    EXPECT_EQ(value.children()[2],
+              Data::structure({Data::visibleString("another text of many octets")}));
+    EXPECT_EQ(copy.children()[1], value);
+    std::swap(copy.children()[0], copy.children()[1]);
+    EXPECT_EQ(copy.children()[0], value);
+    std::vector<Data> list(3, decoded());
+    list.insert(list.begin(), std::move(list.back().children()[0]));
+    list.erase(list.begin() + 1);
+    EXPECT_EQ(list.front(), nested().children()[0]);
+    EXPECT_EQ(list[1], nested());
+}
+
+TEST(Data, LengthsThatContradictEachOtherAreAnError)
+{
+    // A group of two octets whose member claims five, while the groups around it would have them.
+    for (const char *hex : {"a20d a204 a202 8505 830100 830101", "a20b a202 8505 830100 830101 83",
+                            "a208 a102 a204 8301 ff83", "a280 a203 a205 8301 ff00 0000"}) {
+        const auto result = decodeData(fromHex(hex));
+        EXPECT_FALSE(result.ok()) << hex;
+    }
+}
