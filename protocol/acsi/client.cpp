@@ -214,6 +214,7 @@ Client::Client(Private, ClientOptions options)
     : m_options(std::move(options))
     , m_informationHandlers(std::make_shared<Entries<InformationHandler>>())
     , m_requestHandlers(std::make_shared<Entries<RequestHandler>>())
+    , m_endHandlers(std::make_shared<Entries<EndHandler>>())
 {
 }
 
@@ -249,6 +250,11 @@ void Client::ended(const std::string &reason)
 {
     m_open = false;
     m_closeReason = reason;
+    const auto endHandlers = m_endHandlers;
+    for (const auto &entry : *endHandlers) {
+        if (!entry->removed)
+            entry->handler(reason);
+    }
     if (const auto closed = std::exchange(m_closed, nullptr))
         closed(reason);
 }
@@ -487,8 +493,14 @@ Client::Registration Client::addRequestHandler(RequestHandler handler)
     return add(m_requestHandlers, std::move(handler));
 }
 
+Client::Registration Client::addEndHandler(EndHandler handler)
+{
+    return add(m_endHandlers, std::move(handler));
+}
+
 void Client::remove(Registration registration)
 {
+    removeFrom(m_endHandlers, registration);
     removeFrom(m_informationHandlers, registration);
     removeFrom(m_requestHandlers, registration);
 }

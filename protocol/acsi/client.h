@@ -43,6 +43,7 @@ public:
     using InformationHandler = std::function<bool(const mms::InformationReport &report)>;
     using RequestHandler =
         std::function<bool(std::uint32_t invokeId, const mms::RequestService &request)>;
+    using EndHandler = std::function<void(const std::string &reason)>;
     using Registration = std::uint64_t;
 
     /// Connect and associate. Afterwards @p closed hears once, with one sentence, that the
@@ -111,6 +112,8 @@ public:
     /// Hear the requests of the peer (it fetches files that this side offers). A request that no
     /// handler takes is rejected; one that takes it answers on association().
     Registration addRequestHandler(RequestHandler handler);
+    /// Hear that the association has ended, before those who connected hear it.
+    Registration addEndHandler(EndHandler handler);
     void remove(Registration registration);
 
     /// Information reports that no handler took.
@@ -147,6 +150,7 @@ private:
     std::shared_ptr<mms::Association> m_association;
     std::shared_ptr<const Entries<InformationHandler>> m_informationHandlers;
     std::shared_ptr<const Entries<RequestHandler>> m_requestHandlers;
+    std::shared_ptr<const Entries<EndHandler>> m_endHandlers;
     std::function<void(const std::string &)> m_closed;
     std::string m_closeReason;
     Registration m_lastRegistration = 0;

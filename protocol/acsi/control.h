@@ -74,10 +74,12 @@ struct ControlResult
 };
 
 /// The value of Oper, SBOw or Cancel in the order and types of the live type description, with or
-/// without operTm and Check. The error says what does not fit.
+/// without operTm and Check; ctlVal as valueOfType() makes it. The error says what does not fit: an
+/// originator identification beyond 64 octets, and a time to operate or a test where the device has
+/// no place for it, are errors as well.
 mms::Result<mms::Data> controlValue(const mms::TypeDescription &type,
                                     const ControlRequest &request);
-/// The inverse, for servers.
+/// The inverse, for servers. A time to operate of zero is none.
 mms::Result<ControlRequest> controlRequestFrom(const mms::TypeDescription &type,
                                                const mms::Data &value);
 
@@ -90,18 +92,33 @@ struct ControlInformation
     /// The object of a command termination; empty for a LastApplError alone.
     std::optional<Reference> terminated;
     bool positive = false;
+    /// Empty as well when it could not be read.
     std::optional<LastApplError> applError;
+    /// The value of Oper with a command termination.
+    std::optional<mms::Data> oper;
 };
 std::optional<ControlInformation> controlInformationFrom(const mms::InformationReport &report);
 
-/// A controllable data object of a server ("LD/LN$CO$Pos"). In the client's strand; one call at a
-/// time.
-class ControlObject
+/// What a server sends before it refuses a control.
+mms::InformationReport toReport(const LastApplError &error);
+/// What a server sends when a command of @p object ("LD/LN$CO$Pos") has ended, without success when
+/// there is an @p error; @p oper is the value that was written.
+mms::InformationReport commandTermination(const Reference &object, mms::Data oper,
+                                          const std::optional<LastApplError> &error = {});
+
+/// A controllable data object of a server ("LD/LN$CO$Pos"). In the client's strand, where it is
+/// destroyed as well; one call at a time, except that cancel() may come while operate() waits.
+class ControlObject : public std::enable_shared_from_this<ControlObject>
 {
+    struct Private
+    {
+    };
+
 public:
     /// Reads ctlModel, the types, and the time-outs where the object has them.
     static asio::awaitable<mms::Result<std::shared_ptr<ControlObject>>>
     open(std::shared_ptr<Client> client, Reference object);
+    ControlObject(Private, std::shared_ptr<Client> client, Reference object);
     ~ControlObject();
     ControlObject(const ControlObject &) = delete;
     ControlObject &operator=(const ControlObject &) = delete;
@@ -110,20 +127,30 @@ public:
     const Reference &reference() const { return m_object; }
     /// The type of Oper, or an empty structure when the object cannot be operated.
     const mms::TypeDescription &operType() const { return m_operType; }
+    /// How long a selection lasts, and how long a command may take; where the device says so.
+    std::optional<std::chrono::milliseconds> selectTimeout() const { return m_selectTimeout; }
+    std::optional<std::chrono::milliseconds> operateTimeout() const { return m_operateTimeout; }
 
     /// SelectNormal reads SBO, SelectEnhanced writes SBOw; an error for the other models.
     asio::awaitable<ControlResult> select(ControlRequest request);
-    /// Enhanced models wait for the command termination, at most @p terminationTimeout.
+    /// Enhanced models wait for the command termination, at most @p terminationTimeout; of a
+    /// time-activated command that counts from the time at which the device shall operate.
     asio::awaitable<ControlResult>
     operate(ControlRequest request,
             std::chrono::milliseconds terminationTimeout = std::chrono::seconds(30));
     asio::awaitable<ControlResult> cancel(ControlRequest request);
 
 private:
-    ControlObject(std::shared_ptr<Client> client, Reference object);
-    asio::awaitable<ControlResult> writeControl(std::string component,
-                                                const mms::TypeDescription &type,
-                                                const ControlRequest &request);
+    struct Call;
+
+    asio::awaitable<mms::Result<void>> readModel();
+    asio::awaitable<mms::Result<void>> readTypes();
+    asio::awaitable<void> writeControl(Call &call, const mms::TypeDescription &type,
+                                       const ControlRequest &request);
+    ControlResult refusal(const Call &call, const std::string &reason) const;
+    bool handle(const mms::InformationReport &report);
+    bool isMine(const LastApplError &error, const Call &call) const;
+    std::string name() const { return objectReferenceText(m_object); }
 
     std::shared_ptr<Client> m_client;
     Reference m_object;
@@ -131,8 +158,11 @@ private:
     mms::TypeDescription m_operType;
     mms::TypeDescription m_selectType;
     mms::TypeDescription m_cancelType;
-    Client::Registration m_registration = 0;
-    std::optional<LastApplError> m_lastError;
+    std::optional<std::chrono::milliseconds> m_selectTimeout;
+    std::optional<std::chrono::milliseconds> m_operateTimeout;
+    Client::Registration m_informationHandler = 0;
+    /// Calls that are not over, oldest first.
+    std::vector<Call *> m_calls;
 };
 
 } // namespace acsi

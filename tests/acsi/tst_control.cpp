@@ -1,0 +1,391 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "acsi/control.h"
+
+#include "acsi/scripteddevice.h"
+
+namespace {
+
+using namespace acsi;
+using namespace std::chrono_literals;
+using acsitest::ScriptedDevice;
+using mms::Data;
+using mms::DataAccessError;
+using Type = mms::TypeDescription;
+
+Type commandType(bool withCheck)
+{
+    std::vector<Type::Component> components{
+        {"ctlVal", Type::boolean()},
+        {"origin",
+         Type::structure({{"orCat", Type::integer(8)}, {"orIdent", Type::octetString(-64)}})},
+        {"ctlNum", Type::unsignedInteger(8)},
+        {"T", Type::utcTime()},
+        {"Test", Type::boolean()}};
+    if (withCheck)
+        components.push_back({"Check", Type::bitString(-2)});
+    return Type::structure(std::move(components));
+}
+
+/// What the device does with a command before, instead of and after its answer.
+struct Reaction
+{
+    std::optional<LastApplError> errorBefore;
+    std::optional<DataAccessError> refusal;
+    bool terminates = false;
+    std::optional<LastApplError> terminationError;
+    std::uint8_t terminationNumber = 7;
+    bool terminatesFirst = false;
+    std::optional<LastApplError> errorAfter;
+    bool aborts = false;
+};
+
+class ControlTest : public acsitest::DeviceTest
+{
+protected:
+    void open(ControlModel model)
+    {
+        const Type command = commandType(true);
+        device->domains["LD"].nodes["CSWI1"] = Type::structure(
+            {{"CO",
+              Type::structure({{"Pos", Type::structure({{"SBO", Type::visibleString(-129)},
+                                                        {"SBOw", command},
+                                                        {"Oper", command},
+                                                        {"Cancel", commandType(false)}})}})}});
+        const std::string pos = "LD/CSWI1$CF$Pos$";
+        device->values[pos + "ctlModel"] = Data::integer(static_cast<int>(model));
+        device->values[pos + "sboTimeout"] = Data::unsignedInteger(30000);
+        device->values["LD/CSWI1$CO$Pos$SBO"] = Data::visibleString("LD/CSWI1$CO$Pos");
+        for (const char *component : {"SBOw", "Oper", "Cancel"})
+            device->values[std::string("LD/CSWI1$CO$Pos$") + component] = Data();
+        device->intercept = [this](const auto &association, std::uint32_t invokeId,
+                                   mms::RequestService &service) {
+            return std::holds_alternative<mms::WriteRequest>(service) &&
+                   react(association, invokeId);
+        };
+        connect();
+        auto opened = run(ControlObject::open(client, *parseReference("LD/CSWI1$CO$Pos")));
+        ASSERT_TRUE(opened.ok()) << opened.error().message;
+        control = *opened;
+    }
+
+    void TearDown() override
+    {
+        if (!control)
+            return;
+        // In the strand, like every use of it.
+        asio::co_spawn(client->strand(), release(), asio::use_future).get();
+    }
+
+    ControlRequest request(std::uint8_t ctlNum = 7)
+    {
+        ControlRequest result;
+        result.value = Data::boolean(true);
+        result.originator = {2, {'t'}};
+        result.ctlNum = ctlNum;
+        return result;
+    }
+
+    LastApplError error(std::int32_t addCause, std::uint8_t ctlNum = 7,
+                        const std::string &component = "$Oper")
+    {
+        return {"LD/CSWI1$CO$Pos" + component, 1, {2, {'t'}}, ctlNum, addCause};
+    }
+
+    Reaction reaction;
+    std::shared_ptr<ControlObject> control;
+
+private:
+    asio::awaitable<void> release()
+    {
+        control.reset();
+        co_return;
+    }
+
+    bool react(const std::shared_ptr<mms::Association> &association, std::uint32_t invokeId)
+    {
+        const auto terminate = [&] {
+            ControlRequest sent = request(reaction.terminationNumber);
+            association->report(commandTermination(*parseReference("LD/CSWI1$CO$Pos"),
+                                                   *controlValue(commandType(true), sent),
+                                                   reaction.terminationError));
+        };
+        if (reaction.errorBefore)
+            association->report(toReport(*reaction.errorBefore));
+        if (reaction.terminatesFirst)
+            terminate();
+        mms::WriteResponse response;
+        response.results.push_back(reaction.refusal);
+        association->respond(invokeId, response);
+        if (reaction.terminates)
+            terminate();
+        if (reaction.errorAfter)
+            association->report(toReport(*reaction.errorAfter));
+        if (reaction.aborts)
+            association->abort("The test wants it.");
+        return true;
+    }
+};
+
+} // namespace
+
+TEST_F(ControlTest, OpeningReadsTheModelTheTypesAndTheTimeOuts)
+{
+    open(ControlModel::SelectEnhanced);
+    ASSERT_TRUE(control);
+    EXPECT_EQ(control->model(), ControlModel::SelectEnhanced);
+    EXPECT_EQ(control->operType(), commandType(true));
+    EXPECT_EQ(control->selectTimeout(), 30000ms);
+    EXPECT_FALSE(control->operateTimeout());
+}
+
+TEST_F(ControlTest, AnObjectWithoutAControlModelCannotBeOpened)
+{
+    connect();
+    const auto opened = run(ControlObject::open(client, *parseReference("LD/CSWI1$CO$Pos")));
+    ASSERT_FALSE(opened.ok());
+    EXPECT_EQ(opened.error().message.find("The control model of LD/CSWI1.Pos cannot be read: "),
+              0U);
+}
+
+TEST_F(ControlTest, NamesThatAreNoDataObjectsCannotBeOpened)
+{
+    connect();
+    for (const char *text : {"LD", "LD/CSWI1", "LD/CSWI1$CO", "LD/CSWI1$CO$Pos(3)"}) {
+        EXPECT_FALSE(run(ControlObject::open(client, *parseReference(text))).ok()) << text;
+    }
+    EXPECT_TRUE(device->requests().empty());
+}
+
+TEST_F(ControlTest, AnUnknownControlModelIsAnErrorInsteadOfAGuess)
+{
+    device->values["LD/CSWI1$CF$Pos$ctlModel"] = Data::integer(5);
+    connect();
+    EXPECT_FALSE(run(ControlObject::open(client, *parseReference("LD/CSWI1$CO$Pos"))).ok());
+}
+
+TEST_F(ControlTest, AStatusOnlyObjectCannotBeControlled)
+{
+    open(ControlModel::StatusOnly);
+    EXPECT_FALSE(run(control->select(request())).ok);
+    EXPECT_FALSE(run(control->operate(request())).ok);
+    EXPECT_FALSE(run(control->cancel(request())).ok);
+    EXPECT_TRUE(device->requestsOf<mms::WriteRequest>().empty());
+}
+
+TEST_F(ControlTest, SelectionWithNormalSecurityIsARead)
+{
+    open(ControlModel::SelectNormal);
+    EXPECT_TRUE(run(control->select(request())).ok);
+    const auto reads = device->requestsOf<mms::ReadRequest>();
+    EXPECT_EQ(toText(reads.back().variables), toText(mms::variablesOf("LD", {"CSWI1$CO$Pos$SBO"})));
+    EXPECT_TRUE(device->requestsOf<mms::WriteRequest>().empty());
+}
+
+TEST_F(ControlTest, AnEmptyAnswerToASelectionIsARefusal)
+{
+    open(ControlModel::SelectNormal);
+    device->values["LD/CSWI1$CO$Pos$SBO"] = Data::visibleString("");
+    const ControlResult result = run(control->select(request()));
+    EXPECT_FALSE(result.ok);
+    EXPECT_EQ(result.message, "LD/CSWI1.Pos: the device refuses SBO: it gives no reason; another "
+                              "client may have selected the object.");
+}
+
+TEST_F(ControlTest, SelectionWithEnhancedSecurityIsAWriteOfTheCommand)
+{
+    open(ControlModel::SelectEnhanced);
+    EXPECT_TRUE(run(control->select(request())).ok);
+    const auto writes = device->requestsOf<mms::WriteRequest>();
+    ASSERT_EQ(writes.size(), 1U);
+    EXPECT_EQ(toText(writes[0].variables), toText(mms::variablesOf("LD", {"CSWI1$CO$Pos$SBOw"})));
+    EXPECT_EQ(writes[0].values[0], *controlValue(commandType(true), request()));
+}
+
+TEST_F(ControlTest, ModelsWithoutSelectionSaySo)
+{
+    open(ControlModel::DirectNormal);
+    const ControlResult result = run(control->select(request()));
+    EXPECT_EQ(result.message, "LD/CSWI1.Pos: its control model knows no selection.");
+}
+
+TEST_F(ControlTest, NormalModelsDoNotWaitForATermination)
+{
+    open(ControlModel::DirectNormal);
+    EXPECT_TRUE(run(control->operate(request(), 1h)).ok);
+}
+
+TEST_F(ControlTest, ARefusalGivesTheAdditionalCause)
+{
+    open(ControlModel::DirectNormal);
+    reaction.errorBefore = error(10);
+    reaction.refusal = DataAccessError::ObjectAccessDenied;
+    const ControlResult result = run(control->operate(request()));
+    EXPECT_FALSE(result.ok);
+    EXPECT_EQ(result.message, "LD/CSWI1.Pos: the device refuses Oper: blocked by interlocking.");
+    EXPECT_EQ(result.applError, error(10));
+}
+
+TEST_F(ControlTest, TheTestThatFailedIsNamedBesideTheCause)
+{
+    open(ControlModel::DirectNormal);
+    reaction.errorBefore = error(16);
+    reaction.errorBefore->error = 2;
+    reaction.refusal = DataAccessError::ObjectAccessDenied;
+    EXPECT_EQ(run(control->operate(request())).message,
+              "LD/CSWI1.Pos: the device refuses Oper: the time for it is over (the time-out test "
+              "failed).");
+}
+
+TEST_F(ControlTest, ARefusalWithoutACauseGivesTheAccessError)
+{
+    open(ControlModel::DirectNormal);
+    reaction.refusal = DataAccessError::ObjectAccessDenied;
+    const ControlResult result = run(control->operate(request()));
+    EXPECT_FALSE(result.applError);
+    EXPECT_NE(result.message.find(mms::describe(DataAccessError::ObjectAccessDenied)),
+              std::string::npos);
+}
+
+TEST_F(ControlTest, CausesOfOtherCommandsAreNotTakenForThisOne)
+{
+    open(ControlModel::DirectNormal);
+    reaction.refusal = DataAccessError::ObjectAccessDenied;
+    LastApplError otherObject = error(10);
+    otherObject.controlObject = "LD/CSWI1$CO$Pos2$Oper";
+    const std::vector<LastApplError> others = {error(10, 8), otherObject, error(10, 7, "$Cancel")};
+    for (const LastApplError &other : others) {
+        reaction.errorBefore = other;
+        EXPECT_FALSE(run(control->operate(request())).applError) << other.controlObject;
+    }
+    EXPECT_EQ(client->unclaimedReports(), others.size());
+}
+
+TEST_F(ControlTest, ACauseOfThePreviousCommandIsForgotten)
+{
+    open(ControlModel::DirectNormal);
+    reaction.errorBefore = error(10);
+    reaction.refusal = DataAccessError::ObjectAccessDenied;
+    EXPECT_TRUE(run(control->operate(request())).applError);
+    reaction.errorBefore.reset();
+    EXPECT_FALSE(run(control->operate(request())).applError);
+}
+
+TEST_F(ControlTest, EnhancedModelsWaitForTheTermination)
+{
+    open(ControlModel::DirectEnhanced);
+    reaction.terminates = true;
+    EXPECT_TRUE(run(control->operate(request(), 1h)).ok);
+}
+
+TEST_F(ControlTest, ATerminationThatOvertakesTheAnswerCounts)
+{
+    open(ControlModel::DirectEnhanced);
+    reaction.terminatesFirst = true;
+    EXPECT_TRUE(run(control->operate(request(), 1h)).ok);
+}
+
+TEST_F(ControlTest, ANegativeTerminationGivesTheAdditionalCause)
+{
+    open(ControlModel::SelectEnhanced);
+    reaction.terminates = true;
+    reaction.terminationError = error(17);
+    const ControlResult result = run(control->operate(request(), 1h));
+    EXPECT_FALSE(result.ok);
+    EXPECT_EQ(result.message, "LD/CSWI1.Pos: the command ended without success: ended by a trip.");
+    EXPECT_EQ(result.applError, error(17));
+}
+
+TEST_F(ControlTest, AnErrorAfterAcceptanceEndsTheCommandWithoutSuccess)
+{
+    open(ControlModel::DirectEnhanced);
+    reaction.errorAfter = error(16);
+    const ControlResult result = run(control->operate(request(), 1h));
+    EXPECT_FALSE(result.ok);
+    EXPECT_EQ(result.applError, error(16));
+}
+
+TEST_F(ControlTest, TheTerminationOfAnotherCommandDoesNotCount)
+{
+    open(ControlModel::DirectEnhanced);
+    reaction.terminates = true;
+    reaction.terminationNumber = 6;
+    const ControlResult result = run(control->operate(request(), 100ms));
+    EXPECT_FALSE(result.ok);
+    EXPECT_EQ(client->unclaimedReports(), 1U);
+}
+
+TEST_F(ControlTest, AMissingTerminationIsNoSuccess)
+{
+    open(ControlModel::DirectEnhanced);
+    const ControlResult result = run(control->operate(request(), 100ms));
+    EXPECT_FALSE(result.ok);
+    EXPECT_EQ(result.message, "LD/CSWI1.Pos: the device accepted the command, but has not told "
+                              "within 0.1 s how it ended.");
+}
+
+TEST_F(ControlTest, TheEndOfTheAssociationEndsTheWaitForATermination)
+{
+    open(ControlModel::DirectEnhanced);
+    reaction.aborts = true;
+    const ControlResult result = run(control->operate(request(), 1h));
+    EXPECT_FALSE(result.ok);
+    EXPECT_EQ(result.message.find("LD/CSWI1.Pos: the device accepted the command, but the "
+                                  "association ended before the command: "),
+              0U)
+        << result.message;
+}
+
+TEST_F(ControlTest, CancelWritesTheCommandWithoutChecks)
+{
+    open(ControlModel::SelectNormal);
+    EXPECT_TRUE(run(control->cancel(request())).ok);
+    const auto writes = device->requestsOf<mms::WriteRequest>();
+    ASSERT_EQ(writes.size(), 1U);
+    EXPECT_EQ(writes[0].values[0], *controlValue(commandType(false), request()));
+}
+
+TEST_F(ControlTest, ACommandCanBeCancelledWhileItIsExecuted)
+{
+    open(ControlModel::DirectEnhanced);
+    device->intercept = [this](const auto &association, std::uint32_t invokeId,
+                               mms::RequestService &service) {
+        const auto *write = std::get_if<mms::WriteRequest>(&service);
+        if (!write)
+            return false;
+        const bool isCancel = write->values.front().size() == 5;
+        association->respond(invokeId, mms::WriteResponse{{std::nullopt}});
+        if (isCancel)
+            association->report(commandTermination(
+                *parseReference("LD/CSWI1$CO$Pos"),
+                *controlValue(commandType(true), this->request()), this->error(15)));
+        return true;
+    };
+    auto operating =
+        asio::co_spawn(client->strand(), control->operate(request(), 1h), asio::use_future);
+    while (device->requestsOf<mms::WriteRequest>().empty())
+        std::this_thread::yield();
+    EXPECT_TRUE(run(control->cancel(request())).ok);
+    const ControlResult result = operating.get();
+    EXPECT_FALSE(result.ok);
+    EXPECT_EQ(result.applError, error(15));
+}
+
+TEST_F(ControlTest, WhatDoesNotFitTheDeviceIsNotSent)
+{
+    open(ControlModel::DirectNormal);
+    ControlRequest bad = request();
+    bad.originator.identification.assign(65, 'x');
+    EXPECT_EQ(run(control->operate(bad)).message,
+              "LD/CSWI1.Pos: origin: The originator identification has 65 octets; at most 64 are "
+              "allowed.");
+    EXPECT_TRUE(device->requestsOf<mms::WriteRequest>().empty());
+}
+
+TEST_F(ControlTest, AfterTheEndOfTheAssociationACommandFailsAtOnce)
+{
+    open(ControlModel::DirectNormal);
+    asio::co_spawn(client->strand(), client->close(), asio::use_future).get();
+    const ControlResult result = run(control->operate(request()));
+    EXPECT_FALSE(result.ok);
+    EXPECT_FALSE(result.message.empty());
+}
