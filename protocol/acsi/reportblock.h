@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -34,7 +35,12 @@ struct ReportBlock
     std::optional<mms::BinaryTime> timeOfEntry;
     std::optional<std::int32_t> resvTms;            ///< seconds; -1 reserved by configuration
     std::optional<std::vector<std::uint8_t>> owner; ///< address of the client; empty when free
+    /// What the device refused although the block works, one sentence each.
+    std::vector<std::string> notes;
 };
+
+/// The address of a client as a person writes it, "10.0.0.5"; empty when there is none.
+std::string ownerText(std::span<const std::uint8_t> owner);
 
 /// By the names of the block's own type, so that editions and vendors may differ in what is there.
 mms::Result<ReportBlock> reportBlockFrom(const mms::TypeDescription &type, const mms::Data &value);
@@ -55,17 +61,19 @@ struct ReportSettings
     std::optional<std::uint32_t> bufTm;
     std::optional<Triggers> trgOps;
     std::optional<std::uint32_t> intgPd;
-    /// Buffered: replay what is behind this entry.
+    /// Buffered: replay what is behind this entry. Where the device does not know the entry any
+    /// more it replays what it has, and ReportBlock::notes says so.
     std::optional<std::vector<std::uint8_t>> resumeAfter;
     /// Seconds to reserve a buffered block for; ignored where the block has no ResvTms.
     std::int32_t resvTms = 60;
     bool generalInterrogation = false; ///< ask for one once enabled
 };
 
-/// Reserves the block, writes what differs attribute by attribute, and enables it. The error names
-/// the attribute that was refused, with the reason, and the owner when another client has taken the
-/// block; what had been reserved is released then. An attribute refused only because the value is
-/// there already is no error.
+/// Reserves the block, writes what differs attribute by attribute, and enables it; a block that is
+/// enabled is disabled before. Gives the block as it is then. The error names the attribute that
+/// was refused, with the reason, and the owner when another client has taken the block; what had
+/// been reserved is released then. An attribute refused only because the value is there already is
+/// no error.
 asio::awaitable<mms::Result<ReportBlock>>
 enableReportBlock(std::shared_ptr<Client> client, Reference block, ReportSettings settings);
 /// Disables the block and gives up the reservation.

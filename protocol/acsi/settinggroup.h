@@ -24,6 +24,10 @@ struct SettingGroupBlock
     std::optional<std::uint32_t> resvTms; ///< seconds
 };
 
+/// By the names of the block's own type.
+mms::Result<SettingGroupBlock> settingGroupBlockFrom(const mms::TypeDescription &type,
+                                                     const mms::Data &value);
+
 /// @p block is "LD/LN$SP$SGCB" in the functions below.
 asio::awaitable<mms::Result<SettingGroupBlock>>
 readSettingGroupBlock(std::shared_ptr<Client> client, Reference block);
@@ -40,7 +44,8 @@ struct SettingLeaf
     mms::TypeDescription type;
 };
 
-/// Every setting of a logical device under SG or SE, in the order of the model.
+/// Every setting of a logical device under SG or SE, down to single values, in the order of the
+/// model. An array of more than 10,000 elements stays whole.
 std::vector<SettingLeaf> settingLeaves(const DeviceDescription &device,
                                        FunctionalConstraint constraint);
 
