@@ -30,8 +30,11 @@ mms::ServiceError fileError(std::int32_t code, std::string description)
 
 mms::ServiceError tooManyOpen()
 {
-    return {mms::ErrorClass::Resource, mms::serviceerrors::resourceCapabilityUnavailable, {},
-            "too many open files", {}};
+    return {mms::ErrorClass::Resource,
+            mms::serviceerrors::resourceCapabilityUnavailable,
+            {},
+            "too many open files",
+            {}};
 }
 
 /// What the operating system says, in the terms of the protocol.
@@ -41,8 +44,8 @@ mms::ServiceError fileError(const std::error_code &error)
     std::int32_t code = 0;
     if (error == std::errc::no_such_file_or_directory)
         code = fileNonExistent;
-    else if (error == std::errc::permission_denied || error == std::errc::read_only_file_system
-             || error == std::errc::is_a_directory || error == std::errc::not_a_directory)
+    else if (error == std::errc::permission_denied || error == std::errc::read_only_file_system ||
+             error == std::errc::is_a_directory || error == std::errc::not_a_directory)
         code = fileAccessDenied;
     else if (error == std::errc::filename_too_long || error == std::errc::invalid_argument)
         code = fileNameSyntaxError;
@@ -155,8 +158,8 @@ private:
             m_size += block->data.size();
             if (m_size > m_service->m_options.maxFileSize) {
                 closeAndEnd(fileError(mms::serviceerrors::fileInsufficientSpace));
-            } else if (std::fwrite(block->data.data(), 1, block->data.size(), m_file.get())
-                       != block->data.size()) {
+            } else if (std::fwrite(block->data.data(), 1, block->data.size(), m_file.get()) !=
+                       block->data.size()) {
                 closeAndEnd(fileError(lastError()));
             } else if (block->moreFollows && block->data.empty()) {
                 closeAndEnd(fileError(0, "the file never ends"));
@@ -231,9 +234,8 @@ mms::Result<std::shared_ptr<DirectoryFiles>> DirectoryFiles::create(FileOptions 
     const std::string name = options.directory.string();
     options.directory = fs::canonical(options.directory, error);
     if (error)
-        return mms::Error{"The directory \"" + name + "\" cannot be served: " + error.message()
-                              + ".",
-                          0};
+        return mms::Error{
+            "The directory \"" + name + "\" cannot be served: " + error.message() + ".", 0};
     if (!fs::is_directory(options.directory, error))
         return mms::Error{"\"" + name + "\" is not a directory.", 0};
     return std::shared_ptr<DirectoryFiles>(new DirectoryFiles(std::move(options)));
@@ -302,8 +304,8 @@ bool DirectoryFiles::isInside(const fs::path &path) const
 bool DirectoryFiles::isBusy(const fs::path &path) const
 {
     return std::ranges::any_of(m_open,
-                               [&path](const auto &entry) { return entry.second.path == path; })
-        || std::ranges::any_of(m_uploads,
+                               [&path](const auto &entry) { return entry.second.path == path; }) ||
+           std::ranges::any_of(m_uploads,
                                [&path](const auto &upload) { return upload->path() == path; });
 }
 
@@ -388,8 +390,8 @@ void DirectoryFiles::read(Client &client, const mms::FileReadRequest &request, A
     }
     OpenFile &file = found->second;
     mms::FileReadResponse response;
-    const std::size_t wanted = static_cast<std::size_t>(
-        std::min<std::uint64_t>(file.left, blockSize(client.pduSize())));
+    const std::size_t wanted =
+        static_cast<std::size_t>(std::min<std::uint64_t>(file.left, blockSize(client.pduSize())));
     response.data.resize(wanted);
     const std::size_t got = std::fread(response.data.data(), 1, wanted, file.file.get());
     if (got < wanted && std::ferror(file.file.get()) != 0) {
@@ -422,9 +424,9 @@ std::set<std::string> DirectoryFiles::namesBelow(const Place &place) const
         std::error_code ignored;
         const fs::file_status status = entry.status(ignored);
         const bool isDirectory = fs::is_directory(status);
-        if (name.starts_with(temporaryPrefix) || !(isDirectory || fs::is_regular_file(status))
-            || (isDirectory && m_options.flatListing)
-            || (entry.is_symlink(ignored) && !isInside(entry.path()))) {
+        if (name.starts_with(temporaryPrefix) || !(isDirectory || fs::is_regular_file(status)) ||
+            (isDirectory && m_options.flatListing) ||
+            (entry.is_symlink(ignored) && !isInside(entry.path()))) {
             return;
         }
         const std::string complete =
@@ -561,8 +563,8 @@ void DirectoryFiles::obtain(Client &client, const mms::ObtainFileRequest &reques
     else if (openFilesOf(client) >= m_options.maxOpen)
         answer(tooManyOpen());
     else {
-        const auto upload = std::make_shared<Upload>(*this, client, place, temporaryPath(),
-                                                     std::move(answer));
+        const auto upload =
+            std::make_shared<Upload>(*this, client, place, temporaryPath(), std::move(answer));
         m_uploads.insert(upload);
         upload->start(request.source);
     }
@@ -570,9 +572,8 @@ void DirectoryFiles::obtain(Client &client, const mms::ObtainFileRequest &reques
 
 fs::path DirectoryFiles::temporaryPath()
 {
-    return m_options.directory
-        / (std::string(temporaryPrefix) + std::to_string(m_token) + "-"
-           + std::to_string(++m_lastTemporary));
+    return m_options.directory / (std::string(temporaryPrefix) + std::to_string(m_token) + "-" +
+                                  std::to_string(++m_lastTemporary));
 }
 
 void DirectoryFiles::finished(const Upload &upload)

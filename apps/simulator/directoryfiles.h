@@ -39,12 +39,13 @@ struct FileOptions
     std::chrono::milliseconds callTimeout{10000};
 };
 
-/// Serves the files of a directory of this machine. Nothing outside of it can be reached: neither by
-/// "..", nor by a symbolic link. Both slashes separate directories, also at the beginning of a name;
-/// names in answers are complete, have '/', and end in it for directories.
+/// Serves the files of a directory of this machine. Nothing outside of it can be reached: neither
+/// by
+/// "..", nor by a symbolic link. Both slashes separate directories, also at the beginning of a
+/// name; names in answers are complete, have '/', and end in it for directories.
 ///
-/// A file that is fetched from a client takes its place at once when it is complete; until then, and
-/// when that fails, there is the file that was there before, or none.
+/// A file that is fetched from a client takes its place at once when it is complete; until then,
+/// and when that fails, there is the file that was there before, or none.
 class DirectoryFiles : public FileService
 {
 public:

@@ -279,8 +279,8 @@ mms::Result<void> Faults::Script::readLine(std::string_view line, std::size_t nu
     if (m_words.empty())
         return {};
     if (m_words.front() == "seed") {
-        const auto seed =
-            m_words.size() == 2 ? toNumber<std::uint64_t>(m_words[1]) : std::optional<std::uint64_t>();
+        const auto seed = m_words.size() == 2 ? toNumber<std::uint64_t>(m_words[1])
+                                              : std::optional<std::uint64_t>();
         if (!seed)
             return wrong("\"seed\" needs one whole number.");
         m_state.random.seed(*seed);
@@ -352,7 +352,8 @@ mms::Result<void> Faults::Script::readArgument(Rule &rule)
         return used();
     }
     case Kind::Refuse: {
-        const auto found = word ? std::ranges::find(refusals, *word, &Refusal::name) : refusals.end();
+        const auto found =
+            word ? std::ranges::find(refusals, *word, &Refusal::name) : refusals.end();
         if (found == refusals.end())
             return {};
         rule.refusal = *found;
@@ -488,8 +489,8 @@ Faults::Decision Faults::Disturbance::decisionFor(const std::optional<mms::PduHe
     if (head->type == unconfirmedType)
         return m_faults->decide(reportIndex);
     const auto found = head->invokeId && head->type <= rejectType
-        ? m_decisions.find(*head->invokeId)
-        : m_decisions.end();
+                           ? m_decisions.find(*head->invokeId)
+                           : m_decisions.end();
     if (found == m_decisions.end())
         return {};
     const Decision decision = found->second;
@@ -610,8 +611,8 @@ Faults::Decision Faults::decide(std::size_t service)
             if (service >= serviceCount || !rule.services.test(service))
                 continue;
             ++rule.fitted;
-            if (rule.fitted < rule.first || (rule.fitted - rule.first) % rule.every != 0
-                || rule.done >= rule.times) {
+            if (rule.fitted < rule.first || (rule.fitted - rule.first) % rule.every != 0 ||
+                rule.done >= rule.times) {
                 continue;
             }
             // The 53 bits that a double can hold.
@@ -679,8 +680,8 @@ std::string faultsHelp()
         text += "  " + std::string(each.name);
         if (!each.argument.empty())
             text += " " + std::string(each.argument);
-        text += "\n      " + std::string(each.purpose) + "\n      Example: "
-            + std::string(each.example) + "\n";
+        text += "\n      " + std::string(each.purpose) +
+                "\n      Example: " + std::string(each.example) + "\n";
     }
     return text;
 }

@@ -144,8 +144,7 @@ protected:
         EXPECT_NE(opened, nullptr);
         return opened ? opened->frsmId : -1;
     }
-    static std::int32_t codeOf(const Outcome &outcome,
-                               ErrorClass errorClass = ErrorClass::File)
+    static std::int32_t codeOf(const Outcome &outcome, ErrorClass errorClass = ErrorClass::File)
     {
         const auto *error = std::get_if<ServiceError>(&outcome);
         EXPECT_NE(error, nullptr);
@@ -161,12 +160,11 @@ protected:
 
     FileReadResponse read(std::int32_t frsmId)
     {
-        const Outcome outcome =
-            ask(&sim::FileService::read, FileReadRequest{frsmId}, m_client);
+        const Outcome outcome = ask(&sim::FileService::read, FileReadRequest{frsmId}, m_client);
         EXPECT_TRUE(answers<FileReadResponse>(outcome));
         return answers<FileReadResponse>(outcome)
-            ? std::get<FileReadResponse>(std::get<ResponseService>(outcome))
-            : FileReadResponse{};
+                   ? std::get<FileReadResponse>(std::get<ResponseService>(outcome))
+                   : FileReadResponse{};
     }
     std::string wholeFile(const FileName &name)
     {
@@ -186,12 +184,12 @@ protected:
     FileDirectoryResponse page(const std::optional<FileName> &specification,
                                const std::optional<FileName> &after = {})
     {
-        const Outcome outcome = ask(&sim::FileService::directory,
-                                    FileDirectoryRequest{specification, after}, m_client);
+        const Outcome outcome =
+            ask(&sim::FileService::directory, FileDirectoryRequest{specification, after}, m_client);
         EXPECT_TRUE(answers<FileDirectoryResponse>(outcome));
         return answers<FileDirectoryResponse>(outcome)
-            ? std::get<FileDirectoryResponse>(std::get<ResponseService>(outcome))
-            : FileDirectoryResponse{};
+                   ? std::get<FileDirectoryResponse>(std::get<ResponseService>(outcome))
+                   : FileDirectoryResponse{};
     }
     std::vector<std::string> names(const std::optional<FileName> &specification)
     {
@@ -227,9 +225,8 @@ TEST_F(DirectoryFilesTest, ADirectoryThatDoesNotExistIsNotServed)
     m_options.directory = m_root / "missing";
     const auto missing = DirectoryFiles::create(m_options);
     ASSERT_FALSE(missing.ok());
-    EXPECT_EQ(missing.error().message,
-              "The directory \"" + (m_root / "missing").string()
-                  + "\" cannot be served: No such file or directory.");
+    EXPECT_EQ(missing.error().message, "The directory \"" + (m_root / "missing").string() +
+                                           "\" cannot be served: No such file or directory.");
     m_options.directory = m_root / "config.txt";
     const auto file = DirectoryFiles::create(m_options);
     ASSERT_FALSE(file.ok());
@@ -362,11 +359,16 @@ TEST_F(DirectoryFilesTest, NothingOutsideTheDirectoryCanBeReached)
     fs::create_directory_symlink(m_outside, m_root / "out");
     fs::create_symlink(m_outside / "unborn.txt", m_root / "dangling.txt");
     fs::create_symlink("config.txt", m_root / "inner.txt");
-    const FileName hostile[] = {{"../secret.txt"},   {"..", "secret.txt"},
-                                {"..\\secret.txt"},  {"COMTRADE/../../secret.txt"},
-                                {"link.txt"},        {"out/secret.txt"},
-                                {"out"},             {"dangling.txt"},
-                                {"/etc/passwd"},     {(m_outside / "secret.txt").string()},
+    const FileName hostile[] = {{"../secret.txt"},
+                                {"..", "secret.txt"},
+                                {"..\\secret.txt"},
+                                {"COMTRADE/../../secret.txt"},
+                                {"link.txt"},
+                                {"out/secret.txt"},
+                                {"out"},
+                                {"dangling.txt"},
+                                {"/etc/passwd"},
+                                {(m_outside / "secret.txt").string()},
                                 {std::string("config.txt\0/../../secret.txt", 28)}};
     for (const FileName &name : hostile) {
         EXPECT_NE(codeOf(open(name)), -1) << name.front();
@@ -462,11 +464,10 @@ TEST_F(DirectoryFilesTest, FetchesAFileFromTheClient)
     const auto &result = obtain({"/COMTRADE/new.bin"});
     EXPECT_EQ(m_client.answer<FileOpenRequest>(ResponseService(FileOpenResponse{17, {6, {}}})),
               (FileOpenRequest{{"local.bin"}, 0}));
-    EXPECT_EQ(m_client
-                  .answer<FileReadRequest>(
-                      ResponseService(FileReadResponse{octetsOf("abc"), true}))
-                  .frsmId,
-              17);
+    EXPECT_EQ(
+        m_client.answer<FileReadRequest>(ResponseService(FileReadResponse{octetsOf("abc"), true}))
+            .frsmId,
+        17);
     EXPECT_FALSE(fs::exists(m_root / "COMTRADE" / "new.bin"));
     EXPECT_EQ(names(FileName{"COMTRADE"}), (Names{"COMTRADE/a.cfg", "COMTRADE/old/"}));
     EXPECT_EQ(names(std::nullopt), (Names{"COMTRADE/", "config.txt"}));
@@ -501,8 +502,7 @@ TEST_F(DirectoryFilesTest, AFetchThatFailsLeavesNoHalfFile)
     const auto beginFetch = [this] {
         auto &result = obtain({"new.bin"});
         m_client.answer<FileOpenRequest>(ResponseService(FileOpenResponse{1, {}}));
-        m_client.answer<FileReadRequest>(
-            ResponseService(FileReadResponse{octetsOf("half"), true}));
+        m_client.answer<FileReadRequest>(ResponseService(FileReadResponse{octetsOf("half"), true}));
         return &result;
     };
     const auto *result = beginFetch();
@@ -513,8 +513,7 @@ TEST_F(DirectoryFilesTest, AFetchThatFailsLeavesNoHalfFile)
     EXPECT_EQ(everything(), before);
 
     result = beginFetch();
-    m_client.answer<FileReadRequest>(
-        ResponseService(FileReadResponse{Octets(200, 'x'), false}));
+    m_client.answer<FileReadRequest>(ResponseService(FileReadResponse{Octets(200, 'x'), false}));
     m_client.answer<FileCloseRequest>(ResponseService(FileCloseResponse()));
     EXPECT_EQ(codeOf(result->value()), serviceerrors::fileInsufficientSpace);
     EXPECT_EQ(everything(), before);
