@@ -15,6 +15,13 @@ namespace interop {
 class Session
 {
 public:
+    using RequestHandler = std::function<void(const std::shared_ptr<mms::Association> &association,
+                                              std::uint32_t invokeId,
+                                              const mms::RequestService &request)>;
+
+    /// Before connect(): answer what the peer asks for, in the association's strand.
+    void serve(RequestHandler handler) { m_requestHandler = std::move(handler); }
+
     mms::Result<mms::InitiateParameters> connect(std::uint16_t port,
                                                  mms::AssociationOptions options = {})
     {
@@ -25,6 +32,13 @@ public:
             news->changed.notify_all();
         };
         handlers.closed = m_closed.setter();
+        if (m_requestHandler) {
+            handlers.request = m_requestHandler;
+            // A peer that fetches files asks for the services it needs.
+            options.services.set(static_cast<std::size_t>(mms::Service::FileOpen));
+            options.services.set(static_cast<std::size_t>(mms::Service::FileRead));
+            options.services.set(static_cast<std::size_t>(mms::Service::FileClose));
+        }
         m_association = mms::Association::create(m_loop.executor(), std::move(options), handlers);
         mmstest::Awaited<mms::Result<mms::InitiateParameters>> opened;
         m_association->connect("127.0.0.1", port, opened.setter());
@@ -95,6 +109,7 @@ private:
         std::deque<mms::InformationReport> reports;
     };
 
+    RequestHandler m_requestHandler;
     mmstest::Loop m_loop;
     std::shared_ptr<News> m_news = std::make_shared<News>();
     mmstest::Awaited<std::string> m_closed;

@@ -3,6 +3,12 @@
 #include "interop/jsondata.h"
 #include "interop/matrix.h"
 #include "interop/session.h"
+#include "mms/testcertificates.h"
+
+#include "acsi/discovery.h"
+
+#include <asio/co_spawn.hpp>
+#include <asio/detached.hpp>
 
 #include <QFile>
 #include <QJsonArray>
@@ -95,6 +101,23 @@ Bytes bytesOf(const QByteArray &octets)
 {
     return {reinterpret_cast<const std::uint8_t *>(octets.constData()),
             static_cast<std::size_t>(octets.size())};
+}
+
+asio::awaitable<void> describe(asio::any_io_executor executor, std::uint16_t port,
+                               std::function<void(Result<acsi::ServerDescription>)> finished)
+{
+    // Not as temporaries: GCC 12 does not keep them over a co_await.
+    const std::string host = "127.0.0.1";
+    const acsi::ClientOptions options;
+    const acsi::DiscoveryOptions discovery;
+    auto client = co_await acsi::Client::connect(executor, host, port, options);
+    if (!client) {
+        finished(client.error());
+        co_return;
+    }
+    auto description = co_await acsi::discover(*client, discovery);
+    co_await (*client)->close();
+    finished(std::move(description));
 }
 
 acse::Authentication password(std::string_view text)
@@ -679,6 +702,112 @@ TEST_F(ForeignServerTest, IsCalledBySelectors)
     options.link.stack.association.peer = {acse::ObjectIdentifier{1, 1, 1, 999}, 12};
     connect(options);
     EXPECT_TRUE(m_session->read(bay, "GGIO1$MX$AnIn1$mag$f").ok());
+}
+
+TEST_F(ForeignServerTest, FetchesAFile)
+{
+    row("ObtainFile");
+    QByteArray content;
+    for (int i = 0; i < 200000; ++i)
+        content.append(static_cast<char>(i % 251));
+    m_session = std::make_unique<Session>();
+    std::vector<std::string> asked;
+    int position = 0;
+    m_session->serve([&](const std::shared_ptr<Association> &association, std::uint32_t invokeId,
+                         const RequestService &request) {
+        if (const auto *open = std::get_if<FileOpenRequest>(&request)) {
+            asked = open->name;
+            association->respond(invokeId,
+                                 FileOpenResponse{7, {static_cast<std::uint32_t>(content.size()),
+                                                      std::nullopt}});
+        } else if (std::holds_alternative<FileReadRequest>(request)) {
+            const Bytes block = bytesOf(content).subspan(
+                static_cast<std::size_t>(position),
+                static_cast<std::size_t>(std::min(30000, content.size() - position)));
+            position += static_cast<int>(block.size());
+            association->respond(invokeId, FileReadResponse{{block.begin(), block.end()},
+                                                            position < content.size()});
+        } else {
+            association->respond(invokeId, FileCloseResponse());
+        }
+    });
+    const auto opened = m_session->connect(m_server->port());
+    ASSERT_TRUE(opened.ok()) << opened.error().message;
+    m_session->ask<ObtainFileResponse>(ObtainFileRequest{{}, {"here.dat"}, {"there.dat"}});
+    EXPECT_EQ(asked, std::vector<std::string>{"here.dat"});
+    EXPECT_EQ(contentOf("there.dat"), content);
+}
+
+TEST_F(ForeignServerTest, SpeaksTls)
+{
+    row("TLS with certificates of both sides");
+    mmstest::TestCertificates certificates;
+    const auto authority = certificates.authority("Utility");
+    const auto server = certificates.issue(authority, "IED1");
+    const auto client = certificates.issue(authority, "SCADA");
+    start({{"tls", QJsonObject{{"certificate", QString::fromStdString(server.certificateFile)},
+                               {"key", QString::fromStdString(server.keyFile)},
+                               {"authority", QString::fromStdString(authority.certificateFile)}}}});
+    AssociationOptions options;
+    options.link.tls = mmstest::TestCertificates::options(client, authority);
+    connect(options);
+    EXPECT_EQ(m_session->read(bay, "GGIO1$MX$AnIn1$mag$f"), AccessResult(Data::float32(1.5F)));
+    const auto stranger = certificates.authority("Stranger");
+    options.link.tls = mmstest::TestCertificates::options(client, stranger);
+    Session distrustful;
+    const auto refused = distrustful.connect(m_server->port(), options);
+    ASSERT_FALSE(refused.ok());
+    EXPECT_FALSE(refused.error().message.empty());
+}
+
+TEST_F(ForeignServerTest, CancelIsToldOrNot)
+{
+    row("Cancel");
+    m_session = std::make_unique<Session>();
+    const auto opened = m_session->connect(m_server->port());
+    ASSERT_TRUE(opened.ok());
+    mmstest::Awaited<CallOutcome> outcome;
+    const auto id = m_session->association().call(
+        ReadRequest{false, list(std::vector<std::string>(500, "GGIO1$MX$AnIn1"))},
+        std::chrono::seconds(10), outcome.setter());
+    m_session->association().cancel(id);
+    const auto ended = outcome.get();
+    const auto *failure = std::get_if<CallFailure>(&ended);
+    ASSERT_NE(failure, nullptr);
+    EXPECT_EQ(failure->kind, CallFailure::Kind::Cancelled);
+    EXPECT_EQ(m_session->read(bay, "GGIO1$MX$AnIn1$mag$f"), AccessResult(Data::float32(1.5F)));
+    if (!opened->supports(Service::Cancel))
+        peerLacksIt("it does not offer the service; the call ends on our side");
+    else
+        worksBut("the association survives");
+}
+
+TEST_F(ForeignServerTest, IsDiscovered)
+{
+    row("Discovery of logical devices and nodes");
+    mmstest::Loop loop;
+    mmstest::Awaited<Result<acsi::ServerDescription>> discovered;
+    asio::co_spawn(loop.executor(),
+                   describe(loop.executor(), m_server->port(), discovered.setter()),
+                   asio::detached);
+    const auto found = discovered.get();
+    ASSERT_TRUE(found.ok()) << found.error().message;
+    EXPECT_EQ(found.value().identity.vendor, "foreign");
+    EXPECT_TRUE(found.value().refused.empty());
+    ASSERT_EQ(found.value().devices.size(), 2U);
+    std::vector<std::string> nodes;
+    for (const auto &node : found.value().devices[1].nodes)
+        nodes.push_back(node.name);
+    std::sort(nodes.begin(), nodes.end());
+    EXPECT_EQ(nodes, (std::vector<std::string>{"GGIO1", "GGIO10", "LLN0", "LPHD1"}));
+    const auto &bayNodes = found.value().devices[0].nodes;
+    const auto node = std::find_if(bayNodes.begin(), bayNodes.end(),
+                                   [](const auto &each) { return each.name == "GGIO1"; });
+    ASSERT_NE(node, bayNodes.end());
+    const TypeDescription *value = acsi::typeBelow(node->type, "MX", "AnIn1$mag$f");
+    ASSERT_NE(value, nullptr);
+    EXPECT_EQ(*value, TypeDescription::float32());
+    EXPECT_EQ(found.value().devices[0].dataSets.size(), 3U);
 }
 
 int main(int argc, char **argv)
