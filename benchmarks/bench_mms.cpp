@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
-// How fast PDUs are read and written; the rates count the octets of the PDU.
+// How fast PDUs are read and written; the rates count the octets of the PDU. What associations that
+// stand idle cost; limits are 64 KiB of memory for each end and 0.1 % of a core for all.
+#include "mms/loopback.h"
 #include "mms/pdu.h"
 
 #include <benchmark/benchmark.h>
+#include <malloc.h>
+
+#include <ctime>
 
 using namespace mms;
 
@@ -85,8 +90,62 @@ void write(benchmark::State &state, const Pdu &pdu)
     state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * size));
 }
 
+class SilentDevice : public ServerHandler
+{
+    void request(const std::shared_ptr<Association> &association, std::uint32_t invokeId,
+                 RequestService) override
+    {
+        association->reject(invokeId, rejectcodes::requestUnrecognizedService);
+    }
+};
+
+/// Associations of this process with itself that have exchanged a call and then say nothing.
+void idle(benchmark::State &state)
+{
+    const auto count = static_cast<std::size_t>(state.range(0));
+    for (auto _ : state) {
+        mmstest::Loop loop;
+        ServerOptions options;
+        options.address = "127.0.0.1";
+        options.port = 0;
+        options.maxAssociations = count;
+        const auto server =
+            Server::create(loop.executor(), options, std::make_shared<SilentDevice>());
+        const auto port = server->start();
+        if (!port) {
+            state.SkipWithError(port.error().message.c_str());
+            break;
+        }
+        const auto memory = mallinfo2().uordblks;
+        std::vector<std::shared_ptr<Association>> clients;
+        for (std::size_t i = 0; i < count; ++i) {
+            clients.push_back(Association::create(loop.executor(), {}, {}));
+            mmstest::Awaited<Result<InitiateParameters>> opened;
+            clients.back()->connect("127.0.0.1", *port, opened.setter());
+            mmstest::Awaited<CallOutcome> answered;
+            if (!opened.get())
+                state.SkipWithError("An association was not opened.");
+            clients.back()->call(IdentifyRequest(), std::chrono::seconds(1), answered.setter());
+            answered.get();
+        }
+        state.counters["octets_per_end"] = benchmark::Counter(
+            static_cast<double>(mallinfo2().uordblks - memory) / static_cast<double>(2 * count));
+        // The deadlines of the calls pass first.
+        std::this_thread::sleep_for(std::chrono::milliseconds(1500));
+        const std::clock_t used = std::clock();
+        constexpr double watched = 3.0;
+        std::this_thread::sleep_for(std::chrono::duration<double>(watched));
+        state.counters["percent_of_a_core"] = benchmark::Counter(
+            100.0 * static_cast<double>(std::clock() - used) / CLOCKS_PER_SEC / watched);
+        for (const auto &client : clients)
+            client->abort("The end.");
+        server->stop();
+    }
+}
+
 } // namespace
 
+BENCHMARK(idle)->Arg(100)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(decode, floats, floats());
 BENCHMARK_CAPTURE(decode, measuredValues, measuredValues());
 BENCHMARK_CAPTURE(decode, texts, texts());

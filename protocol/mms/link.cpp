@@ -3,12 +3,12 @@
 
 #include <asio/co_spawn.hpp>
 #include <asio/connect.hpp>
-#include <asio/detached.hpp>
 #include <asio/experimental/as_tuple.hpp>
 #include <asio/use_awaitable.hpp>
 
 #include <algorithm>
 #include <array>
+#include <exception>
 #include <utility>
 
 namespace mms {
@@ -105,7 +105,7 @@ void Link::connect(std::string host, std::uint16_t port, Octets pdu, Handler han
          pdu = std::move(pdu)]() mutable {
             return self->establish(std::move(host), port, std::move(pdu));
         },
-        asio::detached);
+        ending());
 }
 
 void Link::serve(Handler handler)
@@ -113,7 +113,7 @@ void Link::serve(Handler handler)
     m_handler = std::move(handler);
     arm(Watch::Establish);
     asio::co_spawn(
-        m_strand, [self = shared_from_this()] { return self->attend(); }, asio::detached);
+        m_strand, [self = shared_from_this()] { return self->attend(); }, ending());
 }
 
 void Link::accept(Bytes pdu)
@@ -325,11 +325,28 @@ asio::awaitable<void> Link::writeLoop()
         closeSocket();
 }
 
+/// A handler that throws ends its association: otherwise the connection would stay, unattended.
+std::function<void(std::exception_ptr)> Link::ending()
+{
+    return [self = shared_from_this()](const std::exception_ptr &thrown) {
+        if (!thrown)
+            return;
+        try {
+            std::rethrow_exception(thrown);
+        } catch (const std::exception &exception) {
+            self->lose(std::string("An internal error ended the association: ") + exception.what()
+                       + ".");
+        } catch (...) {
+            self->lose("An internal error ended the association.");
+        }
+    };
+}
+
 void Link::startWriting()
 {
     m_isWriting = true;
     asio::co_spawn(
-        m_strand, [self = shared_from_this()] { return self->writeLoop(); }, asio::detached);
+        m_strand, [self = shared_from_this()] { return self->writeLoop(); }, ending());
 }
 
 void Link::apply(StackOutput output)

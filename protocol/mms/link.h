@@ -13,6 +13,7 @@
 #include <asio/strand.hpp>
 
 #include <chrono>
+#include <exception>
 #include <functional>
 #include <list>
 #include <memory>
@@ -45,7 +46,7 @@ struct LinkOptions
 /// member, and the handler, is called there.
 ///
 /// Exactly one of AssociateRefused, ReleaseConfirm and AssociationLost is the last event; the
-/// handler is dropped after it.
+/// handler is dropped after it. An exception that a handler throws ends the association.
 class Link : public std::enable_shared_from_this<Link>
 {
 public:
@@ -115,6 +116,7 @@ private:
     asio::steady_timer &timerOf(Watch watch);
     void tellQueued();
     void startWriting();
+    std::function<void(std::exception_ptr)> ending();
     void closeSocket();
 
     Strand m_strand;

@@ -33,8 +33,8 @@ public:
             association->respond(invokeId, IdentifyResponse{"vendor", "model", "1.0", {}});
         } else if (const auto *read = std::get_if<ReadRequest>(&request)) {
             ReadResponse response;
-            const auto &list = std::get<std::vector<VariableAccess>>(read->variables);
-            for (std::size_t i = 0; i < list.size(); ++i)
+            const auto *list = std::get_if<std::vector<VariableAccess>>(&read->variables);
+            for (std::size_t i = 0; list && i < list->size(); ++i)
                 response.results.emplace_back(Data::unsignedInteger(i));
             association->respond(invokeId, response);
         } else if (std::holds_alternative<FileDeleteRequest>(request)) {

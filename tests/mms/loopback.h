@@ -74,6 +74,23 @@ public:
     void send(mms::Bytes octets) { asio::write(m_socket, asio::buffer(octets.data(), octets.size())); }
     void close() { m_socket.close(); }
 
+    /// Sends unless the other end has closed the connection.
+    void trySend(mms::Bytes octets)
+    {
+        asio::error_code ignored;
+        asio::write(m_socket, asio::buffer(octets.data(), octets.size()), ignored);
+    }
+
+    /// Sends no more, reads to the end of the connection and closes.
+    void finish()
+    {
+        asio::error_code ignored;
+        m_socket.shutdown(asio::ip::tcp::socket::shutdown_send, ignored);
+        while (!receive().empty()) {
+        }
+        m_socket.close(ignored);
+    }
+
     /// What comes next; empty at the end of the connection.
     mms::Octets receive()
     {
@@ -91,7 +108,7 @@ public:
             if (octets.empty())
                 return false;
             mms::StackOutput output = stack.receive(octets);
-            send(output.octets);
+            trySend(output.octets);
             events = std::move(output.events);
         }
         return true;

@@ -4,6 +4,8 @@
 #include <asio/co_spawn.hpp>
 #include <asio/detached.hpp>
 
+#include <stdexcept>
+
 using namespace mmstest;
 
 TEST_F(AssociationTest, InitiatesIdentifiesReadsAndConcludes)
@@ -400,4 +402,31 @@ TEST_F(AssociationTest, TheTraceSeesEveryPduInBothDirections)
     EXPECT_TRUE(concluded.get().ok());
     EXPECT_EQ(m_clientEnd.get(), "The association was released.");
     EXPECT_EQ(lines, (std::vector<std::string>{"> 8", "< 9", "> 0", "< 1", "> 11", "< 12"}));
+}
+
+namespace {
+
+class ThrowingDevice : public TestDevice
+{
+public:
+    void request(const std::shared_ptr<Association> &association, std::uint32_t invokeId,
+                 RequestService request) override
+    {
+        if (std::holds_alternative<StatusRequest>(request))
+            throw std::runtime_error("no status");
+        TestDevice::request(association, invokeId, std::move(request));
+    }
+};
+
+} // namespace
+
+TEST_F(AssociationTest, AHandlerThatThrowsEndsItsAssociationAndNoOther)
+{
+    m_device = std::make_shared<ThrowingDevice>();
+    const std::uint16_t port = startServer();
+    ASSERT_TRUE(connect(port, quickOptions()).ok());
+    EXPECT_EQ(failureOf(call(StatusRequest())), CallFailure::Kind::Lost);
+    EXPECT_EQ(m_device->end.get(), "An internal error ended the association: no status.");
+    ASSERT_TRUE(connect(port, quickOptions()).ok());
+    EXPECT_NE(answerOf<IdentifyResponse>(call(IdentifyRequest())), nullptr);
 }
