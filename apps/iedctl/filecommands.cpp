@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "commands.h"
+#include "session.h"
+
+#include <QtCore/QDateTime>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QSaveFile>
+
+namespace {
+
+/// The controller's names have backslashes.
+QString onDevice(QString path)
+{
+    path.replace(QLatin1Char('/'), QLatin1Char('\\'));
+    return path;
+}
+
+QString shown(QString name)
+{
+    name.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    return name;
+}
+
+QString lastPart(const QString &path)
+{
+    return shown(path).section(QLatin1Char('/'), -1);
+}
+
+} // namespace
+
+namespace Commands {
+
+ExitStatus listFiles(Session &session, const QString &directory)
+{
+    QString path = onDevice(directory);
+    if (path == QLatin1String("\\"))
+        path.clear();
+    if (!path.isEmpty() && !path.endsWith(QLatin1Char('\\')))
+        path += QLatin1Char('\\');
+    QList<MMSFileEntry> entries;
+    QString error;
+    const OperationResult result = session.controller().getFileDirectory(
+        session.deviceNo(), QStringLiteral("*.*"), path, entries, error);
+    if (result != OperationSucceeded)
+        return session.failed(result, error);
+    QJsonArray rows;
+    for (const MMSFileEntry &entry : entries) {
+        const bool isDirectory = entry.size == 0 && entry.name.contains(QLatin1Char('\\'));
+        QJsonObject row{{QStringLiteral("name"), shown(entry.name)}};
+        if (!isDirectory)
+            row.insert(QStringLiteral("size"), static_cast<qint64>(entry.size));
+        if (entry.lastModified != 0) {
+            row.insert(
+                QStringLiteral("modified"),
+                QDateTime::fromSecsSinceEpoch(entry.lastModified, Qt::UTC).toString(Qt::ISODate));
+        }
+        rows.append(row);
+    }
+    session.output().rows(
+        {QStringLiteral("name"), QStringLiteral("size"), QStringLiteral("modified")}, rows);
+    return ExitStatus::Done;
+}
+
+ExitStatus getFile(Session &session, const QString &remote, const QString &local)
+{
+    const QString target = local.isEmpty() ? lastPart(remote) : local;
+    QSaveFile file(target);
+    if (target.isEmpty() || !file.open(QIODevice::WriteOnly)) {
+        return session.failed(QStringLiteral("The file \"%1\" cannot be written: %2.")
+                                  .arg(target, file.errorString()));
+    }
+    session.output().progress(QStringLiteral("Fetching %1 ...").arg(shown(remote)));
+    QByteArray content;
+    QString error;
+    const OperationResult result =
+        session.controller().getFile(session.deviceNo(), onDevice(remote), content, error);
+    if (result != OperationSucceeded)
+        return session.failed(result, error);
+    if (file.write(content) != content.size() || !file.commit()) {
+        return session.failed(QStringLiteral("The file \"%1\" cannot be written: %2.")
+                                  .arg(target, file.errorString()));
+    }
+    session.output().note(
+        QStringLiteral("%1 octets written to \"%2\".").arg(content.size()).arg(target));
+    return ExitStatus::Done;
+}
+
+ExitStatus putFile(Session &session, const QString &local, const QString &remote)
+{
+    const QFileInfo file(local);
+    if (!file.isFile() || !file.isReadable())
+        return session.failed(QStringLiteral("The file \"%1\" cannot be read.").arg(local));
+    const QString target = remote.isEmpty() ? file.fileName() : remote;
+    session.output().progress(QStringLiteral("Sending %1 ...").arg(local));
+    QString error;
+    const OperationResult result = session.controller().writeFile(
+        session.deviceNo(), file.absoluteFilePath(), onDevice(target), error);
+    if (result != OperationSucceeded)
+        return session.failed(result, error);
+    session.output().note(
+        QStringLiteral("%1 octets sent to \"%2\".").arg(file.size()).arg(shown(target)));
+    return ExitStatus::Done;
+}
+
+ExitStatus removeFile(Session &session, const QString &remote)
+{
+    QString error;
+    return session.ended(
+        session.controller().deleteFile(session.deviceNo(), onDevice(remote), error), error);
+}
+
+} // namespace Commands

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonObject>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtCore/QTextStream>
+
+class QIODevice;
+
+/// Where results and complaints go: as aligned text for people, as JSON for scripts. Results are
+/// one JSON document for each command; a stream of values is one object a line.
+class Output
+{
+public:
+    /// Neither device is owned; both are open.
+    Output(QIODevice *results, QIODevice *complaints, bool json, bool terminal);
+
+    bool isJson() const { return m_json; }
+    /// Whether somebody watches, who wants to see progress.
+    bool isTerminal() const { return m_terminal; }
+
+    /// A table with a line for each object. Columns that no object has are left out.
+    void rows(const QStringList &columns, const QJsonArray &objects);
+    /// One "name: value" a line, in the order of @p names.
+    void object(const QStringList &names, const QJsonObject &object);
+    /// One result of a stream; appears at once.
+    void streamed(const QString &text, const QJsonObject &object);
+    /// What a command did, for people only.
+    void note(const QString &sentence);
+
+    /// One line on the error stream, "iedctl: " in front.
+    void complain(const QString &sentence);
+    /// Replaces the line of the progress before; nothing unless isTerminal(). Empty ends it.
+    void progress(const QString &text);
+
+private:
+    QTextStream m_results;
+    QTextStream m_complaints;
+    bool m_json;
+    bool m_terminal;
+    bool m_showsProgress = false;
+};
+
+/// A JSON value as people read it: "true", "3.5", texts as they are, lists joined by blanks.
+QString plainText(const QJsonValue &value);

@@ -1,0 +1,244 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "commands.h"
+#include "references.h"
+#include "reportbits.h"
+#include "session.h"
+#include "valuelines.h"
+
+#include <QtCore/QDataStream>
+
+#include <algorithm>
+
+namespace {
+
+struct Block
+{
+    QString device;
+    QString reference;
+};
+
+std::optional<Block> blockOf(Session &session, const QString &text)
+{
+    Block block;
+    splitReference(text, block.device, block.reference);
+    if (block.reference.contains(QLatin1String("$BR$")) ||
+        block.reference.contains(QLatin1String("$RP$")))
+        return block;
+    session.failed(QStringLiteral("\"%1\" does not name a report control block; write "
+                                  "\"LD/LN$BR$name\" or \"LD/LN$RP$name\".")
+                       .arg(text));
+    return {};
+}
+
+std::optional<ReportBlock> readBlock(Session &session, const Block &place)
+{
+    ReportBlock block;
+    QString error;
+    const OperationResult result = session.controller().getBRCBValues(
+        session.deviceNo(), place.device, place.reference, block, error);
+    if (result == OperationSucceeded)
+        return block;
+    session.failed(result, error);
+    return {};
+}
+
+QByteArray bigEndian(qint32 number)
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream << number;
+    return bytes;
+}
+
+/// The bytes of an attribute as the controller's writeValue() wants them.
+std::optional<QByteArray> attributeBytes(const QString &name, const QString &value, QString &error)
+{
+    if (name == QLatin1String("RptID") || name == QLatin1String("DatSet"))
+        return value.toUtf8();
+    if (name == QLatin1String("TrgOps")) {
+        const std::optional<quint8> bits = ReportBits::triggers(value, error);
+        return bits ? std::optional(QByteArray(1, static_cast<char>(*bits))) : std::nullopt;
+    }
+    if (name == QLatin1String("OptFlds")) {
+        const auto bits = ReportBits::optionalFields(value, error);
+        if (!bits)
+            return {};
+        return QByteArray(1, static_cast<char>(bits->at(0))) + static_cast<char>(bits->at(1));
+    }
+    if (name == QLatin1String("IntgPd") || name == QLatin1String("BufTm")) {
+        bool isNumber = false;
+        const int number = value.toInt(&isNumber);
+        if (isNumber && number >= 0)
+            return bigEndian(number);
+        error = QStringLiteral("%1 is a number of milliseconds, not \"%2\".").arg(name, value);
+        return {};
+    }
+    if (name == QLatin1String("Resv") || name == QLatin1String("GI") ||
+        name == QLatin1String("PurgeBuf") || name == QLatin1String("RptEna")) {
+        const bool on = value == QLatin1String("true") || value == QLatin1String("1");
+        if (on || value == QLatin1String("false") || value == QLatin1String("0"))
+            return QByteArray(1, on ? '\x01' : '\x00');
+        error = QStringLiteral("%1 is \"true\" or \"false\", not \"%2\".").arg(name, value);
+        return {};
+    }
+    error =
+        QStringLiteral("A report control block has no attribute \"%1\" that can be set.").arg(name);
+    return {};
+}
+
+ExitStatus writeAttribute(Session &session, const QString &blockText, const QString &name,
+                          const QString &value)
+{
+    const std::optional<Block> place = blockOf(session, blockText);
+    if (!place)
+        return session.lastFailure();
+    QString error;
+    const std::optional<QByteArray> bytes = attributeBytes(name, value, error);
+    if (!bytes)
+        return session.failed(error);
+    return session.ended(session.controller().writeValue(session.deviceNo(), place->device,
+                                                         place->reference, name, *bytes, error),
+                         error);
+}
+
+QJsonArray texts(const QStringList &list)
+{
+    return QJsonArray::fromStringList(list);
+}
+
+} // namespace
+
+namespace Commands {
+
+ExitStatus listReports(Session &session)
+{
+    const PhysicalDevice *device = session.model();
+    if (!device)
+        return session.lastFailure();
+    QJsonArray rows;
+    for (const LogicalDevice *logicalDevice : device->logicalDevices) {
+        for (const LogicalNode *node : logicalDevice->logicalNodes) {
+            for (const ReportControlBlock *block : node->reportControls->blocks) {
+                const bool buffered = block->type == QLatin1String("BR");
+                rows.append(
+                    QJsonObject{{QStringLiteral("block"),
+                                 logicalDevice->name + QLatin1Char('/') + block->reference},
+                                {QStringLiteral("kind"), buffered ? QStringLiteral("buffered")
+                                                                  : QStringLiteral("unbuffered")},
+                                {QStringLiteral("dataSet"), block->dataSet}});
+            }
+        }
+    }
+    session.output().rows(
+        {QStringLiteral("block"), QStringLiteral("kind"), QStringLiteral("dataSet")}, rows);
+    return ExitStatus::Done;
+}
+
+ExitStatus showReport(Session &session, const QString &blockText)
+{
+    const std::optional<Block> place = blockOf(session, blockText);
+    if (!place)
+        return session.lastFailure();
+    const std::optional<ReportBlock> block = readBlock(session, *place);
+    if (!block)
+        return session.lastFailure();
+    const QJsonObject object{
+        {QStringLiteral("block"), place->device + QLatin1Char('/') + block->reference},
+        {QStringLiteral("enabled"), block->rptEna},
+        {QStringLiteral("reserved"), block->resv},
+        {QStringLiteral("owner"), block->owner},
+        {QStringLiteral("rptId"), block->rptId},
+        {QStringLiteral("dataSet"), block->datSet},
+        {QStringLiteral("confRev"), block->confRev},
+        {QStringLiteral("triggers"), texts(ReportBits::triggerNames(block->trgOps))},
+        {QStringLiteral("optionalFields"),
+         texts(ReportBits::optionalFieldNames(block->optFldsText))},
+        {QStringLiteral("integrityPeriod"), block->intgPd},
+        {QStringLiteral("bufferTime"), block->bufTm}};
+    session.output().object(
+        {QStringLiteral("block"), QStringLiteral("enabled"), QStringLiteral("reserved"),
+         QStringLiteral("owner"), QStringLiteral("rptId"), QStringLiteral("dataSet"),
+         QStringLiteral("confRev"), QStringLiteral("triggers"), QStringLiteral("optionalFields"),
+         QStringLiteral("integrityPeriod"), QStringLiteral("bufferTime")},
+        object);
+    return ExitStatus::Done;
+}
+
+ExitStatus setReport(Session &session, const QString &block, const QStringList &settings)
+{
+    for (const QString &setting : settings) {
+        const int equals = setting.indexOf(QLatin1Char('='));
+        if (equals <= 0)
+            return session.failed(QStringLiteral("\"%1\" is not \"Name=value\".").arg(setting));
+        const ExitStatus status =
+            writeAttribute(session, block, setting.left(equals), setting.mid(equals + 1));
+        if (status != ExitStatus::Done)
+            return status;
+    }
+    return showReport(session, block);
+}
+
+ExitStatus enableReport(Session &session, const ReportRequest &request)
+{
+    const PhysicalDevice *device = session.model();
+    if (!device)
+        return session.lastFailure();
+    const std::optional<Block> place = blockOf(session, request.block);
+    if (!place)
+        return session.lastFailure();
+    std::optional<ReportBlock> block = readBlock(session, *place);
+    if (!block)
+        return session.lastFailure();
+    QString error;
+    if (request.rptId)
+        block->rptId = *request.rptId;
+    if (request.dataSet)
+        block->datSet = *request.dataSet;
+    if (request.triggers) {
+        const std::optional<quint8> bits = ReportBits::triggers(*request.triggers, error);
+        if (!bits)
+            return session.failed(error);
+        block->trgOps = *bits;
+    }
+    const auto fields = ReportBits::optionalFields(
+        request.optionalFields
+            ? *request.optionalFields
+            : ReportBits::optionalFieldNames(block->optFldsText).join(QLatin1Char(',')),
+        error);
+    if (!fields)
+        return session.failed(error);
+    std::copy(fields->begin(), fields->end(), block->optFlds);
+    block->intgPd = request.integrityPeriod.value_or(block->intgPd);
+    block->bufTm = request.bufferTime.value_or(block->bufTm);
+
+    session.listen();
+    const OperationResult result =
+        session.controller().enableReportBlock(session.deviceNo(), place->device, place->reference,
+                                               block->rptId, QString(), *block, error);
+    if (result != OperationSucceeded)
+        return session.failed(result, error);
+    if (request.generalInterrogation) {
+        const ExitStatus status = interrogate(session, request.block);
+        if (status != ExitStatus::Done)
+            return status;
+    }
+    streamValues(session, *device, {}, request.limit);
+    return disableReport(session, request.block);
+}
+
+ExitStatus disableReport(Session &session, const QString &block)
+{
+    return writeAttribute(session, block, QStringLiteral("RptEna"), QStringLiteral("false"));
+}
+
+ExitStatus interrogate(Session &session, const QString &block)
+{
+    return writeAttribute(session, block, QStringLiteral("GI"), QStringLiteral("true"));
+}
+
+ExitStatus purge(Session &session, const QString &block)
+{
+    return writeAttribute(session, block, QStringLiteral("PurgeBuf"), QStringLiteral("true"));
+}
+
+} // namespace Commands

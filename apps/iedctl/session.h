@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "exitstatus.h"
+#include "output.h"
+#include "valuereceiver.h"
+
+#include <devicemodel/physicaldevice.h>
+#include <remoteclient/iec61850controllerinterface.h>
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QHash>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <optional>
+
+/// One device behind a driver, and what the commands have learnt about it. One thread.
+class Session
+{
+public:
+    /// @param output outlives the session
+    Session(const QString &driverAddress, long deviceNo, Output &output);
+
+    IEC61850ControllerInterface &controller() { return m_controller; }
+    long deviceNo() const { return m_deviceNo; }
+    Output &output() { return m_output; }
+
+    /// The model, fetched at the first call; null when it cannot be had, which was complained
+    /// about.
+    PhysicalDevice *model();
+
+    /// Complains with the operation's error; what the command ends with.
+    ExitStatus failed(OperationResult result, const QString &error);
+    ExitStatus failed(const QString &sentence);
+    /// What the command ends with after @p result; complains unless it is a success.
+    ExitStatus ended(OperationResult result, const QString &error);
+    /// The status of the last failed().
+    ExitStatus lastFailure() const { return m_lastFailure; }
+
+    /// Starts to listen; values that come from now on are kept for receive().
+    void listen();
+    QList<MMSValue> receive(int waitMs);
+
+    /// Calls @p request, which makes the driver publish values, and gathers those of
+    /// @p references; ends when all came or after a while of silence. Nothing when the request
+    /// failed, which was complained about.
+    std::optional<QHash<QString, MMSValue>>
+    gather(const QStringList &references,
+           const std::function<OperationResult(QString &error)> &request);
+
+    /// True once the operator wants streams to end. Safe to set from a signal handler.
+    static std::atomic<bool> &interrupted();
+
+private:
+    IEC61850ControllerInterface m_controller;
+    long m_deviceNo;
+    Output &m_output;
+    std::unique_ptr<PhysicalDevice> m_model;
+    std::unique_ptr<ValueReceiver> m_receiver;
+    ExitStatus m_lastFailure = ExitStatus::Done;
+};

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "commands.h"
+
+#include <devicemodel/mmsvalue.h>
+
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonObject>
+
+class Output;
+class PhysicalDevice;
+
+/// A live value with what the model knows about it.
+QJsonObject valueRow(const PhysicalDevice &device, const MMSValue &value);
+void showValues(Output &output, const QJsonArray &rows);
+
+/// Shows the values that come until the limit or the operator ends it.
+/// @param references of attributes; empty: all
+ExitStatus streamValues(Session &session, const PhysicalDevice &device,
+                        const QStringList &references, Commands::StreamLimit limit);

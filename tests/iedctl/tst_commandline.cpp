@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "iedctl/commandline.h"
+
+#include <QtCore/QProcess>
+#include <QtTest/QtTest>
+
+namespace {
+
+Invocation accepted(const QStringList &arguments)
+{
+    const auto parsed = parseCommandLine(arguments);
+    if (const auto *answer = std::get_if<Answer>(&parsed))
+        qFatal("%s", qPrintable(answer->text));
+    return std::get<Invocation>(parsed);
+}
+
+Answer refused(const QStringList &arguments)
+{
+    const auto parsed = parseCommandLine(arguments);
+    return std::holds_alternative<Answer>(parsed) ? std::get<Answer>(parsed) : Answer();
+}
+
+} // namespace
+
+class tst_IedctlCommandLine : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theAddressIsTakenApart_data();
+    void theAddressIsTakenApart();
+    void aWrongPortIsRefused_data();
+    void aWrongPortIsRefused();
+    void withoutADeviceNothingRuns();
+    void anUnknownCommandIsNamed();
+    void aMissingArgumentIsNamed();
+    void helpListsEveryCommand();
+    void optionsReachTheDevice();
+    void batchReadsStandardInputUnlessAFileIsGiven();
+    void aBatchLineKnowsNoOptionsOfTheProgram();
+    void everyCommandIsUnderstood_data();
+    void everyCommandIsUnderstood();
+    void theManualPageNamesEveryCommandAndOption();
+};
+
+void tst_IedctlCommandLine::theAddressIsTakenApart_data()
+{
+    QTest::addColumn<QString>("address");
+    QTest::addColumn<QString>("host");
+    QTest::addColumn<int>("port");
+    QTest::newRow("host") << "bay1"
+                          << "bay1" << 102;
+    QTest::newRow("host and port") << "192.0.2.7:10102"
+                                   << "192.0.2.7" << 10102;
+    QTest::newRow("IPv6") << "2001:db8::7"
+                          << "2001:db8::7" << 102;
+    QTest::newRow("IPv6 and port") << "[2001:db8::7]:10102"
+                                   << "2001:db8::7" << 10102;
+}
+
+void tst_IedctlCommandLine::theAddressIsTakenApart()
+{
+    QFETCH(QString, address);
+    const Invocation invocation = accepted({"--connect", address, "model"});
+    QTEST(invocation.device.host, "host");
+    QTEST(invocation.device.port, "port");
+}
+
+void tst_IedctlCommandLine::aWrongPortIsRefused_data()
+{
+    QTest::addColumn<QString>("address");
+    QTest::newRow("text") << "bay1:mms";
+    QTest::newRow("zero") << "bay1:0";
+    QTest::newRow("too large") << "bay1:65536";
+    QTest::newRow("no host") << ":102";
+}
+
+void tst_IedctlCommandLine::aWrongPortIsRefused()
+{
+    QFETCH(QString, address);
+    const Answer answer = refused({"--connect", address, "model"});
+    QVERIFY(answer.isError);
+    QCOMPARE(answer.status, ExitStatus::Usage);
+}
+
+void tst_IedctlCommandLine::withoutADeviceNothingRuns()
+{
+    const Answer answer = refused({"model"});
+    QVERIFY(answer.isError);
+    QVERIFY2(answer.text.contains("--connect"), qPrintable(answer.text));
+}
+
+void tst_IedctlCommandLine::anUnknownCommandIsNamed()
+{
+    const Answer answer = refused({"--connect", "bay1", "mdoel"});
+    QVERIFY(answer.isError);
+    QVERIFY2(answer.text.contains("mdoel") || answer.text.contains("subcommand"),
+             qPrintable(answer.text));
+}
+
+void tst_IedctlCommandLine::aMissingArgumentIsNamed()
+{
+    const Answer answer = refused({"--connect", "bay1", "write", "LD0/LLN0.Mod.stVal"});
+    QVERIFY(answer.isError);
+    QVERIFY2(answer.text.contains("value"), qPrintable(answer.text));
+}
+
+void tst_IedctlCommandLine::helpListsEveryCommand()
+{
+    const Answer answer = refused({"--help"});
+    QVERIFY(!answer.isError);
+    QCOMPARE(answer.status, ExitStatus::Done);
+    for (const char *command : {"model", "read", "write", "watch", "directory", "dataset", "report",
+                                "select", "operate", "cancel", "group", "file", "batch"})
+        QVERIFY2(answer.text.contains(command), command);
+}
+
+void tst_IedctlCommandLine::optionsReachTheDevice()
+{
+    const Invocation invocation = accepted({"--connect", "bay1", "--timeout", "2.5", "--password",
+                                            "secret", "--json", "--read-only", "model"});
+    QCOMPARE(invocation.device.callTimeout, std::chrono::milliseconds(2500));
+    QCOMPARE(invocation.device.password, QString("secret"));
+    QVERIFY(invocation.json);
+    QVERIFY(invocation.readOnly);
+    QCOMPARE(invocation.device.faults(), QStringList());
+}
+
+void tst_IedctlCommandLine::batchReadsStandardInputUnlessAFileIsGiven()
+{
+    QCOMPARE(accepted({"--connect", "bay1", "batch"}).batch, QString("-"));
+    QCOMPARE(accepted({"--connect", "bay1", "batch", "night.txt"}).batch, QString("night.txt"));
+}
+
+void tst_IedctlCommandLine::aBatchLineKnowsNoOptionsOfTheProgram()
+{
+    QVERIFY(std::holds_alternative<Invocation>(parseBatchLine("read LD0/LLN0.Mod")));
+    QVERIFY(std::get<Invocation>(parseBatchLine("write LD0/LLN0.d \"two words\"")).command);
+    QVERIFY(std::get<Answer>(parseBatchLine("--connect bay1 model")).isError);
+    QVERIFY(std::get<Answer>(parseBatchLine("batch")).isError);
+}
+
+void tst_IedctlCommandLine::everyCommandIsUnderstood_data()
+{
+    QTest::addColumn<QString>("line");
+    for (const char *line : {"model -a",
+                             "directory",
+                             "directory LD0 --datasets",
+                             "directory LD0/LLN0 --reports",
+                             "directory LD0 --settings",
+                             "abort",
+                             "read LD0/MMXU1.A LD0/MMXU1.PhV",
+                             "write LD0/LLN0.Mod.d text",
+                             "watch --count 3 --seconds 4",
+                             "dataset list",
+                             "dataset show LD0/LLN0$Trips",
+                             "dataset read LD0/LLN0$Trips",
+                             "dataset create @mine LD0/MMXU1.A",
+                             "dataset delete @mine",
+                             "report list",
+                             "report show LD0/LLN0$BR$b01",
+                             "report set LD0/LLN0$BR$b01 IntgPd=1000",
+                             "report enable LD0/LLN0$BR$b01 --gi --trgops dchg,gi",
+                             "report disable LD0/LLN0$BR$b01",
+                             "report gi LD0/LLN0$BR$b01",
+                             "report purge LD0/LLN0$BR$b01",
+                             "select LD0/CSWI1.Pos --value on",
+                             "operate LD0/CSWI1.Pos --value on --test --interlock",
+                             "operate LD0/CSWI1.Pos --selected",
+                             "cancel LD0/CSWI1.Pos --synchro",
+                             "group show LD0",
+                             "group read LD0 --edited",
+                             "group activate LD0 2",
+                             "group edit LD0 2",
+                             "group write LD0 --group 2 PTOC1$SE$StrVal=3",
+                             "file ls",
+                             "file ls COMTRADE",
+                             "file get a.cfg b.cfg",
+                             "file put a.cfg",
+                             "file rm a.cfg"})
+        QTest::newRow(line) << QString(line);
+}
+
+void tst_IedctlCommandLine::everyCommandIsUnderstood()
+{
+    QFETCH(QString, line);
+    const auto parsed = parseBatchLine(line);
+    if (const auto *answer = std::get_if<Answer>(&parsed))
+        QFAIL(qPrintable(answer->text));
+    QVERIFY(std::get<Invocation>(parsed).command);
+}
+
+void tst_IedctlCommandLine::theManualPageNamesEveryCommandAndOption()
+{
+    const QString page = manualPage();
+    QVERIFY(page.startsWith(".TH IEDCTL 1"));
+    for (const char *heading : {"\"report enable\"", "\"file put\"", "\"group write\"",
+                                "\"dataset create\"", "\"operate\"", "\"batch\""})
+        QVERIFY2(page.contains(QString(".SS ") + heading), heading);
+    QVERIFY(page.contains("\\-\\-interlock"));
+    QVERIFY(page.contains("EXIT STATUS"));
+}
+
+QTEST_APPLESS_MAIN(tst_IedctlCommandLine)
+#include "tst_commandline.moc"

@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "iedctl/valuetext.h"
+
+#include <devicemodel/physicaldevice.h>
+
+#include <QtTest/QtTest>
+
+#include <cstdint>
+#include <limits>
+
+class tst_IedctlValueText : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void textBecomesTheTypeOfTheAttribute_data();
+    void textBecomesTheTypeOfTheAttribute();
+    void whatDoesNotFitIsRefusedWithASentence_data();
+    void whatDoesNotFitIsRefusedWithASentence();
+    void aSettingKeepsTheTypeItHad();
+    void aControlValueMayBeAWord();
+    void enumerationsShowTheirEntries();
+    void integersThatJsonCannotHoldBecomeText();
+};
+
+namespace {
+
+void addEnumeration(PhysicalDevice &device)
+{
+    EnumType beh;
+    beh.id = QStringLiteral("Beh");
+    beh.values = {
+        {1, QStringLiteral("on")}, {2, QStringLiteral("blocked")}, {5, QStringLiteral("off")}};
+    device.enumTypes.insert(beh.id, beh);
+}
+
+DataAttribute attributeOfType(const QString &type)
+{
+    DataAttribute attribute;
+    attribute.basicType = type;
+    if (type == QLatin1String("Enum"))
+        attribute.enumTypeId = QStringLiteral("Beh");
+    return attribute;
+}
+
+} // namespace
+
+void tst_IedctlValueText::textBecomesTheTypeOfTheAttribute_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QVariant>("value");
+    QTest::newRow("boolean word") << "BOOLEAN"
+                                  << "on" << QVariant(true);
+    QTest::newRow("boolean digit") << "BOOLEAN"
+                                   << "0" << QVariant(false);
+    QTest::newRow("least") << "INT8"
+                           << "-128" << QVariant(-128);
+    QTest::newRow("hexadecimal") << "INT16U"
+                                 << "0xFF" << QVariant(255U);
+    QTest::newRow("64 bits") << "INT64"
+                             << "-9223372036854775808"
+                             << QVariant(std::numeric_limits<qlonglong>::min());
+    QTest::newRow("greatest") << "INT64U"
+                              << "18446744073709551615"
+                              << QVariant(std::numeric_limits<qulonglong>::max());
+    QTest::newRow("float") << "FLOAT32"
+                           << "-1.5e3" << QVariant(-1500.0);
+    QTest::newRow("entry") << "Enum"
+                           << "Blocked" << QVariant(2);
+    QTest::newRow("ordinal") << "Enum"
+                             << "5" << QVariant(5);
+    QTest::newRow("double point") << "Dbpos"
+                                  << "off" << QVariant(1);
+    QTest::newRow("step") << "Tcmd"
+                          << "higher" << QVariant(2);
+    QTest::newRow("quality") << "Quality"
+                             << "0100000000000" << QVariant("0100000000000");
+    QTest::newRow("text") << "VisString255"
+                          << " as it is " << QVariant(" as it is ");
+}
+
+void tst_IedctlValueText::textBecomesTheTypeOfTheAttribute()
+{
+    QFETCH(QString, type);
+    QFETCH(QString, text);
+    QFETCH(QVariant, value);
+    PhysicalDevice device;
+    addEnumeration(device);
+    QString error;
+    const QVariant parsed = ValueText::parse(device, attributeOfType(type), text, error);
+    QCOMPARE(error, QString());
+    QCOMPARE(parsed.userType(), value.userType());
+    QCOMPARE(parsed, value);
+}
+
+void tst_IedctlValueText::whatDoesNotFitIsRefusedWithASentence_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("no truth") << "BOOLEAN"
+                              << "maybe";
+    QTest::newRow("one too small") << "INT8"
+                                   << "-129";
+    QTest::newRow("one too large") << "INT8U"
+                                   << "256";
+    QTest::newRow("sign") << "INT8U"
+                          << "-1";
+    QTest::newRow("fraction") << "INT32"
+                              << "1.5";
+    QTest::newRow("empty") << "INT32"
+                           << "";
+    QTest::newRow("one too large, 64 bits") << "INT64U"
+                                            << "18446744073709551616";
+    QTest::newRow("not finite") << "FLOAT32"
+                                << "nan";
+    QTest::newRow("infinite") << "FLOAT64"
+                              << "inf";
+    QTest::newRow("no entry") << "Enum"
+                              << "nowhere";
+    QTest::newRow("quality too short") << "Quality"
+                                       << "010";
+    QTest::newRow("quality of other characters") << "Quality"
+                                                 << "01000000000x0";
+}
+
+void tst_IedctlValueText::whatDoesNotFitIsRefusedWithASentence()
+{
+    QFETCH(QString, type);
+    QFETCH(QString, text);
+    PhysicalDevice device;
+    addEnumeration(device);
+    QString error;
+    QVERIFY(!ValueText::parse(device, attributeOfType(type), text, error).isValid());
+    QVERIFY(error.endsWith(QLatin1Char('.')));
+}
+
+void tst_IedctlValueText::aSettingKeepsTheTypeItHad()
+{
+    QString error;
+    const QVariant number = ValueText::parseLike(QVariant(3), "12", error);
+    QCOMPARE(number.userType(), int(QMetaType::Int));
+    QCOMPARE(number.toInt(), 12);
+    const QVariant real = ValueText::parseLike(QVariant(3.0F), "0.5", error);
+    QCOMPARE(real.userType(), int(QMetaType::Float));
+    QCOMPARE(real.toFloat(), 0.5F);
+    QVERIFY(!ValueText::parseLike(QVariant(3), "4294967296", error).isValid());
+    QVERIFY(!ValueText::parseLike(QVariant(3U), "-1", error).isValid());
+    QVERIFY(!ValueText::parseLike(QVariant(true), "2", error).isValid());
+    QVERIFY(!error.isEmpty());
+}
+
+void tst_IedctlValueText::aControlValueMayBeAWord()
+{
+    EnumType none;
+    QString error;
+    QCOMPARE(ValueText::parseControl(none, "on", error), 1.0);
+    QCOMPARE(ValueText::parseControl(none, "false", error), 0.0);
+    QCOMPARE(ValueText::parseControl(none, "2.5", error), 2.5);
+    QCOMPARE(error, QString());
+    EnumType modes;
+    modes.values = {{1, QStringLiteral("on")}, {5, QStringLiteral("off")}};
+    QCOMPARE(ValueText::parseControl(modes, "off", error), 5.0);
+    QCOMPARE(error, QString());
+    ValueText::parseControl(none, "nan", error);
+    QVERIFY(!error.isEmpty());
+}
+
+void tst_IedctlValueText::enumerationsShowTheirEntries()
+{
+    PhysicalDevice device;
+    addEnumeration(device);
+    const DataAttribute mode = attributeOfType(QStringLiteral("Enum"));
+    QCOMPARE(ValueText::shown(device, &mode, 2), QString("2 (blocked)"));
+    QCOMPARE(ValueText::shown(device, &mode, 9), QString("9"));
+    QCOMPARE(ValueText::shown(device, nullptr, 0.1F), QString("0.1"));
+    QCOMPARE(ValueText::shown(device, nullptr, QVariant()), QString());
+}
+
+void tst_IedctlValueText::integersThatJsonCannotHoldBecomeText()
+{
+    QCOMPARE(ValueText::toJson(QVariant(Q_INT64_C(9007199254740992))).toDouble(),
+             9007199254740992.0);
+    QCOMPARE(ValueText::toJson(QVariant(std::numeric_limits<qulonglong>::max())).toString(),
+             QString("18446744073709551615"));
+    QCOMPARE(ValueText::toJson(QVariant(true)), QJsonValue(true));
+    QCOMPARE(ValueText::toJson(QVariant()), QJsonValue());
+}
+
+QTEST_APPLESS_MAIN(tst_IedctlValueText)
+#include "tst_valuetext.moc"
