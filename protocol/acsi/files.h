@@ -34,14 +34,17 @@ asio::awaitable<mms::Result<std::vector<FileEntry>>> listDirectory(std::shared_p
 
 /// Reads a file in blocks; @p sink gets them in order and returns false to stop. The file of the
 /// peer is closed in every case. Opens the name as given, then with and without a leading
-/// separator. Reports the size that the peer announces first.
+/// separator, then with backslashes. Reports the size that the peer announces first. Gives the
+/// octets that were read. Up to ClientOptions::outstandingFileReads blocks are asked for at a time.
 asio::awaitable<mms::Result<std::uint64_t>>
 download(std::shared_ptr<Client> client, std::string name,
          std::function<bool(std::span<const std::uint8_t> block)> sink,
          std::function<void(std::uint32_t size)> announced = {});
 
-/// A file that this side offers. read() fills @p block from @p position and answers how many octets
-/// it gave, less than asked only at the end, or an error.
+/// A file that this side offers. read() fills @p block from @p position, never beyond the size, and
+/// answers how many octets it gave, or an error; fewer than asked for are an error as well. It is
+/// called in the client's strand, for positions that grow, but from the beginning again when the
+/// peer opens the file again.
 struct FileSource
 {
     std::uint32_t size = 0; ///< octets
@@ -50,9 +53,14 @@ struct FileSource
 };
 
 /// Has the peer fetch a file from here (ObtainFile) and answers its FileOpen, FileRead and
-/// FileClose meanwhile. An existing file is replaced: where the peer refuses that, the upload goes
-/// to another name first, so that one of the two versions is there at any time. Afterwards a half
-/// file is deleted where the peer can.
+/// FileClose meanwhile. It may take as long as the peer goes on fetching; it ends when the peer is
+/// silent for ClientOptions::callTimeout.
+///
+/// An existing file is replaced by way of another name (".upload" behind it), so that one of the
+/// two versions is whole at any time: the new one is renamed, or fetched once more where the peer
+/// cannot rename. A peer that takes no other name replaces the file in place; where it refuses that
+/// because the file exists, the old file is deleted first. The error says what is left. A half file
+/// is deleted where the peer can.
 asio::awaitable<mms::Result<void>> upload(std::shared_ptr<Client> client, std::string name,
                                           FileSource source);
 
