@@ -113,9 +113,37 @@ std::optional<DataAccessError> Access::write(Client &client, const mms::Variable
     if (!name)
         return DataAccessError::ObjectAccessUnsupported;
     const Part part = m_model.find(access);
-    if (!part.isValid())
+    return part.isValid() ? write(client, part, value) : writeElements(client, access, value);
+}
+
+std::optional<DataAccessError> Access::writeElements(Client &client,
+                                                     const mms::VariableAccess &access,
+                                                     const mms::Data &value)
+{
+    const Part array = m_model.find({access.variable, {}});
+    if (!array.isValid() || !array.node().isArray() || access.parts.size() != 1)
         return DataAccessError::ObjectNonExistent;
-    return write(client, part, value);
+    const AlternateAccess &selection = access.parts.front();
+    const std::uint32_t size = array.childCount();
+    const bool whole = selection.kind == AlternateAccess::Kind::AllElements;
+    const std::uint32_t first = whole ? 0 : selection.index;
+    if ((!whole && selection.kind != AlternateAccess::Kind::IndexRange) || !selection.parts.empty()
+        || first > size || (!whole && selection.count > size - first))
+        return DataAccessError::ObjectNonExistent;
+    const std::uint32_t count = whole || selection.count == 0 ? size - first : selection.count;
+    const auto values = value.children();
+    if (value.kind() != mms::Data::Kind::Array || values.size() != count)
+        return DataAccessError::TypeInconsistent;
+    for (std::uint32_t i = 0; i < count; ++i) {
+        if (const auto error = Model::check(array.childAt(first + i), values[i]))
+            return error;
+    }
+    const Model::Batch together(m_model);
+    for (std::uint32_t i = 0; i < count; ++i) {
+        if (const auto error = write(client, array.childAt(first + i), values[i]))
+            return error;
+    }
+    return std::nullopt;
 }
 
 std::optional<DataAccessError> Access::write(Client &client, const Part &part,

@@ -79,6 +79,10 @@ private:
                              const std::vector<mms::AlternateAccess> &parts);
     mms::AccessResult selectOne(Client &client, const Part &part,
                                 const mms::AlternateAccess &selection);
+    /// Some elements, or all elements, of an array.
+    std::optional<mms::DataAccessError> writeElements(Client &client,
+                                                      const mms::VariableAccess &access,
+                                                      const mms::Data &value);
 
     Model &m_model;
     WriteRules m_rules;

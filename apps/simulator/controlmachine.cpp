@@ -72,13 +72,6 @@ Clock::WallTime wallTimeOf(const mms::UtcTime &time)
     return Clock::WallTime(std::chrono::seconds(time.seconds) + std::chrono::nanoseconds(rest));
 }
 
-mms::VariableAccess variable(mms::ObjectName name)
-{
-    mms::VariableAccess access;
-    access.variable = std::move(name);
-    return access;
-}
-
 } // namespace
 
 ControlMachine::ControlMachine(std::string reference, ControlHost &host, const Clock &clock)
@@ -287,18 +280,13 @@ void ControlMachine::terminate(AddCause cause)
 {
     if (!m_enhanced || !m_client)
         return;
-    const std::size_t slash = m_reference.find('/');
-    mms::InformationReport report;
-    std::vector<mms::VariableAccess> variables;
-    if (cause != AddCause::None) {
-        variables.push_back(variable(mms::ObjectName::ofVmd("LastApplError")));
-        report.results.push_back(acsi::toData(lastApplError("Oper", m_request, cause)));
-    }
-    variables.push_back(variable(mms::ObjectName::inDomain(
-        m_reference.substr(0, slash), m_reference.substr(slash + 1) + "$Oper")));
-    report.results.push_back(m_value);
-    report.variables = std::move(variables);
-    m_host.send(*m_client, std::move(report));
+    const auto object = acsi::parseReference(m_reference);
+    if (!object)
+        return;
+    std::optional<acsi::LastApplError> error;
+    if (cause != AddCause::None)
+        error = lastApplError("Oper", m_request, cause);
+    m_host.send(*m_client, acsi::commandTermination(*object, m_value, error));
 }
 
 acsi::LastApplError ControlMachine::lastApplError(std::string_view service,
@@ -320,10 +308,7 @@ acsi::LastApplError ControlMachine::lastApplError(std::string_view service,
 ControlMachine::Answer ControlMachine::refuse(Client &client, std::string_view service,
                                               const ControlRequest &request, AddCause cause)
 {
-    mms::InformationReport report;
-    report.variables = std::vector{variable(mms::ObjectName::ofVmd("LastApplError"))};
-    report.results.push_back(acsi::toData(lastApplError(service, request, cause)));
-    m_host.send(client, std::move(report));
+    m_host.send(client, acsi::toReport(lastApplError(service, request, cause)));
     return DataAccessError::ObjectAccessDenied;
 }
 

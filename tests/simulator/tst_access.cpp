@@ -173,6 +173,25 @@ TEST_F(AccessTest, rulesDecideWhatCanBeWritten)
               DataAccessError::ObjectAccessDenied);
 }
 
+TEST_F(AccessTest, someElementsOfAnArrayAreWrittenTogether)
+{
+    Access free(model, WriteRules{Fc::MX});
+    const Data second = read("MHAI1$MX$HA$phsAHar", {AlternateAccess::ofElement(1)}).data();
+    const Data third = read("MHAI1$MX$HA$phsAHar", {AlternateAccess::ofElement(2)}).data();
+    const auto access = variable("MHAI1$MX$HA$phsAHar", {AlternateAccess::ofElements(1, 2)});
+    EXPECT_EQ(free.write(client, access, Data::array({third, second})), std::nullopt);
+    EXPECT_EQ(read("MHAI1$MX$HA$phsAHar", {AlternateAccess::ofElement(1)}).data(), third);
+    EXPECT_EQ(read("MHAI1$MX$HA$phsAHar", {AlternateAccess::ofElement(2)}).data(), second);
+    EXPECT_EQ(free.write(client, access, Data::array({second})), DataAccessError::TypeInconsistent);
+    EXPECT_EQ(free.write(client, access, Data::array({second, Data::boolean(true)})),
+              DataAccessError::TypeInconsistent);
+    EXPECT_EQ(free.write(client,
+                         variable("MHAI1$MX$HA$phsAHar", {AlternateAccess::ofElements(2, 2)}),
+                         Data::array({second, third})),
+              DataAccessError::ObjectNonExistent);
+    EXPECT_EQ(read("MHAI1$MX$HA$phsAHar", {AlternateAccess::ofElement(1)}).data(), third);
+}
+
 TEST_F(AccessTest, aValueThatDoesNotFitChangesNothing)
 {
     EXPECT_EQ(write("XCBR1$CF$Pos$sboTimeout", Data::integer(5)),

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "simulator/animation.h"
+#include "simulator/device.h"
+#include "simulator/directoryfiles.h"
+
+#include "mms/tls.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace sim {
+
+/// How a description becomes a device on the network, with everything that a simulation offers.
+struct SimulationOptions
+{
+    /// Address of this machine; 0.0.0.0 for all interfaces.
+    std::string address = "127.0.0.1";
+    /// 0 takes a free port.
+    std::uint16_t port = 0;
+    std::size_t maxAssociations = 16;
+    /// Octets, at least mms::smallestPduSize.
+    std::int32_t maxPduSize = 65000;
+    /// What clients have to name when they ask for an association; none asks for none.
+    std::optional<std::string> password;
+    std::optional<mms::TlsOptions> tls;
+    std::optional<AnimationOptions> animation;
+    std::optional<FileOptions> files;
+    /// A script of faults; may be empty.
+    std::string faults;
+    /// Hears of associations, controls and faults: a line of text each. In the device's strand.
+    std::function<void(const std::string &line)> log;
+};
+
+struct SimulatedDevice
+{
+    std::shared_ptr<Device> device;
+    std::uint16_t port = 0;
+};
+
+/// Makes a device of @p ied, of which nothing is kept, and lets it listen. The error says what of
+/// the options is wrong. Any thread; keep the executor running until the device has gone.
+mms::Result<SimulatedDevice> simulate(asio::any_io_executor executor, const scl::Ied &ied,
+                                      SimulationOptions options);
+
+} // namespace sim
