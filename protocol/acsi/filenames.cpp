@@ -115,8 +115,9 @@ std::vector<FileEntry> oneLevel(const std::string &directory,
         const std::size_t separator = name.find('/');
         FileEntry found;
         found.name = name.substr(0, separator == std::string::npos ? separator : separator + 1);
-        if (found.name.empty() || found.name == "./" || found.name == "../" ||
-            !known.insert(found.name).second)
+        const bool isItself = found.name.empty() || found.name == "." || found.name == "./";
+        const bool isParent = found.name == ".." || found.name == "../";
+        if (isItself || isParent || !known.insert(found.name).second)
             continue;
         if (separator == std::string::npos || separator + 1 == name.size()) {
             found.size = entry.attributes.size;
