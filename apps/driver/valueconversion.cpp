@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -44,6 +45,15 @@ int ordinalOf(const mms::BitString &bits)
     for (std::size_t i = 0; i < bits.size(); ++i)
         result = result * 2 + (bits.test(i) ? 1 : 0);
     return result;
+}
+
+/// The fewest digits that are read as the same number.
+template <typename Number>
+QString shortest(Number number)
+{
+    std::array<char, 32> digits;
+    const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), number);
+    return QString::fromLatin1(digits.data(), static_cast<int>(result.ptr - digits.data()));
 }
 
 bool isCoded(const QString &basicType)
@@ -532,9 +542,9 @@ QString ValueConversion::text(const QVariant &value)
     case QMetaType::QByteArray:
         return QString::fromLatin1(value.toByteArray().toHex());
     case QMetaType::Float:
-        return QString::number(value.toDouble(), 'g', 9);
+        return shortest(value.toFloat());
     case QMetaType::Double:
-        return QString::number(value.toDouble(), 'g', 17);
+        return shortest(value.toDouble());
     default:
         return value.toString();
     }

@@ -1,0 +1,261 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+// Asio has a function of the name of one of Qt's keywords, so it goes before Qt.
+#include "simulator/device.h"
+#include "simulator/faults.h"
+
+#include "driver/ieddriver.h"
+
+#include <devicemodel/mmsvalue.h>
+#include <devicemodel/physicaldevice.h>
+
+#include "driver/sclimport.h"
+
+#include <asio/executor_work_guard.hpp>
+#include <asio/io_context.hpp>
+#include <asio/post.hpp>
+
+#include <QtCore/QDataStream>
+#include <QtCore/QHash>
+#include <QtCore/QList>
+#include <QtCore/QString>
+
+#include <condition_variable>
+#include <functional>
+#include <future>
+#include <memory>
+#include <mutex>
+#include <thread>
+
+namespace drivertest {
+
+/// A simulated IED on loopback that can be stopped and started again at its port.
+class SimulatedIed
+{
+public:
+    /// @param ied may be empty when the file describes a single one
+    explicit SimulatedIed(const QString &file, const QString &ied = {}, std::string faults = {},
+                          sim::DeviceOptions options = {})
+        : m_file(SclImport::readFile(file))
+        , m_options(std::move(options))
+        , m_work(asio::make_work_guard(m_context))
+        , m_thread([this] { m_context.run(); })
+    {
+        QString error;
+        m_ied = SclImport::chooseIed(*m_file.document, ied, error);
+        m_options.server.address = "127.0.0.1";
+        if (!faults.empty())
+            setFaults(faults);
+        start();
+    }
+
+    ~SimulatedIed()
+    {
+        stop();
+        m_work.reset();
+        m_thread.join();
+    }
+
+    std::uint16_t port() const { return m_options.server.port; }
+    const scl::Ied &ied() const { return *m_ied; }
+    std::shared_ptr<sim::Device> device() const { return m_device; }
+    void setFaults(const std::string &script)
+    {
+        const auto faults = sim::Faults::parse(script);
+        if (!faults)
+            qFatal("%s", faults.error().message.c_str());
+        m_options.server.association.link.interference = (*faults)->interference();
+    }
+
+    void start()
+    {
+        m_options.server.port = m_options.server.port == 102 ? 0 : m_options.server.port;
+        m_device = sim::Device::create(m_context.get_executor(), *m_ied, m_options);
+        const mms::Result<std::uint16_t> started = m_device->start();
+        if (!started)
+            qFatal("%s", started.error().message.c_str());
+        m_options.server.port = *started;
+    }
+
+    void stop()
+    {
+        if (m_device)
+            m_device->stop();
+        m_device.reset();
+    }
+
+    /// Does something in the device's strand and waits for it.
+    void act(const std::function<void(sim::Device &)> &action)
+    {
+        std::promise<void> done;
+        asio::post(m_device->strand(), [&] {
+            action(*m_device);
+            done.set_value();
+        });
+        done.get_future().wait();
+    }
+
+    void set(const std::string &domain, const std::string &item, const mms::Data &value)
+    {
+        act([&](sim::Device &device) {
+            const sim::Part part = device.model().find(domain, item);
+            if (!part.isValid())
+                qFatal("no %s in %s", item.c_str(), domain.c_str());
+            device.model().set(part, value);
+        });
+    }
+
+    mms::Data value(const std::string &domain, const std::string &item)
+    {
+        mms::Data result;
+        act([&](sim::Device &device) {
+            result = device.model().value(device.model().find(domain, item));
+        });
+        return result;
+    }
+
+private:
+    scl::ReadResult m_file;
+    const scl::Ied *m_ied = nullptr;
+    sim::DeviceOptions m_options;
+    asio::io_context m_context;
+    asio::executor_work_guard<asio::io_context::executor_type> m_work;
+    std::shared_ptr<sim::Device> m_device;
+    std::thread m_thread;
+};
+
+/// What the driver tells: states, changes and published values. Any thread.
+class Listener
+{
+public:
+    static constexpr std::chrono::seconds patience{20};
+
+    IedDriverOptions options()
+    {
+        IedDriverOptions options;
+        options.poster = [this](const QList<QByteArray> &records) { take(records); };
+        options.statusChanged = [this](const DeviceStatus &status) {
+            const std::lock_guard<std::mutex> lock(m_mutex);
+            m_statuses.append(status);
+            m_changed.notify_all();
+        };
+        options.changed = [this](const DeviceChange &change) {
+            const std::lock_guard<std::mutex> lock(m_mutex);
+            m_changes.append(change);
+            m_changed.notify_all();
+        };
+        return options;
+    }
+
+    /// Waits until the newest status of the device fulfils the condition; false after the patience.
+    bool waitForStatus(int number, const std::function<bool(const DeviceStatus &)> &condition)
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        return m_changed.wait_for(lock, patience, [&] {
+            for (auto each = m_statuses.crbegin(); each != m_statuses.crend(); ++each) {
+                if (each->number == number)
+                    return condition(*each);
+            }
+            return false;
+        });
+    }
+
+    bool waitForState(int number, DeviceState state)
+    {
+        return waitForStatus(number,
+                             [state](const DeviceStatus &status) { return status.state == state; });
+    }
+
+    /// Waits for a value of the reference that fulfils the condition, published since clear().
+    bool waitForValue(const QString &reference,
+                      const std::function<bool(const MMSValue &)> &condition)
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        return m_changed.wait_for(lock, patience, [&] {
+            const auto found = m_values.constFind(reference);
+            return found != m_values.constEnd() && condition(*found);
+        });
+    }
+    bool waitForValue(const QString &reference, const QVariant &value)
+    {
+        return waitForValue(reference,
+                            [&value](const MMSValue &published) { return published.value == value; });
+    }
+
+    bool waitForChanges(int count)
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        return m_changed.wait_for(lock, patience, [&] { return m_changes.size() >= count; });
+    }
+
+    MMSValue value(const QString &reference) const
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return m_values.value(reference);
+    }
+    QList<DeviceChange> changes() const
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return m_changes;
+    }
+    QList<DeviceStatus> statuses() const
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return m_statuses;
+    }
+    int published() const
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return m_published;
+    }
+    void clear()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_values.clear();
+        m_changes.clear();
+        m_published = 0;
+    }
+
+private:
+    void take(const QList<QByteArray> &records)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        for (const QByteArray &record : records) {
+            MMSValue value;
+            QDataStream stream(record);
+            value.fromStream(stream);
+            m_values.insert(value.reference, value);
+            ++m_published;
+        }
+        m_changed.notify_all();
+    }
+
+    mutable std::mutex m_mutex;
+    std::condition_variable m_changed;
+    QList<DeviceStatus> m_statuses;
+    QList<DeviceChange> m_changes;
+    QHash<QString, MMSValue> m_values;
+    int m_published = 0;
+};
+
+inline DeviceConfiguration configurationFor(const SimulatedIed &ied, int number = 1)
+{
+    DeviceConfiguration configuration;
+    configuration.number = number;
+    configuration.name = QStringLiteral("IED%1").arg(number);
+    configuration.host = QStringLiteral("127.0.0.1");
+    configuration.port = ied.port();
+    return configuration;
+}
+
+/// The bytes as a device.
+inline std::unique_ptr<PhysicalDevice> deviceFrom(const QByteArray &bytes)
+{
+    auto device = std::make_unique<PhysicalDevice>();
+    QDataStream stream(bytes);
+    device->fromStream(stream);
+    return device;
+}
+
+} // namespace drivertest

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "driver/pducapture.h"
+
+#include "mms/pcapng.h"
+#include "mms/pdu.h"
+
+#include <QtCore/QBuffer>
+#include <QtTest/QtTest>
+
+namespace {
+
+std::vector<std::uint8_t> statusRequest(std::uint32_t invokeId)
+{
+    return mms::encode(mms::ConfirmedRequestPdu{invokeId, mms::StatusRequest()});
+}
+
+/// A place that takes only so many bytes.
+class FullDevice : public QIODevice
+{
+public:
+    FullDevice() { open(QIODevice::WriteOnly); }
+
+protected:
+    qint64 readData(char *, qint64) override { return -1; }
+    qint64 writeData(const char *, qint64) override
+    {
+        setErrorString("full");
+        return -1;
+    }
+};
+
+} // namespace
+
+class tst_PduCapture : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theNewestPdusAreToldAsTextOldestFirst();
+    void theOldestPdusGiveWay();
+    void whatIsNoPduIsShownWithItsFault();
+    void aSavedCaptureHoldsEveryPdu();
+    void aPlaceThatTakesNothingIsReported();
+};
+
+void tst_PduCapture::theNewestPdusAreToldAsTextOldestFirst()
+{
+    PduCapture capture;
+    QVERIFY(capture.lastReceived() == std::chrono::steady_clock::time_point());
+    capture.add(mms::Direction::Sent, statusRequest(1));
+    capture.add(mms::Direction::Received, statusRequest(2));
+    capture.add(mms::Direction::Sent, statusRequest(3));
+    QCOMPARE(capture.sent(), std::uint64_t(2));
+    QCOMPARE(capture.received(), std::uint64_t(1));
+    QVERIFY(capture.lastReceived() > std::chrono::steady_clock::time_point());
+
+    const QVector<PduCapture::Line> lines = capture.trace(2);
+    QCOMPARE(lines.size(), 2);
+    QVERIFY(!lines.at(0).sent);
+    QVERIFY(lines.at(0).text.contains("status"));
+    QVERIFY(lines.at(0).time.secsTo(QDateTime::currentDateTime()) < 60);
+    QVERIFY(lines.at(1).sent);
+    QCOMPARE(lines.at(1).text, QString::fromStdString(mms::toText(*mms::decodePdu(statusRequest(3)))));
+    QCOMPARE(capture.trace(-1).size(), 0);
+    capture.clear();
+    QCOMPARE(capture.trace(10).size(), 0);
+}
+
+void tst_PduCapture::theOldestPdusGiveWay()
+{
+    PduCapture capture(10000);
+    for (int i = 0; i < 100; ++i)
+        capture.add(mms::Direction::Received, std::vector<std::uint8_t>(1000, 0));
+    QVERIFY(capture.octets() <= 10000);
+    QCOMPARE(capture.trace(1000).size() + static_cast<int>(capture.dropped()), 100);
+    QVERIFY(capture.dropped() >= 90);
+    capture.add(mms::Direction::Received, std::vector<std::uint8_t>(50000, 0));
+    QCOMPARE(capture.trace(1000).size(), 1);
+}
+
+void tst_PduCapture::whatIsNoPduIsShownWithItsFault()
+{
+    PduCapture capture;
+    const std::vector<std::uint8_t> octets = {0xFF, 0x01};
+    capture.add(mms::Direction::Received, octets);
+    QCOMPARE(capture.trace(1).first().text,
+             QString::fromStdString(mms::decodePdu(octets).error().message));
+}
+
+void tst_PduCapture::aSavedCaptureHoldsEveryPdu()
+{
+    PduCapture capture;
+    capture.add(mms::Direction::Sent, statusRequest(1));
+    capture.add(mms::Direction::Received, statusRequest(2));
+    QBuffer buffer;
+    QVERIFY(buffer.open(QIODevice::WriteOnly));
+    QVERIFY(capture.save(buffer));
+
+    const mms::Octets header = mms::pcapng::fileHeader();
+    const QByteArray start(reinterpret_cast<const char *>(header.data()),
+                           static_cast<int>(header.size()));
+    QVERIFY(buffer.data().startsWith(start));
+    for (std::uint32_t id : {1U, 2U}) {
+        const std::vector<std::uint8_t> pdu = statusRequest(id);
+        const QByteArray bytes(reinterpret_cast<const char *>(pdu.data()),
+                               static_cast<int>(pdu.size()));
+        QCOMPARE(buffer.data().count(bytes), 1);
+    }
+}
+
+void tst_PduCapture::aPlaceThatTakesNothingIsReported()
+{
+    PduCapture capture;
+    capture.add(mms::Direction::Sent, statusRequest(1));
+    FullDevice device;
+    QVERIFY(!capture.save(device));
+    QCOMPARE(device.errorString(), QStringLiteral("full"));
+}
+
+QTEST_GUILESS_MAIN(tst_PduCapture)
+#include "tst_pducapture.moc"
