@@ -1,0 +1,79 @@
+# SPDX-License-Identifier: Apache-2.0
+"""Compares docs/interoperability.md with the results of the tests, or writes it.
+
+Usage: table.py RESULTS DOCUMENT. With INTEROP_RENEW=1 in the environment the document is written.
+Exits with 77 where the tests with the foreign stack have left no results.
+"""
+import json
+import os
+import pathlib
+import sys
+
+NOT_THERE = 77
+COLUMNS = (("our client, foreign server", ("foreign-server", "foreign-server-acsi")),
+           ("foreign client, our simulated IED", ("foreign-client",)))
+ROWS = pathlib.Path(__file__).with_name("rows.txt")
+HEAD = """# Interoperability
+
+Every service is tried in both directions with a stack that others wrote: the client and the server
+of the Python wheel `pyiec61850-ng` 1.6.1.10. The tests in `tests/interop` install it into the build
+and write this table; each "works" stands for values that were compared. Renew it with
+`INTEROP_RENEW=1 ./test --all -R interop`.
+
+Where a cell is "–" there is nothing to try in that direction.
+
+"""
+
+
+def read_rows():
+    lines = ROWS.read_text(encoding="utf-8").splitlines()
+    return [line for line in lines if line and not line.startswith("#")]
+
+
+def table(results):
+    rows = read_rows()
+    unknown = [name for column in results.values() for name in column if name not in rows]
+    if unknown:
+        raise SystemExit(f"rows.txt does not have: {', '.join(sorted(set(unknown)))}")
+    for row in rows:
+        if not any(row in column for column in results.values()):
+            raise SystemExit(f"no test has the row: {row}")
+    heads = [title for title, _ in COLUMNS]
+    lines = ["| service | " + " | ".join(heads) + " |", "|---" * (len(heads) + 1) + "|"]
+    for row in rows:
+        cells = [results[title].get(row, "–").replace("|", "\\|") for title in heads]
+        lines.append(f"| {row} | " + " | ".join(cells) + " |")
+    return HEAD + "\n".join(lines) + "\n"
+
+
+def main():
+    folder, document = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
+    results = {}
+    for title, names in COLUMNS:
+        results[title] = {}
+        for name in names:
+            path = folder / f"{name}.json"
+            if not path.exists():
+                print(f"The foreign peer is not there: no results of {name}.")
+                return NOT_THERE
+            results[title].update(json.loads(path.read_text(encoding="utf-8")))
+    fresh = table(results)
+    failed = [row for column in results.values() for row, result in column.items()
+              if result == "FAILED"]
+    if failed:
+        print("Failed: " + ", ".join(failed))
+        return 1
+    if os.environ.get("INTEROP_RENEW") == "1":
+        document.write_text(fresh, encoding="utf-8")
+    committed = document.read_text(encoding="utf-8") if document.exists() else ""
+    if committed == fresh:
+        print(f"{len(read_rows())} rows agree with the document.")
+        return 0
+    for line in fresh.splitlines():
+        if line not in committed.splitlines():
+            print(f"The results have, the document has not: {line}")
+    print("Renew the document with INTEROP_RENEW=1 in the environment.")
+    return 1
+
+
+sys.exit(main())
