@@ -61,6 +61,121 @@
     </message>
 </context>
 <context>
+    <name>DeviceConfiguration</name>
+    <message>
+        <source>The %1 has %2 octets; at most %3 are possible.</source>
+        <translation>%1: %2 Oktette sind zu viel, möglich sind höchstens %3.</translation>
+    </message>
+    <message>
+        <source>transport selector of the %1</source>
+        <translation>Transport-Selektor (%1)</translation>
+    </message>
+    <message>
+        <source>session selector of the %1</source>
+        <translation>Session-Selektor (%1)</translation>
+    </message>
+    <message>
+        <source>presentation selector of the %1</source>
+        <translation>Presentation-Selektor (%1)</translation>
+    </message>
+    <message>
+        <source>The AP title &quot;%1&quot; of the %2 is no object identifier such as 1.1.1.999.1.</source>
+        <translation>AP-Titel (%2): „%1“ ist kein Objektbezeichner wie 1.1.1.999.1.</translation>
+    </message>
+    <message>
+        <source>The AE qualifier of the %1 does not fit 32 bits.</source>
+        <translation>AE-Qualifier (%1): passt nicht in 32 Bit.</translation>
+    </message>
+    <message>
+        <source>The time-out for %1 must be from %2 to %3 milliseconds.</source>
+        <translation>Die Zeitgrenze für %1 muss zwischen %2 und %3 Millisekunden liegen.</translation>
+    </message>
+    <message>
+        <source>The %1 &quot;%2&quot; does not exist.</source>
+        <translation>%1 „%2“ existiert nicht.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has the wrong form.</source>
+        <translation>„%1“ hat die falsche Form.</translation>
+    </message>
+    <message>
+        <source>The device's number must be from 1 to %1.</source>
+        <translation>Die Nummer des Geräts muss zwischen 1 und %1 liegen.</translation>
+    </message>
+    <message>
+        <source>The device needs a name.</source>
+        <translation>Das Gerät braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>The device needs an address or an SCL file.</source>
+        <translation>Das Gerät braucht eine Adresse oder eine SCL-Datei.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no address or host name.</source>
+        <translation>„%1“ ist weder eine Adresse noch ein Rechnername.</translation>
+    </message>
+    <message>
+        <source>The port must be from 1 to 65535.</source>
+        <translation>Der Port muss zwischen 1 und 65535 liegen.</translation>
+    </message>
+    <message>
+        <source>SCL file</source>
+        <translation>SCL-Datei</translation>
+    </message>
+    <message>
+        <source>client</source>
+        <translation>Client</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>den Verbindungsaufbau</translation>
+    </message>
+    <message>
+        <source>requests</source>
+        <translation>Anfragen</translation>
+    </message>
+    <message>
+        <source>operations</source>
+        <translation>Bedienvorgänge</translation>
+    </message>
+    <message>
+        <source>The time-out for operations must not be shorter than the one for requests.</source>
+        <translation>Die Zeitgrenze für Bedienvorgänge darf nicht kürzer sein als die für Anfragen.</translation>
+    </message>
+    <message>
+        <source>From 1 to %1 outstanding calls are possible.</source>
+        <translation>Möglich sind 1 bis %1 gleichzeitig ausstehende Anfragen.</translation>
+    </message>
+    <message>
+        <source>The PDU size must be from %1 to %2 octets.</source>
+        <translation>Die PDU-Größe muss zwischen %1 und %2 Oktetten liegen.</translation>
+    </message>
+    <message>
+        <source>The polling interval must be 0 for none, or from %1 to %2 milliseconds.</source>
+        <translation>Das Abfrageintervall muss 0 (keine Abfrage) sein oder zwischen %1 und %2 Millisekunden liegen.</translation>
+    </message>
+    <message>
+        <source>From 1 to %1 outstanding file reads are possible.</source>
+        <translation>Möglich sind 1 bis %1 gleichzeitig ausstehende Dateilesevorgänge.</translation>
+    </message>
+    <message>
+        <source>The originator category must be from 0 to %1.</source>
+        <translation>Die Kategorie des Auslösers muss zwischen 0 und %1 liegen.</translation>
+    </message>
+    <message>
+        <source>The originator identification has %1 octets; at most %2 are possible.</source>
+        <translation>Die Kennung des Auslösers hat %1 Oktette; möglich sind höchstens %2.</translation>
+    </message>
+    <message>
+        <source>Device %1 (%2)</source>
+        <translation>Gerät %1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>DeviceListModel</name>
     <message>
         <source>The demonstration device, a part of the workbench</source>
@@ -283,6 +398,125 @@
     <message>
         <source>This IED has no logical devices, so there is nothing to browse.</source>
         <translation>Dieses IED hat keine logischen Geräte, es gibt also nichts anzuzeigen.</translation>
+    </message>
+</context>
+<context>
+    <name>IedDriver</name>
+    <message>
+        <source>This driver does not offer the operation.</source>
+        <translation>Dieser Treiber bietet den Vorgang nicht.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1; and %2 more</source>
+        <translation>%1; und %2 weitere</translation>
+    </message>
+    <message>
+        <source>Aborted by the operator.</source>
+        <translation>Vom Bediener abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The operation was cancelled.</source>
+        <translation>Der Vorgang wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>%1 has not finished the operation within %2 seconds.</source>
+        <translation>%1 hat den Vorgang nicht innerhalb von %2 Sekunden beendet.</translation>
+    </message>
+    <message>
+        <source>%1 is not connected.</source>
+        <translation>%1 ist nicht verbunden.</translation>
+    </message>
+    <message>
+        <source>%1 is not connected: %2.</source>
+        <translation>%1 ist nicht verbunden: %2.</translation>
+    </message>
+    <message>
+        <source>The model of %1 is being read: %2 of %3.</source>
+        <translation>Das Modell wird gelesen: %1, %2 von %3.</translation>
+    </message>
+    <message>
+        <source>The device has not answered for %1 seconds.</source>
+        <translation>Das Gerät hat seit %1 Sekunden nicht geantwortet.</translation>
+    </message>
+    <message>
+        <source>The SCL file is not used: %1</source>
+        <translation>Die SCL-Datei wird nicht verwendet: %1</translation>
+    </message>
+    <message>
+        <source>Reading the model was cancelled.</source>
+        <translation>Das Lesen des Modells wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>the value does not have the form of its type</source>
+        <translation>der Wert hat nicht die Form seines Typs</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no kind of report control block.</source>
+        <translation>„%1“ ist keine Art von Report-Steuerblock.</translation>
+    </message>
+    <message>
+        <source>A data set needs at least one member.</source>
+        <translation>Ein Datensatz braucht mindestens ein Element.</translation>
+    </message>
+    <message>
+        <source>There is no reference to be listed.</source>
+        <translation>Es ist keine Referenz zum Auflisten angegeben.</translation>
+    </message>
+    <message>
+        <source>Not connected to the device</source>
+        <translation>Keine Verbindung zum Gerät</translation>
+    </message>
+    <message>
+        <source>There is no device %1 on this driver.</source>
+        <translation>Auf diesem Treiber gibt es kein Gerät %1.</translation>
+    </message>
+    <message>
+        <source>The driver is read-only: nothing on %1 was changed.</source>
+        <translation>Der Treiber ist schreibgeschützt: Auf %1 wurde nichts geändert.</translation>
+    </message>
+    <message>
+        <source>Device %1</source>
+        <translation>Gerät %1</translation>
+    </message>
+    <message>
+        <source>Its logical device &quot;%1&quot; is online already as part of %2; live values could not be told apart.</source>
+        <translation>Sein logisches Gerät „%1“ ist bereits als Teil von %2 online; die laufenden Werte wären nicht zu unterscheiden.</translation>
+    </message>
+    <message>
+        <source>The capture cannot be written: %1</source>
+        <translation>Die Aufzeichnung kann nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>The values cannot be written: %1</source>
+        <translation>Die Werte können nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>The device has no address.</source>
+        <translation>Das Gerät hat keine Adresse.</translation>
+    </message>
+    <message>
+        <source>There is nothing to read.</source>
+        <translation>Es gibt nichts zu lesen.</translation>
+    </message>
+    <message>
+        <source>The data set has %1 members, but %2 values came.</source>
+        <translation>Der Datensatz hat %1 Elemente, es kamen aber %2 Werte.</translation>
+    </message>
+    <message>
+        <source>%1: the value does not have the form of its type</source>
+        <translation>%1: der Wert hat nicht die Form seines Typs</translation>
+    </message>
+    <message>
+        <source>The device has no %1.</source>
+        <translation>Das Gerät hat kein %1.</translation>
+    </message>
+    <message>
+        <source>The value to be written cannot be read.</source>
+        <translation>Der zu schreibende Wert ist nicht lesbar.</translation>
     </message>
 </context>
 <context>
@@ -686,6 +920,29 @@ Apache License 2.0</translation>
     <message>
         <source>The picture &quot;%1&quot; cannot be saved.</source>
         <translation>Das Bild „%1“ kann nicht gespeichert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>ValueConversion</name>
+    <message>
+        <source>%1 does not fit %2.</source>
+        <translation>%1 passt nicht in %2.</translation>
+    </message>
+    <message>
+        <source>%1 is no finite number.</source>
+        <translation>%1 ist keine endliche Zahl.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds characters that %2 does not have.</source>
+        <translation>„%1“ enthält Zeichen, die %2 nicht kennt.</translation>
+    </message>
+    <message>
+        <source>There is no value to write.</source>
+        <translation>Es gibt keinen Wert zum Schreiben.</translation>
+    </message>
+    <message>
+        <source>A value of type %1 cannot be written as a whole.</source>
+        <translation>Ein Wert vom Typ %1 kann nicht als Ganzes geschrieben werden.</translation>
     </message>
 </context>
 <context>

@@ -61,6 +61,121 @@
     </message>
 </context>
 <context>
+    <name>DeviceConfiguration</name>
+    <message>
+        <source>The %1 has %2 octets; at most %3 are possible.</source>
+        <translation>%1: tiene %2 octetos; son posibles %3 como máximo.</translation>
+    </message>
+    <message>
+        <source>transport selector of the %1</source>
+        <translation>Selector de transporte (%1)</translation>
+    </message>
+    <message>
+        <source>session selector of the %1</source>
+        <translation>Selector de sesión (%1)</translation>
+    </message>
+    <message>
+        <source>presentation selector of the %1</source>
+        <translation>Selector de presentación (%1)</translation>
+    </message>
+    <message>
+        <source>The AP title &quot;%1&quot; of the %2 is no object identifier such as 1.1.1.999.1.</source>
+        <translation>Título AP (%2): «%1» no es un identificador de objeto como 1.1.1.999.1.</translation>
+    </message>
+    <message>
+        <source>The AE qualifier of the %1 does not fit 32 bits.</source>
+        <translation>Calificador AE (%1): no cabe en 32 bits.</translation>
+    </message>
+    <message>
+        <source>The time-out for %1 must be from %2 to %3 milliseconds.</source>
+        <translation>El tiempo de espera para %1 debe estar entre %2 y %3 milisegundos.</translation>
+    </message>
+    <message>
+        <source>The %1 &quot;%2&quot; does not exist.</source>
+        <translation>El %1 «%2» no existe.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has the wrong form.</source>
+        <translation>«%1» tiene una forma incorrecta.</translation>
+    </message>
+    <message>
+        <source>The device's number must be from 1 to %1.</source>
+        <translation>El número del dispositivo debe estar entre 1 y %1.</translation>
+    </message>
+    <message>
+        <source>The device needs a name.</source>
+        <translation>El dispositivo necesita un nombre.</translation>
+    </message>
+    <message>
+        <source>The device needs an address or an SCL file.</source>
+        <translation>El dispositivo necesita una dirección o un archivo SCL.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no address or host name.</source>
+        <translation>«%1» no es una dirección ni un nombre de equipo.</translation>
+    </message>
+    <message>
+        <source>The port must be from 1 to 65535.</source>
+        <translation>El puerto debe estar entre 1 y 65535.</translation>
+    </message>
+    <message>
+        <source>SCL file</source>
+        <translation>archivo SCL</translation>
+    </message>
+    <message>
+        <source>client</source>
+        <translation>cliente</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>dispositivo</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>la conexión</translation>
+    </message>
+    <message>
+        <source>requests</source>
+        <translation>las peticiones</translation>
+    </message>
+    <message>
+        <source>operations</source>
+        <translation>las operaciones</translation>
+    </message>
+    <message>
+        <source>The time-out for operations must not be shorter than the one for requests.</source>
+        <translation>El tiempo de espera para las operaciones no debe ser más corto que el de las peticiones.</translation>
+    </message>
+    <message>
+        <source>From 1 to %1 outstanding calls are possible.</source>
+        <translation>Son posibles de 1 a %1 peticiones pendientes.</translation>
+    </message>
+    <message>
+        <source>The PDU size must be from %1 to %2 octets.</source>
+        <translation>El tamaño de PDU debe estar entre %1 y %2 octetos.</translation>
+    </message>
+    <message>
+        <source>The polling interval must be 0 for none, or from %1 to %2 milliseconds.</source>
+        <translation>El intervalo de sondeo debe ser 0 (ninguno) o estar entre %1 y %2 milisegundos.</translation>
+    </message>
+    <message>
+        <source>From 1 to %1 outstanding file reads are possible.</source>
+        <translation>Son posibles de 1 a %1 lecturas de archivo pendientes.</translation>
+    </message>
+    <message>
+        <source>The originator category must be from 0 to %1.</source>
+        <translation>La categoría del originador debe estar entre 0 y %1.</translation>
+    </message>
+    <message>
+        <source>The originator identification has %1 octets; at most %2 are possible.</source>
+        <translation>La identificación del originador tiene %1 octetos; son posibles %2 como máximo.</translation>
+    </message>
+    <message>
+        <source>Device %1 (%2)</source>
+        <translation>Dispositivo %1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>DeviceListModel</name>
     <message>
         <source>The demonstration device, a part of the workbench</source>
@@ -283,6 +398,125 @@
     <message>
         <source>This IED has no logical devices, so there is nothing to browse.</source>
         <translation>Este IED no tiene dispositivos lógicos, así que no hay nada que explorar.</translation>
+    </message>
+</context>
+<context>
+    <name>IedDriver</name>
+    <message>
+        <source>This driver does not offer the operation.</source>
+        <translation>Este controlador no ofrece la operación.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1; and %2 more</source>
+        <translation>%1; y %2 más</translation>
+    </message>
+    <message>
+        <source>Aborted by the operator.</source>
+        <translation>Interrumpido por el operador.</translation>
+    </message>
+    <message>
+        <source>The operation was cancelled.</source>
+        <translation>Se ha cancelado la operación.</translation>
+    </message>
+    <message>
+        <source>%1 has not finished the operation within %2 seconds.</source>
+        <translation>%1 no ha terminado la operación en %2 segundos.</translation>
+    </message>
+    <message>
+        <source>%1 is not connected.</source>
+        <translation>%1 no está conectado.</translation>
+    </message>
+    <message>
+        <source>%1 is not connected: %2.</source>
+        <translation>%1 no está conectado: %2.</translation>
+    </message>
+    <message>
+        <source>The model of %1 is being read: %2 of %3.</source>
+        <translation>Se está leyendo el modelo: %1, %2 de %3.</translation>
+    </message>
+    <message>
+        <source>The device has not answered for %1 seconds.</source>
+        <translation>El dispositivo no responde desde hace %1 segundos.</translation>
+    </message>
+    <message>
+        <source>The SCL file is not used: %1</source>
+        <translation>El archivo SCL no se usa: %1</translation>
+    </message>
+    <message>
+        <source>Reading the model was cancelled.</source>
+        <translation>Se ha cancelado la lectura del modelo.</translation>
+    </message>
+    <message>
+        <source>the value does not have the form of its type</source>
+        <translation>el valor no tiene la forma de su tipo</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no kind of report control block.</source>
+        <translation>«%1» no es un tipo de bloque de control de informes.</translation>
+    </message>
+    <message>
+        <source>A data set needs at least one member.</source>
+        <translation>Un conjunto de datos necesita al menos un miembro.</translation>
+    </message>
+    <message>
+        <source>There is no reference to be listed.</source>
+        <translation>No hay ninguna referencia que listar.</translation>
+    </message>
+    <message>
+        <source>Not connected to the device</source>
+        <translation>Sin conexión con el dispositivo</translation>
+    </message>
+    <message>
+        <source>There is no device %1 on this driver.</source>
+        <translation>No hay ningún dispositivo %1 en este controlador.</translation>
+    </message>
+    <message>
+        <source>The driver is read-only: nothing on %1 was changed.</source>
+        <translation>El controlador está en solo lectura: no se ha cambiado nada en %1.</translation>
+    </message>
+    <message>
+        <source>Device %1</source>
+        <translation>Dispositivo %1</translation>
+    </message>
+    <message>
+        <source>Its logical device &quot;%1&quot; is online already as part of %2; live values could not be told apart.</source>
+        <translation>Su dispositivo lógico «%1» ya está en línea como parte de %2; los valores en directo no se podrían distinguir.</translation>
+    </message>
+    <message>
+        <source>The capture cannot be written: %1</source>
+        <translation>No se puede escribir la captura: %1</translation>
+    </message>
+    <message>
+        <source>The values cannot be written: %1</source>
+        <translation>No se pueden escribir los valores: %1</translation>
+    </message>
+    <message>
+        <source>The device has no address.</source>
+        <translation>El dispositivo no tiene dirección.</translation>
+    </message>
+    <message>
+        <source>There is nothing to read.</source>
+        <translation>No hay nada que leer.</translation>
+    </message>
+    <message>
+        <source>The data set has %1 members, but %2 values came.</source>
+        <translation>El conjunto de datos tiene %1 miembros, pero han llegado %2 valores.</translation>
+    </message>
+    <message>
+        <source>%1: the value does not have the form of its type</source>
+        <translation>%1: el valor no tiene la forma de su tipo</translation>
+    </message>
+    <message>
+        <source>The device has no %1.</source>
+        <translation>El dispositivo no tiene %1.</translation>
+    </message>
+    <message>
+        <source>The value to be written cannot be read.</source>
+        <translation>No se puede leer el valor que se va a escribir.</translation>
     </message>
 </context>
 <context>
@@ -686,6 +920,29 @@ Apache License 2.0</translation>
     <message>
         <source>The picture &quot;%1&quot; cannot be saved.</source>
         <translation>No se puede guardar la imagen «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>ValueConversion</name>
+    <message>
+        <source>%1 does not fit %2.</source>
+        <translation>%1 no cabe en %2.</translation>
+    </message>
+    <message>
+        <source>%1 is no finite number.</source>
+        <translation>%1 no es un número finito.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds characters that %2 does not have.</source>
+        <translation>«%1» contiene caracteres que %2 no admite.</translation>
+    </message>
+    <message>
+        <source>There is no value to write.</source>
+        <translation>No hay ningún valor que escribir.</translation>
+    </message>
+    <message>
+        <source>A value of type %1 cannot be written as a whole.</source>
+        <translation>Un valor de tipo %1 no se puede escribir entero.</translation>
     </message>
 </context>
 <context>

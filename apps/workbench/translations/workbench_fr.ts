@@ -61,6 +61,121 @@
     </message>
 </context>
 <context>
+    <name>DeviceConfiguration</name>
+    <message>
+        <source>The %1 has %2 octets; at most %3 are possible.</source>
+        <translation>%1 : %2 octets, %3 au plus sont possibles.</translation>
+    </message>
+    <message>
+        <source>transport selector of the %1</source>
+        <translation>Sélecteur de transport (%1)</translation>
+    </message>
+    <message>
+        <source>session selector of the %1</source>
+        <translation>Sélecteur de session (%1)</translation>
+    </message>
+    <message>
+        <source>presentation selector of the %1</source>
+        <translation>Sélecteur de présentation (%1)</translation>
+    </message>
+    <message>
+        <source>The AP title &quot;%1&quot; of the %2 is no object identifier such as 1.1.1.999.1.</source>
+        <translation>Titre AP (%2) : « %1 » n'est pas un identificateur d'objet tel que 1.1.1.999.1.</translation>
+    </message>
+    <message>
+        <source>The AE qualifier of the %1 does not fit 32 bits.</source>
+        <translation>Qualificateur AE (%1) : ne tient pas sur 32 bits.</translation>
+    </message>
+    <message>
+        <source>The time-out for %1 must be from %2 to %3 milliseconds.</source>
+        <translation>Le délai d'attente pour %1 doit être compris entre %2 et %3 millisecondes.</translation>
+    </message>
+    <message>
+        <source>The %1 &quot;%2&quot; does not exist.</source>
+        <translation>Le %1 « %2 » n'existe pas.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has the wrong form.</source>
+        <translation>« %1 » a une forme incorrecte.</translation>
+    </message>
+    <message>
+        <source>The device's number must be from 1 to %1.</source>
+        <translation>Le numéro de l'équipement doit être compris entre 1 et %1.</translation>
+    </message>
+    <message>
+        <source>The device needs a name.</source>
+        <translation>L'équipement doit avoir un nom.</translation>
+    </message>
+    <message>
+        <source>The device needs an address or an SCL file.</source>
+        <translation>L'équipement doit avoir une adresse ou un fichier SCL.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no address or host name.</source>
+        <translation>« %1 » n'est ni une adresse ni un nom d'hôte.</translation>
+    </message>
+    <message>
+        <source>The port must be from 1 to 65535.</source>
+        <translation>Le port doit être compris entre 1 et 65535.</translation>
+    </message>
+    <message>
+        <source>SCL file</source>
+        <translation>fichier SCL</translation>
+    </message>
+    <message>
+        <source>client</source>
+        <translation>client</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>équipement</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>la connexion</translation>
+    </message>
+    <message>
+        <source>requests</source>
+        <translation>les requêtes</translation>
+    </message>
+    <message>
+        <source>operations</source>
+        <translation>les opérations</translation>
+    </message>
+    <message>
+        <source>The time-out for operations must not be shorter than the one for requests.</source>
+        <translation>Le délai d'attente pour les opérations ne doit pas être plus court que celui des requêtes.</translation>
+    </message>
+    <message>
+        <source>From 1 to %1 outstanding calls are possible.</source>
+        <translation>De 1 à %1 requêtes en attente sont possibles.</translation>
+    </message>
+    <message>
+        <source>The PDU size must be from %1 to %2 octets.</source>
+        <translation>La taille de PDU doit être comprise entre %1 et %2 octets.</translation>
+    </message>
+    <message>
+        <source>The polling interval must be 0 for none, or from %1 to %2 milliseconds.</source>
+        <translation>L'intervalle de scrutation doit être 0 (aucune) ou compris entre %1 et %2 millisecondes.</translation>
+    </message>
+    <message>
+        <source>From 1 to %1 outstanding file reads are possible.</source>
+        <translation>De 1 à %1 lectures de fichier en attente sont possibles.</translation>
+    </message>
+    <message>
+        <source>The originator category must be from 0 to %1.</source>
+        <translation>La catégorie de l'émetteur doit être comprise entre 0 et %1.</translation>
+    </message>
+    <message>
+        <source>The originator identification has %1 octets; at most %2 are possible.</source>
+        <translation>L'identification de l'émetteur a %1 octets ; %2 au plus sont possibles.</translation>
+    </message>
+    <message>
+        <source>Device %1 (%2)</source>
+        <translation>Équipement %1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>DeviceListModel</name>
     <message>
         <source>The demonstration device, a part of the workbench</source>
@@ -283,6 +398,125 @@
     <message>
         <source>This IED has no logical devices, so there is nothing to browse.</source>
         <translation>Cet IED n'a aucun dispositif logique ; il n'y a rien à parcourir.</translation>
+    </message>
+</context>
+<context>
+    <name>IedDriver</name>
+    <message>
+        <source>This driver does not offer the operation.</source>
+        <translation>Ce pilote n'offre pas cette opération.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1; and %2 more</source>
+        <translation>%1 ; et %2 autres</translation>
+    </message>
+    <message>
+        <source>Aborted by the operator.</source>
+        <translation>Interrompu par l'opérateur.</translation>
+    </message>
+    <message>
+        <source>The operation was cancelled.</source>
+        <translation>L'opération a été annulée.</translation>
+    </message>
+    <message>
+        <source>%1 has not finished the operation within %2 seconds.</source>
+        <translation>%1 n'a pas terminé l'opération en %2 secondes.</translation>
+    </message>
+    <message>
+        <source>%1 is not connected.</source>
+        <translation>%1 n'est pas connecté.</translation>
+    </message>
+    <message>
+        <source>%1 is not connected: %2.</source>
+        <translation>%1 n'est pas connecté : %2.</translation>
+    </message>
+    <message>
+        <source>The model of %1 is being read: %2 of %3.</source>
+        <translation>Le modèle est en cours de lecture : %1, %2 sur %3.</translation>
+    </message>
+    <message>
+        <source>The device has not answered for %1 seconds.</source>
+        <translation>L'équipement ne répond pas depuis %1 secondes.</translation>
+    </message>
+    <message>
+        <source>The SCL file is not used: %1</source>
+        <translation>Le fichier SCL n'est pas utilisé : %1</translation>
+    </message>
+    <message>
+        <source>Reading the model was cancelled.</source>
+        <translation>La lecture du modèle a été annulée.</translation>
+    </message>
+    <message>
+        <source>the value does not have the form of its type</source>
+        <translation>la valeur n'a pas la forme de son type</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no kind of report control block.</source>
+        <translation>« %1 » n'est pas un type de bloc de contrôle de rapport.</translation>
+    </message>
+    <message>
+        <source>A data set needs at least one member.</source>
+        <translation>Un ensemble de données doit avoir au moins un membre.</translation>
+    </message>
+    <message>
+        <source>There is no reference to be listed.</source>
+        <translation>Il n'y a aucune référence à lister.</translation>
+    </message>
+    <message>
+        <source>Not connected to the device</source>
+        <translation>Pas de connexion à l'équipement</translation>
+    </message>
+    <message>
+        <source>There is no device %1 on this driver.</source>
+        <translation>Il n'y a pas d'équipement %1 sur ce pilote.</translation>
+    </message>
+    <message>
+        <source>The driver is read-only: nothing on %1 was changed.</source>
+        <translation>Le pilote est en lecture seule : rien n'a été modifié sur %1.</translation>
+    </message>
+    <message>
+        <source>Device %1</source>
+        <translation>Équipement %1</translation>
+    </message>
+    <message>
+        <source>Its logical device &quot;%1&quot; is online already as part of %2; live values could not be told apart.</source>
+        <translation>Son dispositif logique « %1 » est déjà en ligne dans %2 ; les valeurs en direct ne pourraient pas être distinguées.</translation>
+    </message>
+    <message>
+        <source>The capture cannot be written: %1</source>
+        <translation>La capture ne peut pas être écrite : %1</translation>
+    </message>
+    <message>
+        <source>The values cannot be written: %1</source>
+        <translation>Les valeurs ne peuvent pas être écrites : %1</translation>
+    </message>
+    <message>
+        <source>The device has no address.</source>
+        <translation>L'équipement n'a pas d'adresse.</translation>
+    </message>
+    <message>
+        <source>There is nothing to read.</source>
+        <translation>Il n'y a rien à lire.</translation>
+    </message>
+    <message>
+        <source>The data set has %1 members, but %2 values came.</source>
+        <translation>L'ensemble de données a %1 membres, mais %2 valeurs sont arrivées.</translation>
+    </message>
+    <message>
+        <source>%1: the value does not have the form of its type</source>
+        <translation>%1 : la valeur n'a pas la forme de son type</translation>
+    </message>
+    <message>
+        <source>The device has no %1.</source>
+        <translation>L'équipement n'a pas %1.</translation>
+    </message>
+    <message>
+        <source>The value to be written cannot be read.</source>
+        <translation>La valeur à écrire ne peut pas être lue.</translation>
     </message>
 </context>
 <context>
@@ -686,6 +920,29 @@ Apache License 2.0</translation>
     <message>
         <source>The picture &quot;%1&quot; cannot be saved.</source>
         <translation>L'image « %1 » ne peut pas être enregistrée.</translation>
+    </message>
+</context>
+<context>
+    <name>ValueConversion</name>
+    <message>
+        <source>%1 does not fit %2.</source>
+        <translation>%1 ne tient pas dans %2.</translation>
+    </message>
+    <message>
+        <source>%1 is no finite number.</source>
+        <translation>%1 n'est pas un nombre fini.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds characters that %2 does not have.</source>
+        <translation>« %1 » contient des caractères que %2 n'admet pas.</translation>
+    </message>
+    <message>
+        <source>There is no value to write.</source>
+        <translation>Il n'y a pas de valeur à écrire.</translation>
+    </message>
+    <message>
+        <source>A value of type %1 cannot be written as a whole.</source>
+        <translation>Une valeur de type %1 ne peut pas être écrite en entier.</translation>
     </message>
 </context>
 <context>

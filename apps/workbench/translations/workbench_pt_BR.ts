@@ -61,6 +61,121 @@
     </message>
 </context>
 <context>
+    <name>DeviceConfiguration</name>
+    <message>
+        <source>The %1 has %2 octets; at most %3 are possible.</source>
+        <translation>%1: tem %2 octetos; são possíveis no máximo %3.</translation>
+    </message>
+    <message>
+        <source>transport selector of the %1</source>
+        <translation>Seletor de transporte (%1)</translation>
+    </message>
+    <message>
+        <source>session selector of the %1</source>
+        <translation>Seletor de sessão (%1)</translation>
+    </message>
+    <message>
+        <source>presentation selector of the %1</source>
+        <translation>Seletor de apresentação (%1)</translation>
+    </message>
+    <message>
+        <source>The AP title &quot;%1&quot; of the %2 is no object identifier such as 1.1.1.999.1.</source>
+        <translation>Título AP (%2): “%1” não é um identificador de objeto como 1.1.1.999.1.</translation>
+    </message>
+    <message>
+        <source>The AE qualifier of the %1 does not fit 32 bits.</source>
+        <translation>Qualificador AE (%1): não cabe em 32 bits.</translation>
+    </message>
+    <message>
+        <source>The time-out for %1 must be from %2 to %3 milliseconds.</source>
+        <translation>O tempo limite para %1 deve estar entre %2 e %3 milissegundos.</translation>
+    </message>
+    <message>
+        <source>The %1 &quot;%2&quot; does not exist.</source>
+        <translation>O %1 “%2” não existe.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has the wrong form.</source>
+        <translation>“%1” tem a forma incorreta.</translation>
+    </message>
+    <message>
+        <source>The device's number must be from 1 to %1.</source>
+        <translation>O número do dispositivo deve estar entre 1 e %1.</translation>
+    </message>
+    <message>
+        <source>The device needs a name.</source>
+        <translation>O dispositivo precisa de um nome.</translation>
+    </message>
+    <message>
+        <source>The device needs an address or an SCL file.</source>
+        <translation>O dispositivo precisa de um endereço ou de um arquivo SCL.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no address or host name.</source>
+        <translation>“%1” não é um endereço nem um nome de host.</translation>
+    </message>
+    <message>
+        <source>The port must be from 1 to 65535.</source>
+        <translation>A porta deve estar entre 1 e 65535.</translation>
+    </message>
+    <message>
+        <source>SCL file</source>
+        <translation>arquivo SCL</translation>
+    </message>
+    <message>
+        <source>client</source>
+        <translation>cliente</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>dispositivo</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>a conexão</translation>
+    </message>
+    <message>
+        <source>requests</source>
+        <translation>as requisições</translation>
+    </message>
+    <message>
+        <source>operations</source>
+        <translation>as operações</translation>
+    </message>
+    <message>
+        <source>The time-out for operations must not be shorter than the one for requests.</source>
+        <translation>O tempo limite para as operações não deve ser menor que o das requisições.</translation>
+    </message>
+    <message>
+        <source>From 1 to %1 outstanding calls are possible.</source>
+        <translation>São possíveis de 1 a %1 requisições pendentes.</translation>
+    </message>
+    <message>
+        <source>The PDU size must be from %1 to %2 octets.</source>
+        <translation>O tamanho da PDU deve estar entre %1 e %2 octetos.</translation>
+    </message>
+    <message>
+        <source>The polling interval must be 0 for none, or from %1 to %2 milliseconds.</source>
+        <translation>O intervalo de varredura deve ser 0 (nenhuma) ou estar entre %1 e %2 milissegundos.</translation>
+    </message>
+    <message>
+        <source>From 1 to %1 outstanding file reads are possible.</source>
+        <translation>São possíveis de 1 a %1 leituras de arquivo pendentes.</translation>
+    </message>
+    <message>
+        <source>The originator category must be from 0 to %1.</source>
+        <translation>A categoria do originador deve estar entre 0 e %1.</translation>
+    </message>
+    <message>
+        <source>The originator identification has %1 octets; at most %2 are possible.</source>
+        <translation>A identificação do originador tem %1 octetos; são possíveis no máximo %2.</translation>
+    </message>
+    <message>
+        <source>Device %1 (%2)</source>
+        <translation>Dispositivo %1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>DeviceListModel</name>
     <message>
         <source>The demonstration device, a part of the workbench</source>
@@ -283,6 +398,125 @@
     <message>
         <source>This IED has no logical devices, so there is nothing to browse.</source>
         <translation>Este IED não tem dispositivos lógicos, portanto não há nada a explorar.</translation>
+    </message>
+</context>
+<context>
+    <name>IedDriver</name>
+    <message>
+        <source>This driver does not offer the operation.</source>
+        <translation>Este driver não oferece a operação.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1; and %2 more</source>
+        <translation>%1; e mais %2</translation>
+    </message>
+    <message>
+        <source>Aborted by the operator.</source>
+        <translation>Interrompido pelo operador.</translation>
+    </message>
+    <message>
+        <source>The operation was cancelled.</source>
+        <translation>A operação foi cancelada.</translation>
+    </message>
+    <message>
+        <source>%1 has not finished the operation within %2 seconds.</source>
+        <translation>%1 não concluiu a operação em %2 segundos.</translation>
+    </message>
+    <message>
+        <source>%1 is not connected.</source>
+        <translation>%1 não está conectado.</translation>
+    </message>
+    <message>
+        <source>%1 is not connected: %2.</source>
+        <translation>%1 não está conectado: %2.</translation>
+    </message>
+    <message>
+        <source>The model of %1 is being read: %2 of %3.</source>
+        <translation>O modelo está sendo lido: %1, %2 de %3.</translation>
+    </message>
+    <message>
+        <source>The device has not answered for %1 seconds.</source>
+        <translation>O dispositivo não responde há %1 segundos.</translation>
+    </message>
+    <message>
+        <source>The SCL file is not used: %1</source>
+        <translation>O arquivo SCL não é usado: %1</translation>
+    </message>
+    <message>
+        <source>Reading the model was cancelled.</source>
+        <translation>A leitura do modelo foi cancelada.</translation>
+    </message>
+    <message>
+        <source>the value does not have the form of its type</source>
+        <translation>o valor não tem a forma do seu tipo</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no kind of report control block.</source>
+        <translation>“%1” não é um tipo de bloco de controle de relatório.</translation>
+    </message>
+    <message>
+        <source>A data set needs at least one member.</source>
+        <translation>Um conjunto de dados precisa de pelo menos um membro.</translation>
+    </message>
+    <message>
+        <source>There is no reference to be listed.</source>
+        <translation>Não há referência a listar.</translation>
+    </message>
+    <message>
+        <source>Not connected to the device</source>
+        <translation>Sem conexão com o dispositivo</translation>
+    </message>
+    <message>
+        <source>There is no device %1 on this driver.</source>
+        <translation>Não há dispositivo %1 neste driver.</translation>
+    </message>
+    <message>
+        <source>The driver is read-only: nothing on %1 was changed.</source>
+        <translation>O driver está em modo somente leitura: nada foi alterado em %1.</translation>
+    </message>
+    <message>
+        <source>Device %1</source>
+        <translation>Dispositivo %1</translation>
+    </message>
+    <message>
+        <source>Its logical device &quot;%1&quot; is online already as part of %2; live values could not be told apart.</source>
+        <translation>O seu dispositivo lógico “%1” já está online como parte de %2; os valores ao vivo não poderiam ser distinguidos.</translation>
+    </message>
+    <message>
+        <source>The capture cannot be written: %1</source>
+        <translation>A captura não pode ser gravada: %1</translation>
+    </message>
+    <message>
+        <source>The values cannot be written: %1</source>
+        <translation>Os valores não podem ser gravados: %1</translation>
+    </message>
+    <message>
+        <source>The device has no address.</source>
+        <translation>O dispositivo não tem endereço.</translation>
+    </message>
+    <message>
+        <source>There is nothing to read.</source>
+        <translation>Não há nada a ler.</translation>
+    </message>
+    <message>
+        <source>The data set has %1 members, but %2 values came.</source>
+        <translation>O conjunto de dados tem %1 membros, mas chegaram %2 valores.</translation>
+    </message>
+    <message>
+        <source>%1: the value does not have the form of its type</source>
+        <translation>%1: o valor não tem a forma do seu tipo</translation>
+    </message>
+    <message>
+        <source>The device has no %1.</source>
+        <translation>O dispositivo não tem %1.</translation>
+    </message>
+    <message>
+        <source>The value to be written cannot be read.</source>
+        <translation>O valor a escrever não pode ser lido.</translation>
     </message>
 </context>
 <context>
@@ -686,6 +920,29 @@ Apache License 2.0</translation>
     <message>
         <source>The picture &quot;%1&quot; cannot be saved.</source>
         <translation>A imagem “%1” não pode ser salva.</translation>
+    </message>
+</context>
+<context>
+    <name>ValueConversion</name>
+    <message>
+        <source>%1 does not fit %2.</source>
+        <translation>%1 não cabe em %2.</translation>
+    </message>
+    <message>
+        <source>%1 is no finite number.</source>
+        <translation>%1 não é um número finito.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds characters that %2 does not have.</source>
+        <translation>“%1” contém caracteres que %2 não admite.</translation>
+    </message>
+    <message>
+        <source>There is no value to write.</source>
+        <translation>Não há valor a escrever.</translation>
+    </message>
+    <message>
+        <source>A value of type %1 cannot be written as a whole.</source>
+        <translation>Um valor do tipo %1 não pode ser escrito inteiro.</translation>
     </message>
 </context>
 <context>

@@ -61,6 +61,121 @@
     </message>
 </context>
 <context>
+    <name>DeviceConfiguration</name>
+    <message>
+        <source>The %1 has %2 octets; at most %3 are possible.</source>
+        <translation>%1: %2 октетов, допустимо не более %3.</translation>
+    </message>
+    <message>
+        <source>transport selector of the %1</source>
+        <translation>Селектор транспортного уровня (%1)</translation>
+    </message>
+    <message>
+        <source>session selector of the %1</source>
+        <translation>Селектор сеансового уровня (%1)</translation>
+    </message>
+    <message>
+        <source>presentation selector of the %1</source>
+        <translation>Селектор уровня представления (%1)</translation>
+    </message>
+    <message>
+        <source>The AP title &quot;%1&quot; of the %2 is no object identifier such as 1.1.1.999.1.</source>
+        <translation>Заголовок AP (%2): «%1» не является идентификатором объекта вида 1.1.1.999.1.</translation>
+    </message>
+    <message>
+        <source>The AE qualifier of the %1 does not fit 32 bits.</source>
+        <translation>Квалификатор AE (%1): не помещается в 32 бита.</translation>
+    </message>
+    <message>
+        <source>The time-out for %1 must be from %2 to %3 milliseconds.</source>
+        <translation>Предел времени (%1) должен быть от %2 до %3 миллисекунд.</translation>
+    </message>
+    <message>
+        <source>The %1 &quot;%2&quot; does not exist.</source>
+        <translation>%1 «%2» не существует.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has the wrong form.</source>
+        <translation>«%1» имеет неверный вид.</translation>
+    </message>
+    <message>
+        <source>The device's number must be from 1 to %1.</source>
+        <translation>Номер устройства должен быть от 1 до %1.</translation>
+    </message>
+    <message>
+        <source>The device needs a name.</source>
+        <translation>Устройству нужно имя.</translation>
+    </message>
+    <message>
+        <source>The device needs an address or an SCL file.</source>
+        <translation>Устройству нужен адрес или файл SCL.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no address or host name.</source>
+        <translation>«%1» не является адресом или именем узла.</translation>
+    </message>
+    <message>
+        <source>The port must be from 1 to 65535.</source>
+        <translation>Порт должен быть от 1 до 65535.</translation>
+    </message>
+    <message>
+        <source>SCL file</source>
+        <translation>Файл SCL</translation>
+    </message>
+    <message>
+        <source>client</source>
+        <translation>клиент</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>устройство</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>установление связи</translation>
+    </message>
+    <message>
+        <source>requests</source>
+        <translation>запросы</translation>
+    </message>
+    <message>
+        <source>operations</source>
+        <translation>операции</translation>
+    </message>
+    <message>
+        <source>The time-out for operations must not be shorter than the one for requests.</source>
+        <translation>Предел времени для операций не должен быть меньше, чем для запросов.</translation>
+    </message>
+    <message>
+        <source>From 1 to %1 outstanding calls are possible.</source>
+        <translation>Одновременно ожидающих запросов может быть от 1 до %1.</translation>
+    </message>
+    <message>
+        <source>The PDU size must be from %1 to %2 octets.</source>
+        <translation>Размер PDU должен быть от %1 до %2 октетов.</translation>
+    </message>
+    <message>
+        <source>The polling interval must be 0 for none, or from %1 to %2 milliseconds.</source>
+        <translation>Интервал опроса должен быть 0 (без опроса) или от %1 до %2 миллисекунд.</translation>
+    </message>
+    <message>
+        <source>From 1 to %1 outstanding file reads are possible.</source>
+        <translation>Одновременно ожидающих чтений файла может быть от 1 до %1.</translation>
+    </message>
+    <message>
+        <source>The originator category must be from 0 to %1.</source>
+        <translation>Категория инициатора должна быть от 0 до %1.</translation>
+    </message>
+    <message>
+        <source>The originator identification has %1 octets; at most %2 are possible.</source>
+        <translation>Идентификатор инициатора содержит %1 октетов, допустимо не более %2.</translation>
+    </message>
+    <message>
+        <source>Device %1 (%2)</source>
+        <translation>Устройство %1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>DeviceListModel</name>
     <message>
         <source>The demonstration device, a part of the workbench</source>
@@ -283,6 +398,125 @@
     <message>
         <source>This IED has no logical devices, so there is nothing to browse.</source>
         <translation>В этом ИЭУ нет логических устройств, просматривать нечего.</translation>
+    </message>
+</context>
+<context>
+    <name>IedDriver</name>
+    <message>
+        <source>This driver does not offer the operation.</source>
+        <translation>Этот драйвер не поддерживает данную операцию.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1; and %2 more</source>
+        <translation>%1; и ещё %2</translation>
+    </message>
+    <message>
+        <source>Aborted by the operator.</source>
+        <translation>Прервано оператором.</translation>
+    </message>
+    <message>
+        <source>The operation was cancelled.</source>
+        <translation>Операция отменена.</translation>
+    </message>
+    <message>
+        <source>%1 has not finished the operation within %2 seconds.</source>
+        <translation>%1: операция не завершена за %2 с.</translation>
+    </message>
+    <message>
+        <source>%1 is not connected.</source>
+        <translation>%1: нет связи.</translation>
+    </message>
+    <message>
+        <source>%1 is not connected: %2.</source>
+        <translation>%1: нет связи: %2.</translation>
+    </message>
+    <message>
+        <source>The model of %1 is being read: %2 of %3.</source>
+        <translation>Модель читается: %1, %2 из %3.</translation>
+    </message>
+    <message>
+        <source>The device has not answered for %1 seconds.</source>
+        <translation>Устройство не отвечает уже %1 с.</translation>
+    </message>
+    <message>
+        <source>The SCL file is not used: %1</source>
+        <translation>Файл SCL не используется: %1</translation>
+    </message>
+    <message>
+        <source>Reading the model was cancelled.</source>
+        <translation>Чтение модели отменено.</translation>
+    </message>
+    <message>
+        <source>the value does not have the form of its type</source>
+        <translation>значение не соответствует своему типу</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no kind of report control block.</source>
+        <translation>«%1» не является видом блока управления отчётом.</translation>
+    </message>
+    <message>
+        <source>A data set needs at least one member.</source>
+        <translation>В наборе данных должен быть хотя бы один элемент.</translation>
+    </message>
+    <message>
+        <source>There is no reference to be listed.</source>
+        <translation>Не указано ссылок для перечисления.</translation>
+    </message>
+    <message>
+        <source>Not connected to the device</source>
+        <translation>Нет связи с устройством</translation>
+    </message>
+    <message>
+        <source>There is no device %1 on this driver.</source>
+        <translation>На этом драйвере нет устройства %1.</translation>
+    </message>
+    <message>
+        <source>The driver is read-only: nothing on %1 was changed.</source>
+        <translation>Драйвер в режиме «только чтение»: ничего не изменено: %1.</translation>
+    </message>
+    <message>
+        <source>Device %1</source>
+        <translation>Устройство %1</translation>
+    </message>
+    <message>
+        <source>Its logical device &quot;%1&quot; is online already as part of %2; live values could not be told apart.</source>
+        <translation>Его логическое устройство «%1» уже на связи в составе «%2»; текущие значения нельзя было бы различить.</translation>
+    </message>
+    <message>
+        <source>The capture cannot be written: %1</source>
+        <translation>Запись обмена не удаётся сохранить: %1</translation>
+    </message>
+    <message>
+        <source>The values cannot be written: %1</source>
+        <translation>Значения не удаётся сохранить: %1</translation>
+    </message>
+    <message>
+        <source>The device has no address.</source>
+        <translation>У устройства нет адреса.</translation>
+    </message>
+    <message>
+        <source>There is nothing to read.</source>
+        <translation>Читать нечего.</translation>
+    </message>
+    <message>
+        <source>The data set has %1 members, but %2 values came.</source>
+        <translation>Элементов в наборе данных: %1, а значений получено: %2.</translation>
+    </message>
+    <message>
+        <source>%1: the value does not have the form of its type</source>
+        <translation>%1: значение не соответствует своему типу</translation>
+    </message>
+    <message>
+        <source>The device has no %1.</source>
+        <translation>В устройстве нет %1.</translation>
+    </message>
+    <message>
+        <source>The value to be written cannot be read.</source>
+        <translation>Записываемое значение не читается.</translation>
     </message>
 </context>
 <context>
@@ -686,6 +920,29 @@ Apache License 2.0</translation>
     <message>
         <source>The picture &quot;%1&quot; cannot be saved.</source>
         <translation>Снимок «%1» не удаётся сохранить.</translation>
+    </message>
+</context>
+<context>
+    <name>ValueConversion</name>
+    <message>
+        <source>%1 does not fit %2.</source>
+        <translation>%1 не подходит для %2.</translation>
+    </message>
+    <message>
+        <source>%1 is no finite number.</source>
+        <translation>%1 не является конечным числом.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds characters that %2 does not have.</source>
+        <translation>«%1» содержит символы, недопустимые для %2.</translation>
+    </message>
+    <message>
+        <source>There is no value to write.</source>
+        <translation>Нет значения для записи.</translation>
+    </message>
+    <message>
+        <source>A value of type %1 cannot be written as a whole.</source>
+        <translation>Значение типа %1 нельзя записать целиком.</translation>
     </message>
 </context>
 <context>

@@ -61,6 +61,121 @@
     </message>
 </context>
 <context>
+    <name>DeviceConfiguration</name>
+    <message>
+        <source>The %1 has %2 octets; at most %3 are possible.</source>
+        <translation>%1：长度为 %2 个八位字节，最多 %3 个。</translation>
+    </message>
+    <message>
+        <source>transport selector of the %1</source>
+        <translation>传输选择符（%1）</translation>
+    </message>
+    <message>
+        <source>session selector of the %1</source>
+        <translation>会话选择符（%1）</translation>
+    </message>
+    <message>
+        <source>presentation selector of the %1</source>
+        <translation>表示选择符（%1）</translation>
+    </message>
+    <message>
+        <source>The AP title &quot;%1&quot; of the %2 is no object identifier such as 1.1.1.999.1.</source>
+        <translation>AP 标题（%2）：“%1”不是 1.1.1.999.1 形式的对象标识符。</translation>
+    </message>
+    <message>
+        <source>The AE qualifier of the %1 does not fit 32 bits.</source>
+        <translation>AE 限定符（%1）：超出 32 位。</translation>
+    </message>
+    <message>
+        <source>The time-out for %1 must be from %2 to %3 milliseconds.</source>
+        <translation>%1超时必须为 %2 到 %3 毫秒。</translation>
+    </message>
+    <message>
+        <source>The %1 &quot;%2&quot; does not exist.</source>
+        <translation>%1“%2”不存在。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has the wrong form.</source>
+        <translation>“%1”的形式不正确。</translation>
+    </message>
+    <message>
+        <source>The device's number must be from 1 to %1.</source>
+        <translation>设备编号必须为 1 到 %1。</translation>
+    </message>
+    <message>
+        <source>The device needs a name.</source>
+        <translation>设备需要一个名称。</translation>
+    </message>
+    <message>
+        <source>The device needs an address or an SCL file.</source>
+        <translation>设备需要地址或 SCL 文件。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no address or host name.</source>
+        <translation>“%1”既不是地址也不是主机名。</translation>
+    </message>
+    <message>
+        <source>The port must be from 1 to 65535.</source>
+        <translation>端口必须为 1 到 65535。</translation>
+    </message>
+    <message>
+        <source>SCL file</source>
+        <translation>SCL 文件</translation>
+    </message>
+    <message>
+        <source>client</source>
+        <translation>客户端</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>requests</source>
+        <translation>请求</translation>
+    </message>
+    <message>
+        <source>operations</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>The time-out for operations must not be shorter than the one for requests.</source>
+        <translation>操作超时不得短于请求超时。</translation>
+    </message>
+    <message>
+        <source>From 1 to %1 outstanding calls are possible.</source>
+        <translation>未决请求数可以是 1 到 %1。</translation>
+    </message>
+    <message>
+        <source>The PDU size must be from %1 to %2 octets.</source>
+        <translation>PDU 大小必须为 %1 到 %2 个八位字节。</translation>
+    </message>
+    <message>
+        <source>The polling interval must be 0 for none, or from %1 to %2 milliseconds.</source>
+        <translation>轮询间隔必须为 0（不轮询），或 %1 到 %2 毫秒。</translation>
+    </message>
+    <message>
+        <source>From 1 to %1 outstanding file reads are possible.</source>
+        <translation>未决的文件读取数可以是 1 到 %1。</translation>
+    </message>
+    <message>
+        <source>The originator category must be from 0 to %1.</source>
+        <translation>源发者类别必须为 0 到 %1。</translation>
+    </message>
+    <message>
+        <source>The originator identification has %1 octets; at most %2 are possible.</source>
+        <translation>源发者标识长度为 %1 个八位字节，最多 %2 个。</translation>
+    </message>
+    <message>
+        <source>Device %1 (%2)</source>
+        <translation>设备 %1（%2）</translation>
+    </message>
+</context>
+<context>
     <name>DeviceListModel</name>
     <message>
         <source>The demonstration device, a part of the workbench</source>
@@ -283,6 +398,125 @@
     <message>
         <source>This IED has no logical devices, so there is nothing to browse.</source>
         <translation>此 IED 没有逻辑设备，因此没有可浏览的内容。</translation>
+    </message>
+</context>
+<context>
+    <name>IedDriver</name>
+    <message>
+        <source>This driver does not offer the operation.</source>
+        <translation>此驱动程序不提供该操作。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1; and %2 more</source>
+        <translation>%1；另有 %2 项</translation>
+    </message>
+    <message>
+        <source>Aborted by the operator.</source>
+        <translation>操作员已中止。</translation>
+    </message>
+    <message>
+        <source>The operation was cancelled.</source>
+        <translation>操作已取消。</translation>
+    </message>
+    <message>
+        <source>%1 has not finished the operation within %2 seconds.</source>
+        <translation>%1 未在 %2 秒内完成操作。</translation>
+    </message>
+    <message>
+        <source>%1 is not connected.</source>
+        <translation>%1 未连接。</translation>
+    </message>
+    <message>
+        <source>%1 is not connected: %2.</source>
+        <translation>%1 未连接：%2。</translation>
+    </message>
+    <message>
+        <source>The model of %1 is being read: %2 of %3.</source>
+        <translation>正在读取模型：%1，%2/%3。</translation>
+    </message>
+    <message>
+        <source>The device has not answered for %1 seconds.</source>
+        <translation>设备已 %1 秒没有应答。</translation>
+    </message>
+    <message>
+        <source>The SCL file is not used: %1</source>
+        <translation>未使用 SCL 文件：%1</translation>
+    </message>
+    <message>
+        <source>Reading the model was cancelled.</source>
+        <translation>模型读取已取消。</translation>
+    </message>
+    <message>
+        <source>the value does not have the form of its type</source>
+        <translation>值的形式与其类型不符</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no kind of report control block.</source>
+        <translation>“%1”不是报告控制块的类型。</translation>
+    </message>
+    <message>
+        <source>A data set needs at least one member.</source>
+        <translation>数据集至少需要一个成员。</translation>
+    </message>
+    <message>
+        <source>There is no reference to be listed.</source>
+        <translation>没有要列出的引用。</translation>
+    </message>
+    <message>
+        <source>Not connected to the device</source>
+        <translation>未连接到设备</translation>
+    </message>
+    <message>
+        <source>There is no device %1 on this driver.</source>
+        <translation>此驱动程序上没有设备 %1。</translation>
+    </message>
+    <message>
+        <source>The driver is read-only: nothing on %1 was changed.</source>
+        <translation>驱动程序为只读：未更改 %1 上的任何内容。</translation>
+    </message>
+    <message>
+        <source>Device %1</source>
+        <translation>设备 %1</translation>
+    </message>
+    <message>
+        <source>Its logical device &quot;%1&quot; is online already as part of %2; live values could not be told apart.</source>
+        <translation>其逻辑设备“%1”已作为 %2 的一部分在线；实时值将无法区分。</translation>
+    </message>
+    <message>
+        <source>The capture cannot be written: %1</source>
+        <translation>无法写入抓包文件：%1</translation>
+    </message>
+    <message>
+        <source>The values cannot be written: %1</source>
+        <translation>无法写入值：%1</translation>
+    </message>
+    <message>
+        <source>The device has no address.</source>
+        <translation>设备没有地址。</translation>
+    </message>
+    <message>
+        <source>There is nothing to read.</source>
+        <translation>没有可读取的内容。</translation>
+    </message>
+    <message>
+        <source>The data set has %1 members, but %2 values came.</source>
+        <translation>数据集有 %1 个成员，但收到了 %2 个值。</translation>
+    </message>
+    <message>
+        <source>%1: the value does not have the form of its type</source>
+        <translation>%1：值的形式与其类型不符</translation>
+    </message>
+    <message>
+        <source>The device has no %1.</source>
+        <translation>设备没有 %1。</translation>
+    </message>
+    <message>
+        <source>The value to be written cannot be read.</source>
+        <translation>无法读取要写入的值。</translation>
     </message>
 </context>
 <context>
@@ -686,6 +920,29 @@ Apache License 2.0</translation>
     <message>
         <source>The picture &quot;%1&quot; cannot be saved.</source>
         <translation>无法保存图片“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>ValueConversion</name>
+    <message>
+        <source>%1 does not fit %2.</source>
+        <translation>%1 不符合 %2。</translation>
+    </message>
+    <message>
+        <source>%1 is no finite number.</source>
+        <translation>%1 不是有限数。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds characters that %2 does not have.</source>
+        <translation>“%1”含有 %2 不允许的字符。</translation>
+    </message>
+    <message>
+        <source>There is no value to write.</source>
+        <translation>没有要写入的值。</translation>
+    </message>
+    <message>
+        <source>A value of type %1 cannot be written as a whole.</source>
+        <translation>类型为 %1 的值不能整体写入。</translation>
     </message>
 </context>
 <context>
