@@ -526,7 +526,7 @@ asio::awaitable<QString> DeviceConnection::associate()
 asio::awaitable<void> DeviceConnection::beOnline(ClientPointer client)
 {
     m_modelReady = true;
-    setState(DeviceState::Online, m_fileProblem);
+    setState(DeviceState::Online, problems());
     for (const auto &part : m_parts) {
         if (client->isOpen())
             co_await part.second->opened();
@@ -619,7 +619,7 @@ asio::awaitable<QString> DeviceConnection::getReady(ClientPointer client)
 
     const QString problem = loadFile();
     if (!problem.isEmpty())
-        m_fileProblem = Texts::tr("The SCL file is not used: %1").arg(problem);
+        setProblem(QStringLiteral("SCL"), Texts::tr("The SCL file is not used: %1").arg(problem));
 
     const mms::Result<QByteArray> print = co_await fingerprint(client, *domains);
     if (!print)
@@ -766,10 +766,9 @@ asio::awaitable<void> DeviceConnection::readBlocks(ClientPointer client)
         if (blocks[i].block) {
             const mms::Result<acsi::ReportBlock> read = acsi::reportBlockFrom(*type, value.data());
             if (read) {
-                DiscoveredModel::setSettings(*blocks[i].block, *read,
-                                             DiscoveredModel::blockOf(m_fromFile.get(),
-                                                                      blocks[i].device,
-                                                                      blocks[i].block->reference));
+                DiscoveredModel::setSettings(
+                    *blocks[i].block, *read,
+                    configuredBlock(blocks[i].device, blocks[i].block->reference));
             }
         } else {
             DiscoveredModel::setGroups(*blocks[i].node->settingGroup, *type, value.data());
@@ -897,8 +896,8 @@ bool DeviceConnection::publish(const acsi::Reference &reference, const mms::Data
         MMSValue record;
         record.value = std::move(value);
         record.reference = leaf.attribute->reference;
-        if (leaf.quality)
-            record.quality = ValueConversion::qualityText(*leaf.quality);
+        if (const mms::Data *quality = leaf.quality ? leaf.quality : publication.quality)
+            record.quality = ValueConversion::qualityText(*quality);
         if (const mms::Data *time = leaf.time ? leaf.time : publication.time)
             record.timeStamp = ValueConversion::timeText(*time);
         record.deviceNo = m_configuration.number;
@@ -951,6 +950,29 @@ void DeviceConnection::setReported(const QString &source,
     members.clear();
     for (const acsi::Reference &reference : references)
         members.push_back(acsi::toText(reference));
+}
+
+QString DeviceConnection::problems() const
+{
+    return QStringList(m_problems.values()).join(QLatin1Char(' '));
+}
+
+void DeviceConnection::setProblem(const QString &source, const QString &sentence)
+{
+    if (m_problems.value(source) == sentence)
+        return;
+    if (sentence.isEmpty())
+        m_problems.remove(source);
+    else
+        m_problems.insert(source, sentence);
+    if (m_modelReady)
+        updateStatus([this](DeviceStatus &status) { status.reason = problems(); });
+}
+
+const ReportControlBlock *DeviceConnection::configuredBlock(const QString &logicalDevice,
+                                                            const QString &reference) const
+{
+    return DiscoveredModel::blockOf(m_fromFile.get(), logicalDevice, reference);
 }
 
 void DeviceConnection::journal(DeviceChange change)

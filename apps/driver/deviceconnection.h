@@ -16,7 +16,7 @@
 #include <asio/steady_timer.hpp>
 #include <asio/strand.hpp>
 
-#include <QtCore/QSet>
+#include <QtCore/QMap>
 
 #include <atomic>
 #include <functional>
@@ -70,6 +70,8 @@ struct ConnectionEnvironment
     /// device has one of them, otherwise empty.
     std::function<QString(int number, const QStringList &logicalDevices)> claim;
     std::function<void(int number)> release;
+    /// Whether nothing may be changed on devices at present.
+    std::function<bool()> isReadOnly;
     /// Folder of the descriptions that devices gave of themselves; empty for none.
     QString cacheFolder;
 };
@@ -150,7 +152,9 @@ public:
     {
         std::uint32_t cause = PublishCause::Read;
         bool onlyChanges = false;        ///< leave out values that are known already
-        const mms::Data *time = nullptr; ///< of a report, for values without a time of their own
+        /// For values without a time, or a quality, of their own.
+        const mms::Data *time = nullptr;
+        const mms::Data *quality = nullptr;
     };
     /// Takes the data apart, keeps the values in the model and publishes them. False when the data
     /// does not fit the live type.
@@ -164,6 +168,18 @@ public:
     /// Reads the variables and publishes what came; one sentence names those that failed.
     asio::awaitable<Outcome> readAndPublish(std::vector<acsi::Reference> references,
                                             Publication publication);
+
+    /// Something of the device does not work though it is online; one sentence for the operator,
+    /// shown as the reason of the device's state. An empty one takes it away.
+    void setProblem(const QString &source, const QString &sentence);
+
+    /// The block as the device's SCL file configures it; null when it does not, or without a file.
+    const ReportControlBlock *configuredBlock(const QString &logicalDevice,
+                                              const QString &reference) const;
+    bool isReadOnly() const { return m_environment.isReadOnly && m_environment.isReadOnly(); }
+    bool isWanted() const { return m_wanted; }
+    /// Returns after the time or sooner, whenever something has changed.
+    asio::awaitable<void> pause(std::chrono::milliseconds time);
 
     /// Tells the host's journal. Time, number and device are filled in.
     void journal(DeviceChange change);
@@ -206,12 +222,12 @@ private:
                                      const std::vector<acsi::FunctionalConstraint> &constraints,
                                      Publication publication);
     asio::awaitable<void> republish();
-    asio::awaitable<void> pause(std::chrono::milliseconds time);
     asio::awaitable<Outcome> waitFor(Need need, Deadline deadline);
     std::vector<acsi::Reference> polled(acsi::FunctionalConstraint constraint) const;
 
     void connectInStrand();
     QString loadFile();
+    QString problems() const;
     void setState(DeviceState state, const QString &reason = {});
     void updateStatus(const std::function<void(DeviceStatus &)> &change);
     void wake();
@@ -229,9 +245,9 @@ private:
     QByteArray m_fingerprint; ///< of the device when the model was read
     std::unique_ptr<PhysicalDevice> m_fromFile;
     bool m_fileRead = false;
-    QString m_fileProblem;
     std::map<std::type_index, std::unique_ptr<AssociationPart>> m_parts;
     QHash<QString, std::vector<std::string>> m_reported; ///< by source
+    QMap<QString, QString> m_problems;                   ///< by source
     std::set<std::string> m_inParts; ///< nodes' constraints that have to be read in parts
     std::set<std::string> m_refused; ///< data that the device does not hand out
     std::shared_ptr<std::atomic<bool>> m_readingCancelled;

@@ -76,6 +76,7 @@ void IedDriver::Runtime::setDevice(const DeviceConfiguration &configuration)
             return claim(number, names);
         };
         environment.release = [this](int number) { release(number); };
+        environment.isReadOnly = [this] { return isReadOnly(); };
         environment.cacheFolder = m_options.cacheFolder;
         created = DeviceConnection::create(m_context.get_executor(), configuration,
                                            std::move(environment));

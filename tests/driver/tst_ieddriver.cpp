@@ -277,7 +277,7 @@ void tst_IedDriver::aSilentDeviceIsNoticedAndConnectedAgain()
 
 void tst_IedDriver::anOperationOnASilentDeviceEndsInTime()
 {
-    SimulatedIed ied(station, {}, "ignore on getNameList after 30\n");
+    SimulatedIed ied(station, {}, "ignore on getNameList from 31\n");
     Listener listener;
     IedDriver driver(listener.options());
     DeviceConfiguration configuration = configurationFor(ied);
