@@ -203,7 +203,6 @@ class Server:
     def __init__(self, options):
         self.model = Model(options["scl"])
         self.kept = []  # handlers must outlive the server
-        self.edited = {}
         config = function("IedServerConfig_create", POINTER)()
         set_bool = lambda name, value: function(name, None, POINTER, BOOL)(config, value)
         set_bool("IedServerConfig_enableFileService", True)
@@ -276,7 +275,6 @@ class Server:
     def serve_groups(self):
         for device, block in self.model.groups.items():
             settings = self.model.settings.get(device, {})
-            edited = {}
 
             def activate(_parameter, _block, group, _connection, settings=settings):
                 for reference, values in settings.items():
@@ -293,13 +291,12 @@ class Server:
                     pointer, _ = self.attribute(reference, "SE")
                     values[group - 1] = to_json(attribute_value(self.server, pointer))
 
-            function("IedServer_setActiveSettingGroupChangedHandler", None, POINTER, GroupHandler,
-                     POINTER, POINTER)(self.server, self.keep(GroupHandler(activate)), block, None)
-            function("IedServer_setEditSettingGroupChangedHandler", None, POINTER, GroupHandler,
-                     POINTER, POINTER)(self.server, self.keep(GroupHandler(edit)), block, None)
-            function("IedServer_setEditSettingGroupConfirmationHandler", None, POINTER,
-                     GroupConfirmed, POINTER, POINTER)(
-                         self.server, self.keep(GroupConfirmed(confirm)), block, None)
+            for name, kind, handler in (
+                    ("setActiveSettingGroupChangedHandler", GroupHandler, activate),
+                    ("setEditSettingGroupChangedHandler", GroupHandler, edit),
+                    ("setEditSettingGroupConfirmationHandler", GroupConfirmed, confirm)):
+                function("IedServer_" + name, None, POINTER, POINTER, kind, POINTER)(
+                    self.server, block, self.keep(kind(handler)), None)
 
     def ask_password(self, password):
         mechanism = function("AcseAuthenticationParameter_getAuthMechanism", INT, POINTER)
