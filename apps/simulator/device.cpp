@@ -213,6 +213,12 @@ void Device::closed(const std::shared_ptr<mms::Association> &association, const 
     m_dataSets.forget(*client.mapped());
 }
 
+void Device::refused(const std::string &reason)
+{
+    if (m_options.refused)
+        m_options.refused(reason);
+}
+
 void Device::request(const std::shared_ptr<mms::Association> &association, std::uint32_t invokeId,
                      mms::RequestService request)
 {

@@ -27,6 +27,8 @@ struct DeviceOptions
     std::shared_ptr<FileService> files;
     /// Control blocks have the attributes of the first edition of the standard only.
     bool firstEdition = false;
+    /// Hears why a connection did not become an association, one sentence. In the device's strand.
+    std::function<void(const std::string &reason)> refused;
     /// Empty texts are taken from the SCL description.
     Identity identity;
 };
@@ -75,6 +77,7 @@ public:
                  mms::RequestService request) override;
     void closed(const std::shared_ptr<mms::Association> &association,
                 const std::string &reason) override;
+    void refused(const std::string &reason) override;
 
 private:
     class AssociationClient;

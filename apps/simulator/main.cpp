@@ -76,9 +76,9 @@ bool read(const CommandLine &commandLine, std::vector<Described> &described)
     for (const std::string &file : commandLine.files) {
         scl::ReadResult result = scl::readFile(file);
         if (!result.document) {
-            const std::string line =
-                result.errorLine > 0 ? ":" + std::to_string(result.errorLine) : std::string();
-            complain(file + line + ": " + result.errorText);
+            complain(result.errorLine > 0
+                         ? file + ":" + std::to_string(result.errorLine) + ": " + result.errorText
+                         : result.errorText);
             return false;
         }
         const auto error = std::ranges::find(result.document->findings, scl::Severity::Error,

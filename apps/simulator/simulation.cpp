@@ -118,6 +118,11 @@ mms::Result<SimulatedDevice> simulate(asio::any_io_executor executor, const scl:
             return std::move(faults).error();
         link.interference = (*faults)->interference();
     }
+    if (options.log) {
+        device.refused = [log = options.log](const std::string &reason) {
+            log("connection refused: " + reason);
+        };
+    }
     SimulatedDevice result;
     result.device = Device::create(std::move(executor), ied, std::move(device));
     *target = result.device;

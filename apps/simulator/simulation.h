@@ -32,7 +32,8 @@ struct SimulationOptions
     std::optional<FileOptions> files;
     /// A script of faults; may be empty.
     std::string faults;
-    /// Hears of associations, controls and faults: a line of text each. In the device's strand.
+    /// Hears of associations, refused connections, controls and faults: a line of text each. In the
+    /// device's strand.
     std::function<void(const std::string &line)> log;
 };
 

@@ -116,6 +116,8 @@ asio::awaitable<void> Server::acceptLoop()
             co_await pause.async_wait(asTuple);
         } else if (m_associations.size() >= m_options.maxAssociations) {
             ++m_turnedAway;
+            m_handler->refused("There are " + std::to_string(m_options.maxAssociations)
+                               + " associations already, which is the limit.");
         } else {
             take(std::move(strand), std::move(socket));
         }

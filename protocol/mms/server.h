@@ -39,7 +39,7 @@ public:
     /// and will not be answered; false, as by default, when it goes on.
     virtual bool cancel(const std::shared_ptr<Association> &association, std::uint32_t invokeId);
     /// A connection has ended before it became an association, for instance because the peer could
-    /// not prove who it is; one sentence says why.
+    /// not prove who it is or there were too many; one sentence says why.
     virtual void refused(const std::string &reason);
     /// An association that had been opened has ended.
     virtual void closed(const std::shared_ptr<Association> &association, const std::string &reason);
