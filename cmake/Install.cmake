@@ -2,8 +2,9 @@
 # Where `cmake --install` puts things, and the function by which the SDK's folders install theirs.
 #
 # Components: `plugin` is the plug-in with the shared libraries that it and its host need, `sdk` is
-# what a host is built with, `workbench` is the workbench. The plug-in looks for its translations
-# beside the program that loads it and the workbench for the plug-in, hence one folder for the three.
+# what a host is built with, `workbench` is the workbench, `tools` are the command-line programs. The
+# plug-in looks for its translations beside the program that loads it and the workbench for the
+# plug-in, hence one folder for the three.
 
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
@@ -13,6 +14,21 @@ set(IEC61850_HEADER_DIR ${CMAKE_INSTALL_INCLUDEDIR}/iec61850ext)
 set(IEC61850_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/IEC61850Ext)
 file(RELATIVE_PATH IEC61850_PROGRAM_TO_LIBRARIES
     /prefix/${IEC61850_PROGRAM_DIR} /prefix/${CMAKE_INSTALL_LIBDIR})
+
+# project_install_tool(NAME)
+# A command-line program and its manual page, which it prints itself when run with --manual-page.
+function(project_install_tool name)
+    add_custom_command(OUTPUT ${name}.1
+        COMMAND ${name} --manual-page > ${name}.1
+        DEPENDS ${name} VERBATIM)
+    add_custom_target(${name}_manual ALL DEPENDS ${name}.1)
+    file(RELATIVE_PATH toLibraries
+        /prefix/${CMAKE_INSTALL_BINDIR} /prefix/${CMAKE_INSTALL_LIBDIR})
+    set_target_properties(${name} PROPERTIES INSTALL_RPATH $ORIGIN/${toLibraries})
+    install(TARGETS ${name} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.1
+        DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
+endfunction()
 
 # project_install_sdk_library(NAME FILENAME HEADERS file...)
 # A shared library of the SDK: libIEC61850Ext<FILENAME>.so with the version of its binary interface,

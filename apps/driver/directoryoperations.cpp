@@ -111,6 +111,12 @@ asio::awaitable<Outcome> listData(DevicePointer device, Entries entries, QString
     co_return Outcome();
 }
 
+QString wireName(const QString &reference, bool isOfAssociation)
+{
+    return isOfAssociation && !reference.startsWith(QLatin1Char('@')) ? QLatin1Char('@') + reference
+                                                                      : reference;
+}
+
 asio::awaitable<Outcome> listDataSet(DevicePointer device, Entries entries, QString ldName,
                                      QString reference)
 {
@@ -118,8 +124,8 @@ asio::awaitable<Outcome> listDataSet(DevicePointer device, Entries entries, QStr
     if (reference.isEmpty())
         co_return co_await listNames(device, entries, mms::ObjectClass::NamedVariableList,
                                      mms::Scope::Association, QString());
-    const mms::Result<mms::ObjectName> name =
-        acsi::dataSetName(ldName.toStdString(), reference.toStdString());
+    const mms::Result<mms::ObjectName> name = acsi::dataSetName(
+        ldName.toStdString(), wireName(reference, ldName.isEmpty()).toStdString());
     if (!name)
         co_return Outcome::failed(name.error());
     const mms::Result<acsi::DataSetDescription> directory =
@@ -169,12 +175,6 @@ asio::awaitable<Outcome> listSettingGroups(DevicePointer device, Entries entries
     append(*entries, QStringLiteral("EditSG"), block->editSG);
     append(*entries, QStringLiteral("CnfEdit"), block->cnfEdit);
     co_return Outcome();
-}
-
-QString wireName(const QString &reference, bool isOfAssociation)
-{
-    return isOfAssociation && !reference.startsWith(QLatin1Char('@')) ? QLatin1Char('@') + reference
-                                                                      : reference;
 }
 
 /// Enters a data set that the device has taken, so that a browser opened later shows it.

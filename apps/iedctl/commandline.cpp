@@ -77,6 +77,12 @@ constexpr const char *blockHelp = "Report control block, \"LD/LN$BR$name\" or \"
 constexpr const char *objectHelp = "Controllable data object, \"LD/LN.Data\"";
 constexpr const char *logicalDeviceHelp = "Logical device";
 
+/// A check that does not show in the help: the option's text says the range.
+CLI::Validator unnamed(CLI::Validator check)
+{
+    return check.description({});
+}
+
 class Parser
 {
 public:
@@ -84,6 +90,7 @@ public:
         : m_app("Talks to an IEC 61850 server, or shows what an SCL file says of one.", "iedctl")
     {
         m_app.require_subcommand(1);
+        m_app.fallthrough();
         m_app.get_formatter()->column_width(34);
         if (!inBatch)
             addProgramOptions();
@@ -103,6 +110,8 @@ public:
                 if (m_values.batch.empty())
                     m_values.batch = "-";
             });
+            // Commands would inherit what is there before them.
+            m_app.set_help_all_flag("--help-all", "Help of all commands");
         }
     }
 
@@ -180,7 +189,7 @@ private:
                 .add_option("-s,--scl", m_values.sclFile,
                             "SCL file that describes the device; alone, nothing is connected")
                 ->type_name("FILE")
-                ->check(CLI::ExistingFile);
+                ->check(unnamed(CLI::ExistingFile));
         m_app.add_option("--ied", m_values.ied, "IED of the SCL file, where it describes several")
             ->type_name("NAME")
             ->needs(scl);
@@ -202,14 +211,16 @@ private:
                 ->type_name("FILE")
                 ->needs(certificate);
         certificate->needs(key);
-        m_app.add_option("--timeout", m_values.timeout, "Limit of each request in seconds")
+        m_app
+            .add_option("--timeout", m_values.timeout,
+                        "Limit of each request in seconds, from 0.1 to 600")
+            ->type_name("SECONDS")
             ->capture_default_str()
-            ->check(CLI::Range(0.1, 600.0));
+            ->check(unnamed(CLI::Range(0.1, 600.0)));
         m_app.add_flag("--json", m_values.json, "Results as JSON, streams as one object a line");
         m_app.add_flag("--read-only", m_values.readOnly,
                        "Refuse everything that changes something on the device");
         m_app.set_version_flag("--version", std::string("iedctl ") + projectVersion);
-        m_app.set_help_all_flag("--help-all", "Help of all commands");
         m_app.callback([this] {
             if (m_values.connect.empty() && m_values.sclFile.empty())
                 throw CLI::RequiredError("--connect HOST:PORT or --scl FILE");
@@ -260,9 +271,9 @@ private:
     void addLimits(CLI::App *app)
     {
         app->add_option("--count", m_values.limit.count, "End after so many values")
-            ->check(CLI::PositiveNumber);
+            ->check(unnamed(CLI::PositiveNumber));
         app->add_option("--seconds", m_values.limit.seconds, "End after so many seconds")
-            ->check(CLI::PositiveNumber);
+            ->check(unnamed(CLI::PositiveNumber));
     }
 
     void addValueCommands()
@@ -348,10 +359,10 @@ private:
             "Some of seqNum,timeStamp,reasonCode,dataSet,dataRef,bufOvfl,entryID,configRef");
         CLI::Option *period =
             enable->add_option("--intgpd", v.integrityPeriod, "Integrity period in milliseconds")
-                ->check(CLI::NonNegativeNumber);
+                ->check(unnamed(CLI::NonNegativeNumber));
         CLI::Option *bufferTime =
             enable->add_option("--buftm", v.bufferTime, "Buffer time in milliseconds")
-                ->check(CLI::NonNegativeNumber);
+                ->check(unnamed(CLI::NonNegativeNumber));
         enable->add_flag("--gi", v.report.generalInterrogation, "Ask for all values at first");
         addLimits(enable);
         enable->callback([=, this] {
@@ -487,7 +498,10 @@ std::variant<Invocation, Answer> parse(const std::shared_ptr<Parser> &parser,
         parser->app().exit(wanted, out, err);
         return Answer{text(out.str()), false, ExitStatus::Done};
     } catch (const CLI::ParseError &error) {
-        return Answer{text(error.what()), true, ExitStatus::Usage};
+        QString sentence = text(error.what());
+        if (!sentence.endsWith(QLatin1Char('.')))
+            sentence += QLatin1Char('.');
+        return Answer{sentence, true, ExitStatus::Usage};
     }
     std::variant<Invocation, Answer> result = parser->result();
     if (auto *invocation = std::get_if<Invocation>(&result); invocation && invocation->command) {
@@ -513,6 +527,8 @@ QString manualOptions(const CLI::App &app)
 {
     QString page;
     for (const CLI::Option *option : app.get_options()) {
+        if (option == app.get_help_ptr() && app.get_parent())
+            continue;
         const bool takesValue = option->get_items_expected_max() > 0 && !option->get_positional();
         page += QStringLiteral(".TP\n.B %1")
                     .arg(roff(option->get_name(option->get_positional(), true)));

@@ -9,9 +9,10 @@ namespace {
 
 using Visitor = std::function<void(const DataAttribute &)>;
 
+/// The attributes that have a value of their own: structures are described as attributes as well.
 void visit(const DAO &node, const Visitor &visitor)
 {
-    if (node.attribute)
+    if (node.attribute && node.children.isEmpty())
         visitor(*node.attribute);
     for (const DAO *child : node.children)
         visit(*child, visitor);
