@@ -7,22 +7,31 @@ Exits with 77 where the tests with the foreign stack have left no results.
 import json
 import os
 import pathlib
+import re
 import sys
 
 NOT_THERE = 77
 COLUMNS = (("our client, foreign server", ("foreign-server", "foreign-server-acsi")),
            ("foreign client, our simulated IED", ("foreign-client",)))
 ROWS = pathlib.Path(__file__).with_name("rows.txt")
+REQUIREMENTS = ROWS.with_name("requirements.txt")
 HEAD = """# Interoperability
 
 Every service is tried in both directions with a stack that others wrote: the client and the server
-of the Python wheel `pyiec61850-ng` 1.6.1.10. The tests in `tests/interop` install it into the build
-and write this table; each "works" stands for values that were compared. Renew it with
-`INTEROP_RENEW=1 ./test --all -R interop`.
+of the Python wheel `{peer}` {version}. The tests in `tests/interop` install it into the build and
+write this table; each "works" stands for values that were compared. Where a cell is "–" the client
+of that direction has no call for it. Renew the table with `INTEROP_RENEW=1 ./test --all -R interop`.
 
-Where a cell is "–" there is nothing to try in that direction.
+The Java library `com.beanit:iec61850bean` is meant to be the second stack. The package registry
+does not have it, so nothing has been tried with it and it has no columns.
 
 """
+
+
+def head():
+    requirements = REQUIREMENTS.read_text(encoding="utf-8")
+    peer, version = re.search(r"^([\w-]+)==([\w.]+)", requirements, re.MULTILINE).groups()
+    return HEAD.format(peer=peer, version=version)
 
 
 def read_rows():
@@ -43,7 +52,7 @@ def table(results):
     for row in rows:
         cells = [results[title].get(row, "–").replace("|", "\\|") for title in heads]
         lines.append(f"| {row} | " + " | ".join(cells) + " |")
-    return HEAD + "\n".join(lines) + "\n"
+    return head() + "\n".join(lines) + "\n"
 
 
 def main():
