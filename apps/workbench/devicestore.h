@@ -1,19 +1,34 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "driver/deviceconfiguration.h"
+
 #include <QtCore/QString>
 #include <QtCore/QVector>
 
-/// A device that the operator has opened.
+/// A device of the workbench. One without an address that is not simulated is known only from its
+/// SCL file.
 struct DeviceRecord
 {
-    int number = 0; ///< the device's number on the driver, 1 for the first
-    QString file;   ///< absolute path of the SCL file, or a path of a resource
-    QString ied;    ///< name of the IED in the file
+    /// Number, name, SCL file and IED of every device, and how it is reached. The address of a
+    /// simulated device is found anew whenever its simulation starts.
+    DeviceConfiguration configuration;
+    bool simulated = false; ///< by this program, from the SCL file
+    bool connects = true;   ///< when the workbench starts
+
+    int number() const { return configuration.number; }
+    const QString &name() const { return configuration.name; }
+    const QString &file() const { return configuration.sclFile; }
+    const QString &ied() const { return configuration.ied; }
+    /// Over the network, be it simulated or not.
+    bool isReached() const { return simulated || !configuration.host.isEmpty(); }
+
+    static DeviceRecord ofFile(const QString &file, const QString &ied, bool simulated = false);
 };
 
 /// The devices that are remembered between starts, in one settings file. Every change is written
 /// at once. A number belongs to one device for good: it is not given out again after a removal.
+/// The file may hold passwords, so that only its owner can read it.
 class DeviceStore
 {
 public:
@@ -25,12 +40,19 @@ public:
 
     const QVector<DeviceRecord> &devices() const { return m_devices; }
 
-    /// Number of the device, or 0 when it is not remembered. @p file may be written in any way that
-    /// names the same file.
-    int find(const QString &file, const QString &ied) const;
+    /// Number of the device that is only known from the file, or simulated from it; 0 when it is
+    /// not remembered. @p file may be written in any way that names the same file.
+    int find(const QString &file, const QString &ied, bool simulated = false) const;
 
-    /// Remember a device and return its number; one that is remembered already keeps its own.
-    int add(const QString &file, const QString &ied);
+    /// Remember a device and return its number; one of a file that is remembered already keeps its
+    /// own.
+    int add(const QString &file, const QString &ied, bool simulated = false);
+
+    /// Number that put() gives to the next new device.
+    int nextNumber() const { return m_nextNumber; }
+
+    /// Remember a device as it is now and return its number; a new one, of number 0, gets one.
+    int put(DeviceRecord record);
 
     /// Forget a device; nothing happens when there is none of that number.
     void remove(int number);

@@ -21,6 +21,9 @@ OperationResult EmbeddedConsole::getLoc(long driverNumber, long deviceNo, QStrin
         driverNumber == driverNo ? m_devices.device(static_cast<int>(deviceNo)) : nullptr;
     if (!device)
         return OperationFailed;
-    location = device->record.file;
+    const DeviceConfiguration &configuration = device->record.configuration;
+    location = configuration.host.isEmpty()
+                   ? device->record.file()
+                   : QStringLiteral("%1:%2").arg(configuration.host).arg(configuration.port);
     return OperationSucceeded;
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "embeddeddriver.h"
 
+#include "simulateddevice.h"
+
 #include "driver/offlinedriverservice.h"
 #include "driver/sclimport.h"
 
@@ -34,8 +36,10 @@ IedSummary summaryOf(const scl::Ied &ied)
             static_cast<int>(scl::countsOf(ied).logicalDevices)};
 }
 
-ImportResult import(const ImportRequest &request, const std::atomic<bool> &cancelled,
-                    const std::function<void(double)> &progress)
+} // namespace
+
+ImportResult importFromFile(const ImportRequest &request, const std::atomic<bool> &cancelled,
+                            const std::function<void(double)> &progress)
 {
     // Reading the file is the longest part; the model and its bytes are made from it afterwards.
     constexpr double readingShare = 0.7;
@@ -70,10 +74,16 @@ ImportResult import(const ImportRequest &request, const std::atomic<bool> &cance
                                 "browse.")
                           .arg(text(ied->name)));
     }
-    const std::unique_ptr<PhysicalDevice> device = SclImport::makeDevice(*ied);
-    if (cancelled)
-        return failed({});
-    result.model = OfflineDriverService::offlineModel(*device);
+    if (request.simulate) {
+        result.simulation = SimulatedDevice::start(*ied, request.port, error);
+        if (!result.simulation)
+            return failed(error);
+    } else {
+        const std::unique_ptr<PhysicalDevice> device = SclImport::makeDevice(*ied);
+        if (cancelled)
+            return failed({});
+        result.model = OfflineDriverService::offlineModel(*device);
+    }
     result.status = ImportResult::Imported;
     result.ied = text(ied->name);
     result.logicalDevices = counts.logicalDevices;
@@ -83,19 +93,4 @@ ImportResult import(const ImportRequest &request, const std::atomic<bool> &cance
     for (const scl::Finding &finding : document.findings)
         result.findings.append(finding);
     return result;
-}
-
-} // namespace
-
-Workbench::Driver makeEmbeddedDriver()
-{
-    const auto service = std::make_shared<OfflineDriverService>();
-    Workbench::Driver driver;
-    driver.service = service;
-    driver.import = import;
-    driver.hold = [service](int number, const QByteArray &model) {
-        service->holdModel(number, model);
-    };
-    driver.release = [service](int number) { service->removeDevice(number); };
-    return driver;
 }

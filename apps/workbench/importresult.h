@@ -9,6 +9,9 @@
 
 #include <atomic>
 #include <functional>
+#include <memory>
+
+class SimulatedDevice;
 
 /// An IED of an SCL file, as the operator chooses it.
 struct IedSummary
@@ -22,6 +25,9 @@ struct ImportRequest
 {
     QString file;
     QString ied; ///< empty: the only one of the file
+    /// Start a simulated device instead of making a model.
+    bool simulate = false;
+    int port = 0; ///< that the simulated device had before; 0: none
 };
 
 struct ImportResult
@@ -38,7 +44,8 @@ struct ImportResult
     QString ied;                    ///< name of the IED that was imported
     QVector<IedSummary> ieds;       ///< in the order of the file
     QVector<scl::Finding> findings; ///< of the whole file
-    QByteArray model;               ///< the device as PhysicalDevice::fromStream() reads it
+    QByteArray model; ///< the device as PhysicalDevice::fromStream() reads it; none of a simulation
+    std::shared_ptr<SimulatedDevice> simulation;
     quint64 logicalDevices = 0;
     quint64 logicalNodes = 0;
     quint64 attributes = 0; ///< leaf attributes, array elements one by one

@@ -79,8 +79,11 @@ QString pluginFolder(const CommandLine &line)
 
 int runTour(const CommandLine &line)
 {
-    const QTemporaryDir settings;
-    Workbench workbench(settings.filePath(QStringLiteral("workbench.ini")), makeEmbeddedDriver());
+    const QTemporaryDir folder;
+    Workbench::Options options;
+    options.settingsFile = folder.filePath(QStringLiteral("workbench.ini"));
+    options.import = importFromFile;
+    Workbench workbench(options);
     MainWindow window(workbench, pluginFolder(line));
     window.loadExtension();
     Tour tour(workbench, window, line.tour);
@@ -92,10 +95,19 @@ int runTour(const CommandLine &line)
 
 int runWindow(const CommandLine &line)
 {
+    const auto folder = [](QStandardPaths::StandardLocation location) {
+        return QDir(QStandardPaths::writableLocation(location));
+    };
     const QString settingsFile =
-        QDir(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation))
-            .filePath(QStringLiteral("workbench.ini"));
-    Workbench workbench(settingsFile, makeEmbeddedDriver());
+        folder(QStandardPaths::AppConfigLocation).filePath(QStringLiteral("workbench.ini"));
+    Workbench::Options options;
+    options.settingsFile = settingsFile;
+    options.journalFile =
+        folder(QStandardPaths::AppDataLocation).filePath(QStringLiteral("changes.csv"));
+    options.cacheFolder =
+        folder(QStandardPaths::CacheLocation).filePath(QStringLiteral("descriptions"));
+    options.import = importFromFile;
+    Workbench workbench(options);
     MainWindow window(workbench, pluginFolder(line));
     QSettings settings(settingsFile, QSettings::IniFormat);
     window.restoreGeometry(settings.value(geometryKey).toByteArray());

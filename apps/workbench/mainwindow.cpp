@@ -8,11 +8,13 @@
 
 #include <host/driverprotocolextentioninterface.h>
 
+#include <QtCore/QDateTime>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QMimeData>
 #include <QtCore/QSettings>
 #include <QtCore/QSortFilterProxyModel>
+#include <QtGui/QDesktopServices>
 #include <QtGui/QDragEnterEvent>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QHeaderView>
@@ -50,6 +52,36 @@ void setWidth(QHeaderView *header, int column, int width)
     header->resizeSection(column, qMax(width, header->sectionSizeHint(column)));
 }
 
+/// The first device whose model takes its time to be read; null when there is none.
+const DeviceListModel::Device *readingDevice(const DeviceListModel &devices)
+{
+    for (int row = 0; row < devices.rowCount(); ++row) {
+        const DeviceListModel::Device *device = devices.deviceAt(row);
+        const DeviceStatus &status = device->status;
+        if (device->isWanted() && status.state == DeviceState::ReadingModel &&
+            status.since.msecsTo(QDateTime::currentDateTime()) >=
+                DeviceLoader::slowAfter.count()) {
+            return device;
+        }
+    }
+    return nullptr;
+}
+
+/// Keeps the newest row in sight, as long as somebody does not look at older ones.
+void followNewest(QTreeView *view)
+{
+    const auto follow = std::make_shared<bool>(true);
+    QObject::connect(view->model(), &QAbstractItemModel::rowsAboutToBeInserted, view,
+                     [view, follow] {
+                         const QScrollBar *bar = view->verticalScrollBar();
+                         *follow = bar->value() == bar->maximum();
+                     });
+    QObject::connect(view->model(), &QAbstractItemModel::rowsInserted, view, [view, follow] {
+        if (*follow)
+            view->scrollToBottom();
+    });
+}
+
 } // namespace
 
 MainWindow::MainWindow(Workbench &workbench, const QString &pluginFolder, QWidget *parent)
@@ -70,7 +102,7 @@ MainWindow::MainWindow(Workbench &workbench, const QString &pluginFolder, QWidge
 
     setUpViews();
     setUpActions();
-    setUpProgress();
+    setUpStatusBar();
 
     connect(&m_workbench, &Workbench::choiceNeeded, this, &MainWindow::askForIeds);
     connect(&m_workbench, &Workbench::deviceOpened, this, &MainWindow::selectDevice);
@@ -89,9 +121,13 @@ void MainWindow::setUpViews()
 {
     QTreeView *devices = m_ui->deviceView;
     devices->setModel(&m_workbench.devices());
-    setWidth(devices->header(), DeviceListModel::NameColumn, 200);
+    setWidth(devices->header(), DeviceListModel::NameColumn, 150);
     setWidth(devices->header(), DeviceListModel::NumberColumn, 60);
-    setWidth(devices->header(), DeviceListModel::SourceColumn, 280);
+    setWidth(devices->header(), DeviceListModel::SourceColumn, 180);
+    setWidth(devices->header(), DeviceListModel::StateColumn, 210);
+    setWidth(devices->header(), DeviceListModel::IdentityColumn, 200);
+    setWidth(devices->header(), DeviceListModel::RoundTripColumn, 80);
+    setWidth(devices->header(), DeviceListModel::ReportsColumn, 70);
     connect(devices->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &MainWindow::showSelection);
     connect(devices, &QTreeView::activated, this, [this] {
@@ -134,19 +170,31 @@ void MainWindow::setUpViews()
     setWidth(journalHeader, JournalModel::DurationColumn, 90);
     journalHeader->setStretchLastSection(false);
     journalHeader->setSectionResizeMode(JournalModel::ResultColumn, QHeaderView::Stretch);
-    const auto follow = std::make_shared<bool>(true);
-    connect(&m_workbench.journal(), &QAbstractItemModel::rowsAboutToBeInserted, this,
-            [journal, follow] {
-                const QScrollBar *bar = journal->verticalScrollBar();
-                *follow = bar->value() == bar->maximum();
-            });
-    connect(&m_workbench.journal(), &QAbstractItemModel::rowsInserted, this, [journal, follow] {
-        if (*follow)
-            journal->scrollToBottom();
-    });
+    followNewest(journal);
 
-    splitDockWidget(m_ui->findingsDock, m_ui->journalDock, Qt::Vertical);
-    resizeDocks({m_ui->findingsDock, m_ui->journalDock}, {180, 180}, Qt::Vertical);
+    QTreeView *changes = m_ui->changesView;
+    changes->setModel(&m_workbench.changes());
+    m_ui->changesView->setPlaceholder(
+        tr("Nothing was changed on a device yet. Every write, command and transfer is listed "
+           "here%1.")
+            .arg(m_workbench.changes().file().isEmpty()
+                     ? QString()
+                     : tr(" and kept in\n%1")
+                           .arg(QDir::toNativeSeparators(m_workbench.changes().file()))));
+    QHeaderView *changesHeader = changes->header();
+    setWidth(changesHeader, ChangeJournal::TimeColumn, 110);
+    setWidth(changesHeader, ChangeJournal::DeviceColumn, 120);
+    setWidth(changesHeader, ChangeJournal::OperationColumn, 130);
+    setWidth(changesHeader, ChangeJournal::ReferenceColumn, 230);
+    setWidth(changesHeader, ChangeJournal::OldValueColumn, 90);
+    setWidth(changesHeader, ChangeJournal::NewValueColumn, 90);
+    setWidth(changesHeader, ChangeJournal::ResultColumn, 130);
+    followNewest(changes);
+
+    tabifyDockWidget(m_ui->journalDock, m_ui->changesDock);
+    tabifyDockWidget(m_ui->changesDock, m_ui->findingsDock);
+    m_ui->journalDock->raise();
+    resizeDocks({m_ui->journalDock}, {260}, Qt::Vertical);
 }
 
 void MainWindow::setUpActions()
@@ -157,6 +205,7 @@ void MainWindow::setUpActions()
     m_ui->actionQuit->setIcon(style()->standardIcon(QStyle::SP_DialogCloseButton));
 
     connect(m_ui->actionOpen, &QAction::triggered, this, &MainWindow::openFile);
+    connect(m_ui->actionSimulate, &QAction::triggered, this, &MainWindow::simulateFile);
     connect(m_ui->emptyOpen, &QPushButton::clicked, this, &MainWindow::openFile);
     connect(m_ui->actionDemonstration, &QAction::triggered, &m_workbench,
             &Workbench::openDemonstration);
@@ -166,22 +215,50 @@ void MainWindow::setUpActions()
     connect(m_ui->actionReload, &QAction::triggered, this,
             [this] { m_workbench.reload(selectedDevice()); });
     connect(m_ui->actionRemove, &QAction::triggered, this, &MainWindow::removeSelected);
+    connect(m_ui->actionConnect, &QAction::triggered, this,
+            [this] { m_workbench.connectDevice(selectedDevice()); });
+    connect(m_ui->actionDisconnect, &QAction::triggered, this,
+            [this] { m_workbench.disconnectDevice(selectedDevice()); });
+    connect(m_ui->actionStartSimulation, &QAction::triggered, this,
+            [this] { m_workbench.startSimulation(selectedDevice()); });
+    connect(m_ui->actionStopSimulation, &QAction::triggered, this,
+            [this] { m_workbench.stopSimulation(selectedDevice()); });
+    connect(m_ui->actionReadOnly, &QAction::toggled, &m_workbench, &Workbench::setReadOnly);
+    connect(&m_workbench, &Workbench::readOnlyChanged, this, &MainWindow::showReadOnly);
+    connect(m_ui->actionShowJournalFile, &QAction::triggered, this, [this] {
+        const QString folder = QFileInfo(m_workbench.changes().file()).path();
+        QDir().mkpath(folder);
+        QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
+    });
+    m_ui->actionShowJournalFile->setEnabled(!m_workbench.changes().file().isEmpty());
     connect(m_ui->actionClearJournal, &QAction::triggered, this,
             [this] { m_workbench.journal().clear(); });
     connect(m_ui->actionGuide, &QAction::triggered, this, &MainWindow::showGuide);
     connect(m_ui->actionAbout, &QAction::triggered, this, &MainWindow::showAbout);
     connect(m_ui->extensionRetry, &QPushButton::clicked, this, &MainWindow::loadExtension);
 
+    m_ui->actionConnect->setIcon(style()->standardIcon(QStyle::SP_MediaPlay));
+    m_ui->actionDisconnect->setIcon(style()->standardIcon(QStyle::SP_MediaStop));
+    m_ui->actionAdd->setIcon(style()->standardIcon(QStyle::SP_DriveNetIcon));
     m_ui->journalView->addAction(m_ui->actionClearJournal);
+    m_ui->changesView->addAction(m_ui->actionShowJournalFile);
     m_ui->menuView->insertActions(m_ui->actionClearJournal, {m_ui->findingsDock->toggleViewAction(),
                                                              m_ui->journalDock->toggleViewAction(),
+                                                             m_ui->changesDock->toggleViewAction(),
                                                              m_ui->toolBar->toggleViewAction()});
     m_ui->menuView->insertSeparator(m_ui->actionClearJournal);
     m_ui->menuTools->menuAction()->setEnabled(false);
 }
 
-void MainWindow::setUpProgress()
+void MainWindow::setUpStatusBar()
 {
+    m_readOnly = new QLabel(tr("Read-only: nothing is changed on devices"), this);
+    m_readOnly->setObjectName(QStringLiteral("readOnlyMark"));
+    m_readOnly->setStyleSheet(QStringLiteral("background: #f4c430; color: black; padding: 1px "
+                                             "8px"));
+    statusBar()->addPermanentWidget(m_readOnly);
+    showReadOnly();
+
     m_progressText = new QLabel(this);
     m_progress = new QProgressBar(this);
     m_progress->setObjectName(QStringLiteral("loadingProgress"));
@@ -197,14 +274,14 @@ void MainWindow::setUpProgress()
     }
 
     DeviceLoader &loader = m_workbench.loader();
-    connect(m_cancel, &QToolButton::clicked, &loader, &DeviceLoader::cancel);
-    const auto show = [this](bool visible) {
-        m_progressText->setVisible(visible);
-        m_progress->setVisible(visible);
-        m_cancel->setVisible(visible);
-    };
-    connect(&loader, &DeviceLoader::slow, this, [show] { show(true); });
-    connect(&loader, &DeviceLoader::idle, this, [show] { show(false); });
+    connect(&loader, &DeviceLoader::slow, this, [this] {
+        m_loadIsSlow = true;
+        showProgress();
+    });
+    connect(&loader, &DeviceLoader::idle, this, [this] {
+        m_loadIsSlow = false;
+        showProgress();
+    });
     connect(&loader, &DeviceLoader::progressed, this, [this](const QString &file, int permille) {
         const QString name = QFileInfo(file).fileName();
         const int left = m_workbench.loader().remaining();
@@ -213,6 +290,41 @@ void MainWindow::setUpProgress()
                      : tr("Reading %1").arg(name));
         m_progress->setValue(permille);
     });
+    connect(&m_workbench.devices(), &QAbstractItemModel::dataChanged, this,
+            &MainWindow::showProgress);
+    connect(&m_workbench.devices(), &QAbstractItemModel::rowsRemoved, this,
+            &MainWindow::showProgress);
+    connect(m_cancel, &QToolButton::clicked, this, [this] {
+        if (m_loadIsSlow)
+            m_workbench.loader().cancel();
+        else if (const DeviceListModel::Device *device = readingDevice(m_workbench.devices()))
+            m_workbench.disconnectDevice(device->record.number());
+    });
+    connect(&m_workbench.changes(), &ChangeJournal::problemChanged, this,
+            [this] { statusBar()->showMessage(m_workbench.changes().problem()); });
+}
+
+/// A file that is read slowly, or else a device whose model is being read.
+void MainWindow::showProgress()
+{
+    const DeviceListModel::Device *device =
+        m_loadIsSlow ? nullptr : readingDevice(m_workbench.devices());
+    if (device) {
+        const DeviceStatus &status = device->status;
+        m_progressText->setText(tr("Reading the model of %1").arg(device->record.name()));
+        m_progress->setValue(status.modelSteps > 0
+                                 ? progressRange * status.modelStepsDone / status.modelSteps
+                                 : 0);
+    }
+    for (QWidget *widget : {static_cast<QWidget *>(m_progressText),
+                            static_cast<QWidget *>(m_progress), static_cast<QWidget *>(m_cancel)})
+        widget->setVisible(m_loadIsSlow || device);
+}
+
+void MainWindow::showReadOnly()
+{
+    m_ui->actionReadOnly->setChecked(m_workbench.isReadOnly());
+    m_readOnly->setVisible(m_workbench.isReadOnly());
 }
 
 void MainWindow::loadExtension()
@@ -264,7 +376,7 @@ int MainWindow::selectedDevice() const
     const QModelIndexList rows = m_ui->deviceView->selectionModel()->selectedRows();
     const DeviceListModel::Device *device =
         rows.isEmpty() ? nullptr : m_workbench.devices().deviceAt(rows.first().row());
-    return device ? device->record.number : 0;
+    return device ? device->record.number() : 0;
 }
 
 void MainWindow::selectDevice(int number)
@@ -287,13 +399,27 @@ void MainWindow::showSelection()
     const int number = selectedDevice();
     const DeviceListModel::Device *device = m_workbench.devices().device(number);
     const bool ready = device && device->state == DeviceListModel::Ready;
+    const bool isReached = device && device->record.isReached();
+    const bool isSimulated = device && device->record.simulated;
 
     m_ui->actionRemove->setEnabled(device != nullptr);
+    m_ui->actionEdit->setEnabled(device != nullptr);
+    m_ui->actionConnect->setEnabled(ready && isReached && !device->isWanted());
+    m_ui->actionDisconnect->setEnabled(device && device->isWanted());
+    m_ui->actionStartSimulation->setVisible(isSimulated);
+    m_ui->actionStopSimulation->setVisible(isSimulated);
+    m_ui->actionStartSimulation->setEnabled(isSimulated && !ready &&
+                                            device->state != DeviceListModel::Loading);
+    m_ui->actionStopSimulation->setEnabled(isSimulated && ready);
+    for (QAction *action : {m_ui->actionTrace, m_ui->actionCapture})
+        action->setEnabled(isReached && ready);
+    m_ui->actionExport->setEnabled(isReached && device->isUsable());
     m_ui->actionReload->setEnabled(device && device->state != DeviceListModel::Loading);
     if (m_extension.extension) {
         const QList<QAction *> actions = m_extension.extension->actions();
         for (int i = 0; i < m_extensionActions.size() && i < actions.size(); ++i)
-            m_extensionActions[i]->setEnabled(ready && actions[i]->isEnabled());
+            m_extensionActions[i]->setEnabled(device && device->isUsable() &&
+                                              actions[i]->isEnabled());
         m_extension.extension->setTaskContext(EmbeddedConsole::driverNo, number, 0, &m_context);
     }
 
@@ -306,9 +432,12 @@ void MainWindow::showSelection()
     }
     const QString summary = m_findings->summary();
     m_ui->findingsDock->setWindowTitle(
-        summary.isEmpty() ? tr("Findings: %1").arg(device->record.ied)
-                          : tr("Findings: %1 (%2)").arg(device->record.ied, summary));
-    if (ready) {
+        summary.isEmpty() ? tr("Findings: %1").arg(device->record.name())
+                          : tr("Findings: %1 (%2)").arg(device->record.name(), summary));
+    if (ready && device->record.file().isEmpty()) {
+        m_ui->findingsView->setPlaceholder(
+            tr("This device has no SCL file; its model is read from the device itself."));
+    } else if (ready) {
         m_ui->findingsView->setPlaceholder(
             tr("No findings: everything in the file of this device was understood."));
     } else if (device->state == DeviceListModel::Failed) {
@@ -330,34 +459,48 @@ void MainWindow::showDeviceMenu(const QPoint &position)
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->addActions(m_extensionActions);
     menu->addSeparator();
-    menu->addAction(m_ui->actionReload);
-    menu->addAction(m_ui->actionRemove);
+    menu->addActions(m_ui->menuDevice->actions());
+    menu->removeAction(m_ui->actionAdd);
+    menu->removeAction(m_ui->actionReadOnly);
     menu->popup(m_ui->deviceView->viewport()->mapToGlobal(position));
 }
 
 void MainWindow::openFile()
 {
-    auto *dialog = new QFileDialog(this, tr("Open SCL File"));
+    askForFiles(tr("Open SCL File"), [this](const QString &file) { m_workbench.open(file); });
+}
+
+void MainWindow::simulateFile()
+{
+    askForFiles(tr("Start Simulated Device"),
+                [this](const QString &file) { m_workbench.simulate(file); });
+}
+
+void MainWindow::askForFiles(const QString &title,
+                             const std::function<void(const QString &)> &take)
+{
+    auto *dialog = new QFileDialog(this, title);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::ExistingFiles);
     dialog->setNameFilters({tr("SCL files (*.icd *.cid *.iid *.scd *.sed *.ssd *.ICD *.CID *.IID "
                                "*.SCD *.SED *.SSD *.xml)"),
                             tr("All files (*)")});
     if (const DeviceListModel::Device *device = m_workbench.devices().device(selectedDevice());
-        device && QFileInfo(device->record.file).dir().exists() &&
-        !device->record.file.startsWith(QLatin1Char(':'))) {
-        dialog->setDirectory(QFileInfo(device->record.file).dir());
+        device && !device->record.file().isEmpty() &&
+        QFileInfo(device->record.file()).dir().exists() &&
+        !device->record.file().startsWith(QLatin1Char(':'))) {
+        dialog->setDirectory(QFileInfo(device->record.file()).dir());
     }
-    connect(dialog, &QFileDialog::filesSelected, this, [this](const QStringList &files) {
+    connect(dialog, &QFileDialog::filesSelected, this, [take](const QStringList &files) {
         for (const QString &file : files)
-            m_workbench.open(file);
+            take(file);
     });
     dialog->open();
 }
 
-void MainWindow::askForIeds(const QString &file, const QVector<IedSummary> &ieds)
+void MainWindow::askForIeds(const QString &file, const QVector<IedSummary> &ieds, bool simulated)
 {
-    m_questions.append({file, ieds});
+    m_questions.append({file, ieds, simulated});
     if (m_questions.size() == 1)
         showNextQuestion();
 }
@@ -370,8 +513,12 @@ void MainWindow::showNextQuestion()
     connect(chooser, &QDialog::finished, this, [this, chooser, question](int result) {
         if (result == QDialog::Accepted) {
             const QStringList names = chooser->chosenIeds();
-            for (const QString &name : names)
-                m_workbench.open(question.file, name);
+            for (const QString &name : names) {
+                if (question.simulated)
+                    m_workbench.simulate(question.file, name);
+                else
+                    m_workbench.open(question.file, name);
+            }
         }
         m_questions.removeFirst();
         if (!m_questions.isEmpty())
@@ -399,8 +546,11 @@ void MainWindow::removeSelected()
     if (!device)
         return;
     const QString message =
-        tr("%1 was taken off the list; its file stays where it is.").arg(device->record.ied);
-    m_workbench.remove(device->record.number);
+        (device->record.file().isEmpty()
+             ? tr("%1 was taken off the list.")
+             : tr("%1 was taken off the list; its file stays where it is."))
+            .arg(device->record.name());
+    m_workbench.remove(device->record.number());
     statusBar()->showMessage(message, messageTime);
 }
 

@@ -11,6 +11,7 @@
 #include <QtCore/QStringList>
 #include <QtWidgets/QMainWindow>
 
+#include <functional>
 #include <memory>
 
 namespace Ui {
@@ -23,7 +24,7 @@ class QSortFilterProxyModel;
 class QToolButton;
 class Workbench;
 
-/// The window of the workbench: list of devices, tools of the extension, findings, journal.
+/// The window of the workbench: list of devices, tools of the extension, findings, journals.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -49,6 +50,8 @@ public:
 
 public slots:
     void openFile();
+    /// Ask for an SCL file and simulate a device of it.
+    void simulateFile();
 
 protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
@@ -57,11 +60,14 @@ protected:
 private:
     void setUpViews();
     void setUpActions();
-    void setUpProgress();
     void offerExtensionAction(QAction *action);
     void showSelection();
     void showDeviceMenu(const QPoint &position);
-    void askForIeds(const QString &file, const QVector<IedSummary> &ieds);
+    void setUpStatusBar();
+    void askForFiles(const QString &title, const std::function<void(const QString &)> &take);
+    void askForIeds(const QString &file, const QVector<IedSummary> &ieds, bool simulated);
+    void showProgress();
+    void showReadOnly();
     void showNextQuestion();
     void showFailures(const QStringList &sentences);
     void showGuide();
@@ -80,11 +86,14 @@ private:
     QLabel *m_progressText = nullptr;
     QProgressBar *m_progress = nullptr;
     QToolButton *m_cancel = nullptr;
+    QLabel *m_readOnly = nullptr;
+    bool m_loadIsSlow = false;
 
     struct Question
     {
         QString file;
         QVector<IedSummary> ieds;
+        bool simulated = false;
     };
     QList<Question> m_questions; ///< the first one is on the screen
 };

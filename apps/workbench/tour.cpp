@@ -244,7 +244,7 @@ bool Tour::openDevices()
 {
     m_window.show();
     const auto wasRead = [this] { return !m_workbench.loader().isBusy(); };
-    m_workbench.openDemonstration();
+    m_workbench.open(Workbench::demonstrationFile);
     if (!waitFor(wasRead))
         return fail(Texts::tr("The demonstration device was not read in time."));
     m_device = m_window.selectedDevice();
@@ -464,8 +464,8 @@ bool Tour::showWorkbench()
     }
     const DeviceListModel &devices = m_workbench.devices();
     for (int row = 0; row < devices.rowCount(); ++row) {
-        if (devices.deviceAt(row)->record.number != m_device)
-            m_window.selectDevice(devices.deviceAt(row)->record.number);
+        if (devices.deviceAt(row)->record.number() != m_device)
+            m_window.selectDevice(devices.deviceAt(row)->record.number());
     }
     m_window.raise();
     m_window.activateWindow();

@@ -1,20 +1,46 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "workbench.h"
 
+#include "simulateddevice.h"
+
 #include <remoteclient/driverserviceregistry.h>
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QLocale>
+#include <QtCore/QSettings>
+
+#include <chrono>
+#include <utility>
+
+namespace {
+
+/// Counts change all the time and are told by nobody.
+constexpr std::chrono::milliseconds statusInterval{1000};
+const QString readOnlyKey = QStringLiteral("readOnly");
+
+} // namespace
 
 const QString Workbench::demonstrationFile = QStringLiteral(":/workbench/demonstration.scd");
 
-Workbench::Workbench(const QString &settingsFile, Driver driver, QObject *parent)
+Workbench::Workbench(const Options &options, QObject *parent)
     : QObject(parent)
-    , m_driver(std::move(driver))
-    , m_store(settingsFile)
+    , m_settingsFile(options.settingsFile)
+    , m_store(options.settingsFile)
+    , m_changes(options.journalFile)
     , m_console(m_devices)
-    , m_loader(m_driver.import)
+    , m_loader(options.import)
 {
+    IedDriverOptions driver;
+    driver.cacheFolder = options.cacheFolder;
+    driver.statusChanged = [this](const DeviceStatus &) {
+        if (!m_statusesChanged.exchange(true))
+            QMetaObject::invokeMethod(this, "takeStatuses", Qt::QueuedConnection);
+    };
+    driver.changed = [this](const DeviceChange &change) { m_changes.add(change); };
+    m_driver = std::make_shared<IedDriver>(std::move(driver));
+    const QSettings settings(m_settingsFile, QSettings::IniFormat);
+    m_driver->setReadOnly(settings.value(readOnlyKey).toBool());
+
     m_context.console = &m_console;
     connect(&m_loader, &DeviceLoader::finished, this, &Workbench::takeResult);
     connect(&m_loader, &DeviceLoader::idle, this, [this] {
@@ -24,12 +50,15 @@ Workbench::Workbench(const QString &settingsFile, Driver driver, QObject *parent
         if (!failures.isEmpty())
             emit openFailed(failures);
     });
+    m_statusTimer.setInterval(statusInterval);
+    connect(&m_statusTimer, &QTimer::timeout, this, &Workbench::takeStatuses);
+    m_statusTimer.start();
     m_journal.setDeviceNames([this](long deviceNo) {
         const DeviceListModel::Device *device = m_devices.device(static_cast<int>(deviceNo));
-        return device ? tr("%1 (%2)").arg(device->record.ied, QString::number(deviceNo))
+        return device ? tr("%1 (%2)").arg(device->record.name(), QString::number(deviceNo))
                       : QString::number(deviceNo);
     });
-    DriverServiceRegistry::add(EmbeddedConsole::address, m_driver.service);
+    DriverServiceRegistry::add(EmbeddedConsole::address, m_driver);
     ControllerCallObserver::install(&m_journal);
 }
 
@@ -43,43 +72,110 @@ void Workbench::restoreDevices()
 {
     for (const DeviceRecord &record : m_store.devices()) {
         m_devices.append(record);
-        loadListed(record);
+        begin(record);
     }
     if (m_store.isFirstStart())
         openDemonstration();
 }
 
+void Workbench::begin(const DeviceRecord &record)
+{
+    if (record.simulated || !record.isReached())
+        loadListed(record);
+    else
+        reach(record, {}, {});
+}
+
 void Workbench::open(const QString &file, const QString &ied)
 {
-    const QString canonical = DeviceStore::canonicalFile(file);
-    if (const int known = ied.isEmpty() ? 0 : m_store.find(canonical, ied)) {
-        const DeviceListModel::Device *device = m_devices.device(known);
-        if (device && device->state == DeviceListModel::Failed)
-            reload(known);
-        emit deviceOpened(known);
+    ImportRequest request;
+    request.file = file;
+    request.ied = ied;
+    open(request);
+}
+
+void Workbench::simulate(const QString &file, const QString &ied)
+{
+    ImportRequest request;
+    request.file = file;
+    request.ied = ied;
+    request.simulate = true;
+    open(request);
+}
+
+void Workbench::open(const ImportRequest &wanted)
+{
+    ImportRequest request = wanted;
+    request.file = DeviceStore::canonicalFile(wanted.file);
+    const int known = request.ied.isEmpty()
+                          ? 0
+                          : m_store.find(request.file, request.ied, request.simulate);
+    if (known == 0) {
+        m_pending.insert(m_loader.load(request), {request, {}});
         return;
     }
-    const ImportRequest request{canonical, ied};
-    m_pending.insert(m_loader.load(request), {request, {}});
+    const DeviceListModel::Device *device = m_devices.device(known);
+    if (device && device->state == DeviceListModel::Stopped)
+        startSimulation(known);
+    else if (device && device->state == DeviceListModel::Failed)
+        reload(known);
+    emit deviceOpened(known);
 }
 
 void Workbench::openDemonstration()
 {
-    open(demonstrationFile);
+    simulate(demonstrationFile);
+}
+
+QStringList Workbench::put(const DeviceRecord &record)
+{
+    DeviceRecord wanted = record;
+    const bool isNew = record.number() == 0;
+    if (isNew)
+        wanted.configuration.number = m_store.nextNumber();
+    QStringList faults = wanted.configuration.faults();
+    if (!faults.isEmpty())
+        return faults;
+    const int number = m_store.put(wanted);
+    if (isNew) {
+        m_devices.append(wanted);
+        begin(wanted);
+        emit deviceOpened(number);
+        return {};
+    }
+    const DeviceListModel::Device previous = *m_devices.device(number);
+    m_devices.setRecord(wanted);
+    if (wanted.simulated && previous.state == DeviceListModel::Ready) {
+        reach(wanted, previous.content, previous.findings);
+    } else if (previous.state != DeviceListModel::Stopped) {
+        m_driver->removeDevice(number);
+        begin(wanted);
+    }
+    return {};
 }
 
 void Workbench::reload(int number)
 {
     const DeviceListModel::Device *device = m_devices.device(number);
-    if (device && device->state != DeviceListModel::Loading)
-        loadListed(device->record);
+    if (!device || device->state == DeviceListModel::Loading)
+        return;
+    if (device->state == DeviceListModel::Stopped)
+        startSimulation(number);
+    else if (device->state == DeviceListModel::Ready && device->record.isReached())
+        reach(device->record, device->content, device->findings);
+    else
+        begin(device->record);
 }
 
 void Workbench::loadListed(const DeviceRecord &record)
 {
-    const DeviceListModel::Device previous = *m_devices.device(record.number);
-    m_devices.setLoading(record.number);
-    const ImportRequest request{record.file, record.ied};
+    const DeviceListModel::Device previous = *m_devices.device(record.number());
+    m_devices.setLoading(record.number());
+    ImportRequest request;
+    request.file = record.file();
+    request.ied = record.ied();
+    request.simulate = record.simulated;
+    request.port = record.configuration.host.isEmpty() ? 0 : record.configuration.port;
     m_pending.insert(m_loader.load(request), {request, previous});
 }
 
@@ -87,7 +183,68 @@ void Workbench::remove(int number)
 {
     m_store.remove(number);
     m_devices.remove(number);
-    m_driver.release(number);
+    m_driver->removeDevice(number);
+    m_simulations.remove(number);
+}
+
+void Workbench::setConnects(int number, bool connects)
+{
+    const DeviceListModel::Device *device = m_devices.device(number);
+    if (!device || device->record.connects == connects)
+        return;
+    DeviceRecord record = device->record;
+    record.connects = connects;
+    m_store.put(record);
+    m_devices.setRecord(record);
+}
+
+void Workbench::connectDevice(int number)
+{
+    setConnects(number, true);
+    m_driver->connectDevice(number);
+}
+
+void Workbench::disconnectDevice(int number)
+{
+    setConnects(number, false);
+    m_driver->cancelReading(number);
+    m_driver->disconnectDevice(number);
+}
+
+void Workbench::startSimulation(int number)
+{
+    const DeviceListModel::Device *device = m_devices.device(number);
+    if (device && device->record.simulated && !m_simulations.contains(number) &&
+        device->state != DeviceListModel::Loading) {
+        loadListed(device->record);
+    }
+}
+
+void Workbench::stopSimulation(int number)
+{
+    const DeviceListModel::Device *device = m_devices.device(number);
+    if (!device || !m_simulations.contains(number))
+        return;
+    m_driver->removeDevice(number);
+    m_simulations.remove(number);
+    m_devices.setStopped(number);
+}
+
+void Workbench::setReadOnly(bool readOnly)
+{
+    if (readOnly == isReadOnly())
+        return;
+    m_driver->setReadOnly(readOnly);
+    QSettings(m_settingsFile, QSettings::IniFormat).setValue(readOnlyKey, readOnly);
+    emit readOnlyChanged(readOnly);
+}
+
+void Workbench::takeStatuses()
+{
+    m_statusesChanged = false;
+    const QVector<DeviceStatus> statuses = m_driver->statuses();
+    for (const DeviceStatus &status : statuses)
+        m_devices.setStatus(status);
 }
 
 void Workbench::takeResult(int ticket, const ImportResult &result)
@@ -95,7 +252,7 @@ void Workbench::takeResult(int ticket, const ImportResult &result)
     const Pending pending = m_pending.take(ticket);
     if (result.status == ImportResult::Cancelled)
         m_cancelled = true;
-    if (pending.previous.record.number == 0)
+    if (pending.previous.record.number() == 0)
         takeOpened(pending.request, result);
     else
         takeListed(pending.previous, result);
@@ -111,35 +268,51 @@ void Workbench::takeOpened(const ImportRequest &request, const ImportResult &res
                           .arg(QFileInfo(request.file).fileName(), result.error);
         return;
     case ImportResult::ChoiceNeeded:
-        emit choiceNeeded(request.file, result.ieds);
+        emit choiceNeeded(request.file, result.ieds, request.simulate);
         return;
     case ImportResult::Imported:
         break;
     }
-    const bool known = m_store.find(request.file, result.ied) != 0;
-    const int number = m_store.add(request.file, result.ied);
-    if (!known)
-        m_devices.append({number, request.file, result.ied});
-    DeviceListModel::Device device = *m_devices.device(number);
-    takeListed(device, result);
+    const bool known = m_store.find(request.file, result.ied, request.simulate) != 0;
+    const int number = m_store.add(request.file, result.ied, request.simulate);
+    if (!known) {
+        DeviceRecord record = DeviceRecord::ofFile(request.file, result.ied, request.simulate);
+        record.configuration.number = number;
+        m_devices.append(record);
+    }
+    // A simulation that runs already is not begun anew.
+    if (!m_simulations.contains(number)) {
+        const DeviceListModel::Device device = *m_devices.device(number);
+        takeListed(device, result);
+    }
     emit deviceOpened(number);
 }
 
 void Workbench::takeListed(const DeviceListModel::Device &previous, const ImportResult &result)
 {
-    const int number = previous.record.number;
-    if (!m_devices.device(number))
+    const int number = previous.record.number();
+    const DeviceListModel::Device *device = m_devices.device(number);
+    if (!device)
         return;
     switch (result.status) {
     case ImportResult::Imported: {
         const QLocale locale;
-        m_driver.hold(number, result.model);
-        m_devices.setReady(number,
-                           tr("Logical devices: %1, logical nodes: %2, data attributes: %3")
-                               .arg(locale.toString(result.logicalDevices),
-                                    locale.toString(result.logicalNodes),
-                                    locale.toString(result.attributes)),
-                           result.findings);
+        const QString content = tr("Logical devices: %1, logical nodes: %2, data attributes: %3")
+                                    .arg(locale.toString(result.logicalDevices),
+                                         locale.toString(result.logicalNodes),
+                                         locale.toString(result.attributes));
+        if (result.simulation) {
+            DeviceRecord record = device->record;
+            record.configuration.host = QStringLiteral("127.0.0.1");
+            record.configuration.port = result.simulation->port();
+            m_simulations[number] = result.simulation;
+            m_devices.setRecord(record);
+            m_store.put(record);
+            reach(record, content, result.findings);
+        } else {
+            m_driver->holdModel(number, result.model);
+            m_devices.setReady(number, content, result.findings);
+        }
         break;
     }
     case ImportResult::Cancelled:
@@ -152,8 +325,23 @@ void Workbench::takeListed(const DeviceListModel::Device &previous, const Import
         break;
     case ImportResult::ChoiceNeeded:
     case ImportResult::Failed:
-        m_driver.release(number);
+        m_driver->removeDevice(number);
         m_devices.setFailed(number, result.error);
         break;
     }
+}
+
+/// Gives a device with an address to the driver.
+void Workbench::reach(const DeviceRecord &record, const QString &content,
+                      const QVector<scl::Finding> &findings)
+{
+    const QStringList faults = m_driver->setDevice(record.configuration);
+    if (!faults.isEmpty()) {
+        m_devices.setFailed(record.number(), faults.first());
+        return;
+    }
+    m_devices.setReady(record.number(), content, findings);
+    if (record.connects)
+        m_driver->connectDevice(record.number());
+    takeStatuses();
 }

@@ -1,62 +1,74 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "changejournal.h"
 #include "devicelistmodel.h"
 #include "deviceloader.h"
 #include "devicestore.h"
 #include "embeddedconsole.h"
 #include "journalmodel.h"
 
+#include "driver/ieddriver.h"
+
 #include <host/hosttaskcontext.h>
 
 #include <QtCore/QHash>
 #include <QtCore/QObject>
 #include <QtCore/QStringList>
+#include <QtCore/QTimer>
 
-#include <functional>
+#include <atomic>
 #include <memory>
 
-class DriverService;
-
-/// The workbench without its windows: the devices, the embedded driver, the journal. It registers
-/// the driver's service and observes the controller calls as long as it lives, and must outlive
-/// every window, those of the plug-in included. GUI thread.
+/// The workbench without its windows: the devices, the embedded driver, simulated devices, the
+/// journals. It registers the driver's service and observes the controller calls as long as it
+/// lives, and must outlive every window, those of the plug-in included. GUI thread.
 class Workbench : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The driver that the workbench embeds.
-    struct Driver
+    struct Options
     {
-        std::shared_ptr<DriverService> service;
+        QString settingsFile;
+        QString journalFile; ///< of changes; empty for none
+        QString cacheFolder; ///< of the descriptions that devices gave; empty for none
         ImportFunction import;
-        /// Answer for the device with this serialised model from now on.
-        std::function<void(int number, const QByteArray &model)> hold;
-        /// Answer for the device no longer.
-        std::function<void(int number)> release;
     };
 
     static const QString demonstrationFile;
 
-    Workbench(const QString &settingsFile, Driver driver, QObject *parent = nullptr);
+    explicit Workbench(const Options &options, QObject *parent = nullptr);
     ~Workbench() override;
 
+    /// In a thread other than this one only test(), saveCapture() and exportValues() are to be
+    /// called.
+    IedDriver &driver() { return *m_driver; }
     DeviceListModel &devices() { return m_devices; }
     JournalModel &journal() { return m_journal; }
+    ChangeJournal &changes() { return m_changes; }
     /// What the extension gets; the main window enters itself.
     HostTaskContext &context() { return m_context; }
     DeviceLoader &loader() { return m_loader; }
 
-    /// Show the remembered devices and read their models; at the very first start show the
-    /// demonstration device.
+    /// Show the remembered devices, read their models, start their simulations and connect them; at
+    /// the very first start show the demonstration device.
     void restoreDevices();
 
     /// Open an IED of a file. Without a name the only one is taken; when the file holds several,
     /// choiceNeeded() asks.
     void open(const QString &file, const QString &ied = {});
 
+    /// Simulate an IED of a file and connect to it; otherwise as open().
+    void simulate(const QString &file, const QString &ied = {});
+
+    /// Simulate the demonstration device.
     void openDemonstration();
+
+    /// Add a device, of number 0, or give a device of the list another configuration, with which it
+    /// is connected where it was before. The faults of the configuration, in which case nothing is
+    /// changed.
+    QStringList put(const DeviceRecord &record);
 
     /// Read the model of a device in the list again.
     void reload(int number);
@@ -64,17 +76,30 @@ public:
     /// Take a device off the list; its file stays.
     void remove(int number);
 
+    /// Want an association with the device, now and at the next start, or none.
+    void connectDevice(int number);
+    void disconnectDevice(int number);
+
+    void startSimulation(int number);
+    /// End the simulated device, as if it had lost its power; it stays in the list.
+    void stopSimulation(int number);
+
+    /// Let the driver refuse whatever changes something on a device; remembered between starts.
+    void setReadOnly(bool readOnly);
+    bool isReadOnly() const { return m_driver->isReadOnly(); }
+
     /// Why the list of devices is not safe, one sentence; empty when all is well.
     QString storeProblem() const { return m_store.problem(); }
 
 signals:
-    /// Answer with open(file, name) for each IED that is wanted.
-    void choiceNeeded(const QString &file, const QVector<IedSummary> &ieds);
+    /// Answer with open(file, name), or simulate(file, name), for each IED that is wanted.
+    void choiceNeeded(const QString &file, const QVector<IedSummary> &ieds, bool simulated);
     /// A device that the operator opened is in the list, be it new or not.
     void deviceOpened(int number);
     /// Files that could not be opened; one sentence each. The list is as before.
     void openFailed(const QStringList &sentences);
     void loadingCancelled();
+    void readOnlyChanged(bool readOnly);
 
 private:
     struct Pending
@@ -83,17 +108,30 @@ private:
         DeviceListModel::Device previous; ///< number 0: a device that is being opened
     };
 
+    // By name, so that nothing but the call passes from thread to thread.
+    Q_INVOKABLE void takeStatuses();
+    void open(const ImportRequest &request);
+    void begin(const DeviceRecord &record);
     void loadListed(const DeviceRecord &record);
     void takeResult(int ticket, const ImportResult &result);
     void takeOpened(const ImportRequest &request, const ImportResult &result);
     void takeListed(const DeviceListModel::Device &previous, const ImportResult &result);
+    void reach(const DeviceRecord &record, const QString &content,
+               const QVector<scl::Finding> &findings);
+    void setConnects(int number, bool connects);
 
-    Driver m_driver;
+    const QString m_settingsFile;
     DeviceStore m_store;
     DeviceListModel m_devices;
     JournalModel m_journal;
+    ChangeJournal m_changes;
     EmbeddedConsole m_console;
     HostTaskContext m_context;
+    QHash<int, std::shared_ptr<SimulatedDevice>> m_simulations; ///< by device number
+    std::atomic<bool> m_statusesChanged{false};
+    /// Ends before the simulated devices, so that it can leave them in an orderly way.
+    std::shared_ptr<IedDriver> m_driver;
+    QTimer m_statusTimer;
     QHash<int, Pending> m_pending; ///< by ticket
     QStringList m_failures;
     bool m_cancelled = false;

@@ -64,11 +64,11 @@ void tst_DeviceStore::devicesAreRememberedBetweenStarts()
     const DeviceStore store(settingsFile());
     QVERIFY(!store.isFirstStart());
     QCOMPARE(store.devices().size(), 2);
-    QCOMPARE(store.devices()[0].number, 1);
-    QCOMPARE(store.devices()[0].file, QFileInfo(file).canonicalFilePath());
-    QCOMPARE(store.devices()[0].ied, QStringLiteral("BAY1"));
-    QCOMPARE(store.devices()[1].number, 2);
-    QCOMPARE(store.devices()[1].ied, QStringLiteral("BAY2"));
+    QCOMPARE(store.devices()[0].number(), 1);
+    QCOMPARE(store.devices()[0].file(), QFileInfo(file).canonicalFilePath());
+    QCOMPARE(store.devices()[0].ied(), QStringLiteral("BAY1"));
+    QCOMPARE(store.devices()[1].number(), 2);
+    QCOMPARE(store.devices()[1].ied(), QStringLiteral("BAY2"));
 }
 
 void tst_DeviceStore::aDeviceKeepsItsNumberWhenOthersGo()
@@ -164,7 +164,7 @@ void tst_DeviceStore::aDamagedSettingsFileLosesOnlyWhatIsDamaged()
 
     DeviceStore store(settingsFile());
     QCOMPARE(store.devices().size(), 1);
-    QCOMPARE(store.devices()[0].number, 4);
+    QCOMPARE(store.devices()[0].number(), 4);
     QCOMPARE(store.add(sclFile(QStringLiteral("new.scd")), QStringLiteral("N")), 5);
 }
 

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "workbench/embeddeddriver.h"
 
+#include "workbench/simulateddevice.h"
+
+#include "driver/ieddriver.h"
+
 #include <devicemodel/physicaldevice.h>
-#include <remoteclient/driverservice.h>
 
 #include <QtCore/QDataStream>
 #include <QtCore/QDir>
@@ -46,13 +49,14 @@ private slots:
     void aCarelessChoiceGivesOneSentence_data();
     void aCarelessChoiceGivesOneSentence();
     void aCancelledImportGivesNoDevice();
+    void aSimulationIsADeviceOfTheFileOnTheLoopbackInterface();
+    void aSimulationTakesThePortItHadBeforeWhenThatIsFree();
 
 private:
     QString file(const QString &name, const QByteArray &content) const;
     ImportResult import(const QString &file, const QString &iedName = {}, bool cancelled = false);
 
     QTemporaryDir m_folder;
-    Workbench::Driver m_driver = makeEmbeddedDriver();
 };
 
 void tst_EmbeddedDriver::initTestCase()
@@ -71,7 +75,10 @@ QString tst_EmbeddedDriver::file(const QString &name, const QByteArray &content)
 ImportResult tst_EmbeddedDriver::import(const QString &path, const QString &iedName, bool cancelled)
 {
     const std::atomic<bool> flag{cancelled};
-    return m_driver.import({path, iedName}, flag, [](double) {});
+    ImportRequest request;
+    request.file = path;
+    request.ied = iedName;
+    return importFromFile(request, flag, [](double) {});
 }
 
 void tst_EmbeddedDriver::theOnlyIedIsImported()
@@ -88,11 +95,12 @@ void tst_EmbeddedDriver::whatWasImportedIsWhatTheDriverAnswers()
 {
     const ImportResult result = import(file(QStringLiteral("one.icd"), sclFile(ied("BAY1"))));
     QCOMPARE(result.status, ImportResult::Imported);
-    m_driver.hold(5, result.model);
+    IedDriver driver;
+    driver.holdModel(5, result.model);
 
     QByteArray model;
     QString error;
-    QCOMPARE(m_driver.service->getIEDModel(5, model, error), OperationSucceeded);
+    QCOMPARE(driver.getIEDModel(5, model, error), OperationSucceeded);
     PhysicalDevice device;
     QDataStream stream(model);
     device.fromStream(stream);
@@ -100,8 +108,8 @@ void tst_EmbeddedDriver::whatWasImportedIsWhatTheDriverAnswers()
     QCOMPARE(device.logicalDevices.size(), 1);
     QVERIFY(device.findTag(QStringLiteral("BAY1LD0/LLN0$ST$Beh$q")) != nullptr);
 
-    m_driver.release(5);
-    QVERIFY(m_driver.service->getIEDModel(5, model, error) != OperationSucceeded);
+    driver.removeDevice(5);
+    QVERIFY(driver.getIEDModel(5, model, error) != OperationSucceeded);
     QVERIFY(!error.isEmpty());
 }
 
@@ -163,6 +171,46 @@ void tst_EmbeddedDriver::aCancelledImportGivesNoDevice()
         import(file(QStringLiteral("one.icd"), sclFile(ied("BAY1"))), {}, true);
     QVERIFY(result.status != ImportResult::Imported);
     QVERIFY(result.model.isEmpty());
+}
+
+void tst_EmbeddedDriver::aSimulationIsADeviceOfTheFileOnTheLoopbackInterface()
+{
+    ImportRequest request;
+    request.file = file(QStringLiteral("one.icd"), sclFile(ied("BAY1")));
+    request.simulate = true;
+    const std::atomic<bool> flag{false};
+    const ImportResult result = importFromFile(request, flag, [](double) {});
+    QVERIFY2(result.status == ImportResult::Imported, qPrintable(result.error));
+    QVERIFY(result.simulation);
+
+    IedDriver driver;
+    DeviceConfiguration configuration;
+    configuration.number = 1;
+    configuration.name = result.ied;
+    configuration.host = QStringLiteral("127.0.0.1");
+    configuration.port = result.simulation->port();
+    const IedDriver::TestResult test = driver.test(configuration);
+    QVERIFY2(test.error.isEmpty(), qPrintable(test.error));
+    QCOMPARE(test.logicalDevices, 1);
+    QVERIFY(test.roundTrip.count() > 0);
+}
+
+void tst_EmbeddedDriver::aSimulationTakesThePortItHadBeforeWhenThatIsFree()
+{
+    ImportRequest request;
+    request.file = file(QStringLiteral("one.icd"), sclFile(ied("BAY1")));
+    request.simulate = true;
+    const std::atomic<bool> flag{false};
+    ImportResult first = importFromFile(request, flag, [](double) {});
+    QVERIFY2(first.simulation, qPrintable(first.error));
+    request.port = first.simulation->port();
+    const ImportResult other = importFromFile(request, flag, [](double) {});
+    QVERIFY2(other.simulation, qPrintable(other.error));
+    QVERIFY(other.simulation->port() != request.port);
+    first.simulation.reset();
+    const ImportResult again = importFromFile(request, flag, [](double) {});
+    QVERIFY2(again.simulation, qPrintable(again.error));
+    QCOMPARE(again.simulation->port(), request.port);
 }
 
 QTEST_GUILESS_MAIN(tst_EmbeddedDriver)

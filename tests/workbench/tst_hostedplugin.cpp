@@ -41,8 +41,10 @@ void tst_HostedPlugin::init()
     const QString scl = m_folder.filePath(QStringLiteral("feeder.icd"));
     if (!QFile::exists(scl))
         QVERIFY(QFile::copy(QStringLiteral(FEEDER_FILE), scl));
-    m_workbench = std::make_unique<Workbench>(m_folder.filePath(QStringLiteral("workbench.ini")),
-                                              makeEmbeddedDriver());
+    Workbench::Options options;
+    options.settingsFile = m_folder.filePath(QStringLiteral("workbench.ini"));
+    options.import = importFromFile;
+    m_workbench = std::make_unique<Workbench>(options);
     m_window = std::make_unique<MainWindow>(*m_workbench, QStringLiteral(PLUGIN_FOLDER));
     m_window->show();
     m_window->loadExtension();

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "workbench/mainwindow.h"
 
-#include "support/recordingdriverservice.h"
 #include "workbench/iedchooser.h"
 #include "workbench/tableview.h"
 #include "workbench/workbench.h"
@@ -111,14 +110,11 @@ void tst_MainWindow::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     m_slow = false;
-    const QString settings = m_folder->filePath(QStringLiteral("workbench.ini"));
-    Workbench::Driver driver;
-    driver.service = std::make_shared<RecordingDriverService>();
-    driver.hold = [](int, const QByteArray &) {};
-    driver.release = [](int) {};
-    driver.import = [this](const ImportRequest &request, const std::atomic<bool> &cancelled,
-                           const auto &) { return import(request, cancelled); };
-    m_workbench = std::make_unique<Workbench>(settings, driver);
+    Workbench::Options options;
+    options.settingsFile = m_folder->filePath(QStringLiteral("workbench.ini"));
+    options.import = [this](const ImportRequest &request, const std::atomic<bool> &cancelled,
+                            const auto &) { return import(request, cancelled); };
+    m_workbench = std::make_unique<Workbench>(options);
     m_window = std::make_unique<MainWindow>(*m_workbench, pluginFolder(QStringLiteral("good")));
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
@@ -143,7 +139,7 @@ void tst_MainWindow::open(const QString &name, const QString &ied)
 void tst_MainWindow::anEmptyListSaysWhatToDo()
 {
     QVERIFY(child<QLabel>("emptyText")->isVisible());
-    QCOMPARE(child<QLabel>("emptyText")->text(), QStringLiteral("No device yet: open an SCL file"));
+    QCOMPARE(child<QLabel>("emptyText")->text(), QStringLiteral("No device yet: add one, or open an SCL file"));
     QVERIFY(child<QPushButton>("emptyOpen")->isVisible());
     open(QStringLiteral("a.icd"));
     QVERIFY(!child<QLabel>("emptyText")->isVisible());
@@ -200,11 +196,11 @@ void tst_MainWindow::theExtensionIsToldOfTheSelectionBeforeItsToolRuns()
     open(QStringLiteral("a.icd"));
     open(QStringLiteral("b.icd"));
     const int second = m_window->selectedDevice();
-    QCOMPARE(second, m_workbench->devices().deviceAt(1)->record.number);
+    QCOMPARE(second, m_workbench->devices().deviceAt(1)->record.number());
     const QVariantList context = recorder(*m_window)->property("context").toList();
     QCOMPARE(context, (QVariantList{EmbeddedConsole::driverNo, second, 0, true}));
 
-    const int first = m_workbench->devices().deviceAt(0)->record.number;
+    const int first = m_workbench->devices().deviceAt(0)->record.number();
     m_window->selectDevice(first);
     QCOMPARE(recorder(*m_window)->property("context").toList().at(1).toInt(), first);
     m_window->extensionActions().first()->trigger();
@@ -277,8 +273,8 @@ void tst_MainWindow::theChosenIedsAreOpened()
     QTest::mouseClick(chooser->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok),
                       Qt::LeftButton);
     QTRY_COMPARE(m_workbench->devices().rowCount(), 2);
-    QCOMPARE(m_workbench->devices().deviceAt(0)->record.ied, QStringLiteral("A"));
-    QCOMPARE(m_workbench->devices().deviceAt(1)->record.ied, QStringLiteral("B"));
+    QCOMPARE(m_workbench->devices().deviceAt(0)->record.ied(), QStringLiteral("A"));
+    QCOMPARE(m_workbench->devices().deviceAt(1)->record.ied(), QStringLiteral("B"));
 }
 
 void tst_MainWindow::anIedWithoutLogicalDevicesCannotBeChosen()
@@ -300,7 +296,7 @@ void tst_MainWindow::findingsOfTheSelectedDeviceAreShown()
     QCOMPARE(findings->rowCount(), 1);
     QCOMPARE(child<QDockWidget>("findingsDock")->windowTitle(),
              QStringLiteral("Findings: A (1 error)"));
-    m_window->selectDevice(m_workbench->devices().deviceAt(0)->record.number);
+    m_window->selectDevice(m_workbench->devices().deviceAt(0)->record.number());
     QCOMPARE(findings->rowCount(), 0);
 }
 
@@ -327,7 +323,7 @@ void tst_MainWindow::deleteTakesTheSelectedDeviceOffTheList()
     devices->setFocus();
     QTest::keyClick(devices, Qt::Key_Delete);
     QCOMPARE(m_workbench->devices().rowCount(), 1);
-    QVERIFY(m_workbench->devices().deviceAt(0)->record.file.endsWith(QLatin1String("a.icd")));
+    QVERIFY(m_workbench->devices().deviceAt(0)->record.file().endsWith(QLatin1String("a.icd")));
 }
 
 void tst_MainWindow::droppedFilesAreOpened()

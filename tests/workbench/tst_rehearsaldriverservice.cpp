@@ -19,9 +19,9 @@ const QString protection = QStringLiteral("BAY1E1PROT");
 QByteArray demonstrationModel()
 {
     const std::atomic<bool> cancelled{false};
-    const ImportResult result = makeEmbeddedDriver().import(
-        {QStringLiteral(DEMONSTRATION_FILE), {}}, cancelled, [](double) {});
-    return result.model;
+    ImportRequest request;
+    request.file = QStringLiteral(DEMONSTRATION_FILE);
+    return importFromFile(request, cancelled, [](double) {}).model;
 }
 
 QByteArray variant(const QVariant &value)

@@ -46,8 +46,10 @@ void tst_TourLanguages::initTestCase()
     installTranslators(translationFolder());
     // Where a person wants to see the pictures too.
     m_pictures = qEnvironmentVariable("TOUR_PICTURES", m_folder.path());
-    m_workbench =
-        std::make_unique<Workbench>(m_folder.filePath("workbench.ini"), makeEmbeddedDriver());
+    Workbench::Options options;
+    options.settingsFile = m_folder.filePath("workbench.ini");
+    options.import = importFromFile;
+    m_workbench = std::make_unique<Workbench>(options);
     m_window = std::make_unique<MainWindow>(*m_workbench, PLUGIN_FOLDER);
     m_window->loadExtension();
     QVERIFY2(m_window->extension().extension, qPrintable(m_window->extension().reason));

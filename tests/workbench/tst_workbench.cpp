@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "workbench/workbench.h"
 
-#include "support/recordingdriverservice.h"
-
 #include <remoteclient/driverserviceregistry.h>
 
 #include <QtCore/QDir>
@@ -15,27 +13,24 @@
 
 namespace {
 
-/// What the import finds in the files of a test, and what the driver was given.
+/// What the import finds in the files of a test.
 struct World
 {
     QMap<QString, QStringList> ieds; ///< by file name; a file that is not listed cannot be read
-    QMap<int, QByteArray> held;
     QSemaphore mayEnd;
     std::atomic<bool> slow{false}; ///< the import waits for `mayEnd` or the cancel flag
 
-    Workbench::Driver driver()
+    Workbench::Options options(const QString &settingsFile)
     {
-        Workbench::Driver driver;
-        driver.service = std::make_shared<RecordingDriverService>();
-        driver.hold = [this](int number, const QByteArray &model) { held[number] = model; };
-        driver.release = [this](int number) { held.remove(number); };
-        driver.import = [this](const ImportRequest &request, const std::atomic<bool> &cancelled,
-                               const auto &) {
+        Workbench::Options options;
+        options.settingsFile = settingsFile;
+        options.import = [this](const ImportRequest &request, const std::atomic<bool> &cancelled,
+                                const auto &) {
             while (slow && !cancelled && !mayEnd.tryAcquire())
                 QThread::yieldCurrentThread();
             return import(request);
         };
-        return driver;
+        return options;
     }
 
     ImportResult import(const ImportRequest &request) const
@@ -59,6 +54,15 @@ struct World
         return result;
     }
 };
+
+/// The model that the driver answers with for the device; empty when it refuses.
+QByteArray held(Workbench &workbench, int number)
+{
+    QByteArray model;
+    QString error;
+    workbench.driver().getIEDModel(number, model, error);
+    return model;
+}
 
 } // namespace
 
@@ -89,7 +93,7 @@ private slots:
 private:
     std::unique_ptr<Workbench> make()
     {
-        return std::make_unique<Workbench>(m_settings, m_world->driver());
+        return std::make_unique<Workbench>(m_world->options(m_settings));
     }
     /// A workbench that is not at its first start.
     std::unique_ptr<Workbench> makeUsed();
@@ -136,7 +140,7 @@ void tst_Workbench::theFirstStartShowsTheDemonstrationDevice()
                                           QAbstractItemModelTester::FailureReportingMode::QtTest);
     workbench->restoreDevices();
     QTRY_COMPARE(workbench->devices().rowCount(), 1);
-    QCOMPARE(workbench->devices().deviceAt(0)->record.ied, QStringLiteral("DEMO"));
+    QCOMPARE(workbench->devices().deviceAt(0)->record.ied(), QStringLiteral("DEMO"));
     QCOMPARE(workbench->devices().deviceAt(0)->state, DeviceListModel::Ready);
 }
 
@@ -148,7 +152,7 @@ void tst_Workbench::aListThatWasEmptiedStaysEmpty()
         QTRY_COMPARE(workbench->devices().rowCount(), 1);
         workbench->remove(1);
         QCOMPARE(workbench->devices().rowCount(), 0);
-        QVERIFY(m_world->held.isEmpty());
+        QVERIFY(held(*workbench, 1).isEmpty());
     }
     const auto workbench = make();
     workbench->restoreDevices();
@@ -167,9 +171,9 @@ void tst_Workbench::openingAFileAddsItsDevice()
     const DeviceListModel::Device *device = workbench->devices().device(number);
     QVERIFY(device);
     QCOMPARE(device->state, DeviceListModel::Ready);
-    QCOMPARE(device->record.file, path);
+    QCOMPARE(device->record.file(), path);
     QCOMPARE(device->findings.size(), 1);
-    QCOMPARE(m_world->held.value(number), path.toUtf8() + "#A");
+    QCOMPARE(held(*workbench, number), path.toUtf8() + "#A");
     const QModelIndex state = workbench->devices().index(0, DeviceListModel::StateColumn);
     QCOMPARE(state.data().toString(), QStringLiteral("Offline model"));
 }
@@ -183,15 +187,15 @@ void tst_Workbench::rememberedDevicesAreReadAtTheNextStart()
         workbench->open(path, QStringLiteral("A"));
         QTRY_COMPARE(workbench->devices().rowCount(), 2);
     }
-    m_world->held.clear();
     const auto workbench = make();
     workbench->restoreDevices();
     QCOMPARE(workbench->devices().rowCount(), 2);
     QTRY_VERIFY(settled(*workbench));
-    QCOMPARE(workbench->devices().deviceAt(0)->record.ied, QStringLiteral("B"));
-    QCOMPARE(workbench->devices().deviceAt(0)->record.number, 2);
+    QCOMPARE(workbench->devices().deviceAt(0)->record.ied(), QStringLiteral("B"));
+    QCOMPARE(workbench->devices().deviceAt(0)->record.number(), 2);
     QCOMPARE(workbench->devices().deviceAt(1)->state, DeviceListModel::Ready);
-    QCOMPARE(m_world->held.keys(), (QList<int>{2, 3}));
+    QCOMPARE(held(*workbench, 2), path.toUtf8() + "#B");
+    QCOMPARE(held(*workbench, 3), path.toUtf8() + "#A");
 }
 
 void tst_Workbench::aFileThatCannotBeUsedLeavesTheListAsItWas()
@@ -239,7 +243,7 @@ void tst_Workbench::aFileWithSeveralIedsAsksWhichOne()
     QCOMPARE(workbench->devices().rowCount(), 0);
     workbench->open(path, QStringLiteral("B"));
     QTRY_COMPARE(workbench->devices().rowCount(), 1);
-    QCOMPARE(workbench->devices().deviceAt(0)->record.ied, QStringLiteral("B"));
+    QCOMPARE(workbench->devices().deviceAt(0)->record.ied(), QStringLiteral("B"));
 }
 
 void tst_Workbench::openingTheSameIedAgainSelectsIt()
@@ -281,17 +285,17 @@ void tst_Workbench::aVanishedFileCanBeReadAgainWhenItIsBack()
     const QString path = file(QStringLiteral("a.icd"), {QStringLiteral("A")});
     workbench->open(path);
     QTRY_COMPARE(workbench->devices().rowCount(), 1);
-    const int number = workbench->devices().deviceAt(0)->record.number;
+    const int number = workbench->devices().deviceAt(0)->record.number();
 
     m_world->ieds.remove(QStringLiteral("a.icd"));
     workbench->reload(number);
     QTRY_COMPARE(workbench->devices().device(number)->state, DeviceListModel::Failed);
-    QVERIFY(!m_world->held.contains(number));
+    QVERIFY(held(*workbench, number).isEmpty());
 
     m_world->ieds[QStringLiteral("a.icd")] = QStringList{QStringLiteral("A")};
     workbench->reload(number);
     QTRY_COMPARE(workbench->devices().device(number)->state, DeviceListModel::Ready);
-    QVERIFY(m_world->held.contains(number));
+    QVERIFY(!held(*workbench, number).isEmpty());
 }
 
 void tst_Workbench::cancellingAnOpenLeavesTheListAsItWas()
@@ -312,14 +316,14 @@ void tst_Workbench::cancellingAReloadKeepsTheModel()
     const auto workbench = makeUsed();
     workbench->open(file(QStringLiteral("a.icd"), {QStringLiteral("A")}));
     QTRY_COMPARE(workbench->devices().rowCount(), 1);
-    const int number = workbench->devices().deviceAt(0)->record.number;
+    const int number = workbench->devices().deviceAt(0)->record.number();
     m_world->slow = true;
     workbench->reload(number);
     QCOMPARE(workbench->devices().device(number)->state, DeviceListModel::Loading);
     workbench->loader().cancel();
     QTRY_COMPARE(workbench->devices().device(number)->state, DeviceListModel::Ready);
     QCOMPARE(workbench->devices().device(number)->findings.size(), 1);
-    QVERIFY(m_world->held.contains(number));
+    QVERIFY(!held(*workbench, number).isEmpty());
 }
 
 void tst_Workbench::aDeviceRemovedWhileItLoadsStaysRemoved()
@@ -327,12 +331,12 @@ void tst_Workbench::aDeviceRemovedWhileItLoadsStaysRemoved()
     const auto workbench = makeUsed();
     workbench->open(file(QStringLiteral("a.icd"), {QStringLiteral("A")}));
     QTRY_COMPARE(workbench->devices().rowCount(), 1);
-    const int number = workbench->devices().deviceAt(0)->record.number;
+    const int number = workbench->devices().deviceAt(0)->record.number();
     workbench->reload(number);
     workbench->remove(number);
     QTRY_VERIFY(settled(*workbench));
     QCOMPARE(workbench->devices().rowCount(), 0);
-    QVERIFY(m_world->held.isEmpty());
+    QVERIFY(held(*workbench, number).isEmpty());
 }
 
 void tst_Workbench::theDriverAnswersAtTheEmbeddedAddress()
@@ -353,7 +357,7 @@ void tst_Workbench::theConsoleKnowsWhereADeviceIs()
     const QString path = file(QStringLiteral("a.icd"), {QStringLiteral("A")});
     workbench->open(path);
     QTRY_COMPARE(workbench->devices().rowCount(), 1);
-    const int number = workbench->devices().deviceAt(0)->record.number;
+    const int number = workbench->devices().deviceAt(0)->record.number();
     QString location;
     DriverConsolInterface &console = *workbench->context().console;
     QCOMPARE(console.getLoc(EmbeddedConsole::driverNo, number, location), OperationSucceeded);
