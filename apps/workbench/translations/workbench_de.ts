@@ -2,6 +2,53 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_US">
 <context>
+    <name>ChangeJournal</name>
+    <message>
+        <source>The journal &quot;%1&quot; cannot be written: %2</source>
+        <translation>Das Journal „%1“ kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>Operation</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>Referenz</translation>
+    </message>
+    <message>
+        <source>Old value</source>
+        <translation>Alter Wert</translation>
+    </message>
+    <message>
+        <source>New value</source>
+        <translation>Neuer Wert</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>Additional cause</source>
+        <translation>Zusatzursache</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Say what is in an SCL file, as JSON, and exit: with 0 when it is without errors, 1 with errors, 2 when it cannot be used. Needs no display.</source>
@@ -206,12 +253,116 @@
         <translation>Nr.</translation>
     </message>
     <message>
-        <source>Model source</source>
-        <translation>Quelle des Modells</translation>
-    </message>
-    <message>
         <source>State</source>
         <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Starting the simulation…</source>
+        <translation>Simulation wird gestartet …</translation>
+    </message>
+    <message>
+        <source>Cannot be used: %1</source>
+        <translation>Nicht zu verwenden: %1</translation>
+    </message>
+    <message>
+        <source>Simulation stopped</source>
+        <translation>Simulation beendet</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>Nicht verbunden</translation>
+    </message>
+    <message>
+        <source>Not connected: %1</source>
+        <translation>Nicht verbunden: %1</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Wird verbunden …</translation>
+    </message>
+    <message>
+        <source>Reading the model (%1 %)…</source>
+        <translation>Modell wird gelesen (%1 %) …</translation>
+    </message>
+    <message>
+        <source>Reading the model…</source>
+        <translation>Modell wird gelesen …</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <source>Trying again: %1</source>
+        <translation>Neuer Versuch folgt: %1</translation>
+    </message>
+    <message>
+        <source>Simulated demonstration</source>
+        <translation>Simulierte Demonstration</translation>
+    </message>
+    <message>
+        <source>Simulated: %1</source>
+        <translation>Simuliert: %1</translation>
+    </message>
+    <message>
+        <source>Reached at %1, port %2</source>
+        <translation>Erreichbar unter %1, Port %2</translation>
+    </message>
+    <message>
+        <source>Since %1</source>
+        <translation>Seit %1</translation>
+    </message>
+    <message>
+        <source>Objects that the device did not describe: %1</source>
+        <translation>Objekte, die das Gerät nicht beschrieben hat: %1</translation>
+    </message>
+    <message>
+        <source>Vendor: %1
+Model: %2
+Revision: %3</source>
+        <translation>Hersteller: %1
+Modell: %2
+Revision: %3</translation>
+    </message>
+    <message>
+        <source>Time from a request to its answer, measured last</source>
+        <translation>Zeit von einer Anfrage bis zur Antwort, zuletzt gemessen</translation>
+    </message>
+    <message>
+        <source>PDUs sent: %1
+PDUs received: %2
+Reports: %3
+Published values: %4
+Connections: %5</source>
+        <translation>Gesendete PDUs: %1
+Empfangene PDUs: %2
+Reports: %3
+Veröffentlichte Werte: %4
+Verbindungen: %5</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>Identity</source>
+        <translation>Identität</translation>
+    </message>
+    <message>
+        <source>Round trip</source>
+        <translation>Umlaufzeit</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>Reports</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Werte</translation>
     </message>
 </context>
 <context>
@@ -518,6 +669,134 @@
         <source>The value to be written cannot be read.</source>
         <translation>Der zu schreibende Wert ist nicht lesbar.</translation>
     </message>
+    <message>
+        <source>Select the object first</source>
+        <translation>Wählen Sie das Objekt zuerst an</translation>
+    </message>
+    <message>
+        <source>%1 has the control model %2, but the command was made for %3: read the model of the device again.</source>
+        <translation>%1 hat das Steuermodell %2, der Befehl ist aber für %3: Lesen Sie das Modell des Geräts erneut.</translation>
+    </message>
+    <message>
+        <source>The command is not the one that was selected.</source>
+        <translation>Der Befehl ist nicht derjenige, für den angewählt wurde.</translation>
+    </message>
+    <message>
+        <source>The control request cannot be read.</source>
+        <translation>Die Steueranforderung kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The control request is for %1, not for %2.</source>
+        <translation>Die Steueranforderung gilt für %1, nicht für %2.</translation>
+    </message>
+    <message>
+        <source>The control value is no finite number.</source>
+        <translation>Der Steuerwert ist keine endliche Zahl.</translation>
+    </message>
+    <message>
+        <source>%1 is no code of the check conditions.</source>
+        <translation>%1 ist kein Code der Prüfbedingungen.</translation>
+    </message>
+    <message>
+        <source>The test flag is 0 or 1, not %1.</source>
+        <translation>Das Test-Flag ist 0 oder 1, nicht %1.</translation>
+    </message>
+    <message>
+        <source>interlock check</source>
+        <translation>Verriegelungsprüfung</translation>
+    </message>
+    <message>
+        <source>synchrocheck</source>
+        <translation>Synchrocheck</translation>
+    </message>
+    <message>
+        <source>test</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>The driver has not waited for the end of the operation.</source>
+        <translation>Der Treiber hat das Ende des Schaltvorgangs nicht abgewartet.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not name a report control block.</source>
+        <translation>„%1“ benennt keinen Report-Steuerblock.</translation>
+    </message>
+    <message>
+        <source>The attribute &quot;%1&quot; of a report control block cannot be written.</source>
+        <translation>Das Attribut „%1“ eines Report-Steuerblocks kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The value for %1 has %2 bytes instead of %3.</source>
+        <translation>Der Wert für %1 hat %2 Bytes statt %3.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be negative.</source>
+        <translation>%1 kann nicht negativ sein.</translation>
+    </message>
+    <message>
+        <source>Buffer time and integrity period cannot be negative.</source>
+        <translation>Pufferzeit und Integritätsperiode können nicht negativ sein.</translation>
+    </message>
+    <message>
+        <source>enabled again after the association was lost</source>
+        <translation>erneute Freigabe nach dem Verlust der Assoziation</translation>
+    </message>
+    <message>
+        <source>The report control block %1 has no data set.</source>
+        <translation>Der Report-Steuerblock %1 hat keinen Datensatz.</translation>
+    </message>
+    <message>
+        <source>The device has not enabled %1 although it said so.</source>
+        <translation>Das Gerät hat %1 nicht freigegeben, obwohl es dies bestätigt hat.</translation>
+    </message>
+    <message>
+        <source>The data set %1 cannot be used: %2</source>
+        <translation>Der Datensatz %1 ist nicht zu verwenden: %2</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>gesperrt</translation>
+    </message>
+    <message>
+        <source>the driver is read-only.</source>
+        <translation>der Treiber ist schreibgeschützt.</translation>
+    </message>
+    <message>
+        <source>The report control block %1 could not be %2: %3</source>
+        <translation>Report-Steuerblock %1: %2 nicht gelungen: %3</translation>
+    </message>
+    <message>
+        <source>The device has disabled %1 by itself.</source>
+        <translation>Das Gerät hat %1 von sich aus gesperrt.</translation>
+    </message>
+    <message>
+        <source>enabled again</source>
+        <translation>erneute Freigabe</translation>
+    </message>
+    <message>
+        <source>A report of the device could not be read: %1</source>
+        <translation>Ein Report des Geräts war nicht lesbar: %1</translation>
+    </message>
+    <message>
+        <source>A report of %1 has %2 members, but its data set has %3.</source>
+        <translation>Ein Report von %1 hat %2 Elemente, sein Datensatz aber %3.</translation>
+    </message>
+    <message>
+        <source>The reports of %1 have no value for %2: %3.</source>
+        <translation>Die Reports von %1 haben keinen Wert für %2: %3.</translation>
+    </message>
+    <message>
+        <source>A value of %1 in the reports of %2 does not have the form of its type.</source>
+        <translation>Ein Wert von %1 in den Reports von %2 hat nicht die Form seines Typs.</translation>
+    </message>
+    <message>
+        <source>The buffer of %1 has overflown: older changes are lost.</source>
+        <translation>Der Puffer von %1 ist übergelaufen: Ältere Änderungen sind verloren.</translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation>freigegeben</translation>
+    </message>
 </context>
 <context>
     <name>JournalModel</name>
@@ -573,10 +852,6 @@
         <translation>Erneut &amp;versuchen</translation>
     </message>
     <message>
-        <source>No device yet: open an SCL file</source>
-        <translation>Noch kein Gerät: Öffnen Sie eine SCL-Datei</translation>
-    </message>
-    <message>
         <source>&amp;Open SCL File…</source>
         <translation>SCL-Datei ö&amp;ffnen …</translation>
     </message>
@@ -615,10 +890,6 @@
     <message>
         <source>Journal</source>
         <translation>Journal</translation>
-    </message>
-    <message>
-        <source>Add a device from an SCL file</source>
-        <translation>Ein Gerät aus einer SCL-Datei hinzufügen</translation>
     </message>
     <message>
         <source>Ctrl+O</source>
@@ -750,6 +1021,148 @@ Eine kleine Umgebung für die IEC-61850-Werkzeuge: Sie führt Geräte auf, lädt
 
 Apache License 2.0</translation>
     </message>
+    <message>
+        <source>No device yet: add one, or open an SCL file</source>
+        <translation>Noch kein Gerät: Fügen Sie eines hinzu, oder öffnen Sie eine SCL-Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Add Device…</source>
+        <translation>Gerät &amp;hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Änderungen</translation>
+    </message>
+    <message>
+        <source>Add a device from an SCL file, without a connection</source>
+        <translation>Ein Gerät aus einer SCL-Datei hinzufügen, ohne Verbindung</translation>
+    </message>
+    <message>
+        <source>&amp;Start Simulated Device…</source>
+        <translation>&amp;Simuliertes Gerät starten …</translation>
+    </message>
+    <message>
+        <source>Simulate a device of an SCL file and connect to it</source>
+        <translation>Ein Gerät einer SCL-Datei simulieren und mit ihm verbinden</translation>
+    </message>
+    <message>
+        <source>Add &amp;Device…</source>
+        <translation>Gerät &amp;hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Add Device</source>
+        <translation>Gerät hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add a device that is reached over the network</source>
+        <translation>Ein Gerät hinzufügen, das über das Netz erreicht wird</translation>
+    </message>
+    <message>
+        <source>Ctrl+N</source>
+        <translation>Ctrl+N</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Device…</source>
+        <translation>Gerät &amp;bearbeiten …</translation>
+    </message>
+    <message>
+        <source>F2</source>
+        <translation>F2</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>&amp;Verbinden</translation>
+    </message>
+    <message>
+        <source>Connect to the selected device, now and at the next start</source>
+        <translation>Mit dem gewählten Gerät verbinden, jetzt und beim nächsten Start</translation>
+    </message>
+    <message>
+        <source>Dis&amp;connect</source>
+        <translation>&amp;Trennen</translation>
+    </message>
+    <message>
+        <source>Leave the selected device, until it is connected again</source>
+        <translation>Das gewählte Gerät verlassen, bis es wieder verbunden wird</translation>
+    </message>
+    <message>
+        <source>&amp;Start Simulation</source>
+        <translation>&amp;Simulation starten</translation>
+    </message>
+    <message>
+        <source>S&amp;top Simulation</source>
+        <translation>Si&amp;mulation beenden</translation>
+    </message>
+    <message>
+        <source>End the simulated device, as if it had lost its power</source>
+        <translation>Das simulierte Gerät beenden, als hätte es seine Versorgung verloren</translation>
+    </message>
+    <message>
+        <source>&amp;PDU Trace…</source>
+        <translation>&amp;PDU-Mitschnitt …</translation>
+    </message>
+    <message>
+        <source>Show what is exchanged with the selected device</source>
+        <translation>Den Datenverkehr mit dem gewählten Gerät zeigen</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve Capture…</source>
+        <translation>Auf&amp;zeichnung speichern …</translation>
+    </message>
+    <message>
+        <source>Save what was exchanged with the selected device for a protocol analyser</source>
+        <translation>Den Datenverkehr mit dem gewählten Gerät für einen Protokollanalysator speichern</translation>
+    </message>
+    <message>
+        <source>E&amp;xport Values…</source>
+        <translation>&amp;Werte exportieren …</translation>
+    </message>
+    <message>
+        <source>Save the values of the selected device as a table</source>
+        <translation>Die Werte des gewählten Geräts als Tabelle speichern</translation>
+    </message>
+    <message>
+        <source>Read-&amp;Only</source>
+        <translation>Schreibsch&amp;utz</translation>
+    </message>
+    <message>
+        <source>Refuse everything that changes something on a device</source>
+        <translation>Alles ablehnen, was auf einem Gerät etwas ändert</translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder of the Change Journal</source>
+        <translation>&amp;Ordner des Änderungsjournals öffnen</translation>
+    </message>
+    <message>
+        <source>Nothing was changed on a device yet. Every write, command and transfer is listed here%1.</source>
+        <translation>Noch wurde auf keinem Gerät etwas geändert. Was geschrieben, geschaltet oder übertragen wird, wird hier aufgeführt%1.</translation>
+    </message>
+    <message>
+        <source> and kept in
+%1</source>
+        <translation> und abgelegt in
+%1</translation>
+    </message>
+    <message>
+        <source>Read-only: nothing is changed on devices</source>
+        <translation>Schreibschutz: Auf Geräten wird nichts geändert</translation>
+    </message>
+    <message>
+        <source>Reading the model of %1</source>
+        <translation>Das Modell von %1 wird gelesen</translation>
+    </message>
+    <message>
+        <source>This device has no SCL file; its model is read from the device itself.</source>
+        <translation>Dieses Gerät hat keine SCL-Datei; sein Modell wird vom Gerät selbst gelesen.</translation>
+    </message>
+    <message>
+        <source>Start Simulated Device</source>
+        <translation>Simuliertes Gerät starten</translation>
+    </message>
+    <message>
+        <source>%1 was taken off the list.</source>
+        <translation>%1 wurde aus der Liste genommen.</translation>
+    </message>
 </context>
 <context>
     <name>OfflineDriverService</name>
@@ -838,6 +1251,17 @@ Apache License 2.0</translation>
     <message>
         <source>The file describes several IEDs; one must be chosen.</source>
         <translation>Die Datei beschreibt mehrere IEDs; eines muss gewählt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>SimulatedDevice</name>
+    <message>
+        <source>The files of the simulated device cannot be written to &quot;%1&quot;.</source>
+        <translation>Die Dateien des simulierten Geräts können nicht in „%1“ geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The device cannot be simulated: %1</source>
+        <translation>Das Gerät kann nicht simuliert werden: %1</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,53 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es_ES" sourcelanguage="en_US">
 <context>
+    <name>ChangeJournal</name>
+    <message>
+        <source>The journal &quot;%1&quot; cannot be written: %2</source>
+        <translation>No se puede escribir el registro «%1»: %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Correcto</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>Operación</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>Referencia</translation>
+    </message>
+    <message>
+        <source>Old value</source>
+        <translation>Valor anterior</translation>
+    </message>
+    <message>
+        <source>New value</source>
+        <translation>Valor nuevo</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>Additional cause</source>
+        <translation>Causa adicional</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Say what is in an SCL file, as JSON, and exit: with 0 when it is without errors, 1 with errors, 2 when it cannot be used. Needs no display.</source>
@@ -206,12 +253,116 @@
         <translation>N.º</translation>
     </message>
     <message>
-        <source>Model source</source>
-        <translation>Origen del modelo</translation>
-    </message>
-    <message>
         <source>State</source>
         <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Starting the simulation…</source>
+        <translation>Iniciando la simulación…</translation>
+    </message>
+    <message>
+        <source>Cannot be used: %1</source>
+        <translation>No se puede usar: %1</translation>
+    </message>
+    <message>
+        <source>Simulation stopped</source>
+        <translation>Simulación detenida</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>Sin conexión</translation>
+    </message>
+    <message>
+        <source>Not connected: %1</source>
+        <translation>Sin conexión: %1</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Conectando…</translation>
+    </message>
+    <message>
+        <source>Reading the model (%1 %)…</source>
+        <translation>Leyendo el modelo (%1 %)…</translation>
+    </message>
+    <message>
+        <source>Reading the model…</source>
+        <translation>Leyendo el modelo…</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Conectado</translation>
+    </message>
+    <message>
+        <source>Trying again: %1</source>
+        <translation>Se volverá a intentar: %1</translation>
+    </message>
+    <message>
+        <source>Simulated demonstration</source>
+        <translation>Demostración simulada</translation>
+    </message>
+    <message>
+        <source>Simulated: %1</source>
+        <translation>Simulado: %1</translation>
+    </message>
+    <message>
+        <source>Reached at %1, port %2</source>
+        <translation>Accesible en %1, puerto %2</translation>
+    </message>
+    <message>
+        <source>Since %1</source>
+        <translation>Desde %1</translation>
+    </message>
+    <message>
+        <source>Objects that the device did not describe: %1</source>
+        <translation>Objetos que el dispositivo no ha descrito: %1</translation>
+    </message>
+    <message>
+        <source>Vendor: %1
+Model: %2
+Revision: %3</source>
+        <translation>Fabricante: %1
+Modelo: %2
+Revisión: %3</translation>
+    </message>
+    <message>
+        <source>Time from a request to its answer, measured last</source>
+        <translation>Tiempo de una petición a su respuesta, última medida</translation>
+    </message>
+    <message>
+        <source>PDUs sent: %1
+PDUs received: %2
+Reports: %3
+Published values: %4
+Connections: %5</source>
+        <translation>PDU enviadas: %1
+PDU recibidas: %2
+Informes: %3
+Valores publicados: %4
+Conexiones: %5</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Origen</translation>
+    </message>
+    <message>
+        <source>Identity</source>
+        <translation>Identidad</translation>
+    </message>
+    <message>
+        <source>Round trip</source>
+        <translation>Ida y vuelta</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>Informes</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Valores</translation>
     </message>
 </context>
 <context>
@@ -518,6 +669,134 @@
         <source>The value to be written cannot be read.</source>
         <translation>No se puede leer el valor que se va a escribir.</translation>
     </message>
+    <message>
+        <source>Select the object first</source>
+        <translation>Seleccione primero el objeto</translation>
+    </message>
+    <message>
+        <source>%1 has the control model %2, but the command was made for %3: read the model of the device again.</source>
+        <translation>%1 tiene el modelo de control %2, pero el mando se hizo para %3: lea de nuevo el modelo del dispositivo.</translation>
+    </message>
+    <message>
+        <source>The command is not the one that was selected.</source>
+        <translation>El mando no es el que se seleccionó.</translation>
+    </message>
+    <message>
+        <source>The control request cannot be read.</source>
+        <translation>No se puede leer la petición de mando.</translation>
+    </message>
+    <message>
+        <source>The control request is for %1, not for %2.</source>
+        <translation>La petición de mando es para %1, no para %2.</translation>
+    </message>
+    <message>
+        <source>The control value is no finite number.</source>
+        <translation>El valor de mando no es un número finito.</translation>
+    </message>
+    <message>
+        <source>%1 is no code of the check conditions.</source>
+        <translation>%1 no es un código de las condiciones de comprobación.</translation>
+    </message>
+    <message>
+        <source>The test flag is 0 or 1, not %1.</source>
+        <translation>El indicador de prueba es 0 o 1, no %1.</translation>
+    </message>
+    <message>
+        <source>interlock check</source>
+        <translation>comprobación de enclavamiento</translation>
+    </message>
+    <message>
+        <source>synchrocheck</source>
+        <translation>comprobación de sincronismo</translation>
+    </message>
+    <message>
+        <source>test</source>
+        <translation>prueba</translation>
+    </message>
+    <message>
+        <source>The driver has not waited for the end of the operation.</source>
+        <translation>El controlador no ha esperado el final de la maniobra.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not name a report control block.</source>
+        <translation>«%1» no nombra ningún bloque de control de informes.</translation>
+    </message>
+    <message>
+        <source>The attribute &quot;%1&quot; of a report control block cannot be written.</source>
+        <translation>El atributo «%1» de un bloque de control de informes no se puede escribir.</translation>
+    </message>
+    <message>
+        <source>The value for %1 has %2 bytes instead of %3.</source>
+        <translation>El valor para %1 tiene %2 bytes en vez de %3.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be negative.</source>
+        <translation>%1 no puede ser negativo.</translation>
+    </message>
+    <message>
+        <source>Buffer time and integrity period cannot be negative.</source>
+        <translation>El tiempo de búfer y el período de integridad no pueden ser negativos.</translation>
+    </message>
+    <message>
+        <source>enabled again after the association was lost</source>
+        <translation>nueva habilitación tras la pérdida de la asociación</translation>
+    </message>
+    <message>
+        <source>The report control block %1 has no data set.</source>
+        <translation>El bloque de control de informes %1 no tiene conjunto de datos.</translation>
+    </message>
+    <message>
+        <source>The device has not enabled %1 although it said so.</source>
+        <translation>El dispositivo no ha habilitado %1 aunque lo confirmó.</translation>
+    </message>
+    <message>
+        <source>The data set %1 cannot be used: %2</source>
+        <translation>El conjunto de datos %1 no se puede usar: %2</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>deshabilitado</translation>
+    </message>
+    <message>
+        <source>the driver is read-only.</source>
+        <translation>el controlador está en solo lectura.</translation>
+    </message>
+    <message>
+        <source>The report control block %1 could not be %2: %3</source>
+        <translation>Bloque de control de informes %1: no fue posible la %2: %3</translation>
+    </message>
+    <message>
+        <source>The device has disabled %1 by itself.</source>
+        <translation>El dispositivo ha deshabilitado %1 por sí mismo.</translation>
+    </message>
+    <message>
+        <source>enabled again</source>
+        <translation>nueva habilitación</translation>
+    </message>
+    <message>
+        <source>A report of the device could not be read: %1</source>
+        <translation>No se ha podido leer un informe del dispositivo: %1</translation>
+    </message>
+    <message>
+        <source>A report of %1 has %2 members, but its data set has %3.</source>
+        <translation>Un informe de %1 tiene %2 miembros, pero su conjunto de datos tiene %3.</translation>
+    </message>
+    <message>
+        <source>The reports of %1 have no value for %2: %3.</source>
+        <translation>Los informes de %1 no traen valor para %2: %3.</translation>
+    </message>
+    <message>
+        <source>A value of %1 in the reports of %2 does not have the form of its type.</source>
+        <translation>Un valor de %1 en los informes de %2 no tiene la forma de su tipo.</translation>
+    </message>
+    <message>
+        <source>The buffer of %1 has overflown: older changes are lost.</source>
+        <translation>El búfer de %1 se ha desbordado: se han perdido los cambios más antiguos.</translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation>habilitado</translation>
+    </message>
 </context>
 <context>
     <name>JournalModel</name>
@@ -573,10 +852,6 @@
         <translation>&amp;Reintentar</translation>
     </message>
     <message>
-        <source>No device yet: open an SCL file</source>
-        <translation>Todavía no hay ningún dispositivo: abra un archivo SCL</translation>
-    </message>
-    <message>
         <source>&amp;Open SCL File…</source>
         <translation>A&amp;brir archivo SCL…</translation>
     </message>
@@ -615,10 +890,6 @@
     <message>
         <source>Journal</source>
         <translation>Registro</translation>
-    </message>
-    <message>
-        <source>Add a device from an SCL file</source>
-        <translation>Añadir un dispositivo a partir de un archivo SCL</translation>
     </message>
     <message>
         <source>Ctrl+O</source>
@@ -750,6 +1021,148 @@ Un pequeño anfitrión para las herramientas IEC 61850: enumera los dispositivos
 
 Apache License 2.0</translation>
     </message>
+    <message>
+        <source>No device yet: add one, or open an SCL file</source>
+        <translation>Todavía no hay ningún dispositivo: añada uno o abra un archivo SCL</translation>
+    </message>
+    <message>
+        <source>&amp;Add Device…</source>
+        <translation>Añadir &amp;dispositivo…</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Cambios</translation>
+    </message>
+    <message>
+        <source>Add a device from an SCL file, without a connection</source>
+        <translation>Añadir un dispositivo a partir de un archivo SCL, sin conexión</translation>
+    </message>
+    <message>
+        <source>&amp;Start Simulated Device…</source>
+        <translation>Iniciar dispositivo si&amp;mulado…</translation>
+    </message>
+    <message>
+        <source>Simulate a device of an SCL file and connect to it</source>
+        <translation>Simular un dispositivo de un archivo SCL y conectarse a él</translation>
+    </message>
+    <message>
+        <source>Add &amp;Device…</source>
+        <translation>&amp;Añadir dispositivo…</translation>
+    </message>
+    <message>
+        <source>Add Device</source>
+        <translation>Añadir dispositivo</translation>
+    </message>
+    <message>
+        <source>Add a device that is reached over the network</source>
+        <translation>Añadir un dispositivo accesible por la red</translation>
+    </message>
+    <message>
+        <source>Ctrl+N</source>
+        <translation>Ctrl+N</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Device…</source>
+        <translation>&amp;Editar dispositivo…</translation>
+    </message>
+    <message>
+        <source>F2</source>
+        <translation>F2</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>&amp;Conectar</translation>
+    </message>
+    <message>
+        <source>Connect to the selected device, now and at the next start</source>
+        <translation>Conectar con el dispositivo seleccionado, ahora y en el próximo inicio</translation>
+    </message>
+    <message>
+        <source>Dis&amp;connect</source>
+        <translation>&amp;Desconectar</translation>
+    </message>
+    <message>
+        <source>Leave the selected device, until it is connected again</source>
+        <translation>Dejar el dispositivo seleccionado hasta que se conecte de nuevo</translation>
+    </message>
+    <message>
+        <source>&amp;Start Simulation</source>
+        <translation>&amp;Iniciar la simulación</translation>
+    </message>
+    <message>
+        <source>S&amp;top Simulation</source>
+        <translation>De&amp;tener la simulación</translation>
+    </message>
+    <message>
+        <source>End the simulated device, as if it had lost its power</source>
+        <translation>Detener el dispositivo simulado, como si hubiera perdido la alimentación</translation>
+    </message>
+    <message>
+        <source>&amp;PDU Trace…</source>
+        <translation>Traza de &amp;PDU…</translation>
+    </message>
+    <message>
+        <source>Show what is exchanged with the selected device</source>
+        <translation>Mostrar lo que se intercambia con el dispositivo seleccionado</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve Capture…</source>
+        <translation>&amp;Guardar la captura…</translation>
+    </message>
+    <message>
+        <source>Save what was exchanged with the selected device for a protocol analyser</source>
+        <translation>Guardar lo intercambiado con el dispositivo seleccionado para un analizador de protocolo</translation>
+    </message>
+    <message>
+        <source>E&amp;xport Values…</source>
+        <translation>E&amp;xportar los valores…</translation>
+    </message>
+    <message>
+        <source>Save the values of the selected device as a table</source>
+        <translation>Guardar los valores del dispositivo seleccionado como tabla</translation>
+    </message>
+    <message>
+        <source>Read-&amp;Only</source>
+        <translation>&amp;Solo lectura</translation>
+    </message>
+    <message>
+        <source>Refuse everything that changes something on a device</source>
+        <translation>Rechazar todo lo que cambie algo en un dispositivo</translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder of the Change Journal</source>
+        <translation>Abrir la &amp;carpeta del registro de cambios</translation>
+    </message>
+    <message>
+        <source>Nothing was changed on a device yet. Every write, command and transfer is listed here%1.</source>
+        <translation>Todavía no se ha cambiado nada en ningún dispositivo. Todo lo que se escribe, manda o transfiere se anota aquí%1.</translation>
+    </message>
+    <message>
+        <source> and kept in
+%1</source>
+        <translation> y se guarda en
+%1</translation>
+    </message>
+    <message>
+        <source>Read-only: nothing is changed on devices</source>
+        <translation>Solo lectura: no se cambia nada en los dispositivos</translation>
+    </message>
+    <message>
+        <source>Reading the model of %1</source>
+        <translation>Leyendo el modelo de %1</translation>
+    </message>
+    <message>
+        <source>This device has no SCL file; its model is read from the device itself.</source>
+        <translation>Este dispositivo no tiene archivo SCL; su modelo se lee del propio dispositivo.</translation>
+    </message>
+    <message>
+        <source>Start Simulated Device</source>
+        <translation>Iniciar dispositivo simulado</translation>
+    </message>
+    <message>
+        <source>%1 was taken off the list.</source>
+        <translation>%1 se ha quitado de la lista.</translation>
+    </message>
 </context>
 <context>
     <name>OfflineDriverService</name>
@@ -838,6 +1251,17 @@ Apache License 2.0</translation>
     <message>
         <source>The file describes several IEDs; one must be chosen.</source>
         <translation>El archivo describe varios IED; hay que elegir uno.</translation>
+    </message>
+</context>
+<context>
+    <name>SimulatedDevice</name>
+    <message>
+        <source>The files of the simulated device cannot be written to &quot;%1&quot;.</source>
+        <translation>Los archivos del dispositivo simulado no se pueden escribir en «%1».</translation>
+    </message>
+    <message>
+        <source>The device cannot be simulated: %1</source>
+        <translation>No se puede simular el dispositivo: %1</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,53 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR" sourcelanguage="en_US">
 <context>
+    <name>ChangeJournal</name>
+    <message>
+        <source>The journal &quot;%1&quot; cannot be written: %2</source>
+        <translation>Le journal « %1 » ne peut pas être écrit : %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Équipement</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>Opération</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>Référence</translation>
+    </message>
+    <message>
+        <source>Old value</source>
+        <translation>Ancienne valeur</translation>
+    </message>
+    <message>
+        <source>New value</source>
+        <translation>Nouvelle valeur</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>Additional cause</source>
+        <translation>Cause additionnelle</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Say what is in an SCL file, as JSON, and exit: with 0 when it is without errors, 1 with errors, 2 when it cannot be used. Needs no display.</source>
@@ -206,12 +253,116 @@
         <translation>N°</translation>
     </message>
     <message>
-        <source>Model source</source>
-        <translation>Source du modèle</translation>
-    </message>
-    <message>
         <source>State</source>
         <translation>État</translation>
+    </message>
+    <message>
+        <source>Starting the simulation…</source>
+        <translation>Démarrage de la simulation…</translation>
+    </message>
+    <message>
+        <source>Cannot be used: %1</source>
+        <translation>Inutilisable : %1</translation>
+    </message>
+    <message>
+        <source>Simulation stopped</source>
+        <translation>Simulation arrêtée</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>Non connecté</translation>
+    </message>
+    <message>
+        <source>Not connected: %1</source>
+        <translation>Non connecté : %1</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Connexion…</translation>
+    </message>
+    <message>
+        <source>Reading the model (%1 %)…</source>
+        <translation>Lecture du modèle (%1 %)…</translation>
+    </message>
+    <message>
+        <source>Reading the model…</source>
+        <translation>Lecture du modèle…</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connecté</translation>
+    </message>
+    <message>
+        <source>Trying again: %1</source>
+        <translation>Nouvel essai à venir : %1</translation>
+    </message>
+    <message>
+        <source>Simulated demonstration</source>
+        <translation>Démonstration simulée</translation>
+    </message>
+    <message>
+        <source>Simulated: %1</source>
+        <translation>Simulé : %1</translation>
+    </message>
+    <message>
+        <source>Reached at %1, port %2</source>
+        <translation>Accessible à %1, port %2</translation>
+    </message>
+    <message>
+        <source>Since %1</source>
+        <translation>Depuis %1</translation>
+    </message>
+    <message>
+        <source>Objects that the device did not describe: %1</source>
+        <translation>Objets que l'équipement n'a pas décrits : %1</translation>
+    </message>
+    <message>
+        <source>Vendor: %1
+Model: %2
+Revision: %3</source>
+        <translation>Fabricant : %1
+Modèle : %2
+Révision : %3</translation>
+    </message>
+    <message>
+        <source>Time from a request to its answer, measured last</source>
+        <translation>Temps entre une requête et sa réponse, dernière mesure</translation>
+    </message>
+    <message>
+        <source>PDUs sent: %1
+PDUs received: %2
+Reports: %3
+Published values: %4
+Connections: %5</source>
+        <translation>PDU envoyés : %1
+PDU reçus : %2
+Rapports : %3
+Valeurs publiées : %4
+Connexions : %5</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Source</translation>
+    </message>
+    <message>
+        <source>Identity</source>
+        <translation>Identité</translation>
+    </message>
+    <message>
+        <source>Round trip</source>
+        <translation>Aller-retour</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>Rapports</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Valeurs</translation>
     </message>
 </context>
 <context>
@@ -518,6 +669,134 @@
         <source>The value to be written cannot be read.</source>
         <translation>La valeur à écrire ne peut pas être lue.</translation>
     </message>
+    <message>
+        <source>Select the object first</source>
+        <translation>Sélectionnez d'abord l'objet</translation>
+    </message>
+    <message>
+        <source>%1 has the control model %2, but the command was made for %3: read the model of the device again.</source>
+        <translation>%1 a le modèle de commande %2, mais la commande a été faite pour %3 : relisez le modèle de l'équipement.</translation>
+    </message>
+    <message>
+        <source>The command is not the one that was selected.</source>
+        <translation>La commande n'est pas celle qui a été sélectionnée.</translation>
+    </message>
+    <message>
+        <source>The control request cannot be read.</source>
+        <translation>La requête de commande ne peut pas être lue.</translation>
+    </message>
+    <message>
+        <source>The control request is for %1, not for %2.</source>
+        <translation>La requête de commande est pour %1, pas pour %2.</translation>
+    </message>
+    <message>
+        <source>The control value is no finite number.</source>
+        <translation>La valeur de commande n'est pas un nombre fini.</translation>
+    </message>
+    <message>
+        <source>%1 is no code of the check conditions.</source>
+        <translation>%1 n'est pas un code des conditions de vérification.</translation>
+    </message>
+    <message>
+        <source>The test flag is 0 or 1, not %1.</source>
+        <translation>L'indicateur de test est 0 ou 1, pas %1.</translation>
+    </message>
+    <message>
+        <source>interlock check</source>
+        <translation>vérification de l'interverrouillage</translation>
+    </message>
+    <message>
+        <source>synchrocheck</source>
+        <translation>contrôle de synchronisme</translation>
+    </message>
+    <message>
+        <source>test</source>
+        <translation>test</translation>
+    </message>
+    <message>
+        <source>The driver has not waited for the end of the operation.</source>
+        <translation>Le pilote n'a pas attendu la fin de la manœuvre.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not name a report control block.</source>
+        <translation>« %1 » ne désigne pas un bloc de contrôle de rapport.</translation>
+    </message>
+    <message>
+        <source>The attribute &quot;%1&quot; of a report control block cannot be written.</source>
+        <translation>L'attribut « %1 » d'un bloc de contrôle de rapport ne peut pas être écrit.</translation>
+    </message>
+    <message>
+        <source>The value for %1 has %2 bytes instead of %3.</source>
+        <translation>La valeur pour %1 a %2 octets au lieu de %3.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be negative.</source>
+        <translation>%1 ne peut pas être négatif.</translation>
+    </message>
+    <message>
+        <source>Buffer time and integrity period cannot be negative.</source>
+        <translation>Le temps de tampon et la période d'intégrité ne peuvent pas être négatifs.</translation>
+    </message>
+    <message>
+        <source>enabled again after the association was lost</source>
+        <translation>réactivation après la perte de l'association</translation>
+    </message>
+    <message>
+        <source>The report control block %1 has no data set.</source>
+        <translation>Le bloc de contrôle de rapport %1 n'a pas d'ensemble de données.</translation>
+    </message>
+    <message>
+        <source>The device has not enabled %1 although it said so.</source>
+        <translation>L'équipement n'a pas activé %1 alors qu'il l'a confirmé.</translation>
+    </message>
+    <message>
+        <source>The data set %1 cannot be used: %2</source>
+        <translation>L'ensemble de données %1 est inutilisable : %2</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>désactivé</translation>
+    </message>
+    <message>
+        <source>the driver is read-only.</source>
+        <translation>le pilote est en lecture seule.</translation>
+    </message>
+    <message>
+        <source>The report control block %1 could not be %2: %3</source>
+        <translation>Bloc de contrôle de rapport %1 : %2 impossible : %3</translation>
+    </message>
+    <message>
+        <source>The device has disabled %1 by itself.</source>
+        <translation>L'équipement a désactivé %1 de lui-même.</translation>
+    </message>
+    <message>
+        <source>enabled again</source>
+        <translation>réactivation</translation>
+    </message>
+    <message>
+        <source>A report of the device could not be read: %1</source>
+        <translation>Un rapport de l'équipement n'a pas pu être lu : %1</translation>
+    </message>
+    <message>
+        <source>A report of %1 has %2 members, but its data set has %3.</source>
+        <translation>Un rapport de %1 a %2 membres, mais son ensemble de données en a %3.</translation>
+    </message>
+    <message>
+        <source>The reports of %1 have no value for %2: %3.</source>
+        <translation>Les rapports de %1 n'ont pas de valeur pour %2 : %3.</translation>
+    </message>
+    <message>
+        <source>A value of %1 in the reports of %2 does not have the form of its type.</source>
+        <translation>Une valeur de %1 dans les rapports de %2 n'a pas la forme de son type.</translation>
+    </message>
+    <message>
+        <source>The buffer of %1 has overflown: older changes are lost.</source>
+        <translation>Le tampon de %1 a débordé : des changements anciens sont perdus.</translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation>activé</translation>
+    </message>
 </context>
 <context>
     <name>JournalModel</name>
@@ -573,10 +852,6 @@
         <translation>&amp;Réessayer</translation>
     </message>
     <message>
-        <source>No device yet: open an SCL file</source>
-        <translation>Aucun équipement : ouvrez un fichier SCL</translation>
-    </message>
-    <message>
         <source>&amp;Open SCL File…</source>
         <translation>Ou&amp;vrir un fichier SCL…</translation>
     </message>
@@ -615,10 +890,6 @@
     <message>
         <source>Journal</source>
         <translation>Journal</translation>
-    </message>
-    <message>
-        <source>Add a device from an SCL file</source>
-        <translation>Ajouter un équipement à partir d'un fichier SCL</translation>
     </message>
     <message>
         <source>Ctrl+O</source>
@@ -750,6 +1021,148 @@ Un petit hôte pour les outils IEC 61850 : il dresse la liste des équipements, 
 
 Apache License 2.0</translation>
     </message>
+    <message>
+        <source>No device yet: add one, or open an SCL file</source>
+        <translation>Aucun équipement : ajoutez-en un, ou ouvrez un fichier SCL</translation>
+    </message>
+    <message>
+        <source>&amp;Add Device…</source>
+        <translation>&amp;Ajouter un équipement…</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Modifications</translation>
+    </message>
+    <message>
+        <source>Add a device from an SCL file, without a connection</source>
+        <translation>Ajouter un équipement à partir d'un fichier SCL, sans connexion</translation>
+    </message>
+    <message>
+        <source>&amp;Start Simulated Device…</source>
+        <translation>Démarrer un équipement &amp;simulé…</translation>
+    </message>
+    <message>
+        <source>Simulate a device of an SCL file and connect to it</source>
+        <translation>Simuler un équipement d'un fichier SCL et s'y connecter</translation>
+    </message>
+    <message>
+        <source>Add &amp;Device…</source>
+        <translation>&amp;Ajouter un équipement…</translation>
+    </message>
+    <message>
+        <source>Add Device</source>
+        <translation>Ajouter un équipement</translation>
+    </message>
+    <message>
+        <source>Add a device that is reached over the network</source>
+        <translation>Ajouter un équipement accessible par le réseau</translation>
+    </message>
+    <message>
+        <source>Ctrl+N</source>
+        <translation>Ctrl+N</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Device…</source>
+        <translation>&amp;Modifier l'équipement…</translation>
+    </message>
+    <message>
+        <source>F2</source>
+        <translation>F2</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>&amp;Connecter</translation>
+    </message>
+    <message>
+        <source>Connect to the selected device, now and at the next start</source>
+        <translation>Se connecter à l'équipement sélectionné, maintenant et au prochain démarrage</translation>
+    </message>
+    <message>
+        <source>Dis&amp;connect</source>
+        <translation>&amp;Déconnecter</translation>
+    </message>
+    <message>
+        <source>Leave the selected device, until it is connected again</source>
+        <translation>Quitter l'équipement sélectionné, jusqu'à la prochaine connexion</translation>
+    </message>
+    <message>
+        <source>&amp;Start Simulation</source>
+        <translation>Démarrer la &amp;simulation</translation>
+    </message>
+    <message>
+        <source>S&amp;top Simulation</source>
+        <translation>Arrêter la s&amp;imulation</translation>
+    </message>
+    <message>
+        <source>End the simulated device, as if it had lost its power</source>
+        <translation>Arrêter l'équipement simulé, comme s'il avait perdu son alimentation</translation>
+    </message>
+    <message>
+        <source>&amp;PDU Trace…</source>
+        <translation>Trace des &amp;PDU…</translation>
+    </message>
+    <message>
+        <source>Show what is exchanged with the selected device</source>
+        <translation>Montrer les échanges avec l'équipement sélectionné</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve Capture…</source>
+        <translation>Enregistrer la capt&amp;ure…</translation>
+    </message>
+    <message>
+        <source>Save what was exchanged with the selected device for a protocol analyser</source>
+        <translation>Enregistrer les échanges avec l'équipement sélectionné pour un analyseur de protocole</translation>
+    </message>
+    <message>
+        <source>E&amp;xport Values…</source>
+        <translation>E&amp;xporter les valeurs…</translation>
+    </message>
+    <message>
+        <source>Save the values of the selected device as a table</source>
+        <translation>Enregistrer les valeurs de l'équipement sélectionné sous forme de tableau</translation>
+    </message>
+    <message>
+        <source>Read-&amp;Only</source>
+        <translation>&amp;Lecture seule</translation>
+    </message>
+    <message>
+        <source>Refuse everything that changes something on a device</source>
+        <translation>Refuser tout ce qui modifie quelque chose sur un équipement</translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder of the Change Journal</source>
+        <translation>Ouvrir le &amp;dossier du journal des modifications</translation>
+    </message>
+    <message>
+        <source>Nothing was changed on a device yet. Every write, command and transfer is listed here%1.</source>
+        <translation>Rien n'a encore été modifié sur un équipement. Tout ce qui est écrit, commandé ou transféré est noté ici%1.</translation>
+    </message>
+    <message>
+        <source> and kept in
+%1</source>
+        <translation> et conservé dans
+%1</translation>
+    </message>
+    <message>
+        <source>Read-only: nothing is changed on devices</source>
+        <translation>Lecture seule : rien n'est modifié sur les équipements</translation>
+    </message>
+    <message>
+        <source>Reading the model of %1</source>
+        <translation>Lecture du modèle de %1</translation>
+    </message>
+    <message>
+        <source>This device has no SCL file; its model is read from the device itself.</source>
+        <translation>Cet équipement n'a pas de fichier SCL ; son modèle est lu dans l'équipement lui-même.</translation>
+    </message>
+    <message>
+        <source>Start Simulated Device</source>
+        <translation>Démarrer un équipement simulé</translation>
+    </message>
+    <message>
+        <source>%1 was taken off the list.</source>
+        <translation>%1 a été retiré de la liste.</translation>
+    </message>
 </context>
 <context>
     <name>OfflineDriverService</name>
@@ -838,6 +1251,17 @@ Apache License 2.0</translation>
     <message>
         <source>The file describes several IEDs; one must be chosen.</source>
         <translation>Le fichier décrit plusieurs IED ; il faut en choisir un.</translation>
+    </message>
+</context>
+<context>
+    <name>SimulatedDevice</name>
+    <message>
+        <source>The files of the simulated device cannot be written to &quot;%1&quot;.</source>
+        <translation>Les fichiers de l'équipement simulé ne peuvent pas être écrits dans « %1 ».</translation>
+    </message>
+    <message>
+        <source>The device cannot be simulated: %1</source>
+        <translation>L'équipement ne peut pas être simulé : %1</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,53 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_BR" sourcelanguage="en_US">
 <context>
+    <name>ChangeJournal</name>
+    <message>
+        <source>The journal &quot;%1&quot; cannot be written: %2</source>
+        <translation>O registro “%1” não pode ser gravado: %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>Operação</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>Referência</translation>
+    </message>
+    <message>
+        <source>Old value</source>
+        <translation>Valor anterior</translation>
+    </message>
+    <message>
+        <source>New value</source>
+        <translation>Valor novo</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>Additional cause</source>
+        <translation>Causa adicional</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Say what is in an SCL file, as JSON, and exit: with 0 when it is without errors, 1 with errors, 2 when it cannot be used. Needs no display.</source>
@@ -206,12 +253,116 @@
         <translation>N.º</translation>
     </message>
     <message>
-        <source>Model source</source>
-        <translation>Origem do modelo</translation>
-    </message>
-    <message>
         <source>State</source>
         <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Starting the simulation…</source>
+        <translation>Iniciando a simulação…</translation>
+    </message>
+    <message>
+        <source>Cannot be used: %1</source>
+        <translation>Não pode ser usado: %1</translation>
+    </message>
+    <message>
+        <source>Simulation stopped</source>
+        <translation>Simulação parada</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>Não conectado</translation>
+    </message>
+    <message>
+        <source>Not connected: %1</source>
+        <translation>Não conectado: %1</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Conectando…</translation>
+    </message>
+    <message>
+        <source>Reading the model (%1 %)…</source>
+        <translation>Lendo o modelo (%1 %)…</translation>
+    </message>
+    <message>
+        <source>Reading the model…</source>
+        <translation>Lendo o modelo…</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Conectado</translation>
+    </message>
+    <message>
+        <source>Trying again: %1</source>
+        <translation>Nova tentativa: %1</translation>
+    </message>
+    <message>
+        <source>Simulated demonstration</source>
+        <translation>Demonstração simulada</translation>
+    </message>
+    <message>
+        <source>Simulated: %1</source>
+        <translation>Simulado: %1</translation>
+    </message>
+    <message>
+        <source>Reached at %1, port %2</source>
+        <translation>Acessível em %1, porta %2</translation>
+    </message>
+    <message>
+        <source>Since %1</source>
+        <translation>Desde %1</translation>
+    </message>
+    <message>
+        <source>Objects that the device did not describe: %1</source>
+        <translation>Objetos que o dispositivo não descreveu: %1</translation>
+    </message>
+    <message>
+        <source>Vendor: %1
+Model: %2
+Revision: %3</source>
+        <translation>Fabricante: %1
+Modelo: %2
+Revisão: %3</translation>
+    </message>
+    <message>
+        <source>Time from a request to its answer, measured last</source>
+        <translation>Tempo entre uma requisição e a resposta, última medição</translation>
+    </message>
+    <message>
+        <source>PDUs sent: %1
+PDUs received: %2
+Reports: %3
+Published values: %4
+Connections: %5</source>
+        <translation>PDUs enviadas: %1
+PDUs recebidas: %2
+Relatórios: %3
+Valores publicados: %4
+Conexões: %5</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Origem</translation>
+    </message>
+    <message>
+        <source>Identity</source>
+        <translation>Identidade</translation>
+    </message>
+    <message>
+        <source>Round trip</source>
+        <translation>Ida e volta</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>Relatórios</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Valores</translation>
     </message>
 </context>
 <context>
@@ -518,6 +669,134 @@
         <source>The value to be written cannot be read.</source>
         <translation>O valor a escrever não pode ser lido.</translation>
     </message>
+    <message>
+        <source>Select the object first</source>
+        <translation>Selecione primeiro o objeto</translation>
+    </message>
+    <message>
+        <source>%1 has the control model %2, but the command was made for %3: read the model of the device again.</source>
+        <translation>%1 tem o modelo de controle %2, mas o comando foi feito para %3: leia novamente o modelo do dispositivo.</translation>
+    </message>
+    <message>
+        <source>The command is not the one that was selected.</source>
+        <translation>O comando não é o que foi selecionado.</translation>
+    </message>
+    <message>
+        <source>The control request cannot be read.</source>
+        <translation>A requisição de comando não pode ser lida.</translation>
+    </message>
+    <message>
+        <source>The control request is for %1, not for %2.</source>
+        <translation>A requisição de comando é para %1, não para %2.</translation>
+    </message>
+    <message>
+        <source>The control value is no finite number.</source>
+        <translation>O valor de comando não é um número finito.</translation>
+    </message>
+    <message>
+        <source>%1 is no code of the check conditions.</source>
+        <translation>%1 não é um código das condições de verificação.</translation>
+    </message>
+    <message>
+        <source>The test flag is 0 or 1, not %1.</source>
+        <translation>O indicador de teste é 0 ou 1, não %1.</translation>
+    </message>
+    <message>
+        <source>interlock check</source>
+        <translation>verificação de intertravamento</translation>
+    </message>
+    <message>
+        <source>synchrocheck</source>
+        <translation>verificação de sincronismo</translation>
+    </message>
+    <message>
+        <source>test</source>
+        <translation>teste</translation>
+    </message>
+    <message>
+        <source>The driver has not waited for the end of the operation.</source>
+        <translation>O driver não esperou o fim da operação.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not name a report control block.</source>
+        <translation>“%1” não designa um bloco de controle de relatório.</translation>
+    </message>
+    <message>
+        <source>The attribute &quot;%1&quot; of a report control block cannot be written.</source>
+        <translation>O atributo “%1” de um bloco de controle de relatório não pode ser escrito.</translation>
+    </message>
+    <message>
+        <source>The value for %1 has %2 bytes instead of %3.</source>
+        <translation>O valor para %1 tem %2 bytes em vez de %3.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be negative.</source>
+        <translation>%1 não pode ser negativo.</translation>
+    </message>
+    <message>
+        <source>Buffer time and integrity period cannot be negative.</source>
+        <translation>O tempo de buffer e o período de integridade não podem ser negativos.</translation>
+    </message>
+    <message>
+        <source>enabled again after the association was lost</source>
+        <translation>habilitar novamente após a perda da associação</translation>
+    </message>
+    <message>
+        <source>The report control block %1 has no data set.</source>
+        <translation>O bloco de controle de relatório %1 não tem conjunto de dados.</translation>
+    </message>
+    <message>
+        <source>The device has not enabled %1 although it said so.</source>
+        <translation>O dispositivo não habilitou %1, embora o tenha confirmado.</translation>
+    </message>
+    <message>
+        <source>The data set %1 cannot be used: %2</source>
+        <translation>O conjunto de dados %1 não pode ser usado: %2</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>desabilitado</translation>
+    </message>
+    <message>
+        <source>the driver is read-only.</source>
+        <translation>o driver está em modo somente leitura.</translation>
+    </message>
+    <message>
+        <source>The report control block %1 could not be %2: %3</source>
+        <translation>Bloco de controle de relatório %1: não foi possível %2: %3</translation>
+    </message>
+    <message>
+        <source>The device has disabled %1 by itself.</source>
+        <translation>O dispositivo desabilitou %1 por conta própria.</translation>
+    </message>
+    <message>
+        <source>enabled again</source>
+        <translation>habilitar novamente</translation>
+    </message>
+    <message>
+        <source>A report of the device could not be read: %1</source>
+        <translation>Não foi possível ler um relatório do dispositivo: %1</translation>
+    </message>
+    <message>
+        <source>A report of %1 has %2 members, but its data set has %3.</source>
+        <translation>Um relatório de %1 tem %2 membros, mas o seu conjunto de dados tem %3.</translation>
+    </message>
+    <message>
+        <source>The reports of %1 have no value for %2: %3.</source>
+        <translation>Os relatórios de %1 não têm valor para %2: %3.</translation>
+    </message>
+    <message>
+        <source>A value of %1 in the reports of %2 does not have the form of its type.</source>
+        <translation>Um valor de %1 nos relatórios de %2 não tem a forma do seu tipo.</translation>
+    </message>
+    <message>
+        <source>The buffer of %1 has overflown: older changes are lost.</source>
+        <translation>O buffer de %1 estourou: as mudanças mais antigas foram perdidas.</translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation>habilitado</translation>
+    </message>
 </context>
 <context>
     <name>JournalModel</name>
@@ -573,10 +852,6 @@
         <translation>&amp;Tentar novamente</translation>
     </message>
     <message>
-        <source>No device yet: open an SCL file</source>
-        <translation>Ainda não há dispositivo: abra um arquivo SCL</translation>
-    </message>
-    <message>
         <source>&amp;Open SCL File…</source>
         <translation>A&amp;brir arquivo SCL…</translation>
     </message>
@@ -615,10 +890,6 @@
     <message>
         <source>Journal</source>
         <translation>Registro</translation>
-    </message>
-    <message>
-        <source>Add a device from an SCL file</source>
-        <translation>Adicionar um dispositivo a partir de um arquivo SCL</translation>
     </message>
     <message>
         <source>Ctrl+O</source>
@@ -750,6 +1021,148 @@ Um pequeno hospedeiro para as ferramentas IEC 61850: lista os dispositivos, carr
 
 Apache License 2.0</translation>
     </message>
+    <message>
+        <source>No device yet: add one, or open an SCL file</source>
+        <translation>Ainda não há dispositivo: adicione um ou abra um arquivo SCL</translation>
+    </message>
+    <message>
+        <source>&amp;Add Device…</source>
+        <translation>&amp;Adicionar dispositivo…</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Alterações</translation>
+    </message>
+    <message>
+        <source>Add a device from an SCL file, without a connection</source>
+        <translation>Adicionar um dispositivo a partir de um arquivo SCL, sem conexão</translation>
+    </message>
+    <message>
+        <source>&amp;Start Simulated Device…</source>
+        <translation>Iniciar dispositivo si&amp;mulado…</translation>
+    </message>
+    <message>
+        <source>Simulate a device of an SCL file and connect to it</source>
+        <translation>Simular um dispositivo de um arquivo SCL e conectar-se a ele</translation>
+    </message>
+    <message>
+        <source>Add &amp;Device…</source>
+        <translation>&amp;Adicionar dispositivo…</translation>
+    </message>
+    <message>
+        <source>Add Device</source>
+        <translation>Adicionar dispositivo</translation>
+    </message>
+    <message>
+        <source>Add a device that is reached over the network</source>
+        <translation>Adicionar um dispositivo acessível pela rede</translation>
+    </message>
+    <message>
+        <source>Ctrl+N</source>
+        <translation>Ctrl+N</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Device…</source>
+        <translation>&amp;Editar dispositivo…</translation>
+    </message>
+    <message>
+        <source>F2</source>
+        <translation>F2</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>&amp;Conectar</translation>
+    </message>
+    <message>
+        <source>Connect to the selected device, now and at the next start</source>
+        <translation>Conectar ao dispositivo selecionado, agora e na próxima inicialização</translation>
+    </message>
+    <message>
+        <source>Dis&amp;connect</source>
+        <translation>&amp;Desconectar</translation>
+    </message>
+    <message>
+        <source>Leave the selected device, until it is connected again</source>
+        <translation>Deixar o dispositivo selecionado até ser conectado novamente</translation>
+    </message>
+    <message>
+        <source>&amp;Start Simulation</source>
+        <translation>&amp;Iniciar a simulação</translation>
+    </message>
+    <message>
+        <source>S&amp;top Simulation</source>
+        <translation>&amp;Parar a simulação</translation>
+    </message>
+    <message>
+        <source>End the simulated device, as if it had lost its power</source>
+        <translation>Encerrar o dispositivo simulado, como se tivesse perdido a alimentação</translation>
+    </message>
+    <message>
+        <source>&amp;PDU Trace…</source>
+        <translation>Rastreamento de PD&amp;Us…</translation>
+    </message>
+    <message>
+        <source>Show what is exchanged with the selected device</source>
+        <translation>Mostrar o que é trocado com o dispositivo selecionado</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve Capture…</source>
+        <translation>Sal&amp;var captura…</translation>
+    </message>
+    <message>
+        <source>Save what was exchanged with the selected device for a protocol analyser</source>
+        <translation>Salvar o que foi trocado com o dispositivo selecionado para um analisador de protocolo</translation>
+    </message>
+    <message>
+        <source>E&amp;xport Values…</source>
+        <translation>E&amp;xportar valores…</translation>
+    </message>
+    <message>
+        <source>Save the values of the selected device as a table</source>
+        <translation>Salvar os valores do dispositivo selecionado como tabela</translation>
+    </message>
+    <message>
+        <source>Read-&amp;Only</source>
+        <translation>&amp;Somente leitura</translation>
+    </message>
+    <message>
+        <source>Refuse everything that changes something on a device</source>
+        <translation>Recusar tudo o que altere algo em um dispositivo</translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder of the Change Journal</source>
+        <translation>Abrir a &amp;pasta do registro de alterações</translation>
+    </message>
+    <message>
+        <source>Nothing was changed on a device yet. Every write, command and transfer is listed here%1.</source>
+        <translation>Nada foi alterado em um dispositivo ainda. Cada escrita, comando e transferência é listada aqui%1.</translation>
+    </message>
+    <message>
+        <source> and kept in
+%1</source>
+        <translation> e guardada em
+%1</translation>
+    </message>
+    <message>
+        <source>Read-only: nothing is changed on devices</source>
+        <translation>Somente leitura: nada é alterado nos dispositivos</translation>
+    </message>
+    <message>
+        <source>Reading the model of %1</source>
+        <translation>Lendo o modelo de %1</translation>
+    </message>
+    <message>
+        <source>This device has no SCL file; its model is read from the device itself.</source>
+        <translation>Este dispositivo não tem arquivo SCL; o seu modelo é lido do próprio dispositivo.</translation>
+    </message>
+    <message>
+        <source>Start Simulated Device</source>
+        <translation>Iniciar dispositivo simulado</translation>
+    </message>
+    <message>
+        <source>%1 was taken off the list.</source>
+        <translation>%1 foi removido da lista.</translation>
+    </message>
 </context>
 <context>
     <name>OfflineDriverService</name>
@@ -838,6 +1251,17 @@ Apache License 2.0</translation>
     <message>
         <source>The file describes several IEDs; one must be chosen.</source>
         <translation>O arquivo descreve vários IEDs; é preciso escolher um.</translation>
+    </message>
+</context>
+<context>
+    <name>SimulatedDevice</name>
+    <message>
+        <source>The files of the simulated device cannot be written to &quot;%1&quot;.</source>
+        <translation>Os arquivos do dispositivo simulado não podem ser gravados em “%1”.</translation>
+    </message>
+    <message>
+        <source>The device cannot be simulated: %1</source>
+        <translation>O dispositivo não pode ser simulado: %1</translation>
     </message>
 </context>
 <context>

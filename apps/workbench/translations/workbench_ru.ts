@@ -2,6 +2,53 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU" sourcelanguage="en_US">
 <context>
+    <name>ChangeJournal</name>
+    <message>
+        <source>The journal &quot;%1&quot; cannot be written: %2</source>
+        <translation>Журнал «%1» не удаётся записать: %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Успешно</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Время</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Устройство</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>Операция</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>Ссылка</translation>
+    </message>
+    <message>
+        <source>Old value</source>
+        <translation>Прежнее значение</translation>
+    </message>
+    <message>
+        <source>New value</source>
+        <translation>Новое значение</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Результат</translation>
+    </message>
+    <message>
+        <source>Additional cause</source>
+        <translation>Дополнительная причина</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Say what is in an SCL file, as JSON, and exit: with 0 when it is without errors, 1 with errors, 2 when it cannot be used. Needs no display.</source>
@@ -206,12 +253,116 @@
         <translation>№</translation>
     </message>
     <message>
-        <source>Model source</source>
-        <translation>Источник модели</translation>
-    </message>
-    <message>
         <source>State</source>
         <translation>Состояние</translation>
+    </message>
+    <message>
+        <source>Starting the simulation…</source>
+        <translation>Запуск имитации…</translation>
+    </message>
+    <message>
+        <source>Cannot be used: %1</source>
+        <translation>Непригодно: %1</translation>
+    </message>
+    <message>
+        <source>Simulation stopped</source>
+        <translation>Имитация остановлена</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>Нет связи</translation>
+    </message>
+    <message>
+        <source>Not connected: %1</source>
+        <translation>Нет связи: %1</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Установление связи…</translation>
+    </message>
+    <message>
+        <source>Reading the model (%1 %)…</source>
+        <translation>Чтение модели (%1 %)…</translation>
+    </message>
+    <message>
+        <source>Reading the model…</source>
+        <translation>Чтение модели…</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>На связи</translation>
+    </message>
+    <message>
+        <source>Trying again: %1</source>
+        <translation>Будет повторная попытка: %1</translation>
+    </message>
+    <message>
+        <source>Simulated demonstration</source>
+        <translation>Имитация для демонстрации</translation>
+    </message>
+    <message>
+        <source>Simulated: %1</source>
+        <translation>Имитация: %1</translation>
+    </message>
+    <message>
+        <source>Reached at %1, port %2</source>
+        <translation>Адрес %1, порт %2</translation>
+    </message>
+    <message>
+        <source>Since %1</source>
+        <translation>С %1</translation>
+    </message>
+    <message>
+        <source>Objects that the device did not describe: %1</source>
+        <translation>Объектов, которые устройство не описало: %1</translation>
+    </message>
+    <message>
+        <source>Vendor: %1
+Model: %2
+Revision: %3</source>
+        <translation>Изготовитель: %1
+Модель: %2
+Версия: %3</translation>
+    </message>
+    <message>
+        <source>Time from a request to its answer, measured last</source>
+        <translation>Время от запроса до ответа, последнее измерение</translation>
+    </message>
+    <message>
+        <source>PDUs sent: %1
+PDUs received: %2
+Reports: %3
+Published values: %4
+Connections: %5</source>
+        <translation>Отправлено PDU: %1
+Получено PDU: %2
+Отчётов: %3
+Опубликовано значений: %4
+Подключений: %5</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 мс</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Источник</translation>
+    </message>
+    <message>
+        <source>Identity</source>
+        <translation>Идентификация</translation>
+    </message>
+    <message>
+        <source>Round trip</source>
+        <translation>Время ответа</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>Отчёты</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Значения</translation>
     </message>
 </context>
 <context>
@@ -518,6 +669,134 @@
         <source>The value to be written cannot be read.</source>
         <translation>Записываемое значение не читается.</translation>
     </message>
+    <message>
+        <source>Select the object first</source>
+        <translation>Сначала выберите объект</translation>
+    </message>
+    <message>
+        <source>%1 has the control model %2, but the command was made for %3: read the model of the device again.</source>
+        <translation>%1: модель управления %2, а команда составлена для %3: прочитайте модель устройства заново.</translation>
+    </message>
+    <message>
+        <source>The command is not the one that was selected.</source>
+        <translation>Команда отличается от той, для которой сделан выбор.</translation>
+    </message>
+    <message>
+        <source>The control request cannot be read.</source>
+        <translation>Запрос управления не читается.</translation>
+    </message>
+    <message>
+        <source>The control request is for %1, not for %2.</source>
+        <translation>Запрос управления относится к %1, а не к %2.</translation>
+    </message>
+    <message>
+        <source>The control value is no finite number.</source>
+        <translation>Значение команды не является конечным числом.</translation>
+    </message>
+    <message>
+        <source>%1 is no code of the check conditions.</source>
+        <translation>%1 не является кодом условий проверки.</translation>
+    </message>
+    <message>
+        <source>The test flag is 0 or 1, not %1.</source>
+        <translation>Признак теста равен 0 или 1, а не %1.</translation>
+    </message>
+    <message>
+        <source>interlock check</source>
+        <translation>проверка блокировки</translation>
+    </message>
+    <message>
+        <source>synchrocheck</source>
+        <translation>контроль синхронизма</translation>
+    </message>
+    <message>
+        <source>test</source>
+        <translation>тест</translation>
+    </message>
+    <message>
+        <source>The driver has not waited for the end of the operation.</source>
+        <translation>Драйвер не дождался окончания операции.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not name a report control block.</source>
+        <translation>«%1» не указывает на блок управления отчётом.</translation>
+    </message>
+    <message>
+        <source>The attribute &quot;%1&quot; of a report control block cannot be written.</source>
+        <translation>Атрибут «%1» блока управления отчётом нельзя записать.</translation>
+    </message>
+    <message>
+        <source>The value for %1 has %2 bytes instead of %3.</source>
+        <translation>Длина значения для %1: %2 байт вместо %3.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be negative.</source>
+        <translation>%1 не может быть отрицательным.</translation>
+    </message>
+    <message>
+        <source>Buffer time and integrity period cannot be negative.</source>
+        <translation>Время буферизации и период целостности не могут быть отрицательными.</translation>
+    </message>
+    <message>
+        <source>enabled again after the association was lost</source>
+        <translation>включить его снова после потери ассоциации</translation>
+    </message>
+    <message>
+        <source>The report control block %1 has no data set.</source>
+        <translation>У блока управления отчётом %1 нет набора данных.</translation>
+    </message>
+    <message>
+        <source>The device has not enabled %1 although it said so.</source>
+        <translation>Устройство не включило %1, хотя подтвердило это.</translation>
+    </message>
+    <message>
+        <source>The data set %1 cannot be used: %2</source>
+        <translation>Набор данных %1 непригоден: %2</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>отключён</translation>
+    </message>
+    <message>
+        <source>the driver is read-only.</source>
+        <translation>драйвер в режиме «только чтение».</translation>
+    </message>
+    <message>
+        <source>The report control block %1 could not be %2: %3</source>
+        <translation>Блок управления отчётом %1: не удалось %2: %3</translation>
+    </message>
+    <message>
+        <source>The device has disabled %1 by itself.</source>
+        <translation>Устройство само отключило %1.</translation>
+    </message>
+    <message>
+        <source>enabled again</source>
+        <translation>включить его снова</translation>
+    </message>
+    <message>
+        <source>A report of the device could not be read: %1</source>
+        <translation>Отчёт устройства не удалось прочитать: %1</translation>
+    </message>
+    <message>
+        <source>A report of %1 has %2 members, but its data set has %3.</source>
+        <translation>Элементов в отчёте %1: %2, а в его наборе данных: %3.</translation>
+    </message>
+    <message>
+        <source>The reports of %1 have no value for %2: %3.</source>
+        <translation>В отчётах %1 нет значения для %2: %3.</translation>
+    </message>
+    <message>
+        <source>A value of %1 in the reports of %2 does not have the form of its type.</source>
+        <translation>Значение %1 в отчётах %2 не соответствует своему типу.</translation>
+    </message>
+    <message>
+        <source>The buffer of %1 has overflown: older changes are lost.</source>
+        <translation>Буфер %1 переполнился: более ранние изменения потеряны.</translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation>включён</translation>
+    </message>
 </context>
 <context>
     <name>JournalModel</name>
@@ -573,10 +852,6 @@
         <translation>&amp;Повторить</translation>
     </message>
     <message>
-        <source>No device yet: open an SCL file</source>
-        <translation>Устройств пока нет: откройте файл SCL</translation>
-    </message>
-    <message>
         <source>&amp;Open SCL File…</source>
         <translation>&amp;Открыть файл SCL…</translation>
     </message>
@@ -615,10 +890,6 @@
     <message>
         <source>Journal</source>
         <translation>Журнал</translation>
-    </message>
-    <message>
-        <source>Add a device from an SCL file</source>
-        <translation>Добавить устройство из файла SCL</translation>
     </message>
     <message>
         <source>Ctrl+O</source>
@@ -750,6 +1021,148 @@ Apache License 2.0</source>
 
 Apache License 2.0</translation>
     </message>
+    <message>
+        <source>No device yet: add one, or open an SCL file</source>
+        <translation>Устройств пока нет: добавьте устройство или откройте файл SCL</translation>
+    </message>
+    <message>
+        <source>&amp;Add Device…</source>
+        <translation>&amp;Добавить устройство…</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Изменения</translation>
+    </message>
+    <message>
+        <source>Add a device from an SCL file, without a connection</source>
+        <translation>Добавить устройство из файла SCL, без связи</translation>
+    </message>
+    <message>
+        <source>&amp;Start Simulated Device…</source>
+        <translation>Запустить &amp;имитацию устройства…</translation>
+    </message>
+    <message>
+        <source>Simulate a device of an SCL file and connect to it</source>
+        <translation>Имитировать устройство из файла SCL и подключиться к нему</translation>
+    </message>
+    <message>
+        <source>Add &amp;Device…</source>
+        <translation>&amp;Добавить устройство…</translation>
+    </message>
+    <message>
+        <source>Add Device</source>
+        <translation>Добавить устройство</translation>
+    </message>
+    <message>
+        <source>Add a device that is reached over the network</source>
+        <translation>Добавить устройство, доступное по сети</translation>
+    </message>
+    <message>
+        <source>Ctrl+N</source>
+        <translation>Ctrl+N</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Device…</source>
+        <translation>&amp;Изменить устройство…</translation>
+    </message>
+    <message>
+        <source>F2</source>
+        <translation>F2</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>&amp;Подключить</translation>
+    </message>
+    <message>
+        <source>Connect to the selected device, now and at the next start</source>
+        <translation>Установить связь с выбранным устройством сейчас и при следующем запуске</translation>
+    </message>
+    <message>
+        <source>Dis&amp;connect</source>
+        <translation>&amp;Отключить</translation>
+    </message>
+    <message>
+        <source>Leave the selected device, until it is connected again</source>
+        <translation>Завершить связь с выбранным устройством до следующего подключения</translation>
+    </message>
+    <message>
+        <source>&amp;Start Simulation</source>
+        <translation>Запустить и&amp;митацию</translation>
+    </message>
+    <message>
+        <source>S&amp;top Simulation</source>
+        <translation>О&amp;становить имитацию</translation>
+    </message>
+    <message>
+        <source>End the simulated device, as if it had lost its power</source>
+        <translation>Остановить имитируемое устройство, как при потере питания</translation>
+    </message>
+    <message>
+        <source>&amp;PDU Trace…</source>
+        <translation>&amp;Трассировка PDU…</translation>
+    </message>
+    <message>
+        <source>Show what is exchanged with the selected device</source>
+        <translation>Показать обмен с выбранным устройством</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve Capture…</source>
+        <translation>Со&amp;хранить запись обмена…</translation>
+    </message>
+    <message>
+        <source>Save what was exchanged with the selected device for a protocol analyser</source>
+        <translation>Сохранить обмен с выбранным устройством для анализатора протокола</translation>
+    </message>
+    <message>
+        <source>E&amp;xport Values…</source>
+        <translation>&amp;Экспорт значений…</translation>
+    </message>
+    <message>
+        <source>Save the values of the selected device as a table</source>
+        <translation>Сохранить значения выбранного устройства в виде таблицы</translation>
+    </message>
+    <message>
+        <source>Read-&amp;Only</source>
+        <translation>Только &amp;чтение</translation>
+    </message>
+    <message>
+        <source>Refuse everything that changes something on a device</source>
+        <translation>Отклонять всё, что меняет что-либо на устройстве</translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder of the Change Journal</source>
+        <translation>Открыть &amp;папку журнала изменений</translation>
+    </message>
+    <message>
+        <source>Nothing was changed on a device yet. Every write, command and transfer is listed here%1.</source>
+        <translation>На устройствах ещё ничего не менялось. Все записи значений, команды и передачи файлов перечисляются здесь%1.</translation>
+    </message>
+    <message>
+        <source> and kept in
+%1</source>
+        <translation> и сохраняются в файле
+%1</translation>
+    </message>
+    <message>
+        <source>Read-only: nothing is changed on devices</source>
+        <translation>Только чтение: на устройствах ничего не меняется</translation>
+    </message>
+    <message>
+        <source>Reading the model of %1</source>
+        <translation>Чтение модели: %1</translation>
+    </message>
+    <message>
+        <source>This device has no SCL file; its model is read from the device itself.</source>
+        <translation>У этого устройства нет файла SCL; его модель читается из самого устройства.</translation>
+    </message>
+    <message>
+        <source>Start Simulated Device</source>
+        <translation>Запустить имитацию устройства</translation>
+    </message>
+    <message>
+        <source>%1 was taken off the list.</source>
+        <translation>%1: убрано из списка.</translation>
+    </message>
 </context>
 <context>
     <name>OfflineDriverService</name>
@@ -838,6 +1251,17 @@ Apache License 2.0</translation>
     <message>
         <source>The file describes several IEDs; one must be chosen.</source>
         <translation>В файле описано несколько ИЭУ; нужно выбрать одно.</translation>
+    </message>
+</context>
+<context>
+    <name>SimulatedDevice</name>
+    <message>
+        <source>The files of the simulated device cannot be written to &quot;%1&quot;.</source>
+        <translation>Файлы имитируемого устройства не удаётся записать в «%1».</translation>
+    </message>
+    <message>
+        <source>The device cannot be simulated: %1</source>
+        <translation>Устройство не удаётся имитировать: %1</translation>
     </message>
 </context>
 <context>

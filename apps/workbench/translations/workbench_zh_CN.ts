@@ -2,6 +2,53 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
+    <name>ChangeJournal</name>
+    <message>
+        <source>The journal &quot;%1&quot; cannot be written: %2</source>
+        <translation>无法写入日志“%1”：%2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>引用</translation>
+    </message>
+    <message>
+        <source>Old value</source>
+        <translation>旧值</translation>
+    </message>
+    <message>
+        <source>New value</source>
+        <translation>新值</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Additional cause</source>
+        <translation>附加原因</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Say what is in an SCL file, as JSON, and exit: with 0 when it is without errors, 1 with errors, 2 when it cannot be used. Needs no display.</source>
@@ -206,12 +253,116 @@
         <translation>编号</translation>
     </message>
     <message>
-        <source>Model source</source>
-        <translation>模型来源</translation>
-    </message>
-    <message>
         <source>State</source>
         <translation>状态</translation>
+    </message>
+    <message>
+        <source>Starting the simulation…</source>
+        <translation>正在启动仿真…</translation>
+    </message>
+    <message>
+        <source>Cannot be used: %1</source>
+        <translation>无法使用：%1</translation>
+    </message>
+    <message>
+        <source>Simulation stopped</source>
+        <translation>仿真已停止</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>未连接</translation>
+    </message>
+    <message>
+        <source>Not connected: %1</source>
+        <translation>未连接：%1</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>正在连接…</translation>
+    </message>
+    <message>
+        <source>Reading the model (%1 %)…</source>
+        <translation>正在读取模型（%1 %）…</translation>
+    </message>
+    <message>
+        <source>Reading the model…</source>
+        <translation>正在读取模型…</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>已连接</translation>
+    </message>
+    <message>
+        <source>Trying again: %1</source>
+        <translation>将重试：%1</translation>
+    </message>
+    <message>
+        <source>Simulated demonstration</source>
+        <translation>仿真演示</translation>
+    </message>
+    <message>
+        <source>Simulated: %1</source>
+        <translation>仿真：%1</translation>
+    </message>
+    <message>
+        <source>Reached at %1, port %2</source>
+        <translation>地址 %1，端口 %2</translation>
+    </message>
+    <message>
+        <source>Since %1</source>
+        <translation>自 %1</translation>
+    </message>
+    <message>
+        <source>Objects that the device did not describe: %1</source>
+        <translation>设备未描述的对象：%1</translation>
+    </message>
+    <message>
+        <source>Vendor: %1
+Model: %2
+Revision: %3</source>
+        <translation>制造商：%1
+型号：%2
+版本：%3</translation>
+    </message>
+    <message>
+        <source>Time from a request to its answer, measured last</source>
+        <translation>从请求到应答的时间，最近一次测量</translation>
+    </message>
+    <message>
+        <source>PDUs sent: %1
+PDUs received: %2
+Reports: %3
+Published values: %4
+Connections: %5</source>
+        <translation>已发送 PDU：%1
+已接收 PDU：%2
+报告：%3
+已发布的值：%4
+连接次数：%5</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 毫秒</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>来源</translation>
+    </message>
+    <message>
+        <source>Identity</source>
+        <translation>标识</translation>
+    </message>
+    <message>
+        <source>Round trip</source>
+        <translation>往返时间</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>报告</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>值</translation>
     </message>
 </context>
 <context>
@@ -518,6 +669,134 @@
         <source>The value to be written cannot be read.</source>
         <translation>无法读取要写入的值。</translation>
     </message>
+    <message>
+        <source>Select the object first</source>
+        <translation>请先选择对象</translation>
+    </message>
+    <message>
+        <source>%1 has the control model %2, but the command was made for %3: read the model of the device again.</source>
+        <translation>%1 的控制模型为 %2，而命令是按 %3 生成的：请重新读取设备的模型。</translation>
+    </message>
+    <message>
+        <source>The command is not the one that was selected.</source>
+        <translation>该命令与所选择的命令不一致。</translation>
+    </message>
+    <message>
+        <source>The control request cannot be read.</source>
+        <translation>无法读取控制请求。</translation>
+    </message>
+    <message>
+        <source>The control request is for %1, not for %2.</source>
+        <translation>控制请求针对的是 %1，而不是 %2。</translation>
+    </message>
+    <message>
+        <source>The control value is no finite number.</source>
+        <translation>控制值不是有限数。</translation>
+    </message>
+    <message>
+        <source>%1 is no code of the check conditions.</source>
+        <translation>%1 不是检查条件的代码。</translation>
+    </message>
+    <message>
+        <source>The test flag is 0 or 1, not %1.</source>
+        <translation>测试标志应为 0 或 1，而不是 %1。</translation>
+    </message>
+    <message>
+        <source>interlock check</source>
+        <translation>联锁检查</translation>
+    </message>
+    <message>
+        <source>synchrocheck</source>
+        <translation>同期检查</translation>
+    </message>
+    <message>
+        <source>test</source>
+        <translation>测试</translation>
+    </message>
+    <message>
+        <source>The driver has not waited for the end of the operation.</source>
+        <translation>驱动程序没有等到操作结束。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not name a report control block.</source>
+        <translation>“%1”不是报告控制块的名称。</translation>
+    </message>
+    <message>
+        <source>The attribute &quot;%1&quot; of a report control block cannot be written.</source>
+        <translation>报告控制块的属性“%1”不可写。</translation>
+    </message>
+    <message>
+        <source>The value for %1 has %2 bytes instead of %3.</source>
+        <translation>%1 的值为 %2 字节，而不是 %3 字节。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be negative.</source>
+        <translation>%1 不能为负数。</translation>
+    </message>
+    <message>
+        <source>Buffer time and integrity period cannot be negative.</source>
+        <translation>缓存时间和完整性周期不能为负数。</translation>
+    </message>
+    <message>
+        <source>enabled again after the association was lost</source>
+        <translation>在关联丢失后重新使能</translation>
+    </message>
+    <message>
+        <source>The report control block %1 has no data set.</source>
+        <translation>报告控制块 %1 没有数据集。</translation>
+    </message>
+    <message>
+        <source>The device has not enabled %1 although it said so.</source>
+        <translation>设备已确认使能 %1，但实际并未使能。</translation>
+    </message>
+    <message>
+        <source>The data set %1 cannot be used: %2</source>
+        <translation>数据集 %1 无法使用：%2</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>禁止</translation>
+    </message>
+    <message>
+        <source>the driver is read-only.</source>
+        <translation>驱动程序为只读。</translation>
+    </message>
+    <message>
+        <source>The report control block %1 could not be %2: %3</source>
+        <translation>报告控制块 %1 未能%2：%3</translation>
+    </message>
+    <message>
+        <source>The device has disabled %1 by itself.</source>
+        <translation>设备自行禁止了 %1。</translation>
+    </message>
+    <message>
+        <source>enabled again</source>
+        <translation>重新使能</translation>
+    </message>
+    <message>
+        <source>A report of the device could not be read: %1</source>
+        <translation>无法读取设备的一个报告：%1</translation>
+    </message>
+    <message>
+        <source>A report of %1 has %2 members, but its data set has %3.</source>
+        <translation>%1 的报告有 %2 个成员，而其数据集有 %3 个。</translation>
+    </message>
+    <message>
+        <source>The reports of %1 have no value for %2: %3.</source>
+        <translation>%1 的报告中没有 %2 的值：%3。</translation>
+    </message>
+    <message>
+        <source>A value of %1 in the reports of %2 does not have the form of its type.</source>
+        <translation>%2 的报告中 %1 的值的形式与其类型不符。</translation>
+    </message>
+    <message>
+        <source>The buffer of %1 has overflown: older changes are lost.</source>
+        <translation>%1 的缓存已溢出：较早的变化已丢失。</translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation>使能</translation>
+    </message>
 </context>
 <context>
     <name>JournalModel</name>
@@ -573,10 +852,6 @@
         <translation>重试(&amp;R)</translation>
     </message>
     <message>
-        <source>No device yet: open an SCL file</source>
-        <translation>尚无设备：请打开 SCL 文件</translation>
-    </message>
-    <message>
         <source>&amp;Open SCL File…</source>
         <translation>打开 SCL 文件(&amp;O)…</translation>
     </message>
@@ -615,10 +890,6 @@
     <message>
         <source>Journal</source>
         <translation>日志</translation>
-    </message>
-    <message>
-        <source>Add a device from an SCL file</source>
-        <translation>从 SCL 文件添加设备</translation>
     </message>
     <message>
         <source>Ctrl+O</source>
@@ -750,6 +1021,148 @@ IEC 61850 工具的小型宿主程序：列出设备，加载插件，并显示�
 
 Apache License 2.0</translation>
     </message>
+    <message>
+        <source>No device yet: add one, or open an SCL file</source>
+        <translation>尚无设备：请添加设备或打开 SCL 文件</translation>
+    </message>
+    <message>
+        <source>&amp;Add Device…</source>
+        <translation>添加设备(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>更改</translation>
+    </message>
+    <message>
+        <source>Add a device from an SCL file, without a connection</source>
+        <translation>从 SCL 文件添加设备，不连接</translation>
+    </message>
+    <message>
+        <source>&amp;Start Simulated Device…</source>
+        <translation>启动仿真设备(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>Simulate a device of an SCL file and connect to it</source>
+        <translation>仿真 SCL 文件中的设备并与其连接</translation>
+    </message>
+    <message>
+        <source>Add &amp;Device…</source>
+        <translation>添加设备(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>Add Device</source>
+        <translation>添加设备</translation>
+    </message>
+    <message>
+        <source>Add a device that is reached over the network</source>
+        <translation>添加通过网络访问的设备</translation>
+    </message>
+    <message>
+        <source>Ctrl+N</source>
+        <translation>Ctrl+N</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Device…</source>
+        <translation>编辑设备(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>F2</source>
+        <translation>F2</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>连接(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Connect to the selected device, now and at the next start</source>
+        <translation>连接所选设备，现在以及下次启动时</translation>
+    </message>
+    <message>
+        <source>Dis&amp;connect</source>
+        <translation>断开连接(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Leave the selected device, until it is connected again</source>
+        <translation>断开所选设备，直到再次连接</translation>
+    </message>
+    <message>
+        <source>&amp;Start Simulation</source>
+        <translation>启动仿真(&amp;S)</translation>
+    </message>
+    <message>
+        <source>S&amp;top Simulation</source>
+        <translation>停止仿真(&amp;T)</translation>
+    </message>
+    <message>
+        <source>End the simulated device, as if it had lost its power</source>
+        <translation>停止仿真设备，如同失去电源</translation>
+    </message>
+    <message>
+        <source>&amp;PDU Trace…</source>
+        <translation>PDU 跟踪(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>Show what is exchanged with the selected device</source>
+        <translation>显示与所选设备的交互</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve Capture…</source>
+        <translation>保存抓包(&amp;V)…</translation>
+    </message>
+    <message>
+        <source>Save what was exchanged with the selected device for a protocol analyser</source>
+        <translation>保存与所选设备的交互报文，供协议分析仪使用</translation>
+    </message>
+    <message>
+        <source>E&amp;xport Values…</source>
+        <translation>导出数值(&amp;X)…</translation>
+    </message>
+    <message>
+        <source>Save the values of the selected device as a table</source>
+        <translation>将所选设备的值保存为表格</translation>
+    </message>
+    <message>
+        <source>Read-&amp;Only</source>
+        <translation>只读(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Refuse everything that changes something on a device</source>
+        <translation>拒绝一切会更改设备的操作</translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder of the Change Journal</source>
+        <translation>打开更改日志所在文件夹(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Nothing was changed on a device yet. Every write, command and transfer is listed here%1.</source>
+        <translation>尚未更改任何设备。每次写入、命令和传输都会列在这里%1。</translation>
+    </message>
+    <message>
+        <source> and kept in
+%1</source>
+        <translation> 并保存在
+%1</translation>
+    </message>
+    <message>
+        <source>Read-only: nothing is changed on devices</source>
+        <translation>只读：不会更改设备上的任何内容</translation>
+    </message>
+    <message>
+        <source>Reading the model of %1</source>
+        <translation>正在读取 %1 的模型</translation>
+    </message>
+    <message>
+        <source>This device has no SCL file; its model is read from the device itself.</source>
+        <translation>此设备没有 SCL 文件；其模型从设备本身读取。</translation>
+    </message>
+    <message>
+        <source>Start Simulated Device</source>
+        <translation>启动仿真设备</translation>
+    </message>
+    <message>
+        <source>%1 was taken off the list.</source>
+        <translation>%1 已从列表中移除。</translation>
+    </message>
 </context>
 <context>
     <name>OfflineDriverService</name>
@@ -838,6 +1251,17 @@ Apache License 2.0</translation>
     <message>
         <source>The file describes several IEDs; one must be chosen.</source>
         <translation>文件描述了多台 IED，必须选择一台。</translation>
+    </message>
+</context>
+<context>
+    <name>SimulatedDevice</name>
+    <message>
+        <source>The files of the simulated device cannot be written to &quot;%1&quot;.</source>
+        <translation>无法将仿真设备的文件写入“%1”。</translation>
+    </message>
+    <message>
+        <source>The device cannot be simulated: %1</source>
+        <translation>无法仿真该设备：%1</translation>
     </message>
 </context>
 <context>
