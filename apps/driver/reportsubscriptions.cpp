@@ -21,7 +21,7 @@ struct Texts
 
 /// How often the device is asked whether the blocks are still enabled, and blocks that could not be
 /// enabled again are tried once more.
-constexpr milliseconds watchInterval{5000};
+constexpr milliseconds watchInterval{3000};
 const QString unreadable = QStringLiteral("reports");
 
 QString text(std::string_view utf8)
@@ -62,6 +62,22 @@ bool isSameDataSet(const acsi::Reference &block, const std::string &left, const 
     const auto first = acsi::dataSetName(block.device, left);
     const auto second = acsi::dataSetName(block.device, right);
     return first && second && *first == *second;
+}
+
+/// The members of a data set of a logical node as the model has it; none when it does not.
+std::vector<acsi::Reference> knownMembers(const OnlineModel &model, const mms::ObjectName &name)
+{
+    std::vector<acsi::Reference> members;
+    const QString item = text(name.item);
+    const LogicalNode *node = model.node(text(name.domain), item.section(QLatin1Char('$'), 0, 0));
+    const DataSet *set = node ? node->dataSet(item.section(QLatin1Char('$'), 1)) : nullptr;
+    if (!set)
+        return members;
+    for (const DataSetMember *member : qAsConst(set->members)) {
+        const auto reference = acsi::parseReference(member->reference.toStdString());
+        members.push_back(reference ? *reference : acsi::Reference());
+    }
+    return members;
 }
 
 /// Qualities and times that a report brings as members of their own, by the data they belong to.
@@ -250,9 +266,12 @@ asio::awaitable<Outcome> ReportSubscriptions::start(SubscriptionPointer subscrip
     if (subscription->datSet.empty())
         co_return Outcome::failed(
             Texts::tr("The report control block %1 has no data set.").arg(text(block)));
-    const mms::Result<void> found = co_await findMembers(subscription, client);
-    if (!found)
-        co_return Outcome::failed(found.error());
+    co_await findMembers(subscription, client);
+    if (subscription->members.empty()) {
+        acsi::OptFlds fields = settings.optFlds.value_or(before->optFlds);
+        fields.dataReference = true;
+        settings.optFlds = fields;
+    }
     const auto entry = m_lastEntries.find(subscription->reference);
     if (entry != m_lastEntries.end())
         settings.resumeAfter = entry->second;
@@ -294,29 +313,27 @@ asio::awaitable<Outcome> ReportSubscriptions::start(SubscriptionPointer subscrip
     co_return outcome;
 }
 
-asio::awaitable<mms::Result<void>>
-ReportSubscriptions::findMembers(SubscriptionPointer subscription,
-                                 std::shared_ptr<acsi::Client> client)
+asio::awaitable<void> ReportSubscriptions::findMembers(SubscriptionPointer subscription,
+                                                       std::shared_ptr<acsi::Client> client)
 {
     const mms::Result<mms::ObjectName> name =
         acsi::dataSetName(subscription->block.device, subscription->datSet);
     if (!name)
-        co_return name.error();
+        co_return;
+    subscription->members.clear();
     const mms::Result<acsi::DataSetDescription> directory =
         co_await acsi::dataSetDirectory(client, *name);
-    if (!directory) {
-        co_return mms::Error{Texts::tr("The data set %1 cannot be used: %2")
-                                 .arg(text(subscription->datSet), text(directory.error().message))
-                                 .toStdString(),
-                             0};
+    if (directory) {
+        for (const mms::VariableAccess &member : directory->members) {
+            // What has no reference is not in the model either; its place is kept.
+            const mms::Result<acsi::Reference> reference = acsi::referenceOf(member);
+            subscription->members.push_back(reference ? *reference : acsi::Reference());
+        }
+    } else {
+        // The list of a large data set may be longer than the device can send. The file knows it,
+        // or the reports have to say what they bring.
+        subscription->members = knownMembers(*m_connection.model(), *name);
     }
-    subscription->members.clear();
-    for (const mms::VariableAccess &member : directory->members) {
-        // What has no reference is not in the model either; its place is kept.
-        const mms::Result<acsi::Reference> reference = acsi::referenceOf(member);
-        subscription->members.push_back(reference ? *reference : acsi::Reference());
-    }
-    co_return mms::Result<void>();
 }
 
 asio::awaitable<void> ReportSubscriptions::readMembers(SubscriptionPointer subscription,
@@ -530,10 +547,15 @@ void ReportSubscriptions::publish(ReportSubscription &subscription, const acsi::
     for (std::size_t i = 0; i < report.members.size(); ++i) {
         const acsi::ReportMember &member = report.members[i];
         if (references[i].node.empty()) {
-            disturbance = Texts::tr("A report of %1 has %2 members, but its data set has %3.")
-                              .arg(text(subscription.reference))
-                              .arg(report.dataSetSize)
-                              .arg(subscription.members.size());
+            disturbance = isKnown ? Texts::tr("The member %1 of the data set of %2 is no data of "
+                                              "the device's model.")
+                                        .arg(member.index + 1)
+                                        .arg(text(subscription.reference))
+                                  : Texts::tr("A report of %1 has %2 members, but its data set "
+                                              "has %3.")
+                                        .arg(text(subscription.reference))
+                                        .arg(report.dataSetSize)
+                                        .arg(subscription.members.size());
             continue;
         }
         const std::string reference = acsi::toText(references[i]);

@@ -51,8 +51,8 @@ private:
     asio::awaitable<Outcome> start(SubscriptionPointer subscription);
     /// Enables the block again that the operator wanted to be.
     asio::awaitable<void> resume(SubscriptionPointer subscription, QString why);
-    asio::awaitable<mms::Result<void>> findMembers(SubscriptionPointer subscription,
-                                                   std::shared_ptr<acsi::Client> client);
+    asio::awaitable<void> findMembers(SubscriptionPointer subscription,
+                                      std::shared_ptr<acsi::Client> client);
     asio::awaitable<void> readMembers(SubscriptionPointer subscription,
                                       std::shared_ptr<acsi::Client> client);
     asio::awaitable<void> watch(std::shared_ptr<acsi::Client> client);

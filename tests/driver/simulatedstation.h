@@ -4,6 +4,7 @@
 // Asio has a function of the name of one of Qt's keywords, so it goes before Qt.
 #include "simulator/device.h"
 #include "simulator/faults.h"
+#include "simulator/recordingclient.h"
 
 #include "driver/ieddriver.h"
 
@@ -21,6 +22,7 @@
 #include <QtCore/QList>
 #include <QtCore/QString>
 
+#include <algorithm>
 #include <condition_variable>
 #include <functional>
 #include <future>
@@ -68,10 +70,15 @@ public:
         m_options.server.association.link.interference = (*faults)->interference();
     }
 
+    /// Of the next start.
+    void setRequestFilter(sim::Device::RequestFilter filter) { m_filter = std::move(filter); }
+
     void start()
     {
         m_options.server.port = m_options.server.port == 102 ? 0 : m_options.server.port;
         m_device = sim::Device::create(m_context.get_executor(), *m_ied, m_options);
+        if (m_filter)
+            m_device->setRequestFilter(m_filter);
         const mms::Result<std::uint16_t> started = m_device->start();
         if (!started)
             qFatal("%s", started.error().message.c_str());
@@ -106,11 +113,16 @@ public:
         });
     }
 
+    /// As a client would read it.
     mms::Data value(const std::string &domain, const std::string &item)
     {
         mms::Data result;
         act([&](sim::Device &device) {
-            result = device.model().value(device.model().find(domain, item));
+            simtest::RecordingClient client;
+            const mms::AccessResult read =
+                device.access().read(client, device.model().find(domain, item));
+            if (read.ok())
+                result = read.data();
         });
         return result;
     }
@@ -119,6 +131,7 @@ private:
     scl::ReadResult m_file;
     const scl::Ied *m_ied = nullptr;
     sim::DeviceOptions m_options;
+    sim::Device::RequestFilter m_filter;
     asio::io_context m_context;
     asio::executor_work_guard<asio::io_context::executor_type> m_work;
     std::shared_ptr<sim::Device> m_device;
@@ -194,6 +207,27 @@ public:
         const std::lock_guard<std::mutex> lock(m_mutex);
         return m_values.value(reference);
     }
+    QHash<QString, MMSValue> values() const
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return m_values;
+    }
+    /// Everything published of the reference since clear(), oldest first.
+    QList<MMSValue> history(const QString &reference) const
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return m_history.value(reference);
+    }
+    /// Waits until something of a report, or a polling, has been published for so many references.
+    bool waitForReferences(int count, std::uint32_t cause)
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        return m_changed.wait_for(lock, patience, [&] {
+            return std::count_if(m_values.cbegin(), m_values.cend(), [cause](const MMSValue &each) {
+                       return (each.cause & cause) == cause;
+                   }) >= count;
+        });
+    }
     QList<DeviceChange> changes() const
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
@@ -213,6 +247,7 @@ public:
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_values.clear();
+        m_history.clear();
         m_changes.clear();
         m_published = 0;
     }
@@ -226,6 +261,7 @@ private:
             QDataStream stream(record);
             value.fromStream(stream);
             m_values.insert(value.reference, value);
+            m_history[value.reference].append(value);
             ++m_published;
         }
         m_changed.notify_all();
@@ -236,6 +272,7 @@ private:
     QList<DeviceStatus> m_statuses;
     QList<DeviceChange> m_changes;
     QHash<QString, MMSValue> m_values;
+    QHash<QString, QList<MMSValue>> m_history;
     int m_published = 0;
 };
 
