@@ -750,10 +750,6 @@ Verbindungen: %5</translation>
         <translation>Das Gerät hat %1 nicht freigegeben, obwohl es dies bestätigt hat.</translation>
     </message>
     <message>
-        <source>The data set %1 cannot be used: %2</source>
-        <translation>Der Datensatz %1 ist nicht zu verwenden: %2</translation>
-    </message>
-    <message>
         <source>disabled</source>
         <translation>gesperrt</translation>
     </message>
@@ -796,6 +792,10 @@ Verbindungen: %5</translation>
     <message>
         <source>enabled</source>
         <translation>freigegeben</translation>
+    </message>
+    <message>
+        <source>The member %1 of the data set of %2 is no data of the device's model.</source>
+        <translation>Das Element %1 des Datensatzes von %2 gehört nicht zum Modell des Geräts.</translation>
     </message>
 </context>
 <context>

@@ -750,10 +750,6 @@ Conexiones: %5</translation>
         <translation>El dispositivo no ha habilitado %1 aunque lo confirmó.</translation>
     </message>
     <message>
-        <source>The data set %1 cannot be used: %2</source>
-        <translation>El conjunto de datos %1 no se puede usar: %2</translation>
-    </message>
-    <message>
         <source>disabled</source>
         <translation>deshabilitado</translation>
     </message>
@@ -796,6 +792,10 @@ Conexiones: %5</translation>
     <message>
         <source>enabled</source>
         <translation>habilitado</translation>
+    </message>
+    <message>
+        <source>The member %1 of the data set of %2 is no data of the device's model.</source>
+        <translation>El miembro %1 del conjunto de datos de %2 no es un dato del modelo del dispositivo.</translation>
     </message>
 </context>
 <context>

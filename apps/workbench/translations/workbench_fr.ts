@@ -750,10 +750,6 @@ Connexions : %5</translation>
         <translation>L'équipement n'a pas activé %1 alors qu'il l'a confirmé.</translation>
     </message>
     <message>
-        <source>The data set %1 cannot be used: %2</source>
-        <translation>L'ensemble de données %1 est inutilisable : %2</translation>
-    </message>
-    <message>
         <source>disabled</source>
         <translation>désactivé</translation>
     </message>
@@ -796,6 +792,10 @@ Connexions : %5</translation>
     <message>
         <source>enabled</source>
         <translation>activé</translation>
+    </message>
+    <message>
+        <source>The member %1 of the data set of %2 is no data of the device's model.</source>
+        <translation>Le membre %1 de l'ensemble de données de %2 n'est pas une donnée du modèle de l'équipement.</translation>
     </message>
 </context>
 <context>

@@ -750,10 +750,6 @@ Conexões: %5</translation>
         <translation>O dispositivo não habilitou %1, embora o tenha confirmado.</translation>
     </message>
     <message>
-        <source>The data set %1 cannot be used: %2</source>
-        <translation>O conjunto de dados %1 não pode ser usado: %2</translation>
-    </message>
-    <message>
         <source>disabled</source>
         <translation>desabilitado</translation>
     </message>
@@ -796,6 +792,10 @@ Conexões: %5</translation>
     <message>
         <source>enabled</source>
         <translation>habilitado</translation>
+    </message>
+    <message>
+        <source>The member %1 of the data set of %2 is no data of the device's model.</source>
+        <translation>O membro %1 do conjunto de dados de %2 não é um dado do modelo do dispositivo.</translation>
     </message>
 </context>
 <context>

@@ -750,10 +750,6 @@ Connections: %5</source>
         <translation>Устройство не включило %1, хотя подтвердило это.</translation>
     </message>
     <message>
-        <source>The data set %1 cannot be used: %2</source>
-        <translation>Набор данных %1 непригоден: %2</translation>
-    </message>
-    <message>
         <source>disabled</source>
         <translation>отключён</translation>
     </message>
@@ -796,6 +792,10 @@ Connections: %5</source>
     <message>
         <source>enabled</source>
         <translation>включён</translation>
+    </message>
+    <message>
+        <source>The member %1 of the data set of %2 is no data of the device's model.</source>
+        <translation>Элемента %1 набора данных %2 нет в модели устройства.</translation>
     </message>
 </context>
 <context>

@@ -750,10 +750,6 @@ Connections: %5</source>
         <translation>设备已确认使能 %1，但实际并未使能。</translation>
     </message>
     <message>
-        <source>The data set %1 cannot be used: %2</source>
-        <translation>数据集 %1 无法使用：%2</translation>
-    </message>
-    <message>
         <source>disabled</source>
         <translation>禁止</translation>
     </message>
@@ -796,6 +792,10 @@ Connections: %5</source>
     <message>
         <source>enabled</source>
         <translation>使能</translation>
+    </message>
+    <message>
+        <source>The member %1 of the data set of %2 is no data of the device's model.</source>
+        <translation>%2 的数据集成员 %1 不是设备模型中的数据。</translation>
     </message>
 </context>
 <context>
