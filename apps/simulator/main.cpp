@@ -24,7 +24,7 @@ using iedsim::Ending;
 struct Chosen
 {
     const scl::Ied *ied = nullptr;
-    std::string file;
+    bool firstEdition = false;
 };
 
 struct Described
@@ -130,7 +130,7 @@ std::vector<Chosen> choose(const CommandLine &commandLine, const std::vector<Des
             return {};
         }
         for (const scl::Ied *ied : servers)
-            chosen.push_back({ied, file});
+            chosen.push_back({ied, document->edition() == "1"});
     }
     for (const std::string &name : commandLine.ieds) {
         const auto found = std::ranges::find_if(described, [&name](const Described &each) {
@@ -145,7 +145,7 @@ std::vector<Chosen> choose(const CommandLine &commandLine, const std::vector<Des
             complain("the IED \"" + name + "\" has no server.");
             return {};
         }
-        chosen.push_back({ied, found->file});
+        chosen.push_back({ied, found->document->edition() == "1"});
     }
     return chosen;
 }
@@ -179,6 +179,7 @@ int run(const CommandLine &commandLine)
     for (std::size_t i = 0; i < chosen.size(); ++i) {
         const scl::Ied &ied = *chosen[i].ied;
         sim::SimulationOptions options = commandLine.simulation;
+        options.firstEdition = chosen[i].firstEdition;
         if (options.port != 0)
             options.port = static_cast<std::uint16_t>(options.port + i);
         if (!commandLine.quiet) {

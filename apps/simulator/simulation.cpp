@@ -83,6 +83,7 @@ mms::Result<SimulatedDevice> simulate(asio::any_io_executor executor, const scl:
     device.server.port = options.port;
     device.server.maxAssociations = options.maxAssociations;
     device.server.association.maxPduSize = options.maxPduSize;
+    device.firstEdition = options.firstEdition;
     mms::LinkOptions &link = device.server.association.link;
     if (options.password) {
         mms::acse::Authentication authentication;

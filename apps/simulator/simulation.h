@@ -28,6 +28,9 @@ struct SimulationOptions
     /// What clients have to name when they ask for an association; none asks for none.
     std::optional<std::string> password;
     std::optional<mms::TlsOptions> tls;
+    /// As scl::Document::edition() tells: control blocks have the attributes of the first edition
+    /// of the standard only.
+    bool firstEdition = false;
     std::optional<AnimationOptions> animation;
     std::optional<FileOptions> files;
     /// A script of faults; may be empty.

@@ -207,6 +207,26 @@ TEST_F(Iedsim, SeveralIedsListenOnConsecutivePorts)
     FAIL() << "no two ports were free";
 }
 
+TEST_F(Iedsim, BlocksOfADeviceOfTheFirstEditionHaveNoOwner)
+{
+    const auto attributesOf = [this](const std::string &version) {
+        const std::string path = file(
+            "bay" + version.substr(0, version.find('=')) + ".icd",
+            R"(<SCL xmlns="http://www.iec.ch/61850/2003/SCL" )" + version
+                + R"(><Header id="h"/><IED name="IED1"><AccessPoint name="S1"><Server>
+<Authentication none="true"/><LDevice inst="LD"><LN0 lnClass="LLN0" inst="" lnType="L">
+<ReportControl name="rcb" rptID="r" confRev="1" indexed="false"><TrgOps/><OptFields/>
+<RptEnabled max="1"/></ReportControl></LN0></LDevice></Server></AccessPoint></IED>
+<DataTypeTemplates><LNodeType id="L" lnClass="LLN0"/></DataTypeTemplates></SCL>)");
+        Program program({path, "--port", "0"});
+        Caller caller(m_loop.executor(), program.port());
+        const auto names = caller.names(mms::ObjectClass::NamedVariable, "IED1LD");
+        return std::ranges::count(names, "LLN0$RP$rcb$Owner");
+    };
+    EXPECT_EQ(attributesOf({}), 0);
+    EXPECT_EQ(attributesOf(R"(version="2007" revision="B")"), 1);
+}
+
 TEST_F(Iedsim, TheListTellsTheIedsOfAFile)
 {
     Program program({"--list", device, fixtures + "report-instances.icd"});
