@@ -298,7 +298,7 @@
     </message>
     <message>
         <source>Simulated demonstration</source>
-        <translation>Имитация для демонстрации</translation>
+        <translation>Имитация (демо)</translation>
     </message>
     <message>
         <source>Simulated: %1</source>
