@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
-// Reports of a simulated IED to one client over loopback: 50 floating-point members each, one thread
-// for the device and one for the client.
+// Reports of 50 floating-point members each.
 //
+// Decode: from the octets of the PDU to members with their reasons, on one core; the rate counts
+// members.
+//
+// The others go from a simulated IED to one client over loopback, with one thread for the device and
+// one for the client.
 // Paced: 20,000 reports a second, which must arrive without loss; "lost" is what is missing in the
 // sequence numbers, "seconds" how long a second's reports took until the last of them was decoded.
 // Burst: more than buffer and network take; where entries are lost the client is told, and
@@ -194,6 +198,48 @@ scl::ReadResult read()
         std::abort();
     return result;
 }
+
+void decode(benchmark::State &state)
+{
+    acsi::Report report;
+    report.rptId = "IEDLD/LLN0$BR$brcb";
+    report.optFlds.sequenceNumber = true;
+    report.optFlds.timeStamp = true;
+    report.optFlds.reasonForInclusion = true;
+    report.optFlds.bufferOverflow = true;
+    report.optFlds.entryId = true;
+    report.sqNum = 4711;
+    report.timeOfEntry = mms::BinaryTime{18367123, 13577};
+    report.bufOvfl = false;
+    report.entryId = {0, 0, 0, 0, 0, 0, 18, 103};
+    report.dataSetSize = memberCount;
+    for (std::uint32_t i = 0; i < memberCount; ++i) {
+        acsi::ReportMember member{i, {}, std::nullopt,
+                                  mms::Data::float32(static_cast<float>(i) * 1.25F)};
+        member.reason.emplace().dataChange = true;
+        report.members.push_back(std::move(member));
+    }
+    const mms::Octets octets = mms::encode(mms::UnconfirmedPdu{acsi::encodeReport(report)});
+    for ([[maybe_unused]] auto _ : state) {
+        auto pdu = mms::decodePdu(octets);
+        auto *unconfirmed = pdu ? std::get_if<mms::UnconfirmedPdu>(&*pdu) : nullptr;
+        auto *information =
+            unconfirmed ? std::get_if<mms::InformationReport>(&unconfirmed->service) : nullptr;
+        if (!information) {
+            state.SkipWithError("the report was not read back");
+            return;
+        }
+        auto decoded = acsi::decodeReport(std::move(*information));
+        if (!decoded || decoded->members.size() != memberCount) {
+            state.SkipWithError("the report was not decoded");
+            return;
+        }
+        benchmark::DoNotOptimize(decoded);
+    }
+    state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations()) * memberCount);
+    state.counters["limit_items_per_second"] = 1e6;
+}
+BENCHMARK(decode);
 
 double cpuSeconds()
 {
