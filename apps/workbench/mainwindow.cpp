@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mainwindow.h"
 
+#include "devicedialog.h"
 #include "guideviewer.h"
 #include "iedchooser.h"
+#include "tracedialog.h"
 #include "ui_mainwindow.h"
 #include "workbench.h"
 
@@ -12,6 +14,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QMimeData>
+#include <QtCore/QSaveFile>
 #include <QtCore/QSettings>
 #include <QtCore/QSortFilterProxyModel>
 #include <QtGui/QDesktopServices>
@@ -124,7 +127,9 @@ void MainWindow::setUpViews()
     setWidth(devices->header(), DeviceListModel::NameColumn, 150);
     setWidth(devices->header(), DeviceListModel::NumberColumn, 60);
     setWidth(devices->header(), DeviceListModel::SourceColumn, 180);
-    setWidth(devices->header(), DeviceListModel::StateColumn, 210);
+    setWidth(devices->header(), DeviceListModel::ValuesColumn, 80);
+    devices->header()->setStretchLastSection(false);
+    devices->header()->setSectionResizeMode(DeviceListModel::StateColumn, QHeaderView::Stretch);
     setWidth(devices->header(), DeviceListModel::IdentityColumn, 200);
     setWidth(devices->header(), DeviceListModel::RoundTripColumn, 80);
     setWidth(devices->header(), DeviceListModel::ReportsColumn, 70);
@@ -188,7 +193,9 @@ void MainWindow::setUpViews()
     setWidth(changesHeader, ChangeJournal::ReferenceColumn, 230);
     setWidth(changesHeader, ChangeJournal::OldValueColumn, 90);
     setWidth(changesHeader, ChangeJournal::NewValueColumn, 90);
-    setWidth(changesHeader, ChangeJournal::ResultColumn, 130);
+    setWidth(changesHeader, ChangeJournal::CauseColumn, 130);
+    changesHeader->setStretchLastSection(false);
+    changesHeader->setSectionResizeMode(ChangeJournal::ResultColumn, QHeaderView::Stretch);
     followNewest(changes);
 
     tabifyDockWidget(m_ui->journalDock, m_ui->changesDock);
@@ -215,6 +222,14 @@ void MainWindow::setUpActions()
     connect(m_ui->actionReload, &QAction::triggered, this,
             [this] { m_workbench.reload(selectedDevice()); });
     connect(m_ui->actionRemove, &QAction::triggered, this, &MainWindow::removeSelected);
+    connect(m_ui->actionAdd, &QAction::triggered, this, &MainWindow::addDevice);
+    connect(m_ui->emptyAdd, &QPushButton::clicked, this, &MainWindow::addDevice);
+    connect(m_ui->actionEdit, &QAction::triggered, this, &MainWindow::editSelected);
+    connect(m_ui->actionTrace, &QAction::triggered, this, &MainWindow::showTrace);
+    connect(m_ui->actionCapture, &QAction::triggered, this,
+            [this] { saveCapture(selectedDevice()); });
+    connect(m_ui->actionExport, &QAction::triggered, this,
+            [this] { exportValues(selectedDevice()); });
     connect(m_ui->actionConnect, &QAction::triggered, this,
             [this] { m_workbench.connectDevice(selectedDevice()); });
     connect(m_ui->actionDisconnect, &QAction::triggered, this,
@@ -552,6 +567,103 @@ void MainWindow::removeSelected()
             .arg(device->record.name());
     m_workbench.remove(device->record.number());
     statusBar()->showMessage(message, messageTime);
+}
+
+void MainWindow::addDevice()
+{
+    showDeviceDialog({});
+}
+
+void MainWindow::editSelected()
+{
+    if (const DeviceListModel::Device *device = m_workbench.devices().device(selectedDevice()))
+        showDeviceDialog(device->record);
+}
+
+void MainWindow::showDeviceDialog(const DeviceRecord &record)
+{
+    auto *dialog = new DeviceDialog(
+        record, [this](const DeviceRecord &wanted) { return m_workbench.put(wanted); },
+        [&driver = m_workbench.driver()](const DeviceConfiguration &configuration) {
+            return driver.test(configuration);
+        },
+        m_jobs, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}
+
+void MainWindow::showTrace()
+{
+    const DeviceListModel::Device *device = m_workbench.devices().device(selectedDevice());
+    if (!device)
+        return;
+    auto *trace = new TraceDialog(m_workbench.driver(), device->record.number(),
+                                  device->record.name(), this);
+    trace->setAttribute(Qt::WA_DeleteOnClose);
+    connect(trace, &TraceDialog::captureWanted, this, &MainWindow::saveCapture);
+    trace->show();
+}
+
+void MainWindow::saveCapture(int number)
+{
+    const DeviceListModel::Device *device = m_workbench.devices().device(number);
+    if (!device)
+        return;
+    writeFile(tr("Save Capture"), device->record.name() + QStringLiteral(".pcapng"),
+              tr("Captures (*.pcapng)"),
+              [&driver = m_workbench.driver(), number](QIODevice &out) {
+                  return driver.saveCapture(number, out);
+              });
+}
+
+void MainWindow::exportValues(int number)
+{
+    const DeviceListModel::Device *device = m_workbench.devices().device(number);
+    if (!device)
+        return;
+    writeFile(tr("Export Values"), device->record.name() + QStringLiteral(".csv"),
+              tr("Tables (*.csv)"),
+              [&driver = m_workbench.driver(), number](QIODevice &out) {
+                  return driver.exportValues(number, out);
+              });
+}
+
+void MainWindow::writeFile(const QString &title, const QString &name, const QString &filter,
+                           const std::function<QString(QIODevice &)> &write)
+{
+    auto *dialog = new QFileDialog(this, title);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setFileMode(QFileDialog::AnyFile);
+    dialog->setNameFilters({filter, tr("All files (*)")});
+    dialog->setDefaultSuffix(QFileInfo(name).suffix());
+    dialog->selectFile(name);
+    connect(dialog, &QFileDialog::fileSelected, this, [this, title, write](const QString &path) {
+        const auto problem = std::make_shared<QString>();
+        const auto work = [problem, path, write] {
+            QSaveFile file(path);
+            const bool isOpen = file.open(QIODevice::WriteOnly);
+            if (isOpen)
+                *problem = write(file);
+            if (problem->isEmpty() && (!isOpen || !file.commit())) {
+                *problem = tr("\"%1\" cannot be written: %2")
+                               .arg(QDir::toNativeSeparators(path), file.errorString());
+            }
+        };
+        m_jobs.run(work, this, [this, title, problem, path] {
+            if (problem->isEmpty()) {
+                statusBar()->showMessage(
+                    tr("\"%1\" was written.").arg(QDir::toNativeSeparators(path)), messageTime);
+                return;
+            }
+            auto *box =
+                new QMessageBox(QMessageBox::Warning, title, *problem, QMessageBox::Ok, this);
+            box->setTextFormat(Qt::PlainText);
+            box->setAttribute(Qt::WA_DeleteOnClose);
+            box->open();
+        });
+    });
+    dialog->open();
 }
 
 void MainWindow::showGuide()

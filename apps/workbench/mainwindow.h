@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "backgroundjobs.h"
 #include "extensionloader.h"
 #include "findingsmodel.h"
 #include "importresult.h"
@@ -18,11 +19,13 @@ namespace Ui {
 class MainWindow;
 }
 class GuideViewer;
+class QIODevice;
 class QLabel;
 class QProgressBar;
 class QSortFilterProxyModel;
 class QToolButton;
 class Workbench;
+struct DeviceRecord;
 
 /// The window of the workbench: list of devices, tools of the extension, findings, journals.
 class MainWindow : public QMainWindow
@@ -70,6 +73,15 @@ private:
     void showReadOnly();
     void showNextQuestion();
     void showFailures(const QStringList &sentences);
+    void addDevice();
+    void editSelected();
+    void showDeviceDialog(const DeviceRecord &record);
+    void showTrace();
+    void saveCapture(int number);
+    void exportValues(int number);
+    /// Asks for a file and lets a thread write it; what goes wrong is told in a message box.
+    void writeFile(const QString &title, const QString &name, const QString &filter,
+                   const std::function<QString(QIODevice &)> &write);
     void showGuide();
     void showAbout();
     void removeSelected();
@@ -95,5 +107,6 @@ private:
         QVector<IedSummary> ieds;
         bool simulated = false;
     };
+    BackgroundJobs m_jobs;
     QList<Question> m_questions; ///< the first one is on the screen
 };

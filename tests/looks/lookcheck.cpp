@@ -4,6 +4,7 @@
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QDockWidget>
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
@@ -29,6 +30,12 @@ QString sizeText(const QSize &size)
     return QStringLiteral("%1 x %2").arg(size.width()).arg(size.height());
 }
 
+/// Qt moves a dock out of sight while another one of its tabs is in front.
+bool isBehindATab(const QWidget &widget)
+{
+    return qobject_cast<const QDockWidget *>(&widget) && widget.visibleRegion().isEmpty();
+}
+
 class LookCheck
 {
 public:
@@ -39,7 +46,7 @@ public:
         QList<const QWidget *> children;
         for (QObject *object : parent.children()) {
             const auto *child = qobject_cast<const QWidget *>(object);
-            if (child && !child->isWindow() && child->isVisible())
+            if (child && !child->isWindow() && child->isVisible() && !isBehindATab(*child))
                 children << child;
         }
         for (int i = 0; i < children.size(); ++i) {

@@ -22,6 +22,11 @@ private slots:
     void aVanishedFileStaysRemembered();
     void aDamagedSettingsFileLosesOnlyWhatIsDamaged();
     void aListThatCannotBeSavedSaysSo();
+    void aDeviceOnTheNetworkIsRememberedWithAllItsSettings();
+    void anEditedDeviceKeepsItsPlaceAndNumber();
+    void aSimulatedDeviceIsAnotherThanTheOneOfItsFile();
+    void onlyTheOwnerCanReadTheFile();
+    void aDamagedConnectionIsToldAndLeavesTheOthers();
 
 private:
     QString settingsFile() const { return m_folder->filePath(QStringLiteral("workbench.ini")); }
@@ -176,6 +181,90 @@ void tst_DeviceStore::aListThatCannotBeSavedSaysSo()
     QCOMPARE(store.add(sclFile(QStringLiteral("a.scd")), QStringLiteral("A")), 1);
     QVERIFY2(store.problem().contains(settingsFile()), qPrintable(store.problem()));
     QCOMPARE(store.devices().size(), 1);
+}
+
+void tst_DeviceStore::aDeviceOnTheNetworkIsRememberedWithAllItsSettings()
+{
+    DeviceRecord record;
+    DeviceConfiguration &configuration = record.configuration;
+    configuration.name = QStringLiteral("Übergabe, \"Feld\" 1");
+    configuration.host = QStringLiteral("fe80::1");
+    configuration.port = 10102;
+    configuration.remote.transportSelector = QByteArray("\0\7", 2);
+    configuration.remote.aeQualifier = 12;
+    configuration.password = QStringLiteral("p=%;,\"x");
+    configuration.tls.pins = QStringList{QStringLiteral("aa:bb"), QStringLiteral("cc:dd")};
+    configuration.callTimeout = std::chrono::milliseconds(1234);
+    configuration.originatorIdentification = "desk 4";
+    record.connects = false;
+    {
+        DeviceStore store(settingsFile());
+        QCOMPARE(store.put(record), 1);
+    }
+    const DeviceStore store(settingsFile());
+    QVERIFY2(store.problem().isEmpty(), qPrintable(store.problem()));
+    QCOMPARE(store.devices().size(), 1);
+    configuration.number = 1;
+    QVERIFY(store.devices()[0].configuration == configuration);
+    QVERIFY(store.devices()[0].isReached());
+    QVERIFY(!store.devices()[0].connects);
+    QVERIFY(!store.devices()[0].simulated);
+}
+
+void tst_DeviceStore::anEditedDeviceKeepsItsPlaceAndNumber()
+{
+    DeviceRecord record;
+    record.configuration.name = QStringLiteral("A");
+    record.configuration.host = QStringLiteral("a.example");
+    DeviceStore store(settingsFile());
+    QCOMPARE(store.nextNumber(), 1);
+    record.configuration.number = store.put(record);
+    store.add(sclFile(QStringLiteral("b.scd")), QStringLiteral("B"));
+    record.configuration.host = QStringLiteral("c.example");
+    QCOMPARE(store.put(record), 1);
+    const DeviceStore read(settingsFile());
+    QCOMPARE(read.devices().size(), 2);
+    QCOMPARE(read.devices()[0].configuration.host, QStringLiteral("c.example"));
+}
+
+void tst_DeviceStore::aSimulatedDeviceIsAnotherThanTheOneOfItsFile()
+{
+    const QString file = sclFile(QStringLiteral("a.scd"));
+    {
+        DeviceStore store(settingsFile());
+        QCOMPARE(store.add(file, QStringLiteral("A")), 1);
+        QCOMPARE(store.add(file, QStringLiteral("A"), true), 2);
+        QCOMPARE(store.add(file, QStringLiteral("A"), true), 2);
+    }
+    const DeviceStore store(settingsFile());
+    QCOMPARE(store.find(file, QStringLiteral("A")), 1);
+    QCOMPARE(store.find(file, QStringLiteral("A"), true), 2);
+    QVERIFY(store.devices()[1].simulated);
+}
+
+void tst_DeviceStore::onlyTheOwnerCanReadTheFile()
+{
+    DeviceStore store(settingsFile());
+    store.add(sclFile(QStringLiteral("a.scd")), QStringLiteral("A"));
+    const QFile::Permissions others = QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup |
+                                      QFile::WriteOther;
+    QVERIFY(!(QFile::permissions(settingsFile()) & others));
+}
+
+void tst_DeviceStore::aDamagedConnectionIsToldAndLeavesTheOthers()
+{
+    QFile file(settingsFile());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("nextDeviceNumber=4\n[devices]\nsize=2\n"
+               "1\\number=1\n1\\file=\n1\\ied=\n1\\connection=\"{ rubbish\"\n"
+               "2\\number=2\n2\\file=\n2\\ied=\n"
+               "2\\connection=\"{\\\"name\\\":\\\"B\\\",\\\"host\\\":\\\"b\\\"}\"\n");
+    file.close();
+    const DeviceStore store(settingsFile());
+    QCOMPARE(store.devices().size(), 1);
+    QCOMPARE(store.devices()[0].number(), 2);
+    QCOMPARE(store.devices()[0].configuration.host, QStringLiteral("b"));
+    QVERIFY(store.problem().contains(settingsFile()));
 }
 
 QTEST_GUILESS_MAIN(tst_DeviceStore)

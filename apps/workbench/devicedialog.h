@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "devicestore.h"
+
+#include "driver/ieddriver.h"
+
+#include <QtWidgets/QDialog>
+
+#include <functional>
+#include <memory>
+
+namespace Ui {
+class DeviceDialog;
+}
+class BackgroundJobs;
+class QLineEdit;
+
+/// Asks for everything that the driver has to know about a device. Faults are shown in the form,
+/// one sentence each, and follow the fields from the first try to accept; the dialog stays until
+/// there are none. GUI thread.
+class DeviceDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// Takes the device; its faults, in which case nothing has happened.
+    using Save = std::function<QStringList(const DeviceRecord &record)>;
+    /// Tries to reach the device; called in another thread.
+    using Test = std::function<IedDriver::TestResult(const DeviceConfiguration &configuration)>;
+
+    /// @param record what the fields begin with; number 0 for a new device
+    /// @param jobs not owned; must outlive the dialog
+    DeviceDialog(const DeviceRecord &record, Save save, Test test, BackgroundJobs &jobs,
+                 QWidget *parent = nullptr);
+    ~DeviceDialog() override;
+
+    /// The device as the fields describe it. @param faults gets a sentence for each field that
+    /// cannot be understood
+    DeviceRecord record(QStringList &faults) const;
+
+public slots:
+    void accept() override;
+
+private:
+    void fill();
+    void fillAddress(const AssociationAddress &address, const QString &side);
+    AssociationAddress addressOf(const QString &side, const QString &who,
+                                 QStringList &faults) const;
+    void setUpBrowse(QLineEdit *field, const QString &title, bool several);
+    QLineEdit *field(const QString &name) const;
+    QStringList currentFaults() const;
+    void showFaults(const QStringList &faults);
+    void testConnection();
+    void showTestResult(const IedDriver::TestResult &result);
+
+    const std::unique_ptr<Ui::DeviceDialog> m_ui;
+    const DeviceRecord m_original;
+    const Save m_save;
+    const Test m_test;
+    BackgroundJobs &m_jobs;
+    bool m_faultsFollow = false;
+};
