@@ -797,6 +797,54 @@ Verbindungen: %5</translation>
         <source>The member %1 of the data set of %2 is no data of the device's model.</source>
         <translation>Das Element %1 des Datensatzes von %2 gehört nicht zum Modell des Geräts.</translation>
     </message>
+    <message>
+        <source>%1 is busy with another file: %2.</source>
+        <translation>%1 ist mit einer anderen Datei beschäftigt: %2.</translation>
+    </message>
+    <message>
+        <source>listing &quot;%1&quot;</source>
+        <translation>Auflisten von „%1“</translation>
+    </message>
+    <message>
+        <source>fetching &quot;%1&quot;</source>
+        <translation>Holen von „%1“</translation>
+    </message>
+    <message>
+        <source>%1 is too large: at most %2 octets can be fetched.</source>
+        <translation>%1 ist zu groß: Höchstens %2 Oktette können geholt werden.</translation>
+    </message>
+    <message>
+        <source>deleting &quot;%1&quot;</source>
+        <translation>Löschen von „%1“</translation>
+    </message>
+    <message>
+        <source>There is no name of a file.</source>
+        <translation>Es ist kein Dateiname angegeben.</translation>
+    </message>
+    <message>
+        <source>There is no file to send.</source>
+        <translation>Es ist keine zu sendende Datei angegeben.</translation>
+    </message>
+    <message>
+        <source>There is no file &quot;%1&quot; on this computer.</source>
+        <translation>Auf diesem Rechner gibt es keine Datei „%1“.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2.</source>
+        <translation>„%1“ kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large for a file of a device.</source>
+        <translation>„%1“ ist zu groß für eine Datei eines Geräts.</translation>
+    </message>
+    <message>
+        <source>sending &quot;%1&quot;</source>
+        <translation>Senden von „%1“</translation>
+    </message>
+    <message>
+        <source>%1 (%2 octets)</source>
+        <translation>%1 (%2 Oktette)</translation>
+    </message>
 </context>
 <context>
     <name>JournalModel</name>

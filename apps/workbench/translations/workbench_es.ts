@@ -797,6 +797,54 @@ Conexiones: %5</translation>
         <source>The member %1 of the data set of %2 is no data of the device's model.</source>
         <translation>El miembro %1 del conjunto de datos de %2 no es un dato del modelo del dispositivo.</translation>
     </message>
+    <message>
+        <source>%1 is busy with another file: %2.</source>
+        <translation>%1 está ocupado con otro archivo: %2.</translation>
+    </message>
+    <message>
+        <source>listing &quot;%1&quot;</source>
+        <translation>listando «%1»</translation>
+    </message>
+    <message>
+        <source>fetching &quot;%1&quot;</source>
+        <translation>descargando «%1»</translation>
+    </message>
+    <message>
+        <source>%1 is too large: at most %2 octets can be fetched.</source>
+        <translation>%1 es demasiado grande: se pueden descargar %2 octetos como máximo.</translation>
+    </message>
+    <message>
+        <source>deleting &quot;%1&quot;</source>
+        <translation>eliminando «%1»</translation>
+    </message>
+    <message>
+        <source>There is no name of a file.</source>
+        <translation>No hay nombre de archivo.</translation>
+    </message>
+    <message>
+        <source>There is no file to send.</source>
+        <translation>No hay ningún archivo que enviar.</translation>
+    </message>
+    <message>
+        <source>There is no file &quot;%1&quot; on this computer.</source>
+        <translation>No hay ningún archivo «%1» en este equipo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2.</source>
+        <translation>«%1» no se puede leer: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large for a file of a device.</source>
+        <translation>«%1» es demasiado grande para un archivo de un dispositivo.</translation>
+    </message>
+    <message>
+        <source>sending &quot;%1&quot;</source>
+        <translation>enviando «%1»</translation>
+    </message>
+    <message>
+        <source>%1 (%2 octets)</source>
+        <translation>%1 (%2 octetos)</translation>
+    </message>
 </context>
 <context>
     <name>JournalModel</name>

@@ -797,6 +797,54 @@ Connexions : %5</translation>
         <source>The member %1 of the data set of %2 is no data of the device's model.</source>
         <translation>Le membre %1 de l'ensemble de données de %2 n'est pas une donnée du modèle de l'équipement.</translation>
     </message>
+    <message>
+        <source>%1 is busy with another file: %2.</source>
+        <translation>%1 est occupé par un autre fichier : %2.</translation>
+    </message>
+    <message>
+        <source>listing &quot;%1&quot;</source>
+        <translation>liste de « %1 »</translation>
+    </message>
+    <message>
+        <source>fetching &quot;%1&quot;</source>
+        <translation>lecture de « %1 »</translation>
+    </message>
+    <message>
+        <source>%1 is too large: at most %2 octets can be fetched.</source>
+        <translation>%1 est trop grand : %2 octets au plus peuvent être lus.</translation>
+    </message>
+    <message>
+        <source>deleting &quot;%1&quot;</source>
+        <translation>suppression de « %1 »</translation>
+    </message>
+    <message>
+        <source>There is no name of a file.</source>
+        <translation>Il n'y a pas de nom de fichier.</translation>
+    </message>
+    <message>
+        <source>There is no file to send.</source>
+        <translation>Il n'y a pas de fichier à envoyer.</translation>
+    </message>
+    <message>
+        <source>There is no file &quot;%1&quot; on this computer.</source>
+        <translation>Il n'y a pas de fichier « %1 » sur cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2.</source>
+        <translation>« %1 » ne peut pas être lu : %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large for a file of a device.</source>
+        <translation>« %1 » est trop grand pour un fichier d'équipement.</translation>
+    </message>
+    <message>
+        <source>sending &quot;%1&quot;</source>
+        <translation>envoi de « %1 »</translation>
+    </message>
+    <message>
+        <source>%1 (%2 octets)</source>
+        <translation>%1 (%2 octets)</translation>
+    </message>
 </context>
 <context>
     <name>JournalModel</name>

@@ -797,6 +797,54 @@ Conexões: %5</translation>
         <source>The member %1 of the data set of %2 is no data of the device's model.</source>
         <translation>O membro %1 do conjunto de dados de %2 não é um dado do modelo do dispositivo.</translation>
     </message>
+    <message>
+        <source>%1 is busy with another file: %2.</source>
+        <translation>%1 está ocupado com outro arquivo: %2.</translation>
+    </message>
+    <message>
+        <source>listing &quot;%1&quot;</source>
+        <translation>listando “%1”</translation>
+    </message>
+    <message>
+        <source>fetching &quot;%1&quot;</source>
+        <translation>baixando “%1”</translation>
+    </message>
+    <message>
+        <source>%1 is too large: at most %2 octets can be fetched.</source>
+        <translation>%1 é grande demais: no máximo %2 octetos podem ser baixados.</translation>
+    </message>
+    <message>
+        <source>deleting &quot;%1&quot;</source>
+        <translation>excluindo “%1”</translation>
+    </message>
+    <message>
+        <source>There is no name of a file.</source>
+        <translation>Não há nome de arquivo.</translation>
+    </message>
+    <message>
+        <source>There is no file to send.</source>
+        <translation>Não há arquivo a enviar.</translation>
+    </message>
+    <message>
+        <source>There is no file &quot;%1&quot; on this computer.</source>
+        <translation>Não há arquivo “%1” neste computador.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2.</source>
+        <translation>“%1” não pode ser lido: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large for a file of a device.</source>
+        <translation>“%1” é grande demais para um arquivo de um dispositivo.</translation>
+    </message>
+    <message>
+        <source>sending &quot;%1&quot;</source>
+        <translation>enviando “%1”</translation>
+    </message>
+    <message>
+        <source>%1 (%2 octets)</source>
+        <translation>%1 (%2 octetos)</translation>
+    </message>
 </context>
 <context>
     <name>JournalModel</name>

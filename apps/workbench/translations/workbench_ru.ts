@@ -797,6 +797,54 @@ Connections: %5</source>
         <source>The member %1 of the data set of %2 is no data of the device's model.</source>
         <translation>Элемента %1 набора данных %2 нет в модели устройства.</translation>
     </message>
+    <message>
+        <source>%1 is busy with another file: %2.</source>
+        <translation>%1: идёт другая операция с файлом: %2.</translation>
+    </message>
+    <message>
+        <source>listing &quot;%1&quot;</source>
+        <translation>чтение каталога «%1»</translation>
+    </message>
+    <message>
+        <source>fetching &quot;%1&quot;</source>
+        <translation>получение «%1»</translation>
+    </message>
+    <message>
+        <source>%1 is too large: at most %2 octets can be fetched.</source>
+        <translation>%1: слишком большой размер, можно получить не более %2 октетов.</translation>
+    </message>
+    <message>
+        <source>deleting &quot;%1&quot;</source>
+        <translation>удаление «%1»</translation>
+    </message>
+    <message>
+        <source>There is no name of a file.</source>
+        <translation>Не указано имя файла.</translation>
+    </message>
+    <message>
+        <source>There is no file to send.</source>
+        <translation>Не указан файл для передачи.</translation>
+    </message>
+    <message>
+        <source>There is no file &quot;%1&quot; on this computer.</source>
+        <translation>На этом компьютере нет файла «%1».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2.</source>
+        <translation>«%1» не читается: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large for a file of a device.</source>
+        <translation>«%1»: слишком большой размер для файла устройства.</translation>
+    </message>
+    <message>
+        <source>sending &quot;%1&quot;</source>
+        <translation>передача «%1»</translation>
+    </message>
+    <message>
+        <source>%1 (%2 octets)</source>
+        <translation>%1 (октетов: %2)</translation>
+    </message>
 </context>
 <context>
     <name>JournalModel</name>

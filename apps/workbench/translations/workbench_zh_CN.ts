@@ -797,6 +797,54 @@ Connections: %5</source>
         <source>The member %1 of the data set of %2 is no data of the device's model.</source>
         <translation>%2 的数据集成员 %1 不是设备模型中的数据。</translation>
     </message>
+    <message>
+        <source>%1 is busy with another file: %2.</source>
+        <translation>%1 正忙于另一个文件：%2。</translation>
+    </message>
+    <message>
+        <source>listing &quot;%1&quot;</source>
+        <translation>正在列出“%1”</translation>
+    </message>
+    <message>
+        <source>fetching &quot;%1&quot;</source>
+        <translation>正在获取“%1”</translation>
+    </message>
+    <message>
+        <source>%1 is too large: at most %2 octets can be fetched.</source>
+        <translation>%1 过大：最多可获取 %2 个八位字节。</translation>
+    </message>
+    <message>
+        <source>deleting &quot;%1&quot;</source>
+        <translation>正在删除“%1”</translation>
+    </message>
+    <message>
+        <source>There is no name of a file.</source>
+        <translation>没有文件名。</translation>
+    </message>
+    <message>
+        <source>There is no file to send.</source>
+        <translation>没有要发送的文件。</translation>
+    </message>
+    <message>
+        <source>There is no file &quot;%1&quot; on this computer.</source>
+        <translation>此计算机上没有文件“%1”。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2.</source>
+        <translation>无法读取“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large for a file of a device.</source>
+        <translation>“%1”过大，不能作为设备的文件。</translation>
+    </message>
+    <message>
+        <source>sending &quot;%1&quot;</source>
+        <translation>正在发送“%1”</translation>
+    </message>
+    <message>
+        <source>%1 (%2 octets)</source>
+        <translation>%1（%2 个八位字节）</translation>
+    </message>
 </context>
 <context>
     <name>JournalModel</name>
