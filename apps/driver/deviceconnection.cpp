@@ -642,6 +642,8 @@ asio::awaitable<QString> DeviceConnection::getReady(ClientPointer client)
         m_fingerprint = *print;
         m_inParts.clear();
     }
+    for (auto each = m_revisions.cbegin(); each != m_revisions.cend(); ++each)
+        DiscoveredModel::setRevision(m_model->device(), each.key(), each.value(), m_fromFile.get());
     m_refused.clear();
     updateStatus([this](DeviceStatus &status) {
         status.refusedObjects = static_cast<int>(m_model->description().refused.size());
@@ -662,6 +664,7 @@ DeviceConnection::fingerprint(ClientPointer client, const std::vector<std::strin
         hash.addData(part.data(), static_cast<int>(part.size()));
         hash.addData("", 1);
     };
+    m_revisions.clear();
     const DeviceStatus who = status();
     add(who.vendor.toStdString());
     add(who.model.toStdString());
@@ -678,8 +681,10 @@ DeviceConnection::fingerprint(ClientPointer client, const std::vector<std::strin
         add(domains[i]);
         const bool hasRevision = values && i < values->size() && (*values)[i].ok() &&
                                  !(*values)[i].data().text().empty();
-        if (hasRevision)
+        if (hasRevision) {
             add((*values)[i].data().text());
+            m_revisions.insert(text(domains[i]), text((*values)[i].data().text()));
+        }
         // Data sets come and go within a revision; without a revision anything may.
         std::vector<mms::ObjectClass> classes = {mms::ObjectClass::NamedVariableList};
         if (!hasRevision)

@@ -242,7 +242,8 @@ private:
     // In the strand:
     std::shared_ptr<acsi::Client> m_client;
     std::unique_ptr<OnlineModel> m_model;
-    QByteArray m_fingerprint; ///< of the device when the model was read
+    QByteArray m_fingerprint;             ///< of the device when the model was read
+    QHash<QString, QString> m_revisions;  ///< configuration revisions by logical device
     std::unique_ptr<PhysicalDevice> m_fromFile;
     bool m_fileRead = false;
     std::map<std::type_index, std::unique_ptr<AssociationPart>> m_parts;

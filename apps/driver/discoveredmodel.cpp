@@ -428,7 +428,7 @@ private:
         object->type = file ? file->type : StandardTypes::commonDataClass(m_lnClass, name);
         if (object->type.isEmpty())
             object->type = inferredClass(parts);
-        const FileItems<DAO> fileItems(file ? &file->attributes : nullptr);
+        const FileItems<DAO> fileItems(file ? &file->attributes : (m_file ? &m_nothing : nullptr));
         addChildren(object->attributes, parts, fileItems, {object->type, {}},
                     QLatin1Char('$') + name);
         return object;
@@ -625,7 +625,7 @@ private:
             shown->name = name;
             // What the device has beyond its file is compared with nothing to compare it with.
             static const DataSet nothing;
-            fillDataSet(*shown, *found, fileSet ? fileSet : (file ? &nothing : nullptr));
+            fillDataSet(*shown, *found, fileSet ? fileSet : (m_file ? &nothing : nullptr));
             node.dataSetGroup->dataSets.append(shown.release());
         }
     }
@@ -656,7 +656,7 @@ private:
         }
     }
 
-    static void addBlocks(LogicalNode &node, const TypeDescription &type, const LogicalNode *file)
+    void addBlocks(LogicalNode &node, const TypeDescription &type, const LogicalNode *file) const
     {
         QHash<QString, ReportControlBlock> described;
         QStringList references;
@@ -683,7 +683,7 @@ private:
         }
         for (const QString &reference : qAsConst(references)) {
             auto *shown = new ReportControlBlock(described.value(reference));
-            shown->state = file ? additional : agreeing;
+            shown->state = m_file ? additional : agreeing;
             node.reportControls->blocks.append(shown);
         }
 
@@ -697,7 +697,7 @@ private:
             fileGroups ? new SettingGroupControl(*fileGroups) : new SettingGroupControl;
         node.settingGroup->name = QStringLiteral("SGCB");
         node.settingGroup->state =
-            !hasGroups ? absent : (file && !fileGroups ? additional : agreeing);
+            !hasGroups ? absent : (m_file && !fileGroups ? additional : agreeing);
     }
 
     const PhysicalDevice *m_file;
@@ -706,6 +706,50 @@ private:
     QString m_dataObject;
     QString m_base; ///< of references: logical device, logical node and "$"
 };
+
+bool isAsConfigured(const ReportControlBlock &block, const ReportControlBlock &file)
+{
+    // Without a configured identifier the device takes the block's reference.
+    const bool sameId = file.rptId.isEmpty() || file.rptId == block.rptId;
+    // Unbuffered blocks have neither overflow nor entries.
+    const bool isBuffered = file.type == QLatin1String("BR");
+    const bool sameEntries = !isBuffered || (block.optBufferOverflow == file.optBufferOverflow &&
+                                             block.optEntryId == file.optEntryId);
+    return sameId && sameEntries && block.dataSet == file.dataSet &&
+           block.confRev == file.confRev && block.integrityPeriod == file.integrityPeriod &&
+           block.bufferTime == file.bufferTime &&
+           block.triggerDataChange == file.triggerDataChange &&
+           block.triggerQualityChange == file.triggerQualityChange &&
+           block.triggerDataUpdate == file.triggerDataUpdate &&
+           block.triggerIntegrity == file.triggerIntegrity &&
+           block.triggerGeneralInterrogation == file.triggerGeneralInterrogation &&
+           block.optSequenceNumber == file.optSequenceNumber &&
+           block.optTimeStamp == file.optTimeStamp &&
+           block.optReasonForInclusion == file.optReasonForInclusion &&
+           block.optDataSetName == file.optDataSetName &&
+           block.optDataReference == file.optDataReference &&
+           block.optConfRevision == file.optConfRevision;
+}
+
+/// The leaf that holds the configuration revision of a logical device; null when it has none.
+DAO *revisionOf(const PhysicalDevice &device, const QString &logicalDevice)
+{
+    for (const LogicalDevice *each : device.logicalDevices) {
+        if (each->name != logicalDevice)
+            continue;
+        for (const LogicalNode *node : each->logicalNodes) {
+            if (node->name != QLatin1String("LLN0"))
+                continue;
+            for (const DataObject *object : node->dataObjects) {
+                if (object->name != QLatin1String("NamPlt"))
+                    continue;
+                DAO *leaf = object->getDAOByName(QStringLiteral("configRev"));
+                return leaf && leaf->attribute ? leaf : nullptr;
+            }
+        }
+    }
+    return nullptr;
+}
 
 } // namespace
 
@@ -750,11 +794,21 @@ void DiscoveredModel::setSettings(ReportControlBlock &block, const acsi::ReportB
     block.optConfRevision = read.optFlds.confRevision;
     if (!fromFile)
         return;
-    // Without a configured identifier the device takes the block's reference.
-    const bool sameId = fromFile->rptId.isEmpty() || fromFile->rptId == block.rptId;
-    const bool agrees =
-        sameId && fromFile->dataSet == block.dataSet && fromFile->confRev == block.confRev;
-    block.state = agrees ? agreeing : differing;
+    block.state = isAsConfigured(block, *fromFile) ? agreeing : differing;
+}
+
+void DiscoveredModel::setRevision(PhysicalDevice &device, const QString &logicalDevice,
+                                  const QString &revision, const PhysicalDevice *fromFile)
+{
+    const QString reference = logicalDevice + QStringLiteral("/LLN0$DC$NamPlt$configRev");
+    DAO *node = revisionOf(device, logicalDevice);
+    if (!node || revision.isEmpty())
+        return;
+    node->attribute->value = revision;
+    const DataAttribute *configured = fromFile ? fromFile->findTag(reference) : nullptr;
+    const QString expected = configured ? configured->value.toString() : QString();
+    if (node->state == agreeing && !expected.isEmpty() && expected != revision)
+        node->state = differing;
 }
 
 void DiscoveredModel::setGroups(SettingGroupControl &control, const mms::TypeDescription &type,

@@ -22,9 +22,14 @@ std::unique_ptr<PhysicalDevice> makeDevice(const acsi::ServerDescription &descri
                                            const QString &name, const PhysicalDevice *fromFile);
 
 /// Enters the settings of a block as read. @p fromFile may be null; a block that differs from it in
-/// report id, data set or configuration revision gets state 3.
+/// any of them gets state 3.
 void setSettings(ReportControlBlock &block, const acsi::ReportBlock &read,
                  const ReportControlBlock *fromFile);
+
+/// Enters the configuration revision of a logical device (its LLN0's NamPlt.configRev); the leaf
+/// gets state 3 when the file gives another one. @p fromFile may be null.
+void setRevision(PhysicalDevice &device, const QString &logicalDevice, const QString &revision,
+                 const PhysicalDevice *fromFile);
 
 /// Enters the number of groups and the active group from the value of a setting group control
 /// block.
