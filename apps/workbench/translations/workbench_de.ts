@@ -223,6 +223,253 @@
     </message>
 </context>
 <context>
+    <name>DeviceDialog</name>
+    <message>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation>&amp;Adresse:</translation>
+    </message>
+    <message>
+        <source>Host name, IPv4 or IPv6 address</source>
+        <translation>Rechnername, IPv4- oder IPv6-Adresse</translation>
+    </message>
+    <message>
+        <source>&amp;Port:</source>
+        <translation>&amp;Port:</translation>
+    </message>
+    <message>
+        <source>&amp;SCL file:</source>
+        <translation>&amp;SCL-Datei:</translation>
+    </message>
+    <message>
+        <source>Browse…</source>
+        <translation>Durchsuchen …</translation>
+    </message>
+    <message>
+        <source>&amp;IED of the file:</source>
+        <translation>&amp;IED der Datei:</translation>
+    </message>
+    <message>
+        <source>&amp;Connect when the workbench starts</source>
+        <translation>Beim Start der Workbench &amp;verbinden</translation>
+    </message>
+    <message>
+        <source>Timing and Sizes</source>
+        <translation>Zeiten und Größen</translation>
+    </message>
+    <message>
+        <source>Time-out for &amp;connecting:</source>
+        <translation>Zeitgrenze für den &amp;Verbindungsaufbau:</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>Time-out for &amp;requests:</source>
+        <translation>Zeitgrenze für &amp;Anfragen:</translation>
+    </message>
+    <message>
+        <source>Time-out for &amp;operations:</source>
+        <translation>Zeitgrenze für &amp;Bedienvorgänge:</translation>
+    </message>
+    <message>
+        <source>Re&amp;ad values without reports every:</source>
+        <translation>Werte ohne Reports &amp;lesen alle:</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>nie</translation>
+    </message>
+    <message>
+        <source>Outstanding ca&amp;lls:</source>
+        <translation>A&amp;usstehende Anfragen:</translation>
+    </message>
+    <message>
+        <source>Largest P&amp;DU:</source>
+        <translation>Größte &amp;PDU:</translation>
+    </message>
+    <message>
+        <source> octets</source>
+        <translation> Oktette</translation>
+    </message>
+    <message>
+        <source>Outstanding &amp;file reads:</source>
+        <translation>Ausstehende &amp;Dateilesevorgänge:</translation>
+    </message>
+    <message>
+        <source>Addressing</source>
+        <translation>Adressierung</translation>
+    </message>
+    <message>
+        <source>Client</source>
+        <translation>Client</translation>
+    </message>
+    <message>
+        <source>Transport selector:</source>
+        <translation>Transport-Selektor:</translation>
+    </message>
+    <message>
+        <source>Session selector:</source>
+        <translation>Session-Selektor:</translation>
+    </message>
+    <message>
+        <source>Presentation selector:</source>
+        <translation>Presentation-Selektor:</translation>
+    </message>
+    <message>
+        <source>AP title:</source>
+        <translation>AP-Titel:</translation>
+    </message>
+    <message>
+        <source>AE qualifier:</source>
+        <translation>AE-Qualifier:</translation>
+    </message>
+    <message>
+        <source>Selectors are octets in hexadecimal, for example 00 01. An AP title is an object identifier, for example 1.1.1.999.1; empty fields are not sent.</source>
+        <translation>Selektoren sind Oktette in hexadezimaler Schreibweise, zum Beispiel 00 01. Ein AP-Titel ist ein Objektbezeichner, zum Beispiel 1.1.1.999.1; leere Felder werden nicht gesendet.</translation>
+    </message>
+    <message>
+        <source>Security</source>
+        <translation>Sicherheit</translation>
+    </message>
+    <message>
+        <source>&amp;Password of the association:</source>
+        <translation>&amp;Passwort der Assoziation:</translation>
+    </message>
+    <message>
+        <source>&amp;TLS (IEC 62351-3)</source>
+        <translation>&amp;TLS (IEC 62351-3)</translation>
+    </message>
+    <message>
+        <source>&amp;Certificate:</source>
+        <translation>Zertifi&amp;kat:</translation>
+    </message>
+    <message>
+        <source>Private &amp;key:</source>
+        <translation>Privater &amp;Schlüssel:</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ssword of the key:</source>
+        <translation>Pass&amp;wort des Schlüssels:</translation>
+    </message>
+    <message>
+        <source>&amp;Authorities:</source>
+        <translation>&amp;Zertifizierungsstellen:</translation>
+    </message>
+    <message>
+        <source>&amp;Revocation lists:</source>
+        <translation>Sperr&amp;listen:</translation>
+    </message>
+    <message>
+        <source>&amp;Fingerprints (SHA-256):</source>
+        <translation>&amp;Fingerabdrücke (SHA-256):</translation>
+    </message>
+    <message>
+        <source>&amp;Name in the certificate:</source>
+        <translation>&amp;Name im Zertifikat:</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Steuern</translation>
+    </message>
+    <message>
+        <source>Originator &amp;category:</source>
+        <translation>&amp;Kategorie des Auslösers:</translation>
+    </message>
+    <message>
+        <source>Originator &amp;identification:</source>
+        <translation>K&amp;ennung des Auslösers:</translation>
+    </message>
+    <message>
+        <source>&amp;Test Connection</source>
+        <translation>Verbindun&amp;g testen</translation>
+    </message>
+    <message>
+        <source>Add Device</source>
+        <translation>Gerät hinzufügen</translation>
+    </message>
+    <message>
+        <source>Edit Device %1</source>
+        <translation>Gerät %1 bearbeiten</translation>
+    </message>
+    <message>
+        <source>SCL File</source>
+        <translation>SCL-Datei</translation>
+    </message>
+    <message>
+        <source>Certificate</source>
+        <translation>Zertifikat</translation>
+    </message>
+    <message>
+        <source>Private Key</source>
+        <translation>Privater Schlüssel</translation>
+    </message>
+    <message>
+        <source>Authorities</source>
+        <translation>Zertifizierungsstellen</translation>
+    </message>
+    <message>
+        <source>Revocation Lists</source>
+        <translation>Sperrlisten</translation>
+    </message>
+    <message>
+        <source>the only one</source>
+        <translation>das einzige</translation>
+    </message>
+    <message>
+        <source>The %1 of the %2 is not hexadecimal.</source>
+        <translation>%1 (%2): nicht hexadezimal.</translation>
+    </message>
+    <message>
+        <source>transport selector</source>
+        <translation>Transport-Selektor</translation>
+    </message>
+    <message>
+        <source>session selector</source>
+        <translation>Session-Selektor</translation>
+    </message>
+    <message>
+        <source>presentation selector</source>
+        <translation>Presentation-Selektor</translation>
+    </message>
+    <message>
+        <source>The AE qualifier of the %1 is not a number.</source>
+        <translation>AE-Qualifier (%1): keine Zahl.</translation>
+    </message>
+    <message>
+        <source>client</source>
+        <translation>Client</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>The device has no address.</source>
+        <translation>Das Gerät hat keine Adresse.</translation>
+    </message>
+    <message>
+        <source>Connecting to %1…</source>
+        <translation>Verbindung mit %1 wird aufgebaut …</translation>
+    </message>
+    <message>
+        <source>Connected to %1. Round trip: %2 ms; logical devices: %3</source>
+        <translation>Verbunden mit %1. Umlaufzeit: %2 ms; logische Geräte: %3</translation>
+    </message>
+    <message>
+        <source>a device that does not say what it is</source>
+        <translation>einem Gerät, das nicht sagt, was es ist</translation>
+    </message>
+</context>
+<context>
     <name>DeviceListModel</name>
     <message>
         <source>The demonstration device, a part of the workbench</source>
@@ -1126,10 +1373,6 @@ Apache License 2.0</translation>
         <translation>Mit dem gewählten Gerät verbinden, jetzt und beim nächsten Start</translation>
     </message>
     <message>
-        <source>Dis&amp;connect</source>
-        <translation>&amp;Trennen</translation>
-    </message>
-    <message>
         <source>Leave the selected device, until it is connected again</source>
         <translation>Das gewählte Gerät verlassen, bis es wieder verbunden wird</translation>
     </message>
@@ -1170,10 +1413,6 @@ Apache License 2.0</translation>
         <translation>Die Werte des gewählten Geräts als Tabelle speichern</translation>
     </message>
     <message>
-        <source>Read-&amp;Only</source>
-        <translation>Schreibsch&amp;utz</translation>
-    </message>
-    <message>
         <source>Refuse everything that changes something on a device</source>
         <translation>Alles ablehnen, was auf einem Gerät etwas ändert</translation>
     </message>
@@ -1210,6 +1449,38 @@ Apache License 2.0</translation>
     <message>
         <source>%1 was taken off the list.</source>
         <translation>%1 wurde aus der Liste genommen.</translation>
+    </message>
+    <message>
+        <source>Disco&amp;nnect</source>
+        <translation>&amp;Trennen</translation>
+    </message>
+    <message>
+        <source>Read-On&amp;ly</source>
+        <translation>Schreibsch&amp;utz</translation>
+    </message>
+    <message>
+        <source>Save Capture</source>
+        <translation>Aufzeichnung speichern</translation>
+    </message>
+    <message>
+        <source>Captures (*.pcapng)</source>
+        <translation>Aufzeichnungen (*.pcapng)</translation>
+    </message>
+    <message>
+        <source>Export Values</source>
+        <translation>Werte exportieren</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv)</source>
+        <translation>Tabellen (*.csv)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was written.</source>
+        <translation>„%1“ wurde geschrieben.</translation>
     </message>
 </context>
 <context>
@@ -1392,6 +1663,52 @@ Apache License 2.0</translation>
     <message>
         <source>The picture &quot;%1&quot; cannot be saved.</source>
         <translation>Das Bild „%1“ kann nicht gespeichert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>TraceDialog</name>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>&amp;Pause</translation>
+    </message>
+    <message>
+        <source>PDU Trace: %1</source>
+        <translation>PDU-Mitschnitt: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was exchanged with this device yet.</source>
+        <translation>Mit diesem Gerät wurde noch nichts ausgetauscht.</translation>
+    </message>
+    <message>
+        <source>&amp;Save Capture…</source>
+        <translation>Aufzeichnung &amp;speichern …</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>&amp;Leeren</translation>
+    </message>
+</context>
+<context>
+    <name>TraceModel</name>
+    <message>
+        <source>sent</source>
+        <translation>gesendet</translation>
+    </message>
+    <message>
+        <source>received</source>
+        <translation>empfangen</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>PDU</source>
+        <translation>PDU</translation>
     </message>
 </context>
 <context>

@@ -223,6 +223,253 @@
     </message>
 </context>
 <context>
+    <name>DeviceDialog</name>
+    <message>
+        <source>Device</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nombre:</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation>&amp;Dirección:</translation>
+    </message>
+    <message>
+        <source>Host name, IPv4 or IPv6 address</source>
+        <translation>Nombre de equipo, dirección IPv4 o IPv6</translation>
+    </message>
+    <message>
+        <source>&amp;Port:</source>
+        <translation>&amp;Puerto:</translation>
+    </message>
+    <message>
+        <source>&amp;SCL file:</source>
+        <translation>Archivo &amp;SCL:</translation>
+    </message>
+    <message>
+        <source>Browse…</source>
+        <translation>Examinar…</translation>
+    </message>
+    <message>
+        <source>&amp;IED of the file:</source>
+        <translation>&amp;IED del archivo:</translation>
+    </message>
+    <message>
+        <source>&amp;Connect when the workbench starts</source>
+        <translation>&amp;Conectar al iniciar el banco de trabajo</translation>
+    </message>
+    <message>
+        <source>Timing and Sizes</source>
+        <translation>Tiempos y tamaños</translation>
+    </message>
+    <message>
+        <source>Time-out for &amp;connecting:</source>
+        <translation>Tiempo de espera para la &amp;conexión:</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>Time-out for &amp;requests:</source>
+        <translation>Tiempo de espera para las &amp;peticiones:</translation>
+    </message>
+    <message>
+        <source>Time-out for &amp;operations:</source>
+        <translation>Tiempo de espera para las &amp;operaciones:</translation>
+    </message>
+    <message>
+        <source>Re&amp;ad values without reports every:</source>
+        <translation>&amp;Leer los valores sin informes cada:</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>nunca</translation>
+    </message>
+    <message>
+        <source>Outstanding ca&amp;lls:</source>
+        <translation>Peticiones pe&amp;ndientes:</translation>
+    </message>
+    <message>
+        <source>Largest P&amp;DU:</source>
+        <translation>PDU más &amp;grande:</translation>
+    </message>
+    <message>
+        <source> octets</source>
+        <translation> octetos</translation>
+    </message>
+    <message>
+        <source>Outstanding &amp;file reads:</source>
+        <translation>Lecturas de &amp;archivo pendientes:</translation>
+    </message>
+    <message>
+        <source>Addressing</source>
+        <translation>Direccionamiento</translation>
+    </message>
+    <message>
+        <source>Client</source>
+        <translation>Cliente</translation>
+    </message>
+    <message>
+        <source>Transport selector:</source>
+        <translation>Selector de transporte:</translation>
+    </message>
+    <message>
+        <source>Session selector:</source>
+        <translation>Selector de sesión:</translation>
+    </message>
+    <message>
+        <source>Presentation selector:</source>
+        <translation>Selector de presentación:</translation>
+    </message>
+    <message>
+        <source>AP title:</source>
+        <translation>Título AP:</translation>
+    </message>
+    <message>
+        <source>AE qualifier:</source>
+        <translation>Calificador AE:</translation>
+    </message>
+    <message>
+        <source>Selectors are octets in hexadecimal, for example 00 01. An AP title is an object identifier, for example 1.1.1.999.1; empty fields are not sent.</source>
+        <translation>Los selectores son octetos en hexadecimal, por ejemplo 00 01. Un título AP es un identificador de objeto, por ejemplo 1.1.1.999.1; los campos vacíos no se envían.</translation>
+    </message>
+    <message>
+        <source>Security</source>
+        <translation>Seguridad</translation>
+    </message>
+    <message>
+        <source>&amp;Password of the association:</source>
+        <translation>Contrase&amp;ña de la asociación:</translation>
+    </message>
+    <message>
+        <source>&amp;TLS (IEC 62351-3)</source>
+        <translation>&amp;TLS (IEC 62351-3)</translation>
+    </message>
+    <message>
+        <source>&amp;Certificate:</source>
+        <translation>&amp;Certificado:</translation>
+    </message>
+    <message>
+        <source>Private &amp;key:</source>
+        <translation>C&amp;lave privada:</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ssword of the key:</source>
+        <translation>Contraseña de la cla&amp;ve:</translation>
+    </message>
+    <message>
+        <source>&amp;Authorities:</source>
+        <translation>&amp;Autoridades de certificación:</translation>
+    </message>
+    <message>
+        <source>&amp;Revocation lists:</source>
+        <translation>Listas de &amp;revocación:</translation>
+    </message>
+    <message>
+        <source>&amp;Fingerprints (SHA-256):</source>
+        <translation>&amp;Huellas (SHA-256):</translation>
+    </message>
+    <message>
+        <source>&amp;Name in the certificate:</source>
+        <translation>&amp;Nombre en el certificado:</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Mando</translation>
+    </message>
+    <message>
+        <source>Originator &amp;category:</source>
+        <translation>&amp;Categoría del originador:</translation>
+    </message>
+    <message>
+        <source>Originator &amp;identification:</source>
+        <translation>&amp;Identificación del originador:</translation>
+    </message>
+    <message>
+        <source>&amp;Test Connection</source>
+        <translation>Pro&amp;bar la conexión</translation>
+    </message>
+    <message>
+        <source>Add Device</source>
+        <translation>Añadir dispositivo</translation>
+    </message>
+    <message>
+        <source>Edit Device %1</source>
+        <translation>Editar el dispositivo %1</translation>
+    </message>
+    <message>
+        <source>SCL File</source>
+        <translation>Archivo SCL</translation>
+    </message>
+    <message>
+        <source>Certificate</source>
+        <translation>Certificado</translation>
+    </message>
+    <message>
+        <source>Private Key</source>
+        <translation>Clave privada</translation>
+    </message>
+    <message>
+        <source>Authorities</source>
+        <translation>Autoridades de certificación</translation>
+    </message>
+    <message>
+        <source>Revocation Lists</source>
+        <translation>Listas de revocación</translation>
+    </message>
+    <message>
+        <source>the only one</source>
+        <translation>el único</translation>
+    </message>
+    <message>
+        <source>The %1 of the %2 is not hexadecimal.</source>
+        <translation>%1 (%2): no es hexadecimal.</translation>
+    </message>
+    <message>
+        <source>transport selector</source>
+        <translation>Selector de transporte</translation>
+    </message>
+    <message>
+        <source>session selector</source>
+        <translation>Selector de sesión</translation>
+    </message>
+    <message>
+        <source>presentation selector</source>
+        <translation>Selector de presentación</translation>
+    </message>
+    <message>
+        <source>The AE qualifier of the %1 is not a number.</source>
+        <translation>Calificador AE (%1): no es un número.</translation>
+    </message>
+    <message>
+        <source>client</source>
+        <translation>cliente</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>dispositivo</translation>
+    </message>
+    <message>
+        <source>The device has no address.</source>
+        <translation>El dispositivo no tiene dirección.</translation>
+    </message>
+    <message>
+        <source>Connecting to %1…</source>
+        <translation>Conectando con %1…</translation>
+    </message>
+    <message>
+        <source>Connected to %1. Round trip: %2 ms; logical devices: %3</source>
+        <translation>Conectado con %1. Ida y vuelta: %2 ms; dispositivos lógicos: %3</translation>
+    </message>
+    <message>
+        <source>a device that does not say what it is</source>
+        <translation>un dispositivo que no dice qué es</translation>
+    </message>
+</context>
+<context>
     <name>DeviceListModel</name>
     <message>
         <source>The demonstration device, a part of the workbench</source>
@@ -1126,10 +1373,6 @@ Apache License 2.0</translation>
         <translation>Conectar con el dispositivo seleccionado, ahora y en el próximo inicio</translation>
     </message>
     <message>
-        <source>Dis&amp;connect</source>
-        <translation>&amp;Desconectar</translation>
-    </message>
-    <message>
         <source>Leave the selected device, until it is connected again</source>
         <translation>Dejar el dispositivo seleccionado hasta que se conecte de nuevo</translation>
     </message>
@@ -1170,10 +1413,6 @@ Apache License 2.0</translation>
         <translation>Guardar los valores del dispositivo seleccionado como tabla</translation>
     </message>
     <message>
-        <source>Read-&amp;Only</source>
-        <translation>&amp;Solo lectura</translation>
-    </message>
-    <message>
         <source>Refuse everything that changes something on a device</source>
         <translation>Rechazar todo lo que cambie algo en un dispositivo</translation>
     </message>
@@ -1210,6 +1449,38 @@ Apache License 2.0</translation>
     <message>
         <source>%1 was taken off the list.</source>
         <translation>%1 se ha quitado de la lista.</translation>
+    </message>
+    <message>
+        <source>Disco&amp;nnect</source>
+        <translation>&amp;Desconectar</translation>
+    </message>
+    <message>
+        <source>Read-On&amp;ly</source>
+        <translation>&amp;Solo lectura</translation>
+    </message>
+    <message>
+        <source>Save Capture</source>
+        <translation>Guardar la captura</translation>
+    </message>
+    <message>
+        <source>Captures (*.pcapng)</source>
+        <translation>Capturas (*.pcapng)</translation>
+    </message>
+    <message>
+        <source>Export Values</source>
+        <translation>Exportar los valores</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv)</source>
+        <translation>Tablas (*.csv)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2</source>
+        <translation>No se puede escribir «%1»: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was written.</source>
+        <translation>Se ha escrito «%1».</translation>
     </message>
 </context>
 <context>
@@ -1392,6 +1663,52 @@ Apache License 2.0</translation>
     <message>
         <source>The picture &quot;%1&quot; cannot be saved.</source>
         <translation>No se puede guardar la imagen «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>TraceDialog</name>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>&amp;Pausa</translation>
+    </message>
+    <message>
+        <source>PDU Trace: %1</source>
+        <translation>Traza de PDU: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was exchanged with this device yet.</source>
+        <translation>Todavía no se ha intercambiado nada con este dispositivo.</translation>
+    </message>
+    <message>
+        <source>&amp;Save Capture…</source>
+        <translation>&amp;Guardar la captura…</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>&amp;Vaciar</translation>
+    </message>
+</context>
+<context>
+    <name>TraceModel</name>
+    <message>
+        <source>sent</source>
+        <translation>enviada</translation>
+    </message>
+    <message>
+        <source>received</source>
+        <translation>recibida</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Sentido</translation>
+    </message>
+    <message>
+        <source>PDU</source>
+        <translation>PDU</translation>
     </message>
 </context>
 <context>

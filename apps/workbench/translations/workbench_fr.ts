@@ -223,6 +223,253 @@
     </message>
 </context>
 <context>
+    <name>DeviceDialog</name>
+    <message>
+        <source>Device</source>
+        <translation>Équipement</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nom :</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation>&amp;Adresse :</translation>
+    </message>
+    <message>
+        <source>Host name, IPv4 or IPv6 address</source>
+        <translation>Nom d'hôte, adresse IPv4 ou IPv6</translation>
+    </message>
+    <message>
+        <source>&amp;Port:</source>
+        <translation>&amp;Port :</translation>
+    </message>
+    <message>
+        <source>&amp;SCL file:</source>
+        <translation>Fichier &amp;SCL :</translation>
+    </message>
+    <message>
+        <source>Browse…</source>
+        <translation>Parcourir…</translation>
+    </message>
+    <message>
+        <source>&amp;IED of the file:</source>
+        <translation>&amp;IED du fichier :</translation>
+    </message>
+    <message>
+        <source>&amp;Connect when the workbench starts</source>
+        <translation>Se &amp;connecter au démarrage du banc de travail</translation>
+    </message>
+    <message>
+        <source>Timing and Sizes</source>
+        <translation>Temps et tailles</translation>
+    </message>
+    <message>
+        <source>Time-out for &amp;connecting:</source>
+        <translation>Délai d'attente pour la &amp;connexion :</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>Time-out for &amp;requests:</source>
+        <translation>Délai d'attente pour les &amp;requêtes :</translation>
+    </message>
+    <message>
+        <source>Time-out for &amp;operations:</source>
+        <translation>Délai d'attente pour les &amp;opérations :</translation>
+    </message>
+    <message>
+        <source>Re&amp;ad values without reports every:</source>
+        <translation>&amp;Lire les valeurs sans rapport toutes les :</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>jamais</translation>
+    </message>
+    <message>
+        <source>Outstanding ca&amp;lls:</source>
+        <translation>Requêtes en a&amp;ttente :</translation>
+    </message>
+    <message>
+        <source>Largest P&amp;DU:</source>
+        <translation>Plus grande P&amp;DU :</translation>
+    </message>
+    <message>
+        <source> octets</source>
+        <translation> octets</translation>
+    </message>
+    <message>
+        <source>Outstanding &amp;file reads:</source>
+        <translation>Lectures de &amp;fichier en attente :</translation>
+    </message>
+    <message>
+        <source>Addressing</source>
+        <translation>Adressage</translation>
+    </message>
+    <message>
+        <source>Client</source>
+        <translation>Client</translation>
+    </message>
+    <message>
+        <source>Transport selector:</source>
+        <translation>Sélecteur de transport :</translation>
+    </message>
+    <message>
+        <source>Session selector:</source>
+        <translation>Sélecteur de session :</translation>
+    </message>
+    <message>
+        <source>Presentation selector:</source>
+        <translation>Sélecteur de présentation :</translation>
+    </message>
+    <message>
+        <source>AP title:</source>
+        <translation>Titre AP :</translation>
+    </message>
+    <message>
+        <source>AE qualifier:</source>
+        <translation>Qualificateur AE :</translation>
+    </message>
+    <message>
+        <source>Selectors are octets in hexadecimal, for example 00 01. An AP title is an object identifier, for example 1.1.1.999.1; empty fields are not sent.</source>
+        <translation>Les sélecteurs sont des octets en hexadécimal, par exemple 00 01. Un titre AP est un identificateur d'objet, par exemple 1.1.1.999.1 ; les champs vides ne sont pas envoyés.</translation>
+    </message>
+    <message>
+        <source>Security</source>
+        <translation>Sécurité</translation>
+    </message>
+    <message>
+        <source>&amp;Password of the association:</source>
+        <translation>Mot de &amp;passe de l'association :</translation>
+    </message>
+    <message>
+        <source>&amp;TLS (IEC 62351-3)</source>
+        <translation>&amp;TLS (IEC 62351-3)</translation>
+    </message>
+    <message>
+        <source>&amp;Certificate:</source>
+        <translation>&amp;Certificat :</translation>
+    </message>
+    <message>
+        <source>Private &amp;key:</source>
+        <translation>C&amp;lé privée :</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ssword of the key:</source>
+        <translation>Mot de pa&amp;sse de la clé :</translation>
+    </message>
+    <message>
+        <source>&amp;Authorities:</source>
+        <translation>&amp;Autorités de certification :</translation>
+    </message>
+    <message>
+        <source>&amp;Revocation lists:</source>
+        <translation>Listes de &amp;révocation :</translation>
+    </message>
+    <message>
+        <source>&amp;Fingerprints (SHA-256):</source>
+        <translation>&amp;Empreintes (SHA-256) :</translation>
+    </message>
+    <message>
+        <source>&amp;Name in the certificate:</source>
+        <translation>&amp;Nom dans le certificat :</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>Originator &amp;category:</source>
+        <translation>&amp;Catégorie de l'émetteur :</translation>
+    </message>
+    <message>
+        <source>Originator &amp;identification:</source>
+        <translation>&amp;Identification de l'émetteur :</translation>
+    </message>
+    <message>
+        <source>&amp;Test Connection</source>
+        <translation>Tester la conne&amp;xion</translation>
+    </message>
+    <message>
+        <source>Add Device</source>
+        <translation>Ajouter un équipement</translation>
+    </message>
+    <message>
+        <source>Edit Device %1</source>
+        <translation>Modifier l'équipement %1</translation>
+    </message>
+    <message>
+        <source>SCL File</source>
+        <translation>Fichier SCL</translation>
+    </message>
+    <message>
+        <source>Certificate</source>
+        <translation>Certificat</translation>
+    </message>
+    <message>
+        <source>Private Key</source>
+        <translation>Clé privée</translation>
+    </message>
+    <message>
+        <source>Authorities</source>
+        <translation>Autorités de certification</translation>
+    </message>
+    <message>
+        <source>Revocation Lists</source>
+        <translation>Listes de révocation</translation>
+    </message>
+    <message>
+        <source>the only one</source>
+        <translation>le seul</translation>
+    </message>
+    <message>
+        <source>The %1 of the %2 is not hexadecimal.</source>
+        <translation>%1 (%2) : pas en hexadécimal.</translation>
+    </message>
+    <message>
+        <source>transport selector</source>
+        <translation>Sélecteur de transport</translation>
+    </message>
+    <message>
+        <source>session selector</source>
+        <translation>Sélecteur de session</translation>
+    </message>
+    <message>
+        <source>presentation selector</source>
+        <translation>Sélecteur de présentation</translation>
+    </message>
+    <message>
+        <source>The AE qualifier of the %1 is not a number.</source>
+        <translation>Qualificateur AE (%1) : pas un nombre.</translation>
+    </message>
+    <message>
+        <source>client</source>
+        <translation>client</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>équipement</translation>
+    </message>
+    <message>
+        <source>The device has no address.</source>
+        <translation>L'équipement n'a pas d'adresse.</translation>
+    </message>
+    <message>
+        <source>Connecting to %1…</source>
+        <translation>Connexion à %1…</translation>
+    </message>
+    <message>
+        <source>Connected to %1. Round trip: %2 ms; logical devices: %3</source>
+        <translation>Connecté à %1. Aller-retour : %2 ms ; dispositifs logiques : %3</translation>
+    </message>
+    <message>
+        <source>a device that does not say what it is</source>
+        <translation>un équipement qui ne dit pas ce qu'il est</translation>
+    </message>
+</context>
+<context>
     <name>DeviceListModel</name>
     <message>
         <source>The demonstration device, a part of the workbench</source>
@@ -1126,10 +1373,6 @@ Apache License 2.0</translation>
         <translation>Se connecter à l'équipement sélectionné, maintenant et au prochain démarrage</translation>
     </message>
     <message>
-        <source>Dis&amp;connect</source>
-        <translation>&amp;Déconnecter</translation>
-    </message>
-    <message>
         <source>Leave the selected device, until it is connected again</source>
         <translation>Quitter l'équipement sélectionné, jusqu'à la prochaine connexion</translation>
     </message>
@@ -1170,10 +1413,6 @@ Apache License 2.0</translation>
         <translation>Enregistrer les valeurs de l'équipement sélectionné sous forme de tableau</translation>
     </message>
     <message>
-        <source>Read-&amp;Only</source>
-        <translation>&amp;Lecture seule</translation>
-    </message>
-    <message>
         <source>Refuse everything that changes something on a device</source>
         <translation>Refuser tout ce qui modifie quelque chose sur un équipement</translation>
     </message>
@@ -1210,6 +1449,38 @@ Apache License 2.0</translation>
     <message>
         <source>%1 was taken off the list.</source>
         <translation>%1 a été retiré de la liste.</translation>
+    </message>
+    <message>
+        <source>Disco&amp;nnect</source>
+        <translation>&amp;Déconnecter</translation>
+    </message>
+    <message>
+        <source>Read-On&amp;ly</source>
+        <translation>&amp;Lecture seule</translation>
+    </message>
+    <message>
+        <source>Save Capture</source>
+        <translation>Enregistrer la capture</translation>
+    </message>
+    <message>
+        <source>Captures (*.pcapng)</source>
+        <translation>Captures (*.pcapng)</translation>
+    </message>
+    <message>
+        <source>Export Values</source>
+        <translation>Exporter les valeurs</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv)</source>
+        <translation>Tableaux (*.csv)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2</source>
+        <translation>« %1 » ne peut pas être écrit : %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was written.</source>
+        <translation>« %1 » a été écrit.</translation>
     </message>
 </context>
 <context>
@@ -1392,6 +1663,52 @@ Apache License 2.0</translation>
     <message>
         <source>The picture &quot;%1&quot; cannot be saved.</source>
         <translation>L'image « %1 » ne peut pas être enregistrée.</translation>
+    </message>
+</context>
+<context>
+    <name>TraceDialog</name>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>&amp;Pause</translation>
+    </message>
+    <message>
+        <source>PDU Trace: %1</source>
+        <translation>Trace des PDU : %1</translation>
+    </message>
+    <message>
+        <source>Nothing was exchanged with this device yet.</source>
+        <translation>Rien n'a encore été échangé avec cet équipement.</translation>
+    </message>
+    <message>
+        <source>&amp;Save Capture…</source>
+        <translation>&amp;Enregistrer la capture…</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>&amp;Vider</translation>
+    </message>
+</context>
+<context>
+    <name>TraceModel</name>
+    <message>
+        <source>sent</source>
+        <translation>envoyé</translation>
+    </message>
+    <message>
+        <source>received</source>
+        <translation>reçu</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Sens</translation>
+    </message>
+    <message>
+        <source>PDU</source>
+        <translation>PDU</translation>
     </message>
 </context>
 <context>

@@ -223,6 +223,253 @@
     </message>
 </context>
 <context>
+    <name>DeviceDialog</name>
+    <message>
+        <source>Device</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nome:</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation>&amp;Endereço:</translation>
+    </message>
+    <message>
+        <source>Host name, IPv4 or IPv6 address</source>
+        <translation>Nome de host, endereço IPv4 ou IPv6</translation>
+    </message>
+    <message>
+        <source>&amp;Port:</source>
+        <translation>&amp;Porta:</translation>
+    </message>
+    <message>
+        <source>&amp;SCL file:</source>
+        <translation>Arquivo &amp;SCL:</translation>
+    </message>
+    <message>
+        <source>Browse…</source>
+        <translation>Procurar…</translation>
+    </message>
+    <message>
+        <source>&amp;IED of the file:</source>
+        <translation>&amp;IED do arquivo:</translation>
+    </message>
+    <message>
+        <source>&amp;Connect when the workbench starts</source>
+        <translation>&amp;Conectar ao iniciar a bancada</translation>
+    </message>
+    <message>
+        <source>Timing and Sizes</source>
+        <translation>Tempos e tamanhos</translation>
+    </message>
+    <message>
+        <source>Time-out for &amp;connecting:</source>
+        <translation>Tempo limite para a &amp;conexão:</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>Time-out for &amp;requests:</source>
+        <translation>Tempo limite para as &amp;requisições:</translation>
+    </message>
+    <message>
+        <source>Time-out for &amp;operations:</source>
+        <translation>Tempo limite para as &amp;operações:</translation>
+    </message>
+    <message>
+        <source>Re&amp;ad values without reports every:</source>
+        <translation>&amp;Ler os valores sem relatórios a cada:</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>nunca</translation>
+    </message>
+    <message>
+        <source>Outstanding ca&amp;lls:</source>
+        <translation>Requisições pe&amp;ndentes:</translation>
+    </message>
+    <message>
+        <source>Largest P&amp;DU:</source>
+        <translation>Maior P&amp;DU:</translation>
+    </message>
+    <message>
+        <source> octets</source>
+        <translation> octetos</translation>
+    </message>
+    <message>
+        <source>Outstanding &amp;file reads:</source>
+        <translation>Leituras de &amp;arquivo pendentes:</translation>
+    </message>
+    <message>
+        <source>Addressing</source>
+        <translation>Endereçamento</translation>
+    </message>
+    <message>
+        <source>Client</source>
+        <translation>Cliente</translation>
+    </message>
+    <message>
+        <source>Transport selector:</source>
+        <translation>Seletor de transporte:</translation>
+    </message>
+    <message>
+        <source>Session selector:</source>
+        <translation>Seletor de sessão:</translation>
+    </message>
+    <message>
+        <source>Presentation selector:</source>
+        <translation>Seletor de apresentação:</translation>
+    </message>
+    <message>
+        <source>AP title:</source>
+        <translation>Título AP:</translation>
+    </message>
+    <message>
+        <source>AE qualifier:</source>
+        <translation>Qualificador AE:</translation>
+    </message>
+    <message>
+        <source>Selectors are octets in hexadecimal, for example 00 01. An AP title is an object identifier, for example 1.1.1.999.1; empty fields are not sent.</source>
+        <translation>Os seletores são octetos em hexadecimal, por exemplo 00 01. Um título AP é um identificador de objeto, por exemplo 1.1.1.999.1; campos vazios não são enviados.</translation>
+    </message>
+    <message>
+        <source>Security</source>
+        <translation>Segurança</translation>
+    </message>
+    <message>
+        <source>&amp;Password of the association:</source>
+        <translation>&amp;Senha da associação:</translation>
+    </message>
+    <message>
+        <source>&amp;TLS (IEC 62351-3)</source>
+        <translation>&amp;TLS (IEC 62351-3)</translation>
+    </message>
+    <message>
+        <source>&amp;Certificate:</source>
+        <translation>&amp;Certificado:</translation>
+    </message>
+    <message>
+        <source>Private &amp;key:</source>
+        <translation>C&amp;have privada:</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ssword of the key:</source>
+        <translation>Senha da cha&amp;ve:</translation>
+    </message>
+    <message>
+        <source>&amp;Authorities:</source>
+        <translation>&amp;Autoridades certificadoras:</translation>
+    </message>
+    <message>
+        <source>&amp;Revocation lists:</source>
+        <translation>Listas de &amp;revogação:</translation>
+    </message>
+    <message>
+        <source>&amp;Fingerprints (SHA-256):</source>
+        <translation>&amp;Impressões digitais (SHA-256):</translation>
+    </message>
+    <message>
+        <source>&amp;Name in the certificate:</source>
+        <translation>&amp;Nome no certificado:</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Comando</translation>
+    </message>
+    <message>
+        <source>Originator &amp;category:</source>
+        <translation>&amp;Categoria do originador:</translation>
+    </message>
+    <message>
+        <source>Originator &amp;identification:</source>
+        <translation>&amp;Identificação do originador:</translation>
+    </message>
+    <message>
+        <source>&amp;Test Connection</source>
+        <translation>Testar a cone&amp;xão</translation>
+    </message>
+    <message>
+        <source>Add Device</source>
+        <translation>Adicionar dispositivo</translation>
+    </message>
+    <message>
+        <source>Edit Device %1</source>
+        <translation>Editar o dispositivo %1</translation>
+    </message>
+    <message>
+        <source>SCL File</source>
+        <translation>Arquivo SCL</translation>
+    </message>
+    <message>
+        <source>Certificate</source>
+        <translation>Certificado</translation>
+    </message>
+    <message>
+        <source>Private Key</source>
+        <translation>Chave privada</translation>
+    </message>
+    <message>
+        <source>Authorities</source>
+        <translation>Autoridades certificadoras</translation>
+    </message>
+    <message>
+        <source>Revocation Lists</source>
+        <translation>Listas de revogação</translation>
+    </message>
+    <message>
+        <source>the only one</source>
+        <translation>o único</translation>
+    </message>
+    <message>
+        <source>The %1 of the %2 is not hexadecimal.</source>
+        <translation>%1 (%2): não é hexadecimal.</translation>
+    </message>
+    <message>
+        <source>transport selector</source>
+        <translation>Seletor de transporte</translation>
+    </message>
+    <message>
+        <source>session selector</source>
+        <translation>Seletor de sessão</translation>
+    </message>
+    <message>
+        <source>presentation selector</source>
+        <translation>Seletor de apresentação</translation>
+    </message>
+    <message>
+        <source>The AE qualifier of the %1 is not a number.</source>
+        <translation>Qualificador AE (%1): não é um número.</translation>
+    </message>
+    <message>
+        <source>client</source>
+        <translation>cliente</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>dispositivo</translation>
+    </message>
+    <message>
+        <source>The device has no address.</source>
+        <translation>O dispositivo não tem endereço.</translation>
+    </message>
+    <message>
+        <source>Connecting to %1…</source>
+        <translation>Conectando a %1…</translation>
+    </message>
+    <message>
+        <source>Connected to %1. Round trip: %2 ms; logical devices: %3</source>
+        <translation>Conectado a %1. Ida e volta: %2 ms; dispositivos lógicos: %3</translation>
+    </message>
+    <message>
+        <source>a device that does not say what it is</source>
+        <translation>um dispositivo que não diz o que é</translation>
+    </message>
+</context>
+<context>
     <name>DeviceListModel</name>
     <message>
         <source>The demonstration device, a part of the workbench</source>
@@ -1126,10 +1373,6 @@ Apache License 2.0</translation>
         <translation>Conectar ao dispositivo selecionado, agora e na próxima inicialização</translation>
     </message>
     <message>
-        <source>Dis&amp;connect</source>
-        <translation>&amp;Desconectar</translation>
-    </message>
-    <message>
         <source>Leave the selected device, until it is connected again</source>
         <translation>Deixar o dispositivo selecionado até ser conectado novamente</translation>
     </message>
@@ -1170,10 +1413,6 @@ Apache License 2.0</translation>
         <translation>Salvar os valores do dispositivo selecionado como tabela</translation>
     </message>
     <message>
-        <source>Read-&amp;Only</source>
-        <translation>&amp;Somente leitura</translation>
-    </message>
-    <message>
         <source>Refuse everything that changes something on a device</source>
         <translation>Recusar tudo o que altere algo em um dispositivo</translation>
     </message>
@@ -1210,6 +1449,38 @@ Apache License 2.0</translation>
     <message>
         <source>%1 was taken off the list.</source>
         <translation>%1 foi removido da lista.</translation>
+    </message>
+    <message>
+        <source>Disco&amp;nnect</source>
+        <translation>&amp;Desconectar</translation>
+    </message>
+    <message>
+        <source>Read-On&amp;ly</source>
+        <translation>&amp;Somente leitura</translation>
+    </message>
+    <message>
+        <source>Save Capture</source>
+        <translation>Salvar captura</translation>
+    </message>
+    <message>
+        <source>Captures (*.pcapng)</source>
+        <translation>Capturas (*.pcapng)</translation>
+    </message>
+    <message>
+        <source>Export Values</source>
+        <translation>Exportar valores</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv)</source>
+        <translation>Tabelas (*.csv)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2</source>
+        <translation>“%1” não pode ser gravado: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was written.</source>
+        <translation>“%1” foi gravado.</translation>
     </message>
 </context>
 <context>
@@ -1392,6 +1663,52 @@ Apache License 2.0</translation>
     <message>
         <source>The picture &quot;%1&quot; cannot be saved.</source>
         <translation>A imagem “%1” não pode ser salva.</translation>
+    </message>
+</context>
+<context>
+    <name>TraceDialog</name>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>&amp;Pausa</translation>
+    </message>
+    <message>
+        <source>PDU Trace: %1</source>
+        <translation>Rastreamento de PDUs: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was exchanged with this device yet.</source>
+        <translation>Nada foi trocado com este dispositivo ainda.</translation>
+    </message>
+    <message>
+        <source>&amp;Save Capture…</source>
+        <translation>&amp;Salvar captura…</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>&amp;Limpar</translation>
+    </message>
+</context>
+<context>
+    <name>TraceModel</name>
+    <message>
+        <source>sent</source>
+        <translation>enviada</translation>
+    </message>
+    <message>
+        <source>received</source>
+        <translation>recebida</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Sentido</translation>
+    </message>
+    <message>
+        <source>PDU</source>
+        <translation>PDU</translation>
     </message>
 </context>
 <context>

@@ -223,6 +223,253 @@
     </message>
 </context>
 <context>
+    <name>DeviceDialog</name>
+    <message>
+        <source>Device</source>
+        <translation>Устройство</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Имя:</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation>&amp;Адрес:</translation>
+    </message>
+    <message>
+        <source>Host name, IPv4 or IPv6 address</source>
+        <translation>Имя узла, адрес IPv4 или IPv6</translation>
+    </message>
+    <message>
+        <source>&amp;Port:</source>
+        <translation>&amp;Порт:</translation>
+    </message>
+    <message>
+        <source>&amp;SCL file:</source>
+        <translation>Файл &amp;SCL:</translation>
+    </message>
+    <message>
+        <source>Browse…</source>
+        <translation>Обзор…</translation>
+    </message>
+    <message>
+        <source>&amp;IED of the file:</source>
+        <translation>И&amp;ЭУ из файла:</translation>
+    </message>
+    <message>
+        <source>&amp;Connect when the workbench starts</source>
+        <translation>Подключать при &amp;запуске рабочего стенда</translation>
+    </message>
+    <message>
+        <source>Timing and Sizes</source>
+        <translation>Время и размеры</translation>
+    </message>
+    <message>
+        <source>Time-out for &amp;connecting:</source>
+        <translation>Предел времени для &amp;подключения:</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> мс</translation>
+    </message>
+    <message>
+        <source>Time-out for &amp;requests:</source>
+        <translation>Предел времени для &amp;запросов:</translation>
+    </message>
+    <message>
+        <source>Time-out for &amp;operations:</source>
+        <translation>Предел времени для &amp;операций:</translation>
+    </message>
+    <message>
+        <source>Re&amp;ad values without reports every:</source>
+        <translation>&amp;Читать значения без отчётов каждые:</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>никогда</translation>
+    </message>
+    <message>
+        <source>Outstanding ca&amp;lls:</source>
+        <translation>Ожидающих з&amp;апросов:</translation>
+    </message>
+    <message>
+        <source>Largest P&amp;DU:</source>
+        <translation>Наибольший P&amp;DU:</translation>
+    </message>
+    <message>
+        <source> octets</source>
+        <translation> октетов</translation>
+    </message>
+    <message>
+        <source>Outstanding &amp;file reads:</source>
+        <translation>Ожидающих чтений &amp;файла:</translation>
+    </message>
+    <message>
+        <source>Addressing</source>
+        <translation>Адресация</translation>
+    </message>
+    <message>
+        <source>Client</source>
+        <translation>Клиент</translation>
+    </message>
+    <message>
+        <source>Transport selector:</source>
+        <translation>Селектор транспортного уровня:</translation>
+    </message>
+    <message>
+        <source>Session selector:</source>
+        <translation>Селектор сеансового уровня:</translation>
+    </message>
+    <message>
+        <source>Presentation selector:</source>
+        <translation>Селектор уровня представления:</translation>
+    </message>
+    <message>
+        <source>AP title:</source>
+        <translation>Заголовок AP:</translation>
+    </message>
+    <message>
+        <source>AE qualifier:</source>
+        <translation>Квалификатор AE:</translation>
+    </message>
+    <message>
+        <source>Selectors are octets in hexadecimal, for example 00 01. An AP title is an object identifier, for example 1.1.1.999.1; empty fields are not sent.</source>
+        <translation>Селекторы записываются октетами в шестнадцатеричном виде, например 00 01. Заголовок AP — это идентификатор объекта, например 1.1.1.999.1; пустые поля не передаются.</translation>
+    </message>
+    <message>
+        <source>Security</source>
+        <translation>Безопасность</translation>
+    </message>
+    <message>
+        <source>&amp;Password of the association:</source>
+        <translation>&amp;Пароль ассоциации:</translation>
+    </message>
+    <message>
+        <source>&amp;TLS (IEC 62351-3)</source>
+        <translation>&amp;TLS (МЭК 62351-3)</translation>
+    </message>
+    <message>
+        <source>&amp;Certificate:</source>
+        <translation>&amp;Сертификат:</translation>
+    </message>
+    <message>
+        <source>Private &amp;key:</source>
+        <translation>&amp;Закрытый ключ:</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ssword of the key:</source>
+        <translation>Пароль &amp;ключа:</translation>
+    </message>
+    <message>
+        <source>&amp;Authorities:</source>
+        <translation>&amp;Удостоверяющие центры:</translation>
+    </message>
+    <message>
+        <source>&amp;Revocation lists:</source>
+        <translation>Списки &amp;отзыва:</translation>
+    </message>
+    <message>
+        <source>&amp;Fingerprints (SHA-256):</source>
+        <translation>&amp;Отпечатки (SHA-256):</translation>
+    </message>
+    <message>
+        <source>&amp;Name in the certificate:</source>
+        <translation>&amp;Имя в сертификате:</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Управление</translation>
+    </message>
+    <message>
+        <source>Originator &amp;category:</source>
+        <translation>&amp;Категория инициатора:</translation>
+    </message>
+    <message>
+        <source>Originator &amp;identification:</source>
+        <translation>&amp;Идентификатор инициатора:</translation>
+    </message>
+    <message>
+        <source>&amp;Test Connection</source>
+        <translation>Проверить свя&amp;зь</translation>
+    </message>
+    <message>
+        <source>Add Device</source>
+        <translation>Добавить устройство</translation>
+    </message>
+    <message>
+        <source>Edit Device %1</source>
+        <translation>Изменить устройство %1</translation>
+    </message>
+    <message>
+        <source>SCL File</source>
+        <translation>Файл SCL</translation>
+    </message>
+    <message>
+        <source>Certificate</source>
+        <translation>Сертификат</translation>
+    </message>
+    <message>
+        <source>Private Key</source>
+        <translation>Закрытый ключ</translation>
+    </message>
+    <message>
+        <source>Authorities</source>
+        <translation>Удостоверяющие центры</translation>
+    </message>
+    <message>
+        <source>Revocation Lists</source>
+        <translation>Списки отзыва</translation>
+    </message>
+    <message>
+        <source>the only one</source>
+        <translation>единственное</translation>
+    </message>
+    <message>
+        <source>The %1 of the %2 is not hexadecimal.</source>
+        <translation>%1 (%2): не в шестнадцатеричном виде.</translation>
+    </message>
+    <message>
+        <source>transport selector</source>
+        <translation>Селектор транспортного уровня</translation>
+    </message>
+    <message>
+        <source>session selector</source>
+        <translation>Селектор сеансового уровня</translation>
+    </message>
+    <message>
+        <source>presentation selector</source>
+        <translation>Селектор уровня представления</translation>
+    </message>
+    <message>
+        <source>The AE qualifier of the %1 is not a number.</source>
+        <translation>Квалификатор AE (%1): не число.</translation>
+    </message>
+    <message>
+        <source>client</source>
+        <translation>клиент</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>устройство</translation>
+    </message>
+    <message>
+        <source>The device has no address.</source>
+        <translation>У устройства нет адреса.</translation>
+    </message>
+    <message>
+        <source>Connecting to %1…</source>
+        <translation>Установление связи с %1…</translation>
+    </message>
+    <message>
+        <source>Connected to %1. Round trip: %2 ms; logical devices: %3</source>
+        <translation>Связь установлена: %1. Время ответа: %2 мс; логических устройств: %3</translation>
+    </message>
+    <message>
+        <source>a device that does not say what it is</source>
+        <translation>устройство, которое себя не назвало</translation>
+    </message>
+</context>
+<context>
     <name>DeviceListModel</name>
     <message>
         <source>The demonstration device, a part of the workbench</source>
@@ -1126,10 +1373,6 @@ Apache License 2.0</translation>
         <translation>Установить связь с выбранным устройством сейчас и при следующем запуске</translation>
     </message>
     <message>
-        <source>Dis&amp;connect</source>
-        <translation>&amp;Отключить</translation>
-    </message>
-    <message>
         <source>Leave the selected device, until it is connected again</source>
         <translation>Завершить связь с выбранным устройством до следующего подключения</translation>
     </message>
@@ -1170,10 +1413,6 @@ Apache License 2.0</translation>
         <translation>Сохранить значения выбранного устройства в виде таблицы</translation>
     </message>
     <message>
-        <source>Read-&amp;Only</source>
-        <translation>Только &amp;чтение</translation>
-    </message>
-    <message>
         <source>Refuse everything that changes something on a device</source>
         <translation>Отклонять всё, что меняет что-либо на устройстве</translation>
     </message>
@@ -1210,6 +1449,38 @@ Apache License 2.0</translation>
     <message>
         <source>%1 was taken off the list.</source>
         <translation>%1: убрано из списка.</translation>
+    </message>
+    <message>
+        <source>Disco&amp;nnect</source>
+        <translation>&amp;Отключить</translation>
+    </message>
+    <message>
+        <source>Read-On&amp;ly</source>
+        <translation>Только &amp;чтение</translation>
+    </message>
+    <message>
+        <source>Save Capture</source>
+        <translation>Сохранить запись обмена</translation>
+    </message>
+    <message>
+        <source>Captures (*.pcapng)</source>
+        <translation>Записи обмена (*.pcapng)</translation>
+    </message>
+    <message>
+        <source>Export Values</source>
+        <translation>Экспорт значений</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv)</source>
+        <translation>Таблицы (*.csv)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2</source>
+        <translation>«%1» не удаётся записать: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was written.</source>
+        <translation>«%1»: записано.</translation>
     </message>
 </context>
 <context>
@@ -1392,6 +1663,52 @@ Apache License 2.0</translation>
     <message>
         <source>The picture &quot;%1&quot; cannot be saved.</source>
         <translation>Снимок «%1» не удаётся сохранить.</translation>
+    </message>
+</context>
+<context>
+    <name>TraceDialog</name>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>&amp;Пауза</translation>
+    </message>
+    <message>
+        <source>PDU Trace: %1</source>
+        <translation>Трассировка PDU: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was exchanged with this device yet.</source>
+        <translation>Обмена с этим устройством ещё не было.</translation>
+    </message>
+    <message>
+        <source>&amp;Save Capture…</source>
+        <translation>&amp;Сохранить запись обмена…</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>&amp;Очистить</translation>
+    </message>
+</context>
+<context>
+    <name>TraceModel</name>
+    <message>
+        <source>sent</source>
+        <translation>отправлено</translation>
+    </message>
+    <message>
+        <source>received</source>
+        <translation>получено</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Время</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Направление</translation>
+    </message>
+    <message>
+        <source>PDU</source>
+        <translation>PDU</translation>
     </message>
 </context>
 <context>

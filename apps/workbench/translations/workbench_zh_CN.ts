@@ -223,6 +223,253 @@
     </message>
 </context>
 <context>
+    <name>DeviceDialog</name>
+    <message>
+        <source>Device</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>名称(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation>地址(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>Host name, IPv4 or IPv6 address</source>
+        <translation>主机名、IPv4 或 IPv6 地址</translation>
+    </message>
+    <message>
+        <source>&amp;Port:</source>
+        <translation>端口(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>&amp;SCL file:</source>
+        <translation>SCL 文件(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>Browse…</source>
+        <translation>浏览…</translation>
+    </message>
+    <message>
+        <source>&amp;IED of the file:</source>
+        <translation>文件中的 IED(&amp;I)：</translation>
+    </message>
+    <message>
+        <source>&amp;Connect when the workbench starts</source>
+        <translation>工作台启动时连接(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Timing and Sizes</source>
+        <translation>时间与大小</translation>
+    </message>
+    <message>
+        <source>Time-out for &amp;connecting:</source>
+        <translation>连接超时(&amp;C)：</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> 毫秒</translation>
+    </message>
+    <message>
+        <source>Time-out for &amp;requests:</source>
+        <translation>请求超时(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>Time-out for &amp;operations:</source>
+        <translation>操作超时(&amp;O)：</translation>
+    </message>
+    <message>
+        <source>Re&amp;ad values without reports every:</source>
+        <translation>无报告的值的读取间隔(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>从不</translation>
+    </message>
+    <message>
+        <source>Outstanding ca&amp;lls:</source>
+        <translation>未决请求数(&amp;L)：</translation>
+    </message>
+    <message>
+        <source>Largest P&amp;DU:</source>
+        <translation>最大 PDU(&amp;D)：</translation>
+    </message>
+    <message>
+        <source> octets</source>
+        <translation> 个八位字节</translation>
+    </message>
+    <message>
+        <source>Outstanding &amp;file reads:</source>
+        <translation>未决文件读取数(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>Addressing</source>
+        <translation>寻址</translation>
+    </message>
+    <message>
+        <source>Client</source>
+        <translation>客户端</translation>
+    </message>
+    <message>
+        <source>Transport selector:</source>
+        <translation>传输选择符：</translation>
+    </message>
+    <message>
+        <source>Session selector:</source>
+        <translation>会话选择符：</translation>
+    </message>
+    <message>
+        <source>Presentation selector:</source>
+        <translation>表示选择符：</translation>
+    </message>
+    <message>
+        <source>AP title:</source>
+        <translation>AP 标题：</translation>
+    </message>
+    <message>
+        <source>AE qualifier:</source>
+        <translation>AE 限定符：</translation>
+    </message>
+    <message>
+        <source>Selectors are octets in hexadecimal, for example 00 01. An AP title is an object identifier, for example 1.1.1.999.1; empty fields are not sent.</source>
+        <translation>选择符以十六进制八位字节书写，例如 00 01。AP 标题是对象标识符，例如 1.1.1.999.1；空字段不发送。</translation>
+    </message>
+    <message>
+        <source>Security</source>
+        <translation>安全</translation>
+    </message>
+    <message>
+        <source>&amp;Password of the association:</source>
+        <translation>关联密码(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>&amp;TLS (IEC 62351-3)</source>
+        <translation>TLS (IEC 62351-3)(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Certificate:</source>
+        <translation>证书(&amp;C)：</translation>
+    </message>
+    <message>
+        <source>Private &amp;key:</source>
+        <translation>私钥(&amp;K)：</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ssword of the key:</source>
+        <translation>私钥密码(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>&amp;Authorities:</source>
+        <translation>证书颁发机构(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>&amp;Revocation lists:</source>
+        <translation>吊销列表(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>&amp;Fingerprints (SHA-256):</source>
+        <translation>指纹 (SHA-256)(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>&amp;Name in the certificate:</source>
+        <translation>证书中的名称(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>控制</translation>
+    </message>
+    <message>
+        <source>Originator &amp;category:</source>
+        <translation>源发者类别(&amp;C)：</translation>
+    </message>
+    <message>
+        <source>Originator &amp;identification:</source>
+        <translation>源发者标识(&amp;I)：</translation>
+    </message>
+    <message>
+        <source>&amp;Test Connection</source>
+        <translation>测试连接(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Add Device</source>
+        <translation>添加设备</translation>
+    </message>
+    <message>
+        <source>Edit Device %1</source>
+        <translation>编辑设备 %1</translation>
+    </message>
+    <message>
+        <source>SCL File</source>
+        <translation>SCL 文件</translation>
+    </message>
+    <message>
+        <source>Certificate</source>
+        <translation>证书</translation>
+    </message>
+    <message>
+        <source>Private Key</source>
+        <translation>私钥</translation>
+    </message>
+    <message>
+        <source>Authorities</source>
+        <translation>证书颁发机构</translation>
+    </message>
+    <message>
+        <source>Revocation Lists</source>
+        <translation>吊销列表</translation>
+    </message>
+    <message>
+        <source>the only one</source>
+        <translation>唯一的一台</translation>
+    </message>
+    <message>
+        <source>The %1 of the %2 is not hexadecimal.</source>
+        <translation>%1（%2）：不是十六进制。</translation>
+    </message>
+    <message>
+        <source>transport selector</source>
+        <translation>传输选择符</translation>
+    </message>
+    <message>
+        <source>session selector</source>
+        <translation>会话选择符</translation>
+    </message>
+    <message>
+        <source>presentation selector</source>
+        <translation>表示选择符</translation>
+    </message>
+    <message>
+        <source>The AE qualifier of the %1 is not a number.</source>
+        <translation>AE 限定符（%1）：不是数字。</translation>
+    </message>
+    <message>
+        <source>client</source>
+        <translation>客户端</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>The device has no address.</source>
+        <translation>设备没有地址。</translation>
+    </message>
+    <message>
+        <source>Connecting to %1…</source>
+        <translation>正在连接 %1…</translation>
+    </message>
+    <message>
+        <source>Connected to %1. Round trip: %2 ms; logical devices: %3</source>
+        <translation>已连接到 %1。往返时间：%2 毫秒；逻辑设备：%3</translation>
+    </message>
+    <message>
+        <source>a device that does not say what it is</source>
+        <translation>一台未说明身份的设备</translation>
+    </message>
+</context>
+<context>
     <name>DeviceListModel</name>
     <message>
         <source>The demonstration device, a part of the workbench</source>
@@ -1126,10 +1373,6 @@ Apache License 2.0</translation>
         <translation>连接所选设备，现在以及下次启动时</translation>
     </message>
     <message>
-        <source>Dis&amp;connect</source>
-        <translation>断开连接(&amp;N)</translation>
-    </message>
-    <message>
         <source>Leave the selected device, until it is connected again</source>
         <translation>断开所选设备，直到再次连接</translation>
     </message>
@@ -1170,10 +1413,6 @@ Apache License 2.0</translation>
         <translation>将所选设备的值保存为表格</translation>
     </message>
     <message>
-        <source>Read-&amp;Only</source>
-        <translation>只读(&amp;O)</translation>
-    </message>
-    <message>
         <source>Refuse everything that changes something on a device</source>
         <translation>拒绝一切会更改设备的操作</translation>
     </message>
@@ -1210,6 +1449,38 @@ Apache License 2.0</translation>
     <message>
         <source>%1 was taken off the list.</source>
         <translation>%1 已从列表中移除。</translation>
+    </message>
+    <message>
+        <source>Disco&amp;nnect</source>
+        <translation>断开连接(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Read-On&amp;ly</source>
+        <translation>只读(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Save Capture</source>
+        <translation>保存抓包</translation>
+    </message>
+    <message>
+        <source>Captures (*.pcapng)</source>
+        <translation>抓包文件 (*.pcapng)</translation>
+    </message>
+    <message>
+        <source>Export Values</source>
+        <translation>导出数值</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv)</source>
+        <translation>表格 (*.csv)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2</source>
+        <translation>无法写入“%1”：%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was written.</source>
+        <translation>已写入“%1”。</translation>
     </message>
 </context>
 <context>
@@ -1392,6 +1663,52 @@ Apache License 2.0</translation>
     <message>
         <source>The picture &quot;%1&quot; cannot be saved.</source>
         <translation>无法保存图片“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>TraceDialog</name>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>暂停(&amp;P)</translation>
+    </message>
+    <message>
+        <source>PDU Trace: %1</source>
+        <translation>PDU 跟踪：%1</translation>
+    </message>
+    <message>
+        <source>Nothing was exchanged with this device yet.</source>
+        <translation>尚未与此设备交换任何报文。</translation>
+    </message>
+    <message>
+        <source>&amp;Save Capture…</source>
+        <translation>保存抓包(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>清空(&amp;L)</translation>
+    </message>
+</context>
+<context>
+    <name>TraceModel</name>
+    <message>
+        <source>sent</source>
+        <translation>发送</translation>
+    </message>
+    <message>
+        <source>received</source>
+        <translation>接收</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>PDU</source>
+        <translation>PDU</translation>
     </message>
 </context>
 <context>
