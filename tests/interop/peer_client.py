@@ -618,6 +618,73 @@ class Client:
                      kinds=(TEXT, TEXT))
         return True
 
+    # How long the same call takes "count" times, in seconds; for benchmarks.
+
+    def seconds(self, command, call):
+        call()
+        start = time.perf_counter()
+        for _ in range(command["count"]):
+            call()
+        return time.perf_counter() - start
+
+    def timed(self, name, result, kinds, arguments, release):
+        ask = function("MmsConnection_" + name, result, POINTER, ctypes.POINTER(INT), *kinds)
+        error = INT(0)
+        failure = ctypes.byref(error)
+
+        def call():
+            value = ask(self.mms, failure, *arguments)
+            if error.value or not value:
+                raise Refused(MMS_ERRORS.get(error.value, str(error.value)))
+            release(value)
+
+        return call
+
+    def do_timeread(self, command):
+        arguments = (command["domain"].encode(), command["item"].encode())
+        return self.seconds(command, self.timed("readVariable", POINTER, (TEXT, TEXT), arguments,
+                                                value_delete))
+
+    def do_timereadmany(self, command):
+        arguments = (command["domain"].encode(), self.list_of(command["items"]))
+        return self.seconds(command, self.timed("readMultipleVariables", POINTER,
+                                                (TEXT, POINTER_LIST), arguments, value_delete))
+
+    def do_timereadlist(self, command):
+        arguments = (command["domain"].encode(), command["name"].encode(), False)
+        return self.seconds(command, self.timed("readNamedVariableListValues", POINTER,
+                                                (TEXT, TEXT, BOOL), arguments, value_delete))
+
+    def do_timetypes(self, command):
+        """One after the other, of each of "items"."""
+        release = function("MmsVariableSpecification_destroy", None, POINTER)
+        calls = [self.timed("getVariableAccessAttributes", POINTER, (TEXT, TEXT),
+                            (domain.encode(), item.encode()), release)
+                 for domain, item in command["items"]]
+        return self.seconds(command, lambda: [call() for call in calls])
+
+    def do_timegetfile(self, command):
+        kind = ctypes.CFUNCTYPE(BOOL, POINTER, ctypes.POINTER(BYTE), U32)
+        received = []
+
+        def take(_parameter, _octets, count):
+            received.append(count)
+            return True
+
+        handler = kind(take)
+        start = time.perf_counter()
+        size = self.ask_ied("getFile", U32, command["file"].encode(), handler, None,
+                            kinds=(TEXT, kind, POINTER))
+        seconds = time.perf_counter() - start
+        if sum(received) != size or size != command["size"]:
+            raise Refused(f"{size} octets announced, {sum(received)} came")
+        return seconds
+
+    def do_timesetfile(self, command):
+        start = time.perf_counter()
+        self.do_setfile(command)
+        return time.perf_counter() - start
+
 
 POINTER_LIST = ctypes.POINTER(type(list_create().contents))
 

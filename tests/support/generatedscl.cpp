@@ -3,7 +3,6 @@
 
 namespace {
 
-constexpr int objectsPerNode = 12;
 constexpr int leavesPerObject = 12;
 constexpr int arrayElements = 16;
 constexpr int leavesPerElement = 6;
@@ -96,11 +95,11 @@ std::string objectName(int number)
     return "DPCSO" + std::to_string(number + 1);
 }
 
-std::string flatNode(const std::string &inst)
+std::string flatNode(const std::string &inst, int objects)
 {
     std::string text =
         "          <LN prefix=\"IO\" lnClass=\"GGIO\" inst=\"" + inst + "\" lnType=\"GGIO_1\">\n";
-    for (int i = 0; i < objectsPerNode; ++i) {
+    for (int i = 0; i < objects; ++i) {
         text += "            <DOI name=\"" + objectName(i) +
                 "\">\n"
                 "              <DAI name=\"ctlModel\" sAddr=\"" +
@@ -166,7 +165,7 @@ std::string GeneratedScl::text() const
         for (int node = 1; node <= nodesPerDevice && (leaves < leafAttributes || node <= 10);
              ++node) {
             const std::string number = std::to_string(node);
-            result += throughArrays ? arrayNode(number) : flatNode(number);
+            result += throughArrays ? arrayNode(number) : flatNode(number, objectsPerNode);
             leaves += leavesPerNode;
         }
         result += "        </LDevice>\n";

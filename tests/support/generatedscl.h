@@ -11,6 +11,7 @@ struct GeneratedScl
     int leafAttributes = 60000; ///< at least; the last logical node is complete
     bool throughArrays = false; ///< nearly all attributes are elements of arrays
     int nodesPerDevice = 40;    ///< logical nodes of a logical device besides LLN0, at least 10
+    int objectsPerNode = 12;    ///< of 12 attributes each; without arrays only
 
     std::string text() const;
 };

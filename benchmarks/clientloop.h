@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "acsi/client.h"
+#include "mms/loopback.h"
+
+#include <asio/co_spawn.hpp>
+#include <asio/detached.hpp>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <utility>
+
+/// Clients in a thread of their own, for benchmarks that wait.
+class ClientLoop
+{
+public:
+    ~ClientLoop()
+    {
+        for (const auto &client : m_clients) {
+            mmstest::Awaited<bool> done;
+            asio::post(client->strand(), [client, set = done.setter()] {
+                client->abort("The end.");
+                set(true);
+            });
+            done.get();
+        }
+    }
+
+    asio::any_io_executor executor() { return m_loop.executor(); }
+
+    /// Throws when there is no association.
+    std::shared_ptr<acsi::Client> connect(std::uint16_t port, acsi::ClientOptions options = {})
+    {
+        auto connecting =
+            acsi::Client::connect(m_loop.executor(), "127.0.0.1", port, std::move(options));
+        m_clients.push_back(value(run(m_loop.executor(), std::move(connecting))));
+        return m_clients.back();
+    }
+
+    /// What a coroutine comes to. A result without a value throws.
+    template <typename T>
+    auto run(const std::shared_ptr<acsi::Client> &client, asio::awaitable<mms::Result<T>> work)
+    {
+        return value(run(client->strand(), std::move(work)));
+    }
+
+    template <typename Executor, typename T>
+    T run(const Executor &executor, asio::awaitable<T> work)
+    {
+        return start(executor, std::move(work)).get();
+    }
+
+    template <typename Executor, typename T>
+    mmstest::Awaited<T> start(const Executor &executor, asio::awaitable<T> work)
+    {
+        mmstest::Awaited<T> outcome;
+        asio::co_spawn(executor, forward<T>(std::move(work), outcome.setter()), asio::detached);
+        return outcome;
+    }
+
+private:
+    template <typename T>
+    static asio::awaitable<void> forward(asio::awaitable<T> work, std::function<void(T)> handler)
+    {
+        handler(co_await std::move(work));
+    }
+
+    template <typename T>
+    static T value(mms::Result<T> result)
+    {
+        if (!result)
+            throw std::runtime_error(result.error().message);
+        return *std::move(result);
+    }
+
+    static void value(const mms::Result<void> &result)
+    {
+        if (!result)
+            throw std::runtime_error(result.error().message);
+    }
+
+    mmstest::Loop m_loop;
+    std::vector<std::shared_ptr<acsi::Client>> m_clients;
+};
+
+inline double secondsSince(std::chrono::steady_clock::time_point start)
+{
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
