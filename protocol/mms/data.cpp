@@ -21,6 +21,9 @@ namespace {
 constexpr std::uint8_t floatExponentWidth = 8;
 constexpr std::uint8_t doubleExponentWidth = 11;
 
+constexpr std::string_view noValue =
+    "An element that is no value stands where a value belongs";
+
 std::uint64_t bigEndian(Bytes octets)
 {
     std::uint64_t value = 0;
@@ -377,113 +380,143 @@ bool operator==(const Data &left, const Data &right)
 
 void DataCodec::readInto(Reader &reader, const Element &element, Data &data, Room *room)
 {
-    const Bytes content = element.content;
-    const auto refuse = [&](const char *message) { reader.input().fail(message, element.offset); };
-    // The value is a new one, so that nothing is to be released.
-    const auto setNumber = [&](std::uint64_t bits) {
-        data.m_kind = static_cast<Data::Kind>(element.tag.number());
-        data.m_size = 1;
-        data.m_content.bits = bits;
-    };
-    const auto copyOctets = [&](Data::Kind kind) {
-        std::uint8_t *const place = data.makeRoom(kind, content.size());
-        if (!content.empty())
-            std::memcpy(place, content.data(), content.size());
-    };
-
-    const auto kind = static_cast<Data::Kind>(element.tag.number());
-    const bool isGroup = kind == Data::Kind::Structure || kind == Data::Kind::Array;
-    if (!element.tag.isContext() || element.tag.isConstructed() != isGroup ||
-        element.tag.number() > static_cast<std::uint32_t>(Data::Kind::UtcTime))
-        return refuse("An element that is no value stands where a value belongs");
-
-    switch (kind) {
-    case Data::Kind::Array:
-    case Data::Kind::Structure: {
-        Reader inner = reader.enter(element);
-        data.m_kind = kind;
-        const std::size_t count = inner.countAhead();
-        if (count == 0)
-            return;
-        Room own;
-        data.m_isBorrowed = room != nullptr;
-        if (!room) {
-            const auto quick = countNestedQuickly(content);
-            const std::size_t all = quick ? *quick : countNested(inner);
-            if (!inner.allow(all))
+    // Apart, because the many values without anything inside would pay for what groups need.
+    struct Parts
+    {
+        [[gnu::always_inline]] static inline void leaf(Reader &reader, const Element &element,
+                                                       Data &data)
+        {
+            const Bytes content = element.content;
+            const auto kind = static_cast<Data::Kind>(element.tag.number());
+            const auto refuse = [&](std::string_view message) {
+                reader.input().fail(message, element.offset);
+            };
+            // The value is a new one, so that nothing is to be released.
+            const auto setNumber = [&](std::uint64_t bits) {
+                data.m_kind = kind;
+                data.m_size = 1;
+                data.m_content.bits = bits;
+            };
+            const auto copyOctets = [&] {
+                std::uint8_t *const place = data.makeRoom(kind, content.size());
+                if (!content.empty())
+                    std::memcpy(place, content.data(), content.size());
+            };
+            switch (kind) {
+            case Data::Kind::Boolean:
+                setNumber(reader.boolean(element) ? 1U : 0U);
                 return;
-            own.next = new Data[all];
-            own.end = own.next + all;
-            room = &own;
+            case Data::Kind::Integer:
+                setNumber(static_cast<std::uint64_t>(reader.integer(element)));
+                return;
+            case Data::Kind::Unsigned:
+            case Data::Kind::Bcd:
+                setNumber(reader.unsignedInteger(element));
+                return;
+            case Data::Kind::FloatingPoint:
+                if (content.size() == 5 && content[0] == floatExponentWidth) {
+                    setNumber(bigEndian(content.subspan<1, 4>()));
+                    data.m_width = 32;
+                } else if (content.size() == 9 && content[0] == doubleExponentWidth) {
+                    setNumber(bigEndian(content.subspan<1, 8>()));
+                    data.m_width = 64;
+                } else {
+                    refuse("A floating-point number has neither 32 nor 64 bits");
+                }
+                return;
+            case Data::Kind::BitString:
+            case Data::Kind::BooleanArray: {
+                if (content.empty() || content[0] > 7 || (content.size() == 1 && content[0] != 0))
+                    return refuse("A bit string does not say how many of its bits count");
+                const std::size_t octets = content.size() - 1;
+                std::uint8_t *const place = data.makeRoom(kind, octets * 8 - content[0]);
+                if (octets == 0)
+                    return;
+                std::memcpy(place, content.data() + 1, octets);
+                place[octets - 1] =
+                    static_cast<std::uint8_t>(place[octets - 1] & (0xFFU << content[0] & 0xFFU));
+                return;
+            }
+            case Data::Kind::BinaryTime:
+                if (content.size() != 4 && content.size() != 6)
+                    return refuse("A binary time has neither 4 nor 6 octets");
+                return copyOctets();
+            case Data::Kind::UtcTime:
+                if (content.size() != 8)
+                    return refuse("A UTC time has not 8 octets");
+                data.m_kind = kind;
+                data.m_size = 8;
+                std::memcpy(data.m_content.inside, content.data(), 8);
+                return;
+            case Data::Kind::ObjectIdentifier:
+                (void)reader.objectIdentifier(element);
+                if (!reader.failed())
+                    copyOctets();
+                return;
+            case Data::Kind::OctetString:
+            case Data::Kind::VisibleString:
+            case Data::Kind::GeneralizedTime:
+            case Data::Kind::MmsString:
+                return copyOctets();
+            case Data::Kind::Array:
+            case Data::Kind::Structure:
+                break;
+            }
+            refuse(noValue);
         }
-        Data *place = room->next;
-        const auto left = static_cast<std::size_t>(room->end - place);
-        data.m_content.children = place;
-        data.m_size = static_cast<std::uint32_t>(std::min(count, left));
-        if (count > left)
-            return refuse("An element is longer than the group that it is in");
-        room->next += count;
-        Element child;
-        for (; inner.next(child); ++place)
-            readInto(inner, child, *place, room);
-        return;
-    }
-    case Data::Kind::Boolean:
-        setNumber(reader.boolean(element) ? 1U : 0U);
-        return;
-    case Data::Kind::Integer:
-        setNumber(static_cast<std::uint64_t>(reader.integer(element)));
-        return;
-    case Data::Kind::Unsigned:
-    case Data::Kind::Bcd:
-        setNumber(reader.unsignedInteger(element));
-        return;
-    case Data::Kind::FloatingPoint:
-        if (content.size() == 5 && content[0] == floatExponentWidth) {
-            setNumber(bigEndian(content.subspan(1, 4)));
-            data.m_width = 32;
-        } else if (content.size() == 9 && content[0] == doubleExponentWidth) {
-            setNumber(bigEndian(content.subspan(1, 8)));
-            data.m_width = 64;
-        } else {
-            refuse("A floating-point number has neither 32 nor 64 bits");
+
+        [[gnu::noinline]] static void group(Reader &reader, const Element &element, Data &data,
+                                            Room *room)
+        {
+            const auto kind = static_cast<Data::Kind>(element.tag.number());
+            if (kind != Data::Kind::Structure && kind != Data::Kind::Array) {
+                reader.input().fail(noValue, element.offset);
+                return;
+            }
+            Reader inner = reader.enter(element);
+            data.m_kind = kind;
+            const std::size_t count = inner.countAhead();
+            if (count == 0)
+                return;
+            Room own;
+            data.m_isBorrowed = room != nullptr;
+            if (!room) {
+                const auto quick = countNestedQuickly(element.content);
+                const std::size_t all = quick ? *quick : countNested(inner);
+                if (!inner.allow(all))
+                    return;
+                own.next = new Data[all];
+                own.end = own.next + all;
+                room = &own;
+            }
+            Data *place = room->next;
+            const auto left = static_cast<std::size_t>(room->end - place);
+            data.m_content.children = place;
+            data.m_size = static_cast<std::uint32_t>(std::min(count, left));
+            if (count > left) {
+                inner.input().fail("An element is longer than the group that it is in",
+                                   element.offset);
+                return;
+            }
+            room->next += count;
+            Element child;
+            for (; inner.next(child); ++place) {
+                if (!child.tag.isContext())
+                    inner.input().fail(noValue, child.offset);
+                else if (child.tag.isConstructed())
+                    group(inner, child, *place, room);
+                else
+                    leaf(inner, child, *place);
+            }
         }
-        return;
-    case Data::Kind::BitString:
-    case Data::Kind::BooleanArray: {
-        if (content.empty() || content[0] > 7 || (content.size() == 1 && content[0] != 0))
-            return refuse("A bit string does not say how many of its bits count");
-        const std::size_t size = (content.size() - 1) * 8 - content[0];
-        std::uint8_t *const place = data.makeRoom(kind, size);
-        const std::size_t octets = content.size() - 1;
-        if (octets == 0)
-            return;
-        std::memcpy(place, content.data() + 1, octets);
-        place[octets - 1] =
-            static_cast<std::uint8_t>(place[octets - 1] & (0xFFU << content[0] & 0xFFU));
-        return;
-    }
-    case Data::Kind::BinaryTime:
-        if (content.size() != 4 && content.size() != 6)
-            return refuse("A binary time has neither 4 nor 6 octets");
-        return copyOctets(kind);
-    case Data::Kind::UtcTime:
-        if (content.size() != 8)
-            return refuse("A UTC time has not 8 octets");
-        std::memcpy(data.makeRoom(kind, 8), content.data(), 8);
-        return;
-    case Data::Kind::ObjectIdentifier:
-        (void)reader.objectIdentifier(element);
-        if (!reader.failed())
-            copyOctets(kind);
-        return;
-    case Data::Kind::OctetString:
-    case Data::Kind::VisibleString:
-    case Data::Kind::GeneralizedTime:
-    case Data::Kind::MmsString:
-        return copyOctets(kind);
-    }
-    refuse("An element that is no value stands where a value belongs");
+    };
+
+    if (!element.tag.isContext())
+        reader.input().fail(noValue, element.offset);
+    else if (element.tag.isConstructed())
+        Parts::group(reader, element, data, room);
+    else
+        Parts::leaf(reader, element, data);
 }
 
 Data DataCodec::read(Reader &reader, const Element &element)
