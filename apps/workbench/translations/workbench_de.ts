@@ -801,10 +801,6 @@ Verbindungen: %5</translation>
 <context>
     <name>IedDriver</name>
     <message>
-        <source>This driver does not offer the operation.</source>
-        <translation>Dieser Treiber bietet den Vorgang nicht.</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
@@ -1092,6 +1088,42 @@ Verbindungen: %5</translation>
         <source>%1 (%2 octets)</source>
         <translation>%1 (%2 Oktette)</translation>
     </message>
+    <message>
+        <source>The device has no logical device &quot;%1&quot;.</source>
+        <translation>Das Gerät hat kein logisches Gerät „%1“.</translation>
+    </message>
+    <message>
+        <source>%1 has no setting group control block.</source>
+        <translation>%1 hat keinen Parametersatz-Steuerblock.</translation>
+    </message>
+    <message>
+        <source>%1 has more setting groups than can be counted: %2.</source>
+        <translation>%1 hat mehr Parametersätze, als gezählt werden können: %2.</translation>
+    </message>
+    <message>
+        <source>No setting group of %1 is being edited: select the group to edit first.</source>
+        <translation>Von %1 wird kein Parametersatz geändert: Wählen Sie zuerst den zu ändernden Parametersatz.</translation>
+    </message>
+    <message>
+        <source>Settings are read under SG or SE, not under &quot;%1&quot;.</source>
+        <translation>Parameter werden unter SG oder SE gelesen, nicht unter „%1“.</translation>
+    </message>
+    <message>
+        <source>%1 has no setting %2.</source>
+        <translation>%1 hat keinen Parameter %2.</translation>
+    </message>
+    <message>
+        <source>The device has not answered.</source>
+        <translation>Das Gerät hat nicht geantwortet.</translation>
+    </message>
+    <message>
+        <source>%1. The changes are not confirmed.</source>
+        <translation>%1. Die Änderungen sind nicht bestätigt.</translation>
+    </message>
+    <message>
+        <source>%1 has the setting groups 1 to %2; there is no group %3.</source>
+        <translation>%1 hat die Parametersätze 1 bis %2; einen Parametersatz %3 gibt es nicht.</translation>
+    </message>
 </context>
 <context>
     <name>JournalModel</name>
@@ -1322,7 +1354,7 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>&amp;Add Device…</source>
-        <translation>Gerät &amp;hinzufügen …</translation>
+        <translation>Gerät hin&amp;zufügen …</translation>
     </message>
     <message>
         <source>Changes</source>

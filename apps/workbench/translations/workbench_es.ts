@@ -801,10 +801,6 @@ Conexiones: %5</translation>
 <context>
     <name>IedDriver</name>
     <message>
-        <source>This driver does not offer the operation.</source>
-        <translation>Este controlador no ofrece la operación.</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
@@ -1092,6 +1088,42 @@ Conexiones: %5</translation>
         <source>%1 (%2 octets)</source>
         <translation>%1 (%2 octetos)</translation>
     </message>
+    <message>
+        <source>The device has no logical device &quot;%1&quot;.</source>
+        <translation>El dispositivo no tiene ningún dispositivo lógico «%1».</translation>
+    </message>
+    <message>
+        <source>%1 has no setting group control block.</source>
+        <translation>%1 no tiene bloque de control de grupos de ajustes.</translation>
+    </message>
+    <message>
+        <source>%1 has more setting groups than can be counted: %2.</source>
+        <translation>%1 tiene más grupos de ajustes de los que se pueden contar: %2.</translation>
+    </message>
+    <message>
+        <source>No setting group of %1 is being edited: select the group to edit first.</source>
+        <translation>Ningún grupo de ajustes de %1 está en edición: seleccione primero el grupo en edición.</translation>
+    </message>
+    <message>
+        <source>Settings are read under SG or SE, not under &quot;%1&quot;.</source>
+        <translation>Los ajustes se leen bajo SG o SE, no bajo «%1».</translation>
+    </message>
+    <message>
+        <source>%1 has no setting %2.</source>
+        <translation>%1 no tiene el ajuste %2.</translation>
+    </message>
+    <message>
+        <source>The device has not answered.</source>
+        <translation>El dispositivo no ha respondido.</translation>
+    </message>
+    <message>
+        <source>%1. The changes are not confirmed.</source>
+        <translation>%1. Los cambios no se han confirmado.</translation>
+    </message>
+    <message>
+        <source>%1 has the setting groups 1 to %2; there is no group %3.</source>
+        <translation>%1 tiene los grupos de ajustes 1 a %2; no hay grupo %3.</translation>
+    </message>
 </context>
 <context>
     <name>JournalModel</name>
@@ -1322,7 +1354,7 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>&amp;Add Device…</source>
-        <translation>Añadir &amp;dispositivo…</translation>
+        <translation>Añad&amp;ir dispositivo…</translation>
     </message>
     <message>
         <source>Changes</source>

@@ -801,10 +801,6 @@ Connexions : %5</translation>
 <context>
     <name>IedDriver</name>
     <message>
-        <source>This driver does not offer the operation.</source>
-        <translation>Ce pilote n'offre pas cette opération.</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1 : %2</translation>
     </message>
@@ -1092,6 +1088,42 @@ Connexions : %5</translation>
         <source>%1 (%2 octets)</source>
         <translation>%1 (%2 octets)</translation>
     </message>
+    <message>
+        <source>The device has no logical device &quot;%1&quot;.</source>
+        <translation>L'équipement n'a pas de dispositif logique « %1 ».</translation>
+    </message>
+    <message>
+        <source>%1 has no setting group control block.</source>
+        <translation>%1 n'a pas de bloc de contrôle de groupe de réglages.</translation>
+    </message>
+    <message>
+        <source>%1 has more setting groups than can be counted: %2.</source>
+        <translation>%1 a plus de groupes de réglages que ce qui peut être compté : %2.</translation>
+    </message>
+    <message>
+        <source>No setting group of %1 is being edited: select the group to edit first.</source>
+        <translation>Aucun groupe de réglages de %1 n'est en cours de modification : sélectionnez d'abord le groupe à modifier.</translation>
+    </message>
+    <message>
+        <source>Settings are read under SG or SE, not under &quot;%1&quot;.</source>
+        <translation>Les réglages sont lus sous SG ou SE, pas sous « %1 ».</translation>
+    </message>
+    <message>
+        <source>%1 has no setting %2.</source>
+        <translation>%1 n'a pas de réglage %2.</translation>
+    </message>
+    <message>
+        <source>The device has not answered.</source>
+        <translation>L'équipement n'a pas répondu.</translation>
+    </message>
+    <message>
+        <source>%1. The changes are not confirmed.</source>
+        <translation>%1. Les modifications ne sont pas confirmées.</translation>
+    </message>
+    <message>
+        <source>%1 has the setting groups 1 to %2; there is no group %3.</source>
+        <translation>%1 a les groupes de réglages 1 à %2 ; il n'y a pas de groupe %3.</translation>
+    </message>
 </context>
 <context>
     <name>JournalModel</name>
@@ -1322,7 +1354,7 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>&amp;Add Device…</source>
-        <translation>&amp;Ajouter un équipement…</translation>
+        <translation>A&amp;jouter un équipement…</translation>
     </message>
     <message>
         <source>Changes</source>

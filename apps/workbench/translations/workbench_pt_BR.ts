@@ -801,10 +801,6 @@ Conexões: %5</translation>
 <context>
     <name>IedDriver</name>
     <message>
-        <source>This driver does not offer the operation.</source>
-        <translation>Este driver não oferece a operação.</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
@@ -1092,6 +1088,42 @@ Conexões: %5</translation>
         <source>%1 (%2 octets)</source>
         <translation>%1 (%2 octetos)</translation>
     </message>
+    <message>
+        <source>The device has no logical device &quot;%1&quot;.</source>
+        <translation>O dispositivo não tem o dispositivo lógico “%1”.</translation>
+    </message>
+    <message>
+        <source>%1 has no setting group control block.</source>
+        <translation>%1 não tem bloco de controle de grupos de ajustes.</translation>
+    </message>
+    <message>
+        <source>%1 has more setting groups than can be counted: %2.</source>
+        <translation>%1 tem mais grupos de ajustes do que se pode contar: %2.</translation>
+    </message>
+    <message>
+        <source>No setting group of %1 is being edited: select the group to edit first.</source>
+        <translation>Nenhum grupo de ajustes de %1 está em edição: selecione primeiro o grupo em edição.</translation>
+    </message>
+    <message>
+        <source>Settings are read under SG or SE, not under &quot;%1&quot;.</source>
+        <translation>Os ajustes são lidos sob SG ou SE, não sob “%1”.</translation>
+    </message>
+    <message>
+        <source>%1 has no setting %2.</source>
+        <translation>%1 não tem o ajuste %2.</translation>
+    </message>
+    <message>
+        <source>The device has not answered.</source>
+        <translation>O dispositivo não respondeu.</translation>
+    </message>
+    <message>
+        <source>%1. The changes are not confirmed.</source>
+        <translation>%1. As alterações não foram confirmadas.</translation>
+    </message>
+    <message>
+        <source>%1 has the setting groups 1 to %2; there is no group %3.</source>
+        <translation>%1 tem os grupos de ajustes 1 a %2; não há grupo %3.</translation>
+    </message>
 </context>
 <context>
     <name>JournalModel</name>
@@ -1322,7 +1354,7 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>&amp;Add Device…</source>
-        <translation>&amp;Adicionar dispositivo…</translation>
+        <translation>Adi&amp;cionar dispositivo…</translation>
     </message>
     <message>
         <source>Changes</source>

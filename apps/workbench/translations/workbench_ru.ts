@@ -801,10 +801,6 @@ Connections: %5</source>
 <context>
     <name>IedDriver</name>
     <message>
-        <source>This driver does not offer the operation.</source>
-        <translation>Этот драйвер не поддерживает данную операцию.</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
@@ -1091,6 +1087,42 @@ Connections: %5</source>
     <message>
         <source>%1 (%2 octets)</source>
         <translation>%1 (октетов: %2)</translation>
+    </message>
+    <message>
+        <source>The device has no logical device &quot;%1&quot;.</source>
+        <translation>В устройстве нет логического устройства «%1».</translation>
+    </message>
+    <message>
+        <source>%1 has no setting group control block.</source>
+        <translation>В %1 нет блока управления группами уставок.</translation>
+    </message>
+    <message>
+        <source>%1 has more setting groups than can be counted: %2.</source>
+        <translation>%1: групп уставок больше, чем можно сосчитать: %2.</translation>
+    </message>
+    <message>
+        <source>No setting group of %1 is being edited: select the group to edit first.</source>
+        <translation>Ни одна группа уставок %1 не изменяется: сначала выберите изменяемую группу.</translation>
+    </message>
+    <message>
+        <source>Settings are read under SG or SE, not under &quot;%1&quot;.</source>
+        <translation>Уставки читаются под SG или SE, а не под «%1».</translation>
+    </message>
+    <message>
+        <source>%1 has no setting %2.</source>
+        <translation>В %1 нет уставки %2.</translation>
+    </message>
+    <message>
+        <source>The device has not answered.</source>
+        <translation>Устройство не ответило.</translation>
+    </message>
+    <message>
+        <source>%1. The changes are not confirmed.</source>
+        <translation>%1. Изменения не подтверждены.</translation>
+    </message>
+    <message>
+        <source>%1 has the setting groups 1 to %2; there is no group %3.</source>
+        <translation>В %1 группы уставок от 1 до %2; группы %3 нет.</translation>
     </message>
 </context>
 <context>

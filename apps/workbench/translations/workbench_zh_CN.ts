@@ -801,10 +801,6 @@ Connections: %5</source>
 <context>
     <name>IedDriver</name>
     <message>
-        <source>This driver does not offer the operation.</source>
-        <translation>此驱动程序不提供该操作。</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
     </message>
@@ -1091,6 +1087,42 @@ Connections: %5</source>
     <message>
         <source>%1 (%2 octets)</source>
         <translation>%1（%2 个八位字节）</translation>
+    </message>
+    <message>
+        <source>The device has no logical device &quot;%1&quot;.</source>
+        <translation>设备没有逻辑设备“%1”。</translation>
+    </message>
+    <message>
+        <source>%1 has no setting group control block.</source>
+        <translation>%1 没有定值组控制块。</translation>
+    </message>
+    <message>
+        <source>%1 has more setting groups than can be counted: %2.</source>
+        <translation>%1 的定值组数超出可计数范围：%2。</translation>
+    </message>
+    <message>
+        <source>No setting group of %1 is being edited: select the group to edit first.</source>
+        <translation>%1 没有正在编辑的定值组：请先选择编辑定值组。</translation>
+    </message>
+    <message>
+        <source>Settings are read under SG or SE, not under &quot;%1&quot;.</source>
+        <translation>定值在 SG 或 SE 下读取，而不是“%1”。</translation>
+    </message>
+    <message>
+        <source>%1 has no setting %2.</source>
+        <translation>%1 没有定值 %2。</translation>
+    </message>
+    <message>
+        <source>The device has not answered.</source>
+        <translation>设备没有应答。</translation>
+    </message>
+    <message>
+        <source>%1. The changes are not confirmed.</source>
+        <translation>%1。更改未确认。</translation>
+    </message>
+    <message>
+        <source>%1 has the setting groups 1 to %2; there is no group %3.</source>
+        <translation>%1 的定值组为 1 到 %2；没有定值组 %3。</translation>
     </message>
 </context>
 <context>
