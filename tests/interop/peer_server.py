@@ -9,6 +9,7 @@ check are refused.
 import ctypes
 import json
 import sys
+import threading
 import xml.etree.ElementTree as xml
 
 from foreign import (BOOL, BYTE, DOUBLE, FLOAT, I32, I64, INT, POINTER, TEXT, U32, U64, commands,
@@ -227,7 +228,23 @@ class Server:
         self.serve_groups()
         if "password" in options:
             self.ask_password(options["password"])
-        function("IedServer_start", None, POINTER, INT)(self.server, options["port"])
+        # With a thread of its own the foreign server looks for requests every ten milliseconds
+        # only.
+        function("IedServer_startThreadless", None, POINTER, INT)(self.server, options["port"])
+        self.turn = threading.Lock()
+        self.ends = False
+        self.thread = threading.Thread(target=self.serve)
+        self.thread.start()
+
+    def serve(self):
+        wait = function("IedServer_waitReady", INT, POINTER, ctypes.c_uint)
+        process = function("IedServer_processIncomingData", None, POINTER)
+        work = function("IedServer_performPeriodicTasks", None, POINTER)
+        while not self.ends:
+            wait(self.server, 5)
+            with self.turn:
+                process(self.server)
+                work(self.server)
 
     def is_running(self):
         return function("IedServer_isRunning", BOOL, POINTER)(self.server)
@@ -312,6 +329,10 @@ class Server:
             self.server, self.keep(Authenticator(authenticate)), None)
 
     def obey(self, command):
+        with self.turn:
+            return self.answer(command)
+
+    def answer(self, command):
         name = command["do"]
         if name == "set":
             lock_model(self.server)
@@ -326,7 +347,9 @@ class Server:
         raise ValueError(f"no such command: {name}")
 
     def stop(self):
-        function("IedServer_stop", None, POINTER)(self.server)
+        self.ends = True
+        self.thread.join()
+        function("IedServer_stopThreadless", None, POINTER)(self.server)
         function("IedServer_destroy", None, POINTER)(self.server)
 
 
@@ -334,6 +357,7 @@ def main():
     server = Server(json.loads(sys.argv[1]))
     if not server.is_running():
         say({"event": "failed", "reason": "the port cannot be used"})
+        server.stop()
         return 1
     say({"event": "ready", "attributes": len(server.model.attributes)})
     for command in commands():
