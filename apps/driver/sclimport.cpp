@@ -142,11 +142,36 @@ private:
         } else {
             node->attribute = new DataAttribute;
             fillAttribute(source, texts, name, *node->attribute);
+            if (source.isLeaf() && source.node().basicType == scl::BasicType::PhyComAddr)
+                addAddressParts(*node);
         }
         if (!source.isLeaf())
             addChildren(source, node->children);
         m_reference.truncate(length);
         return node;
+    }
+
+    /// SCL has one type for what is a structure on the wire.
+    void addAddressParts(DAO &address)
+    {
+        static const std::pair<const char *, const char *> parts[] = {
+            {"Addr", "Octet6"}, {"PRIORITY", "INT8U"}, {"VID", "INT16U"}, {"APPID", "INT16U"}};
+        DataAttribute &whole = *address.attribute;
+        whole.basicType = shared("Struct");
+        whole.value = QVariant();
+        for (const auto &[name, basicType] : parts) {
+            auto *part = new DAO;
+            part->state = address.state;
+            part->attribute = new DataAttribute;
+            part->attribute->present = whole.present;
+            part->attribute->name = shared(name);
+            part->attribute->fc = whole.fc;
+            part->attribute->basicType = shared(basicType);
+            if (!whole.reference.isEmpty())
+                part->attribute->reference =
+                    whole.reference + QLatin1Char('$') + part->attribute->name;
+            address.children.append(part);
+        }
     }
 
     void fillAttribute(const scl::DataNode &source, const NodeTexts &texts, const QString &name,

@@ -72,12 +72,15 @@ public:
     }
 
 private:
+    static bool isSetting(Fc fc) { return fc == Fc::SG || fc == Fc::SE; }
+
     static std::uint32_t maskOf(std::string_view fc)
     {
         const auto known = acsi::functionalConstraintFrom(fc);
         if (!known)
             return 0;
-        return *known == Fc::SG ? bitOf(Fc::SG) | bitOf(Fc::SE) : bitOf(*known);
+        // What can be edited can be read as it is active, and the other way round.
+        return isSetting(*known) ? bitOf(Fc::SG) | bitOf(Fc::SE) : bitOf(*known);
     }
 
     std::uint32_t constraintsOf(const scl::DataNode &object)
@@ -168,7 +171,7 @@ private:
         draft.node.fc = fc;
         if (node.type && !node.type->cdc.empty())
             draft.node.cdc = keep(m_settings.memory, node.type->cdc);
-        const bool ownSettings = fc == Fc::SE && node.type && hasEditAttributes(*node.type);
+        const bool ownSettings = isSetting(fc) && node.type && hasAttributes(*node.type, fc);
         // What is said of a structure holds for all that is inside it.
         const Trigger outerTriggers = std::exchange(m_triggers, m_triggers | triggersOf(node));
         const bool outerReadOnly = std::exchange(m_readOnly, m_readOnly || isReadOnly(node));
@@ -203,16 +206,17 @@ private:
         return node.valueKind == "RO" || node.valueKind == "Conf";
     }
 
-    static bool hasEditAttributes(const scl::Template &type)
+    static bool hasAttributes(const scl::Template &type, Fc fc)
     {
-        return std::ranges::any_of(type.nodes,
-                                   [](const scl::TemplateNode &node) { return node.fc == "SE"; });
+        return std::ranges::any_of(type.nodes, [fc](const scl::TemplateNode &node) {
+            return node.fc == acsi::toText(fc);
+        });
     }
 
     static bool belongs(std::string_view attribute, Fc fc, bool ownSettings)
     {
         const auto known = acsi::functionalConstraintFrom(attribute);
-        return known == fc || (fc == Fc::SE && known == Fc::SG && !ownSettings);
+        return known == fc || (known && isSetting(*known) && isSetting(fc) && !ownSettings);
     }
 
     LayoutDraft attributeDraft(const scl::DataNode &data, Fc fc)

@@ -15,7 +15,7 @@ bool belongs(const scl::TemplateNode &node, Fc fc)
 {
     if (node.fc.empty() || node.fc == acsi::toText(fc))
         return true;
-    return fc == Fc::SE && node.fc == "SG";
+    return (fc == Fc::SE && node.fc == "SG") || (fc == Fc::SG && node.fc == "SE");
 }
 
 template <typename Visitor>

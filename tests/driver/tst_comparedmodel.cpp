@@ -182,6 +182,13 @@ void tst_ComparedModel::whatAgreesIsMarkedSo()
     QVERIFY(compared.zero()->settingGroup);
     QCOMPARE(compared.zero()->settingGroup->state, 1);
     QCOMPARE(compared.device().logicalDevices.size(), 2);
+    // What the file tells in one word, the device has as a structure.
+    const DataAttribute *network =
+        compared.device().findTag("IEDA/LTRK1$SR$GocbTrk$dstAddress$VID");
+    QVERIFY(network);
+    QCOMPARE(network->basicType, QStringLiteral("INT16U"));
+    // A setting that can be edited is shown as it is in force.
+    QVERIFY(compared.device().findTag("IEDA/PTOC1$SG$OpDlTmms$setVal"));
 }
 
 void tst_ComparedModel::absentLogicalDevicesAndNodesAreShown()

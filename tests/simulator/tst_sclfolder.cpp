@@ -94,12 +94,15 @@ Leaves describedLeaves(const scl::LogicalNode &node)
     node.forEachDataObject([&leaves](const scl::DataNode &object) {
         addDescribed(object, "$" + std::string(object.name()), leaves);
     });
-    Leaves edited;
+    // A setting is served as it is active and as it is edited.
+    Leaves others;
     for (const auto &[path, type] : leaves) {
         if (path.starts_with("SG$"))
-            edited["SE" + path.substr(2)] = type;
+            others["SE" + path.substr(2)] = type;
+        else if (path.starts_with("SE$"))
+            others["SG" + path.substr(2)] = type;
     }
-    leaves.merge(edited);
+    leaves.merge(others);
     return leaves;
 }
 
