@@ -262,6 +262,18 @@ void DeviceDialog::showFaults(const QStringList &faults)
 {
     m_ui->faults->setText(faults.join(QLatin1Char('\n')));
     m_ui->faultsFrame->setVisible(!faults.isEmpty());
+    makeRoom();
+}
+
+/// Sentences that were not there before must not squeeze the fields.
+void DeviceDialog::makeRoom()
+{
+    m_ui->faultsLayout->activate();
+    m_ui->faultsFrame->updateGeometry();
+    layout()->activate();
+    const int needed = layout()->totalHeightForWidth(width());
+    if (needed > height())
+        resize(width(), needed);
 }
 
 void DeviceDialog::accept()
@@ -303,17 +315,18 @@ void DeviceDialog::testConnection()
 void DeviceDialog::showTestResult(const IedDriver::TestResult &result)
 {
     m_ui->test->setEnabled(true);
-    if (!result.error.isEmpty()) {
-        m_ui->testResult->setText(result.error);
-        return;
+    QString text = result.error;
+    if (text.isEmpty()) {
+        QStringList identity{result.vendor, result.model, result.revision};
+        identity.removeAll(QString());
+        const QLocale locale;
+        text = tr("Connected to %1. Round trip: %2 ms; logical devices: %3")
+                   .arg(identity.isEmpty() ? tr("a device that does not say what it is")
+                                           : identity.join(QStringLiteral(", ")),
+                        locale.toString(static_cast<double>(result.roundTrip.count()) / 1000.0,
+                                        'f', 1),
+                        locale.toString(result.logicalDevices));
     }
-    QStringList identity{result.vendor, result.model, result.revision};
-    identity.removeAll(QString());
-    const QLocale locale;
-    m_ui->testResult->setText(
-        tr("Connected to %1. Round trip: %2 ms; logical devices: %3")
-            .arg(identity.isEmpty() ? tr("a device that does not say what it is")
-                                    : identity.join(QStringLiteral(", ")),
-                 locale.toString(static_cast<double>(result.roundTrip.count()) / 1000.0, 'f', 1),
-                 locale.toString(result.logicalDevices)));
+    m_ui->testResult->setText(text);
+    makeRoom();
 }

@@ -51,6 +51,7 @@ private:
     QLineEdit *field(const QString &name) const;
     QStringList currentFaults() const;
     void showFaults(const QStringList &faults);
+    void makeRoom();
     void testConnection();
     void showTestResult(const IedDriver::TestResult &result);
 

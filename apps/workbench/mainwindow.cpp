@@ -190,11 +190,14 @@ void MainWindow::setUpViews()
     setWidth(changesHeader, ChangeJournal::TimeColumn, 110);
     setWidth(changesHeader, ChangeJournal::DeviceColumn, 120);
     setWidth(changesHeader, ChangeJournal::OperationColumn, 130);
-    setWidth(changesHeader, ChangeJournal::ReferenceColumn, 230);
+    setWidth(changesHeader, ChangeJournal::ReferenceColumn, 210);
     setWidth(changesHeader, ChangeJournal::OldValueColumn, 90);
     setWidth(changesHeader, ChangeJournal::NewValueColumn, 90);
     setWidth(changesHeader, ChangeJournal::CauseColumn, 130);
     changesHeader->setStretchLastSection(false);
+    // What stretches must not vanish where the others need more room.
+    changesHeader->setMinimumSectionSize(
+        qMax(90, changesHeader->sectionSizeHint(ChangeJournal::ResultColumn)));
     changesHeader->setSectionResizeMode(ChangeJournal::ResultColumn, QHeaderView::Stretch);
     followNewest(changes);
 

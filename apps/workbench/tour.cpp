@@ -2,10 +2,7 @@
 #include "tour.h"
 
 #include "mainwindow.h"
-#include "rehearsaldriverservice.h"
 #include "workbench.h"
-
-#include <remoteclient/driverserviceregistry.h>
 
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QDir>
@@ -98,23 +95,6 @@ private:
     std::function<void(QWidget *)> m_visit;
     QWidgetList m_visited; ///< at the moment; a visit may open a further window
     QTimer m_poll;
-};
-
-/// The driver that the tools talk to is replaced by a rehearsal as long as this lives.
-class RehearsalInPlace
-{
-public:
-    explicit RehearsalInPlace(const QByteArray &model)
-        : m_replaced(DriverServiceRegistry::find(EmbeddedConsole::address))
-    {
-        DriverServiceRegistry::add(EmbeddedConsole::address,
-                                   std::make_shared<RehearsalDriverService>(model));
-    }
-    ~RehearsalInPlace() { DriverServiceRegistry::add(EmbeddedConsole::address, m_replaced); }
-    Q_DISABLE_COPY(RehearsalInPlace)
-
-private:
-    std::shared_ptr<DriverService> m_replaced;
 };
 
 QWidget *visibleWindow(const QString &objectName)
@@ -213,8 +193,7 @@ bool Tour::showWithoutConnection()
     const bool shown = openBrowser() &&
                        showSettingGroups(QStringLiteral("OfflineSGCB"),
                                          QStringLiteral("offline-setting-groups")) &&
-                       showReportControl(QStringLiteral("offline-report-control")) &&
-                       showWorkbench();
+                       showReportControl(QStringLiteral("offline-report-control"));
     if (m_tree)
         m_tree->window()->close();
     return shown;
@@ -222,13 +201,8 @@ bool Tour::showWithoutConnection()
 
 bool Tour::showConnected()
 {
-    QByteArray model;
-    QString error;
-    const auto driver = DriverServiceRegistry::find(EmbeddedConsole::address);
-    if (driver->getIEDModel(m_device, model, error) != OperationSucceeded)
-        return fail(error);
-    const RehearsalInPlace rehearsal(model);
-    m_window.selectDevice(m_device);
+    if (!connectDevice())
+        return false;
     const bool shown =
         openBrowser() && showBrowser() && showContextMenu() && showFunctionalConstraint() &&
         showControl() && showDataSetMembers() &&
@@ -237,7 +211,7 @@ bool Tour::showConnected()
         showFileService();
     if (m_tree)
         m_tree->window()->close();
-    return shown;
+    return shown && showWorkbench();
 }
 
 bool Tour::openDevices()
@@ -259,6 +233,20 @@ bool Tour::openDevices()
         return fail(Texts::tr("The second device cannot be read."));
     m_window.selectDevice(m_device);
     return true;
+}
+
+bool Tour::connectDevice()
+{
+    m_workbench.openDemonstration();
+    const DeviceListModel &devices = m_workbench.devices();
+    const auto isOnline = [this, &devices] {
+        m_device = m_window.selectedDevice();
+        const DeviceListModel::Device *device = devices.device(m_device);
+        return device && device->record.simulated && device->isUsable() &&
+               device->status.counters.publishedValues > 0;
+    };
+    return waitFor(isOnline) ||
+           fail(Texts::tr("The simulated device was not connected in time."));
 }
 
 /// The tool's action; null, and the tour has failed, when the plug-in does not offer it.
@@ -457,16 +445,6 @@ bool Tour::showFileService()
 
 bool Tour::showWorkbench()
 {
-    // One call that a device without a connection refuses, for the journal to show.
-    if (QAction *fileService = tool(1)) {
-        const ModalAttendant attendant([](QWidget *) {});
-        fileService->trigger();
-    }
-    const DeviceListModel &devices = m_workbench.devices();
-    for (int row = 0; row < devices.rowCount(); ++row) {
-        if (devices.deviceAt(row)->record.number() != m_device)
-            m_window.selectDevice(devices.deviceAt(row)->record.number());
-    }
     m_window.raise();
     m_window.activateWindow();
     const auto &journal = m_workbench.journal();

@@ -16,10 +16,9 @@ class QWidget;
 class Workbench;
 
 /// Opens the demonstration device and each tool in turn, the way an operator does, and saves a
-/// picture of every window: first without a connection, as the workbench has the device, then on a
-/// RehearsalDriverService, so that the tools for connected devices are seen too. Tool windows are
-/// found by their object names, since the extension is loaded and not linked. Runs its own event
-/// loops; GUI thread.
+/// picture of every window: first without a connection, with the model of the SCL file, then
+/// connected to the simulated device. Tool windows are found by their object names, since the
+/// extension is loaded and not linked. Runs its own event loops; GUI thread.
 class Tour
 {
 public:
@@ -43,6 +42,7 @@ private:
     bool openDevices();
     bool showWithoutConnection();
     bool showConnected();
+    bool connectDevice();
 
     bool openBrowser();
     bool showBrowser();
@@ -68,7 +68,7 @@ private:
     MainWindow &m_window;
     const QString m_folder;
     const QTemporaryDir m_files; ///< holds an SCL file of the tour's own
-    int m_device = 0;            ///< number of the demonstration device
+    int m_device = 0;            ///< number of the device that is shown
     QTreeView *m_tree = nullptr; ///< of the browser; lives as long as its window is open
     Witness m_witness;
     QString m_problem;
