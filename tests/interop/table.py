@@ -11,10 +11,21 @@ import re
 import sys
 
 NOT_THERE = 77
-COLUMNS = (("our client, foreign server", ("foreign-server", "foreign-server-acsi")),
-           ("foreign client, our simulated IED", ("foreign-client",)))
-ROWS = pathlib.Path(__file__).with_name("rows.txt")
-REQUIREMENTS = ROWS.with_name("requirements.txt")
+HERE = pathlib.Path(__file__).parent
+REQUIREMENTS = HERE / "requirements.txt"
+# Heading of a table's first column, file of its rows, its columns with the results they come from.
+SERVICES = ("service", HERE / "rows.txt",
+            (("our client, foreign server", ("foreign-server", "foreign-server-acsi")),
+             ("foreign client, our simulated IED", ("foreign-client",))))
+DIALOGS = ("job of an operator", HERE / "dialogrows.txt",
+           (("our simulated IED", ("dialogs-simulator",)),
+            ("foreign server", ("dialogs-foreign-server",))))
+DIALOGS_HEAD = """
+## Through the menus and dialogs of the plug-in
+
+The plug-in in a host, on the driver, with hands on mouse and keyboard.
+
+"""
 HEAD = """# Interoperability
 
 Every service is tried in both directions with a stack that others wrote: the client and the server
@@ -34,41 +45,48 @@ def head():
     return HEAD.format(peer=peer, version=version)
 
 
-def read_rows():
-    lines = ROWS.read_text(encoding="utf-8").splitlines()
+def read_rows(path):
+    lines = path.read_text(encoding="utf-8").splitlines()
     return [line for line in lines if line and not line.startswith("#")]
 
 
-def table(results):
-    rows = read_rows()
-    unknown = [name for column in results.values() for name in column if name not in rows]
-    if unknown:
-        raise SystemExit(f"rows.txt does not have: {', '.join(sorted(set(unknown)))}")
-    for row in rows:
-        if not any(row in column for column in results.values()):
-            raise SystemExit(f"no test has the row: {row}")
-    heads = [title for title, _ in COLUMNS]
-    lines = ["| service | " + " | ".join(heads) + " |", "|---" * (len(heads) + 1) + "|"]
-    for row in rows:
-        cells = [results[title].get(row, "–").replace("|", "\\|") for title in heads]
-        lines.append(f"| {row} | " + " | ".join(cells) + " |")
-    return head() + "\n".join(lines) + "\n"
-
-
-def main():
-    folder, document = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
+def read_results(folder, columns):
     results = {}
-    for title, names in COLUMNS:
+    for title, names in columns:
         results[title] = {}
         for name in names:
             path = folder / f"{name}.json"
             if not path.exists():
                 print(f"The foreign peer is not there: no results of {name}.")
-                return NOT_THERE
+                sys.exit(NOT_THERE)
             results[title].update(json.loads(path.read_text(encoding="utf-8")))
-    fresh = table(results)
-    failed = [row for column in results.values() for row, result in column.items()
-              if result == "FAILED"]
+    return results
+
+
+def table(kind, rows, results):
+    unknown = [name for column in results.values() for name in column if name not in rows]
+    if unknown:
+        raise SystemExit(f"no rows are kept for: {', '.join(sorted(set(unknown)))}")
+    for row in rows:
+        if not any(row in column for column in results.values()):
+            raise SystemExit(f"no test has the row: {row}")
+    lines = [f"| {kind} | " + " | ".join(results) + " |", "|---" * (len(results) + 1) + "|"]
+    for row in rows:
+        cells = [column.get(row, "–").replace("|", "\\|") for column in results.values()]
+        lines.append(f"| {row} | " + " | ".join(cells) + " |")
+    return "\n".join(lines) + "\n"
+
+
+def main():
+    folder, document = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
+    parts, count, failed = [], 0, []
+    for kind, path, columns in (SERVICES, DIALOGS):
+        rows, results = read_rows(path), read_results(folder, columns)
+        parts.append(table(kind, rows, results))
+        count += len(rows)
+        failed += [row for column in results.values() for row, result in column.items()
+                   if result == "FAILED"]
+    fresh = head() + parts[0] + DIALOGS_HEAD + parts[1]
     if failed:
         print("Failed: " + ", ".join(failed))
         return 1
@@ -76,7 +94,7 @@ def main():
         document.write_text(fresh, encoding="utf-8")
     committed = document.read_text(encoding="utf-8") if document.exists() else ""
     if committed == fresh:
-        print(f"{len(read_rows())} rows agree with the document.")
+        print(f"{count} rows agree with the document.")
         return 0
     for line in fresh.splitlines():
         if line not in committed.splitlines():
