@@ -1696,6 +1696,10 @@ Apache License 2.0</translation>
         <source>The picture &quot;%1&quot; cannot be saved.</source>
         <translation>Das Bild „%1“ kann nicht gespeichert werden.</translation>
     </message>
+    <message>
+        <source>The simulated device was not connected in time.</source>
+        <translation>Die Verbindung mit dem simulierten Gerät kam nicht rechtzeitig zustande.</translation>
+    </message>
 </context>
 <context>
     <name>TraceDialog</name>

@@ -1696,6 +1696,10 @@ Apache License 2.0</translation>
         <source>The picture &quot;%1&quot; cannot be saved.</source>
         <translation>No se puede guardar la imagen «%1».</translation>
     </message>
+    <message>
+        <source>The simulated device was not connected in time.</source>
+        <translation>El dispositivo simulado no se ha conectado a tiempo.</translation>
+    </message>
 </context>
 <context>
     <name>TraceDialog</name>

@@ -1696,6 +1696,10 @@ Apache License 2.0</translation>
         <source>The picture &quot;%1&quot; cannot be saved.</source>
         <translation>L'image « %1 » ne peut pas être enregistrée.</translation>
     </message>
+    <message>
+        <source>The simulated device was not connected in time.</source>
+        <translation>L'équipement simulé n'a pas été connecté à temps.</translation>
+    </message>
 </context>
 <context>
     <name>TraceDialog</name>

@@ -1696,6 +1696,10 @@ Apache License 2.0</translation>
         <source>The picture &quot;%1&quot; cannot be saved.</source>
         <translation>A imagem “%1” não pode ser salva.</translation>
     </message>
+    <message>
+        <source>The simulated device was not connected in time.</source>
+        <translation>O dispositivo simulado não foi conectado a tempo.</translation>
+    </message>
 </context>
 <context>
     <name>TraceDialog</name>

@@ -1696,6 +1696,10 @@ Apache License 2.0</translation>
         <source>The picture &quot;%1&quot; cannot be saved.</source>
         <translation>Снимок «%1» не удаётся сохранить.</translation>
     </message>
+    <message>
+        <source>The simulated device was not connected in time.</source>
+        <translation>Связь с имитируемым устройством не установлена вовремя.</translation>
+    </message>
 </context>
 <context>
     <name>TraceDialog</name>

@@ -1696,6 +1696,10 @@ Apache License 2.0</translation>
         <source>The picture &quot;%1&quot; cannot be saved.</source>
         <translation>无法保存图片“%1”。</translation>
     </message>
+    <message>
+        <source>The simulated device was not connected in time.</source>
+        <translation>未能及时连接仿真设备。</translation>
+    </message>
 </context>
 <context>
     <name>TraceDialog</name>
