@@ -316,7 +316,7 @@ void MainWindow::setUpStatusBar()
         if (m_loadIsSlow)
             m_workbench.loader().cancel();
         else if (const DeviceListModel::Device *device = readingDevice(m_workbench.devices()))
-            m_workbench.disconnectDevice(device->record.number());
+            m_workbench.driver().cancelReading(device->record.number());
     });
     connect(&m_workbench.changes(), &ChangeJournal::problemChanged, this,
             [this] { statusBar()->showMessage(m_workbench.changes().problem()); });

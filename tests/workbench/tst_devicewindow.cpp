@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The window of the workbench with a device that is reached over MMS on the loopback interface.
+#include "driver/simulatedstation.h"
+
 #include "workbench/devicedialog.h"
 #include "workbench/embeddeddriver.h"
 #include "workbench/mainwindow.h"
@@ -19,9 +21,11 @@
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMessageBox>
+#include <QtWidgets/QProgressBar>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSpinBox>
+#include <QtWidgets/QToolButton>
 #include <QtWidgets/QTreeWidget>
 
 class tst_DeviceWindow : public QObject
@@ -34,6 +38,7 @@ private slots:
 
     void theToolsAreOfferedOnceTheModelIsThere();
     void connectAndDisconnectAreOfferedInTurn();
+    void readingAModelShowsProgressAndCanBeCancelled();
     void aSimulationIsStoppedAndStartedFromTheMenu();
     void aSimulatedDeviceIsStartedFromAFile();
     void severalIedsOfAFileAreSimulatedAsChosen();
@@ -128,6 +133,30 @@ void tst_DeviceWindow::connectAndDisconnectAreOfferedInTurn()
     action("actionConnect")->trigger();
     QTRY_VERIFY(isOnline());
     QVERIFY(m_window->extensionActions().first()->isEnabled());
+}
+
+void tst_DeviceWindow::readingAModelShowsProgressAndCanBeCancelled()
+{
+    drivertest::SimulatedIed ied(":/workbench/demonstration.scd", {},
+                                 "delay 200ms on getVariableAccessAttributes\n");
+    DeviceRecord record;
+    record.configuration = drivertest::configurationFor(ied, 0);
+    record.configuration.outstandingCalls = 1;
+    QVERIFY(m_workbench->put(record).isEmpty());
+    auto *bar = child<QProgressBar>("loadingProgress");
+    QTRY_VERIFY(bar->isVisible());
+    const auto state = [this] {
+        return m_workbench->devices().index(0, DeviceListModel::StateColumn).data().toString();
+    };
+    QVERIFY2(state().startsWith("Reading the model"), qPrintable(state()));
+    QVERIFY(!m_window->extensionActions().first()->isEnabled());
+    const int before = bar->value();
+    QTRY_VERIFY(bar->value() > before);
+    child<QToolButton>("cancelLoading")->click();
+    QTRY_COMPARE(m_workbench->devices().device(1)->status.state, DeviceState::Disconnected);
+    QVERIFY2(state().contains("cancelled"), qPrintable(state()));
+    QVERIFY(!bar->isVisible());
+    QVERIFY(m_workbench->devices().device(1)->record.connects);
 }
 
 void tst_DeviceWindow::aSimulationIsStoppedAndStartedFromTheMenu()

@@ -25,10 +25,13 @@ private slots:
     void everyCallOfTheBrowserIsInTheJournal();
     void theWindowCanCloseWhileBrowsersAreOpen();
     void aBrowserOutlivesItsDeviceInTheList();
+    void valuesMoveInTheBrowserOfAConnectedDevice();
 
 private:
     QWidgetList browsers() const;
     QString shownDevice(QWidget *browser) const;
+    static QModelIndex findNode(const QAbstractItemModel &model, const QString &name,
+                                const QModelIndex &below);
 
     QTemporaryDir m_folder;
     std::unique_ptr<Workbench> m_workbench;
@@ -128,6 +131,47 @@ void tst_HostedPlugin::aBrowserOutlivesItsDeviceInTheList()
     QCOMPARE(m_workbench->devices().rowCount(), 0);
     QVERIFY(!m_window->extensionActions().first()->isEnabled());
     QCOMPARE(shownDevice(browsers().first()), QStringLiteral("FEEDER2"));
+}
+
+QModelIndex tst_HostedPlugin::findNode(const QAbstractItemModel &model, const QString &name,
+                                       const QModelIndex &below)
+{
+    for (int row = 0; row < model.rowCount(below); ++row) {
+        const QModelIndex child = model.index(row, 0, below);
+        if (child.data().toString() == name)
+            return child;
+        if (const QModelIndex found = findNode(model, name, child); found.isValid())
+            return found;
+    }
+    return {};
+}
+
+void tst_HostedPlugin::valuesMoveInTheBrowserOfAConnectedDevice()
+{
+    m_workbench->simulate(QStringLiteral(DEMONSTRATION_FILE));
+    const auto isUsable = [this] {
+        const DeviceListModel::Device *device =
+            m_workbench->devices().device(m_window->selectedDevice());
+        return device && device->record.simulated && device->isUsable();
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(isUsable(), 20000);
+    m_window->extensionActions().first()->trigger();
+    QTRY_COMPARE(browsers().size(), 1);
+    const auto *tree = browsers().first()->findChild<QTreeView *>(QStringLiteral("modelView"));
+    QVERIFY(tree);
+    const QAbstractItemModel &model = *tree->model();
+    const QModelIndex power = findNode(model, QStringLiteral("TotW"), model.index(0, 0));
+    const QModelIndex number = findNode(model, QStringLiteral("f"), power);
+    QVERIFY(number.isValid());
+    QStringList seen;
+    const auto changes = [&] {
+        for (int column = 1; column < model.columnCount(number.parent()); ++column)
+            seen << number.sibling(number.row(), column).data().toString();
+        seen.removeDuplicates();
+        return seen.size();
+    };
+    const int atFirst = changes();
+    QTRY_VERIFY_WITH_TIMEOUT(changes() > atFirst + 1, 20000);
 }
 
 QTEST_MAIN(tst_HostedPlugin)
