@@ -1527,61 +1527,6 @@ Apache License 2.0</translation>
     </message>
 </context>
 <context>
-    <name>RehearsalDriverService</name>
-    <message>
-        <source>There is no logical device &quot;%1&quot;.</source>
-        <translation>Es gibt kein logisches Gerät „%1“.</translation>
-    </message>
-    <message>
-        <source>There is nothing at &quot;%1&quot;.</source>
-        <translation>Unter „%1“ gibt es nichts.</translation>
-    </message>
-    <message>
-        <source>There is no data set &quot;%1&quot;.</source>
-        <translation>Es gibt keinen Datensatz „%1“.</translation>
-    </message>
-    <message>
-        <source>The control request cannot be read.</source>
-        <translation>Die Steueranforderung kann nicht gelesen werden.</translation>
-    </message>
-    <message>
-        <source>There is no file &quot;%1&quot;.</source>
-        <translation>Es gibt keine Datei „%1“.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; cannot be read: %2</source>
-        <translation>Die Datei „%1“ kann nicht gelesen werden: %2</translation>
-    </message>
-    <message>
-        <source>No setting group is selected for editing.</source>
-        <translation>Es ist kein Parametersatz zum Ändern gewählt.</translation>
-    </message>
-    <message>
-        <source>There is no setting group %1.</source>
-        <translation>Es gibt keinen Parametersatz %1.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has no setting groups.</source>
-        <translation>„%1“ hat keine Parametersätze.</translation>
-    </message>
-    <message>
-        <source>There is no report control block &quot;%1&quot;.</source>
-        <translation>Es gibt keinen Report-Steuerblock „%1“.</translation>
-    </message>
-    <message>
-        <source>There is no such attribute.</source>
-        <translation>Ein solches Attribut gibt es nicht.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no value of the type %2.</source>
-        <translation>„%1“ ist kein Wert des Typs %2.</translation>
-    </message>
-    <message>
-        <source>The values cannot be published.</source>
-        <translation>Die Werte können nicht veröffentlicht werden.</translation>
-    </message>
-</context>
-<context>
     <name>SclImport</name>
     <message>
         <source>The file &quot;%1&quot; cannot be opened: %2.</source>

@@ -1527,61 +1527,6 @@ Apache License 2.0</translation>
     </message>
 </context>
 <context>
-    <name>RehearsalDriverService</name>
-    <message>
-        <source>There is no logical device &quot;%1&quot;.</source>
-        <translation>No hay ningún dispositivo lógico «%1».</translation>
-    </message>
-    <message>
-        <source>There is nothing at &quot;%1&quot;.</source>
-        <translation>No hay nada en «%1».</translation>
-    </message>
-    <message>
-        <source>There is no data set &quot;%1&quot;.</source>
-        <translation>No hay ningún conjunto de datos «%1».</translation>
-    </message>
-    <message>
-        <source>The control request cannot be read.</source>
-        <translation>No se puede leer la petición de mando.</translation>
-    </message>
-    <message>
-        <source>There is no file &quot;%1&quot;.</source>
-        <translation>No hay ningún archivo «%1».</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; cannot be read: %2</source>
-        <translation>No se puede leer el archivo «%1»: %2</translation>
-    </message>
-    <message>
-        <source>No setting group is selected for editing.</source>
-        <translation>No hay ningún grupo de ajustes seleccionado para edición.</translation>
-    </message>
-    <message>
-        <source>There is no setting group %1.</source>
-        <translation>No hay ningún grupo de ajustes %1.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has no setting groups.</source>
-        <translation>«%1» no tiene grupos de ajustes.</translation>
-    </message>
-    <message>
-        <source>There is no report control block &quot;%1&quot;.</source>
-        <translation>No hay ningún bloque de control de informes «%1».</translation>
-    </message>
-    <message>
-        <source>There is no such attribute.</source>
-        <translation>No existe ese atributo.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no value of the type %2.</source>
-        <translation>«%1» no es un valor del tipo %2.</translation>
-    </message>
-    <message>
-        <source>The values cannot be published.</source>
-        <translation>No se pueden publicar los valores.</translation>
-    </message>
-</context>
-<context>
     <name>SclImport</name>
     <message>
         <source>The file &quot;%1&quot; cannot be opened: %2.</source>

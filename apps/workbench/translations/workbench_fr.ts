@@ -1527,61 +1527,6 @@ Apache License 2.0</translation>
     </message>
 </context>
 <context>
-    <name>RehearsalDriverService</name>
-    <message>
-        <source>There is no logical device &quot;%1&quot;.</source>
-        <translation>Il n'y a pas de dispositif logique « %1 ».</translation>
-    </message>
-    <message>
-        <source>There is nothing at &quot;%1&quot;.</source>
-        <translation>Il n'y a rien à « %1 ».</translation>
-    </message>
-    <message>
-        <source>There is no data set &quot;%1&quot;.</source>
-        <translation>Il n'y a pas d'ensemble de données « %1 ».</translation>
-    </message>
-    <message>
-        <source>The control request cannot be read.</source>
-        <translation>La requête de commande ne peut pas être lue.</translation>
-    </message>
-    <message>
-        <source>There is no file &quot;%1&quot;.</source>
-        <translation>Il n'y a pas de fichier « %1 ».</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; cannot be read: %2</source>
-        <translation>Le fichier « %1 » ne peut pas être lu : %2</translation>
-    </message>
-    <message>
-        <source>No setting group is selected for editing.</source>
-        <translation>Aucun groupe de réglages n'est sélectionné pour modification.</translation>
-    </message>
-    <message>
-        <source>There is no setting group %1.</source>
-        <translation>Il n'y a pas de groupe de réglages %1.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has no setting groups.</source>
-        <translation>« %1 » n'a pas de groupes de réglages.</translation>
-    </message>
-    <message>
-        <source>There is no report control block &quot;%1&quot;.</source>
-        <translation>Il n'y a pas de bloc de contrôle de rapport « %1 ».</translation>
-    </message>
-    <message>
-        <source>There is no such attribute.</source>
-        <translation>Il n'y a pas de tel attribut.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no value of the type %2.</source>
-        <translation>« %1 » n'est pas une valeur du type %2.</translation>
-    </message>
-    <message>
-        <source>The values cannot be published.</source>
-        <translation>Les valeurs ne peuvent pas être publiées.</translation>
-    </message>
-</context>
-<context>
     <name>SclImport</name>
     <message>
         <source>The file &quot;%1&quot; cannot be opened: %2.</source>

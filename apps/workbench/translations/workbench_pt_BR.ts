@@ -1527,61 +1527,6 @@ Apache License 2.0</translation>
     </message>
 </context>
 <context>
-    <name>RehearsalDriverService</name>
-    <message>
-        <source>There is no logical device &quot;%1&quot;.</source>
-        <translation>Não há dispositivo lógico “%1”.</translation>
-    </message>
-    <message>
-        <source>There is nothing at &quot;%1&quot;.</source>
-        <translation>Não há nada em “%1”.</translation>
-    </message>
-    <message>
-        <source>There is no data set &quot;%1&quot;.</source>
-        <translation>Não há conjunto de dados “%1”.</translation>
-    </message>
-    <message>
-        <source>The control request cannot be read.</source>
-        <translation>A requisição de comando não pode ser lida.</translation>
-    </message>
-    <message>
-        <source>There is no file &quot;%1&quot;.</source>
-        <translation>Não há arquivo “%1”.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; cannot be read: %2</source>
-        <translation>O arquivo “%1” não pode ser lido: %2</translation>
-    </message>
-    <message>
-        <source>No setting group is selected for editing.</source>
-        <translation>Nenhum grupo de ajustes está selecionado para edição.</translation>
-    </message>
-    <message>
-        <source>There is no setting group %1.</source>
-        <translation>Não há grupo de ajustes %1.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has no setting groups.</source>
-        <translation>“%1” não tem grupos de ajustes.</translation>
-    </message>
-    <message>
-        <source>There is no report control block &quot;%1&quot;.</source>
-        <translation>Não há bloco de controle de relatório “%1”.</translation>
-    </message>
-    <message>
-        <source>There is no such attribute.</source>
-        <translation>Esse atributo não existe.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no value of the type %2.</source>
-        <translation>“%1” não é um valor do tipo %2.</translation>
-    </message>
-    <message>
-        <source>The values cannot be published.</source>
-        <translation>Os valores não podem ser publicados.</translation>
-    </message>
-</context>
-<context>
     <name>SclImport</name>
     <message>
         <source>The file &quot;%1&quot; cannot be opened: %2.</source>

@@ -1527,61 +1527,6 @@ Apache License 2.0</translation>
     </message>
 </context>
 <context>
-    <name>RehearsalDriverService</name>
-    <message>
-        <source>There is no logical device &quot;%1&quot;.</source>
-        <translation>Логического устройства «%1» нет.</translation>
-    </message>
-    <message>
-        <source>There is nothing at &quot;%1&quot;.</source>
-        <translation>По ссылке «%1» ничего нет.</translation>
-    </message>
-    <message>
-        <source>There is no data set &quot;%1&quot;.</source>
-        <translation>Набора данных «%1» нет.</translation>
-    </message>
-    <message>
-        <source>The control request cannot be read.</source>
-        <translation>Запрос управления не читается.</translation>
-    </message>
-    <message>
-        <source>There is no file &quot;%1&quot;.</source>
-        <translation>Файла «%1» нет.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; cannot be read: %2</source>
-        <translation>Файл «%1» не читается: %2</translation>
-    </message>
-    <message>
-        <source>No setting group is selected for editing.</source>
-        <translation>Группа уставок для изменения не выбрана.</translation>
-    </message>
-    <message>
-        <source>There is no setting group %1.</source>
-        <translation>Группы уставок %1 нет.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has no setting groups.</source>
-        <translation>В «%1» нет групп уставок.</translation>
-    </message>
-    <message>
-        <source>There is no report control block &quot;%1&quot;.</source>
-        <translation>Блока управления отчётом «%1» нет.</translation>
-    </message>
-    <message>
-        <source>There is no such attribute.</source>
-        <translation>Такого атрибута нет.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no value of the type %2.</source>
-        <translation>«%1» не является значением типа %2.</translation>
-    </message>
-    <message>
-        <source>The values cannot be published.</source>
-        <translation>Значения не удаётся опубликовать.</translation>
-    </message>
-</context>
-<context>
     <name>SclImport</name>
     <message>
         <source>The file &quot;%1&quot; cannot be opened: %2.</source>

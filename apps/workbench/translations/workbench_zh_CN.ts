@@ -1527,61 +1527,6 @@ Apache License 2.0</translation>
     </message>
 </context>
 <context>
-    <name>RehearsalDriverService</name>
-    <message>
-        <source>There is no logical device &quot;%1&quot;.</source>
-        <translation>没有逻辑设备“%1”。</translation>
-    </message>
-    <message>
-        <source>There is nothing at &quot;%1&quot;.</source>
-        <translation>“%1”处没有任何内容。</translation>
-    </message>
-    <message>
-        <source>There is no data set &quot;%1&quot;.</source>
-        <translation>没有数据集“%1”。</translation>
-    </message>
-    <message>
-        <source>The control request cannot be read.</source>
-        <translation>无法读取控制请求。</translation>
-    </message>
-    <message>
-        <source>There is no file &quot;%1&quot;.</source>
-        <translation>没有文件“%1”。</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; cannot be read: %2</source>
-        <translation>无法读取文件“%1”：%2</translation>
-    </message>
-    <message>
-        <source>No setting group is selected for editing.</source>
-        <translation>未选择要编辑的定值组。</translation>
-    </message>
-    <message>
-        <source>There is no setting group %1.</source>
-        <translation>没有定值组 %1。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has no setting groups.</source>
-        <translation>“%1”没有定值组。</translation>
-    </message>
-    <message>
-        <source>There is no report control block &quot;%1&quot;.</source>
-        <translation>没有报告控制块“%1”。</translation>
-    </message>
-    <message>
-        <source>There is no such attribute.</source>
-        <translation>没有此属性。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no value of the type %2.</source>
-        <translation>“%1”不是类型 %2 的值。</translation>
-    </message>
-    <message>
-        <source>The values cannot be published.</source>
-        <translation>无法发布这些值。</translation>
-    </message>
-</context>
-<context>
     <name>SclImport</name>
     <message>
         <source>The file &quot;%1&quot; cannot be opened: %2.</source>
