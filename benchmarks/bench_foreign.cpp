@@ -43,8 +43,6 @@ public:
         m_client = std::make_unique<interop::ForeignPeer>("peer_client.py", QStringList());
         if (!m_server->peer().isReady() || !m_client->isReady())
             throw std::runtime_error("the foreign stack does not start");
-        theirs("connect", {{"port", m_server->port()}, {"filestore", m_folder.path() + '/'}});
-        m_ours = m_loop.connect(m_server->port());
     }
 
     /// What the foreign client answers; seconds in most cases.
@@ -56,6 +54,29 @@ public:
         return answer.toDouble();
     }
 
+    /// Only one is connected at a time: the foreign server waits on connections in turn.
+    template <typename Ours>
+    double timeOurs(Ours ours)
+    {
+        awaitNoConnection();
+        m_ours = m_loop.connect(m_server->port());
+        const auto start = std::chrono::steady_clock::now();
+        ours();
+        const double seconds = secondsSince(start);
+        m_loop.disconnect(m_ours);
+        return seconds;
+    }
+
+    template <typename Theirs>
+    double timeTheirs(Theirs theirSeconds)
+    {
+        awaitNoConnection();
+        theirs("connect", {{"port", m_server->port()}, {"filestore", m_folder.path() + '/'}});
+        const double seconds = theirSeconds();
+        theirs("close", {});
+        return seconds;
+    }
+
     ClientLoop &loop() { return m_loop; }
     const std::shared_ptr<acsi::Client> &client() { return m_ours; }
     /// A file of the server, and one that the foreign client may send.
@@ -63,6 +84,12 @@ public:
     QString own(const QString &name) const { return m_folder.filePath(name); }
 
 private:
+    void awaitNoConnection()
+    {
+        while (m_server->peer().ask("connections").toInt() != 0) {
+        }
+    }
+
     QTemporaryDir m_folder;
     std::unique_ptr<interop::ForeignServer> m_server;
     std::unique_ptr<interop::ForeignPeer> m_client;
@@ -71,16 +98,14 @@ private:
 };
 
 template <typename Ours, typename Theirs>
-void compare(benchmark::State &state, double limit, Ours ours, Theirs theirs)
+void compare(benchmark::State &state, Scene &scene, double limit, Ours ours, Theirs theirs)
 {
     for (auto _ : state) {
         double ourTime = std::numeric_limits<double>::max();
         double theirTime = std::numeric_limits<double>::max();
         for (int i = 0; i < rounds; ++i) {
-            theirTime = std::min(theirTime, theirs());
-            const auto start = std::chrono::steady_clock::now();
-            ours();
-            ourTime = std::min(ourTime, secondsSince(start));
+            theirTime = std::min(theirTime, scene.timeTheirs(theirs));
+            ourTime = std::min(ourTime, scene.timeOurs(ours));
         }
         state.counters["faster"] = theirTime / ourTime;
         state.counters["limit"] = limit;
@@ -147,7 +172,8 @@ void singleReads(benchmark::State &state)
 {
     Scene scene;
     compare(
-        state, 1, [&] { scene.loop().run(scene.client(), readOften(scene.client(), readCount)); },
+        state, scene, 1,
+        [&] { scene.loop().run(scene.client(), readOften(scene.client(), readCount)); },
         [&] { return theirSingleReads(scene); });
 }
 BENCHMARK(singleReads)->Iterations(1)->Unit(benchmark::kMillisecond);
@@ -157,7 +183,7 @@ void singleReadsFiveOutstanding(benchmark::State &state)
     constexpr int streams = 5;
     Scene scene;
     compare(
-        state, 2,
+        state, scene, 2,
         [&] {
             std::vector<mmstest::Awaited<mms::Result<void>>> running;
             for (int i = 0; i < streams; ++i)
@@ -180,7 +206,7 @@ void hundredReferences(benchmark::State &state)
         items.append(QString::fromStdString(item(i)));
     Scene scene;
     compare(
-        state, 1, [&] { scene.loop().run(scene.client(), readMany(scene.client(), count)); },
+        state, scene, 1, [&] { scene.loop().run(scene.client(), readMany(scene.client(), count)); },
         [&] {
             return scene.theirs("timereadmany",
                                 {{"domain", "GENLD1"}, {"items", items}, {"count", count}});
@@ -193,7 +219,8 @@ void dataSets(benchmark::State &state)
     constexpr int count = 2000;
     Scene scene;
     compare(
-        state, 1, [&] { scene.loop().run(scene.client(), readDataSet(scene.client(), count)); },
+        state, scene, 1,
+        [&] { scene.loop().run(scene.client(), readDataSet(scene.client(), count)); },
         [&] {
             return scene.theirs("timereadlist",
                                 {{"domain", "GENLD1"}, {"name", "LLN0$ds1"}, {"count", count}});
@@ -213,7 +240,7 @@ void discoveryOverTypes(benchmark::State &state)
     }
     Scene scene;
     compare(
-        state, 1,
+        state, scene, 1,
         [&] {
             const auto found = scene.loop().run(scene.client(), acsi::discover(scene.client()));
             if (found.devices.size() != devices || !found.refused.empty())
@@ -238,7 +265,7 @@ void fileDownload(benchmark::State &state)
     Scene scene;
     writeFile(scene.served("record.dat"));
     compare(
-        state, 1,
+        state, scene, 1,
         [&] {
             std::uint64_t received = 0;
             scene.loop().run(scene.client(),
@@ -270,7 +297,7 @@ void fileUpload(benchmark::State &state)
         QFile::remove(name);
     };
     compare(
-        state, 1,
+        state, scene, 1,
         [&] {
             QFile file(scene.own("upload.dat"));
             file.open(QIODevice::ReadOnly);

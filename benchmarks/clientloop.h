@@ -20,14 +20,8 @@ class ClientLoop
 public:
     ~ClientLoop()
     {
-        for (const auto &client : m_clients) {
-            mmstest::Awaited<bool> done;
-            asio::post(client->strand(), [client, set = done.setter()] {
-                client->abort("The end.");
-                set(true);
-            });
-            done.get();
-        }
+        for (const auto &client : m_clients)
+            disconnect(client);
     }
 
     asio::any_io_executor executor() { return m_loop.executor(); }
@@ -39,6 +33,16 @@ public:
             acsi::Client::connect(m_loop.executor(), "127.0.0.1", port, std::move(options));
         m_clients.push_back(value(run(m_loop.executor(), std::move(connecting))));
         return m_clients.back();
+    }
+
+    void disconnect(const std::shared_ptr<acsi::Client> &client)
+    {
+        mmstest::Awaited<bool> done;
+        asio::post(client->strand(), [client, set = done.setter()] {
+            client->abort("The end.");
+            set(true);
+        });
+        done.get();
     }
 
     /// What a coroutine comes to. A result without a value throws.

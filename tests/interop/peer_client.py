@@ -111,7 +111,7 @@ class Client:
             except Refused as refused:
                 if str(refused) != "connection-lost":
                     return True
-                function("IedConnection_close", None, POINTER)(self.connection)
+                self.do_close(command)
         raise Refused("the foreign client loses every connection")
 
     def connect(self, command):
@@ -175,7 +175,10 @@ class Client:
         return True
 
     def do_close(self, _command):
+        """Connects again afterwards, or does nothing more."""
         function("IedConnection_close", None, POINTER)(self.connection)
+        function("IedConnection_destroy", None, POINTER)(self.connection)
+        self.connection = self.mms = None
         return True
 
     def do_abort(self, _command):
