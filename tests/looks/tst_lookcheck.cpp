@@ -4,11 +4,13 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QDockWidget>
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMainWindow>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QTreeWidget>
@@ -69,6 +71,7 @@ private slots:
     void aLabelMayCutWhatItsToolTipShowsWhole();
     void aWidgetBeyondItsParentIsFound();
     void widgetsThatCoverOneAnotherAreFound();
+    void aDockBehindATabIsNotLookedAt();
     void whatIsHiddenIsNotLookedAt();
 };
 
@@ -141,6 +144,31 @@ void tst_LookCheck::widgetsThatCoverOneAnotherAreFound()
     const SampleWindow window;
     window.button->move(window.box->pos());
     QCOMPARE(flawsOf(window), QStringList({"QPushButton \"\" covers QCheckBox \"\"."}));
+}
+
+void tst_LookCheck::aDockBehindATabIsNotLookedAt()
+{
+    QMainWindow window;
+    window.setCentralWidget(new QLabel(QStringLiteral("centre")));
+    QList<QDockWidget *> docks;
+    for (const char *name : {"front", "behind"}) {
+        auto *dock = new QDockWidget(QString::fromLatin1(name), &window);
+        dock->setObjectName(QString::fromLatin1(name));
+        auto *button = new QPushButton(longText);
+        button->setFixedWidth(10);
+        dock->setWidget(button);
+        window.addDockWidget(Qt::BottomDockWidgetArea, dock);
+        docks << dock;
+    }
+    window.tabifyDockWidget(docks[0], docks[1]);
+    docks[0]->raise();
+    window.resize(600, 400);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QTRY_VERIFY(docks[1]->visibleRegion().isEmpty());
+    const QStringList flaws = flawsOf(window);
+    QCOMPARE(flaws.size(), 1);
+    QVERIFY2(flaws[0].startsWith(QStringLiteral("QPushButton")), qPrintable(flaws[0]));
 }
 
 void tst_LookCheck::whatIsHiddenIsNotLookedAt()
