@@ -117,6 +117,7 @@ private slots:
     void aRequestThatCannotBeReadIsRefused();
     void anObjectForStatusOnlyIsNotOperated();
     void aSilentDeviceEndsTheCommandInTime();
+    void aCommandThatNobodyWaitsForIsJournalled();
     void anAssociationLostInACommandIsTold();
     void aReadOnlyDriverOperatesNothing();
 
@@ -723,6 +724,29 @@ void tst_DriverControl::aSilentDeviceEndsTheCommandInTime()
     QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed())));
     QVERIFY(listener.waitForChanges(1));
     QCOMPARE(listener.changes().at(0).error, m_error);
+}
+
+void tst_DriverControl::aCommandThatNobodyWaitsForIsJournalled()
+{
+    SimulatedIed ied(QStringLiteral(STATION_FILE), {}, "delay 150ms on read\nignore on write");
+    Listener listener;
+    IedDriver driver(listener.options());
+    DeviceConfiguration configuration = configurationFor(ied);
+    configuration.callTimeout = std::chrono::milliseconds(300);
+    configuration.operationTimeout = std::chrono::milliseconds(300);
+    QCOMPARE(driver.setDevice(configuration), QStringList());
+    driver.connectDevice(1);
+    QVERIFY(listener.waitForState(1, DeviceState::Online));
+    Command command;
+    command.object = "GGIO2$CO$SPCSO2";
+    command.model = 1;
+    QCOMPARE(driver.controlObject(1, io, command.object, command.bytes(), m_error),
+             OperationFailed);
+    QCOMPARE(m_error,
+             QString("Device 1 (IED1) has not finished the operation within 0.3 seconds."));
+    QVERIFY(listener.waitForChanges(1));
+    QCOMPARE(listener.changes().at(0).reference, QString("BAY1E1IO/GGIO2$CO$SPCSO2"));
+    QVERIFY2(!listener.changes().at(0).error.isEmpty(), qPrintable(listener.changes().at(0).error));
 }
 
 void tst_DriverControl::anAssociationLostInACommandIsTold()
