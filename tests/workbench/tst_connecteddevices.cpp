@@ -6,6 +6,8 @@
 
 #include "driver/sclimport.h"
 
+#include <remoteclient/records.h>
+
 #include <QtCore/QDataStream>
 #include <QtCore/QFileInfo>
 #include <QtCore/QTemporaryDir>
@@ -48,6 +50,7 @@ private slots:
     void aDeviceOfAFileCanGetAnAddress();
     void readOnlyRefusesChangesInTheDriverAndIsRemembered();
     void whatIsWrittenIsInTheJournalWithItsOldAndNewValue();
+    void everyKindOfChangeIsInTheJournalWithItsResult();
     void theConsoleTellsWhereADeviceIsReached();
 
 private:
@@ -311,6 +314,70 @@ void tst_ConnectedDevices::whatIsWrittenIsInTheJournalWithItsOldAndNewValue()
     const QByteArray content = file.readAll();
     QVERIFY2(content.contains(",1,Feeder,writeVariable,FEEDER2CTRL/XCBR1$CF$Pos$ctlModel,0,4,OK,"),
              content.constData());
+}
+
+void tst_ConnectedDevices::everyKindOfChangeIsInTheJournalWithItsResult()
+{
+    m_workbench->openDemonstration();
+    QTRY_VERIFY_WITH_TIMEOUT(isOnline(1), 20000);
+    IedDriver &driver = m_workbench->driver();
+    ControlBlock command;
+    command.objectReference = QStringLiteral("GGIO2$CO$SPCSO2");
+    command.controlModel = 1;
+    command.controlValue = 1;
+    command.check = 1;
+    const auto operate = [&](QString &error) {
+        QByteArray bytes;
+        QDataStream stream(&bytes, QIODevice::WriteOnly);
+        command.toStream(stream);
+        return driver.controlObject(1, QStringLiteral("BAY1E1IO"), command.objectReference, bytes,
+                                    error);
+    };
+    const QString localFile = m_folder->filePath(QStringLiteral("sent.txt"));
+    QFile sent(localFile);
+    QVERIFY(sent.open(QIODevice::WriteOnly) && sent.write("hello") == 5);
+    sent.close();
+
+    QString error;
+    QCOMPARE(operate(error), OperationSucceeded);
+    command.test = 1;
+    QVERIFY(operate(error) != OperationSucceeded);
+    const QString refusal = error;
+    QCOMPARE(driver.selectActiveSG(1, QStringLiteral("BAY1E1PROT"), 2, error), OperationSucceeded);
+    QCOMPARE(driver.createDataSet(1, QStringLiteral("BAY1E1IO"), QStringLiteral("LLN0$made"),
+                                  QStringLiteral("BAY1E1IO/GGIO1$ST$Ind1"), 0, error),
+             OperationSucceeded);
+    ReportBlock block;
+    const QString report = QStringLiteral("LLN0$BR$brcbPositions01");
+    QCOMPARE(driver.getBRCBValues(1, QStringLiteral("BAY1E1CTRL"), report, block, error),
+             OperationSucceeded);
+    block.rptEna = true;
+    QVERIFY2(driver.enableReportBlock(1, QStringLiteral("BAY1E1CTRL"), report, block.rptId,
+                                      block.datSet, block, error) == OperationSucceeded,
+             qPrintable(error));
+    QVERIFY2(driver.writeFile(1, localFile, QStringLiteral("sent.txt"), error) ==
+                 OperationSucceeded,
+             qPrintable(error));
+    QCOMPARE(driver.deleteFile(1, QStringLiteral("sent.txt"), error), OperationSucceeded);
+
+    const ChangeJournal &changes = m_workbench->changes();
+    QStringList operations;
+    const auto done = [&] {
+        operations.clear();
+        for (int row = 0; row < changes.rowCount(); ++row) {
+            operations << changes.index(row, ChangeJournal::OperationColumn).data().toString();
+        }
+        return operations.contains(QStringLiteral("deleteFile"));
+    };
+    QTRY_VERIFY(done());
+    operations.removeDuplicates();
+    QCOMPARE(operations,
+             (QStringList{QStringLiteral("controlObject"), QStringLiteral("selectActiveSG"),
+                          QStringLiteral("createDataSet"), QStringLiteral("enableReportBlock"),
+                          QStringLiteral("writeFile"), QStringLiteral("deleteFile")}));
+    QCOMPARE(changes.index(0, ChangeJournal::ResultColumn).data().toString(), QStringLiteral("OK"));
+    QCOMPARE(changes.index(1, ChangeJournal::ResultColumn).data().toString(), refusal);
+    QVERIFY(!changes.index(1, ChangeJournal::CauseColumn).data().toString().isEmpty());
 }
 
 void tst_ConnectedDevices::theConsoleTellsWhereADeviceIsReached()
