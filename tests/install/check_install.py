@@ -55,11 +55,12 @@ def main():
         version = run(tree / "bin/iec61850ext-workbench", "--version")
         if not re.fullmatch(r"workbench \d+\.\d+\.\d+\s*", version):
             faults.append(f"the installed workbench says: {version}")
-        version = run(tree / "bin/iedctl", "--version")
-        if not re.fullmatch(r"iedctl \d+\.\d+\.\d+\s*", version):
-            faults.append(f"the installed iedctl says: {version}")
-        if not (tree / "share/man/man1/iedctl.1").read_text().startswith(".TH"):
-            faults.append("the manual page of iedctl is none")
+        for tool in ("iedctl", "iedsim"):
+            version = run(tree / "bin" / tool, "--version")
+            if not re.fullmatch(tool + r" \d+\.\d+\.\d+\s*", version):
+                faults.append(f"the installed {tool} says: {version}")
+            if not (tree / f"share/man/man1/{tool}.1").read_text().startswith(".TH"):
+                faults.append(f"the manual page of {tool} is none")
     for fault in faults:
         print(fault)
     print(f"{len(faults)} faults")
