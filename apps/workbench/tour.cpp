@@ -18,6 +18,7 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QTreeWidget>
 
 #include <chrono>
@@ -211,7 +212,7 @@ bool Tour::showConnected()
         showFileService();
     if (m_tree)
         m_tree->window()->close();
-    return shown && showWorkbench();
+    return shown && showDeviceForm() && showTrace() && showWorkbench();
 }
 
 bool Tour::openDevices()
@@ -441,6 +442,36 @@ bool Tour::showFileService()
     return showDialog([&] { action->trigger(); }, dialog, QStringLiteral("file-service"),
                       openRecords) ||
            fail(Texts::tr("The window \"%1\" did not appear.").arg(dialog));
+}
+
+/// The form of the device after a test of its connection.
+bool Tour::showDeviceForm()
+{
+    const QString dialog = QStringLiteral("DeviceDialog");
+    const Preparation test = [](QWidget *window) {
+        auto *button = window->findChild<QPushButton *>(QStringLiteral("test"));
+        button->click();
+        waitFor([button] { return button->isEnabled(); });
+    };
+    auto *edit = m_window.findChild<QAction *>(QStringLiteral("actionEdit"));
+    const auto open = [edit] {
+        edit->trigger();
+        waitFor([] { return !QApplication::activeModalWidget(); });
+    };
+    return showDialog(open, dialog, QStringLiteral("device"), test) ||
+           fail(Texts::tr("The window \"%1\" did not appear.").arg(dialog));
+}
+
+bool Tour::showTrace()
+{
+    m_window.findChild<QAction *>(QStringLiteral("actionTrace"))->trigger();
+    const QString name = QStringLiteral("TraceDialog");
+    if (!waitFor([&name] { return visibleWindow(name) != nullptr; }))
+        return fail(Texts::tr("The window \"%1\" did not appear.").arg(name));
+    QWidget *trace = visibleWindow(name);
+    const bool saved = save(trace, QStringLiteral("trace"));
+    trace->close();
+    return saved;
 }
 
 bool Tour::showWorkbench()

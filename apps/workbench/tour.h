@@ -53,6 +53,8 @@ private:
     bool showSettingGroups(const QString &dialogName, const QString &picture);
     bool showReportControl(const QString &picture);
     bool showFileService();
+    bool showDeviceForm();
+    bool showTrace();
     bool showWorkbench();
 
     QAction *tool(int position);
