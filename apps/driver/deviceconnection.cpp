@@ -624,7 +624,7 @@ asio::awaitable<QString> DeviceConnection::getReady(ClientPointer client)
     const mms::Result<QByteArray> print = co_await fingerprint(client, *domains);
     if (!print)
         co_return text(print.error().message);
-    if (!m_model || *print != m_fingerprint) {
+    if (!m_model || *print != m_fingerprint || !m_isModelSettled) {
         m_readingCancelled = std::make_shared<std::atomic<bool>>(false);
         mms::Result<acsi::ServerDescription> description = co_await describe(client, *print);
         const bool wasCancelled = *m_readingCancelled;
@@ -636,6 +636,9 @@ asio::awaitable<QString> DeviceConnection::getReady(ClientPointer client)
         }
         if (!description)
             co_return text(description.error().message);
+        // What is refused once may be given the next time; what is refused twice never will.
+        m_isModelSettled = description->refused.empty() ||
+                           (m_model && m_model->description().refused == description->refused);
         m_model = std::make_unique<OnlineModel>(
             std::make_shared<const acsi::ServerDescription>(std::move(*description)),
             m_fromFile ? m_fromFile->name : m_configuration.name, m_fromFile.get());

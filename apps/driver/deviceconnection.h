@@ -255,6 +255,7 @@ private:
     std::set<asio::steady_timer *> m_pauses; ///< of the coroutines in pause()
     bool m_wanted = false;
     bool m_living = false;
+    bool m_isModelSettled = false; ///< reading the model again would give nothing more
     bool m_modelReady = false; ///< the model belongs to the present association
     bool m_attempted = false;  ///< an attempt has come to an end since an association was wanted
     bool m_dormant = false;    ///< aborted; the next operation connects

@@ -150,7 +150,7 @@ public:
         options.poster = [this](const QList<QByteArray> &records) { take(records); };
         options.statusChanged = [this](const DeviceStatus &status) {
             const std::lock_guard<std::mutex> lock(m_mutex);
-            m_statuses.append(status);
+            m_statuses.insert(status.number, status);
             m_changed.notify_all();
         };
         options.changed = [this](const DeviceChange &change) {
@@ -166,11 +166,8 @@ public:
     {
         std::unique_lock<std::mutex> lock(m_mutex);
         return m_changed.wait_for(lock, patience, [&] {
-            for (auto each = m_statuses.crbegin(); each != m_statuses.crend(); ++each) {
-                if (each->number == number)
-                    return condition(*each);
-            }
-            return false;
+            const auto found = m_statuses.constFind(number);
+            return found != m_statuses.constEnd() && condition(*found);
         });
     }
 
@@ -233,10 +230,11 @@ public:
         const std::lock_guard<std::mutex> lock(m_mutex);
         return m_changes;
     }
-    QList<DeviceStatus> statuses() const
+    /// Keeping everything that is published is too much for long tests.
+    void keepHistory(bool keep)
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        return m_statuses;
+        m_keepsHistory = keep;
     }
     int published() const
     {
@@ -261,7 +259,8 @@ private:
             QDataStream stream(record);
             value.fromStream(stream);
             m_values.insert(value.reference, value);
-            m_history[value.reference].append(value);
+            if (m_keepsHistory)
+                m_history[value.reference].append(value);
             ++m_published;
         }
         m_changed.notify_all();
@@ -269,10 +268,11 @@ private:
 
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
-    QList<DeviceStatus> m_statuses;
+    QHash<int, DeviceStatus> m_statuses; ///< the newest of each device
     QList<DeviceChange> m_changes;
     QHash<QString, MMSValue> m_values;
     QHash<QString, QList<MMSValue>> m_history;
+    bool m_keepsHistory = true;
     int m_published = 0;
 };
 
