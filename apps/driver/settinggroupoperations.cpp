@@ -133,6 +133,8 @@ asio::awaitable<mms::Result<std::vector<Setting>>>
 readSettings(DevicePointer device, QString ldName, FunctionalConstraint constraint)
 {
     const std::shared_ptr<acsi::Client> client = device->client();
+    if (!client)
+        co_return mms::Error{device->notConnectedSentence().toStdString(), 0};
     const std::vector<acsi::Reference> nodes = nodesWith(*device->model(), ldName, constraint);
     std::vector<Setting> settings;
     if (nodes.empty())
@@ -195,6 +197,18 @@ readSettings(DevicePointer device, QString ldName, FunctionalConstraint constrai
         co_return mms::Error{sentence.toStdString(), 0};
     }
     co_return settings;
+}
+
+/// The value in a type that property editors know: wider integers as int where they fit, otherwise
+/// as text. The editor would leave out the setting otherwise.
+QVariant editable(const QVariant &value)
+{
+    const int type = value.userType();
+    if (type != QMetaType::UInt && type != QMetaType::LongLong && type != QMetaType::ULongLong)
+        return value;
+    bool fits = false;
+    const int number = value.toString().toInt(&fits);
+    return fits ? QVariant(number) : QVariant(value.toString());
 }
 
 /// Shows in the model what was read.
@@ -275,8 +289,8 @@ asio::awaitable<Outcome> readValues(DevicePointer device, QString ldName, QStrin
         SGCBValue value;
         value.name = setting.reference;
         if (setting.data)
-            value.value = ValueConversion::toVariant(
-                basicTypeOf(*device->model(), setting.reference), *setting.data);
+            value.value = editable(ValueConversion::toVariant(
+                basicTypeOf(*device->model(), setting.reference), *setting.data));
         values->append(value);
     }
     co_return Outcome();

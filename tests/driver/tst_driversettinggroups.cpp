@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "driver/simulatedstation.h"
 
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
 using namespace drivertest;
@@ -55,6 +57,7 @@ private slots:
     void withoutAnEditedGroupThereAreNoValuesToEdit();
     void settingsAreReadUnderTheirConstraintsOnly();
     void settingsThatAreReadAreShown();
+    void wideNumbersCanBeEdited();
     void anotherGroupBecomesActive();
     void aGroupThatDoesNotExistIsRefusedByTheDriver();
     void groupZeroReleasesTheEdit();
@@ -74,7 +77,7 @@ private slots:
 private:
     void start(const std::string &faults = {},
                std::chrono::milliseconds callTimeout = std::chrono::seconds(5),
-               const QString &sclFile = {});
+               const QString &sclFile = {}, const QString &station = QStringLiteral(STATION_FILE));
     SGCB block();
     QList<SGCBValue> values(const char *fc);
     QStringList sentWrites() const;
@@ -98,11 +101,12 @@ void tst_DriverSettingGroups::cleanup()
 }
 
 void tst_DriverSettingGroups::start(const std::string &faults,
-                                    std::chrono::milliseconds callTimeout, const QString &sclFile)
+                                    std::chrono::milliseconds callTimeout, const QString &sclFile,
+                                    const QString &station)
 {
     m_driver.reset();
     m_ied.reset();
-    m_ied = std::make_unique<SimulatedIed>(QStringLiteral(STATION_FILE), QString(), faults);
+    m_ied = std::make_unique<SimulatedIed>(station, QString(), faults);
     m_listener = std::make_unique<Listener>();
     m_driver = std::make_unique<IedDriver>(m_listener->options());
     DeviceConfiguration configuration = configurationFor(*m_ied);
@@ -241,6 +245,35 @@ void tst_DriverSettingGroups::settingsThatAreReadAreShown()
     m_listener->clear();
     QCOMPARE(valueOf(values("SG"), delay.arg("SG")).toInt(), 4711);
     QVERIFY(m_listener->waitForValue(delay.arg("SG"), 4711));
+}
+
+void tst_DriverSettingGroups::wideNumbersCanBeEdited()
+{
+    QFile station(QStringLiteral(STATION_FILE));
+    QVERIFY(station.open(QIODevice::ReadOnly));
+    QByteArray text = station.readAll();
+    const QByteArray narrow = "<DA name=\"setVal\" fc=\"SG\" bType=\"INT32\"/>";
+    QVERIFY(text.contains(narrow));
+    text.replace(narrow, "<DA name=\"setVal\" fc=\"SG\" bType=\"INT32U\"/>");
+    QTemporaryDir folder;
+    QFile wide(folder.filePath("wide.scd"));
+    QVERIFY(wide.open(QIODevice::WriteOnly) && wide.write(text) == text.size());
+    wide.close();
+    start({}, std::chrono::seconds(5), wide.fileName(), wide.fileName());
+
+    QCOMPARE(m_driver->selectEditSG(1, protection, 2, m_error), OperationSucceeded);
+    QList<SGCBValue> edited = values("SE");
+    QCOMPARE(valueOf(edited, delay.arg("SE")).userType(), int(QMetaType::Int));
+    setValueOf(edited, delay.arg("SE"), QStringLiteral("4000000000"));
+    QVERIFY2(m_driver->setSGCBValues(1, protection, edited, m_error) == OperationSucceeded,
+             qPrintable(m_error));
+    QCOMPARE(m_driver->selectEditSG(1, protection, 2, m_error), OperationSucceeded);
+    edited = values("SE");
+    QCOMPARE(valueOf(edited, delay.arg("SE")), QVariant(QStringLiteral("4000000000")));
+    const int before = sentWrites().size();
+    QVERIFY2(m_driver->setSGCBValues(1, protection, edited, m_error) == OperationSucceeded,
+             qPrintable(m_error));
+    QCOMPARE(sentWrites().size(), before + 1); // the confirmation alone
 }
 
 void tst_DriverSettingGroups::anotherGroupBecomesActive()
