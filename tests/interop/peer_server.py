@@ -8,6 +8,7 @@ check are refused.
 """
 import ctypes
 import json
+import queue
 import sys
 import threading
 import xml.etree.ElementTree as xml
@@ -231,20 +232,26 @@ class Server:
         # With a thread of its own the foreign server looks for requests every ten milliseconds
         # only.
         function("IedServer_startThreadless", None, POINTER, INT)(self.server, options["port"])
-        self.turn = threading.Lock()
+        self.waiting = queue.SimpleQueue()
         self.ends = False
         self.thread = threading.Thread(target=self.serve)
         self.thread.start()
 
     def serve(self):
-        wait = function("IedServer_waitReady", INT, POINTER, ctypes.c_uint)
         process = function("IedServer_processIncomingData", None, POINTER)
         work = function("IedServer_performPeriodicTasks", None, POINTER)
         while not self.ends:
-            wait(self.server, 5)
-            with self.turn:
-                process(self.server)
-                work(self.server)
+            process(self.server)  # waits a millisecond for something to come
+            work(self.server)
+            while not self.waiting.empty():
+                command, answer = self.waiting.get()
+                answer.put(self.obey(command))
+
+    def ask(self, command):
+        """Has the serving thread obey a command."""
+        answer = queue.SimpleQueue()
+        self.waiting.put((command, answer))
+        return answer.get()
 
     def is_running(self):
         return function("IedServer_isRunning", BOOL, POINTER)(self.server)
@@ -329,8 +336,10 @@ class Server:
             self.server, self.keep(Authenticator(authenticate)), None)
 
     def obey(self, command):
-        with self.turn:
-            return self.answer(command)
+        try:
+            return {"result": self.answer(command)}
+        except (KeyError, ValueError) as error:
+            return {"failure": str(error)}
 
     def answer(self, command):
         name = command["do"]
@@ -361,10 +370,7 @@ def main():
         return 1
     say({"event": "ready", "attributes": len(server.model.attributes)})
     for command in commands():
-        try:
-            say({"result": server.obey(command)})
-        except (KeyError, ValueError) as error:
-            say({"failure": str(error)})
+        say(server.ask(command))
     server.stop()
     return 0
 
