@@ -571,6 +571,7 @@ void tst_DriverFiles::oneFileOperationIsUnderWayAtATime()
 
 void tst_DriverFiles::anOperationDoesNotWaitForATransferForLong()
 {
+    write(remote("COMTRADE/fault1.dat"), pattern(600000, 'a'));
     start("delay 250ms on fileRead", std::chrono::milliseconds(400));
     QByteArray content;
     QString fetchError;
