@@ -334,7 +334,7 @@
     </message>
     <message>
         <source>Selectors are octets in hexadecimal, for example 00 01. An AP title is an object identifier, for example 1.1.1.999.1; empty fields are not sent.</source>
-        <translation>Selektoren sind Oktette in hexadezimaler Schreibweise, zum Beispiel 00 01. Ein AP-Titel ist ein Objektbezeichner, zum Beispiel 1.1.1.999.1; leere Felder werden nicht gesendet.</translation>
+        <translation>Selektoren sind Oktette in hexadezimaler Schreibweise, zum Beispiel 00 01. Ein AP-Titel ist ein Objektbezeichner, zum Beispiel 1.1.1.999.1; leere Felder werden nicht gesendet.</translation>
     </message>
     <message>
         <source>Security</source>

@@ -334,7 +334,7 @@
     </message>
     <message>
         <source>Selectors are octets in hexadecimal, for example 00 01. An AP title is an object identifier, for example 1.1.1.999.1; empty fields are not sent.</source>
-        <translation>Los selectores son octetos en hexadecimal, por ejemplo 00 01. Un título AP es un identificador de objeto, por ejemplo 1.1.1.999.1; los campos vacíos no se envían.</translation>
+        <translation>Los selectores son octetos en hexadecimal, por ejemplo 00 01. Un título AP es un identificador de objeto, por ejemplo 1.1.1.999.1; los campos vacíos no se envían.</translation>
     </message>
     <message>
         <source>Security</source>

@@ -334,7 +334,7 @@
     </message>
     <message>
         <source>Selectors are octets in hexadecimal, for example 00 01. An AP title is an object identifier, for example 1.1.1.999.1; empty fields are not sent.</source>
-        <translation>Les sélecteurs sont des octets en hexadécimal, par exemple 00 01. Un titre AP est un identificateur d'objet, par exemple 1.1.1.999.1 ; les champs vides ne sont pas envoyés.</translation>
+        <translation>Les sélecteurs sont des octets en hexadécimal, par exemple 00 01. Un titre AP est un identificateur d'objet, par exemple 1.1.1.999.1 ; les champs vides ne sont pas envoyés.</translation>
     </message>
     <message>
         <source>Security</source>
@@ -581,8 +581,8 @@ PDUs received: %2
 Reports: %3
 Published values: %4
 Connections: %5</source>
-        <translation>PDU envoyés : %1
-PDU reçus : %2
+        <translation>PDU envoyées : %1
+PDU reçues : %2
 Rapports : %3
 Valeurs publiées : %4
 Connexions : %5</translation>
@@ -1673,11 +1673,11 @@ Apache License 2.0</translation>
     <name>TraceModel</name>
     <message>
         <source>sent</source>
-        <translation>envoyé</translation>
+        <translation>envoyée</translation>
     </message>
     <message>
         <source>received</source>
-        <translation>reçu</translation>
+        <translation>reçue</translation>
     </message>
     <message>
         <source>Time</source>

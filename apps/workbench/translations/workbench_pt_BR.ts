@@ -334,7 +334,7 @@
     </message>
     <message>
         <source>Selectors are octets in hexadecimal, for example 00 01. An AP title is an object identifier, for example 1.1.1.999.1; empty fields are not sent.</source>
-        <translation>Os seletores são octetos em hexadecimal, por exemplo 00 01. Um título AP é um identificador de objeto, por exemplo 1.1.1.999.1; campos vazios não são enviados.</translation>
+        <translation>Os seletores são octetos em hexadecimal, por exemplo 00 01. Um título AP é um identificador de objeto, por exemplo 1.1.1.999.1; campos vazios não são enviados.</translation>
     </message>
     <message>
         <source>Security</source>

@@ -334,7 +334,7 @@
     </message>
     <message>
         <source>Selectors are octets in hexadecimal, for example 00 01. An AP title is an object identifier, for example 1.1.1.999.1; empty fields are not sent.</source>
-        <translation>Селекторы записываются октетами в шестнадцатеричном виде, например 00 01. Заголовок AP — это идентификатор объекта, например 1.1.1.999.1; пустые поля не передаются.</translation>
+        <translation>Селекторы записываются октетами в шестнадцатеричном виде, например 00 01. Заголовок AP — это идентификатор объекта, например 1.1.1.999.1; пустые поля не передаются.</translation>
     </message>
     <message>
         <source>Security</source>

@@ -334,7 +334,7 @@
     </message>
     <message>
         <source>Selectors are octets in hexadecimal, for example 00 01. An AP title is an object identifier, for example 1.1.1.999.1; empty fields are not sent.</source>
-        <translation>选择符以十六进制八位字节书写，例如 00 01。AP 标题是对象标识符，例如 1.1.1.999.1；空字段不发送。</translation>
+        <translation>选择符以十六进制八位字节书写，例如 00 01。AP 标题是对象标识符，例如 1.1.1.999.1；空字段不发送。</translation>
     </message>
     <message>
         <source>Security</source>
