@@ -48,12 +48,11 @@ QByteArray heading()
 
 QByteArray rowOf(const DeviceChange &change)
 {
-    return csvRow({change.time.toOffsetFromUtc(change.time.offsetFromUtc())
-                       .toString(Qt::ISODateWithMs),
-                   QString::number(change.number), change.device, change.operation,
-                   change.reference, change.oldValue, change.newValue,
-                   change.error.isEmpty() ? QStringLiteral("OK") : change.error,
-                   change.additionalCause});
+    return csvRow(
+        {change.time.toOffsetFromUtc(change.time.offsetFromUtc()).toString(Qt::ISODateWithMs),
+         QString::number(change.number), change.device, change.operation, change.reference,
+         change.oldValue, change.newValue,
+         change.error.isEmpty() ? QStringLiteral("OK") : change.error, change.additionalCause});
 }
 
 } // namespace

@@ -28,7 +28,7 @@ struct Channel
 
 QVector<Channel> channels()
 {
-    return {{"IL1", "A", 1.1, 14.2, 0}, {"IL2", "A", 1.1, 1.3, 2}, {"IL3", "A", 1.1, 1.2, 1},
+    return {{"IL1", "A", 1.1, 14.2, 0},  {"IL2", "A", 1.1, 1.3, 2},   {"IL3", "A", 1.1, 1.2, 1},
             {"UL1", "V", 81.6, 22.4, 0}, {"UL2", "V", 81.6, 80.1, 2}, {"UL3", "V", 81.6, 79.8, 1}};
 }
 
@@ -97,9 +97,9 @@ bool writeDemonstrationFiles(const QString &folder, const QString &device)
         const QDateTime begin = first.addSecs(200000LL * i);
         const QString record =
             root.filePath(QStringLiteral("COMTRADE/FRA%1").arg(17 + i, 5, 10, QLatin1Char('0')));
-        done = writeFile(record + QStringLiteral(".cfg"), recordConfiguration(device, begin),
-                         begin) &&
-               writeFile(record + QStringLiteral(".dat"), recordSamples(), begin) && done;
+        done =
+            writeFile(record + QStringLiteral(".cfg"), recordConfiguration(device, begin), begin) &&
+            writeFile(record + QStringLiteral(".dat"), recordSamples(), begin) && done;
         const QByteArray time = begin.toString(Qt::ISODateWithMs).toLatin1();
         events += time + " overcurrent L1 start\r\n" + time + " trip\r\n";
     }
@@ -107,10 +107,8 @@ bool writeDemonstrationFiles(const QString &folder, const QString &device)
                                 device.toHtmlEscaped().toUtf8() +
                                 "\">\n  <group number=\"1\" name=\"Winter\"/>\n"
                                 "  <group number=\"2\" name=\"Summer\"/>\n</settings>\n";
-    done = writeFile(root.filePath(QStringLiteral("settings.xml")), settings,
-                     first.addDays(-40)) &&
+    done = writeFile(root.filePath(QStringLiteral("settings.xml")), settings, first.addDays(-40)) &&
            done;
-    return writeFile(root.filePath(QStringLiteral("events.log")), events,
-                     first.addSecs(400000)) &&
+    return writeFile(root.filePath(QStringLiteral("events.log")), events, first.addSecs(400000)) &&
            done;
 }

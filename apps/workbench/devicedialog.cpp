@@ -45,10 +45,10 @@ std::chrono::milliseconds timeOf(const QSpinBox *box)
 /// Names of IEC 61850-7-3, OriginatorCategoryKind.
 QStringList originatorCategories()
 {
-    return {QStringLiteral("0: not-supported"),     QStringLiteral("1: bay-control"),
-            QStringLiteral("2: station-control"),   QStringLiteral("3: remote-control"),
-            QStringLiteral("4: automatic-bay"),     QStringLiteral("5: automatic-station"),
-            QStringLiteral("6: automatic-remote"),  QStringLiteral("7: maintenance"),
+    return {QStringLiteral("0: not-supported"),    QStringLiteral("1: bay-control"),
+            QStringLiteral("2: station-control"),  QStringLiteral("3: remote-control"),
+            QStringLiteral("4: automatic-bay"),    QStringLiteral("5: automatic-station"),
+            QStringLiteral("6: automatic-remote"), QStringLiteral("7: maintenance"),
             QStringLiteral("8: process")};
 }
 
@@ -75,11 +75,10 @@ DeviceDialog::DeviceDialog(const DeviceRecord &record, Save save, Test test, Bac
     fill();
     if (record.simulated) {
         // The simulation has them from its file.
-        for (QWidget *fixed : {static_cast<QWidget *>(m_ui->host),
-                               static_cast<QWidget *>(m_ui->port),
-                               static_cast<QWidget *>(m_ui->sclFile),
-                               static_cast<QWidget *>(m_ui->sclFileBrowse),
-                               static_cast<QWidget *>(m_ui->ied)})
+        for (QWidget *fixed :
+             {static_cast<QWidget *>(m_ui->host), static_cast<QWidget *>(m_ui->port),
+              static_cast<QWidget *>(m_ui->sclFile), static_cast<QWidget *>(m_ui->sclFileBrowse),
+              static_cast<QWidget *>(m_ui->ied)})
             fixed->setEnabled(false);
     }
     setUpBrowse(m_ui->sclFile, tr("SCL File"), false);
@@ -181,8 +180,7 @@ void DeviceDialog::fillAddress(const AssociationAddress &address, const QString 
         ->setText(hexText(address.presentationSelector));
     field(side + QStringLiteral("ApTitle"))->setText(address.apTitle);
     if (address.aeQualifier) {
-        field(side + QStringLiteral("AeQualifier"))
-            ->setText(QString::number(*address.aeQualifier));
+        field(side + QStringLiteral("AeQualifier"))->setText(QString::number(*address.aeQualifier));
     }
 }
 
@@ -323,8 +321,8 @@ void DeviceDialog::showTestResult(const IedDriver::TestResult &result)
         text = tr("Connected to %1. Round trip: %2 ms; logical devices: %3")
                    .arg(identity.isEmpty() ? tr("a device that does not say what it is")
                                            : identity.join(QStringLiteral(", ")),
-                        locale.toString(static_cast<double>(result.roundTrip.count()) / 1000.0,
-                                        'f', 1),
+                        locale.toString(static_cast<double>(result.roundTrip.count()) / 1000.0, 'f',
+                                        1),
                         locale.toString(result.logicalDevices));
     }
     m_ui->testResult->setText(text);

@@ -178,10 +178,9 @@ QString DeviceListModel::stateText(const Device &device)
     case DeviceState::Connecting:
         return tr("Connecting…");
     case DeviceState::ReadingModel:
-        return status.modelSteps > 0
-                   ? tr("Reading the model (%1 %)…")
-                         .arg(100 * status.modelStepsDone / status.modelSteps)
-                   : tr("Reading the model…");
+        return status.modelSteps > 0 ? tr("Reading the model (%1 %)…")
+                                           .arg(100 * status.modelStepsDone / status.modelSteps)
+                                     : tr("Reading the model…");
     case DeviceState::Online:
         return tr("Connected");
     case DeviceState::Waiting:
@@ -266,11 +265,11 @@ QVariant DeviceListModel::data(const QModelIndex &index, int role) const
     const Device &device = m_devices[index.row()];
     const DeviceStatus &status = device.status;
     const bool isReached = device.record.isReached();
-    const bool isInTrouble = device.state == Failed ||
-                             (isReached && device.state == Ready &&
-                              (status.state == DeviceState::Waiting ||
-                               (status.state == DeviceState::Disconnected &&
-                                !status.reason.isEmpty())));
+    const bool isInTrouble =
+        device.state == Failed ||
+        (isReached && device.state == Ready &&
+         (status.state == DeviceState::Waiting ||
+          (status.state == DeviceState::Disconnected && !status.reason.isEmpty())));
 
     if (role == Qt::TextAlignmentRole && index.column() == NumberColumn)
         return int(Qt::AlignCenter);
@@ -322,7 +321,7 @@ QVariant DeviceListModel::headerData(int section, Qt::Orientation orientation, i
     if (orientation != Qt::Horizontal)
         return {};
     if (role == Qt::TextAlignmentRole) {
-        return section == NumberColumn    ? int(Qt::AlignCenter)
+        return section == NumberColumn   ? int(Qt::AlignCenter)
                : isNumberColumn(section) ? int(Qt::AlignRight | Qt::AlignVCenter)
                                          : int(Qt::AlignLeft | Qt::AlignVCenter);
     }

@@ -47,8 +47,7 @@ public:
         /// The tools can work with it.
         bool isUsable() const
         {
-            return state == Ready &&
-                   (!record.isReached() || status.state == DeviceState::Online);
+            return state == Ready && (!record.isReached() || status.state == DeviceState::Online);
         }
         /// An association stands or is striven for.
         bool isWanted() const

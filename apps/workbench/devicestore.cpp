@@ -120,9 +120,8 @@ void DeviceStore::read()
         device.connects = settings.value(connectsKey, true).toBool();
         const int number = device.number();
         const bool taken =
-            std::any_of(m_devices.cbegin(), m_devices.cend(), [number](const DeviceRecord &other) {
-                return other.number() == number;
-            });
+            std::any_of(m_devices.cbegin(), m_devices.cend(),
+                        [number](const DeviceRecord &other) { return other.number() == number; });
         const bool isNowhere = device.file().isEmpty() && device.configuration.host.isEmpty();
         if (isNowhere || number < 1 || number > highestNumber || taken)
             continue;

@@ -17,7 +17,8 @@ public:
 
     QString currentAddress() override;
 
-    /// The device's address and port, or its SCL file; fails for a driver or device that is not there.
+    /// The device's address and port, or its SCL file; fails for a driver or device that is not
+    /// there.
     OperationResult getLoc(long driverNumber, long deviceNo, QString &location) override;
 
 private:

@@ -62,8 +62,7 @@ const DeviceListModel::Device *readingDevice(const DeviceListModel &devices)
         const DeviceListModel::Device *device = devices.deviceAt(row);
         const DeviceStatus &status = device->status;
         if (device->isWanted() && status.state == DeviceState::ReadingModel &&
-            status.since.msecsTo(QDateTime::currentDateTime()) >=
-                DeviceLoader::slowAfter.count()) {
+            status.since.msecsTo(QDateTime::currentDateTime()) >= DeviceLoader::slowAfter.count()) {
             return device;
         }
     }
@@ -330,9 +329,8 @@ void MainWindow::showProgress()
     if (device) {
         const DeviceStatus &status = device->status;
         m_progressText->setText(tr("Reading the model of %1").arg(device->record.name()));
-        m_progress->setValue(status.modelSteps > 0
-                                 ? progressRange * status.modelStepsDone / status.modelSteps
-                                 : 0);
+        m_progress->setValue(
+            status.modelSteps > 0 ? progressRange * status.modelStepsDone / status.modelSteps : 0);
     }
     for (QWidget *widget : {static_cast<QWidget *>(m_progressText),
                             static_cast<QWidget *>(m_progress), static_cast<QWidget *>(m_cancel)})
@@ -494,8 +492,7 @@ void MainWindow::simulateFile()
                 [this](const QString &file) { m_workbench.simulate(file); });
 }
 
-void MainWindow::askForFiles(const QString &title,
-                             const std::function<void(const QString &)> &take)
+void MainWindow::askForFiles(const QString &title, const std::function<void(const QString &)> &take)
 {
     auto *dialog = new QFileDialog(this, title);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
@@ -563,11 +560,10 @@ void MainWindow::removeSelected()
     const DeviceListModel::Device *device = m_workbench.devices().device(selectedDevice());
     if (!device)
         return;
-    const QString message =
-        (device->record.file().isEmpty()
-             ? tr("%1 was taken off the list.")
-             : tr("%1 was taken off the list; its file stays where it is."))
-            .arg(device->record.name());
+    const QString message = (device->record.file().isEmpty()
+                                 ? tr("%1 was taken off the list.")
+                                 : tr("%1 was taken off the list; its file stays where it is."))
+                                .arg(device->record.name());
     m_workbench.remove(device->record.number());
     statusBar()->showMessage(message, messageTime);
 }
@@ -600,8 +596,8 @@ void MainWindow::showTrace()
     const DeviceListModel::Device *device = m_workbench.devices().device(selectedDevice());
     if (!device)
         return;
-    auto *trace = new TraceDialog(m_workbench.driver(), device->record.number(),
-                                  device->record.name(), this);
+    auto *trace =
+        new TraceDialog(m_workbench.driver(), device->record.number(), device->record.name(), this);
     trace->setAttribute(Qt::WA_DeleteOnClose);
     connect(trace, &TraceDialog::captureWanted, this, &MainWindow::saveCapture);
     trace->show();
@@ -613,8 +609,7 @@ void MainWindow::saveCapture(int number)
     if (!device)
         return;
     writeFile(tr("Save Capture"), device->record.name() + QStringLiteral(".pcapng"),
-              tr("Captures (*.pcapng)"),
-              [&driver = m_workbench.driver(), number](QIODevice &out) {
+              tr("Captures (*.pcapng)"), [&driver = m_workbench.driver(), number](QIODevice &out) {
                   return driver.saveCapture(number, out);
               });
 }
@@ -625,8 +620,7 @@ void MainWindow::exportValues(int number)
     if (!device)
         return;
     writeFile(tr("Export Values"), device->record.name() + QStringLiteral(".csv"),
-              tr("Tables (*.csv)"),
-              [&driver = m_workbench.driver(), number](QIODevice &out) {
+              tr("Tables (*.csv)"), [&driver = m_workbench.driver(), number](QIODevice &out) {
                   return driver.exportValues(number, out);
               });
 }

@@ -55,8 +55,7 @@ std::unique_ptr<SimulatedDevice> SimulatedDevice::start(const scl::Ied &ied, int
 {
     std::unique_ptr<SimulatedDevice> device(new SimulatedDevice);
     Runtime &runtime = *device->m_runtime;
-    const QString name =
-        QString::fromUtf8(ied.name.data(), static_cast<int>(ied.name.size()));
+    const QString name = QString::fromUtf8(ied.name.data(), static_cast<int>(ied.name.size()));
     if (!runtime.files.isValid() || !writeDemonstrationFiles(runtime.files.path(), name)) {
         error = Texts::tr("The files of the simulated device cannot be written to \"%1\".")
                     .arg(runtime.files.path());

@@ -246,8 +246,7 @@ bool Tour::connectDevice()
         return device && device->record.simulated && device->isUsable() &&
                device->status.counters.publishedValues > 0;
     };
-    return waitFor(isOnline) ||
-           fail(Texts::tr("The simulated device was not connected in time."));
+    return waitFor(isOnline) || fail(Texts::tr("The simulated device was not connected in time."));
 }
 
 /// The tool's action; null, and the tour has failed, when the plug-in does not offer it.

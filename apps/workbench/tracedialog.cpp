@@ -34,15 +34,13 @@ TraceDialog::TraceDialog(const IedDriver &driver, int deviceNo, const QString &d
                           qMax(timeWidth, header->sectionSizeHint(TraceModel::DirectionColumn)));
     m_ui->lines->scrollToBottom();
 
-    auto *save =
-        m_ui->buttonBox->addButton(tr("&Save Capture…"), QDialogButtonBox::ActionRole);
+    auto *save = m_ui->buttonBox->addButton(tr("&Save Capture…"), QDialogButtonBox::ActionRole);
     save->setObjectName(QStringLiteral("save"));
     auto *clear = m_ui->buttonBox->addButton(tr("C&lear"), QDialogButtonBox::ActionRole);
     clear->setObjectName(QStringLiteral("clear"));
     for (QPushButton *button : {save, clear})
         button->setAutoDefault(false);
-    connect(save, &QPushButton::clicked, this,
-            [this, deviceNo] { emit captureWanted(deviceNo); });
+    connect(save, &QPushButton::clicked, this, [this, deviceNo] { emit captureWanted(deviceNo); });
     connect(clear, &QPushButton::clicked, &m_model, &TraceModel::clear);
     m_timer.setInterval(refreshInterval);
     connect(&m_timer, &QTimer::timeout, this, [this] {

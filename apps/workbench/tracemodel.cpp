@@ -22,8 +22,8 @@ void TraceModel::refresh()
     if (arrived == 0)
         return;
     const QVector<PduCapture::Line> lines = m_driver.trace(
-        m_deviceNo, static_cast<int>(std::min<std::uint64_t>(
-                        arrived, static_cast<std::uint64_t>(m_capacity))));
+        m_deviceNo,
+        static_cast<int>(std::min<std::uint64_t>(arrived, static_cast<std::uint64_t>(m_capacity))));
     if (lines.isEmpty())
         return;
     const int kept = static_cast<int>(m_lines.size());

@@ -15,7 +15,7 @@ class TraceModel : public QAbstractTableModel
 public:
     enum Column { TimeColumn, DirectionColumn, TextColumn, ColumnCount };
 
-    static constexpr int defaultCapacity = 2000;
+    static constexpr int defaultCapacity = 1000;
 
     /// @param driver not owned; must outlive the model
     /// @param capacity rows kept; the oldest go first

@@ -107,9 +107,8 @@ void Workbench::open(const ImportRequest &wanted)
 {
     ImportRequest request = wanted;
     request.file = DeviceStore::canonicalFile(wanted.file);
-    const int known = request.ied.isEmpty()
-                          ? 0
-                          : m_store.find(request.file, request.ied, request.simulate);
+    const int known =
+        request.ied.isEmpty() ? 0 : m_store.find(request.file, request.ied, request.simulate);
     if (known == 0) {
         m_pending.insert(m_loader.load(request), {request, {}});
         return;
@@ -297,10 +296,10 @@ void Workbench::takeListed(const DeviceListModel::Device &previous, const Import
     switch (result.status) {
     case ImportResult::Imported: {
         const QLocale locale;
-        const QString content = tr("Logical devices: %1, logical nodes: %2, data attributes: %3")
-                                    .arg(locale.toString(result.logicalDevices),
-                                         locale.toString(result.logicalNodes),
-                                         locale.toString(result.attributes));
+        const QString content =
+            tr("Logical devices: %1, logical nodes: %2, data attributes: %3")
+                .arg(locale.toString(result.logicalDevices), locale.toString(result.logicalNodes),
+                     locale.toString(result.attributes));
         if (result.simulation) {
             DeviceRecord record = device->record;
             record.configuration.host = QStringLiteral("127.0.0.1");

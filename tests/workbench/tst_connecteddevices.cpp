@@ -300,9 +300,7 @@ void tst_ConnectedDevices::whatIsWrittenIsInTheJournalWithItsOldAndNewValue()
              OperationSucceeded);
     ChangeJournal &changes = m_workbench->changes();
     QTRY_COMPARE(changes.rowCount(), 1);
-    const auto text = [&changes](int column) {
-        return changes.index(0, column).data().toString();
-    };
+    const auto text = [&changes](int column) { return changes.index(0, column).data().toString(); };
     QCOMPARE(text(ChangeJournal::DeviceColumn), QStringLiteral("Feeder (1)"));
     QCOMPARE(text(ChangeJournal::OperationColumn), QStringLiteral("writeVariable"));
     QCOMPARE(text(ChangeJournal::ReferenceColumn), logicalDevice + '/' + controlModel);

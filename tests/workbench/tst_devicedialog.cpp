@@ -50,8 +50,8 @@ private:
     }
     static void pressOk(const QWidget &dialog)
     {
-        QTest::mouseClick(
-            dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok), Qt::LeftButton);
+        QTest::mouseClick(dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok),
+                          Qt::LeftButton);
     }
 
     QVector<DeviceRecord> m_saved;
@@ -315,7 +315,8 @@ void tst_DeviceDialog::aDialogMayCloseWhileATestIsUnderWay()
 
 void tst_DeviceDialog::theAddressOfASimulatedDeviceIsNotToBeChanged()
 {
-    DeviceRecord record = DeviceRecord::ofFile(QStringLiteral(":/a.scd"), QStringLiteral("A"), true);
+    DeviceRecord record =
+        DeviceRecord::ofFile(QStringLiteral(":/a.scd"), QStringLiteral("A"), true);
     record.configuration.number = 1;
     record.configuration.host = QStringLiteral("127.0.0.1");
     const auto dialog = make(record);

@@ -246,8 +246,8 @@ void tst_DeviceStore::onlyTheOwnerCanReadTheFile()
 {
     DeviceStore store(settingsFile());
     store.add(sclFile(QStringLiteral("a.scd")), QStringLiteral("A"));
-    const QFile::Permissions others = QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup |
-                                      QFile::WriteOther;
+    const QFile::Permissions others =
+        QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup | QFile::WriteOther;
     QVERIFY(!(QFile::permissions(settingsFile()) & others));
 }
 

@@ -20,9 +20,9 @@
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QProgressBar>
-#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QToolButton>
@@ -271,9 +271,7 @@ void tst_DeviceWindow::theTraceGrowsAndPauses()
     trace->findChild<QPushButton *>("clear")->click();
     QCOMPARE(lines->rowCount(), 0);
     trace->findChild<QCheckBox *>("pause")->setChecked(true);
-    const auto exchanged = [this] {
-        return m_workbench->driver().status(1).counters.sentPdus;
-    };
+    const auto exchanged = [this] { return m_workbench->driver().status(1).counters.sentPdus; };
     const auto sent = exchanged();
     QTRY_VERIFY(exchanged() > sent + 1);
     QCOMPARE(lines->rowCount(), 0);

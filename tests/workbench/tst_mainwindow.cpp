@@ -139,7 +139,8 @@ void tst_MainWindow::open(const QString &name, const QString &ied)
 void tst_MainWindow::anEmptyListSaysWhatToDo()
 {
     QVERIFY(child<QLabel>("emptyText")->isVisible());
-    QCOMPARE(child<QLabel>("emptyText")->text(), QStringLiteral("No device yet: add one, or open an SCL file"));
+    QCOMPARE(child<QLabel>("emptyText")->text(),
+             QStringLiteral("No device yet: add one, or open an SCL file"));
     QVERIFY(child<QPushButton>("emptyOpen")->isVisible());
     open(QStringLiteral("a.icd"));
     QVERIFY(!child<QLabel>("emptyText")->isVisible());
