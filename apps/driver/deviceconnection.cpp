@@ -203,7 +203,7 @@ DeviceConnection::DeviceConnection(Private, asio::any_io_executor executor,
     : m_configuration(std::move(configuration))
     , m_environment(std::move(environment))
     , m_strand(asio::make_strand(std::move(executor)))
-    , m_capture(std::make_shared<PduCapture>())
+    , m_capture(std::make_shared<PduCapture>(m_environment.captureOctets))
 {
     m_status.number = m_configuration.number;
     m_status.name = m_configuration.name;

@@ -74,6 +74,7 @@ struct ConnectionEnvironment
     std::function<bool()> isReadOnly;
     /// Folder of the descriptions that devices gave of themselves; empty for none.
     QString cacheFolder;
+    std::size_t captureOctets = PduCapture::defaultLimit;
 };
 
 /// The driver's side of one device with an address: makes the association, keeps it, notices its

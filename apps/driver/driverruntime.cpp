@@ -78,6 +78,7 @@ void IedDriver::Runtime::setDevice(const DeviceConfiguration &configuration)
         environment.release = [this](int number) { release(number); };
         environment.isReadOnly = [this] { return isReadOnly(); };
         environment.cacheFolder = m_options.cacheFolder;
+        environment.captureOctets = m_options.captureOctets;
         created = DeviceConnection::create(m_context.get_executor(), configuration,
                                            std::move(environment));
     }

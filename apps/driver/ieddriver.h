@@ -20,6 +20,8 @@ struct IedDriverOptions
     /// Folder in which the descriptions that devices gave of themselves are kept between starts;
     /// empty for none.
     QString cacheFolder;
+    /// Octets of the last PDUs that are kept of each device, for captures and traces.
+    std::size_t captureOctets = PduCapture::defaultLimit;
     /// Takes the records of live-value events, in one thread at a time; the event middleware unless
     /// given.
     std::function<void(const QList<QByteArray> &records)> poster;

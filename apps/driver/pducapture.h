@@ -21,7 +21,7 @@ class QIODevice;
 class PduCapture
 {
 public:
-    static constexpr std::size_t defaultLimit = 16U << 20;
+    static constexpr std::size_t defaultLimit = 4U << 20;
 
     struct Line
     {

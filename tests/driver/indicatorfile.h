@@ -8,15 +8,16 @@
 namespace drivertest {
 
 /// An IED of nothing but indications: GGIO1 to GGIOn with Ind1 to Indm each in the logical device
-/// "<name>LD", a data set "Set<i>" for each node, and a block for each set: unbuffered "urcb<i>"
-/// and buffered "brcb<i>".
+/// "<name>LD", a data set "Set<i>" for each node, and blocks for each set: unbuffered "urcb<i>" and,
+/// unless it is to have none, buffered "brcb<i>".
 class IndicatorFile
 {
 public:
-    IndicatorFile(QByteArray name, int nodes, int perNode)
+    IndicatorFile(QByteArray name, int nodes, int perNode, bool hasBuffered = true)
         : m_name(std::move(name))
         , m_nodes(nodes)
         , m_perNode(perNode)
+        , m_hasBuffered(hasBuffered)
     {
     }
 
@@ -52,8 +53,9 @@ public:
                         "\" doName=\"Ind" + QByteArray::number(i) + "\" fc=\"ST\"/>";
             }
             sets += "</DataSet>";
-            blocks += block("urcb" + number, "Set" + number, false) +
-                      block("brcb" + number, "Set" + number, true);
+            blocks += block("urcb" + number, "Set" + number, false);
+            if (m_hasBuffered)
+                blocks += block("brcb" + number, "Set" + number, true);
             nodes += "<LN lnClass=\"GGIO\" inst=\"" + number + "\" lnType=\"GGIO_1\"/>";
         }
         return "<SCL xmlns=\"http://www.iec.ch/61850/2003/SCL\" version=\"2007\" revision=\"B\">"
@@ -88,6 +90,7 @@ private:
     QByteArray m_name;
     int m_nodes;
     int m_perNode;
+    bool m_hasBuffered;
 };
 
 } // namespace drivertest
