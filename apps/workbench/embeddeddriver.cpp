@@ -61,6 +61,7 @@ ImportResult importFromFile(const ImportRequest &request, const std::atomic<bool
         result.ieds.append(summaryOf(ied));
     if (request.ied.isEmpty() && document.ieds.size() > 1) {
         result.status = ImportResult::ChoiceNeeded;
+        SclImport::chooseIed(document, request.ied, result.error);
         return result;
     }
 

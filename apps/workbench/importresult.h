@@ -40,7 +40,7 @@ struct ImportResult
     };
 
     Status status = Failed;
-    QString error;                  ///< one sentence when the import failed
+    QString error;                  ///< one sentence when the import failed or a choice is needed
     QString ied;                    ///< name of the IED that was imported
     QVector<IedSummary> ieds;       ///< in the order of the file
     QVector<scl::Finding> findings; ///< of the whole file

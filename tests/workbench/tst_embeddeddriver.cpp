@@ -118,6 +118,7 @@ void tst_EmbeddedDriver::severalIedsAskForAChoice()
     const ImportResult result = import(
         file(QStringLiteral("two.scd"), sclFile(ied("BAY1") + ied("HMI", false) + ied("BAY2"))));
     QCOMPARE(result.status, ImportResult::ChoiceNeeded);
+    QVERIFY2(result.error.endsWith(QLatin1Char('.')), qPrintable(result.error));
     QCOMPARE(result.ieds.size(), 3);
     QCOMPARE(result.ieds[0].name, QStringLiteral("BAY1"));
     QCOMPARE(result.ieds[0].description, QStringLiteral("M, T"));

@@ -43,6 +43,7 @@ struct World
             result.error = QStringLiteral("The file is not an SCL file.");
         } else if (request.ied.isEmpty() && names.size() > 1) {
             result.status = ImportResult::ChoiceNeeded;
+            result.error = QStringLiteral("The file describes several IEDs.");
         } else if (!request.ied.isEmpty() && !names.contains(request.ied)) {
             result.error = QStringLiteral("The file holds no IED \"%1\".").arg(request.ied);
         } else {
@@ -81,6 +82,7 @@ private slots:
     void aFileThatCannotBeUsedLeavesTheListAsItWas();
     void severalBadFilesAreReportedTogether();
     void aFileWithSeveralIedsAsksWhichOne();
+    void aDeviceOfAFormThatNamesNoneOfSeveralIedsSaysSo();
     void openingTheSameIedAgainSelectsIt();
     void aVanishedFileStaysInTheListWithItsReason();
     void aVanishedFileCanBeReadAgainWhenItIsBack();
@@ -244,6 +246,24 @@ void tst_Workbench::aFileWithSeveralIedsAsksWhichOne()
     workbench->open(path, QStringLiteral("B"));
     QTRY_COMPARE(workbench->devices().rowCount(), 1);
     QCOMPARE(workbench->devices().deviceAt(0)->record.ied(), QStringLiteral("B"));
+}
+
+void tst_Workbench::aDeviceOfAFormThatNamesNoneOfSeveralIedsSaysSo()
+{
+    const auto workbench = makeUsed();
+    DeviceRecord record;
+    record.configuration.name = QStringLiteral("Bay");
+    record.configuration.sclFile =
+        file(QStringLiteral("a.scd"), {QStringLiteral("A"), QStringLiteral("B")});
+    QVERIFY(workbench->put(record).isEmpty());
+    const QModelIndex state = workbench->devices().index(0, DeviceListModel::StateColumn);
+    QTRY_COMPARE(state.data().toString(),
+                 QStringLiteral("Model cannot be read: The file describes several IEDs."));
+    DeviceRecord named = workbench->devices().deviceAt(0)->record;
+    named.configuration.ied = QStringLiteral("B");
+    QVERIFY(workbench->put(named).isEmpty());
+    QTRY_COMPARE(state.data().toString(), QStringLiteral("Offline model"));
+    QCOMPARE(held(*workbench, named.number()), named.file().toUtf8() + "#B");
 }
 
 void tst_Workbench::openingTheSameIedAgainSelectsIt()
