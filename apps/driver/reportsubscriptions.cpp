@@ -364,8 +364,6 @@ asio::awaitable<Outcome> ReportSubscriptions::disable(acsi::Reference block)
     Outcome outcome;
     if (!disabled)
         outcome = Outcome::failed(disabled.error());
-    ReportSubscription gone;
-    gone.reference = reference;
     if (outcome) {
         const auto found = m_subscriptions.find(reference);
         if (found != m_subscriptions.end()) {
@@ -374,8 +372,17 @@ asio::awaitable<Outcome> ReportSubscriptions::disable(acsi::Reference block)
         }
         m_reserved.erase(reference);
         m_connection.setProblem(text(reference), {});
+        ReportControlBlock *shown =
+            m_connection.model()->reportBlock(text(block.device), text(acsi::itemText(block)));
+        if (shown)
+            shown->enabled = false;
     }
-    journal(gone, {}, Texts::tr("disabled"), outcome.error);
+    DeviceChange change;
+    change.operation = QStringLiteral("writeValue");
+    change.reference = text(attributeOf(block, "RptEna"));
+    change.newValue = QStringLiteral("false");
+    change.error = outcome.error;
+    m_connection.journal(std::move(change));
     co_return outcome;
 }
 
