@@ -182,7 +182,8 @@ QString DeviceListModel::stateText(const Device &device)
                                            .arg(100 * status.modelStepsDone / status.modelSteps)
                                      : tr("Reading the model…");
     case DeviceState::Online:
-        return tr("Connected");
+        return status.reason.isEmpty() ? tr("Connected")
+                                       : tr("Connected") + QStringLiteral(": ") + status.reason;
     case DeviceState::Waiting:
         return tr("Trying again: %1").arg(status.reason);
     }

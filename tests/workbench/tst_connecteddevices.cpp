@@ -45,6 +45,7 @@ private slots:
     void aDeviceThatWasLeftIsNotConnectedAtTheNextStart();
     void anAddedDeviceIsConnectedAndRemembered();
     void aDeviceThatCannotBeReachedSaysWhy();
+    void aConnectedDeviceWhoseFileCannotBeReadSaysSo();
     void faultsOfAConfigurationChangeNothing();
     void anEditedDeviceIsReachedAtItsNewAddress();
     void aDeviceOfAFileCanGetAnAddress();
@@ -225,6 +226,21 @@ void tst_ConnectedDevices::aDeviceThatCannotBeReachedSaysWhy()
     QVERIFY2(state.startsWith(QLatin1String("Trying again: ")), qPrintable(state));
     QVERIFY2(state.contains(QStringLiteral("refused"), Qt::CaseInsensitive), qPrintable(state));
     QVERIFY(!isOnline(1));
+}
+
+void tst_ConnectedDevices::aConnectedDeviceWhoseFileCannotBeReadSaysSo()
+{
+    const auto simulated = simulate();
+    QFile file(m_folder->filePath(QStringLiteral("damaged.scd")));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("<SCL") == 4);
+    file.close();
+    DeviceRecord record = recordFor(*simulated);
+    record.configuration.sclFile = file.fileName();
+    QVERIFY(m_workbench->put(record).isEmpty());
+    QTRY_VERIFY(isOnline(1));
+    const QString state = cell(DeviceListModel::StateColumn);
+    QVERIFY2(state.startsWith(QLatin1String("Connected: ")) && state.endsWith(QLatin1Char('.')),
+             qPrintable(state));
 }
 
 void tst_ConnectedDevices::faultsOfAConfigurationChangeNothing()
