@@ -629,10 +629,11 @@ void Association::askForSignOfLife(CallTable::Clock::time_point now)
 
 bool Association::send(const Pdu &pdu)
 {
-    const std::vector<std::uint8_t> octets = encode(pdu);
-    if (octets.size() > m_pduSize)
+    ber::Writer writer;
+    write(writer, pdu);
+    if (writer.size() > m_pduSize)
         return false;
-    m_link->send(octets);
+    m_link->send(writer.view());
     return true;
 }
 

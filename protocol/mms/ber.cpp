@@ -402,8 +402,10 @@ Writer::Writer(std::size_t capacity)
 
 void Writer::grow(std::size_t needed)
 {
+    // Long octets are followed by the headers of their groups.
+    constexpr std::size_t headers = 64;
     const std::size_t used = size();
-    const std::size_t capacity = std::max(m_capacity * 2, used + needed);
+    const std::size_t capacity = std::max(m_capacity * 2, used + needed + headers);
     std::unique_ptr<std::uint8_t[]> buffer(new std::uint8_t[capacity]);
     std::memcpy(buffer.get() + capacity - used, m_buffer.get() + m_begin, used);
     m_buffer = std::move(buffer);

@@ -357,21 +357,27 @@ Actions Connection::send(Bytes message)
     return actions;
 }
 
-void Connection::send(Bytes message, Octets &out) const
+void Connection::send(Bytes head, Bytes body, Octets &out) const
 {
     const std::size_t room = m_unitSize - dataHeaderSize;
-    const std::size_t units = std::max<std::size_t>(1, (message.size() + room - 1) / room);
-    out.reserve(out.size() + message.size() + units * (tpktHeaderSize + dataHeaderSize));
+    std::size_t left = head.size() + body.size();
+    const std::size_t units = std::max<std::size_t>(1, (left + room - 1) / room);
+    out.reserve(out.size() + left + units * (tpktHeaderSize + dataHeaderSize));
+    const auto take = [&out](Bytes &from, std::size_t most) {
+        const std::size_t count = std::min(most, from.size());
+        out.insert(out.end(), from.begin(), from.begin() + static_cast<std::ptrdiff_t>(count));
+        from = from.subspan(count);
+        return count;
+    };
     do {
-        const std::size_t portion = std::min(room, message.size());
+        const std::size_t portion = std::min(room, left);
         const std::size_t length = portion + dataHeaderSize + tpktHeaderSize;
-        const std::uint8_t mark = portion == message.size() ? 0x80 : 0x00;
+        left -= portion;
+        const std::uint8_t mark = left == 0 ? 0x80 : 0x00;
         out.insert(out.end(), {3, 0, static_cast<std::uint8_t>(length >> 8),
                                static_cast<std::uint8_t>(length & 0xff), 2, codeData, mark});
-        const auto end = message.begin() + static_cast<std::ptrdiff_t>(portion);
-        out.insert(out.end(), message.begin(), end);
-        message = message.subspan(portion);
-    } while (!message.empty());
+        take(body, portion - take(head, portion));
+    } while (left != 0);
 }
 
 Actions Connection::networkClosed(const std::string &reason)

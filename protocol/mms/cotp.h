@@ -150,7 +150,9 @@ public:
     /// Open: send one message, in as many units as it needs.
     Actions send(Bytes message);
     /// Send one message behind what @p out holds already.
-    void send(Bytes message, Octets &out) const;
+    void send(Bytes message, Octets &out) const { send({}, message, out); }
+    /// A message of two parts.
+    void send(Bytes head, Bytes body, Octets &out) const;
     /// The network connection ended or is to be given up.
     Actions networkClosed(const std::string &reason);
 

@@ -351,7 +351,10 @@ void Link::startWriting()
 
 void Link::apply(StackOutput output)
 {
-    m_queue.insert(m_queue.end(), output.octets.begin(), output.octets.end());
+    if (m_queue.empty())
+        m_queue = std::move(output.octets);
+    else
+        m_queue.insert(m_queue.end(), output.octets.begin(), output.octets.end());
     if (output.closeNetwork)
         m_closeWhenSent = true;
     const bool saysGoodbye = m_closeWhenSent && m_stream.isSecure();

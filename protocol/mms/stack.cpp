@@ -96,12 +96,10 @@ StackOutput Stack::send(Bytes pdu)
     StackOutput output;
     if (!isOpen())
         return output;
-    Octets message;
-    message.reserve(pdu.size() + 32);
-    session::appendDataHeader(message);
-    m_presentation.appendHeader(message, pdu.size());
-    message.insert(message.end(), pdu.begin(), pdu.end());
-    m_transport.send(message, output.octets);
+    Octets head;
+    session::appendDataHeader(head);
+    m_presentation.appendHeader(head, pdu.size());
+    m_transport.send(head, pdu, output.octets);
     return output;
 }
 
