@@ -104,15 +104,20 @@ double median(std::vector<double> values)
     return values[values.size() / 2];
 }
 
+/// @p prepare is called before each and takes no part of the time.
 template <typename Ours, typename Theirs>
-void compare(benchmark::State &state, Scene &scene, double limit, Ours ours, Theirs theirs)
+void compare(
+    benchmark::State &state, Scene &scene, double limit, Ours ours, Theirs theirs,
+    const std::function<void()> &prepare = [] {})
 {
     for (auto _ : state) {
         std::vector<double> ourTimes;
         std::vector<double> theirTimes;
         std::vector<double> work;
         for (int i = 0; i < rounds; ++i) {
+            prepare();
             theirTimes.push_back(scene.timeTheirs(theirs));
+            prepare();
             const std::clock_t start = std::clock();
             ourTimes.push_back(scene.timeOurs(ours));
             work.push_back(static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);
@@ -301,19 +306,16 @@ void fileUpload(benchmark::State &state)
 {
     Scene scene;
     writeFile(scene.own("upload.dat"));
-    int number = 0;
-    const auto nextName = [&] { return QStringLiteral("uploaded%1.dat").arg(++number); };
+    const QString name = "uploaded.dat";
     const auto check = [&] {
-        const QString name = scene.served(QStringLiteral("uploaded%1.dat").arg(number));
-        if (QFile(name).size() != fileSize)
+        if (QFile(scene.served(name)).size() != fileSize)
             throw std::runtime_error("the file is not whole");
-        QFile::remove(name);
     };
     compare(
         state, scene, 1,
         [&] {
             QFile file(scene.own("upload.dat"));
-            file.open(QIODevice::ReadOnly);
+            file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
             acsi::FileSource source;
             source.size = fileSize;
             source.read = [&file](std::uint64_t position,
@@ -322,16 +324,17 @@ void fileUpload(benchmark::State &state)
                 return static_cast<std::size_t>(file.read(reinterpret_cast<char *>(block.data()),
                                                           static_cast<qint64>(block.size())));
             };
-            scene.loop().run(scene.client(), acsi::upload(scene.client(), nextName().toStdString(),
-                                                          std::move(source)));
+            scene.loop().run(scene.client(),
+                             acsi::upload(scene.client(), name.toStdString(), std::move(source)));
             check();
         },
         [&] {
-            const double seconds = scene.theirs(
-                "timesetfile", {{"source", "upload.dat"}, {"destination", nextName()}});
+            const double seconds =
+                scene.theirs("timesetfile", {{"source", "upload.dat"}, {"destination", name}});
             check();
             return seconds;
-        });
+        },
+        [&] { QFile::remove(scene.served(name)); });
 }
 BENCHMARK(fileUpload)->Iterations(1)->Unit(benchmark::kMillisecond);
 
