@@ -654,6 +654,7 @@ asio::awaitable<QString> DeviceConnection::getReady(ClientPointer client)
     co_await readBlocks(client);
     // The browser offers controls by their control model, so it comes with the model.
     Publication publication;
+    publication.cause = PublishCause::Polled;
     publication.onlyChanges = true;
     co_await readValues(client, configurationConstraints, publication);
     co_return client->isOpen() ? QString() : m_endReason;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "livevalues.h"
 
+#include "devicestatus.h"
+
 #include <tavrix/tavrix.h>
 
 #include <asio/post.hpp>
@@ -52,7 +54,11 @@ void LiveValues::publish(std::vector<MMSValue> values)
     for (MMSValue &value : values) {
         const auto found = m_position.constFind(value.reference);
         if (found != m_position.constEnd()) {
-            m_gathered[*found] = std::move(value);
+            MMSValue &kept = m_gathered[*found];
+            // What somebody waits for, an answer or a report, stays to be known as such.
+            if (value.cause == PublishCause::Polled)
+                value.cause = kept.cause;
+            kept = std::move(value);
         } else {
             m_position.insert(value.reference, m_gathered.size());
             m_gathered.push_back(std::move(value));

@@ -60,6 +60,7 @@ struct Values
     std::string optionalFields;
     int integrityPeriod = 0;
     int bufferTime = 0;
+    bool polls = false;
     bool attributes = false;
     bool edited = false;
     int group = 0;
@@ -67,6 +68,9 @@ struct Values
     Command command;
     std::string batch;
 };
+
+// Data that no report brings is looked at this often.
+constexpr int watchIntervalMs = 1000;
 
 constexpr const char *referenceHelp =
     "Data as \"LD/LN.Data.attribute\", with \"[FC]\" behind it for one functional constraint, or as "
@@ -142,7 +146,7 @@ public:
             device.tls.authorityFiles = QStringList(text(m_values.authorities));
         device.tls.certificateFile = text(m_values.certificate);
         device.tls.keyFile = text(m_values.key);
-        device.pollInterval = std::chrono::milliseconds(0);
+        device.pollInterval = std::chrono::milliseconds(m_values.polls ? watchIntervalMs : 0);
         if (!m_values.connect.empty()) {
             const QString refusal = takeAddress(text(m_values.connect), device);
             if (!refusal.isEmpty())
@@ -297,6 +301,7 @@ private:
         CLI::App *watch = command(
             &m_app, "watch", "Show values as they come, until stopped",
             [&v](Session &session) { return Commands::watch(session, texts(v.list), v.limit); });
+        watch->preparse_callback([&v](std::size_t) { v.polls = true; });
         watch->add_option("references", v.list, "Data; all unless given");
         addLimits(watch);
     }

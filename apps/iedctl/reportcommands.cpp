@@ -222,7 +222,7 @@ ExitStatus enableReport(Session &session, const ReportRequest &request)
         if (status != ExitStatus::Done)
             return status;
     }
-    streamValues(session, *device, {}, request.limit);
+    streamValues(session, *device, {}, Session::Origin::Wanted, request.limit);
     return disableReport(session, request.block);
 }
 

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "session.h"
 
+#include "driver/devicestatus.h"
+
 #include <QtCore/QDataStream>
 #include <QtCore/QSet>
+
+#include <algorithm>
 
 namespace {
 
@@ -67,9 +71,22 @@ void Session::listen()
         m_receiver = std::make_unique<ValueReceiver>();
 }
 
-QList<MMSValue> Session::receive(int waitMs)
+QList<MMSValue> Session::receive(int waitMs, Origin origin)
 {
-    return m_receiver->receive(m_deviceNo, waitMs);
+    QElapsedTimer waited;
+    waited.start();
+    for (;;) {
+        const int left = std::max(0, waitMs - static_cast<int>(waited.elapsed()));
+        QList<MMSValue> values = m_receiver->receive(m_deviceNo, left);
+        if (origin == Origin::Any || values.isEmpty())
+            return values;
+        const auto unasked = [](const MMSValue &value) {
+            return value.cause == PublishCause::Polled;
+        };
+        values.erase(std::remove_if(values.begin(), values.end(), unasked), values.end());
+        if (!values.isEmpty())
+            return values;
+    }
 }
 
 std::optional<QHash<QString, MMSValue>>
@@ -77,7 +94,7 @@ Session::gather(const QStringList &references,
                 const std::function<OperationResult(QString &error)> &request)
 {
     listen();
-    while (!receive(0).isEmpty()) {
+    while (!receive(0, Origin::Any).isEmpty()) {
         // What came before belongs to something else.
     }
     QString error;
@@ -89,7 +106,7 @@ Session::gather(const QStringList &references,
     // Also after a failure: what could be read of several references was published.
     while (!missing.isEmpty() && !interrupted()) {
         const QList<MMSValue> received =
-            receive(result == OperationSucceeded ? silenceMs : silenceMs / 10);
+            receive(result == OperationSucceeded ? silenceMs : silenceMs / 10, Origin::Wanted);
         if (received.isEmpty())
             break;
         for (const MMSValue &value : received) {

@@ -43,7 +43,11 @@ public:
 
     /// Starts to listen; values that come from now on are kept for receive().
     void listen();
-    QList<MMSValue> receive(int waitMs);
+    enum class Origin {
+        Any,
+        Wanted, ///< an answer or a report, not what the driver reads of its own accord
+    };
+    QList<MMSValue> receive(int waitMs, Origin origin);
 
     /// Calls @p request, which makes the driver publish values, and gathers those of
     /// @p references; ends when all came or after a while of silence. Nothing when the request

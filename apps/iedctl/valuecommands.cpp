@@ -39,7 +39,8 @@ void showValues(Output &output, const QJsonArray &rows)
 }
 
 ExitStatus streamValues(Session &session, const PhysicalDevice &device,
-                        const QStringList &references, Commands::StreamLimit limit)
+                        const QStringList &references, Session::Origin origin,
+                        Commands::StreamLimit limit)
 {
     const QSet<QString> wanted(references.cbegin(), references.cend());
     QElapsedTimer running;
@@ -53,7 +54,7 @@ ExitStatus streamValues(Session &session, const PhysicalDevice &device,
                 break;
             wait = static_cast<int>(std::min<qint64>(left, wait));
         }
-        for (const MMSValue &value : session.receive(wait)) {
+        for (const MMSValue &value : session.receive(wait, origin)) {
             if (!wanted.isEmpty() && !wanted.contains(value.reference))
                 continue;
             const QJsonObject row = valueRow(device, value);
@@ -162,7 +163,7 @@ ExitStatus watch(Session &session, const QStringList &references, StreamLimit li
         if (result != OperationSucceeded)
             return session.failed(result, error);
     }
-    return streamValues(session, *device, wanted, limit);
+    return streamValues(session, *device, wanted, Session::Origin::Any, limit);
 }
 
 } // namespace Commands

@@ -2,13 +2,13 @@
 #pragma once
 
 #include "commands.h"
+#include "session.h"
 
 #include <devicemodel/mmsvalue.h>
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonObject>
 
-class Output;
 class PhysicalDevice;
 
 /// A live value with what the model knows about it.
@@ -18,4 +18,5 @@ void showValues(Output &output, const QJsonArray &rows);
 /// Shows the values that come until the limit or the operator ends it.
 /// @param references of attributes; empty: all
 ExitStatus streamValues(Session &session, const PhysicalDevice &device,
-                        const QStringList &references, Commands::StreamLimit limit);
+                        const QStringList &references, Session::Origin origin,
+                        Commands::StreamLimit limit);

@@ -157,17 +157,28 @@ private:
             && m_position.node().basicType == scl::BasicType::Dbpos;
     }
 
+    /// The nodes around the object: those of its own prefix and instance; where one of the two has
+    /// no prefix, the instance alone.
     void findSurroundings()
+    {
+        findSurroundings(true);
+        findSurroundings(false);
+    }
+
+    void findSurroundings(bool ofOwnPrefix)
     {
         const Model::Domain &domain = m_model.domains()[m_domain];
         const NodeName own = split(m_model.logicalNodes()[m_node].name);
         for (std::uint32_t node = domain.firstNode; node < domain.firstNode + domain.nodeCount;
              ++node) {
             const NodeName other = split(m_model.logicalNodes()[node].name);
-            const bool sameBay = other.inst == own.inst;
+            const bool anyPrefix
+                = !ofOwnPrefix && (own.prefix.empty() || other.prefix.empty());
+            const bool sameBay
+                = other.inst == own.inst && (anyPrefix || other.prefix == own.prefix);
             if (other.lnClass == "LLN0")
                 m_rootNode = node;
-            else if (other.lnClass == "CILO" && sameBay && m_isSwitch)
+            else if (other.lnClass == "CILO" && sameBay && m_isSwitch && !m_interlock)
                 m_interlock = node;
             else if (other.lnClass == "RSYN" && m_isSwitch && !m_synchrocheck)
                 m_synchrocheck = node;

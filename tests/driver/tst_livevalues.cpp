@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "driver/devicestatus.h"
 #include "driver/livevalues.h"
 
 #include <tavrix/tavrix.h>
@@ -87,6 +88,7 @@ class tst_LiveValues : public QObject
 private slots:
     void valuesOfAnIntervalComeInOneEventInOrder();
     void onlyTheNewestValueOfAReferenceIsPosted();
+    void anAnswerStaysOneWhenItIsReadAgain();
     void manyValuesAreSplitIntoSeveralEvents();
     void twentyThousandReferencesReachAnOpenBrowserComplete();
     void nobodyHasToListen();
@@ -120,6 +122,22 @@ void tst_LiveValues::onlyTheNewestValueOfAReferenceIsPosted()
     const QList<QByteArray> records = publisher.events().first();
     QCOMPARE(records.size(), 2);
     QCOMPARE(read(records.at(0)).value, QVariant(100));
+}
+
+void tst_LiveValues::anAnswerStaysOneWhenItIsReadAgain()
+{
+    Publisher publisher;
+    const auto values = publisher.withCollector();
+    MMSValue answer = value("a", 1);
+    answer.cause = PublishCause::Read;
+    MMSValue polled = value("a", 2);
+    polled.cause = PublishCause::Polled;
+    values->publish({answer});
+    values->publish({polled});
+    QVERIFY(publisher.wait(1));
+    const MMSValue posted = read(publisher.events().first().first());
+    QCOMPARE(posted.value, QVariant(2));
+    QCOMPARE(posted.cause, quint32(PublishCause::Read));
 }
 
 void tst_LiveValues::manyValuesAreSplitIntoSeveralEvents()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "driver/simulatedstation.h"
+#include "simulator/directoryfiles.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QJsonArray>
@@ -47,8 +48,13 @@ private slots:
     void aValueOutOfRangeIsNotSent();
     void aDataSetIsMadeReadAndDeleted();
     void watchingShowsChangesOneALine();
-    void aStoppedWatchEndsOrderly();
+    void aWatchSeesChangesAndEndsOrderly();
     void aBatchRunsWithinOneAssociation();
+    void anObjectIsSelectedOperatedAndSeenToMove();
+    void aRefusedCommandEndsWithTheCause();
+    void anEnabledReportShowsItsValues();
+    void aSettingGroupIsActivatedAndRead();
+    void filesTravelBothWays();
     void nothingIsChangedReadOnly();
     void aDeviceThatIsNotThereEndsWithThree();
     void aSilentDeviceEndsInTime();
@@ -58,12 +64,20 @@ private:
     Ended run(const QStringList &arguments, const QByteArray &input = {}) const;
     QStringList connected(const QStringList &command) const;
 
+    QTemporaryDir m_files;
     std::unique_ptr<SimulatedIed> m_bay;
 };
 
 void tst_IedctlProcess::initTestCase()
 {
-    m_bay = std::make_unique<SimulatedIed>(QStringLiteral(STATION_FILE));
+    sim::FileOptions files;
+    files.directory = m_files.path().toStdString();
+    const auto service = sim::DirectoryFiles::create(files);
+    QVERIFY(service.ok());
+    sim::DeviceOptions options;
+    options.files = *service;
+    m_bay = std::make_unique<SimulatedIed>(QStringLiteral(STATION_FILE), QString(), std::string(),
+                                           options);
 }
 
 void tst_IedctlProcess::cleanupTestCase()
@@ -188,13 +202,26 @@ void tst_IedctlProcess::watchingShowsChangesOneALine()
     QCOMPARE(line.value(QLatin1String("value")).toDouble(), 12.5);
 }
 
-void tst_IedctlProcess::aStoppedWatchEndsOrderly()
+void tst_IedctlProcess::aWatchSeesChangesAndEndsOrderly()
 {
     QProcess process;
     process.start(QStringLiteral(IEDCTL), connected({QStringLiteral("watch"), phaseA}));
     QVERIFY(process.waitForStarted());
-    while (!process.canReadLine())
-        QVERIFY(process.waitForReadyRead(10000));
+    const auto nextLine = [&process] {
+        while (!process.canReadLine()) {
+            if (!process.waitForReadyRead(10000))
+                return QString();
+        }
+        return QString::fromUtf8(process.readLine());
+    };
+    QVERIFY(!nextLine().isEmpty());
+    // No report brings it, so it is looked for.
+    m_bay->set("BAY1E1MEAS", "MMXU1$MX$A$phsA$cVal$mag$f", mms::Data::float32(77.5F));
+    QString line;
+    do {
+        line = nextLine();
+        QVERIFY(!line.isEmpty());
+    } while (!line.contains(QLatin1String("77.5")));
     process.terminate();
     QVERIFY(process.waitForFinished(10000));
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
@@ -212,6 +239,91 @@ void tst_IedctlProcess::aBatchRunsWithinOneAssociation()
     QCOMPARE(ended.status, 0);
     QVERIFY2(ended.output.contains(QLatin1String("BAY1E1CTRL/QA1CSWI1$ST$Pos")),
              qPrintable(ended.output));
+}
+
+void tst_IedctlProcess::anObjectIsSelectedOperatedAndSeenToMove()
+{
+    const auto position = [this](const char *item) { return m_bay->value("BAY1E1CTRL", item); };
+    const auto breakerBefore = position("QA1XCBR1$ST$Pos$stVal");
+    const auto disconnectorBefore = position("QB1XSWI1$ST$Pos$stVal");
+    const Ended ended = run(connected({QStringLiteral("operate"),
+                                       QStringLiteral("BAY1E1CTRL/QB1CSWI1.Pos"),
+                                       QStringLiteral("--value"), QStringLiteral("off")}));
+    QCOMPARE(ended.complaint, QString());
+    QCOMPARE(ended.status, 0);
+    // The disconnector of the switch controller's own prefix moves, and no other switch.
+    QVERIFY(position("QB1XSWI1$ST$Pos$stVal") != disconnectorBefore);
+    QVERIFY(position("QA1XCBR1$ST$Pos$stVal") == breakerBefore);
+}
+
+void tst_IedctlProcess::aRefusedCommandEndsWithTheCause()
+{
+    const Ended ended = run(connected({QStringLiteral("operate"),
+                                       QStringLiteral("BAY1E1CTRL/QB1CSWI1.Pos"),
+                                       QStringLiteral("--value"), QStringLiteral("off")}));
+    QCOMPARE(ended.status, 1);
+    QVERIFY2(ended.complaint.contains(QLatin1String("position has been reached")),
+             qPrintable(ended.complaint));
+}
+
+void tst_IedctlProcess::anEnabledReportShowsItsValues()
+{
+    const QString block = QStringLiteral("BAY1E1MEAS/LLN0$RP$urcbMeasurands01");
+    const Ended ended = run(connected({QStringLiteral("report"), QStringLiteral("enable"), block,
+                                       QStringLiteral("--gi"), QStringLiteral("--count"),
+                                       QStringLiteral("1"), QStringLiteral("--json")}));
+    QCOMPARE(ended.complaint, QString());
+    QCOMPARE(ended.status, 0);
+    QVERIFY2(ended.output.contains(QLatin1String("BAY1E1MEAS/MMXU1$MX$")),
+             qPrintable(ended.output));
+    const Ended shown = run(connected({QStringLiteral("report"), QStringLiteral("show"), block}));
+    QVERIFY2(shown.output.contains(QLatin1String("Measurands")), qPrintable(shown.output));
+    // It was disabled at the end.
+    QCOMPARE(m_bay->value("BAY1E1MEAS", "LLN0$RP$urcbMeasurands01$RptEna"),
+             mms::Data::boolean(false));
+}
+
+void tst_IedctlProcess::aSettingGroupIsActivatedAndRead()
+{
+    const auto group = [this](const QStringList &words) {
+        return run(connected(QStringList{QStringLiteral("group")} + words));
+    };
+    const QString device = QStringLiteral("BAY1E1PROT");
+    const Ended activated = group({QStringLiteral("activate"), device, QStringLiteral("2")});
+    QCOMPARE(activated.complaint, QString());
+    QCOMPARE(m_bay->value(device.toStdString(), "LLN0$SP$SGCB$ActSG").toInteger(),
+             std::optional<std::int64_t>(2));
+    const Ended read = group({QStringLiteral("read"), device, QStringLiteral("--json")});
+    QCOMPARE(read.complaint, QString());
+    QVERIFY(!read.rows().isEmpty());
+    const Ended none = group({QStringLiteral("activate"), device, QStringLiteral("9")});
+    QCOMPARE(none.status, 1);
+    QCOMPARE(none.complaint.count(QLatin1Char('\n')), 1);
+}
+
+void tst_IedctlProcess::filesTravelBothWays()
+{
+    const auto file = [this](const QStringList &words) {
+        return run(connected(QStringList{QStringLiteral("file")} + words));
+    };
+    QTemporaryDir local;
+    const QString sent = local.filePath(QStringLiteral("sent.txt"));
+    const QString fetched = local.filePath(QStringLiteral("fetched.txt"));
+    const QByteArray content(70000, 'r');
+    QFile source(sent);
+    QVERIFY(source.open(QIODevice::WriteOnly));
+    QCOMPARE(source.write(content), qint64(content.size()));
+    source.close();
+
+    QCOMPARE(file({QStringLiteral("put"), sent, QStringLiteral("record.txt")}).complaint, QString());
+    QVERIFY(file({QStringLiteral("ls")}).output.contains(QLatin1String("record.txt")));
+    QCOMPARE(file({QStringLiteral("get"), QStringLiteral("record.txt"), fetched}).complaint,
+             QString());
+    QFile result(fetched);
+    QVERIFY(result.open(QIODevice::ReadOnly));
+    QCOMPARE(result.readAll(), content);
+    QCOMPARE(file({QStringLiteral("rm"), QStringLiteral("record.txt")}).status, 0);
+    QCOMPARE(file({QStringLiteral("get"), QStringLiteral("record.txt"), fetched}).status, 1);
 }
 
 void tst_IedctlProcess::nothingIsChangedReadOnly()
