@@ -30,8 +30,9 @@ HEAD = """# Interoperability
 
 Every service is tried in both directions with a stack that others wrote: the client and the server
 of the Python wheel `{peer}` {version}. The tests in `tests/interop` install it into the build and
-write this table; each "works" stands for values that were compared. Where a cell is "–" the client
-of that direction has no call for it. Renew the table with `INTEROP_RENEW=1 ./test --all -R interop`.
+write this table; each "works" stands for values that were compared. Where a cell is "–" it has not
+been tried in that direction, mostly because the client of that direction has no call for it. Renew the table
+with `INTEROP_RENEW=1 ./test --all -R interop`.
 
 The Java library `com.beanit:iec61850bean` is meant to be the second stack. The package registry
 does not have it, so nothing has been tried with it and it has no columns.
