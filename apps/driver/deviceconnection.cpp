@@ -515,7 +515,7 @@ asio::awaitable<QString> DeviceConnection::associate()
 
     m_modelReady = false;
     m_client.reset();
-    m_environment.release(m_configuration.number);
+    m_environment.release();
     for (const auto &part : m_parts)
         part.second->closed(reason);
     m_reported.clear();
@@ -613,7 +613,7 @@ asio::awaitable<QString> DeviceConnection::getReady(ClientPointer client)
     QStringList names;
     for (const std::string &domain : *domains)
         names.append(text(domain));
-    const QString conflict = m_environment.claim(m_configuration.number, names);
+    const QString conflict = m_environment.claim(names);
     if (!conflict.isEmpty())
         co_return conflict;
 

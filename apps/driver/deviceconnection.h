@@ -68,8 +68,8 @@ struct ConnectionEnvironment
     std::function<void(const DeviceChange &)> changed;
     /// Claims the names of logical devices for the device that goes online; a sentence when another
     /// device has one of them, otherwise empty.
-    std::function<QString(int number, const QStringList &logicalDevices)> claim;
-    std::function<void(int number)> release;
+    std::function<QString(const QStringList &logicalDevices)> claim;
+    std::function<void()> release;
     /// Whether nothing may be changed on devices at present.
     std::function<bool()> isReadOnly;
     /// Folder of the descriptions that devices gave of themselves; empty for none.

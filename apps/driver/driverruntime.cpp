@@ -72,10 +72,16 @@ void IedDriver::Runtime::setDevice(const DeviceConfiguration &configuration)
         environment.values = m_values;
         environment.statusChanged = m_options.statusChanged;
         environment.changed = m_options.changed;
-        environment.claim = [this](int number, const QStringList &names) {
-            return claim(number, names);
+        Holder holder;
+        holder.number = configuration.number;
+        {
+            const std::lock_guard<std::mutex> lock(m_mutex);
+            holder.connection = ++m_lastConnection;
+        }
+        environment.claim = [this, holder](const QStringList &names) {
+            return claim(holder, names);
         };
-        environment.release = [this](int number) { release(number); };
+        environment.release = [this, holder] { release(holder); };
         environment.isReadOnly = [this] { return isReadOnly(); };
         environment.cacheFolder = m_options.cacheFolder;
         environment.captureOctets = m_options.captureOctets;
@@ -143,8 +149,8 @@ IedDriver::Runtime::separate(const DeviceConfiguration &configuration)
 {
     ConnectionEnvironment environment;
     environment.values = m_values;
-    environment.claim = [](int, const QStringList &) { return QString(); };
-    environment.release = [](int) {};
+    environment.claim = [](const QStringList &) { return QString(); };
+    environment.release = [] {};
     return DeviceConnection::create(m_context.get_executor(), configuration,
                                     std::move(environment));
 }
@@ -180,29 +186,31 @@ OperationResult IedDriver::Runtime::runWithin(milliseconds limit, long deviceNo,
     return outcome.result;
 }
 
-QString IedDriver::Runtime::claim(int number, const QStringList &logicalDevices)
+QString IedDriver::Runtime::claim(Holder holder, const QStringList &logicalDevices)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     for (const QString &name : logicalDevices) {
-        const auto holder = m_claimed.find(name);
-        if (holder == m_claimed.end() || holder->second == number)
+        const auto claimed = m_claimed.find(name);
+        if (claimed == m_claimed.end() || claimed->second.number == holder.number)
             continue;
-        const auto other = m_connections.find(holder->second);
+        const auto other = m_connections.find(claimed->second.number);
         const QString title = other == m_connections.end()
-                                  ? Texts::tr("Device %1").arg(holder->second)
+                                  ? Texts::tr("Device %1").arg(claimed->second.number)
                                   : other->second->configuration().title();
         return Texts::tr("Its logical device \"%1\" is online already as part of %2; live values "
                          "could not be told apart.")
             .arg(name, title);
     }
     for (const QString &name : logicalDevices)
-        m_claimed[name] = number;
+        m_claimed[name] = holder;
     return {};
 }
 
-void IedDriver::Runtime::release(int number)
+void IedDriver::Runtime::release(Holder holder)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    for (auto each = m_claimed.begin(); each != m_claimed.end();)
-        each = each->second == number ? m_claimed.erase(each) : std::next(each);
+    for (auto each = m_claimed.begin(); each != m_claimed.end();) {
+        each = each->second.connection == holder.connection ? m_claimed.erase(each)
+                                                            : std::next(each);
+    }
 }

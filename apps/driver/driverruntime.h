@@ -52,8 +52,16 @@ public:
                               Need need = Need::Model);
 
 private:
-    QString claim(int number, const QStringList &logicalDevices);
-    void release(int number);
+    /// Who holds the names of logical devices: a connection, since the one that replaces it under
+    /// the same number may claim them before it has let go.
+    struct Holder
+    {
+        int number = 0;
+        std::uint64_t connection = 0;
+    };
+
+    QString claim(Holder holder, const QStringList &logicalDevices);
+    void release(Holder holder);
 
     const IedDriverOptions m_options;
     asio::io_context m_context;
@@ -63,7 +71,8 @@ private:
     std::atomic<bool> m_readOnly{false};
     mutable std::mutex m_mutex;
     std::map<long, std::shared_ptr<DeviceConnection>> m_connections;
-    std::set<long> m_offlineNumbers;  ///< devices without an address
-    std::map<QString, int> m_claimed; ///< number of the device online with the logical device
+    std::set<long> m_offlineNumbers; ///< devices without an address
+    std::map<QString, Holder> m_claimed; ///< by logical device
+    std::uint64_t m_lastConnection = 0;
     std::vector<std::thread> m_threads;
 };

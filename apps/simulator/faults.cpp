@@ -118,7 +118,10 @@ constexpr std::array<Refusal, 10> refusals{{
 
 std::string inQuotes(std::string_view text)
 {
-    return "\"" + std::string(text) + "\"";
+    std::string quoted = "\"";
+    quoted += text;
+    quoted += '"';
+    return quoted;
 }
 
 mms::Error wrong(std::string message)

@@ -183,7 +183,7 @@ QString DeviceListModel::stateText(const Device &device)
                                      : tr("Reading the model…");
     case DeviceState::Online:
         return status.reason.isEmpty() ? tr("Connected")
-                                       : tr("Connected") + QStringLiteral(": ") + status.reason;
+                                       : tr("Connected: %1").arg(status.reason);
     case DeviceState::Waiting:
         return tr("Trying again: %1").arg(status.reason);
     }

@@ -76,7 +76,8 @@ ImportResult importFromFile(const ImportRequest &request, const std::atomic<bool
                           .arg(text(ied->name)));
     }
     if (request.simulate) {
-        result.simulation = SimulatedDevice::start(*ied, request.port, error);
+        result.simulation =
+            SimulatedDevice::start(*ied, document.edition() == "1", request.port, error);
         if (!result.simulation)
             return failed(error);
     } else {

@@ -453,6 +453,10 @@ void MainWindow::showSelection()
     if (ready && device->record.file().isEmpty()) {
         m_ui->findingsView->setPlaceholder(
             tr("This device has no SCL file; its model is read from the device itself."));
+    } else if (ready && device->record.isReached() && !device->record.simulated) {
+        m_ui->findingsView->setPlaceholder(
+            tr("The SCL file of this device was only compared with the device. Open it as an SCL "
+               "file to see its findings."));
     } else if (ready) {
         m_ui->findingsView->setPlaceholder(
             tr("No findings: everything in the file of this device was understood."));

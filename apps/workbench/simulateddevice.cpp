@@ -50,8 +50,8 @@ SimulatedDevice::SimulatedDevice()
 
 SimulatedDevice::~SimulatedDevice() = default;
 
-std::unique_ptr<SimulatedDevice> SimulatedDevice::start(const scl::Ied &ied, int port,
-                                                        QString &error)
+std::unique_ptr<SimulatedDevice> SimulatedDevice::start(const scl::Ied &ied, bool firstEdition,
+                                                        int port, QString &error)
 {
     std::unique_ptr<SimulatedDevice> device(new SimulatedDevice);
     Runtime &runtime = *device->m_runtime;
@@ -63,6 +63,7 @@ std::unique_ptr<SimulatedDevice> SimulatedDevice::start(const scl::Ied &ied, int
     }
     sim::SimulationOptions options;
     options.port = static_cast<std::uint16_t>(port);
+    options.firstEdition = firstEdition;
     options.animation.emplace();
     options.files.emplace();
     options.files->directory = runtime.files.path().toStdString();

@@ -17,8 +17,10 @@ class SimulatedDevice
 public:
     /// Nothing of @p ied is kept. Null, and one sentence in @p error, when no device can be made.
     /// Any thread.
+    /// @param firstEdition whether the file is of the first edition of SCL
     /// @param port that is wanted; another one is taken when it is not free, or 0
-    static std::unique_ptr<SimulatedDevice> start(const scl::Ied &ied, int port, QString &error);
+    static std::unique_ptr<SimulatedDevice> start(const scl::Ied &ied, bool firstEdition, int port,
+                                                  QString &error);
     ~SimulatedDevice();
     Q_DISABLE_COPY(SimulatedDevice)
 

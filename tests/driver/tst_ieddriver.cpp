@@ -50,6 +50,7 @@ private slots:
     void anAbortedDeviceIsConnectedAgainByItsNextUse();
     void aDisconnectedDeviceStaysSo();
     void devicesWithTheSameLogicalDevicesAreNotOnlineAtOnce();
+    void anEditedDeviceKeepsItsNames();
     void readingTheModelCanBeCancelled();
     void theModelThatIsBeingReadIsNotWaitedFor();
     void connectionsCanBeTriedWithoutTheDeviceList();
@@ -349,6 +350,28 @@ void tst_IedDriver::devicesWithTheSameLogicalDevicesAreNotOnlineAtOnce()
     QVERIFY2(reason.contains("is online already as part of Device 1 (IED1)"), qPrintable(reason));
     driver.disconnectDevice(1);
     QVERIFY(listener.waitForState(2, DeviceState::Online));
+}
+
+void tst_IedDriver::anEditedDeviceKeepsItsNames()
+{
+    SimulatedIed ied(station);
+    Listener listener;
+    IedDriver driver(listener.options());
+    DeviceConfiguration configuration = configurationFor(ied);
+    driver.setDevice(configuration);
+    driver.setDevice(configurationFor(ied, 2));
+    driver.connectDevice(1);
+    QVERIFY(listener.waitForState(1, DeviceState::Online));
+    for (int edits = 0; edits < 5; ++edits) {
+        configuration.outstandingCalls = 2 + edits;
+        QVERIFY(driver.setDevice(configuration).isEmpty());
+        driver.connectDevice(1);
+        QTRY_VERIFY(driver.status(1).state == DeviceState::Online);
+    }
+    driver.connectDevice(2);
+    QVERIFY(listener.waitForState(2, DeviceState::Waiting));
+    QVERIFY2(driver.status(2).reason.contains("is online already as part of Device 1 (IED1)"),
+             qPrintable(driver.status(2).reason));
 }
 
 void tst_IedDriver::readingTheModelCanBeCancelled()

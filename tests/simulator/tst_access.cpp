@@ -178,12 +178,12 @@ TEST_F(AccessTest, someElementsOfAnArrayAreWrittenTogether)
     Access free(model, WriteRules{Fc::MX});
     const Data second = read("MHAI1$MX$HA$phsAHar", {AlternateAccess::ofElement(1)}).data();
     const Data third = read("MHAI1$MX$HA$phsAHar", {AlternateAccess::ofElement(2)}).data();
-    const auto access = variable("MHAI1$MX$HA$phsAHar", {AlternateAccess::ofElements(1, 2)});
-    EXPECT_EQ(free.write(client, access, Data::array({third, second})), std::nullopt);
+    const auto elements = variable("MHAI1$MX$HA$phsAHar", {AlternateAccess::ofElements(1, 2)});
+    EXPECT_EQ(free.write(client, elements, Data::array({third, second})), std::nullopt);
     EXPECT_EQ(read("MHAI1$MX$HA$phsAHar", {AlternateAccess::ofElement(1)}).data(), third);
     EXPECT_EQ(read("MHAI1$MX$HA$phsAHar", {AlternateAccess::ofElement(2)}).data(), second);
-    EXPECT_EQ(free.write(client, access, Data::array({second})), DataAccessError::TypeInconsistent);
-    EXPECT_EQ(free.write(client, access, Data::array({second, Data::boolean(true)})),
+    EXPECT_EQ(free.write(client, elements, Data::array({second})), DataAccessError::TypeInconsistent);
+    EXPECT_EQ(free.write(client, elements, Data::array({second, Data::boolean(true)})),
               DataAccessError::TypeInconsistent);
     EXPECT_EQ(free.write(client,
                          variable("MHAI1$MX$HA$phsAHar", {AlternateAccess::ofElements(2, 2)}),

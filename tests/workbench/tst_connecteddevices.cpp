@@ -107,7 +107,7 @@ std::unique_ptr<SimulatedDevice> tst_ConnectedDevices::simulate() const
     const scl::ReadResult file = SclImport::readFile(QStringLiteral(":/workbench/unfinished.icd"));
     QString error;
     const scl::Ied *ied = SclImport::chooseIed(*file.document, {}, error);
-    auto device = SimulatedDevice::start(*ied, 0, error);
+    auto device = SimulatedDevice::start(*ied, false, 0, error);
     if (!device)
         qFatal("%s", qPrintable(error));
     return device;

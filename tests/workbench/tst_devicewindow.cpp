@@ -213,7 +213,7 @@ void tst_DeviceWindow::aDeviceIsAddedByItsForm()
     QString error;
     const scl::ReadResult file = SclImport::readFile(":/workbench/unfinished.icd");
     const auto simulated =
-        SimulatedDevice::start(*SclImport::chooseIed(*file.document, {}, error), 0, error);
+        SimulatedDevice::start(*SclImport::chooseIed(*file.document, {}, error), false, 0, error);
     QVERIFY2(simulated, qPrintable(error));
     action("actionAdd")->trigger();
     auto *form = dialog<DeviceDialog>();

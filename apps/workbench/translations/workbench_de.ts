@@ -611,6 +611,10 @@ Verbindungen: %5</translation>
         <source>Values</source>
         <translation>Werte</translation>
     </message>
+    <message>
+        <source>Connected: %1</source>
+        <translation>Verbunden: %1</translation>
+    </message>
 </context>
 <context>
     <name>DeviceStore</name>
@@ -1513,6 +1517,22 @@ Apache License 2.0</translation>
     <message>
         <source>&quot;%1&quot; was written.</source>
         <translation>„%1“ wurde geschrieben.</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Trennen</translation>
+    </message>
+    <message>
+        <source>Read-Only</source>
+        <translation>Schreibschutz</translation>
+    </message>
+    <message>
+        <source>The SCL file of this device was only compared with the device. Open it as an SCL file to see its findings.</source>
+        <translation>Die SCL-Datei dieses Geräts wurde nur mit dem Gerät verglichen. Ihre Befunde zeigt „SCL-Datei öffnen“.</translation>
     </message>
 </context>
 <context>

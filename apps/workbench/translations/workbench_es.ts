@@ -611,6 +611,10 @@ Conexiones: %5</translation>
         <source>Values</source>
         <translation>Valores</translation>
     </message>
+    <message>
+        <source>Connected: %1</source>
+        <translation>Conectado: %1</translation>
+    </message>
 </context>
 <context>
     <name>DeviceStore</name>
@@ -1513,6 +1517,22 @@ Apache License 2.0</translation>
     <message>
         <source>&quot;%1&quot; was written.</source>
         <translation>Se ha escrito «%1».</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Conectar</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Desconectar</translation>
+    </message>
+    <message>
+        <source>Read-Only</source>
+        <translation>Solo lectura</translation>
+    </message>
+    <message>
+        <source>The SCL file of this device was only compared with the device. Open it as an SCL file to see its findings.</source>
+        <translation>El archivo SCL de este dispositivo solo se ha comparado con el dispositivo. Ábralo como archivo SCL para ver sus observaciones.</translation>
     </message>
 </context>
 <context>

@@ -611,6 +611,10 @@ Connexions : %5</translation>
         <source>Values</source>
         <translation>Valeurs</translation>
     </message>
+    <message>
+        <source>Connected: %1</source>
+        <translation>Connecté : %1</translation>
+    </message>
 </context>
 <context>
     <name>DeviceStore</name>
@@ -1513,6 +1517,22 @@ Apache License 2.0</translation>
     <message>
         <source>&quot;%1&quot; was written.</source>
         <translation>« %1 » a été écrit.</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Connecter</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Déconnecter</translation>
+    </message>
+    <message>
+        <source>Read-Only</source>
+        <translation>Lecture seule</translation>
+    </message>
+    <message>
+        <source>The SCL file of this device was only compared with the device. Open it as an SCL file to see its findings.</source>
+        <translation>Le fichier SCL de cet équipement a seulement été comparé avec l'équipement. Ouvrez-le comme fichier SCL pour voir ses constats.</translation>
     </message>
 </context>
 <context>

@@ -611,6 +611,10 @@ Conexões: %5</translation>
         <source>Values</source>
         <translation>Valores</translation>
     </message>
+    <message>
+        <source>Connected: %1</source>
+        <translation>Conectado: %1</translation>
+    </message>
 </context>
 <context>
     <name>DeviceStore</name>
@@ -1513,6 +1517,22 @@ Apache License 2.0</translation>
     <message>
         <source>&quot;%1&quot; was written.</source>
         <translation>“%1” foi gravado.</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Conectar</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Desconectar</translation>
+    </message>
+    <message>
+        <source>Read-Only</source>
+        <translation>Somente leitura</translation>
+    </message>
+    <message>
+        <source>The SCL file of this device was only compared with the device. Open it as an SCL file to see its findings.</source>
+        <translation>O arquivo SCL deste dispositivo foi apenas comparado com o dispositivo. Abra-o como arquivo SCL para ver as suas constatações.</translation>
     </message>
 </context>
 <context>

@@ -611,6 +611,10 @@ Connections: %5</source>
         <source>Values</source>
         <translation>Значения</translation>
     </message>
+    <message>
+        <source>Connected: %1</source>
+        <translation>На связи: %1</translation>
+    </message>
 </context>
 <context>
     <name>DeviceStore</name>
@@ -1513,6 +1517,22 @@ Apache License 2.0</translation>
     <message>
         <source>&quot;%1&quot; was written.</source>
         <translation>«%1»: записано.</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Подключить</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Отключить</translation>
+    </message>
+    <message>
+        <source>Read-Only</source>
+        <translation>Только чтение</translation>
+    </message>
+    <message>
+        <source>The SCL file of this device was only compared with the device. Open it as an SCL file to see its findings.</source>
+        <translation>Файл SCL этого устройства только сравнивался с самим устройством. Чтобы увидеть замечания к нему, откройте его как файл SCL.</translation>
     </message>
 </context>
 <context>

@@ -611,6 +611,10 @@ Connections: %5</source>
         <source>Values</source>
         <translation>值</translation>
     </message>
+    <message>
+        <source>Connected: %1</source>
+        <translation>已连接：%1</translation>
+    </message>
 </context>
 <context>
     <name>DeviceStore</name>
@@ -1513,6 +1517,22 @@ Apache License 2.0</translation>
     <message>
         <source>&quot;%1&quot; was written.</source>
         <translation>已写入“%1”。</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>断开连接</translation>
+    </message>
+    <message>
+        <source>Read-Only</source>
+        <translation>只读</translation>
+    </message>
+    <message>
+        <source>The SCL file of this device was only compared with the device. Open it as an SCL file to see its findings.</source>
+        <translation>此设备的 SCL 文件仅与设备作了比较。要查看其检查结果，请将其作为 SCL 文件打开。</translation>
     </message>
 </context>
 <context>
