@@ -4,8 +4,8 @@
 #include "attributeindex.h"
 #include "attributevalue.h"
 #include "bytereader.h"
+#include "bytewriter.h"
 #include "physicaldevice.h"
-#include "streamsettings.h"
 
 #include <QtCore/QBuffer>
 #include <QtCore/QIODevice>
@@ -276,10 +276,9 @@ private:
 class DeviceWriter
 {
 public:
-    explicit DeviceWriter(QDataStream &stream)
-        : m_out(stream)
-    {
-    }
+    const QByteArray &bytes() const { return m_out.bytes(); }
+    /// Whether something is nested too deeply to be written.
+    bool hasLeftOut() const { return m_leftOut; }
 
     void write(const PhysicalDevice &device)
     {
@@ -288,9 +287,6 @@ public:
         writeList(device.dataSets, &DeviceWriter::writeDataSet);
         m_out << device.offline;
         writeEnumTypes(device.enumTypes);
-        // Not before the end: a stream takes no more bytes once its status is bad.
-        if (m_leftOut)
-            m_out.setStatus(QDataStream::WriteFailed);
     }
 
 private:
@@ -384,7 +380,7 @@ private:
         }
     }
 
-    QDataStream &m_out;
+    ByteWriter m_out;
     bool m_leftOut = false;
 };
 
@@ -418,6 +414,10 @@ void DeviceStream::read(QDataStream &stream, PhysicalDevice &device, AttributeIn
 
 void DeviceStream::write(QDataStream &stream, const PhysicalDevice &device)
 {
-    const StreamSettings settings(stream);
-    DeviceWriter(stream).write(device);
+    DeviceWriter writer;
+    writer.write(device);
+    stream.writeRawData(writer.bytes().constData(), writer.bytes().size());
+    // Not before the end: a stream takes no more bytes once its status is bad.
+    if (writer.hasLeftOut())
+        stream.setStatus(QDataStream::WriteFailed);
 }

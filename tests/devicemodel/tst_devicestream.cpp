@@ -90,6 +90,8 @@ class tst_DeviceStream : public QObject
     Q_OBJECT
 
 private slots:
+    void valuesAreWrittenAsQDataStreamWritesThem_data();
+    void valuesAreWrittenAsQDataStreamWritesThem();
     void everyFieldComesBack();
     void aWholeDeviceComesBackIdentical();
     void anEmptyDeviceComesBack();
@@ -494,6 +496,52 @@ void tst_DeviceStream::nullAndEmptyTextsStayApart()
     QVERIFY(back.name.isEmpty() && !back.name.isNull());
     QVERIFY(back.reference.isEmpty() && !back.reference.isNull());
     QVERIFY(back.fc.isNull());
+}
+
+void tst_DeviceStream::valuesAreWrittenAsQDataStreamWritesThem_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::newRow("none") << QVariant();
+    QTest::newRow("true") << QVariant(true);
+    QTest::newRow("integer") << QVariant(-7);
+    QTest::newRow("unsigned") << QVariant(4000000000U);
+    QTest::newRow("long") << QVariant(qlonglong(-9000000000000000000LL));
+    QTest::newRow("unsigned long") << QVariant(qulonglong(18000000000000000000ULL));
+    QTest::newRow("double") << QVariant(3.25);
+    QTest::newRow("float") << QVariant(0.1F);
+    QTest::newRow("text") << QVariant(QString::fromUtf8("d\xc3\xa9part"));
+    QTest::newRow("empty text") << QVariant(QStringLiteral(""));
+    QTest::newRow("null text") << QVariant(QString());
+    QTest::newRow("bytes") << QVariant(QByteArray("\1\0\2", 3));
+    QTest::newRow("null integer") << QVariant(QVariant::Int);
+    QTest::newRow("null variant text") << QVariant(QVariant::String);
+}
+
+void tst_DeviceStream::valuesAreWrittenAsQDataStreamWritesThem()
+{
+    QFETCH(QVariant, value);
+    PhysicalDevice device;
+    auto *logicalDevice = new LogicalDevice;
+    device.logicalDevices.append(logicalDevice);
+    auto *node = new LogicalNode;
+    logicalDevice->logicalNodes.append(node);
+    auto *object = new DataObject;
+    node->dataObjects.append(object);
+    auto *dao = new DAO;
+    object->attributes.append(dao);
+    dao->attribute = new DataAttribute;
+    dao->attribute->basicType = QStringLiteral("before");
+    dao->attribute->value = value;
+    dao->attribute->reference = QStringLiteral("behind");
+
+    QByteArray expected;
+    QDataStream reference(&expected, QIODevice::WriteOnly);
+    reference.setVersion(QDataStream::Qt_5_12);
+    reference << QStringLiteral("before") << value << QStringLiteral("behind");
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    device.toStream(stream);
+    QVERIFY(bytes.contains(expected));
 }
 
 QTEST_APPLESS_MAIN(tst_DeviceStream)
