@@ -20,6 +20,7 @@
 #include <QtCore/QDataStream>
 #include <QtCore/QHash>
 #include <QtCore/QList>
+#include <QtCore/QRandomGenerator>
 #include <QtCore/QString>
 
 #include <algorithm>
@@ -75,14 +76,25 @@ public:
 
     void start()
     {
-        m_options.server.port = m_options.server.port == 102 ? 0 : m_options.server.port;
-        m_device = sim::Device::create(m_context.get_executor(), *m_ied, m_options);
-        if (m_filter)
-            m_device->setRequestFilter(m_filter);
-        const mms::Result<std::uint16_t> started = m_device->start();
-        if (!started)
-            qFatal("%s", started.error().message.c_str());
-        m_options.server.port = *started;
+        const bool isFirst = m_options.server.port == 102;
+        // Not a port that the system may give to anybody while the device is stopped.
+        constexpr int firstPort = 20000;
+        constexpr int lastPort = 32000;
+        for (int attempt = 0; attempt < 100; ++attempt) {
+            if (isFirst) {
+                m_options.server.port = static_cast<std::uint16_t>(
+                    QRandomGenerator::system()->bounded(firstPort, lastPort));
+            }
+            m_device = sim::Device::create(m_context.get_executor(), *m_ied, m_options);
+            if (m_filter)
+                m_device->setRequestFilter(m_filter);
+            const mms::Result<std::uint16_t> started = m_device->start();
+            if (started)
+                return;
+            if (!isFirst)
+                qFatal("%s", started.error().message.c_str());
+        }
+        qFatal("no port is free");
     }
 
     void stop()
