@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ieddriver.h"
 
+#include "csvfield.h"
 #include "driverruntime.h"
 #include "valueconversion.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QIODevice>
 #include <QtCore/QTextStream>
-
-#include <algorithm>
 
 namespace {
 
@@ -20,25 +19,6 @@ struct Texts
 QString noDevice(long deviceNo)
 {
     return Texts::tr("There is no device %1 on this driver.").arg(deviceNo);
-}
-
-/// A field of CSV (RFC 4180). Spreadsheets take texts that begin with these characters for
-/// formulas.
-QString csvField(QString field)
-{
-    static const QString formulaStarts = QStringLiteral("=+-@\t\r");
-    bool isNumber = false;
-    field.toDouble(&isNumber);
-    if (!isNumber && !field.isEmpty() && formulaStarts.contains(field.at(0)))
-        field.prepend(QLatin1Char('\''));
-    const bool needsQuotes = std::any_of(field.begin(), field.end(), [](QChar c) {
-        return c == QLatin1Char(',') || c == QLatin1Char('"') || c == QLatin1Char('\n') ||
-               c == QLatin1Char('\r');
-    });
-    if (!needsQuotes)
-        return field;
-    field.replace(QLatin1Char('"'), QStringLiteral("\"\""));
-    return QLatin1Char('"') + field + QLatin1Char('"');
 }
 
 void appendRows(QString &csv, const QList<DAO *> &nodes)

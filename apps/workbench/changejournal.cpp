@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "changejournal.h"
 
+#include "driver/csvfield.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QStringList>
@@ -9,24 +11,6 @@
 #include <algorithm>
 
 namespace {
-
-/// A field of CSV. Spreadsheets take texts that begin with these characters for formulas.
-QString csvField(QString field)
-{
-    static const QString formulaStarts = QStringLiteral("=+-@\t\r");
-    bool isNumber = false;
-    field.toDouble(&isNumber);
-    if (!isNumber && !field.isEmpty() && formulaStarts.contains(field.at(0)))
-        field.prepend(QLatin1Char('\''));
-    const bool needsQuotes = std::any_of(field.cbegin(), field.cend(), [](QChar c) {
-        return c == QLatin1Char(',') || c == QLatin1Char('"') || c == QLatin1Char('\n') ||
-               c == QLatin1Char('\r');
-    });
-    if (!needsQuotes)
-        return field;
-    field.replace(QLatin1Char('"'), QStringLiteral("\"\""));
-    return QLatin1Char('"') + field + QLatin1Char('"');
-}
 
 QByteArray csvRow(const QStringList &fields)
 {
