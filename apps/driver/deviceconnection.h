@@ -222,6 +222,7 @@ private:
     asio::awaitable<void> readValues(ClientPointer client,
                                      const std::vector<acsi::FunctionalConstraint> &constraints,
                                      Publication publication);
+    asio::awaitable<void> readConfiguration(ClientPointer client);
     asio::awaitable<void> republish();
     asio::awaitable<Outcome> waitFor(Need need, Deadline deadline);
     std::vector<acsi::Reference> polled(acsi::FunctionalConstraint constraint) const;
