@@ -2,6 +2,7 @@
 #include "simulator/commandline.h"
 
 #include "simulator/faults.h"
+#include "simulator/oddities.h"
 
 #include <CLI/CLI.hpp>
 
@@ -92,6 +93,10 @@ std::string manualPage(const CLI::App &app)
     std::istringstream help(sim::faultsHelp());
     for (std::string line; std::getline(help, line);)
         page += roff(line) + "\n";
+    page += ".fi\n.SH ODDITIES\n.nf\n";
+    std::istringstream odd(sim::odditiesHelp());
+    for (std::string line; std::getline(odd, line);)
+        page += roff(line) + "\n";
     page += ".fi\n.SH EXIT STATUS\n";
     for (const auto &[status, meaning] : statuses)
         page += ".TP\n.B " + std::string(status) + "\n" + roff(meaning) + "\n";
@@ -144,7 +149,9 @@ std::variant<CommandLine, Ending> parseCommandLine(int argc, const char *const *
     std::vector<std::string> pins;
     bool animate = false;
     bool calm = false;
+    std::vector<std::string> oddities;
     bool helpFaults = false;
+    bool helpOddities = false;
     bool manual = false;
 
     CLI::App app(description, "iedsim");
@@ -226,6 +233,11 @@ std::variant<CommandLine, Ending> parseCommandLine(int argc, const char *const *
         ->needs(filesOption);
     app.add_option("--faults", simulation.faults, "Script of what goes wrong")->type_name("SCRIPT");
     app.add_flag("--help-faults", helpFaults, "Tell how such a script is written, and end");
+    app.add_option("--odd", oddities, "Something that the device does otherwise; may be repeated")
+        ->type_name("NAME")
+        ->expected(1)
+        ->take_all();
+    app.add_flag("--help-odd", helpOddities, "Tell what there is for --odd, and end");
     app.add_flag("--quiet", result.quiet, "Tell only where the IEDs listen");
     app.add_flag("--manual-page", manual, "Write the manual page, and end");
 
@@ -242,10 +254,16 @@ std::variant<CommandLine, Ending> parseCommandLine(int argc, const char *const *
         return Ending{manualPage(app), 0};
     if (helpFaults)
         return Ending{sim::faultsHelp(), 0};
+    if (helpOddities)
+        return Ending{sim::odditiesHelp(), 0};
     if (result.files.empty())
         return mistake("An SCL file is needed.");
     if (result.allIeds && !result.ieds.empty())
         return mistake("--all and --ied exclude each other.");
+    for (const std::string &name : oddities) {
+        if (const auto added = sim::addOddity(simulation.oddities, name); !added)
+            return mistake(added.error().message);
+    }
     simulation.port = static_cast<std::uint16_t>(port);
     if (!passwordFile.empty()) {
         const auto line = firstLine(passwordFile);

@@ -241,7 +241,8 @@ void Device::request(const std::shared_ptr<mms::Association> &association, std::
             return;
     }
     ServiceAnswer answer = std::visit(
-        Services(m_access, m_dataSets, m_journals, m_options.identity, *client), request);
+        Services(m_access, m_dataSets, m_journals, m_options.identity, m_options.oddities, *client),
+        request);
     if (auto *response = std::get_if<mms::ResponseService>(&answer))
         association->respond(invokeId, std::move(*response));
     else if (auto *error = std::get_if<mms::ServiceError>(&answer))

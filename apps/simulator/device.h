@@ -5,6 +5,7 @@
 #include "simulator/engine.h"
 #include "simulator/fileservice.h"
 #include "simulator/journals.h"
+#include "simulator/oddities.h"
 #include "simulator/services.h"
 
 #include "mms/server.h"
@@ -27,6 +28,7 @@ struct DeviceOptions
     std::shared_ptr<FileService> files;
     /// Control blocks have the attributes of the first edition of the standard only.
     bool firstEdition = false;
+    Oddities oddities;
     /// Hears why a connection did not become an association, one sentence. In the device's strand.
     std::function<void(const std::string &reason)> refused;
     /// Empty texts are taken from the SCL description.

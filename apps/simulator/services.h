@@ -4,6 +4,7 @@
 #include "simulator/access.h"
 #include "simulator/datasets.h"
 #include "simulator/journals.h"
+#include "simulator/oddities.h"
 
 #include <string>
 #include <variant>
@@ -33,11 +34,12 @@ class Services
 {
 public:
     Services(Access &access, DataSets &dataSets, const Journals &journals, const Identity &identity,
-             Client &client)
+             const Oddities &oddities, Client &client)
         : m_access(access)
         , m_dataSets(dataSets)
         , m_journals(journals)
         , m_identity(identity)
+        , m_oddities(oddities)
         , m_client(client)
     {
     }
@@ -68,6 +70,7 @@ private:
     DataSets &m_dataSets;
     const Journals &m_journals;
     const Identity &m_identity;
+    const Oddities &m_oddities;
     Client &m_client;
 };
 

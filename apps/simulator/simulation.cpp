@@ -84,6 +84,7 @@ mms::Result<SimulatedDevice> simulate(asio::any_io_executor executor, const scl:
     device.server.maxAssociations = options.maxAssociations;
     device.server.association.maxPduSize = options.maxPduSize;
     device.firstEdition = options.firstEdition;
+    device.oddities = options.oddities;
     mms::LinkOptions &link = device.server.association.link;
     if (options.password) {
         mms::acse::Authentication authentication;

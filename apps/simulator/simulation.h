@@ -35,6 +35,7 @@ struct SimulationOptions
     std::optional<FileOptions> files;
     /// A script of faults; may be empty.
     std::string faults;
+    Oddities oddities;
     /// Hears of associations, refused connections, controls and faults: a line of text each. In the
     /// device's strand.
     std::function<void(const std::string &line)> log;

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace {
 
 using namespace mms;
@@ -75,6 +77,18 @@ TEST_F(DeviceTest, pagesOfNamesFitASmallPdu)
     Caller small(loop.executor(), running.port, options);
     EXPECT_EQ(small.names(ObjectClass::NamedVariable, domain),
               caller.names(ObjectClass::NamedVariable, domain));
+}
+
+TEST_F(DeviceTest, aDeviceMaySortItsNamesOnRequest)
+{
+    sim::DeviceOptions options = localOptions();
+    options.oddities.sortedNames = true;
+    RunningDevice sorted(loop.executor(), *ied, options);
+    Caller other(loop.executor(), sorted.port);
+    std::vector<std::string> expected = caller.names(ObjectClass::NamedVariable, domain);
+    EXPECT_FALSE(std::ranges::is_sorted(expected));
+    std::ranges::sort(expected);
+    EXPECT_EQ(other.names(ObjectClass::NamedVariable, domain), expected);
 }
 
 TEST_F(DeviceTest, typesAndValuesTooLargeForThePduAreErrorsAndTheirPartsCanBeAsked)

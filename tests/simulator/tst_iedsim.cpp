@@ -251,6 +251,7 @@ TEST_F(Iedsim, MistakesOnTheCommandLineAreToldInOneLine)
         {device, "--interval", "100"},
         {device, "--all", "--ied", "BAY1"},
         {device, "--files-flat"},
+        {device, "--odd", "nonsense"},
         {device, "--tls-pin", std::string(64, 'a')},
         {device, "--tls", "own.pem"},
         {device, "--tls", "own.pem,own.key"},
@@ -402,7 +403,7 @@ TEST_F(Iedsim, HelpAndManualPageNameEveryOption)
           "--password", "--password-file", "--tls", "--tls-key-password-file", "--tls-crl",
           "--tls-pin", "--animate", "--seed", "--interval", "--no-events", "--files",
           "--files-read-only", "--files-flat", "--files-one-part", "--files-keep", "--faults",
-          "--help-faults", "--quiet", "--version"}) {
+          "--help-faults", "--odd", "--help-odd", "--quiet", "--version"}) {
         EXPECT_NE(text.find(std::string(option)), std::string::npos) << option;
         EXPECT_NE(page.find(std::string(".B ") + option), std::string::npos) << option;
     }

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "simulator/oddities.h"
+
+#include <algorithm>
+#include <array>
+
+namespace sim {
+
+namespace {
+
+constexpr std::array cases = {
+    // Names and types
+    OddityCase{"sorted-names",
+               "Lists of variable names are in alphabetical order, not in that of the types.",
+               &Oddities::sortedNames},
+
+    // Values
+
+    // Reports
+
+    // Control
+
+    // Setting groups
+
+    // Files
+
+    // Associations
+};
+
+} // namespace
+
+std::span<const OddityCase> oddityCases()
+{
+    return cases;
+}
+
+mms::Result<void> addOddity(Oddities &oddities, std::string_view name)
+{
+    const auto found = std::ranges::find(cases, name, &OddityCase::name);
+    if (found == cases.end()) {
+        std::string message = "\"" + std::string(name) + "\" is no oddity; there are";
+        for (const OddityCase &each : cases)
+            message += (&each == cases.begin() ? " " : ", ") + std::string(each.name);
+        return mms::Error{message + ".", 0};
+    }
+    oddities.*found->flag = true;
+    return {};
+}
+
+std::string odditiesHelp()
+{
+    std::string text = "What a device may do otherwise (--odd NAME):\n";
+    for (const OddityCase &each : cases)
+        text += "  " + std::string(each.name) + "\n      " + std::string(each.purpose) + "\n";
+    return text;
+}
+
+} // namespace sim
