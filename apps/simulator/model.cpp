@@ -125,14 +125,15 @@ std::optional<DataAccessError> checkNode(const Layout &layout, const LayoutNode 
     return worst;
 }
 
-/// Walks the variables of a domain in the order of their names: because "$" sorts before everything
-/// else that a name may hold, that is depth first with children sorted.
+/// Walks the variables of a domain depth first. With sorted children that is the order of the names,
+/// because "$" sorts before everything else that a name may hold.
 class NameWalk
 {
 public:
-    NameWalk(const Model &model, const Model::Domain &domain)
+    NameWalk(const Model &model, const Model::Domain &domain, Model::NameOrder order)
         : m_model(model)
         , m_domain(domain)
+        , m_order(order)
     {
     }
 
@@ -143,14 +144,8 @@ public:
     bool seek(std::string_view name)
     {
         const auto end = std::min(name.find('$'), name.size());
-        const auto &nodes = m_domain.nodesByName;
-        const auto found = std::ranges::lower_bound(
-            nodes, name.substr(0, end), {}, [this](std::uint32_t node) {
-                return m_model.logicalNodes()[node].name;
-            });
-        if (found == nodes.end() || m_model.logicalNodes()[*found].name != name.substr(0, end))
+        if (!seekNode(name.substr(0, end)))
             return false;
-        m_next = static_cast<std::size_t>(found - nodes.begin());
         enterNode();
         while (m_text.size() < name.size()) {
             const auto begin = m_text.size() + 1;
@@ -165,7 +160,7 @@ public:
     bool advance()
     {
         if (m_path.empty()) {
-            if (m_next >= m_domain.nodesByName.size())
+            if (m_next >= m_domain.nodeCount)
                 return false;
             enterNode();
             return true;
@@ -192,15 +187,36 @@ private:
     struct Step
     {
         std::uint32_t position;
-        std::uint32_t rank;     ///< among the sorted children of the node above
+        std::uint32_t rank;     ///< among the children of the node above, in the order wanted
         std::size_t textBefore; ///< length of the name of the node above
     };
 
     const LayoutNode &current() const { return m_layout->nodes[m_path.back().position]; }
 
+    bool isSorted() const { return m_order == Model::NameOrder::Sorted; }
+
+    bool seekNode(std::string_view name)
+    {
+        const auto known = m_domain.nodeOfName.find(name);
+        if (known == m_domain.nodeOfName.end())
+            return false;
+        m_next = known->second - m_domain.firstNode;
+        if (isSorted()) {
+            const auto &nodes = m_domain.nodesByName;
+            const auto found =
+                std::ranges::lower_bound(nodes, name, {}, [this](std::uint32_t node) {
+                    return m_model.logicalNodes()[node].name;
+                });
+            m_next = static_cast<std::size_t>(found - nodes.begin());
+        }
+        return true;
+    }
+
     void enterNode()
     {
-        const auto &node = m_model.logicalNodes()[m_domain.nodesByName[m_next]];
+        const auto number = static_cast<std::uint32_t>(m_next);
+        const auto &node = m_model.logicalNodes()[isSorted() ? m_domain.nodesByName[number]
+                                                             : m_domain.firstNode + number];
         ++m_next;
         m_layout = node.layout;
         m_path.assign(1, Step{0, 0, 0});
@@ -209,7 +225,8 @@ private:
 
     void enterChild(std::uint32_t rank)
     {
-        const std::uint32_t position = m_layout->byName[current().firstChild + rank];
+        const std::uint32_t place = current().firstChild + rank;
+        const std::uint32_t position = isSorted() ? m_layout->byName[place] : place;
         m_path.push_back({position, rank, m_text.size()});
         m_text.append(1, '$').append(current().name);
     }
@@ -231,12 +248,14 @@ private:
             [this](std::uint32_t child) { return m_layout->nodes[child].name; });
         if (found == last || m_layout->nodes[*found].name != name)
             return false;
-        enterChild(static_cast<std::uint32_t>(found - first));
+        enterChild(isSorted() ? static_cast<std::uint32_t>(found - first)
+                              : *found - current().firstChild);
         return true;
     }
 
     const Model &m_model;
     const Model::Domain &m_domain;
+    const Model::NameOrder m_order;
     const Layout *m_layout = nullptr;
     std::vector<Step> m_path;
     std::size_t m_next = 0; ///< the logical node behind the present one
@@ -390,9 +409,9 @@ std::string Model::itemName(const Part &part) const
 }
 
 std::optional<Model::NamePage> Model::variableNames(const Domain &domain, std::string_view after,
-                                                    std::size_t octets) const
+                                                    std::size_t octets, NameOrder order) const
 {
-    NameWalk walk(*this, domain);
+    NameWalk walk(*this, domain, order);
     if (after.empty())
         walk.start();
     else if (!walk.seek(after))

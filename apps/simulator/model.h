@@ -161,16 +161,20 @@ public:
     /// "LN$FC$DO", with "(3)" behind the name of an array for one of its elements.
     std::string itemName(const Part &part) const;
 
-    /// Names of the variables of a domain behind @p after, or from the first when it is empty, sorted
-    /// octet by octet; as many as @p octets of an answer have room for. None when @p after does not
-    /// exist.
+    enum class NameOrder : std::uint8_t {
+        Sorted,  ///< octet by octet
+        OfTypes, ///< logical nodes as in the description, what is inside them as in their types
+    };
+    /// Names of the variables of a domain behind @p after, or from the first when it is empty; as
+    /// many as @p octets of an answer have room for. None when @p after does not exist.
     struct NamePage
     {
         std::vector<std::string> names;
         bool moreFollows = false;
     };
     std::optional<NamePage> variableNames(const Domain &domain, std::string_view after,
-                                          std::size_t octets) const;
+                                          std::size_t octets,
+                                          NameOrder order = NameOrder::Sorted) const;
 
     std::uint32_t leafCount() const { return static_cast<std::uint32_t>(m_values.size()); }
     const mms::Data &value(Leaf leaf) const { return m_values[leaf]; }

@@ -10,9 +10,9 @@ namespace {
 
 constexpr std::array cases = {
     // Names and types
-    OddityCase{"sorted-names",
-               "Lists of variable names are in alphabetical order, not in that of the types.",
-               &Oddities::sortedNames},
+    OddityCase{"names-in-type-order",
+               "Lists of variable names are in the order of the types, not sorted.",
+               &Oddities::namesInTypeOrder},
 
     // Values
 

@@ -16,7 +16,7 @@ struct Oddities
 {
     // Names and types
 
-    bool sortedNames = false;
+    bool namesInTypeOrder = false;
 
     // Values
 

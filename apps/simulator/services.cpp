@@ -2,8 +2,6 @@
 #include "simulator/services.h"
 
 #include <algorithm>
-#include <limits>
-#include <set>
 #include <utility>
 
 namespace sim {
@@ -108,14 +106,10 @@ ServiceAnswer Services::variableNames(const mms::GetNameListRequest &request)
     const Model::Domain *const domain = m_access.model().findDomain(request.domain);
     if (!domain || (request.continueAfter && request.continueAfter->empty()))
         return nonExistent();
-    if (m_oddities.sortedNames) {
-        const auto all = m_access.model().variableNames(*domain, {},
-                                                        std::numeric_limits<std::size_t>::max());
-        return page(std::set<std::string>(all->names.begin(), all->names.end()), request);
-    }
     auto names = m_access.model().variableNames(
         *domain, request.continueAfter.value_or(std::string()),
-        m_client.pduSize() - std::min(m_client.pduSize(), frameOctets));
+        m_client.pduSize() - std::min(m_client.pduSize(), frameOctets),
+        m_oddities.namesInTypeOrder ? Model::NameOrder::OfTypes : Model::NameOrder::Sorted);
     if (!names)
         return nonExistent();
     return mms::GetNameListResponse{std::move(names->names), names->moreFollows};

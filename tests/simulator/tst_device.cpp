@@ -79,16 +79,24 @@ TEST_F(DeviceTest, pagesOfNamesFitASmallPdu)
               caller.names(ObjectClass::NamedVariable, domain));
 }
 
-TEST_F(DeviceTest, aDeviceMaySortItsNamesOnRequest)
+TEST_F(DeviceTest, namesAreSortedUnlessTheOrderOfTheTypesIsAskedFor)
 {
     sim::DeviceOptions options = localOptions();
-    options.oddities.sortedNames = true;
-    RunningDevice sorted(loop.executor(), *ied, options);
-    Caller other(loop.executor(), sorted.port);
-    std::vector<std::string> expected = caller.names(ObjectClass::NamedVariable, domain);
-    EXPECT_FALSE(std::ranges::is_sorted(expected));
-    std::ranges::sort(expected);
-    EXPECT_EQ(other.names(ObjectClass::NamedVariable, domain), expected);
+    options.oddities.namesInTypeOrder = true;
+    RunningDevice other(loop.executor(), *ied, options);
+    AssociationOptions small;
+    small.maxPduSize = smallestPduSize;
+    Caller inPages(loop.executor(), other.port, small);
+    std::vector<std::string> names = inPages.names(ObjectClass::NamedVariable, domain);
+    const auto at = [&names](std::string_view name) { return std::ranges::find(names, name); };
+    EXPECT_LT(at("XCBR10$ST$Pos$stVal"), at("XCBR10$ST$Pos$q")) << "as in the type";
+    EXPECT_LT(at("XCBR1"), at("XCBR10"));
+    EXPECT_LT(at("XCBR10"), at("MHAI1")) << "as in the description";
+    const std::vector<std::string> sorted = caller.names(ObjectClass::NamedVariable, domain);
+    EXPECT_TRUE(std::ranges::is_sorted(sorted));
+    EXPECT_NE(names, sorted);
+    std::ranges::sort(names);
+    EXPECT_EQ(names, sorted) << "the same names";
 }
 
 TEST_F(DeviceTest, typesAndValuesTooLargeForThePduAreErrorsAndTheirPartsCanBeAsked)
