@@ -312,8 +312,13 @@ void DeviceConnection::updateStatus(const std::function<void(DeviceStatus &)> &c
 void DeviceConnection::setState(DeviceState state, const QString &reason)
 {
     updateStatus([&](DeviceStatus &status) {
+        const QDateTime now = QDateTime::currentDateTime();
         if (status.state != state)
-            status.since = QDateTime::currentDateTime();
+            status.since = now;
+        if (state == DeviceState::Online || state == DeviceState::Disconnected)
+            status.lostSince = {};
+        else if (state == DeviceState::Waiting && !status.lostSince.isValid())
+            status.lostSince = now;
         status.state = state;
         status.reason = reason;
         if (state != DeviceState::ReadingModel)

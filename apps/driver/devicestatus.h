@@ -37,7 +37,16 @@ struct DeviceStatus
     QString vendor;
     QString model;
     QString revision;
-    QDateTime since;                        ///< when the state began, local time
+    QDateTime since; ///< when the state began, local time
+    /// Since when the device has been away, local time: from the loss of its association, or the
+    /// first attempt that failed, through all further attempts until it is online again or nobody
+    /// wants it any more. Invalid otherwise.
+    QDateTime lostSince;
+    /// Values that are known not to be current: of a lost device all that it had shown, otherwise
+    /// those whose last question was not answered or was refused for the moment.
+    int staleValues = 0;
+    QDateTime staleSince; ///< how old the oldest of them is, local time; invalid when there is none
+    int refusedValues = 0; ///< that the device denies or does not have; they are not asked again
     std::chrono::microseconds roundTrip{0}; ///< of the last measured call; 0: not measured yet
     int modelStepsDone = 0;                 ///< while the model is being read
     int modelSteps = 0;
