@@ -68,7 +68,7 @@ public:
     Access &access() { return m_access; }
     DataSets &dataSets() { return m_dataSets; }
     AsioClock &clock() { return *m_clock; }
-    Host host() { return {m_model, m_access, m_dataSets, *m_clock}; }
+    Host host() { return {m_model, m_access, m_dataSets, *m_clock, m_options.oddities}; }
     /// Another engine, besides those that every device has. Before start().
     void addEngine(std::unique_ptr<Engine> engine);
     /// Before start().

@@ -4,6 +4,7 @@
 #include "simulator/access.h"
 #include "simulator/clock.h"
 #include "simulator/datasets.h"
+#include "simulator/oddities.h"
 
 #include "scl/model.h"
 
@@ -19,6 +20,7 @@ struct Host
     Access &access;
     DataSets &dataSets;
     Clock &clock;
+    Oddities oddities{};
 };
 
 /// A part of a device that acts by itself: reports, controls, setting groups. It attaches its

@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "iec61850controllerinterface.h"
 
+#include "callerscope.h"
 #include "controllercallobserver.h"
 #include "driverservice.h"
 #include "driverserviceregistry.h"
 
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QHash>
 #include <QtCore/QStringList>
 
 #include <functional>
+#include <mutex>
 #include <type_traits>
 
 namespace {
@@ -75,11 +78,42 @@ void describe(QStringList &texts, Argument &argument)
         texts << shortText(argument);
 }
 
+/// The numbers of the controllers that there are: an address in memory is used again.
+struct Callers
+{
+    std::mutex mutex;
+    QHash<const IEC61850ControllerInterface *, quint64> numbers;
+    quint64 last = 0;
+};
+
+Callers &callers()
+{
+    static Callers instance;
+    return instance;
+}
+
+quint64 numberOf(const IEC61850ControllerInterface *controller)
+{
+    Callers &all = callers();
+    const std::lock_guard<std::mutex> lock(all.mutex);
+    return all.numbers.value(controller);
+}
+
 } // namespace
 
-IEC61850ControllerInterface::IEC61850ControllerInterface() = default;
+IEC61850ControllerInterface::IEC61850ControllerInterface()
+{
+    Callers &all = callers();
+    const std::lock_guard<std::mutex> lock(all.mutex);
+    all.numbers.insert(this, ++all.last);
+}
 
-IEC61850ControllerInterface::~IEC61850ControllerInterface() = default;
+IEC61850ControllerInterface::~IEC61850ControllerInterface()
+{
+    Callers &all = callers();
+    const std::lock_guard<std::mutex> lock(all.mutex);
+    all.numbers.remove(this);
+}
 
 void IEC61850ControllerInterface::setLocation(const QString &address, int driverNo)
 {
@@ -100,6 +134,7 @@ OperationResult IEC61850ControllerInterface::perform(Method method, const char *
     timer.start();
 
     if (const std::shared_ptr<DriverService> service = DriverServiceRegistry::find(m_address)) {
+        const CallerScope caller(numberOf(this));
         if constexpr (std::is_invocable_v<Method, DriverService &, long, Arguments &..., QString &>)
             call.result = std::invoke(method, *service, deviceNo, arguments..., error);
         else

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/recordingdriverservice.h"
 
+#include <remoteclient/controllercaller.h>
 #include <remoteclient/iec61850controllerinterface.h>
 
 #include <QtTest/QtTest>
@@ -172,6 +173,32 @@ private slots:
         QString error = QStringLiteral("from before");
         QCOMPARE(controller.deleteFile(1, QStringLiteral("f"), error), OperationSucceeded);
         QVERIFY(error.isEmpty());
+    }
+
+    void aCallSaysWhichControllerItCameThrough()
+    {
+        QList<quint64> callers;
+        m_service->setOnCall([&callers](const RecordingDriverService::Call &) {
+            callers << ControllerCaller::current();
+        });
+        QString error;
+        {
+            Controller one;
+            Controller other;
+            for (Controller *each : {&one, &other, &one}) {
+                each->setLocation(QStringLiteral("test:driver"), 1);
+                each->deleteFile(1, QStringLiteral("f"), error);
+            }
+        }
+        // The next one may stand at the same place in memory.
+        Controller later;
+        later.setLocation(QStringLiteral("test:driver"), 1);
+        later.deleteFile(1, QStringLiteral("f"), error);
+        QCOMPARE(callers.size(), 4);
+        QCOMPARE(callers.at(0), callers.at(2));
+        QCOMPARE(QSet<quint64>(callers.cbegin(), callers.cend()).size(), 3);
+        QVERIFY(!callers.contains(0));
+        QCOMPARE(ControllerCaller::current(), quint64(0));
     }
 
     void abortCloseHasNoText()
