@@ -309,6 +309,12 @@ void DeviceConnection::updateStatus(const std::function<void(DeviceStatus &)> &c
         m_environment.statusChanged(status());
 }
 
+void DeviceConnection::count(std::uint64_t DeviceCounters::*counter, std::uint64_t by)
+{
+    const std::lock_guard<std::mutex> lock(m_statusMutex);
+    m_status.counters.*counter += by;
+}
+
 void DeviceConnection::setState(DeviceState state, const QString &reason)
 {
     updateStatus([&](DeviceStatus &status) {

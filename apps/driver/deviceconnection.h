@@ -6,6 +6,8 @@
 #include "livevalues.h"
 #include "onlinemodel.h"
 #include "pducapture.h"
+#include "reportcoverage.h"
+#include "reportevent.h"
 
 #include "acsi/client.h"
 #include "acsi/discovery.h"
@@ -66,6 +68,8 @@ struct ConnectionEnvironment
     std::shared_ptr<LiveValues> values;
     std::function<void(const DeviceStatus &)> statusChanged;
     std::function<void(const DeviceChange &)> changed;
+    /// Takes every report, in order for each device; null when nobody wants them.
+    std::function<void(ReportEvent)> reportReceived;
     /// Claims the names of logical devices for the device that goes online; a sentence when another
     /// device has one of them, otherwise empty.
     std::function<QString(const QStringList &logicalDevices)> claim;
@@ -162,9 +166,12 @@ public:
     bool publish(const acsi::Reference &reference, const mms::Data &data,
                  const Publication &publication);
 
-    /// Data that comes by itself under @p source (a report control block), "LD/LN$FC$DO..." each:
-    /// polling leaves it out. An empty list takes the source away.
-    void setReported(const QString &source, const std::vector<acsi::Reference> &references);
+    /// Data that comes by itself under @p source (a report control block), and which of its changes
+    /// do. A leaf that ReportedData::covers() leaves the fast polling, never the slow one. An empty
+    /// list takes the source away; the end of the association takes all.
+    void setReported(const QString &source, const std::vector<acsi::Reference> &references,
+                     const ReportCoverage &coverage);
+    const ReportedData &reported() const { return m_reported; }
 
     /// Reads the variables and publishes what came; one sentence names those that failed.
     asio::awaitable<Outcome> readAndPublish(std::vector<acsi::Reference> references,
@@ -185,6 +192,9 @@ public:
     /// Tells the host's journal. Time, number and device are filled in.
     void journal(DeviceChange change);
     void countReport() { ++m_reports; }
+    /// Adds to one of the counters of the status.
+    void count(std::uint64_t DeviceCounters::*counter, std::uint64_t by = 1);
+    const ConnectionEnvironment &environment() const { return m_environment; }
 
     /// The model with the values of now, as PhysicalDevice::fromStream() reads it. Values that
     /// change shortly after are published again a little later, since a browser that opens with
@@ -249,7 +259,7 @@ private:
     std::unique_ptr<PhysicalDevice> m_fromFile;
     bool m_fileRead = false;
     std::map<std::type_index, std::unique_ptr<AssociationPart>> m_parts;
-    QHash<QString, std::vector<std::string>> m_reported; ///< by source
+    ReportedData m_reported;
     QMap<QString, QString> m_problems;                   ///< by source
     std::set<std::string> m_inParts; ///< nodes' constraints that have to be read in parts
     std::set<std::string> m_refused; ///< data that the device does not hand out

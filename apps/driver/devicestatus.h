@@ -24,6 +24,12 @@ struct DeviceCounters
     std::uint64_t publishedValues = 0;
     std::uint64_t connections = 0;      ///< associations since the device was added
     std::uint64_t unclaimedReports = 0; ///< information that nobody had asked for
+    /// Times that reports were found missing: by their numbers, a segment, an overflown buffer, an
+    /// entry that the device does not know any more.
+    std::uint64_t reportGaps = 0;
+    std::uint64_t unreadableReports = 0; ///< that could not be decoded or brought other data
+    std::uint64_t dataSetReadings = 0;   ///< data sets read whole to make good for such
+    std::uint64_t droppedEvents = 0;     ///< report events that the host did not take in time
 };
 
 /// A device as the driver sees it. A value type.

@@ -4,6 +4,7 @@
 #include "deviceconfiguration.h"
 #include "devicestatus.h"
 #include "pducapture.h"
+#include "reportevent.h"
 
 #include <remoteclient/driverservice.h>
 
@@ -30,6 +31,10 @@ struct IedDriverOptions
     std::function<void(const DeviceStatus &)> statusChanged;
     /// Told of every change that the driver makes on a device, or tries to; like statusChanged.
     std::function<void(const DeviceChange &)> changed;
+    /// Takes every report as it came, none left out, those of one device in their order; in a
+    /// thread of the driver, one at a time. Must not call the driver. A host that does not keep up
+    /// loses the oldest that wait; the next event says so, and DeviceCounters::droppedEvents counts.
+    std::function<void(const ReportEvent &)> reportReceived;
 };
 
 /// The driver: devices by number, reached over MMS or known only from their SCL file.

@@ -54,6 +54,17 @@ std::uint32_t causeOf(const acsi::ReportMember &member)
     return cause;
 }
 
+ReportCoverage coverageOf(const acsi::ReportBlock &block)
+{
+    ReportCoverage coverage;
+    coverage.dataChange = block.trgOps.dataChange;
+    coverage.qualityChange = block.trgOps.qualityChange;
+    coverage.dataUpdate = block.trgOps.dataUpdate;
+    if (block.trgOps.integrity)
+        coverage.integrityPeriod = milliseconds(block.intgPd);
+    return coverage;
+}
+
 /// Whether both texts name the same data set.
 bool isSameDataSet(const acsi::Reference &block, const std::string &left, const std::string &right)
 {
@@ -296,9 +307,8 @@ asio::awaitable<Outcome> ReportSubscriptions::start(SubscriptionPointer subscrip
         newValue = describe(*enabled);
         for (const std::string &note : enabled->notes)
             newValue += QStringLiteral("; ") + text(note);
-        // Data that only comes now and then is still polled for changes in between.
-        if (enabled->trgOps.dataChange)
-            m_connection.setReported(text(subscription->reference), subscription->members);
+        m_connection.setReported(text(subscription->reference), subscription->members,
+                                 coverageOf(*enabled));
         const QString device = text(block.device);
         const QString reference = text(acsi::itemText(block));
         if (ReportControlBlock *shown = m_connection.model()->reportBlock(device, reference)) {
@@ -469,7 +479,7 @@ asio::awaitable<void> ReportSubscriptions::watch(std::shared_ptr<acsi::Client> c
 void ReportSubscriptions::stop(ReportSubscription &subscription)
 {
     subscription.isTaking = false;
-    m_connection.setReported(text(subscription.reference), {});
+    m_connection.setReported(text(subscription.reference), {}, {});
 }
 
 ReportSubscriptions::SubscriptionPointer

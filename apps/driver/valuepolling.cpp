@@ -10,6 +10,8 @@
 
 #include <QtCore/QCoreApplication>
 
+#include <algorithm>
+
 using acsi::FunctionalConstraint;
 using ConnectionText::text;
 using ConnectionText::withoutPeriod;
@@ -37,13 +39,6 @@ const std::vector<FunctionalConstraint> slowConstraints = {
     FunctionalConstraint::DC, FunctionalConstraint::EX, FunctionalConstraint::BL,
     FunctionalConstraint::OR, FunctionalConstraint::SR};
 const std::vector<FunctionalConstraint> configurationConstraints = {FunctionalConstraint::CF};
-
-bool isAtOrBelow(const std::string &reference, const std::string &ancestor)
-{
-    return reference.compare(0, ancestor.size(), ancestor) == 0 &&
-           (reference.size() == ancestor.size() || reference[ancestor.size()] == '$' ||
-            reference[ancestor.size()] == '(');
-}
 
 /// Sentences about single references in one.
 class Failures
@@ -75,22 +70,16 @@ private:
 
 std::vector<acsi::Reference> DeviceConnection::polled(FunctionalConstraint constraint) const
 {
-    const auto isReported = [this](const std::string &reference) {
-        for (const std::vector<std::string> &source : m_reported) {
-            for (const std::string &member : source) {
-                if (isAtOrBelow(reference, member))
-                    return true;
-            }
-        }
-        return false;
+    // An object stays as long as one of its leaves may change unreported.
+    const auto isReported = [this](const acsi::Reference &object) {
+        const std::vector<OnlineModel::Leaf> leaves = m_model->leavesOf(object);
+        return std::all_of(leaves.begin(), leaves.end(), [this](const OnlineModel::Leaf &leaf) {
+            const auto reference = acsi::parseReference(leaf.reference.toStdString());
+            return reference &&
+                   m_reported.covers(*reference, std::nullopt, m_configuration.pollInterval);
+        });
     };
-    std::set<std::string> reportedNodes;
-    for (const std::vector<std::string> &source : m_reported) {
-        for (const std::string &member : source) {
-            const std::size_t firstSeparator = member.find('$');
-            reportedNodes.insert(member.substr(0, member.find('$', firstSeparator + 1)));
-        }
-    }
+    const std::set<std::string> reportedNodes = m_reported.constraints();
 
     std::vector<acsi::Reference> result;
     const std::string_view name = acsi::toText(constraint);
@@ -114,7 +103,7 @@ std::vector<acsi::Reference> DeviceConnection::polled(FunctionalConstraint const
                     continue;
                 reference.path.front().name = object.name;
                 const std::string full = acsi::toText(reference);
-                if (m_refused.count(full) == 0 && !isReported(full))
+                if (m_refused.count(full) == 0 && !isReported(reference))
                     result.push_back(reference);
             }
         }
@@ -245,16 +234,10 @@ asio::awaitable<Outcome> DeviceConnection::readAndPublish(std::vector<acsi::Refe
 }
 
 void DeviceConnection::setReported(const QString &source,
-                                   const std::vector<acsi::Reference> &references)
+                                   const std::vector<acsi::Reference> &references,
+                                   const ReportCoverage &coverage)
 {
-    if (references.empty()) {
-        m_reported.remove(source);
-        return;
-    }
-    std::vector<std::string> &members = m_reported[source];
-    members.clear();
-    for (const acsi::Reference &reference : references)
-        members.push_back(acsi::toText(reference));
+    m_reported.set(source, references, coverage);
 }
 
 QByteArray DeviceConnection::modelBytes()

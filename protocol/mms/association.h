@@ -179,6 +179,9 @@ public:
     /// The network address of the peer in network order, 4 or 16 octets; empty without a
     /// connection. In the strand.
     std::vector<std::uint8_t> peerAddress() const { return m_link->peerAddress(); }
+    /// The network address of this end, in the same form: what a device sees of this client, unless
+    /// something between them translates addresses.
+    std::vector<std::uint8_t> localAddress() const { return m_link->localAddress(); }
     const Link::Strand &strand() const { return m_strand; }
     AssociationCounters counters() const;
 

@@ -68,6 +68,8 @@ public:
     std::optional<TlsPeer> tlsPeer() const { return m_stream.peer(); }
     /// The network address of the peer: 4 or 16 octets; empty while there is no connection.
     std::vector<std::uint8_t> peerAddress() const { return m_stream.peerAddress(); }
+    /// The network address of this end, in the same form.
+    std::vector<std::uint8_t> localAddress() const { return m_stream.localAddress(); }
     /// Octets that wait for the network.
     std::size_t queued() const;
     /// When the last octets came from the network.

@@ -46,6 +46,20 @@ OpenSslPointer<SSL, SSL_free> makeConnection(SSL_CTX *context, const std::string
     return isSet ? std::move(ssl) : nullptr;
 }
 
+/// In network order.
+std::vector<std::uint8_t> octetsOf(const asio::ip::address &address)
+{
+    const auto octets = [](const auto &bytes) {
+        return std::vector<std::uint8_t>(bytes.begin(), bytes.end());
+    };
+    if (address.is_v4())
+        return octets(address.to_v4().to_bytes());
+    const asio::ip::address_v6 wide = address.to_v6();
+    if (wide.is_v4_mapped())
+        return octets(asio::ip::make_address_v4(asio::ip::v4_mapped, wide).to_bytes());
+    return octets(wide.to_bytes());
+}
+
 } // namespace
 
 struct NetworkStream::Tls
@@ -220,18 +234,14 @@ std::vector<std::uint8_t> NetworkStream::peerAddress() const
 {
     asio::error_code error;
     const auto endpoint = m_socket.remote_endpoint(error);
-    if (error)
-        return {};
-    const auto octets = [](const auto &bytes) {
-        return std::vector<std::uint8_t>(bytes.begin(), bytes.end());
-    };
-    const asio::ip::address address = endpoint.address();
-    if (address.is_v4())
-        return octets(address.to_v4().to_bytes());
-    const asio::ip::address_v6 wide = address.to_v6();
-    if (wide.is_v4_mapped())
-        return octets(asio::ip::make_address_v4(asio::ip::v4_mapped, wide).to_bytes());
-    return octets(wide.to_bytes());
+    return error ? std::vector<std::uint8_t>() : octetsOf(endpoint.address());
+}
+
+std::vector<std::uint8_t> NetworkStream::localAddress() const
+{
+    asio::error_code error;
+    const auto endpoint = m_socket.local_endpoint(error);
+    return error ? std::vector<std::uint8_t>() : octetsOf(endpoint.address());
 }
 
 } // namespace mms

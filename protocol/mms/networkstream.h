@@ -55,6 +55,8 @@ public:
     std::optional<TlsPeer> peer() const;
     /// Of the other end, in network order: 4 or 16 octets; empty while there is no connection.
     std::vector<std::uint8_t> peerAddress() const;
+    /// Of this end, in the same form.
+    std::vector<std::uint8_t> localAddress() const;
 
 private:
     struct Tls;
