@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr quint32 magic = 0x49444331;
+constexpr quint32 magic = 0x49444332;
 constexpr int hashSize = 32;
 const QString suffix = QStringLiteral(".description");
 
@@ -173,6 +173,7 @@ QByteArray DescriptionCache::toBytes(const acsi::ServerDescription &description)
         for (const acsi::NodeDescription &node : device.nodes) {
             writer.text(node.name);
             writer.octets(mms::encode(node.type));
+            writer.texts(node.inParts);
         }
         isWhole = writer.dataSets(device.dataSets) && isWhole;
         writer.texts(device.journals);
@@ -196,6 +197,7 @@ std::optional<acsi::ServerDescription> DescriptionCache::fromBytes(const QByteAr
         for (acsi::NodeDescription &node : device.nodes) {
             node.name = reader.text();
             node.type = reader.type();
+            node.inParts = reader.texts();
         }
         device.dataSets = reader.dataSets();
         device.journals = reader.texts();

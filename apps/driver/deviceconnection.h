@@ -236,6 +236,10 @@ private:
     asio::awaitable<void> republish();
     asio::awaitable<Outcome> waitFor(Need need, Deadline deadline);
     std::vector<acsi::Reference> polled(acsi::FunctionalConstraint constraint) const;
+    /// The references, each as what has to be read to get it; those that the model does not know as
+    /// they are.
+    std::vector<acsi::Reference>
+    inReadableParts(const std::vector<acsi::Reference> &references) const;
 
     void connectInStrand();
     QString loadFile();

@@ -118,10 +118,38 @@ OnlineModel::OnlineModel(std::shared_ptr<const acsi::ServerDescription> descript
     }
 }
 
+const acsi::NodeDescription *OnlineModel::description(const acsi::Reference &reference) const
+{
+    return m_nodes.value(text(reference.device) + QLatin1Char('/') + text(reference.node));
+}
+
+bool OnlineModel::isWholeKnown(const acsi::Reference &reference) const
+{
+    const acsi::NodeDescription *node = description(reference);
+    return node && acsi::isToldWhole(*node, acsi::itemText(reference));
+}
+
+std::vector<acsi::Reference> OnlineModel::readableParts(const acsi::Reference &reference) const
+{
+    std::vector<acsi::Reference> parts;
+    const acsi::NodeDescription *node = description(reference);
+    if (!node || !describedType(reference))
+        return parts;
+    for (const std::string &item : acsi::partsToldWhole(*node, acsi::itemText(reference))) {
+        if (const auto part = acsi::parseReference(reference.device, item))
+            parts.push_back(*part);
+    }
+    return parts;
+}
+
 const mms::TypeDescription *OnlineModel::type(const acsi::Reference &reference) const
 {
-    const acsi::NodeDescription *node =
-        m_nodes.value(text(reference.device) + QLatin1Char('/') + text(reference.node));
+    return isWholeKnown(reference) ? describedType(reference) : nullptr;
+}
+
+const mms::TypeDescription *OnlineModel::describedType(const acsi::Reference &reference) const
+{
+    const acsi::NodeDescription *node = description(reference);
     if (!node)
         return nullptr;
     if (!reference.constraint)
@@ -160,7 +188,7 @@ bool OnlineModel::forEachLeaf(const acsi::Reference &reference, const mms::Data 
 std::vector<OnlineModel::Leaf> OnlineModel::leavesOf(const acsi::Reference &reference) const
 {
     std::vector<Leaf> leaves;
-    const TypeDescription *described = type(reference);
+    const TypeDescription *described = describedType(reference);
     if (!described)
         return leaves;
     const LeafVisitor visitor = [&leaves](const Leaf &leaf) { leaves.push_back(leaf); };

@@ -41,13 +41,21 @@ public:
     const PhysicalDevice &device() const { return *m_device; }
     const acsi::ServerDescription &description() const { return *m_description; }
 
-    /// The live type of what the reference names; null when the device did not describe it.
+    /// The live type of what the reference names; null when the device did not describe it, or not
+    /// as a whole.
     const mms::TypeDescription *type(const acsi::Reference &reference) const;
+    /// Whether the device itself told the order of what is in the structure. A value of one that it
+    /// described in parts must not be taken apart, nor be put together to be written.
+    bool isWholeKnown(const acsi::Reference &reference) const;
+    /// What has to be read to get all of the reference: itself, or the largest parts of it of which
+    /// the device told the order; nothing for what it did not describe.
+    std::vector<acsi::Reference> readableParts(const acsi::Reference &reference) const;
     LogicalNode *node(const QString &device, const QString &node) const;
     ReportControlBlock *reportBlock(const QString &device, const QString &reference) const;
 
     /// Takes structured data apart to the leaves of the model, in the order of the type. False when
-    /// the value does not have the shape of the live type; leaves before the mistake were visited.
+    /// the value does not have the shape of the live type, and when that is not known as a whole;
+    /// leaves before the mistake were visited.
     bool forEachLeaf(const acsi::Reference &reference, const mms::Data &data,
                      const LeafVisitor &visitor) const;
     /// The leaves of a data set member or of whatever a reference names, without values.
@@ -57,6 +65,9 @@ public:
 
 private:
     struct Walk;
+
+    const acsi::NodeDescription *description(const acsi::Reference &reference) const;
+    const mms::TypeDescription *describedType(const acsi::Reference &reference) const;
 
     std::shared_ptr<const acsi::ServerDescription> m_description;
     std::unique_ptr<PhysicalDevice> m_device;

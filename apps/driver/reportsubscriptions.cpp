@@ -588,7 +588,14 @@ void ReportSubscriptions::publish(ReportSubscription &subscription, const acsi::
         publication.time = companions.time(reference);
         if (!publication.time && entryTime)
             publication.time = &*entryTime;
-        if (!m_connection.publish(references[i], member.value.data(), publication)) {
+        const bool isUnderstood =
+            m_connection.model() && m_connection.model()->isWholeKnown(references[i]);
+        if (!isUnderstood && m_connection.model() &&
+            !m_connection.model()->readableParts(references[i]).empty()) {
+            disturbance = Texts::tr("The device described %1 in parts only, so what the reports of "
+                                    "%2 say of it cannot be understood; it is polled.")
+                              .arg(text(reference), text(subscription.reference));
+        } else if (!m_connection.publish(references[i], member.value.data(), publication)) {
             disturbance = Texts::tr("A value of %1 in the reports of %2 does not have the form of "
                                     "its type.")
                               .arg(text(reference), text(subscription.reference));

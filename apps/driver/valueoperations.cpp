@@ -56,10 +56,16 @@ asio::awaitable<Outcome> readDataSet(DevicePointer device, QString ldName, QStri
                                       .arg(directory->members.size())
                                       .arg(values->size()));
     QStringList failures;
+    std::vector<acsi::Reference> inParts;
     const DeviceConnection::Publication publication;
     for (std::size_t i = 0; i < values->size(); ++i) {
         const mms::AccessResult &value = (*values)[i];
         const mms::Result<acsi::Reference> member = acsi::referenceOf(directory->members[i]);
+        if (member && device->model() && !device->model()->isWholeKnown(*member) &&
+            !device->model()->readableParts(*member).empty()) {
+            inParts.push_back(*member);
+            continue;
+        }
         const QString reference =
             text(member ? acsi::toText(*member) : mms::toText(directory->members[i]));
         if (!value.ok())
@@ -68,6 +74,11 @@ asio::awaitable<Outcome> readDataSet(DevicePointer device, QString ldName, QStri
         else if (!member || !device->publish(*member, value.data(), publication))
             failures.append(
                 Texts::tr("%1: the value does not have the form of its type").arg(reference));
+    }
+    if (!inParts.empty()) {
+        const Outcome read = co_await device->readAndPublish(std::move(inParts), publication);
+        if (!read)
+            failures.append(read.error);
     }
     co_return failures.isEmpty() ? Outcome() : Outcome::failed(failures.join(QStringLiteral("; ")));
 }

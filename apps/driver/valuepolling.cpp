@@ -11,6 +11,7 @@
 #include <QtCore/QCoreApplication>
 
 #include <algorithm>
+#include <iterator>
 
 using acsi::FunctionalConstraint;
 using ConnectionText::text;
@@ -93,7 +94,7 @@ std::vector<acsi::Reference> DeviceConnection::polled(FunctionalConstraint const
             const bool isControlBlockThere =
                 constraint == FunctionalConstraint::SP && node.name == "LLN0";
             if (!isControlBlockThere && m_inParts.count(whole) == 0 &&
-                reportedNodes.count(whole) == 0) {
+                reportedNodes.count(whole) == 0 && m_model->isWholeKnown(reference)) {
                 result.push_back(std::move(reference));
                 continue;
             }
@@ -102,9 +103,11 @@ std::vector<acsi::Reference> DeviceConnection::polled(FunctionalConstraint const
                 if (isControlBlockThere && object.name == "SGCB")
                     continue;
                 reference.path.front().name = object.name;
-                const std::string full = acsi::toText(reference);
-                if (m_refused.count(full) == 0 && !isReported(reference))
-                    result.push_back(reference);
+                for (acsi::Reference &part : m_model->readableParts(reference)) {
+                    const std::string full = acsi::toText(part);
+                    if (m_refused.count(full) == 0 && !isReported(part))
+                        result.push_back(std::move(part));
+                }
             }
         }
     }
@@ -206,6 +209,22 @@ bool DeviceConnection::publish(const acsi::Reference &reference, const mms::Data
     return fits;
 }
 
+std::vector<acsi::Reference>
+DeviceConnection::inReadableParts(const std::vector<acsi::Reference> &references) const
+{
+    std::vector<acsi::Reference> result;
+    for (const acsi::Reference &reference : references) {
+        std::vector<acsi::Reference> parts;
+        if (m_model)
+            parts = m_model->readableParts(reference);
+        // The device itself shall say what it thinks of a name that it did not describe.
+        if (parts.empty())
+            parts.push_back(reference);
+        std::ranges::move(parts, std::back_inserter(result));
+    }
+    return result;
+}
+
 asio::awaitable<Outcome> DeviceConnection::readAndPublish(std::vector<acsi::Reference> references,
                                                           Publication publication)
 {
@@ -214,6 +233,7 @@ asio::awaitable<Outcome> DeviceConnection::readAndPublish(std::vector<acsi::Refe
         const QString sentence = notConnectedSentence();
         co_return Outcome{OperationNotConnected, sentence};
     }
+    references = inReadableParts(references);
     std::vector<mms::VariableAccess> variables;
     for (const acsi::Reference &reference : references)
         variables.push_back(acsi::accessOf(reference));
@@ -237,7 +257,13 @@ void DeviceConnection::setReported(const QString &source,
                                    const std::vector<acsi::Reference> &references,
                                    const ReportCoverage &coverage)
 {
-    m_reported.set(source, references, coverage);
+    // Reports cannot be understood of what the device described in parts only.
+    std::vector<acsi::Reference> understood;
+    for (const acsi::Reference &reference : references) {
+        if (!m_model || m_model->isWholeKnown(reference))
+            understood.push_back(reference);
+    }
+    m_reported.set(source, understood, coverage);
 }
 
 QByteArray DeviceConnection::modelBytes()

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <functional>
 #include <utility>
 
 namespace acsi {
@@ -112,6 +113,32 @@ const mms::TypeDescription *typeBelow(const mms::TypeDescription &node, std::str
         path.remove_prefix(end == path.npos ? path.size() : end + 1);
     }
     return type;
+}
+
+bool isToldWhole(const NodeDescription &node, std::string_view item)
+{
+    return !std::ranges::binary_search(node.inParts, item, std::less<std::string_view>());
+}
+
+std::vector<std::string> partsToldWhole(const NodeDescription &node, const std::string &item)
+{
+    if (isToldWhole(node, item))
+        return {item};
+    // What stands in parts was reached by names alone, never through an array.
+    const mms::TypeDescription *type = &node.type;
+    std::string_view rest = item;
+    for (std::size_t end = rest.find('$'); type && end != rest.npos; end = rest.find('$')) {
+        rest.remove_prefix(end + 1);
+        type = component(*type, rest.substr(0, rest.find('$')));
+    }
+    std::vector<std::string> parts;
+    if (!type)
+        return parts;
+    for (const mms::TypeDescription::Component &each : type->components) {
+        for (std::string &part : partsToldWhole(node, item + '$' + each.name))
+            parts.push_back(std::move(part));
+    }
+    return parts;
 }
 
 } // namespace acsi

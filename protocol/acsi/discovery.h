@@ -26,6 +26,12 @@ struct NodeDescription
     /// A structure of functional constraints, each a structure of data: in the order of the
     /// server's model. Empty when the server refused it.
     mms::TypeDescription type;
+    /// The structures, "LN", "LN$ST", "LN$ST$Pos", that were described part by part because the
+    /// server does not tell them whole: what is in them is known, but not in which order. Sorted;
+    /// with a structure stand all those around it.
+    std::vector<std::string> inParts;
+
+    friend bool operator==(const NodeDescription &, const NodeDescription &) = default;
 };
 
 struct DeviceDescription
@@ -67,5 +73,13 @@ asio::awaitable<mms::Result<ServerDescription>> discover(std::shared_ptr<Client>
 /// @p constraint and @p path as in the node's type, "ST", "Pos$stVal"; elements of arrays "har(3)".
 const mms::TypeDescription *typeBelow(const mms::TypeDescription &node, std::string_view constraint,
                                       std::string_view path);
+
+/// Whether the server itself has told the type of @p item, "LN$ST$Pos", with the order of all that
+/// is in it. Only then a value of it can be taken apart, or be put together to be written.
+bool isToldWhole(const NodeDescription &node, std::string_view item);
+
+/// The largest data at and below @p item that were told whole, in the order of the type; @p item
+/// itself where it was. Nothing where the node has no such data.
+std::vector<std::string> partsToldWhole(const NodeDescription &node, const std::string &item);
 
 } // namespace acsi

@@ -302,7 +302,7 @@ void DiscoveryPlan::takeNode(std::size_t device, std::string_view item)
     step.device = device;
     step.node = nodes.size();
     step.object = mms::ObjectName::inDomain(m_server.devices[device].name, item);
-    nodes.push_back({std::string(item), {}});
+    nodes.push_back({std::string(item), {}, {}});
     add(std::move(step));
 }
 
@@ -377,6 +377,8 @@ bool DiscoveryPlan::descend(const Step &step)
     if (parts.empty() || !type)
         return false;
     *type = {};
+    // The order of the names says nothing about the order in the structure.
+    m_server.devices[step.device].nodes[step.node].inParts.push_back(step.object.item);
     for (const std::string &part : parts) {
         type->components.push_back({part, {}});
         Step below = step;
@@ -431,8 +433,11 @@ mms::Result<ServerDescription> DiscoveryPlan::take()
         });
     };
     sort(m_server.associationDataSets);
-    for (DeviceDescription &device : m_server.devices)
+    for (DeviceDescription &device : m_server.devices) {
         sort(device.dataSets);
+        for (NodeDescription &node : device.nodes)
+            std::ranges::sort(node.inParts);
+    }
     return std::move(m_server);
 }
 

@@ -260,6 +260,31 @@ TEST(DiscoveryPlan, TypeTooLargeIsAskedForByConstraintAndThenByData)
     }
 }
 
+TEST(DiscoveryPlan, WhatWasDescribedInPartsIsMarked)
+{
+    PlanDriver driver(5);
+    driver.instead = [](const auto &request) -> std::optional<CallOutcome> {
+        const std::string item = typeItem(request);
+        if (item == "XCBR1" || item == "XCBR1$ST")
+            return tooLarge;
+        return std::nullopt;
+    };
+    const auto server = driver.run();
+    ASSERT_TRUE(server.ok());
+    const NodeDescription &node = server->devices[0].nodes[1];
+    EXPECT_EQ(node.inParts, (std::vector<std::string>{"XCBR1", "XCBR1$ST"}));
+    EXPECT_FALSE(isToldWhole(node, "XCBR1"));
+    EXPECT_FALSE(isToldWhole(node, "XCBR1$ST"));
+    EXPECT_TRUE(isToldWhole(node, "XCBR1$ST$Pos"));
+    EXPECT_TRUE(isToldWhole(node, "XCBR1$CF"));
+    EXPECT_EQ(partsToldWhole(node, "XCBR1"),
+              (std::vector<std::string>{"XCBR1$ST$Beh", "XCBR1$ST$Pos", "XCBR1$CF"}));
+    EXPECT_EQ(partsToldWhole(node, "XCBR1$CF$Pos"), std::vector<std::string>{"XCBR1$CF$Pos"});
+    const NodeDescription &whole = server->devices[0].nodes[2];
+    EXPECT_TRUE(whole.inParts.empty());
+    EXPECT_EQ(partsToldWhole(whole, "XCBR10$ST"), std::vector<std::string>{"XCBR10$ST"});
+}
+
 TEST(DiscoveryPlan, RefusedObjectsAreNamedAndLeftOut)
 {
     PlanDriver driver(5);
