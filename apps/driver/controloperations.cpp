@@ -1,12 +1,19 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "controlorder.h"
+#include "controlstate.h"
 #include "driverruntime.h"
 #include "journalentry.h"
 #include "valueconversion.h"
 
+#include <remoteclient/controllercaller.h>
+
+#include <asio/co_spawn.hpp>
+#include <asio/post.hpp>
+
 #include <QtCore/QCoreApplication>
 
 #include <array>
+#include <atomic>
 
 using acsi::ControlModel;
 using std::chrono::milliseconds;
@@ -21,11 +28,13 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(IedDriver)
 };
 
-/// How long a command may take where the device does not say.
+/// How long a command may take where the device does not say, and at most.
 constexpr milliseconds usualTermination{30000};
-constexpr milliseconds longestTermination{60000};
+constexpr milliseconds longestTermination{3600000};
 /// What the device needs to tell of the end of a command that took all its time.
 constexpr milliseconds terminationMargin{2000};
+
+enum class Service { Select, Operate, Cancel };
 
 QString text(std::string_view utf8)
 {
@@ -43,252 +52,6 @@ acsi::ControlResult failed(const QString &sentence)
     return {false, sentence.toStdString(), {}};
 }
 
-/// What was selected and is being operated on a device; it ends with the association.
-class ControlPart : public AssociationPart
-{
-public:
-    /// A command as it was sent.
-    struct Command
-    {
-        ControlBlock block;
-        acsi::ControlRequest request;
-    };
-
-    struct Object
-    {
-        std::uint8_t ctlNum = 0; ///< the last one
-        std::optional<Command> selection;
-        steady_clock::time_point selectionEnd;
-        std::optional<Command> underWay;
-        std::optional<Command> last;
-
-        const Command *liveSelection() const
-        {
-            return selection && steady_clock::now() < selectionEnd ? &*selection : nullptr;
-        }
-        /// What a cancel is about.
-        const Command *current() const { return underWay ? &*underWay : liveSelection(); }
-    };
-
-    explicit ControlPart(DeviceConnection &) {}
-
-    Object &object(const std::string &reference) { return m_objects[reference]; }
-
-    void closed(const QString &) override
-    {
-        for (auto &each : m_objects) {
-            each.second.selection.reset();
-            each.second.underWay.reset();
-            each.second.last.reset();
-        }
-    }
-
-private:
-    std::map<std::string, Object> m_objects;
-};
-
-enum class Service { Select, Operate, Cancel };
-
-/// One control service of one object.
-class Control
-{
-public:
-    Control(DevicePointer device, Service service, acsi::Reference reference, ControlBlock block)
-        : m_device(std::move(device))
-        , m_service(service)
-        , m_reference(std::move(reference))
-        , m_name(acsi::toText(m_reference))
-        , m_block(std::move(block))
-        , m_client(m_device->client())
-        , m_state(m_device->part<ControlPart>().object(m_name))
-    {
-    }
-
-    asio::awaitable<acsi::ControlResult> run()
-    {
-        // An empty record must not reach a breaker, so it is looked at before the device.
-        const bool needsSelection =
-            m_service != Service::Select &&
-            m_block.controlModel == static_cast<quint8>(ControlModel::SelectEnhanced);
-        if (needsSelection && !selected())
-            co_return failed(Texts::tr("Select the object first"));
-        const auto valid =
-            ControlOrder::toRequest(m_block, m_device->configuration().originatorIdentification, 0);
-        if (!valid)
-            co_return acsi::ControlResult{false, valid.error().message, {}};
-
-        const auto object = co_await acsi::ControlObject::open(m_client, m_reference);
-        if (!object)
-            co_return acsi::ControlResult{false, object.error().message, {}};
-        m_object = *object;
-        const auto model = static_cast<quint8>(m_object->model());
-        if (model != m_block.controlModel) {
-            co_return failed(Texts::tr("%1 has the control model %2, but the command was made for "
-                                       "%3: read the model of the device again.")
-                                 .arg(text(m_name))
-                                 .arg(model)
-                                 .arg(m_block.controlModel));
-        }
-        switch (m_service) {
-        case Service::Select:
-            co_return co_await select();
-        case Service::Operate:
-            co_return co_await operate();
-        case Service::Cancel:
-            break;
-        }
-        co_return co_await cancel();
-    }
-
-    /// What was sent, for the journal.
-    QString sent() const
-    {
-        const bool isReadOfSelection =
-            m_service == Service::Select &&
-            m_block.controlModel == static_cast<quint8>(ControlModel::SelectNormal);
-        return isReadOfSelection ? QString() : ControlOrder::text(m_block);
-    }
-
-private:
-    /// The command that an operate or cancel of an object with selection repeats.
-    const ControlPart::Command *selected() const
-    {
-        return m_service == Service::Operate ? m_state.liveSelection() : m_state.current();
-    }
-
-    ControlPart::Command command(std::uint8_t ctlNum) const
-    {
-        auto request = ControlOrder::toRequest(
-            m_block, m_device->configuration().originatorIdentification, ctlNum);
-        return {m_block, *std::move(request)};
-    }
-
-    void keepSelection(ControlPart::Command command)
-    {
-        const milliseconds timeout = m_object->selectTimeout().value_or(milliseconds(0));
-        m_state.selection = std::move(command);
-        m_state.selectionEnd = timeout > milliseconds(0) ? steady_clock::now() + timeout
-                                                         : steady_clock::time_point::max();
-    }
-
-    asio::awaitable<acsi::ControlResult> select()
-    {
-        // What was selected before must not be operated after a select that the device refuses.
-        m_state.selection.reset();
-        ControlPart::Command command = this->command(++m_state.ctlNum);
-        const acsi::ControlResult result = co_await m_object->select(command.request);
-        if (result && m_device->client() == m_client)
-            keepSelection(std::move(command));
-        co_return result;
-    }
-
-    asio::awaitable<acsi::ControlResult> operate()
-    {
-        const ControlPart::Command *selection = m_state.liveSelection();
-        ControlPart::Command command;
-        if (m_object->model() == ControlModel::SelectEnhanced) {
-            if (!selection)
-                co_return failed(Texts::tr("Select the object first"));
-            if (!ControlOrder::repeats(m_block, selection->block))
-                co_return failed(Texts::tr("The command is not the one that was selected."));
-            command = *selection;
-            command.request.time = ControlOrder::now();
-            m_block = command.block;
-        } else {
-            command = this->command(selection ? m_state.ctlNum : ++m_state.ctlNum);
-        }
-        const bool staysSelected = isOperateMany();
-        const std::optional<ControlPart::Command> before = std::move(m_state.selection);
-        m_state.selection.reset();
-        m_state.underWay = command;
-        m_state.last = command;
-        const acsi::ControlResult result =
-            co_await m_object->operate(command.request, terminationPatience());
-        if (m_state.underWay && m_state.underWay->request.ctlNum == command.request.ctlNum)
-            m_state.underWay.reset();
-        if (result && before && staysSelected && m_device->client() == m_client)
-            keepSelection(*before);
-        co_return result;
-    }
-
-    asio::awaitable<acsi::ControlResult> cancel()
-    {
-        const ControlPart::Command *current = m_state.current();
-        ControlPart::Command command;
-        switch (m_object->model()) {
-        case ControlModel::SelectEnhanced:
-            if (!current)
-                co_return failed(Texts::tr("Select the object first"));
-            command = *current;
-            break;
-        case ControlModel::SelectNormal:
-            // What was sent with the selection is the number alone; the record says the rest.
-            command = m_state.underWay ? *m_state.underWay : this->command(m_state.ctlNum);
-            break;
-        default:
-            command = m_state.last ? *m_state.last : this->command(m_state.ctlNum);
-        }
-        command.request.time = ControlOrder::now();
-        m_block = command.block;
-        const acsi::ControlResult result = co_await m_object->cancel(command.request);
-        if (result)
-            m_state.selection.reset();
-        co_return result;
-    }
-
-    /// An object that stays selected after it was operated.
-    bool isOperateMany() const
-    {
-        acsi::Reference reference = m_reference;
-        reference.constraint = acsi::FunctionalConstraint::CF;
-        const OnlineModel *model = m_device->model();
-        const DataAttribute *attribute =
-            model ? model->device().findTag(text(acsi::toText(reference) + "$sboClass")) : nullptr;
-        return attribute && attribute->value.toInt() == 1;
-    }
-
-    milliseconds terminationPatience() const
-    {
-        const milliseconds timeout = m_object->operateTimeout().value_or(milliseconds(0));
-        if (timeout <= milliseconds(0))
-            return usualTermination;
-        return std::min(timeout, longestTermination - terminationMargin) + terminationMargin;
-    }
-
-    DevicePointer m_device;
-    Service m_service;
-    acsi::Reference m_reference;
-    std::string m_name;
-    ControlBlock m_block;
-    std::shared_ptr<acsi::Client> m_client;
-    ControlPart::Object &m_state;
-    std::shared_ptr<acsi::ControlObject> m_object;
-};
-
-/// The object under another constraint; nothing where it has none of that.
-std::optional<acsi::Reference> statusOf(const OnlineModel &model, acsi::Reference object)
-{
-    for (const auto constraint : {acsi::FunctionalConstraint::ST, acsi::FunctionalConstraint::MX}) {
-        object.constraint = constraint;
-        if (model.type(object))
-            return object;
-    }
-    return std::nullopt;
-}
-
-QString statusText(const OnlineModel &model, const acsi::Reference &status)
-{
-    static constexpr std::array<const char *, 4> values = {"$stVal", "$valWTr$posVal", "$mxVal$f",
-                                                           "$mxVal$i"};
-    for (const char *const value : values) {
-        const DataAttribute *attribute =
-            model.device().findTag(text(acsi::toText(status)) + QLatin1String(value));
-        if (attribute)
-            return ValueConversion::text(attribute->value);
-    }
-    return {};
-}
-
 QString operationName(Service service)
 {
     switch (service) {
@@ -302,64 +65,620 @@ QString operationName(Service service)
     return QStringLiteral("cancelObject");
 }
 
-asio::awaitable<Outcome> control(DevicePointer device, Service service, QString ldName,
-                                 QString name, ControlBlock block)
+/// What is to be said when nobody knows what became of it.
+QString unknownSentence(Service service)
+{
+    switch (service) {
+    case Service::Select:
+        return Texts::tr("It is not known whether the object was selected.");
+    case Service::Operate:
+        return Texts::tr("It is not known whether the command was carried out; look at the "
+                         "position.");
+    case Service::Cancel:
+        break;
+    }
+    return Texts::tr("It is not known whether the command was cancelled; look at the position.");
+}
+
+bool isUnknown(acsi::ControlOutcome outcome)
+{
+    return outcome == acsi::ControlOutcome::Unknown || outcome == acsi::ControlOutcome::Accepted;
+}
+
+QString readOnlySentence(const DeviceConnection &device)
+{
+    return Texts::tr("The driver is read-only: nothing on %1 was changed.")
+        .arg(device.configuration().title());
+}
+
+/// The object under another constraint; nothing where it has none of that.
+std::optional<acsi::Reference> statusOf(const OnlineModel &model, acsi::Reference object)
+{
+    for (const auto constraint : {acsi::FunctionalConstraint::ST, acsi::FunctionalConstraint::MX}) {
+        object.constraint = constraint;
+        if (model.type(object))
+            return object;
+    }
+    return std::nullopt;
+}
+
+/// The attribute that shows the position.
+QString positionOf(const OnlineModel &model, const acsi::Reference &status)
+{
+    static constexpr std::array<const char *, 4> values = {"$stVal", "$valWTr$posVal", "$mxVal$f",
+                                                           "$mxVal$i"};
+    for (const char *const value : values) {
+        const QString name = text(acsi::toText(status)) + QLatin1String(value);
+        if (model.device().findTag(name))
+            return name;
+    }
+    return {};
+}
+
+/// Reads and publishes the status of an object, for whoever looks at it.
+void showStatus(DevicePointer device, const acsi::Reference &object)
+{
+    const OnlineModel *model = device->model();
+    const auto status = model ? statusOf(*model, object) : std::nullopt;
+    if (!status)
+        return;
+    const auto read = [](DevicePointer owner, acsi::Reference what) -> asio::awaitable<void> {
+        std::vector<acsi::Reference> references;
+        references.push_back(std::move(what));
+        static_cast<void>(
+            co_await owner->readAndPublish(std::move(references), DeviceConnection::Publication()));
+    };
+    const auto strand = device->strand();
+    asio::co_spawn(strand, read(std::move(device), *status), [](const std::exception_ptr &) {});
+}
+
+/// What was selected and is being operated on a device; it ends with the association.
+class ControlPart : public AssociationPart
+{
+public:
+    struct Object
+    {
+        ControlState state;
+        /// The device's side of it; null until it is first needed in the present association.
+        std::shared_ptr<acsi::ControlObject> control;
+    };
+
+    explicit ControlPart(DeviceConnection &device)
+        : m_device(device)
+    {
+    }
+
+    Object &object(const std::string &name) { return m_objects[name]; }
+
+    /// What is told of a device in its status; @p sentence may be empty.
+    void setProblem(const std::string &name, const QString &sentence)
+    {
+        m_device.setProblem(QStringLiteral("control ") + text(name), sentence);
+    }
+
+    /// Hears of commands of the object that nobody waits for any more.
+    void listen(const acsi::Reference &reference)
+    {
+        const std::string name = acsi::toText(reference);
+        object(name).control->setLateHandler(
+            [this, reference, name](std::uint8_t ctlNum, const acsi::ControlResult &result) {
+                heardLate(reference, name, ctlNum, result);
+            });
+    }
+
+    void closed(const QString &) override
+    {
+        for (auto &each : m_objects) {
+            each.second.state.associationEnded();
+            if (each.second.control)
+                each.second.control->setLateHandler({});
+            each.second.control.reset();
+        }
+    }
+
+private:
+    void heardLate(const acsi::Reference &reference, const std::string &name, std::uint8_t ctlNum,
+                   const acsi::ControlResult &result)
+    {
+        ControlState &state = object(name).state;
+        const ControlState::Command *command = state.command(ctlNum);
+        if (!command)
+            return;
+        DeviceChange change;
+        change.operation = operationName(Service::Operate);
+        change.reference = text(name);
+        change.newValue = Texts::tr("%1 (told late)").arg(ControlOrder::text(command->block));
+        const QString object = text(acsi::objectReferenceText(reference));
+        QString problem;
+        switch (result.outcome) {
+        case acsi::ControlOutcome::Accepted:
+            state.operateAccepted(ctlNum, true, false, milliseconds(0), steady_clock::now());
+            change.error =
+                text(result.message) + QLatin1Char(' ') + unknownSentence(Service::Operate);
+            problem = change.error;
+            break;
+        case acsi::ControlOutcome::Done:
+            problem = Texts::tr("%1: the command that was not answered in time was carried out.")
+                          .arg(object);
+            state.operateEnded(ctlNum);
+            break;
+        default:
+            change.error = text(result.message);
+            problem = change.error;
+            state.operateEnded(ctlNum);
+        }
+        if (result.applError)
+            change.additionalCause = text(acsi::additionalCauseText(result.applError->addCause));
+        m_device.journal(std::move(change));
+        setProblem(name, problem);
+        showStatus(m_device.shared_from_this(), reference);
+    }
+
+    DeviceConnection &m_device;
+    std::map<std::string, Object> m_objects;
+};
+
+/// What the caller of an operation and the operation know of each other.
+struct Request
+{
+    Service service = Service::Select;
+    QString ldName;
+    QString name;
+    ControlBlock block;
+    ControlState::Caller caller = 0;
+    std::atomic<bool> begun{false};      ///< the journal knows of it
+    std::atomic<bool> isOnTheWay{false}; ///< sent, and its outcome is not known yet
+    /// Read shortly before, for the time that the operation may take.
+    std::shared_ptr<acsi::ControlObject> control;
+    milliseconds termination{0};
+};
+using RequestPointer = std::shared_ptr<Request>;
+
+/// One control service of one object.
+class Control
+{
+public:
+    Control(DevicePointer device, RequestPointer request, acsi::Reference reference)
+        : m_device(std::move(device))
+        , m_request(std::move(request))
+        , m_service(m_request->service)
+        , m_reference(std::move(reference))
+        , m_name(acsi::toText(m_reference))
+        , m_block(m_request->block)
+        , m_client(m_device->client())
+        , m_part(m_device->part<ControlPart>())
+        , m_object(m_part.object(m_name))
+        , m_state(m_object.state)
+    {
+    }
+
+    asio::awaitable<acsi::ControlResult> run(JournalEntry &entry)
+    {
+        m_before = knownPosition();
+        entry.setValues(m_before, ControlOrder::text(m_block));
+        // An empty record must not reach a breaker, so it is looked at before the device.
+        if (const QString refusal = beforehand(); !refusal.isEmpty())
+            co_return failed(refusal);
+        const ControlState::Command *known =
+            m_service == Service::Cancel ? m_state.cancellable(steady_clock::now()) : nullptr;
+        const bool isUrgent = known && m_object.control && m_object.control->client() == m_client;
+        if (!isUrgent) {
+            const auto looked = co_await look();
+            if (!looked)
+                co_return acsi::ControlResult{false, looked.error().message, {}};
+            m_before = co_await readPosition();
+            entry.setValues(m_before, ControlOrder::text(m_block));
+            if (m_device->client() != m_client)
+                co_return failed(m_device->notConnectedSentence());
+            if (const QString refusal = afterwards(); !refusal.isEmpty())
+                co_return failed(refusal);
+        }
+        m_part.setProblem(m_name, QString());
+        acsi::ControlResult result;
+        switch (m_service) {
+        case Service::Select:
+            result = co_await select(entry);
+            break;
+        case Service::Operate:
+            result = co_await operate(entry);
+            break;
+        case Service::Cancel:
+            result = co_await cancel(entry);
+            break;
+        }
+        m_request->isOnTheWay = false;
+        if (isUnknown(result.outcome)) {
+            result.message += ' ' + unknownSentence(m_service).toStdString();
+            m_part.setProblem(m_name, text(result.message));
+        }
+        entry.setValues(m_before, sent());
+        co_return result;
+    }
+
+    /// Reads what the device says of the object; how long a command of it may take.
+    asio::awaitable<void> prepare()
+    {
+        if (!beforehand().isEmpty())
+            co_return;
+        if (const auto looked = co_await look(); !looked)
+            co_return;
+        m_request->control = m_object.control;
+        m_request->termination = terminationPatience();
+    }
+
+private:
+    /// Why nothing is to be asked of the device at all; empty when there is no reason.
+    QString beforehand() const
+    {
+        const auto now = steady_clock::now();
+        const auto valid = ControlOrder::toRequest(m_block, originator(), 0);
+        const auto model = static_cast<ControlModel>(m_block.controlModel);
+        if (m_service == Service::Cancel) {
+            // Who must change nothing may still stop what runs.
+            if (m_device->isReadOnly() && !m_state.isRunning())
+                return readOnlySentence(*m_device);
+            if (m_state.cancellable(now))
+                return {};
+            if (model == ControlModel::SelectEnhanced)
+                return Texts::tr("Select the object first");
+        } else if (m_device->isReadOnly()) {
+            return readOnlySentence(*m_device);
+        }
+        if (m_service == Service::Operate && model == ControlModel::SelectEnhanced) {
+            if (const QString why = obstacle(m_state.obstacle(m_block, m_request->caller, now));
+                !why.isEmpty())
+                return why;
+        }
+        if (m_service == Service::Operate && model == ControlModel::SelectNormal &&
+            m_state.isSelectedByOther(m_request->caller, now))
+            return obstacle(ControlState::Obstacle::SelectedByOther);
+        return valid ? QString() : text(valid.error().message);
+    }
+
+    static QString obstacle(ControlState::Obstacle what)
+    {
+        switch (what) {
+        case ControlState::Obstacle::None:
+            break;
+        case ControlState::Obstacle::NotSelected:
+            return Texts::tr("Select the object first");
+        case ControlState::Obstacle::SelectedByOther:
+            return Texts::tr("Another window has selected the object since: select it here "
+                             "first.");
+        case ControlState::Obstacle::SelectedAgain:
+            return Texts::tr("The object was selected for different commands; which one is meant "
+                             "is not known: cancel the selection and select it again.");
+        case ControlState::Obstacle::NotTheSelected:
+            return Texts::tr("The command is not the one that was selected.");
+        }
+        return {};
+    }
+
+    /// Why the object cannot be asked for it, after it was looked at.
+    QString afterwards() const
+    {
+        const auto model = static_cast<quint8>(m_object.control->model());
+        if (model != m_block.controlModel) {
+            return Texts::tr("%1 has the control model %2, but the command was made for %3: read "
+                             "the model of the device again.")
+                .arg(text(m_name))
+                .arg(model)
+                .arg(m_block.controlModel);
+        }
+        // All of it may have changed while the device was asked.
+        return beforehand();
+    }
+
+    asio::awaitable<mms::Result<void>> look()
+    {
+        std::shared_ptr<acsi::ControlObject> control = m_object.control;
+        if (m_request->control && m_request->control == control && control->client() == m_client)
+            co_return mms::Result<void>();
+        if (control && control->client() == m_client) {
+            const auto refreshed = co_await control->refresh();
+            co_return refreshed;
+        }
+        auto opened = co_await acsi::ControlObject::open(m_client, m_reference);
+        if (!opened)
+            co_return opened.error();
+        if (m_device->client() != m_client)
+            co_return mms::Error{m_device->notConnectedSentence().toStdString(), 0};
+        // Another call may have opened it meanwhile.
+        if (!m_object.control || m_object.control->client() != m_client) {
+            m_object.control = *std::move(opened);
+            m_part.listen(m_reference);
+        }
+        co_return mms::Result<void>();
+    }
+
+    QString position() const
+    {
+        const OnlineModel *model = m_device->model();
+        const auto status = model ? statusOf(*model, m_reference) : std::nullopt;
+        return status ? positionOf(*model, *status) : QString();
+    }
+
+    QString knownPosition() const
+    {
+        const QString name = position();
+        const DataAttribute *attribute =
+            name.isEmpty() ? nullptr : m_device->model()->device().findTag(name);
+        return attribute ? ValueConversion::text(attribute->value) : QString();
+    }
+
+    /// What the device has now; what is known where it does not say.
+    asio::awaitable<QString> readPosition()
+    {
+        const QString name = position();
+        const auto reference = acsi::parseReference(name.toStdString());
+        if (m_service == Service::Cancel || name.isEmpty() || !reference)
+            co_return knownPosition();
+        std::vector<acsi::Reference> references;
+        references.push_back(*reference);
+        static_cast<void>(co_await m_device->readAndPublish(std::move(references),
+                                                            DeviceConnection::Publication()));
+        co_return knownPosition();
+    }
+
+    QByteArray originator() const { return m_device->configuration().originatorIdentification; }
+
+    ControlState::Command command(const ControlBlock &block, std::uint8_t ctlNum) const
+    {
+        return {block, *ControlOrder::toRequest(block, originator(), ctlNum), m_request->caller};
+    }
+
+    /// From now on nobody knows what becomes of it until the device has said so.
+    void goes(JournalEntry &entry)
+    {
+        entry.setValues(m_before, sent());
+        entry.setOutcome(Outcome::failed(unknownSentence(m_service)));
+        m_request->isOnTheWay = true;
+    }
+
+    asio::awaitable<acsi::ControlResult> select(JournalEntry &entry)
+    {
+        const auto control = m_object.control;
+        const ControlState::Command command = this->command(m_block, m_state.newNumber());
+        const std::uint8_t number = command.request.ctlNum;
+        m_state.selectSent(command);
+        goes(entry);
+        const acsi::ControlResult result = co_await control->select(command.request);
+        if (m_device->client() != m_client)
+            co_return result;
+        if (result)
+            m_state.selectGranted(number, control->selectTimeout().value_or(milliseconds(0)),
+                                  steady_clock::now());
+        else if (!isUnknown(result.outcome))
+            m_state.selectRefused(number);
+        co_return result;
+    }
+
+    asio::awaitable<acsi::ControlResult> operate(JournalEntry &entry)
+    {
+        const auto control = m_object.control;
+        const ControlState::Command *selection = m_state.selection(steady_clock::now());
+        ControlState::Command command;
+        if (control->model() == ControlModel::SelectEnhanced) {
+            command = *selection;
+            command.request.time = ControlOrder::now();
+            m_block = command.block;
+        } else {
+            const bool uses = selection && control->model() == ControlModel::SelectNormal;
+            command =
+                this->command(m_block, uses ? selection->request.ctlNum : m_state.newNumber());
+        }
+        const std::uint8_t number = command.request.ctlNum;
+        const bool terminates = isEnhanced(static_cast<quint8>(control->model()));
+        m_state.operateSent(command);
+        goes(entry);
+        Given given(m_state, number);
+        const acsi::ControlResult result =
+            co_await control->operate(command.request, terminationPatience());
+        given.isOver = true;
+        if (m_device->client() != m_client)
+            co_return result;
+        switch (result.outcome) {
+        case acsi::ControlOutcome::NotSent:
+            m_state.operateWithdrawn(number);
+            break;
+        case acsi::ControlOutcome::Refused:
+            m_state.operateRefused(number);
+            break;
+        case acsi::ControlOutcome::Accepted:
+            m_state.operateAccepted(number, terminates, false, milliseconds(0),
+                                    steady_clock::now());
+            break;
+        case acsi::ControlOutcome::Done:
+            m_state.operateAccepted(number, terminates, control->isOperateMany(),
+                                    control->selectTimeout().value_or(milliseconds(0)),
+                                    steady_clock::now());
+            if (terminates)
+                m_state.operateEnded(number);
+            break;
+        case acsi::ControlOutcome::Failed:
+            m_state.operateEnded(number);
+            break;
+        case acsi::ControlOutcome::Unknown:
+            m_state.operateUnknown(number);
+            break;
+        }
+        co_return result;
+    }
+
+    asio::awaitable<acsi::ControlResult> cancel(JournalEntry &entry)
+    {
+        const auto control = m_object.control;
+        const auto now = steady_clock::now();
+        const ControlState::Command *known = m_state.cancellable(now);
+        ControlState::Command command;
+        if (known && (m_state.isRunning() || control->model() == ControlModel::SelectEnhanced)) {
+            command = *known;
+        } else {
+            // Of such a selection the device knows no more than the number; the record says the
+            // rest.
+            if (ControlOrder::isEmpty(m_block))
+                m_block.orCat = static_cast<quint8>(m_device->configuration().originatorCategory);
+            command = this->command(m_block, known ? known->request.ctlNum : m_state.newNumber());
+        }
+        command.request.time = ControlOrder::now();
+        m_block = command.block;
+        // No Cancel has a place for them.
+        m_block.check = 0;
+        goes(entry);
+        const acsi::ControlResult result = co_await control->cancel(command.request);
+        if (result && m_device->client() == m_client)
+            m_state.cancelled(command.request.ctlNum);
+        co_return result;
+    }
+
+    /// A command whose caller may give up while it is on its way.
+    struct Given
+    {
+        Given(ControlState &owner, std::uint8_t ctlNum)
+            : state(owner)
+            , number(ctlNum)
+        {
+        }
+        ~Given()
+        {
+            if (!isOver)
+                state.operateUnknown(number);
+        }
+        Q_DISABLE_COPY(Given)
+
+        ControlState &state;
+        std::uint8_t number;
+        bool isOver = false;
+    };
+
+    /// What was sent, for the journal.
+    QString sent() const
+    {
+        const bool isReadOfSelection =
+            m_service == Service::Select &&
+            m_block.controlModel == static_cast<quint8>(ControlModel::SelectNormal);
+        return isReadOfSelection ? QString() : ControlOrder::text(m_block);
+    }
+
+    milliseconds terminationPatience() const
+    {
+        const milliseconds timeout = m_object.control->operateTimeout().value_or(milliseconds(0));
+        if (timeout <= milliseconds(0))
+            return usualTermination;
+        return std::min(timeout, longestTermination) + terminationMargin;
+    }
+
+    DevicePointer m_device;
+    RequestPointer m_request;
+    Service m_service;
+    acsi::Reference m_reference;
+    std::string m_name;
+    ControlBlock m_block;
+    QString m_before; ///< the position
+    std::shared_ptr<acsi::Client> m_client;
+    ControlPart &m_part;
+    ControlPart::Object &m_object;
+    ControlState &m_state;
+};
+
+asio::awaitable<Outcome> prepare(DevicePointer device, RequestPointer request)
 {
     const mms::Result<acsi::Reference> reference =
-        acsi::parseReference(ldName.toStdString(), name.toStdString());
+        acsi::parseReference(request->ldName.toStdString(), request->name.toStdString());
+    if (!reference)
+        co_return Outcome();
+    Control order(device, request, *reference);
+    co_await order.prepare();
+    co_return Outcome();
+}
+
+asio::awaitable<Outcome> control(DevicePointer device, RequestPointer request)
+{
+    const mms::Result<acsi::Reference> reference =
+        acsi::parseReference(request->ldName.toStdString(), request->name.toStdString());
     if (!reference)
         co_return Outcome::failed(reference.error());
-    const std::optional<acsi::Reference> status = statusOf(*device->model(), *reference);
-    const QString before = status ? statusText(*device->model(), *status) : QString();
     acsi::ControlResult result;
     Outcome outcome;
     {
-        JournalEntry entry(device, operationName(service), text(acsi::toText(*reference)));
-        entry.setValues(before, ControlOrder::text(block));
-        Control order(device, service, *reference, std::move(block));
-        result = co_await order.run();
+        JournalEntry entry(device, operationName(request->service), text(acsi::toText(*reference)));
+        request->begun = true;
+        Control order(device, request, *reference);
+        result = co_await order.run(entry);
         if (!result)
             outcome = Outcome::failed(text(result.message));
-        entry.setValues(before, order.sent());
         entry.setOutcome(outcome);
         if (result.applError)
             entry.setAdditionalCause(text(acsi::additionalCauseText(result.applError->addCause)));
     }
-
-    // What the command came to is shown at once, but the command does not fail with that.
-    if (result && status && device->model()) {
-        const DeviceConnection::Publication publication;
-        std::vector<acsi::Reference> references;
-        references.push_back(*status);
-        static_cast<void>(co_await device->readAndPublish(std::move(references), publication));
-    }
+    // What the command came to is shown, but nobody waits for that.
+    if (result.outcome != acsi::ControlOutcome::NotSent)
+        showStatus(device, *reference);
     co_return outcome;
+}
+
+/// A command that was refused before it became an operation on the device is a try as well.
+void journalTry(const DevicePointer &device, const Request &request, const QString &error)
+{
+    if (!device)
+        return;
+    DeviceChange change;
+    change.operation = operationName(request.service);
+    change.reference = request.ldName + QLatin1Char('/') + request.name;
+    change.newValue = ControlOrder::text(request.block);
+    change.error = error;
+    asio::post(device->strand(), [device, change] { device->journal(change); });
 }
 
 template <typename Runtime>
 OperationResult perform(Runtime &runtime, Service service, long deviceNo, const QString &ldName,
                         const QString &name, const QByteArray &controlBlock, QString &error)
 {
+    const auto request = std::make_shared<Request>();
+    request->service = service;
+    request->ldName = ldName;
+    request->name = name;
+    request->caller = ControllerCaller::current();
+    const auto device = runtime.connection(deviceNo);
     const std::optional<ControlBlock> block = ControlOrder::read(controlBlock);
     if (!block) {
         error = Texts::tr("The control request cannot be read.");
+        journalTry(device, *request, error);
         return OperationFailed;
     }
+    request->block = *block;
     if (!block->objectReference.isEmpty() && block->objectReference != name) {
         error = Texts::tr("The control request is for %1, not for %2.")
                     .arg(block->objectReference, name);
+        journalTry(device, *request, error);
         return OperationFailed;
     }
-    const auto device = runtime.connection(deviceNo);
+
+    using Effect = typename Runtime::Effect;
+    // A cancel of what runs is never forbidden; the rest is decided where it is known what runs.
+    const Effect effect = service == Service::Cancel ? Effect::Reads : Effect::Changes;
     const bool waits = service == Service::Operate && isEnhanced(block->controlModel);
-    const milliseconds limit = device && waits
-                                   ? device->configuration().operationTimeout + longestTermination
-                                   : milliseconds::zero();
-    return runtime.runWithin(limit, deviceNo, Runtime::Effect::Changes, error,
-                             [service, ldName, name, request = *block](DevicePointer connection) {
-                                 return control(std::move(connection), service, ldName, name,
-                                                request);
-                             });
+    OperationResult result = OperationSucceeded;
+    if (waits) {
+        result = runtime.run(deviceNo, effect, error, [request](DevicePointer connection) {
+            return prepare(std::move(connection), request);
+        });
+    }
+    if (result == OperationSucceeded) {
+        milliseconds limit = milliseconds::zero();
+        if (device && waits)
+            limit = device->configuration().operationTimeout +
+                    std::max(request->termination, usualTermination) + terminationMargin;
+        result =
+            runtime.runWithin(limit, deviceNo, effect, error, [request](DevicePointer connection) {
+                return control(std::move(connection), request);
+            });
+    }
+    if (result != OperationSucceeded && !request->begun)
+        journalTry(device, *request, error);
+    else if (result != OperationSucceeded && request->isOnTheWay)
+        error += QLatin1Char(' ') + unknownSentence(service);
+    return result;
 }
 
 } // namespace

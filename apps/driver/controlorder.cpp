@@ -59,6 +59,9 @@ mms::Result<acsi::ControlRequest> ControlOrder::toRequest(const ControlBlock &bl
         return error(Texts::tr("%1 is no code of the check conditions.").arg(block.check));
     if (block.test > 1)
         return error(Texts::tr("The test flag is 0 or 1, not %1.").arg(block.test));
+    if (block.orCat > highestCategory)
+        return error(
+            Texts::tr("%1 is no originator category; they go from 0 to 8.").arg(block.orCat));
     acsi::ControlRequest request;
     request.value = mms::Data::float64(block.controlValue);
     request.originator.category = block.orCat;
@@ -94,7 +97,8 @@ mms::UtcTime ControlOrder::now()
 
 QString ControlOrder::text(const ControlBlock &block)
 {
-    QStringList parts{ValueConversion::text(block.controlValue)};
+    QStringList parts{ValueConversion::text(block.controlValue),
+                      Texts::tr("category %1").arg(block.orCat)};
     if ((block.check & interlockCheck) != 0)
         parts.append(Texts::tr("interlock check"));
     if ((block.check & synchrocheck) != 0)

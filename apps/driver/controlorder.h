@@ -20,6 +20,9 @@ std::optional<ControlBlock> read(const QByteArray &bytes);
 /// Whether nothing but object and control model is given.
 bool isEmpty(const ControlBlock &block);
 
+/// The highest originator category of IEC 61850-7-3.
+constexpr quint8 highestCategory = 8;
+
 /// What is sent with the number and the time of now. The error says what cannot be sent; whether
 /// the value fits the object is decided with its type.
 mms::Result<acsi::ControlRequest> toRequest(const ControlBlock &block, const QByteArray &originator,
@@ -30,7 +33,7 @@ bool repeats(const ControlBlock &block, const ControlBlock &selected);
 
 mms::UtcTime now();
 
-/// For the journal: value, conditions and test.
+/// For the journal: value, originator category, conditions and test.
 QString text(const ControlBlock &block);
 
 } // namespace ControlOrder

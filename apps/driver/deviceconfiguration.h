@@ -66,7 +66,7 @@ struct DeviceConfiguration
     /// File reads on the way at a time; more than one only where the device is known to bear it.
     int outstandingFileReads = 1;
 
-    int originatorCategory = 2; ///< IEC 61850-7-3, OriginatorCategoryKind: station-control
+    int originatorCategory = 3; ///< IEC 61850-7-3, OriginatorCategoryKind: remote-control
     /// Sent with every control; at most 64 octets.
     QByteArray originatorIdentification;
 

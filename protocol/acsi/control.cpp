@@ -3,6 +3,8 @@
 
 #include "acsi/typedvalue.h"
 
+#include <asio/co_spawn.hpp>
+#include <asio/detached.hpp>
 #include <asio/experimental/as_tuple.hpp>
 #include <asio/steady_timer.hpp>
 #include <asio/use_awaitable.hpp>
@@ -22,6 +24,16 @@ constexpr auto asTuple = asio::experimental::as_tuple(asio::use_awaitable);
 bool isEnhanced(Model model)
 {
     return model == Model::DirectEnhanced || model == Model::SelectEnhanced;
+}
+
+/// How much longer than a call may take its answer is still heard.
+constexpr std::chrono::milliseconds latePatience{10000};
+
+/// A LastApplError that says that there is no error.
+bool isNone(const LastApplError &error)
+{
+    constexpr std::int32_t noCause = 25;
+    return error.error == 0 && error.addCause == noCause;
 }
 
 std::string reasonOf(const LastApplError &error)
@@ -49,6 +61,17 @@ std::optional<std::chrono::milliseconds> millisecondsFrom(const mms::AccessResul
     return std::chrono::milliseconds(*number);
 }
 
+std::optional<double> realFrom(const mms::AccessResult &result)
+{
+    return result.ok() ? result.data().toDouble() : std::nullopt;
+}
+
+bool hasBothParts(const mms::TypeDescription &operType)
+{
+    const mms::TypeDescription *value = componentOf(operType, "ctlVal");
+    return value && componentOf(*value, "i") && componentOf(*value, "f");
+}
+
 std::string secondsText(std::chrono::milliseconds time)
 {
     const auto tenths = time.count() / 100;
@@ -57,34 +80,56 @@ std::string secondsText(std::chrono::milliseconds time)
 
 } // namespace
 
-/// A service on the way, or a command whose termination is awaited.
+/// A service on the way, or a command whose termination is awaited or may still come.
 struct ControlObject::Call
 {
-    Call(ControlObject &owner, std::string wanted, std::optional<std::uint8_t> number)
-        : object(owner)
-        , component(std::move(wanted))
-        , ctlNum(number)
-        , wake(owner.m_client->strand(), asio::steady_timer::time_point::max())
-    {
-        object.m_calls.push_back(this);
-    }
-    ~Call()
-    {
-        std::erase(object.m_calls, this);
-        object.m_client->remove(endHandler);
-    }
-    Call(const Call &) = delete;
-    Call &operator=(const Call &) = delete;
+    enum class State : std::uint8_t {
+        Waiting,  ///< for its response
+        Refused,  ///< the reason may follow
+        Accepted, ///< the termination is awaited
+        Silent,   ///< there will be no response; a termination may come all the same
+        Over,
+    };
 
-    ControlObject &object;
+    Call(const mms::Link::Strand &strand, std::string wanted, std::optional<std::uint8_t> number)
+        : component(std::move(wanted))
+        , ctlNum(number)
+        , wake(strand, asio::steady_timer::time_point::max())
+    {
+    }
+
     std::string component;
     std::optional<std::uint8_t> ctlNum;
     asio::steady_timer wake;
-    std::optional<ControlInformation> termination;
+    State state = State::Waiting;
     ControlResult result;
+    std::string reason; ///< of a refusal
     std::optional<LastApplError> applError;
-    Client::Registration endHandler = 0;
-    bool answered = false;
+    bool isNamed = false; ///< the error names the service of this call
+    std::optional<ControlInformation> termination;
+    bool isLeft = false; ///< nobody waits for it any more
+};
+
+/// Somebody waits for the call as long as it lives.
+class ControlObject::Leaving
+{
+public:
+    Leaving(ControlObject &object, CallPointer call)
+        : m_object(object)
+        , m_call(std::move(call))
+    {
+    }
+    ~Leaving()
+    {
+        m_call->isLeft = true;
+        m_object.forget(m_call);
+    }
+    Leaving(const Leaving &) = delete;
+    Leaving &operator=(const Leaving &) = delete;
+
+private:
+    ControlObject &m_object;
+    CallPointer m_call;
 };
 
 asio::awaitable<mms::Result<std::shared_ptr<ControlObject>>>
@@ -98,12 +143,8 @@ ControlObject::open(std::shared_ptr<Client> client, Reference object)
                                               "controlled.",
                              0};
     auto control = std::make_shared<ControlObject>(Private(), client, std::move(object));
-    if (auto result = co_await control->readModel(); !result)
+    if (auto result = co_await control->refresh(); !result)
         co_return result.error();
-    if (control->m_model != Model::StatusOnly) {
-        if (auto result = co_await control->readTypes(); !result)
-            co_return result.error();
-    }
     co_return control;
 }
 
@@ -113,22 +154,33 @@ ControlObject::ControlObject(Private, std::shared_ptr<Client> client, Reference 
 {
     m_informationHandler = m_client->addInformationHandler(
         [this](const mms::InformationReport &report) { return handle(report); });
+    m_endHandler = m_client->addEndHandler([this](const std::string &) {
+        for (const CallPointer &call : m_calls)
+            call->wake.cancel();
+    });
 }
 
 ControlObject::~ControlObject()
 {
     m_client->remove(m_informationHandler);
+    m_client->remove(m_endHandler);
 }
 
-asio::awaitable<mms::Result<void>> ControlObject::readModel()
+asio::awaitable<mms::Result<void>> ControlObject::refresh()
 {
+    const auto self = shared_from_this();
     std::vector<mms::VariableAccess> variables;
-    for (const char *attribute : {"ctlModel", "sboTimeout", "operTimeout"}) {
+    const auto want = [&](std::initializer_list<const char *> path) {
         Reference reference = m_object;
         reference.constraint = FunctionalConstraint::CF;
-        reference.path.push_back({attribute, {}});
+        for (const char *const step : path)
+            reference.path.push_back({step, {}});
         variables.push_back(accessOf(reference));
-    }
+    };
+    want({"ctlModel"});
+    want({"sboTimeout"});
+    want({"operTimeout"});
+    want({"sboClass"});
     const auto results = co_await m_client->read(std::move(variables));
     if (!results)
         co_return mms::Error{
@@ -146,6 +198,26 @@ asio::awaitable<mms::Result<void>> ControlObject::readModel()
     m_model = static_cast<Model>(*number);
     m_selectTimeout = millisecondsFrom((*results)[1]);
     m_operateTimeout = millisecondsFrom((*results)[2]);
+    const mms::AccessResult &sboClass = (*results)[3];
+    m_isOperateMany = sboClass.ok() && sboClass.data().toUnsigned() == 1U;
+
+    if (m_model != Model::StatusOnly && !m_typesRead) {
+        if (auto types = co_await readTypes(); !types)
+            co_return types.error();
+    }
+    m_scale.reset();
+    if (!hasBothParts(m_operType))
+        co_return mms::Result<void>();
+    variables.clear();
+    want({"sVC", "scaleFactor"});
+    want({"sVC", "offset"});
+    const auto scale = co_await m_client->read(std::move(variables));
+    if (!scale)
+        co_return mms::Result<void>(); // The same as none.
+    const std::optional<double> factor = realFrom((*scale)[0]);
+    const std::optional<double> offset = realFrom((*scale)[1]);
+    if (factor && offset && *factor != 0)
+        m_scale = AnalogueScale{*factor, *offset};
     co_return mms::Result<void>();
 }
 
@@ -163,164 +235,391 @@ asio::awaitable<mms::Result<void>> ControlObject::readTypes()
     m_operType = part("Oper");
     m_selectType = part("SBOw");
     m_cancelType = part("Cancel");
+    m_typesRead = true;
     co_return mms::Result<void>();
 }
 
-ControlResult ControlObject::refusal(const Call &call, const std::string &reason) const
+mms::VariableAccess ControlObject::component(const std::string &name) const
+{
+    Reference reference = m_object;
+    reference.path.push_back({name, {}});
+    return accessOf(reference);
+}
+
+ControlResult ControlObject::refusal(const Call &call) const
 {
     ControlResult result;
+    result.outcome = ControlOutcome::Refused;
     result.applError = call.applError;
+    const bool saysWhy = call.applError && !isNone(*call.applError);
     result.message = name() + ": the device refuses " + call.component + ": " +
-                     (call.applError ? reasonOf(*call.applError) : reason);
+                     (saysWhy ? reasonOf(*call.applError) : call.reason);
     return result;
 }
 
-asio::awaitable<void> ControlObject::writeControl(Call &call, const mms::TypeDescription &type,
-                                                  const ControlRequest &request)
+ControlResult ControlObject::ending(const Call &call) const
 {
-    const auto value = controlValue(type, request);
+    ControlResult result;
+    result.ok = call.termination->positive;
+    result.outcome = result.ok ? ControlOutcome::Done : ControlOutcome::Failed;
+    if (result.ok)
+        return result;
+    result.applError = call.termination->applError;
+    result.message = name() + ": the command ended without success: " +
+                     (result.applError ? reasonOf(*result.applError)
+                                       : std::string("the device does not say why."));
+    return result;
+}
+
+ControlObject::CallPointer ControlObject::begin(std::string component,
+                                                std::optional<std::uint8_t> ctlNum)
+{
+    // A number that is used again no longer means the command that had it.
+    std::erase_if(m_calls, [&](const CallPointer &each) {
+        return each->isLeft && each->component == component && each->ctlNum == ctlNum;
+    });
+    auto call = std::make_shared<Call>(m_client->strand(), std::move(component), ctlNum);
+    m_calls.push_back(call);
+    return call;
+}
+
+asio::awaitable<void> ControlObject::exchange(std::shared_ptr<ControlObject> self, CallPointer call,
+                                              mms::RequestService request)
+{
+    mms::CallOutcome outcome =
+        mms::CallFailure{mms::CallFailure::Kind::NotOpen, self->m_client->closeReason()};
+    if (self->m_client->isOpen())
+        outcome = co_await self->m_client->association().call(
+            std::move(request), self->m_client->options().callTimeout + latePatience);
+    self->answered(call, outcome);
+}
+
+void ControlObject::answered(const CallPointer &call, const mms::CallOutcome &outcome)
+{
+    if (call->state == Call::State::Over)
+        return;
+    const auto refused = [&](std::string reason) {
+        call->reason = std::move(reason);
+        call->state = Call::State::Refused;
+        if (call->isLeft)
+            tellLate(call, refusal(*call));
+        else
+            call->wake.cancel();
+    };
+    if (const auto *failure = std::get_if<mms::CallFailure>(&outcome)) {
+        const bool isUnsent = failure->kind == mms::CallFailure::Kind::NotOpen ||
+                              failure->kind == mms::CallFailure::Kind::TooLarge;
+        const bool isLost = !m_client->isOpen() && !m_client->closeReason().empty();
+        call->result.outcome = isUnsent ? ControlOutcome::NotSent : ControlOutcome::Unknown;
+        call->result.message = name() + ": " + call->component + " got no answer: " +
+                               (isLost ? m_client->closeReason() : failure->message);
+        call->state = Call::State::Silent;
+        call->wake.cancel();
+        forget(call);
+        return;
+    }
+    const std::string text = mms::failureText(outcome);
+    if (!text.empty()) {
+        refused(text);
+        return;
+    }
+    if (const auto *written = mms::answerOf<mms::WriteResponse>(outcome);
+        written && written->results.size() == 1) {
+        if (const auto &error = written->results.front())
+            refused(mms::describe(*error));
+        else
+            accepted(call);
+        return;
+    }
+    if (const auto *read = mms::answerOf<mms::ReadResponse>(outcome);
+        read && read->results.size() == 1) {
+        const mms::AccessResult &result = read->results.front();
+        if (!result.ok())
+            refused(mms::describe(result.error()));
+        else if (result.data().text().empty())
+            refused("it gives no reason; another client may have selected the object.");
+        else
+            accepted(call);
+        return;
+    }
+    call->result.outcome = ControlOutcome::Unknown;
+    call->result.message =
+        name() + ": " + call->component + " got an answer that does not match the question.";
+    call->state = Call::State::Silent;
+    call->wake.cancel();
+    forget(call);
+}
+
+void ControlObject::forget(const CallPointer &call)
+{
+    // A response is still to come, or a termination.
+    const bool mayBeHeardOf =
+        call->state == Call::State::Waiting ||
+        (call->state != Call::State::Over && call->component == "Oper" && isEnhanced(m_model));
+    if (!call->isLeft || mayBeHeardOf)
+        return;
+    const CallPointer kept = call;
+    std::erase(m_calls, kept);
+}
+
+void ControlObject::accepted(const CallPointer &call)
+{
+    const bool terminates = call->component == "Oper" && isEnhanced(m_model);
+    const std::optional<LastApplError> error = std::exchange(call->applError, std::nullopt);
+    call->state = Call::State::Accepted;
+    if (error && call->isNamed && terminates && !isNone(*error) && !call->termination) {
+        // The error of an accepted command may come before its answer.
+        terminate(call, ControlInformation{std::nullopt, false, error, std::nullopt});
+        return;
+    }
+    // What this call was accepted in spite of means the command that is being executed.
+    if (error && !call->isNamed) {
+        const auto running = std::ranges::find_if(m_calls, [&](const CallPointer &each) {
+            return each != call && each->state == Call::State::Accepted && !each->termination &&
+                   (error->ctlNum == 0 || each->ctlNum == error->ctlNum);
+        });
+        if (running != m_calls.end() && !isNone(*error))
+            terminate(*running, ControlInformation{std::nullopt, false, error, std::nullopt});
+    }
+    if (!call->isLeft) {
+        call->wake.cancel();
+        return;
+    }
+    ControlResult result;
+    result.ok = !terminates;
+    result.outcome = terminates ? ControlOutcome::Accepted : ControlOutcome::Done;
+    if (terminates)
+        result.message = name() + ": the device accepted the command late.";
+    tellLate(call, std::move(result));
+}
+
+void ControlObject::terminate(const CallPointer &call, ControlInformation information)
+{
+    call->termination = std::move(information);
+    if (call->isLeft)
+        tellLate(call, ending(*call));
+    else
+        call->wake.cancel();
+}
+
+void ControlObject::tellLate(const CallPointer &call, ControlResult result)
+{
+    const auto self = shared_from_this();
+    const CallPointer kept = call;
+    if (result.outcome != ControlOutcome::Accepted) {
+        kept->state = Call::State::Over;
+        std::erase(m_calls, kept);
+    }
+    if (kept->component == "Oper" && m_lateHandler)
+        m_lateHandler(kept->ctlNum.value_or(0), result);
+}
+
+asio::awaitable<void> ControlObject::perform(CallPointer call, mms::RequestService request)
+{
+    using Clock = asio::steady_timer::clock_type;
+    const auto deadline = Clock::now() + m_client->options().callTimeout;
+    asio::co_spawn(m_client->strand(), exchange(shared_from_this(), call, std::move(request)),
+                   asio::detached);
+    while (call->state == Call::State::Waiting && !call->termination && Clock::now() < deadline) {
+        call->wake.expires_at(deadline);
+        co_await call->wake.async_wait(asTuple);
+    }
+    if (call->state == Call::State::Refused && !call->applError && m_client->isOpen()) {
+        const auto end = Clock::now() + causePatience;
+        while (!call->applError && m_client->isOpen() && Clock::now() < end) {
+            call->wake.expires_at(end);
+            co_await call->wake.async_wait(asTuple);
+        }
+    }
+    if (call->state == Call::State::Refused) {
+        call->result = refusal(*call);
+        call->state = Call::State::Over;
+    } else if (call->state == Call::State::Waiting && !call->termination) {
+        call->result.outcome = ControlOutcome::Unknown;
+        call->result.message = name() + ": " + call->component + " got no answer within " +
+                               secondsText(m_client->options().callTimeout) + '.';
+    }
+}
+
+asio::awaitable<void> ControlObject::write(CallPointer call, const mms::TypeDescription &type,
+                                           const ControlRequest &request)
+{
+    auto value = controlValue(type, request, m_scale);
     if (!value) {
-        call.result.message = name() + ": " + value.error().message;
+        call->result.message = name() + ": " + value.error().message;
+        call->state = Call::State::Over;
         co_return;
     }
-    Reference reference = m_object;
-    reference.path.push_back({call.component, {}});
-    std::vector<mms::VariableAccess> variables;
-    variables.push_back(accessOf(reference));
-    std::vector<mms::Data> values;
-    values.push_back(*value);
-    const auto results = co_await m_client->write(std::move(variables), std::move(values));
-    call.answered = true;
-    if (!results)
-        call.result.message =
-            name() + ": " + call.component + " got no answer: " + results.error().message;
-    else if (const auto &error = results->front())
-        call.result = refusal(call, mms::describe(*error));
-    else
-        call.result.ok = true;
+    mms::WriteRequest service;
+    service.variables = std::vector{component(call->component)};
+    service.values.push_back(*std::move(value));
+    co_await perform(call, std::move(service));
 }
 
 asio::awaitable<ControlResult> ControlObject::select(ControlRequest request)
 {
     const auto self = shared_from_this();
-    if (m_model == Model::SelectEnhanced) {
-        Call call(*this, "SBOw", request.ctlNum);
-        co_await writeControl(call, m_selectType, request);
-        co_return call.result;
-    }
-    if (m_model != Model::SelectNormal)
+    if (m_model != Model::SelectEnhanced && m_model != Model::SelectNormal)
         co_return ControlResult{false, name() + ": its control model knows no selection.", {}};
-    Call call(*this, "SBO", std::nullopt);
-    Reference reference = m_object;
-    reference.path.push_back({call.component, {}});
-    const auto answer = co_await m_client->readOne(accessOf(reference));
-    if (!answer)
-        co_return refusal(call, answer.error().message);
-    if (answer->text().empty())
-        co_return refusal(call, "it gives no reason; another client may have selected the object.");
-    co_return ControlResult{true, {}, {}};
+    const bool isRead = m_model == Model::SelectNormal;
+    const CallPointer call = isRead ? begin("SBO", std::nullopt) : begin("SBOw", request.ctlNum);
+    const Leaving leaving(*this, call);
+    if (isRead) {
+        mms::ReadRequest service;
+        service.variables = std::vector{component(call->component)};
+        co_await perform(call, std::move(service));
+    } else {
+        co_await write(call, m_selectType, request);
+    }
+    if (call->state != Call::State::Accepted)
+        co_return call->result;
+    co_return ControlResult{true, {}, {}, ControlOutcome::Done};
 }
 
 asio::awaitable<ControlResult> ControlObject::operate(ControlRequest request,
                                                       std::chrono::milliseconds terminationTimeout)
 {
+    using Clock = asio::steady_timer::clock_type;
     const auto self = shared_from_this();
     if (m_model == Model::StatusOnly)
         co_return ControlResult{
             false, name() + ": it shows its status and cannot be operated.", {}};
-    Call call(*this, "Oper", request.ctlNum);
-    co_await writeControl(call, m_operType, request);
-    if (!call.result || !isEnhanced(m_model))
-        co_return call.result;
-    // The error of an accepted command may come before its answer has been looked at.
-    if (call.applError && !call.termination)
-        call.termination = ControlInformation{std::nullopt, false, call.applError, std::nullopt};
-    call.endHandler = m_client->addEndHandler([&call](const std::string &) { call.wake.cancel(); });
+    const CallPointer call = begin("Oper", request.ctlNum);
+    const Leaving leaving(*this, call);
+    co_await write(call, m_operType, request);
+    if (call->state == Call::State::Accepted && !isEnhanced(m_model)) {
+        call->state = Call::State::Over;
+        co_return ControlResult{true, {}, {}, ControlOutcome::Done};
+    }
     const auto patience = terminationTimeout + (request.operateTime ? until(*request.operateTime)
                                                                     : std::chrono::milliseconds(0));
-    const auto deadline = asio::steady_timer::clock_type::now() + patience;
-    while (!call.termination && m_client->isOpen() &&
-           asio::steady_timer::clock_type::now() < deadline) {
-        call.wake.expires_at(deadline);
-        co_await call.wake.async_wait(asTuple);
+    const auto deadline = Clock::now() + patience;
+    while (call->state == Call::State::Accepted && !call->termination && m_client->isOpen() &&
+           Clock::now() < deadline) {
+        call->wake.expires_at(deadline);
+        co_await call->wake.async_wait(asTuple);
     }
+    if (call->termination) {
+        call->state = Call::State::Over;
+        co_return ending(*call);
+    }
+    if (call->state != Call::State::Accepted)
+        co_return call->result;
     ControlResult result;
-    if (!call.termination) {
-        result.message = name() + ": the device accepted the command, but ";
-        if (!m_client->isOpen())
-            result.message +=
-                "the association ended before the command: " + m_client->closeReason();
-        else
-            result.message += "has not told within " + secondsText(patience) + " how it ended.";
-        co_return result;
-    }
-    result.ok = call.termination->positive;
-    result.applError = call.termination->applError;
-    if (!result.ok)
-        result.message = name() + ": the command ended without success: " +
-                         (result.applError ? reasonOf(*result.applError)
-                                           : std::string("the device does not say why."));
+    result.outcome = ControlOutcome::Accepted;
+    result.message = name() + ": the device accepted the command, but ";
+    if (!m_client->isOpen())
+        result.message += "the association ended before the command: " + m_client->closeReason();
+    else
+        result.message += "has not told within " + secondsText(patience) + " how it ended.";
     co_return result;
 }
 
 asio::awaitable<ControlResult> ControlObject::cancel(ControlRequest request)
 {
     const auto self = shared_from_this();
-    if (m_model == Model::StatusOnly || m_cancelType.components.empty())
+    if (m_cancelType.components.empty())
         co_return ControlResult{false, name() + ": a command of it cannot be cancelled.", {}};
-    Call call(*this, "Cancel", request.ctlNum);
-    co_await writeControl(call, m_cancelType, request);
-    co_return call.result;
+    request.synchrocheck = false;
+    request.interlockCheck = false;
+    const CallPointer call = begin("Cancel", request.ctlNum);
+    const Leaving leaving(*this, call);
+    co_await write(call, m_cancelType, request);
+    if (call->state != Call::State::Accepted)
+        co_return call->result;
+    co_return ControlResult{true, {}, {}, ControlOutcome::Done};
 }
 
-bool ControlObject::isMine(const LastApplError &error, const Call &call) const
+ControlObject::CallPointer ControlObject::terminated(const ControlInformation &information) const
 {
-    if (call.ctlNum && *call.ctlNum != error.ctlNum)
-        return false;
-    const std::string object = toText(m_object);
-    const std::string_view given = error.controlObject;
-    if (!given.starts_with(object))
-        return false;
-    const std::string_view rest = given.substr(object.size());
-    return rest.empty() || rest == '$' + call.component;
+    std::vector<CallPointer> candidates;
+    for (const CallPointer &call : m_calls) {
+        if (call->component == "Oper" && !call->termination && call->state != Call::State::Over &&
+            call->state != Call::State::Refused)
+            candidates.push_back(call);
+    }
+    std::optional<std::uint8_t> number;
+    if (information.oper) {
+        if (const auto request = controlRequestFrom(m_operType, *information.oper))
+            number = request->ctlNum;
+    }
+    if (number.value_or(0) != 0) {
+        const auto found = std::ranges::find(candidates, number, &Call::ctlNum);
+        return found == candidates.end() ? nullptr : *found;
+    }
+    return candidates.size() == 1 ? candidates.front() : nullptr;
+}
+
+ControlObject::CallPointer ControlObject::meant(const LastApplError &error) const
+{
+    const auto named = controlledNameFrom(error.controlObject);
+    if (!named || named->object != name())
+        return nullptr;
+    // Some devices name the operate service whichever they refuse.
+    const auto mayMean = [&](const CallPointer &call) {
+        return named->service.empty() || named->service == call->component ||
+               named->service == "Oper";
+    };
+    std::vector<CallPointer> waiting;
+    std::vector<CallPointer> running;
+    for (const CallPointer &call : m_calls) {
+        const bool isOther = error.ctlNum != 0 && call->ctlNum && *call->ctlNum != error.ctlNum;
+        if (isOther || call->termination || !mayMean(call))
+            continue;
+        if (call->state == Call::State::Accepted && call->component == "Oper")
+            running.push_back(call);
+        else if ((call->state == Call::State::Waiting || call->state == Call::State::Refused) &&
+                 !call->applError)
+            waiting.push_back(call);
+    }
+    for (const std::vector<CallPointer> &group : {waiting, running}) {
+        if (group.size() == 1)
+            return group.front();
+        const auto isNamed = [&](const CallPointer &call) {
+            return call->component == named->service;
+        };
+        if (std::ranges::count_if(group, isNamed) == 1)
+            return *std::ranges::find_if(group, isNamed);
+        if (!group.empty())
+            return nullptr;
+    }
+    return nullptr;
 }
 
 bool ControlObject::handle(const mms::InformationReport &report)
 {
-    const auto information = controlInformationFrom(report);
+    auto information = controlInformationFrom(report);
     if (!information)
         return false;
     if (information->terminated) {
         if (*information->terminated != m_object)
             return false;
-        for (Call *call : m_calls) {
-            if (call->component != "Oper" || call->termination)
-                continue;
-            const auto request = information->oper
-                                     ? controlRequestFrom(m_operType, *information->oper)
-                                     : mms::Error{};
-            if (request.ok() && request->ctlNum != call->ctlNum)
-                continue;
-            call->termination = information;
-            call->wake.cancel();
-            return true;
+        const CallPointer call = terminated(*information);
+        if (!call)
+            return false;
+        // The cause of another object is none of this one.
+        if (information->applError) {
+            const auto named = controlledNameFrom(information->applError->controlObject);
+            if (named && named->object != name())
+                information->applError.reset();
         }
-        return false;
+        terminate(call, *std::move(information));
+        return true;
     }
     if (!information->applError)
         return false;
-    const auto found = std::ranges::find_if(m_calls, [&](const Call *call) {
-        return !call->termination && isMine(*information->applError, *call);
-    });
-    if (found == m_calls.end())
+    const CallPointer call = meant(*information->applError);
+    if (!call)
         return false;
-    Call &call = **found;
-    if (call.answered) {
-        call.termination = information;
-        call.wake.cancel();
-    } else {
-        call.applError = information->applError;
+    if (call->state == Call::State::Accepted) {
+        if (!isNone(*information->applError))
+            terminate(call, *std::move(information));
+        return true;
     }
+    const auto named = controlledNameFrom(information->applError->controlObject);
+    call->isNamed = named && named->service == call->component;
+    call->applError = information->applError;
+    call->wake.cancel();
     return true;
 }
 

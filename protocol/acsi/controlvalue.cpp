@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <limits>
 
 namespace acsi {
@@ -16,6 +17,8 @@ using mms::TypeDescription;
 
 constexpr std::size_t maxIdentification = 64;
 constexpr std::string_view lastApplErrorName = "LastApplError";
+/// The additional cause that is none.
+constexpr std::int32_t noCause = 25;
 
 mms::Error named(std::string_view component, const mms::Error &error)
 {
@@ -51,11 +54,49 @@ mms::Result<Data> originValue(const TypeDescription &type, const Originator &ori
     return Data::structure(std::move(members));
 }
 
+/// A number as a set point of i and f: i is what the scale makes of it.
+mms::Result<Data> setPointValue(const TypeDescription &type, const Data &value,
+                                const std::optional<AnalogueScale> &scale)
+{
+    auto real = value.toDouble();
+    if (const auto whole = value.toInteger(); whole && !real)
+        real = static_cast<double>(*whole);
+    if (!real)
+        return valueOfType(type, value);
+    if (!scale && std::trunc(*real) != *real)
+        return mms::Error{"The device wants " + mms::toText(value) +
+                              " also as a whole number, but does not say by which scale (sVC).",
+                          0};
+    const double integer = scale ? std::round((*real - scale->offset) / scale->factor) : *real;
+    std::vector<Data> members;
+    for (const TypeDescription::Component &component : type.components) {
+        const bool isInteger = component.name == "i";
+        auto member =
+            valueOfType(component.type, isInteger ? Data::float64(integer) : Data::float64(*real));
+        if (!member)
+            return named(component.name, member.error());
+        members.push_back(*std::move(member));
+    }
+    return Data::structure(std::move(members));
+}
+
+bool isSetPoint(const TypeDescription &type)
+{
+    const TypeDescription *integer = componentOf(type, "i");
+    const TypeDescription *real = componentOf(type, "f");
+    return type.components.size() == 2 && integer && real &&
+           integer->kind == TypeDescription::Kind::Integer &&
+           real->kind == TypeDescription::Kind::FloatingPoint;
+}
+
 mms::Result<Data> componentValue(const TypeDescription::Component &component,
-                                 const ControlRequest &request)
+                                 const ControlRequest &request,
+                                 const std::optional<AnalogueScale> &scale)
 {
     const std::string &name = component.name;
     Data value;
+    if (name == "ctlVal" && isSetPoint(component.type))
+        return setPointValue(component.type, request.value, scale);
     if (name == "ctlVal")
         value = request.value;
     else if (name == "operTm")
@@ -184,7 +225,7 @@ constexpr std::array<std::string_view, 28> additionalCauses = {
     "blocked by synchrocheck",
     "a command is being executed already",
     "blocked by the health of the logical node",
-    "another object of the bay is being controlled",
+    "another object of the domain is being controlled",
     "ended by a cancel",
     "the time for it is over",
     "ended by a trip",
@@ -193,7 +234,7 @@ constexpr std::array<std::string_view, 28> additionalCauses = {
     "the client has no authority for it",
     "ended beyond the wanted position",
     "ended because the position deviates from the command",
-    "ended by the loss of communication with the process",
+    "ended by the loss of the connection with the client that issued it",
     "blocked by the data object that blocks commands",
     "no cause",
     "the parameters of the service contradict those of the selection",
@@ -223,7 +264,8 @@ std::string controlErrorText(std::int32_t error)
     return "control error " + std::to_string(error);
 }
 
-mms::Result<Data> controlValue(const TypeDescription &type, const ControlRequest &request)
+mms::Result<Data> controlValue(const TypeDescription &type, const ControlRequest &request,
+                               const std::optional<AnalogueScale> &scale)
 {
     if (type.kind != TypeDescription::Kind::Structure || type.components.empty())
         return mms::Error{"The device does not say what belongs to the command.", 0};
@@ -231,10 +273,16 @@ mms::Result<Data> controlValue(const TypeDescription &type, const ControlRequest
         return mms::Error{"The device cannot operate at a given time.", 0};
     if (request.test && !componentOf(type, "Test"))
         return mms::Error{"The device cannot test a command.", 0};
+    if (!componentOf(type, "Check")) {
+        if (request.interlockCheck)
+            return mms::Error{"The device cannot check interlocking.", 0};
+        if (request.synchrocheck)
+            return mms::Error{"The device cannot check synchronism.", 0};
+    }
     std::vector<Data> members;
     members.reserve(type.components.size());
     for (const TypeDescription::Component &component : type.components) {
-        auto member = componentValue(component, request);
+        auto member = componentValue(component, request, scale);
         if (!member)
             return named(component.name, member.error());
         members.push_back(*std::move(member));
@@ -258,6 +306,36 @@ mms::Result<ControlRequest> controlRequestFrom(const TypeDescription &type, cons
                               0};
     }
     return request;
+}
+
+std::optional<ControlledName> controlledNameFrom(std::string_view controlObject)
+{
+    const std::size_t slash = controlObject.find('/');
+    if (slash == std::string_view::npos || slash == 0)
+        return std::nullopt;
+    std::vector<std::string_view> parts;
+    std::string_view rest = controlObject.substr(slash + 1);
+    for (;;) {
+        const std::size_t end = rest.find_first_of("$.");
+        parts.push_back(rest.substr(0, end));
+        if (end == std::string_view::npos)
+            break;
+        rest.remove_prefix(end + 1);
+    }
+    if (parts.size() > 2 && parts[1] == "CO")
+        parts.erase(parts.begin() + 1);
+    ControlledName name;
+    constexpr std::array<std::string_view, 4> services = {"SBO", "SBOw", "Oper", "Cancel"};
+    if (parts.size() > 2 && std::ranges::find(services, parts.back()) != services.end()) {
+        name.service = parts.back();
+        parts.pop_back();
+    }
+    if (parts.size() < 2)
+        return std::nullopt;
+    name.object = controlObject.substr(0, slash + 1);
+    for (std::size_t i = 0; i < parts.size(); ++i)
+        name.object += (i == 0 ? "" : ".") + std::string(parts[i]);
+    return name;
 }
 
 mms::Result<LastApplError> lastApplErrorFrom(const Data &value)
@@ -310,7 +388,11 @@ std::optional<ControlInformation> controlInformationFrom(const mms::InformationR
     }
     if (!hasError && !information.terminated)
         return std::nullopt;
-    information.positive = !hasError;
+    const bool saysNone = information.applError && information.applError->error == 0 &&
+                          information.applError->addCause == noCause;
+    information.positive = !hasError || (saysNone && information.terminated);
+    if (information.positive)
+        information.applError.reset();
     return information;
 }
 

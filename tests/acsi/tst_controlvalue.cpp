@@ -156,17 +156,46 @@ TEST(ControlValue, ATimeToOperateWithoutAPlaceForItIsAnErrorInsteadOfAnImmediate
 TEST(ControlValue, ATestWithoutAPlaceForItIsAnErrorInsteadOfARealCommand)
 {
     ControlRequest request = someRequest();
+    request.interlockCheck = false;
     const Type type = Type::structure({{"ctlVal", Type::boolean()}});
     EXPECT_TRUE(controlValue(type, request).ok());
     request.test = true;
     EXPECT_FALSE(controlValue(type, request).ok());
 }
 
-TEST(ControlValue, CancelHasNoCheck)
+TEST(ControlValue, ACheckWithoutAPlaceForItIsAnErrorInsteadOfACommandWithoutIt)
 {
-    const auto value = controlValue(operType(Type::boolean(), false, false), someRequest());
+    const Type type = operType(Type::boolean(), false, false);
+    ControlRequest request = someRequest();
+    ASSERT_TRUE(request.interlockCheck);
+    EXPECT_EQ(controlValue(type, request).error().message, "The device cannot check interlocking.");
+    request.interlockCheck = false;
+    request.synchrocheck = true;
+    EXPECT_EQ(controlValue(type, request).error().message, "The device cannot check synchronism.");
+    request.synchrocheck = false;
+    const auto value = controlValue(type, request);
     ASSERT_TRUE(value.ok());
     EXPECT_EQ(value->children().size(), 5U);
+}
+
+TEST(ControlValue, ASetPointOfTwoPartsFollowsItsScale)
+{
+    const Type both = Type::structure({{"i", Type::integer(16)}, {"f", Type::float32()}});
+    const Type type = Type::structure({{"ctlVal", both}});
+    const auto sent = [&](double number, const std::optional<AnalogueScale> &scale) {
+        ControlRequest request;
+        request.value = Data::float64(number);
+        const auto value = controlValue(type, request, scale);
+        return value ? mms::toText(value->children()[0]) : value.error().message;
+    };
+    EXPECT_EQ(sent(12.5, AnalogueScale{0.1, 0}), "{125, 12.5}");
+    // As a device says it, in single precision.
+    EXPECT_EQ(sent(12.5, AnalogueScale{static_cast<double>(0.1F), 0}), "{125, 12.5}");
+    EXPECT_EQ(sent(12.5, AnalogueScale{0.5, 10}), "{5, 12.5}");
+    EXPECT_EQ(sent(12, std::nullopt), "{12, 12}");
+    EXPECT_EQ(sent(12.5, std::nullopt), "ctlVal: The device wants 12.5 also as a whole number, but "
+                                        "does not say by which scale (sVC).");
+    EXPECT_NE(sent(5000, AnalogueScale{0.1, 0}).find("ctlVal: i: "), std::string::npos);
 }
 
 TEST(ControlValue, AnOriginatorIdentificationBeyond64OctetsIsRefusedNotCut)
@@ -183,8 +212,10 @@ TEST(ControlValue, AnOriginatorIdentificationBeyond64OctetsIsRefusedNotCut)
 
 TEST(ControlValue, WhatTheDeviceWantsAndNobodyKnowsIsNamed)
 {
+    ControlRequest request = someRequest();
+    request.interlockCheck = false;
     const auto value = controlValue(
-        Type::structure({{"ctlVal", Type::boolean()}, {"magic", Type::boolean()}}), someRequest());
+        Type::structure({{"ctlVal", Type::boolean()}, {"magic", Type::boolean()}}), request);
     ASSERT_FALSE(value.ok());
     EXPECT_NE(value.error().message.find("\"magic\""), std::string::npos);
     EXPECT_FALSE(controlValue(Type::structure({}), someRequest()).ok());
@@ -198,6 +229,22 @@ TEST(ControlValue, AValueOfTheWrongTypeNamesCtlVal)
     const auto value = controlValue(operType(Type::boolean()), request);
     ASSERT_FALSE(value.ok());
     EXPECT_EQ(value.error().message.substr(0, 8), "ctlVal: ");
+}
+
+TEST(ControlValue, TheObjectOfAnErrorIsReadInEachWayToWriteIt)
+{
+    const auto read = [](std::string_view text) {
+        const auto name = controlledNameFrom(text);
+        return name ? name->object + " " + name->service : std::string("none");
+    };
+    EXPECT_EQ(read("LD/CSWI1$CO$Pos$Oper"), "LD/CSWI1.Pos Oper");
+    EXPECT_EQ(read("LD/CSWI1$CO$Pos"), "LD/CSWI1.Pos ");
+    EXPECT_EQ(read("LD/CSWI1.Pos"), "LD/CSWI1.Pos ");
+    EXPECT_EQ(read("LD/CSWI1.Pos.SBOw"), "LD/CSWI1.Pos SBOw");
+    EXPECT_EQ(read("LD/CSWI1$Pos$Cancel"), "LD/CSWI1.Pos Cancel");
+    EXPECT_EQ(read("LD/GGIO1$CO$Grp$Ind$SBO"), "LD/GGIO1.Grp.Ind SBO");
+    for (const char *text : {"", "LD", "/", "LD/", "LD/CSWI1", "/CSWI1$CO$Pos"})
+        EXPECT_EQ(read(text), "none") << text;
 }
 
 TEST(ControlRequestReading, GivesBackWhatWasWritten)

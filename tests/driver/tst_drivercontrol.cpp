@@ -303,11 +303,11 @@ void tst_DriverControl::aCommandAndItsOutcomeAreJournalled()
     QCOMPARE(done.operation, QString("controlObject"));
     QCOMPARE(done.reference, QString("BAY1E1IO/GGIO2$CO$SPCSO2"));
     QCOMPARE(done.oldValue, QString("false"));
-    QCOMPARE(done.newValue, QString("1, interlock check"));
+    QCOMPARE(done.newValue, QString("1, category 3, interlock check"));
     QCOMPARE(done.error, QString());
     QCOMPARE(done.additionalCause, QString());
     const DeviceChange refused = m_listener->changes().at(1);
-    QCOMPARE(refused.newValue, QString("1, interlock check, test"));
+    QCOMPARE(refused.newValue, QString("1, category 3, interlock check, test"));
     QCOMPARE(refused.error, m_error);
     QCOMPARE(refused.additionalCause, QString("blocked by the mode of the logical node"));
 }
@@ -374,7 +374,7 @@ void tst_DriverControl::anEmptyOperateRepeatsTheSelection()
     QCOMPARE(member(sent, CtlVal), mms::Data::boolean(true));
     QCOMPARE(m_ied->value(bay, "QA1CSWI1$ST$Pos$stVal"), position("10"));
     QVERIFY(m_listener->waitForChanges(2));
-    QCOMPARE(m_listener->changes().at(1).newValue, QString("1, interlock check, synchrocheck"));
+    QCOMPARE(m_listener->changes().at(1).newValue, QString("1, category 2, interlock check, synchrocheck"));
 }
 
 void tst_DriverControl::anEmptyOperateWithoutSelectionIsRefusedBeforeAnythingIsSent()
