@@ -379,8 +379,14 @@ void IEDModelView::control(ControlOperation operation, std::initializer_list<qui
         ControlCo dialog(node, &m_templates, m_templates.entries(QStringLiteral("Check")),
                          m_templates.entries(QStringLiteral("orCat")),
                          check == ControlCheck::Locked, this);
-        if (dialog.exec() != QDialog::Accepted)
-            return;
+        QString fault;
+        do {
+            if (dialog.exec() != QDialog::Accepted)
+                return;
+            fault = dialog.faultOfTypedValue();
+            if (!fault.isEmpty())
+                showWarning(this, failureTexts().title, fault);
+        } while (!fault.isEmpty());
         block = dialog.getControlBlock();
     }
     block.objectReference =

@@ -5,8 +5,12 @@
 
 #include "model/iedmodel.h"
 #include "model/iednode.h"
+#include "model/valuepresentation.h"
 
 #include <devicemodel/dataobject.h>
+#include <propertybrowser/numberguard.h>
+
+#include <QtGui/QKeyEvent>
 
 namespace {
 
@@ -121,6 +125,24 @@ ControlBlock ControlCo::getControlBlock() const
     return block;
 }
 
+QString ControlCo::faultOfTypedValue()
+{
+    return m_guard && m_form->ctrEdit->isModified() ? m_guard->faultAtEnd() : QString();
+}
+
+void ControlCo::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        const QString fault = faultOfTypedValue();
+        if (!fault.isEmpty()) {
+            m_form->ctrEdit->setFocus();
+            m_guard->tell(fault);
+            return;
+        }
+    }
+    QDialog::keyPressEvent(event);
+}
+
 void ControlCo::showCurrentValue(const DataAttribute &stVal, const SclTemplateStore &descriptions)
 {
     if (offerValues(m_form->stVal, stVal, descriptions))
@@ -140,4 +162,7 @@ void ControlCo::showControlValue(const DataAttribute &ctlVal, const SclTemplateS
     m_listEditor = false;
     m_form->ctrEdit->show();
     m_form->ctrValue->hide();
+    m_guard = new NumberGuard(
+        numberRange(ctlVal.basicType).value_or(NumberRange::fraction(NumberRange::Double)),
+        m_form->ctrEdit, NumberGuard::Told);
 }

@@ -13,6 +13,7 @@
 struct DataAttribute;
 struct IEDNode;
 
+class NumberGuard;
 class QComboBox;
 
 namespace Ui {
@@ -43,6 +44,15 @@ public:
     /// number gives 0, and so does a list without a current entry.
     ControlBlock getControlBlock() const;
 
+    /// One sentence on why what the operator typed is no value for the object, empty when it is
+    /// one. Such a text can be accepted with a click and gives another value than was meant. Asks
+    /// only once about a number that is merely doubtful.
+    QString faultOfTypedValue();
+
+protected:
+    /// Enter does not accept such a text.
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     void showCurrentValue(const DataAttribute &stVal, const SclTemplateStore &descriptions);
     void showControlValue(const DataAttribute &ctlVal, const SclTemplateStore &descriptions);
@@ -51,4 +61,5 @@ private:
 
     /// Whether the control value is taken from the list, not from the typed text.
     bool m_listEditor = true;
+    NumberGuard *m_guard = nullptr; ///< of the typed text, when there is one
 };

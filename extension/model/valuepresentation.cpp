@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 namespace {
 
@@ -112,4 +113,40 @@ EditedValue readEditedValue(const DataAttribute &attribute, const QVariant &edit
     if (isConvertedToInt(type))
         return converted(text.toInt(), stored.toInt());
     return {edited, false, text != stored.toString()};
+}
+
+std::optional<NumberRange> numberRange(const QString &basicType)
+{
+    struct Whole
+    {
+        QLatin1String name;
+        qlonglong smallest;
+        qulonglong largest;
+    };
+    static const std::array<Whole, 9> wholes = {{
+        {QLatin1String("INT8"), -128, 127},
+        {QLatin1String("INT16"), -32768, 32767},
+        {QLatin1String("INT24"), -8388608, 8388607},
+        {QLatin1String("INT64"), std::numeric_limits<qlonglong>::min(),
+         std::numeric_limits<qlonglong>::max()},
+        {QLatin1String("INT8U"), 0, 255},
+        {QLatin1String("INT16U"), 0, 65535},
+        {QLatin1String("INT24U"), 0, 16777215},
+        {QLatin1String("INT32U"), 0, 4294967295U},
+        {QLatin1String("INT64U"), 0, std::numeric_limits<qulonglong>::max()},
+    }};
+    if (basicType == QLatin1String("FLOAT32"))
+        return NumberRange::fraction(NumberRange::Single);
+    if (basicType == QLatin1String("FLOAT64"))
+        return NumberRange::fraction(NumberRange::Double);
+    if (basicType == QLatin1String("Tcmd"))
+        return NumberRange::whole(0, 3);
+    for (const Whole &whole : wholes) {
+        if (basicType == whole.name)
+            return NumberRange::whole(whole.smallest, whole.largest);
+    }
+    if (isConvertedToInt(basicType)) {
+        return NumberRange::whole(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
+    }
+    return std::nullopt;
 }

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <propertybrowser/numberguard.h>
+
 #include <QtCore/QString>
 #include <QtCore/QVariant>
+
+#include <optional>
 
 struct DataAttribute;
 class PhysicalDevice;
@@ -28,3 +32,7 @@ struct EditedValue
 
 /// Read an edited value. A text that does not convert gives 0.
 EditedValue readEditedValue(const DataAttribute &attribute, const QVariant &edited);
+
+/// The numbers that a text for an attribute of this basic type is read as; none when any text will
+/// do.
+std::optional<NumberRange> numberRange(const QString &basicType);

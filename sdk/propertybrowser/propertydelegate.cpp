@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "propertydelegate.h"
 
+#include "propertyeditors.h"
 #include "qtproperty.h"
 #include "qtvarianteditorfactory.h"
 
@@ -78,10 +79,12 @@ QSize PropertyDelegate::sizeHint(const QStyleOptionViewItem &option, const QMode
 
 bool PropertyDelegate::eventFilter(QObject *object, QEvent *event)
 {
-    const auto *editor = qobject_cast<QWidget *>(object);
+    auto *editor = qobject_cast<QWidget *>(object);
     if (editor && m_openFactory && endsEditing(event)) {
         QString sentence;
         if (!m_openFactory->holdsValue(editor, &sentence)) {
+            if (auto *told = dynamic_cast<PropertyEditor *>(editor))
+                told->acknowledge();
             emit refused(sentence);
             return true;
         }

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "propertyeditors.h"
 
+#include "numberguard.h"
+
 #include <QtCore/QCoreApplication>
-#include <QtCore/QRegularExpression>
 #include <QtGui/QValidator>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QDateTimeEdit>
@@ -25,115 +26,6 @@ QString translated(const char *text)
     return QCoreApplication::translate("PropertyEditor", text);
 }
 
-template <typename Number>
-QString rangeText()
-{
-    return translated(
-               QT_TRANSLATE_NOOP("PropertyEditor", "A whole number from %1 to %2 is needed."))
-        .arg(std::numeric_limits<Number>::min())
-        .arg(std::numeric_limits<Number>::max());
-}
-
-/// The validators let through whatever can still become a value: the widget library would drop an
-/// unfinished text without a word, whereas the delegate asks for the value and says what is
-/// missing.
-///
-/// Integers are read as text, since the validators and spin boxes of the widget library end at 32
-/// bits.
-class IntegerValidator : public QValidator
-{
-public:
-    IntegerValidator(int type, QObject *parent)
-        : QValidator(parent)
-        , m_type(type)
-    {
-    }
-
-    /// Invalid for a text that is no number of the type.
-    QVariant number(const QString &text) const
-    {
-        bool ok = false;
-        QVariant number;
-        switch (m_type) {
-        case QMetaType::Int:
-            number = text.toInt(&ok);
-            break;
-        case QMetaType::UInt:
-            number = text.toUInt(&ok);
-            break;
-        case QMetaType::LongLong:
-            number = text.toLongLong(&ok);
-            break;
-        default:
-            number = text.toULongLong(&ok);
-            break;
-        }
-        return ok ? number : QVariant();
-    }
-
-    QString expectation() const
-    {
-        switch (m_type) {
-        case QMetaType::Int:
-            return rangeText<int>();
-        case QMetaType::UInt:
-            return rangeText<uint>();
-        case QMetaType::LongLong:
-            return rangeText<qlonglong>();
-        default:
-            return rangeText<qulonglong>();
-        }
-    }
-
-    State validate(QString &input, int &position) const override
-    {
-        trim(input, position);
-        static const QRegularExpression pattern(QStringLiteral("^[+-]?[0-9]*$"));
-        if (!pattern.match(input).hasMatch())
-            return Invalid;
-        const bool isSigned = m_type == QMetaType::Int || m_type == QMetaType::LongLong;
-        if (!isSigned && input.startsWith(QLatin1Char('-')))
-            return Invalid;
-        const bool begun = input.isEmpty() || !input.back().isDigit();
-        return begun || number(input).isValid() ? Acceptable : Invalid;
-    }
-
-    static void trim(QString &input, int &position)
-    {
-        const QString trimmed = input.trimmed();
-        if (trimmed.size() == input.size())
-            return;
-        input = trimmed;
-        position = qMin(position, input.size());
-    }
-
-private:
-    int m_type;
-};
-
-class DoubleValidator : public QValidator
-{
-public:
-    using QValidator::QValidator;
-
-    static QVariant number(const QString &text)
-    {
-        bool ok = false;
-        const double number = text.toDouble(&ok);
-        return ok ? QVariant(number) : QVariant();
-    }
-
-    State validate(QString &input, int &position) const override
-    {
-        IntegerValidator::trim(input, position);
-        static const QRegularExpression number(
-            QStringLiteral("^[+-]?[0-9]*([.][0-9]*)?([eE][+-]?[0-9]*)?$"));
-        static const QRegularExpression word(QStringLiteral("^[+-]?(i|in|inf|n|na|nan)$"));
-        return number.match(input).hasMatch() || word.match(input).hasMatch() ? Acceptable
-                                                                              : Invalid;
-    }
-};
-
 class CharacterValidator : public QValidator
 {
 public:
@@ -154,11 +46,6 @@ public:
         , m_shownAtFirst(QLineEdit::text())
     {
         setFrame(false);
-        connect(this, &QLineEdit::inputRejected, this, [this] {
-            const QString sentence = expectation();
-            if (!sentence.isEmpty())
-                QToolTip::showText(mapToGlobal(QPoint(0, height())), sentence, this);
-        });
     }
 
     bool isModified() const override { return text() != m_shownAtFirst; }
@@ -168,38 +55,56 @@ private:
     QString m_shownAtFirst;
 };
 
-class IntegerEditor : public TextEditor
+NumberRange rangeOf(int type, bool single)
+{
+    switch (type) {
+    case QMetaType::Int:
+        return NumberRange::whole(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
+    case QMetaType::UInt:
+        return NumberRange::whole(0, std::numeric_limits<uint>::max());
+    case QMetaType::LongLong:
+        return NumberRange::whole(std::numeric_limits<qlonglong>::min(),
+                                  std::numeric_limits<qlonglong>::max());
+    case QMetaType::ULongLong:
+        return NumberRange::whole(0, std::numeric_limits<qulonglong>::max());
+    default:
+        return NumberRange::fraction(single ? NumberRange::Single : NumberRange::Double);
+    }
+}
+
+/// The guard lets through whatever can still become a number: the widget library would drop an
+/// unfinished text without a word, whereas the delegate asks for the value and says what is
+/// missing.
+///
+/// Integers are read as text, since the validators and spin boxes of the widget library end at 32
+/// bits.
+class NumberEditor : public TextEditor
 {
 public:
-    IntegerEditor(int type, const QString &text, QWidget *parent)
+    NumberEditor(int type, bool single, const QString &text, QWidget *parent)
         : TextEditor(text, parent)
-        , m_validator(new IntegerValidator(type, this))
+        , m_type(type)
+        , m_guard(new NumberGuard(rangeOf(type, single), this))
     {
-        setValidator(m_validator);
     }
 
-    QVariant value() const override { return m_validator->number(text()); }
-    QString expectation() const override { return m_validator->expectation(); }
-
-private:
-    IntegerValidator *m_validator;
-};
-
-class DoubleEditor : public TextEditor
-{
-public:
-    DoubleEditor(const QString &text, QWidget *parent)
-        : TextEditor(text, parent)
+    QVariant value() const override
     {
-        setValidator(new DoubleValidator(this));
+        if (!expectation().isEmpty())
+            return {};
+        QVariant number = m_guard->range().readable(text());
+        number.convert(m_type);
+        return number;
     }
-
-    QVariant value() const override { return DoubleValidator::number(text()); }
     QString expectation() const override
     {
-        return translated(QT_TRANSLATE_NOOP(
-            "PropertyEditor", "A number with a decimal point is needed, such as 0.25 or 1e-3."));
+        return text().isEmpty() ? m_guard->range().fault({}) : m_guard->fault();
     }
+    void acknowledge() override { m_guard->faultAtEnd(); }
+
+private:
+    int m_type;
+    NumberGuard *m_guard;
 };
 
 class CharacterEditor : public TextEditor
@@ -209,6 +114,9 @@ public:
         : TextEditor(text, parent)
     {
         setValidator(new CharacterValidator(this));
+        connect(this, &QLineEdit::inputRejected, this, [this] {
+            QToolTip::showText(mapToGlobal(QPoint(0, height())), expectation(), this);
+        });
     }
 
     QVariant value() const override { return text().isEmpty() ? QVariant() : text().at(0); }
@@ -315,8 +223,10 @@ QString PropertyEditor::expectation() const
     return QString();
 }
 
+void PropertyEditor::acknowledge() {}
+
 QWidget *createPropertyEditor(int type, const QVariant &value, const QString &valueText,
-                              QWidget *parent)
+                              bool single, QWidget *parent)
 {
     switch (type) {
     case QMetaType::Bool:
@@ -325,9 +235,8 @@ QWidget *createPropertyEditor(int type, const QVariant &value, const QString &va
     case QMetaType::UInt:
     case QMetaType::LongLong:
     case QMetaType::ULongLong:
-        return new IntegerEditor(type, valueText, parent);
     case QMetaType::Double:
-        return new DoubleEditor(valueText, parent);
+        return new NumberEditor(type, single, valueText, parent);
     case QMetaType::QString:
         return new TextEditor(valueText, parent);
     case QMetaType::QChar:

@@ -27,9 +27,12 @@ public:
     virtual QVariant value() const = 0;
     /// One sentence on what the editor takes, for one whose content can be unfinished.
     virtual QString expectation() const;
+    /// The operator was told what is expected; what was only doubtful is a value from now on.
+    virtual void acknowledge();
 };
 
 /// An editor for a value of the given QMetaType; null for a type that has none. The result is a
 /// PropertyEditor as well.
+/// @param single a double stands for a single-precision number
 QWidget *createPropertyEditor(int type, const QVariant &value, const QString &valueText,
-                              QWidget *parent);
+                              bool single, QWidget *parent);

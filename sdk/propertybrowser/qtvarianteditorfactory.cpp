@@ -21,7 +21,7 @@ QWidget *QtVariantEditorFactory::createEditor(QtVariantPropertyManager *manager,
     if (!edited)
         return nullptr;
     return createPropertyEditor(edited->propertyType(), edited->value(), edited->valueText(),
-                                parent);
+                                edited->isSinglePrecision(), parent);
 }
 
 bool QtVariantEditorFactory::holdsValue(const QWidget *editor, QString *sentence) const

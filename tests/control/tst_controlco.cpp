@@ -16,6 +16,7 @@
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QToolTip>
 
 #include <memory>
 
@@ -175,6 +176,9 @@ private slots:
     void theRequestLeavesReferenceAndControlModelToTheCaller();
     void okAcceptsAndCancelRejects_data();
     void okAcceptsAndCancelRejects();
+    void theDecimalMarkOfTheLocaleIsAPoint();
+    void anUnreadableTextIsToldAndEnterDoesNotTakeIt_data();
+    void anUnreadableTextIsToldAndEnterDoesNotTakeIt();
     void theTabKeyFollowsTheReadingOrder();
     void everyEntryFieldHasAnAccessibleName();
 
@@ -677,6 +681,64 @@ void tst_ControlCo::okAcceptsAndCancelRejects()
     }});
     QTEST(dialog.exec(), "result");
     QVERIFY(driver.finished());
+}
+
+void tst_ControlCo::theDecimalMarkOfTheLocaleIsAPoint()
+{
+    QLocale::setDefault(QLocale(QStringLiteral("de_DE")));
+    ControllableObject object;
+    object.withCtlVal(QStringLiteral("FLOAT32"));
+    const auto dialog = dialogFor(object);
+    auto *const editor = find<QLineEdit>(*dialog, "ctrEdit");
+    QTest::keyClicks(editor, QStringLiteral("95,5"));
+    QLocale::setDefault(QLocale::c());
+    QCOMPARE(editor->text(), QStringLiteral("95.5"));
+    QCOMPARE(dialog->getControlBlock().controlValue, 95.5);
+    QCOMPARE(dialog->faultOfTypedValue(), QString());
+}
+
+void tst_ControlCo::anUnreadableTextIsToldAndEnterDoesNotTakeIt_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("sentence");
+    QTest::newRow("a comma")
+        << QStringLiteral("FLOAT32") << QStringLiteral("95,5")
+        << QStringLiteral("A number with a decimal point is needed, such as 0.25 or 1e-3.");
+    QTest::newRow("letters") << QStringLiteral("INT32") << QStringLiteral("abc")
+                             << QStringLiteral(
+                                    "A whole number from -2147483648 to 2147483647 is needed.");
+    QTest::newRow("a fraction for an integer")
+        << QStringLiteral("INT8") << QStringLiteral("1.5")
+        << QStringLiteral("A whole number from -128 to 127 is needed.");
+    QTest::newRow("too large")
+        << QStringLiteral("FLOAT32") << QStringLiteral("1e39")
+        << QStringLiteral("The number is too large: the data type ends at 3.4028235e38.");
+}
+
+void tst_ControlCo::anUnreadableTextIsToldAndEnterDoesNotTakeIt()
+{
+    QFETCH(QString, type);
+    QFETCH(QString, text);
+    QFETCH(QString, sentence);
+    ControllableObject object;
+    object.withCtlVal(type);
+    const auto dialog = dialogFor(object);
+    auto *const editor = find<QLineEdit>(*dialog, "ctrEdit");
+    QSignalSpy finished(dialog.get(), &QDialog::finished);
+
+    QTest::keyClicks(editor, text);
+    QCOMPARE(editor->text(), text);
+    QTest::keyClick(editor, Qt::Key_Return);
+    QCOMPARE(finished.count(), 0);
+    QCOMPARE(QToolTip::text(), sentence);
+    QCOMPARE(dialog->faultOfTypedValue(), sentence);
+
+    editor->selectAll();
+    QTest::keyClicks(editor, QStringLiteral("12"));
+    QCOMPARE(dialog->faultOfTypedValue(), QString());
+    QTest::keyClick(editor, Qt::Key_Return);
+    QCOMPARE(finished.count(), 1);
 }
 
 void tst_ControlCo::theTabKeyFollowsTheReadingOrder()

@@ -120,6 +120,11 @@ private slots:
     void anUnfinishedNumberIsNotTakenOnEnter();
     void anUnfinishedNumberIsNotTakenOnLosingTheFocus();
     void aPastedNumberLosesTheBlanksAroundIt();
+    void theDecimalMarkOfTheLocaleIsAPoint();
+    void whatIsLeftOfARefusedNumberIsTakenOnlyWhenAskedTwice();
+    void whatIsLeftOfARefusedNumberIsNotTakenOnLosingTheFocus();
+    void aSinglePrecisionNumberFitsAFloat_data();
+    void aSinglePrecisionNumberFitsAFloat();
     void aTextIsEdited();
     void aCharacterIsEdited();
     void aTruthIsEditedWithTheKeyboard();
@@ -514,6 +519,81 @@ void tst_PropertyEditing::aPastedNumberLosesTheBlanksAroundIt()
     QCOMPARE(editor->text(), QStringLiteral("42"));
     QTest::keyClick(editor, Qt::Key_Return);
     QTRY_COMPARE(property->value(), QVariant(42));
+}
+
+void tst_PropertyEditing::theDecimalMarkOfTheLocaleIsAPoint()
+{
+    QLocale::setDefault(QLocale(QStringLiteral("de_DE")));
+    Window window;
+    QtVariantProperty *property = window.add(QStringLiteral("StrVal"), 3.5);
+    QVERIFY(window.showActive());
+    retype(window.open(0), QStringLiteral("0,25"));
+    QLocale::setDefault(QLocale::c());
+    QCOMPARE(window.editor<QLineEdit>()->text(), QStringLiteral("0.25"));
+    QTest::keyClick(window.editor(), Qt::Key_Return);
+    QTRY_COMPARE(property->value(), QVariant(0.25));
+}
+
+void tst_PropertyEditing::whatIsLeftOfARefusedNumberIsTakenOnlyWhenAskedTwice()
+{
+    Window window;
+    QtVariantProperty *property = window.add(QStringLiteral("StrVal"), 3.5);
+    QVERIFY(window.showActive());
+    QLineEdit *editor = window.open(0);
+    retype(editor, QStringLiteral("0,25"));
+    QCOMPARE(editor->text(), QStringLiteral("025"));
+    QTest::keyClick(editor, Qt::Key_Return);
+    QCoreApplication::processEvents();
+    QCOMPARE(window.editor<QLineEdit>(), editor);
+    QCOMPARE(
+        window.message()->text(),
+        QStringLiteral("Not all that was typed was taken. Press Enter again if 025 is meant."));
+    QCOMPARE(property->value(), QVariant(3.5));
+    QTest::keyClick(editor, Qt::Key_Return);
+    QTRY_COMPARE(property->value(), QVariant(25.0));
+}
+
+void tst_PropertyEditing::whatIsLeftOfARefusedNumberIsNotTakenOnLosingTheFocus()
+{
+    Window window;
+    QtVariantProperty *property = window.add(QStringLiteral("StrVal"), 3.5);
+    QVERIFY(window.showActive());
+    retype(window.open(0), QStringLiteral("0,25"));
+    QTest::mouseClick(window.button, Qt::LeftButton);
+    QVERIFY(!window.editor());
+    QCOMPARE(property->value(), QVariant(3.5));
+    QVERIFY(window.message()->isVisible());
+}
+
+void tst_PropertyEditing::aSinglePrecisionNumberFitsAFloat_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<double>("value");
+    QTest::addColumn<QString>("sentence");
+    const QString tooLarge =
+        QStringLiteral("The number is too large: the data type ends at 3.4028235e38.");
+    const QString tooSmall =
+        QStringLiteral("The number is too small: in this data type it would become 0.");
+    constexpr double largest = std::numeric_limits<float>::max();
+    QTest::newRow("the largest as shown") << "3.4028235e+38" << largest << QString();
+    QTest::newRow("too large") << "1e39" << 3.5 << tooLarge;
+    QTest::newRow("too small") << "1e-50" << 3.5 << tooSmall;
+}
+
+void tst_PropertyEditing::aSinglePrecisionNumberFitsAFloat()
+{
+    QFETCH(QString, typed);
+    QFETCH(double, value);
+    QFETCH(QString, sentence);
+    Window window;
+    QtVariantProperty *property = window.add(QStringLiteral("StrVal"), 3.5);
+    property->setSinglePrecision(true);
+    QVERIFY(window.showActive());
+    retype(window.open(0), typed);
+    QTest::keyClick(window.editor(), Qt::Key_Return);
+    QCoreApplication::processEvents();
+    QCOMPARE(window.message()->text(), sentence);
+    QVERIFY(property->value().toDouble() == value);
 }
 
 void tst_PropertyEditing::aTextIsEdited()

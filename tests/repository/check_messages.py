@@ -17,6 +17,7 @@ SENTENCES = [
     "apps/workbench/devicestore.cpp",
     "apps/workbench/embeddeddriver.cpp",
     "apps/workbench/extensionloader.cpp",
+    "sdk/propertybrowser/numberguard.cpp",
     "sdk/propertybrowser/propertyeditors.cpp",
     "sdk/remoteclient/iec61850controllerinterface.cpp",
 ]
