@@ -19,13 +19,15 @@ std::string onDevice(const QString &name);
 
 /// What the device listed in @p directory (as the tool wrote it), so that directory and name joined
 /// without anything between them are the name of the entry: directories end in a backslash, and
-/// every name begins with one where the directory is not empty and does not end in one. Files that
-/// do not fit @p pattern are left out; "*.*" fits all.
+/// every name begins with one where the directory is not empty and does not end in one; for an
+/// empty file, which would be taken for a directory then, another slash takes its place. Apart from
+/// that a name has no separator of any system in it. Files that do not fit @p pattern are left out;
+/// "*.*" fits all.
 QList<MMSFileEntry> entries(const QString &pattern, const QString &directory,
                             const std::vector<acsi::FileEntry> &listed);
 
 /// Seconds since 1970-01-01 00:00 UTC of a generalized time ("20210304050607.123Z", a difference
-/// from UTC included); 0 for one that cannot be told.
+/// from UTC included, minutes and seconds not necessarily); 0 for one that cannot be told.
 quint32 secondsOf(const std::string &generalizedTime);
 
 /// The name under which a file is sent: a target that is empty or a directory is given the name of

@@ -53,11 +53,18 @@ public:
         std::set<asio::steady_timer *> waiting;
     };
 
-    explicit FilePart(DeviceConnection &) {}
+    explicit FilePart(DeviceConnection &connection)
+        : m_connection(connection)
+    {
+    }
 
     const std::shared_ptr<Queue> &queue() const { return m_queue; }
 
+    /// Files are open for an association.
+    void closed(const QString &) override { m_connection.setProblem(QStringLiteral("files"), {}); }
+
 private:
+    DeviceConnection &m_connection;
     std::shared_ptr<Queue> m_queue = std::make_shared<Queue>();
 };
 
@@ -169,8 +176,15 @@ asio::awaitable<Outcome> fetch(DevicePointer device, QString name,
                             static_cast<int>(block.size()));
         return !isTooLarge;
     };
+    QString notClosed;
+    const auto keep = [&notClosed](const std::string &reason) { notClosed = text(reason); };
     const auto fetched =
-        co_await acsi::download(device->client(), FileNames::onDevice(name), take, announced);
+        co_await acsi::download(device->client(), FileNames::onDevice(name), take, announced, keep);
+    device->setProblem(QStringLiteral("files"),
+                       notClosed.isEmpty()
+                           ? QString()
+                           : Texts::tr("%1 stays open on the device, which has few open files: %2")
+                                 .arg(name, notClosed));
     if (isTooLarge) {
         content->clear();
         co_return Outcome::failed(Texts::tr("%1 is too large: at most %2 octets can be fetched.")

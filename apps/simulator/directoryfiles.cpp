@@ -333,8 +333,13 @@ std::optional<mms::FileAttributes> DirectoryFiles::attributesOf(const fs::path &
             std::min<std::uintmax_t>(size, std::numeric_limits<std::uint32_t>::max()));
     }
     const auto time = fs::last_write_time(path, error);
-    if (!error)
-        attributes.lastModified = generalizedTime(time);
+    if (!error) {
+        std::string text = generalizedTime(time);
+        constexpr std::size_t withoutSeconds = 12;
+        if (m_options.oddities.shortTimes)
+            text = text.substr(0, withoutSeconds) + 'Z';
+        attributes.lastModified = std::move(text);
+    }
     return attributes;
 }
 
@@ -354,6 +359,10 @@ void DirectoryFiles::open(Client &client, const mms::FileOpenRequest &request, A
     }
     if (fs::is_directory(path, ignored)) {
         answer(fileError(mms::serviceerrors::fileAccessDenied, "it is a directory"));
+        return;
+    }
+    if (m_options.oddities.unreadableFiles) {
+        answer(fileError(0));
         return;
     }
     if (request.position > attributes->size) {
@@ -376,6 +385,8 @@ void DirectoryFiles::open(Client &client, const mms::FileOpenRequest &request, A
         answer(fileError(lastError()));
         return;
     }
+    if (m_options.oddities.cutFiles)
+        file.left /= 2;
     ++m_lastId;
     m_open.emplace(m_lastId, std::move(file));
     answer(mms::ResponseService(mms::FileOpenResponse{m_lastId, *attributes}));
@@ -413,7 +424,10 @@ void DirectoryFiles::close(Client &client, const mms::FileCloseRequest &request,
         return;
     }
     m_open.erase(found);
-    answer(mms::ResponseService(mms::FileCloseResponse()));
+    if (m_options.oddities.refusedClose)
+        answer(fileError(0));
+    else
+        answer(mms::ResponseService(mms::FileCloseResponse()));
 }
 
 std::set<std::string> DirectoryFiles::namesBelow(const Place &place) const
@@ -463,6 +477,12 @@ void DirectoryFiles::directory(Client &client, const mms::FileDirectoryRequest &
         names.insert(place.name);
     } else {
         answer(fileError(mms::serviceerrors::fileNonExistent));
+        return;
+    }
+    if (m_options.oddities.emptyPages && !std::exchange(m_lastPageWasEmpty, !m_lastPageWasEmpty)) {
+        mms::FileDirectoryResponse empty;
+        empty.moreFollows = true;
+        answer(mms::ResponseService(std::move(empty)));
         return;
     }
     auto next = names.begin();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "simulator/fileservice.h"
+#include "simulator/oddities.h"
 
 #include "mms/result.h"
 
@@ -37,6 +38,8 @@ struct FileOptions
     bool readOnly = false;
     /// For each answer of a client that a file is fetched from.
     std::chrono::milliseconds callTimeout{10000};
+    /// Those of files.
+    Oddities oddities;
 };
 
 /// Serves the files of a directory of this machine. Nothing outside of it can be reached: neither
@@ -108,6 +111,7 @@ private:
     std::int32_t m_lastId = 0;
     std::uint64_t m_lastTemporary = 0;
     std::set<std::shared_ptr<Upload>> m_uploads;
+    bool m_lastPageWasEmpty = false;
 };
 
 } // namespace sim

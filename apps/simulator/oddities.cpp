@@ -23,6 +23,15 @@ constexpr std::array cases = {
     // Setting groups
 
     // Files
+    OddityCase{"unreadable-files",
+               "Files are listed, but opening one is refused with the cause \"other\".",
+               &Oddities::unreadableFiles},
+    OddityCase{"empty-pages", "Lists of files begin with pages without an entry.",
+               &Oddities::emptyPages},
+    OddityCase{"short-times", "The times of files have no seconds.", &Oddities::shortTimes},
+    OddityCase{"cut-files", "Files end after half of the octets that were announced.",
+               &Oddities::cutFiles},
+    OddityCase{"refused-close", "Closing a file is refused.", &Oddities::refusedClose},
 
     // Associations
 };

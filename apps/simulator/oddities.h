@@ -28,6 +28,12 @@ struct Oddities
 
     // Files
 
+    bool unreadableFiles = false;
+    bool emptyPages = false;
+    bool shortTimes = false;
+    bool cutFiles = false;
+    bool refusedClose = false;
+
     // Associations
 };
 

@@ -97,7 +97,9 @@ mms::Result<SimulatedDevice> simulate(asio::any_io_executor executor, const scl:
         link.tls = options.tls;
     }
     if (options.files) {
-        auto files = DirectoryFiles::create(*options.files);
+        FileOptions served = *options.files;
+        served.oddities = options.oddities;
+        auto files = DirectoryFiles::create(std::move(served));
         if (!files)
             return std::move(files).error();
         device.files = *files;

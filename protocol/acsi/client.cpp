@@ -231,8 +231,16 @@ mms::Association::Handlers Client::handlers()
     result.request = [weak](const std::shared_ptr<mms::Association> &association,
                             std::uint32_t invokeId, const mms::RequestService &request) {
         const auto self = weak.lock();
-        if (!self || !offer(self->m_requestHandlers, invokeId, request))
+        if (self && offer(self->m_requestHandlers, invokeId, request))
+            return;
+        // Files are served, though not this one.
+        if (std::holds_alternative<mms::FileOpenRequest>(request)) {
+            association->fail(
+                invokeId,
+                {mms::ErrorClass::File, mms::serviceerrors::fileNonExistent, {}, {}, {}});
+        } else {
             association->reject(invokeId, mms::rejectcodes::requestUnrecognizedService);
+        }
     };
     result.report = [weak](const mms::InformationReport &report) {
         const auto self = weak.lock();

@@ -19,6 +19,30 @@ std::string withBackslashes(std::string name)
     return name;
 }
 
+/// The name in the octets of ISO 8859-1; none when it has characters that are not there, or is no
+/// UTF-8. Many devices know no other octets, and a name of theirs is shown by them.
+std::optional<std::string> inLatin1(const std::string &name)
+{
+    std::string result;
+    bool isOther = false;
+    for (std::size_t i = 0; i < name.size(); ++i) {
+        const auto octet = static_cast<unsigned char>(name[i]);
+        if (octet < 0x80) {
+            result += name[i];
+            continue;
+        }
+        // U+0080 to U+00FF are C2 or C3 and one octet more.
+        if ((octet != 0xC2 && octet != 0xC3) || i + 1 == name.size() ||
+            (static_cast<unsigned char>(name[i + 1]) & 0xC0U) != 0x80U)
+            return std::nullopt;
+        ++i;
+        result += static_cast<char>(((octet & 0x03U) << 6U) |
+                                    (static_cast<unsigned char>(name[i]) & 0x3FU));
+        isOther = true;
+    }
+    return isOther ? std::optional<std::string>(std::move(result)) : std::nullopt;
+}
+
 template <typename T>
 void addOnce(std::vector<T> &list, T value)
 {
@@ -57,6 +81,10 @@ std::vector<std::string> spellingsOf(const std::string &name)
     addOnce(result, '/' + plain);
     addOnce(result, withBackslashes(plain));
     addOnce(result, withBackslashes('/' + plain));
+    if (const auto octets = inLatin1(name)) {
+        for (std::string &spelling : spellingsOf(*octets))
+            addOnce(result, std::move(spelling));
+    }
     return result;
 }
 
@@ -70,6 +98,10 @@ std::vector<std::optional<std::string>> directorySpellingsOf(const std::string &
     std::vector<std::optional<std::string>> result{plain + '/', plain, '/' + plain + '/'};
     addOnce<std::optional<std::string>>(result, withBackslashes(plain + '/'));
     addOnce<std::optional<std::string>>(result, withBackslashes('/' + plain));
+    if (const auto octets = inLatin1(plain)) {
+        for (std::optional<std::string> &spelling : directorySpellingsOf(*octets))
+            addOnce(result, std::move(spelling));
+    }
     return result;
 }
 

@@ -17,7 +17,7 @@ std::string plainName(const mms::FileName &name);
 std::string plainName(std::string_view name);
 
 /// How peers may want a file to be called: first as given, then with and without a leading
-/// separator, then with the other separator.
+/// separator, then with the other separator; then the same in the octets of ISO 8859-1.
 std::vector<std::string> spellingsOf(const std::string &name);
 /// The same for a directory; nothing stands for the root.
 std::vector<std::optional<std::string>> directorySpellingsOf(const std::string &directory);

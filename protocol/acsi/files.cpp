@@ -2,7 +2,13 @@
 #include "acsi/files.h"
 
 #include "acsi/callgroup.h"
+#include "acsi/filecalls.h"
 #include "acsi/filenames.h"
+
+#include <asio/experimental/as_tuple.hpp>
+#include <asio/steady_timer.hpp>
+#include <asio/this_coro.hpp>
+#include <asio/use_awaitable.hpp>
 
 #include <algorithm>
 #include <map>
@@ -13,6 +19,9 @@ namespace {
 
 constexpr std::size_t maxEntries = 1000000;
 constexpr int maxEmptyBlocks = 16;
+constexpr int maxEmptyPages = 16;
+/// How long the answer to an open is waited for after nobody wants the file any more.
+constexpr std::chrono::seconds latePatience{60};
 
 mms::Error errorOf(const mms::CallOutcome &outcome)
 {
@@ -38,6 +47,7 @@ asio::awaitable<Listing> listPages(std::shared_ptr<Client> client,
     mms::FileDirectoryRequest request;
     if (specification)
         request.specification = mms::FileName{*specification};
+    int emptyPages = 0;
     for (;;) {
         mms::CallOutcome outcome = co_await client->call(request);
         auto *service = std::get_if<mms::ResponseService>(&outcome);
@@ -46,38 +56,45 @@ asio::awaitable<Listing> listPages(std::shared_ptr<Client> client,
             listing.failure = std::move(outcome);
             co_return listing;
         }
-        const bool more = page->moreFollows && !page->entries.empty();
+        emptyPages = page->entries.empty() ? emptyPages + 1 : 0;
+        const bool isSame =
+            !page->entries.empty() && request.continueAfter == page->entries.back().name;
         std::ranges::move(page->entries, std::back_inserter(listing.entries));
-        if (!more)
+        if (!page->moreFollows)
             co_return listing;
         // A peer that does not get further, or never ends, must not keep anybody busy.
-        if (request.continueAfter == listing.entries.back().name ||
-            listing.entries.size() > maxEntries) {
+        if (isSame || emptyPages > maxEmptyPages || listing.entries.size() > maxEntries) {
             listing.failure = mms::CallFailure{mms::CallFailure::Kind::Malformed,
                                                "The device lists its files without an end."};
             co_return listing;
         }
-        request.continueAfter = listing.entries.back().name;
+        if (!listing.entries.empty())
+            request.continueAfter = listing.entries.back().name;
     }
 }
 
-/// Calls a service with each spelling of a name until the peer knows the name.
+/// The answer in the spelling that the peer knows, or one sentence that names the file.
 template <typename Response>
 asio::awaitable<mms::Result<Response>>
 askBySpelling(std::shared_ptr<Client> client, std::string name,
               std::function<mms::RequestService(const std::string &spelling)> requestFor)
 {
-    std::optional<mms::Error> first;
-    for (const std::string &spelling : spellingsOf(name)) {
-        const mms::CallOutcome outcome = co_await client->call(requestFor(spelling));
-        if (const auto *response = mms::answerOf<Response>(outcome))
-            co_return *response;
-        if (!first)
-            first = mms::Error{name + ": " + errorOf(outcome).message, 0};
-        if (!isUnknownName(outcome))
-            break;
-    }
-    co_return *first;
+    const mms::CallOutcome outcome =
+        co_await callBySpelling(std::move(client), name, std::move(requestFor));
+    if (const auto *response = mms::answerOf<Response>(outcome))
+        co_return *response;
+    co_return mms::Error{name + ": " + errorOf(outcome).message, 0};
+}
+
+/// How much a refusal tells: one for another reason than the name more than that there is no such
+/// file, and that more than that the name is written wrongly.
+int weight(const mms::CallOutcome &outcome)
+{
+    const auto *error = std::get_if<mms::ServiceError>(&outcome);
+    if (!error || error->errorClass != mms::ErrorClass::File)
+        return 1;
+    using namespace mms::serviceerrors;
+    return error->code == 0 ? 2 : error->code == fileNonExistent ? 1 : 0;
 }
 
 /// Reads an open file with several requests on the way, and gives its blocks in order.
@@ -184,7 +201,99 @@ private:
     std::optional<mms::Error> m_error;
 };
 
+mms::FileRenameRequest renameRequest(const std::string &from, const std::string &to,
+                                     const std::string &spelling)
+{
+    // Both names in the same manner, where there is one for both.
+    const std::vector<std::string> targets = spellingsOf(to);
+    const std::vector<std::string> sources = spellingsOf(from);
+    const auto manner =
+        static_cast<std::size_t>(std::ranges::find(sources, spelling) - sources.begin());
+    mms::FileRenameRequest request;
+    request.currentName = {spelling};
+    request.newName = {targets[std::min(manner, targets.size() - 1)]};
+    return request;
+}
+
 } // namespace
+
+asio::awaitable<mms::CallOutcome>
+callBySpelling(std::shared_ptr<Client> client, std::string name,
+               std::function<mms::RequestService(const std::string &spelling)> requestFor)
+{
+    std::optional<mms::CallOutcome> telling;
+    for (const std::string &spelling : spellingsOf(name)) {
+        const mms::RequestService request = requestFor(spelling);
+        const auto *open = std::get_if<mms::FileOpenRequest>(&request);
+        mms::CallOutcome outcome;
+        if (open)
+            outcome = co_await openFile(client, *open);
+        else
+            outcome = co_await client->call(request);
+        if (!isUnknownName(outcome))
+            co_return outcome;
+        if (!telling || weight(outcome) > weight(*telling))
+            telling = std::move(outcome);
+    }
+    co_return std::move(*telling);
+}
+
+asio::awaitable<mms::CallOutcome> openFile(std::shared_ptr<Client> client,
+                                           mms::FileOpenRequest request)
+{
+    struct State
+    {
+        asio::steady_timer wake;
+        std::optional<mms::CallOutcome> outcome;
+        bool isWaitedFor = true;
+    };
+    using Clock = std::chrono::steady_clock;
+    using Failure = mms::CallFailure;
+    if (!client->isOpen())
+        co_return Failure{Failure::Kind::NotOpen, client->closeReason()};
+    const std::chrono::milliseconds patience = client->options().callTimeout;
+    // A peer that takes one call at a time would have to wait with everything else meanwhile.
+    const bool mayComeLate = client->association().negotiated().maxOutstandingCalling > 1;
+    const auto state = std::make_shared<State>(State{asio::steady_timer(client->strand()), {}});
+    const auto handler = [state, weak = std::weak_ptr<Client>(client)](mms::CallOutcome outcome) {
+        if (state->isWaitedFor) {
+            state->outcome = std::move(outcome);
+            state->wake.cancel();
+            return;
+        }
+        const auto *opened = mms::answerOf<mms::FileOpenResponse>(outcome);
+        const auto self = weak.lock();
+        if (!opened || !self || !self->isOpen())
+            return;
+        mms::FileCloseRequest close;
+        close.frsmId = opened->frsmId;
+        self->association().call(close, self->options().callTimeout,
+                                 [](const mms::CallOutcome &) {});
+    };
+    client->association().call(request, mayComeLate ? patience + latePatience : patience, handler);
+    const Clock::time_point deadline = Clock::now() + patience;
+    bool isCancelled = false;
+    while (!state->outcome && !isCancelled && (!mayComeLate || Clock::now() < deadline)) {
+        state->wake.expires_at(mayComeLate ? deadline : Clock::time_point::max());
+        co_await state->wake.async_wait(asio::experimental::as_tuple(asio::use_awaitable));
+        const auto cancellation = co_await asio::this_coro::cancellation_state;
+        isCancelled = cancellation.cancelled() != asio::cancellation_type::none;
+    }
+    if (state->outcome)
+        co_return std::move(*state->outcome);
+    state->isWaitedFor = false;
+    if (isCancelled)
+        co_return Failure{Failure::Kind::Cancelled, "The call was cancelled."};
+    co_return Failure{Failure::Kind::TimedOut, "The peer did not answer in time."};
+}
+
+asio::awaitable<mms::CallOutcome> renameCall(std::shared_ptr<Client> client, std::string from,
+                                             std::string to)
+{
+    const std::function<mms::RequestService(const std::string &)> requestFor =
+        [from, to](const std::string &spelling) { return renameRequest(from, to, spelling); };
+    co_return co_await callBySpelling(std::move(client), from, requestFor);
+}
 
 asio::awaitable<mms::Result<std::vector<FileEntry>>> listDirectory(std::shared_ptr<Client> client,
                                                                    std::string directory)
@@ -200,7 +309,8 @@ asio::awaitable<mms::Result<std::vector<FileEntry>>> listDirectory(std::shared_p
                 co_return *firstError;
             continue;
         }
-        auto entries = oneLevel(directory, listing.entries);
+        // A name that is spelled in other octets is found by those.
+        auto entries = oneLevel(spelling.value_or(std::string()), listing.entries);
         if (!entries.empty())
             co_return entries;
         answered = true;
@@ -213,7 +323,8 @@ asio::awaitable<mms::Result<std::vector<FileEntry>>> listDirectory(std::shared_p
 asio::awaitable<mms::Result<std::uint64_t>>
 download(std::shared_ptr<Client> client, std::string name,
          std::function<bool(std::span<const std::uint8_t>)> sink,
-         std::function<void(std::uint32_t)> announced)
+         std::function<void(std::uint32_t)> announced,
+         std::function<void(const std::string &)> notClosed)
 {
     const auto opened = co_await askBySpelling<mms::FileOpenResponse>(
         client, name, [](const std::string &spelling) {
@@ -228,9 +339,16 @@ download(std::shared_ptr<Client> client, std::string name,
     auto received = co_await BlockReader(client, *opened, std::move(sink)).read();
     mms::FileCloseRequest close;
     close.frsmId = opened->frsmId;
-    static_cast<void>(co_await client->call(close));
+    const mms::CallOutcome closed = co_await client->call(close);
+    if (notClosed && !isLost(closed) && !mms::answerOf<mms::FileCloseResponse>(closed))
+        notClosed(errorOf(closed).message);
     if (!received)
         co_return mms::Error{name + ": " + received.error().message, 0};
+    if (*received < opened->attributes.size) {
+        co_return mms::Error{name + ": The file ended after " + std::to_string(*received) + " of " +
+                                 std::to_string(opened->attributes.size) + " octets.",
+                             0};
+    }
     co_return received;
 }
 
@@ -250,20 +368,9 @@ asio::awaitable<mms::Result<void>> deleteFile(std::shared_ptr<Client> client, st
 asio::awaitable<mms::Result<void>> renameFile(std::shared_ptr<Client> client, std::string from,
                                               std::string to)
 {
-    const std::vector<std::string> targets = spellingsOf(to);
-    const std::vector<std::string> sources = spellingsOf(from);
-    const auto renamed = co_await askBySpelling<mms::FileRenameResponse>(
-        std::move(client), from, [&](const std::string &spelling) {
-            // Both names in the same manner, where there is one for both.
-            const auto manner =
-                static_cast<std::size_t>(std::ranges::find(sources, spelling) - sources.begin());
-            mms::FileRenameRequest request;
-            request.currentName = {spelling};
-            request.newName = {targets[std::min(manner, targets.size() - 1)]};
-            return request;
-        });
-    if (!renamed)
-        co_return renamed.error();
+    const mms::CallOutcome renamed = co_await renameCall(std::move(client), from, std::move(to));
+    if (!mms::answerOf<mms::FileRenameResponse>(renamed))
+        co_return mms::Error{from + ": " + errorOf(renamed).message, 0};
     co_return mms::Result<void>();
 }
 

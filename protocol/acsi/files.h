@@ -35,11 +35,14 @@ asio::awaitable<mms::Result<std::vector<FileEntry>>> listDirectory(std::shared_p
 /// Reads a file in blocks; @p sink gets them in order and returns false to stop. The file of the
 /// peer is closed in every case. Opens the name as given, then with and without a leading
 /// separator, then with backslashes. Reports the size that the peer announces first. Gives the
-/// octets that were read. Up to ClientOptions::outstandingFileReads blocks are asked for at a time.
+/// octets that were read; fewer than announced are an error. Up to
+/// ClientOptions::outstandingFileReads blocks are asked for at a time. @p notClosed hears why the
+/// peer refused to close the file.
 asio::awaitable<mms::Result<std::uint64_t>>
 download(std::shared_ptr<Client> client, std::string name,
          std::function<bool(std::span<const std::uint8_t> block)> sink,
-         std::function<void(std::uint32_t size)> announced = {});
+         std::function<void(std::uint32_t size)> announced = {},
+         std::function<void(const std::string &reason)> notClosed = {});
 
 /// A file that this side offers. read() fills @p block from @p position, never beyond the size, and
 /// answers how many octets it gave, or an error; fewer than asked for are an error as well. It is
@@ -58,9 +61,11 @@ struct FileSource
 ///
 /// An existing file is replaced by way of another name (".upload" behind it), so that one of the
 /// two versions is whole at any time: the new one is renamed, or fetched once more where the peer
-/// cannot rename. A peer that takes no other name replaces the file in place; where it refuses that
-/// because the file exists, the old file is deleted first. The error says what is left. A half file
-/// is deleted where the peer can.
+/// cannot rename. A file that has that other name already is not touched: nothing is done then. A
+/// peer that takes no other name replaces the file in place; where it refuses that because the file
+/// exists, the old file is deleted first. A half file is deleted where the peer refused the rest of
+/// it, never after a request without an answer. The error says what is left, or what is not known
+/// and which names to look at.
 asio::awaitable<mms::Result<void>> upload(std::shared_ptr<Client> client, std::string name,
                                           FileSource source);
 

@@ -78,9 +78,11 @@ std::optional<OfferedFile::Answer> OfferedFile::answer(const mms::FileReadReques
         if (*count != response.data.size())
             return fail({"The file became shorter while it was read.", 0});
     }
+    // What is read behind a gap does not count.
+    if (position <= m_given)
+        m_given = std::max(m_given, position + response.data.size());
     position += response.data.size();
     response.moreFollows = position < m_source.size;
-    m_given = std::max(m_given, position);
     if (!response.moreFollows)
         m_complete = true;
     return response;

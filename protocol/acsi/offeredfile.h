@@ -28,8 +28,8 @@ public:
 
     bool wasOpened() const { return m_opened; }
     /// The peer got everything, from the beginning to the end.
-    bool isComplete() const { return m_complete && !m_error; }
-    /// The furthest that the peer has read, in octets.
+    bool isComplete() const { return m_complete && m_given >= m_source.size && !m_error; }
+    /// How far the peer has read without a gap from the beginning, in octets.
     std::uint64_t given() const { return m_given; }
     std::uint32_t size() const { return m_source.size; }
     /// Why the file could not be read here.

@@ -2,8 +2,10 @@
 #include "acsi/files.h"
 
 #include "acsi/callgroup.h"
+#include "acsi/filecalls.h"
 #include "acsi/filenames.h"
 #include "acsi/offeredfile.h"
+#include "acsi/uploadsteps.h"
 
 #include <asio/this_coro.hpp>
 
@@ -17,19 +19,44 @@ namespace {
 constexpr std::size_t blockFrame = 64;
 /// How long a file may take as long as the peer goes on fetching it.
 constexpr std::chrono::hours wholeTime{24};
-constexpr std::string_view temporaryEnding = ".upload";
 
-/// How one try to have the peer fetch the file ended.
-struct Attempt
+UploadSteps::Answer answerFrom(const mms::CallOutcome &outcome)
 {
-    bool ok = false;
-    /// The peer began to fetch, so that there may be a part of the file.
-    bool begun = false;
-    /// The peer has a file of that name and keeps it.
-    bool duplicate = false;
-    mms::Error error;
-};
+    using Kind = UploadSteps::Answer::Kind;
+    UploadSteps::Answer answer;
+    answer.text = mms::failureText(outcome);
+    answer.kind = Kind::Refused;
+    if (const auto *error = std::get_if<mms::ServiceError>(&outcome)) {
+        answer.errorClass = error->errorClass;
+        answer.code = error->code;
+    } else if (const auto *failure = std::get_if<mms::CallFailure>(&outcome)) {
+        switch (failure->kind) {
+        case mms::CallFailure::Kind::NotOpen:
+        case mms::CallFailure::Kind::Lost:
+            answer.kind = Kind::Lost;
+            break;
+        case mms::CallFailure::Kind::TimedOut:
+        case mms::CallFailure::Kind::Cancelled:
+        case mms::CallFailure::Kind::Malformed:
+            answer.kind = Kind::Silent;
+            break;
+        case mms::CallFailure::Kind::TooLarge:
+            break;
+        }
+    }
+    return answer;
+}
 
+template <typename Response>
+UploadSteps::Answer stepAnswer(const mms::CallOutcome &outcome)
+{
+    UploadSteps::Answer answer = answerFrom(outcome);
+    if (mms::answerOf<Response>(outcome))
+        answer.kind = UploadSteps::Answer::Kind::Done;
+    return answer;
+}
+
+/// Carries out the steps.
 class Upload
 {
 public:
@@ -42,113 +69,95 @@ public:
 
     asio::awaitable<mms::Result<void>> run()
     {
-        const auto exists = co_await probe();
-        if (!exists)
-            co_return exists.error();
-        if (*exists)
-            co_return co_await replace();
-        const Attempt attempt = co_await fetch(m_name);
-        if (attempt.ok)
-            co_return mms::Result<void>();
-        if (attempt.begun)
-            co_await remove(m_name);
-        co_return named(attempt.error);
+        UploadSteps steps(m_name, m_source.size);
+        while (steps.next()) {
+            const UploadSteps::Request request = *steps.next();
+            UploadSteps::Answer answer;
+            switch (request.kind) {
+            case UploadSteps::Request::Kind::Open:
+                answer = co_await open(request.name);
+                break;
+            case UploadSteps::Request::Kind::List:
+                answer = co_await list(request.name);
+                break;
+            case UploadSteps::Request::Kind::Fetch:
+                answer = co_await fetch(request.name);
+                break;
+            case UploadSteps::Request::Kind::Delete:
+                answer = co_await remove(request.name);
+                break;
+            case UploadSteps::Request::Kind::Rename:
+                answer = stepAnswer<mms::FileRenameResponse>(
+                    co_await renameCall(m_client, request.name, request.newName));
+                break;
+            }
+            steps.take(answer);
+        }
+        co_return steps.result();
     }
 
 private:
-    mms::Error named(const mms::Error &error) const { return {m_name + ": " + error.message, 0}; }
-
-    asio::awaitable<bool> remove(std::string name)
+    asio::awaitable<UploadSteps::Answer> open(std::string name)
     {
-        const auto removed = co_await deleteFile(m_client, std::move(name));
-        co_return removed.ok();
+        const mms::CallOutcome outcome =
+            co_await callBySpelling(m_client, std::move(name), [](const std::string &spelling) {
+                mms::FileOpenRequest request;
+                request.name = {spelling};
+                return request;
+            });
+        UploadSteps::Answer answer = stepAnswer<mms::FileOpenResponse>(outcome);
+        if (const auto *opened = mms::answerOf<mms::FileOpenResponse>(outcome)) {
+            answer.size = opened->attributes.size;
+            mms::FileCloseRequest close;
+            close.frsmId = opened->frsmId;
+            static_cast<void>(co_await m_client->call(close));
+        }
+        co_return answer;
     }
 
-    /// Whether the peer has a file of the name; true as well when it does not say.
-    asio::awaitable<mms::Result<bool>> probe()
+    asio::awaitable<UploadSteps::Answer> list(std::string name)
     {
-        for (const std::string &spelling : spellingsOf(m_name)) {
-            mms::FileOpenRequest open;
-            open.name = {spelling};
-            const mms::CallOutcome outcome = co_await m_client->call(open);
-            if (const auto *opened = mms::answerOf<mms::FileOpenResponse>(outcome)) {
-                mms::FileCloseRequest close;
-                close.frsmId = opened->frsmId;
-                static_cast<void>(co_await m_client->call(close));
-                co_return true;
-            }
-            if (std::holds_alternative<mms::CallFailure>(outcome))
-                co_return named({mms::failureText(outcome), 0});
-            if (!isUnknownName(outcome))
-                co_return !std::holds_alternative<mms::RejectPdu>(outcome);
+        const std::string plain = plainName(std::string_view(name));
+        const std::size_t separator = plain.rfind('/');
+        const bool isInRoot = separator == std::string::npos;
+        const std::string directory = isInRoot ? std::string() : plain.substr(0, separator + 1);
+        const std::string wanted = isInRoot ? plain : plain.substr(separator + 1);
+        const auto entries = co_await listDirectory(m_client, directory);
+        UploadSteps::Answer answer;
+        if (!entries) {
+            answer.text = entries.error().message;
+            answer.kind = m_client->isOpen() ? UploadSteps::Answer::Kind::Refused
+                                             : UploadSteps::Answer::Kind::Lost;
+            co_return answer;
         }
-        co_return false;
+        for (const FileEntry &entry : *entries) {
+            if (entry.name == wanted)
+                answer.size = entry.size;
+        }
+        co_return answer;
     }
 
-    /// The new version goes to another name first, so that one version is whole at any time.
-    asio::awaitable<mms::Result<void>> replace()
+    asio::awaitable<UploadSteps::Answer> remove(std::string name)
     {
-        const std::string temporary = m_name + std::string(temporaryEnding);
-        co_await remove(temporary);
-        const Attempt first = co_await fetch(temporary);
-        if (!first.ok) {
-            if (!first.begun)
-                co_return co_await replaceInPlace();
-            co_await remove(temporary);
-            co_return mms::Error{named(first.error).message + " The old file is still there.", 0};
-        }
-        if ((co_await renameFile(m_client, temporary, m_name)).ok())
-            co_return mms::Result<void>();
-        const bool removed = co_await remove(m_name);
-        if ((co_await renameFile(m_client, temporary, m_name)).ok())
-            co_return mms::Result<void>();
-        const Attempt second = co_await fetch(m_name);
-        if (second.ok) {
-            co_await remove(temporary);
-            co_return mms::Result<void>();
-        }
-        if (!removed && !second.begun) {
-            co_await remove(temporary);
-            co_return mms::Error{named(second.error).message + " The old file is still there.", 0};
-        }
-        if (second.begun)
-            co_await remove(m_name);
-        co_return mms::Error{named(second.error).message + " The new file is in the device as " +
-                                 temporary + ".",
-                             0};
+        const mms::CallOutcome outcome =
+            co_await callBySpelling(m_client, std::move(name), [](const std::string &spelling) {
+                mms::FileDeleteRequest request;
+                request.name = {spelling};
+                return request;
+            });
+        co_return stepAnswer<mms::FileDeleteResponse>(outcome);
     }
 
-    /// For peers that take no other name.
-    asio::awaitable<mms::Result<void>> replaceInPlace()
+    asio::awaitable<UploadSteps::Answer> fetch(std::string destination)
     {
-        Attempt attempt = co_await fetch(m_name);
-        if (attempt.ok)
-            co_return mms::Result<void>();
-        if (attempt.begun)
-            co_return mms::Error{
-                named(attempt.error).message + " The file in the device may be incomplete.", 0};
-        if (!attempt.duplicate || !co_await remove(m_name))
-            co_return mms::Error{named(attempt.error).message + " The old file is still there.", 0};
-        attempt = co_await fetch(m_name);
-        if (attempt.ok)
-            co_return mms::Result<void>();
-        if (attempt.begun)
-            co_await remove(m_name);
-        co_return mms::Error{named(attempt.error).message +
-                                 " The old file had to be deleted before and is lost.",
-                             0};
-    }
-
-    asio::awaitable<Attempt> fetch(std::string destination)
-    {
-        Attempt attempt;
+        UploadSteps::Answer answer;
         for (const std::string &spelling : spellingsOf(destination)) {
             bool unknownName = false;
-            attempt = co_await fetchAs(spelling, unknownName);
-            if (attempt.ok || attempt.begun || !unknownName)
+            answer = co_await fetchAs(spelling, unknownName);
+            if (answer.kind == UploadSteps::Answer::Kind::Done || answer.begun || !unknownName)
                 break;
         }
-        co_return attempt;
+        co_return answer;
     }
 
     /// Removes the handler when a coroutine ends, however it does.
@@ -190,7 +199,7 @@ private:
         std::chrono::steady_clock::time_point m_lastRequest = std::chrono::steady_clock::now();
     };
 
-    asio::awaitable<Attempt> fetchAs(std::string destination, bool &unknownName)
+    asio::awaitable<UploadSteps::Answer> fetchAs(std::string destination, bool &unknownName)
     {
         const std::size_t pduSize = m_client->association().pduSize();
         OfferedFile file(m_name, m_source, pduSize - std::min(pduSize / 2, blockFrame));
@@ -210,20 +219,20 @@ private:
                      service.patience() == std::chrono::milliseconds(0))
                 break;
         }
-        Attempt attempt;
-        attempt.begun = file.wasOpened();
-        attempt.ok =
-            outcome && mms::answerOf<mms::ObtainFileResponse>(*outcome) && file.isComplete();
-        if (attempt.ok)
-            co_return attempt;
-        if (outcome) {
-            unknownName = isUnknownName(*outcome);
-            const auto *error = std::get_if<mms::ServiceError>(&*outcome);
-            attempt.duplicate = error && error->errorClass == mms::ErrorClass::File &&
-                                error->code == mms::serviceerrors::fileDuplicateName;
+        UploadSteps::Answer answer;
+        if (outcome)
+            answer = answerFrom(*outcome);
+        else
+            answer.kind = UploadSteps::Answer::Kind::Silent;
+        answer.begun = file.wasOpened();
+        const bool isDone = outcome && mms::answerOf<mms::ObtainFileResponse>(*outcome);
+        if (isDone && file.isComplete()) {
+            answer.kind = UploadSteps::Answer::Kind::Done;
+            co_return answer;
         }
-        attempt.error = failure(file, outcome);
-        co_return attempt;
+        unknownName = outcome && isUnknownName(*outcome);
+        answer.text = failure(file, outcome).message;
+        co_return answer;
     }
 
     static mms::Error failure(const OfferedFile &file,
@@ -251,8 +260,8 @@ private:
 asio::awaitable<mms::Result<void>> upload(std::shared_ptr<Client> client, std::string name,
                                           FileSource source)
 {
-    Upload upload(std::move(client), std::move(name), std::move(source));
-    co_return co_await upload.run();
+    Upload transfer(std::move(client), std::move(name), std::move(source));
+    co_return co_await transfer.run();
 }
 
 } // namespace acsi

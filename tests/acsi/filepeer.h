@@ -44,6 +44,20 @@ public:
         bool claimsSuccessThen = false;
         /// Only of the fetches from this one on, counted from 1.
         int limitedFrom = 1;
+        /// Where it begins to fetch.
+        std::uint32_t fetchFrom = 0;
+        /// Codes of class FILE with which files that are there are refused.
+        std::map<std::string, std::int32_t> refusedOpens;
+        /// Renames and deletes files, but does not say so.
+        bool silentRename = false;
+        bool silentDelete = false;
+        /// Pages without an entry before those of a listing.
+        int emptyPages = 0;
+        /// Octets after which files that are read end.
+        std::size_t endsAt = SIZE_MAX;
+        bool refusesClose = false;
+        /// After which a file is opened.
+        std::chrono::milliseconds openDelay{0};
     };
 
     Habits habits;
@@ -146,6 +160,11 @@ private:
             return spelled(habits.relativeListing ? name.substr(prefix.size()) : name);
         };
         mms::FileDirectoryResponse response;
+        if (m_emptyPages++ < habits.emptyPages) {
+            response.moreFollows = true;
+            association->respond(invokeId, response);
+            return true;
+        }
         auto next = names.begin();
         if (request.continueAfter && !habits.endlessListing) {
             next = std::ranges::find_if(names, [&](const std::string &name) {
@@ -164,6 +183,8 @@ private:
             response.entries.push_back(std::move(entry));
         }
         response.moreFollows = next != names.end() || habits.endlessListing;
+        if (response.moreFollows)
+            m_emptyPages = 0;
         association->respond(invokeId, response);
         return true;
     }
@@ -177,12 +198,21 @@ private:
             association->fail(invokeId, fileError(mms::serviceerrors::fileNonExistent));
             return true;
         }
+        if (const auto refusal = habits.refusedOpens.find(*name);
+            refusal != habits.refusedOpens.end()) {
+            association->fail(invokeId, fileError(refusal->second));
+            return true;
+        }
         mms::FileOpenResponse response;
         response.frsmId = ++m_lastId;
         response.attributes.size = static_cast<std::uint32_t>(found->second.size());
         m_open[m_lastId] = {*name, request.position, 0};
         ++openFiles;
-        association->respond(invokeId, response);
+        const auto timer =
+            std::make_shared<asio::steady_timer>(association->strand(), habits.openDelay);
+        timer->async_wait([timer, association, invokeId, response](const std::error_code &) {
+            association->respond(invokeId, response);
+        });
         return true;
     }
 
@@ -218,11 +248,12 @@ private:
             association->fail(invokeId, fileError(mms::serviceerrors::fileAccessDenied));
             return;
         }
-        const std::size_t count = std::min(habits.blockSize, octets.size() - open.position);
+        const std::size_t end = std::min(octets.size(), habits.endsAt);
+        const std::size_t count = std::min(habits.blockSize, end - open.position);
         const auto first = octets.begin() + static_cast<std::ptrdiff_t>(open.position);
         response.data.assign(first, first + static_cast<std::ptrdiff_t>(count));
         open.position += count;
-        response.moreFollows = open.position < octets.size();
+        response.moreFollows = open.position < end;
         if (!response.moreFollows)
             open.position = SIZE_MAX;
         association->respond(invokeId, response);
@@ -231,6 +262,10 @@ private:
     bool serve(const AssociationPointer &association, std::uint32_t invokeId,
                const mms::FileCloseRequest &request)
     {
+        if (habits.refusesClose) {
+            association->fail(invokeId, fileError(0));
+            return true;
+        }
         openFiles -= m_open.erase(request.frsmId);
         association->respond(invokeId, mms::FileCloseResponse{});
         return true;
@@ -247,6 +282,8 @@ private:
         } else {
             files.erase(*name);
             deleted.push_back(*name);
+            if (habits.silentDelete)
+                return true;
             association->respond(invokeId, mms::FileDeleteResponse{});
         }
         return true;
@@ -268,6 +305,8 @@ private:
         } else {
             files[*to] = std::move(files[*from]);
             files.erase(*from);
+            if (habits.silentRename)
+                return true;
             association->respond(invokeId, mms::FileRenameResponse{});
         }
         return true;
@@ -293,6 +332,7 @@ private:
             fetch->limit = fetches >= habits.limitedFrom ? habits.fetchLimit : SIZE_MAX;
             mms::FileOpenRequest open;
             open.name = request.source;
+            open.position = habits.fetchFrom;
             call(fetch, open, [this, fetch](const mms::CallOutcome &outcome) {
                 if (const auto *opened = mms::answerOf<mms::FileOpenResponse>(outcome)) {
                     fetch->frsmId = opened->frsmId;
@@ -348,6 +388,7 @@ private:
     }
 
     std::map<std::int32_t, Open> m_open;
+    int m_emptyPages = 0;
     std::int32_t m_lastId = 0;
 };
 

@@ -49,7 +49,8 @@ protected:
                 received.insert(received.end(), block.begin(), block.end());
                 return received.size() < stopAfter;
             },
-            [this](std::uint32_t size) { announced = size; }));
+            [this](std::uint32_t size) { announced = size; },
+            [this](const std::string &reason) { notClosed = reason; }));
     }
 
     mms::Result<void> offer(const std::string &name, const Octets &octets)
@@ -77,6 +78,7 @@ protected:
     Octets received;
     std::size_t stopAfter = SIZE_MAX;
     std::uint32_t announced = 0;
+    std::string notClosed;
     std::string otherFile;
 };
 
@@ -368,7 +370,9 @@ TEST_F(FilesTest, APeerThatStopsFetchingIsNotWaitedForEndlessly)
     const auto result = offer("f", content(5000));
     ASSERT_FALSE(result.ok());
     EXPECT_EQ(result.error().message,
-              "f: The device has stopped fetching the file after 936 of 5000 octets.");
+              "f: The device has stopped fetching the file after 936 of 5000 octets. f is in the "
+              "device and may be incomplete.");
+    EXPECT_EQ(namesOfPeer(), (Names{"f"}));
 }
 
 TEST_F(FilesTest, AFileThatCannotBeReadHereSaysWhy)
@@ -418,7 +422,160 @@ TEST_F(FilesTest, OtherFilesOfThisSideAreNotGiven)
         return true;
     };
     EXPECT_FALSE(offer("f", octets).ok());
-    EXPECT_FALSE(otherFile.empty());
+    EXPECT_EQ(otherFile,
+              mms::describe(mms::ServiceError{
+                  mms::ErrorClass::File, mms::serviceerrors::fileNonExistent, {}, {}, {}}));
+}
+
+TEST_F(FilesTest, AFileThatThePeerMayNotOpenIsReplacedByWayOfTheOtherName)
+{
+    peer.files = {{"d/f", content(100, 1)}};
+    peer.habits.refusedOpens = {{"d/f", 0}};
+    peer.habits.directoryNames = {{"d", "d/"}};
+    peer.habits.fetchLimit = 2000;
+    start();
+    const auto result = offer("d/f", content(200000, 2));
+    ASSERT_FALSE(result.ok());
+    EXPECT_NE(result.error().message.find("The old file is still there."), std::string::npos)
+        << result.error().message;
+    EXPECT_EQ(peer.files["d/f"], content(100, 1));
+    peer.habits.fetchLimit = SIZE_MAX;
+    peer.habits.keepsExisting = true;
+    EXPECT_TRUE(offer("d/f", content(5000, 2)).ok());
+    EXPECT_EQ(namesOfPeer(), (Names{"d/f"}));
+    EXPECT_EQ(peer.files["d/f"], content(5000, 2));
+}
+
+TEST_F(FilesTest, ARenameThatIsNotAnsweredLosesNothing)
+{
+    peer.files = {{"f", content(100, 1)}};
+    peer.habits.silentRename = true;
+    peer.habits.keepsExisting = true;
+    clientOptions.callTimeout = 300ms;
+    start();
+    const Octets octets = content(5000, 2);
+    const auto result = offer("f", octets);
+    // Refused at first, since the old file is there; then done without a word.
+    EXPECT_TRUE(result.ok()) << result.error().message;
+    EXPECT_EQ(namesOfPeer(), (Names{"f"}));
+    EXPECT_EQ(peer.files["f"], octets);
+    EXPECT_EQ(peer.deleted, (Names{"f"}));
+}
+
+TEST_F(FilesTest, ADeleteThatIsNotAnsweredLosesNothing)
+{
+    peer.files = {{"f", content(100, 1)}};
+    peer.habits.silentDelete = true;
+    peer.habits.keepsExisting = true;
+    clientOptions.callTimeout = 300ms;
+    start();
+    const Octets octets = content(5000, 2);
+    const auto result = offer("f", octets);
+    EXPECT_TRUE(result.ok()) << result.error().message;
+    EXPECT_EQ(namesOfPeer(), (Names{"f"}));
+    EXPECT_EQ(peer.files["f"], octets);
+}
+
+TEST_F(FilesTest, AStalledReplacementDeletesNothing)
+{
+    peer.files = {{"f", content(100, 1)}};
+    peer.habits.fetchLimit = 1;
+    peer.habits.silentThen = true;
+    clientOptions.callTimeout = 300ms;
+    serverOptions.maxPduSize = 1000;
+    start();
+    const auto result = offer("f", content(5000, 2));
+    ASSERT_FALSE(result.ok());
+    EXPECT_EQ(result.error().message,
+              "f: The device has stopped fetching the file after 936 of 5000 octets. The old file "
+              "is still there. f.upload is in the device and may be incomplete.");
+    EXPECT_EQ(peer.files["f"], content(100, 1));
+    EXPECT_TRUE(peer.deleted.empty());
+}
+
+TEST_F(FilesTest, AFileThatIsCalledLikeAReplacementIsNotTouched)
+{
+    peer.files = {{"f", content(100, 1)}, {"f.upload", content(70, 3)}};
+    start();
+    const auto result = offer("f", content(5000, 2));
+    ASSERT_FALSE(result.ok());
+    EXPECT_EQ(result.error().message.find("f.upload is in the device already"), 0U)
+        << result.error().message;
+    EXPECT_EQ(peer.files["f"], content(100, 1));
+    EXPECT_EQ(peer.files["f.upload"], content(70, 3));
+    EXPECT_EQ(peer.fetches, 0);
+}
+
+TEST_F(FilesTest, AnUploadOfWhichOnlyTheEndWasReadIsNoSuccess)
+{
+    peer.habits.fetchFrom = 4000;
+    start();
+    const auto result = offer("f", content(5000));
+    ASSERT_FALSE(result.ok());
+    EXPECT_EQ(result.error().message, "f: The device says that it has the file, but it has fetched "
+                                      "only 0 of 5000 octets.");
+}
+
+TEST_F(FilesTest, ADownloadThatEndsTooEarlyIsAnError)
+{
+    peer.files["f"] = content(10000);
+    peer.habits.endsAt = 4000;
+    start();
+    EXPECT_EQ(fetch("f").error().message, "f: The file ended after 4000 of 10000 octets.");
+    EXPECT_EQ(peer.openFiles, 0U);
+}
+
+TEST_F(FilesTest, AFileThatIsOpenedTooLateIsClosed)
+{
+    peer.files["f"] = content(10);
+    peer.habits.openDelay = 400ms;
+    clientOptions.callTimeout = 100ms;
+    start();
+    EXPECT_EQ(fetch("f").error().message, "f: The peer did not answer in time.");
+    const auto deadline = std::chrono::steady_clock::now() + 20s;
+    while (device->requestsOf<mms::FileCloseRequest>().empty() &&
+           std::chrono::steady_clock::now() < deadline)
+        std::this_thread::yield();
+    EXPECT_EQ(device->requestsOf<mms::FileCloseRequest>().size(), 1U);
+}
+
+TEST_F(FilesTest, ARefusedCloseIsTold)
+{
+    peer.files["f"] = content(10);
+    peer.habits.refusesClose = true;
+    start();
+    EXPECT_TRUE(fetch("f").ok());
+    EXPECT_FALSE(notClosed.empty());
+    notClosed.clear();
+    peer.habits.refusesClose = false;
+    EXPECT_TRUE(fetch("f").ok());
+    EXPECT_TRUE(notClosed.empty());
+}
+
+TEST_F(FilesTest, EmptyPagesDoNotEndAListing)
+{
+    for (int i = 0; i < 25; ++i)
+        peer.files["f" + std::to_string(100 + i)] = content(3);
+    peer.habits.pageSize = 10;
+    peer.habits.emptyPages = 2;
+    start();
+    EXPECT_EQ(list("").size(), 25U);
+    peer.habits.emptyPages = 1000000;
+    EXPECT_EQ(list(""), (Names{"error: The device lists its files without an end."}));
+}
+
+TEST_F(FilesTest, NamesInOtherOctetsAreKeptAndFound)
+{
+    // As a device with ISO 8859-1 writes them, and as this side shows them.
+    peer.files = {{"St\xF6rung/\xFC.cfg", content(10)}};
+    start();
+    EXPECT_EQ(list(""), (Names{"St\xF6rung/"}));
+    peer.habits.directoryNames = {{"St\xF6rung", "St\xF6rung/"}};
+    EXPECT_EQ(list("St\xC3\xB6rung"), (Names{"\xFC.cfg"}));
+    EXPECT_TRUE(fetch("St\xC3\xB6rung/\xC3\xBC.cfg").ok());
+    EXPECT_EQ(received, content(10));
+    EXPECT_TRUE(run(deleteFile(client, "St\xC3\xB6rung/\xC3\xBC.cfg")).ok());
+    EXPECT_EQ(namesOfPeer(), Names{});
 }
 
 TEST_F(FilesTest, FilesAreDeletedAndRenamedInTheSpellingOfThePeer)

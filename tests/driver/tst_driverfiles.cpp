@@ -303,6 +303,9 @@ void tst_DriverFiles::timesOfEveryFormAreUnderstood_data()
     QTest::newRow("comma") << "20210304050607,5Z" << 1614834367U;
     QTest::newRow("ahead of UTC") << "20210304060607.000+0100" << 1614834367U;
     QTest::newRow("behind UTC") << "20210304003607-0430" << 1614834367U;
+    QTest::newRow("no seconds") << "202103040506Z" << 1614834360U;
+    QTest::newRow("no minutes") << "2021030405Z" << 1614834000U;
+    QTest::newRow("odd digits") << "20210304050Z" << 0U;
     QTest::newRow("none") << "" << 0U;
     QTest::newRow("wrong month") << "20211304050607Z" << 0U;
     QTest::newRow("before 1970") << "19600101000000Z" << 0U;
