@@ -404,8 +404,9 @@ private:
             CLI::Option *value = added->add_option("--value", v.value,
                                                    "Control value: on, off, a number, or an entry "
                                                    "of the enumeration");
-            added->add_option("--orcat", v.control.originatorCategory, "Originator category")
-                ->capture_default_str()
+            added
+                ->add_option("--orcat", v.control.originatorCategory,
+                             "Originator category, 3 (remote control) unless given")
                 ->check(CLI::Range(0, 8));
             added->add_flag("--test", v.control.test, "With the test flag");
             added->add_flag("--interlock", v.control.interlock, "With interlock check");

@@ -74,11 +74,13 @@ struct ControlRequest
 {
     QString object;
     std::optional<QString> value;
-    int originatorCategory = 2;
+    std::optional<int> originatorCategory; ///< remote-control unless it is given
     bool test = false;
     bool interlock = false;
     bool synchro = false;
-    bool selected = false; ///< the object was selected before in this session
+    /// The object was selected before in this session: what is not given is that of the select,
+    /// what is given has to be the same.
+    bool selected = false;
 };
 ExitStatus selectObject(Session &session, const ControlRequest &request);
 /// Selects first where the object's control model wants that.

@@ -12,13 +12,18 @@ constexpr int statusOnly = 0;
 constexpr int selectNormal = 2;
 constexpr int selectEnhanced = 4;
 
+/// Who controls unless it is said: remote control.
+constexpr int usualCategory = 3;
+
 /// What the driver needs of one object for one command.
 struct Target
 {
     QString device;
     QString reference;
     int model = statusOnly;
-    double value = 0;
+    std::optional<double> value;
+
+    QString name() const { return device + QLatin1Char('/') + reference; }
 };
 
 std::optional<int> readControlModel(Session &session, const QString &device, const QString &node,
@@ -40,8 +45,7 @@ std::optional<int> readControlModel(Session &session, const QString &device, con
     return found->value.toInt();
 }
 
-std::optional<Target> targetOf(Session &session, const Commands::ControlRequest &request,
-                               bool valueNeeded)
+std::optional<Target> targetOf(Session &session, const Commands::ControlRequest &request)
 {
     const PhysicalDevice *device = session.model();
     if (!device)
@@ -57,7 +61,7 @@ std::optional<Target> targetOf(Session &session, const Commands::ControlRequest 
     const std::optional<int> model = readControlModel(session, selection.device, node, object);
     if (!model)
         return {};
-    Target target{selection.device, QStringLiteral("%1$CO$%2").arg(node, object), *model, 0};
+    Target target{selection.device, QStringLiteral("%1$CO$%2").arg(node, object), *model, {}};
     if (*model <= statusOnly) {
         session.failed(QStringLiteral("\"%1\" is for status only; it cannot be controlled.")
                            .arg(request.object));
@@ -73,25 +77,42 @@ std::optional<Target> targetOf(Session &session, const Commands::ControlRequest 
             session.failed(error);
             return {};
         }
-    } else if (valueNeeded) {
-        session.failed(QStringLiteral("Say which value with --value."));
-        return {};
     }
     return target;
 }
 
-/// @param full false: only the object and its model, as the driver then repeats what was selected
-QByteArray record(const Target &target, const Commands::ControlRequest &request, bool full)
+/// Nothing but the object and its model: the driver then repeats what it knows.
+ControlBlock emptyBlock(const Target &target)
 {
     ControlBlock block;
     block.objectReference = target.reference;
     block.controlModel = static_cast<quint8>(target.model);
-    if (full) {
-        block.controlValue = target.value;
-        block.orCat = static_cast<quint8>(request.originatorCategory);
-        block.check = static_cast<quint8>((request.interlock ? 1 : 0) | (request.synchro ? 2 : 0));
-        block.test = request.test ? 1 : 0;
-    }
+    return block;
+}
+
+ControlBlock fullBlock(const Target &target, const Commands::ControlRequest &request)
+{
+    ControlBlock block = emptyBlock(target);
+    block.controlValue = target.value.value_or(0);
+    block.orCat = static_cast<quint8>(request.originatorCategory.value_or(usualCategory));
+    block.check = static_cast<quint8>((request.interlock ? 1 : 0) | (request.synchro ? 2 : 0));
+    block.test = request.test ? 1 : 0;
+    return block;
+}
+
+/// Whether everything that is given is that of the selection; a flag that is not given is none.
+bool agrees(const ControlBlock &selection, const Target &target,
+            const Commands::ControlRequest &request)
+{
+    const ControlBlock given = fullBlock(target, request);
+    return (!target.value || *target.value == selection.controlValue) &&
+           (!request.originatorCategory || given.orCat == selection.orCat) &&
+           (given.check & selection.check) == given.check &&
+           (given.test == 0 || selection.test != 0);
+}
+
+QByteArray record(const ControlBlock &block)
+{
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     block.toStream(stream);
@@ -103,14 +124,34 @@ bool isSelected(const Target &target)
     return target.model == selectNormal || target.model == selectEnhanced;
 }
 
+ExitStatus withoutValue(Session &session)
+{
+    return session.failed(QStringLiteral("Say which value with --value."));
+}
+
 ExitStatus sendSelect(Session &session, const Target &target,
                       const Commands::ControlRequest &request)
 {
+    const ControlBlock block =
+        target.model == selectEnhanced ? fullBlock(target, request) : emptyBlock(target);
+    session.selections().remove(target.name());
     QString error;
     const OperationResult result = session.controller().selectObject(
-        session.deviceNo(), target.device, target.reference,
-        record(target, request, target.model == selectEnhanced), error);
+        session.deviceNo(), target.device, target.reference, record(block), error);
+    if (result == OperationSucceeded && target.model == selectEnhanced)
+        session.selections().insert(target.name(), block);
     return session.ended(result, error);
+}
+
+ExitStatus sendOperate(Session &session, const Target &target, const ControlBlock &block)
+{
+    QString error;
+    const OperationResult result = session.controller().controlObject(
+        session.deviceNo(), target.device, target.reference, record(block), error);
+    if (result != OperationSucceeded)
+        return session.failed(result, error);
+    session.output().note(QStringLiteral("Operated."));
+    return ExitStatus::Done;
 }
 
 } // namespace
@@ -119,7 +160,7 @@ namespace Commands {
 
 ExitStatus selectObject(Session &session, const ControlRequest &request)
 {
-    const std::optional<Target> target = targetOf(session, request, false);
+    const std::optional<Target> target = targetOf(session, request);
     if (!target)
         return session.lastFailure();
     if (!isSelected(*target)) {
@@ -127,8 +168,8 @@ ExitStatus selectObject(Session &session, const ControlRequest &request)
                                              "select.")
                                   .arg(request.object));
     }
-    if (target->model == selectEnhanced && !request.value)
-        return session.failed(QStringLiteral("Say which value with --value."));
+    if (target->model == selectEnhanced && !target->value)
+        return withoutValue(session);
     const ExitStatus status = sendSelect(session, *target, request);
     if (status == ExitStatus::Done)
         session.output().note(QStringLiteral("Selected."));
@@ -137,35 +178,48 @@ ExitStatus selectObject(Session &session, const ControlRequest &request)
 
 ExitStatus operate(Session &session, const ControlRequest &request)
 {
-    const std::optional<Target> target = targetOf(session, request, !request.selected);
+    const std::optional<Target> target = targetOf(session, request);
     if (!target)
         return session.lastFailure();
+    if (request.selected && target->model == selectEnhanced) {
+        const auto selection = session.selections().constFind(target->name());
+        if (selection != session.selections().constEnd()) {
+            const ControlBlock block = *selection;
+            if (!agrees(block, *target, request)) {
+                return session.failed(QStringLiteral("\"%1\" was selected for another command: "
+                                                     "cancel the selection and select it again.")
+                                          .arg(request.object));
+            }
+            return sendOperate(session, *target, block);
+        }
+        const bool isBare = !target->value && !request.originatorCategory && !request.test &&
+                            !request.interlock && !request.synchro;
+        if (isBare)
+            return sendOperate(session, *target, emptyBlock(*target));
+    }
+    if (!target->value)
+        return withoutValue(session);
     if (isSelected(*target) && !request.selected) {
         const ExitStatus status = sendSelect(session, *target, request);
         if (status != ExitStatus::Done)
             return status;
     }
-    QString error;
-    const OperationResult result = session.controller().controlObject(
-        session.deviceNo(), target->device, target->reference,
-        record(*target, request, target->model != selectEnhanced), error);
-    if (result != OperationSucceeded)
-        return session.failed(result, error);
-    session.output().note(QStringLiteral("Operated."));
-    return ExitStatus::Done;
+    return sendOperate(session, *target, fullBlock(*target, request));
 }
 
 ExitStatus cancel(Session &session, const ControlRequest &request)
 {
-    const std::optional<Target> target = targetOf(session, request, false);
+    const std::optional<Target> target = targetOf(session, request);
     if (!target)
         return session.lastFailure();
+    const ControlBlock block =
+        target->model == selectEnhanced ? emptyBlock(*target) : fullBlock(*target, request);
     QString error;
     const OperationResult result = session.controller().cancelObject(
-        session.deviceNo(), target->device, target->reference,
-        record(*target, request, target->model != selectEnhanced), error);
+        session.deviceNo(), target->device, target->reference, record(block), error);
     if (result != OperationSucceeded)
         return session.failed(result, error);
+    session.selections().remove(target->name());
     session.output().note(QStringLiteral("Cancelled."));
     return ExitStatus::Done;
 }

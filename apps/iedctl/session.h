@@ -56,6 +56,9 @@ public:
     gather(const QStringList &references,
            const std::function<OperationResult(QString &error)> &request);
 
+    /// What was selected in this session, by object, as it was asked for.
+    QHash<QString, ControlBlock> &selections() { return m_selections; }
+
     /// True once the operator wants streams to end. Safe to set from a signal handler.
     static std::atomic<bool> &interrupted();
 
@@ -65,5 +68,6 @@ private:
     Output &m_output;
     std::unique_ptr<PhysicalDevice> m_model;
     std::unique_ptr<ValueReceiver> m_receiver;
+    QHash<QString, ControlBlock> m_selections;
     ExitStatus m_lastFailure = ExitStatus::Done;
 };

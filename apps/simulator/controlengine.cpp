@@ -16,6 +16,9 @@ using acsi::ControlRequest;
 constexpr std::chrono::milliseconds switchTime{60};
 constexpr std::chrono::milliseconds tapTime{250};
 constexpr std::chrono::milliseconds numberTime{20};
+constexpr std::chrono::milliseconds slowTime{3000};
+/// What comes after an answer comes so long after it.
+constexpr std::chrono::milliseconds laterTime{20};
 constexpr std::chrono::milliseconds usualOperTimeout{10000};
 constexpr std::int64_t healthAlarm = 3;
 constexpr std::size_t testBit = 11;
@@ -229,6 +232,17 @@ private:
         settings.operatingTime = m_isSwitch ? switchTime
             : m_moving.isValid()            ? tapTime
                                             : numberTime;
+        const Oddities &odd = m_engine.m_host.oddities;
+        if (odd.slowControl)
+            settings.operatingTime = slowTime;
+        settings.isStrict = odd.strictControl;
+        settings.cancelsOperations = !odd.noCancelOfCommands;
+        settings.causes.hasNumber = !odd.causeWithoutNumber;
+        settings.causes.followsAnswer = odd.causeAfterAnswer;
+        settings.causes.name = odd.causeNamesObject ? CauseForm::Name::Object
+            : odd.causeNamesReference               ? CauseForm::Name::Reference
+            : odd.causeNamesOper                    ? CauseForm::Name::Oper
+                                                    : CauseForm::Name::Service;
         return settings;
     }
 
@@ -382,6 +396,11 @@ private:
         client.report(std::move(report));
     }
 
+    void sendLater(Client &client, mms::InformationReport report) override
+    {
+        m_engine.sendLater(client, std::move(report));
+    }
+
     ControlEngine &m_engine;
     Model &m_model;
     std::uint32_t m_domain;
@@ -406,6 +425,7 @@ private:
 ControlEngine::ControlEngine(const Host &host, const scl::Ied &ied)
     : m_host(host)
     , m_timer(host.clock.makeTimer())
+    , m_laterTimer(host.clock.makeTimer())
 {
     const auto domains = m_host.model.domains();
     for (std::uint32_t d = 0; d < domains.size(); ++d) {
@@ -488,6 +508,16 @@ void ControlEngine::closed(Client &client)
 {
     for (const auto &point : m_points)
         point->machine().closed(client);
+    std::erase_if(m_later, [&](const auto &each) { return each.first == &client; });
+}
+
+void ControlEngine::sendLater(Client &client, mms::InformationReport report)
+{
+    m_later.emplace_back(&client, std::move(report));
+    m_laterTimer->start(laterTime, [this] {
+        for (auto &[receiver, what] : std::exchange(m_later, {}))
+            receiver->report(std::move(what));
+    });
 }
 
 void ControlEngine::startTimer()

@@ -36,9 +36,20 @@ bool repeats(const ControlRequest &selection, const ControlRequest &request)
         && selection.interlockCheck == request.interlockCheck;
 }
 
-bool isPlausible(const ControlRequest &request)
+/// Whether a cancel means that command.
+bool means(const ControlRequest &cancel, const ControlRequest &command,
+           const ControlSettings &settings)
 {
-    return request.originator.category >= 0 && request.originator.category <= highestCategory
+    const bool isSame = command.ctlNum == cancel.ctlNum && command.value == cancel.value;
+    return isSame
+        && (!settings.isStrict
+            || (command.originator == cancel.originator && command.test == cancel.test
+                && command.operateTime == cancel.operateTime));
+}
+
+bool isPlausible(const ControlRequest &request, const ControlSettings &settings)
+{
+    return request.originator.category >= (settings.isStrict ? 1 : 0) && request.originator.category <= highestCategory
         && request.originator.identification.size() <= longestIdentification;
 }
 
@@ -121,7 +132,7 @@ ControlMachine::Answer ControlMachine::selectWithValue(Client &client,
         cause = AddCause::CommandAlreadyInExecution;
     else if (m_state == State::Selected && m_client != &client)
         cause = AddCause::ObjectAlreadySelected;
-    else if (!isPlausible(request))
+    else if (!isPlausible(request, settings))
         cause = AddCause::InconsistentParameters;
     else
         cause = m_host.check(request);
@@ -148,7 +159,7 @@ AddCause ControlMachine::mayOperate(const Client &client, const ControlRequest &
         if (m_selection && !repeats(*m_selection, request))
             return AddCause::InconsistentParameters;
     }
-    if (!isPlausible(request))
+    if (!isPlausible(request, settings))
         return AddCause::InconsistentParameters;
     if (!isNow(request) && wallTimeOf(*request.operateTime) <= m_clock.now())
         return AddCause::InconsistentParameters;
@@ -191,12 +202,28 @@ void ControlMachine::start()
     m_host.started(m_request);
 }
 
-ControlMachine::Answer ControlMachine::cancel(Client &client, const ControlRequest &request)
+AddCause ControlMachine::mayCancel(const Client &client, const ControlRequest &request,
+                                   const ControlSettings &settings) const
 {
     if (m_state == State::Idle)
-        return refuse(client, "Cancel", request, AddCause::ObjectNotSelected);
+        return AddCause::ObjectNotSelected;
     if (m_client != &client)
-        return refuse(client, "Cancel", request, AddCause::LockedByOtherClient);
+        return AddCause::LockedByOtherClient;
+    if (isBusy() && !settings.cancelsOperations)
+        return AddCause::NotSupported;
+    const ControlRequest *command = m_selection ? &*m_selection : nullptr;
+    if (isBusy())
+        command = &m_request;
+    if (command && !means(request, *command, settings))
+        return AddCause::InconsistentParameters;
+    return AddCause::None;
+}
+
+ControlMachine::Answer ControlMachine::cancel(Client &client, const ControlRequest &request)
+{
+    const AddCause cause = mayCancel(client, request, m_host.settings());
+    if (cause != AddCause::None)
+        return refuse(client, "Cancel", request, cause);
     if (m_state == State::Selected) {
         deselect();
         return std::nullopt;
@@ -293,14 +320,22 @@ acsi::LastApplError ControlMachine::lastApplError(std::string_view service,
                                                   const ControlRequest &request,
                                                   AddCause cause) const
 {
+    const CauseForm form = m_host.settings().causes;
     acsi::LastApplError error;
-    error.controlObject = m_reference + '$' + std::string(service);
+    error.controlObject = m_reference;
+    if (form.name == CauseForm::Name::Service)
+        error.controlObject += '$' + std::string(service);
+    else if (form.name == CauseForm::Name::Oper)
+        error.controlObject += "$Oper";
+    else if (const auto object = acsi::parseReference(m_reference);
+             object && form.name == CauseForm::Name::Reference)
+        error.controlObject = acsi::objectReferenceText(*object);
     error.error = errorOf(cause);
     error.originator = request.originator;
     // What is too long to be accepted is too long to be repeated.
     if (error.originator.identification.size() > longestIdentification)
         error.originator.identification.resize(longestIdentification);
-    error.ctlNum = request.ctlNum;
+    error.ctlNum = form.hasNumber ? request.ctlNum : 0;
     error.addCause = static_cast<std::int32_t>(cause);
     return error;
 }
@@ -308,7 +343,11 @@ acsi::LastApplError ControlMachine::lastApplError(std::string_view service,
 ControlMachine::Answer ControlMachine::refuse(Client &client, std::string_view service,
                                               const ControlRequest &request, AddCause cause)
 {
-    m_host.send(client, acsi::toReport(lastApplError(service, request, cause)));
+    auto report = acsi::toReport(lastApplError(service, request, cause));
+    if (m_host.settings().causes.followsAnswer)
+        m_host.sendLater(client, std::move(report));
+    else
+        m_host.send(client, std::move(report));
     return DataAccessError::ObjectAccessDenied;
 }
 

@@ -41,6 +41,21 @@ enum class AddCause : std::int32_t {
     LockedByOtherClient = 27,
 };
 
+/// How a device words why it refuses a control.
+struct CauseForm
+{
+    enum class Name : std::uint8_t {
+        Service,   ///< "LD/LN$CO$Pos$Cancel"
+        Object,    ///< "LD/LN$CO$Pos"
+        Reference, ///< "LD/LN.Pos"
+        Oper,      ///< "LD/LN$CO$Pos$Oper", whichever service it was
+    };
+
+    Name name = Name::Service;
+    bool hasNumber = true;
+    bool followsAnswer = false;
+};
+
 /// The configuration of a controllable object, as it stands when it is asked for.
 struct ControlSettings
 {
@@ -52,6 +67,11 @@ struct ControlSettings
     std::chrono::milliseconds operTimeout{10000};
     /// How long the process takes; none when it does not follow at all.
     std::optional<std::chrono::milliseconds> operatingTime{60};
+    /// A cancel has to repeat all of a command, not its number and value alone; nobody operates
+    /// without an originator category.
+    bool isStrict = false;
+    bool cancelsOperations = true;
+    CauseForm causes;
 };
 
 /// What a controllable object needs from its device.
@@ -70,11 +90,13 @@ public:
     /// The operation ended before it was finished.
     virtual void stopped(const acsi::ControlRequest &request, AddCause cause) = 0;
     virtual void send(Client &client, mms::InformationReport report) = 0;
+    /// After the answer to the request that is being served.
+    virtual void sendLater(Client &client, mms::InformationReport report) = 0;
 };
 
 /// The state machine of one controllable object for all control models (IEC 61850-7-2, 20). It is
-/// told of requests, time and clients that leave. What says why a request is refused is sent through
-/// the host before the request is answered.
+/// told of requests, time and clients that leave. What says why a request is refused is sent
+/// through the host before the request is answered.
 class ControlMachine
 {
 public:
@@ -106,12 +128,14 @@ public:
 private:
     enum class State : std::uint8_t { Idle, Selected, Waiting, Operating };
 
+    AddCause mayCancel(const Client &client, const acsi::ControlRequest &request,
+                       const ControlSettings &settings) const;
     AddCause mayOperate(const Client &client, const acsi::ControlRequest &request,
                         const ControlSettings &settings) const;
     Answer refuse(Client &client, std::string_view service, const acsi::ControlRequest &request,
                   AddCause cause);
-    acsi::LastApplError lastApplError(std::string_view service,
-                                      const acsi::ControlRequest &request, AddCause cause) const;
+    acsi::LastApplError lastApplError(std::string_view service, const acsi::ControlRequest &request,
+                                      AddCause cause) const;
     void select(Client &client, const ControlSettings &settings);
     void setSelected(bool selected);
     void deselect();

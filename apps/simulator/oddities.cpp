@@ -19,6 +19,23 @@ constexpr std::array cases = {
     // Reports
 
     // Control
+    OddityCase{"strict-control",
+               "A cancel has to repeat all of what it cancels, and who operates has to say who.",
+               &Oddities::strictControl},
+    OddityCase{"slow-control", "Every command takes three seconds.", &Oddities::slowControl},
+    OddityCase{"no-cancel-of-commands", "A command that is being executed cannot be cancelled.",
+               &Oddities::noCancelOfCommands},
+    OddityCase{"cause-after-answer", "Why a control is refused is told after it was refused.",
+               &Oddities::causeAfterAnswer},
+    OddityCase{"cause-names-object",
+               "Causes name the object without the service: LD/LN$CO$Data.",
+               &Oddities::causeNamesObject},
+    OddityCase{"cause-names-reference", "Causes name the object as LD/LN.Data.",
+               &Oddities::causeNamesReference},
+    OddityCase{"cause-names-oper", "Causes name Oper, whichever service was refused.",
+               &Oddities::causeNamesOper},
+    OddityCase{"cause-without-number", "Causes bear the control number 0.",
+               &Oddities::causeWithoutNumber},
 
     // Setting groups
 

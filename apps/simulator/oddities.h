@@ -24,6 +24,15 @@ struct Oddities
 
     // Control
 
+    bool strictControl = false;
+    bool slowControl = false;
+    bool noCancelOfCommands = false;
+    bool causeAfterAnswer = false;
+    bool causeNamesObject = false;
+    bool causeNamesReference = false;
+    bool causeNamesOper = false;
+    bool causeWithoutNumber = false;
+
     // Setting groups
 
     // Files

@@ -61,6 +61,10 @@ private slots:
     void wrongReportSettingsAreRefusedBeforeAnythingIsSent();
     void enableSendsTheBlockAndDisablesItAfterwards();
     void operateSelectsFirstWhereTheModelWantsIt();
+    void operatingASelectionRepeatsTheSelect();
+    void whatDiffersFromTheSelectIsRefused_data();
+    void whatDiffersFromTheSelectIsRefused();
+    void aSelectionWithoutValueWantsOneWhenItIsOperated();
     void operateOnAStatusOnlyObjectSendsNothing();
     void writingAGroupKeepsTheOtherSettings();
     void fileNamesGoWithBackslashes();
@@ -316,7 +320,7 @@ void tst_IedctlCommands::operateSelectsFirstWhereTheModelWantsIt()
     ControlBlock selected;
     selected.objectReference = QStringLiteral("CSWI1$CO$Pos");
     selected.controlValue = 1;
-    selected.orCat = 2;
+    selected.orCat = 3;
     selected.check = 1;
     selected.controlModel = 4;
     QByteArray bytes;
@@ -330,6 +334,70 @@ void tst_IedctlCommands::operateSelectsFirstWhereTheModelWantsIt()
     QCOMPARE(Commands::operate(*m_session, request), ExitStatus::Done);
     QVERIFY(m_service->calls("selectObject").isEmpty());
     QCOMPARE(m_service->calls("controlObject").size(), 1);
+}
+
+void tst_IedctlCommands::operatingASelectionRepeatsTheSelect()
+{
+    answerReads({{"LD0/CSWI1$CF$Pos$ctlModel", 4}});
+    Commands::ControlRequest request;
+    request.object = QStringLiteral("LD0/CSWI1.Pos");
+    request.value = QStringLiteral("off");
+    request.synchro = true;
+    QCOMPARE(Commands::selectObject(*m_session, request), ExitStatus::Done);
+    Commands::ControlRequest again;
+    again.object = request.object;
+    again.selected = true;
+    QCOMPARE(Commands::operate(*m_session, again), ExitStatus::Done);
+    const QVariantList selected = m_service->calls("selectObject").first().arguments;
+    QCOMPARE(m_service->calls("controlObject").first().arguments, selected);
+    again.value = QStringLiteral("off");
+    again.originatorCategory = 3;
+    again.synchro = true;
+    QCOMPARE(Commands::operate(*m_session, again), ExitStatus::Done);
+    QCOMPARE(m_service->calls("controlObject").last().arguments, selected);
+}
+
+void tst_IedctlCommands::whatDiffersFromTheSelectIsRefused_data()
+{
+    QTest::addColumn<QString>("option");
+
+    for (const char *option : {"value", "orcat", "test", "interlock", "synchro"})
+        QTest::newRow(option) << option;
+}
+
+void tst_IedctlCommands::whatDiffersFromTheSelectIsRefused()
+{
+    QFETCH(QString, option);
+    answerReads({{"LD0/CSWI1$CF$Pos$ctlModel", 4}});
+    Commands::ControlRequest request;
+    request.object = QStringLiteral("LD0/CSWI1.Pos");
+    request.value = QStringLiteral("off");
+    QCOMPARE(Commands::selectObject(*m_session, request), ExitStatus::Done);
+    Commands::ControlRequest other;
+    other.object = request.object;
+    other.selected = true;
+    if (option == "value")
+        other.value = QStringLiteral("on");
+    if (option == "orcat")
+        other.originatorCategory = 2;
+    other.test = option == "test";
+    other.interlock = option == "interlock";
+    other.synchro = option == "synchro";
+    QCOMPARE(Commands::operate(*m_session, other), ExitStatus::Refused);
+    QVERIFY2(complaints().contains("was selected for another command"), qPrintable(complaints()));
+    QVERIFY(m_service->calls("controlObject").isEmpty());
+}
+
+void tst_IedctlCommands::aSelectionWithoutValueWantsOneWhenItIsOperated()
+{
+    answerReads({{"LD0/CSWI1$CF$Pos$ctlModel", 2}});
+    Commands::ControlRequest request;
+    request.object = QStringLiteral("LD0/CSWI1.Pos");
+    QCOMPARE(Commands::selectObject(*m_session, request), ExitStatus::Done);
+    request.selected = true;
+    QCOMPARE(Commands::operate(*m_session, request), ExitStatus::Refused);
+    QVERIFY2(complaints().contains("--value"), qPrintable(complaints()));
+    QVERIFY(m_service->calls("controlObject").isEmpty());
 }
 
 void tst_IedctlCommands::operateOnAStatusOnlyObjectSendsNothing()

@@ -43,6 +43,12 @@ public:
         receiver = &client;
     }
 
+    void sendLater(sim::Client &client, mms::InformationReport report) override
+    {
+        log += "later ";
+        send(client, std::move(report));
+    }
+
     std::string take()
     {
         if (!log.empty())
@@ -279,6 +285,60 @@ TEST_F(ControlMachineTest, CancellingStopsAnOperationOfAKeptSelection)
     operate(m_client);
     EXPECT_EQ(cancel(m_client), "+ stop15 term- Oper:15 deselect");
     EXPECT_EQ(operate(m_client), "- Oper:18");
+}
+
+TEST_F(ControlMachineTest, ACancelOfAnotherCommandThanTheOneThatRunsIsRefused)
+{
+    use(ControlModel::DirectEnhanced);
+    operate(m_client);
+    ControlRequest running = m_request;
+    m_request.ctlNum = 6;
+    EXPECT_EQ(cancel(m_client), "- Cancel:26");
+    m_request = running;
+    m_request.value = Data::boolean(false);
+    EXPECT_EQ(cancel(m_client), "- Cancel:26");
+    m_request = running;
+    m_request.originator.category = 3;
+    m_process.configuration.isStrict = true;
+    EXPECT_EQ(cancel(m_client), "- Cancel:26");
+    m_request = running;
+    EXPECT_EQ(cancel(m_client), "+ stop15 term- Oper:15");
+}
+
+TEST_F(ControlMachineTest, ACancelRepeatsASelectionWithValue)
+{
+    use(ControlModel::SelectEnhanced);
+    select(m_client);
+    const ControlRequest selected = m_request;
+    m_request.ctlNum = 9;
+    EXPECT_EQ(cancel(m_client), "- Cancel:26");
+    m_request = selected;
+    EXPECT_EQ(cancel(m_client), "+ deselect");
+}
+
+TEST_F(ControlMachineTest, ADeviceMayBeUnableToCancelWhatItExecutes)
+{
+    use(ControlModel::DirectEnhanced);
+    m_process.configuration.cancelsOperations = false;
+    operate(m_client);
+    EXPECT_EQ(cancel(m_client), "- Cancel:1");
+    EXPECT_EQ(pass(100ms), "finish term+");
+}
+
+TEST_F(ControlMachineTest, AStrictDeviceWantsToKnowWhoOperates)
+{
+    m_request.originator.category = 0;
+    EXPECT_EQ(operate(m_client), "+ start");
+    pass(100ms);
+    m_process.configuration.isStrict = true;
+    EXPECT_EQ(operate(m_client), "- Oper:26");
+}
+
+TEST_F(ControlMachineTest, ACauseMayFollowTheAnswer)
+{
+    m_process.configuration.causes.followsAnswer = true;
+    m_process.forbidden = AddCause::BlockedByInterlocking;
+    EXPECT_EQ(operate(m_client), "- later Oper:10");
 }
 
 TEST_F(ControlMachineTest, ALostClientLosesItsSelection)
