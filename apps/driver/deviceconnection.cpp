@@ -3,6 +3,7 @@
 
 #include "connectiontext.h"
 #include "discoveredmodel.h"
+#include "settinggroups.h"
 
 #include <asio/bind_cancellation_slot.hpp>
 #include <asio/cancellation_signal.hpp>
@@ -462,6 +463,8 @@ asio::awaitable<void> DeviceConnection::beOnline(ClientPointer client)
 {
     m_modelReady = true;
     setState(DeviceState::Online, problems());
+    // Looks after the groups from the beginning, not only once somebody uses them.
+    static_cast<void>(part<SettingGroups>());
     for (const auto &part : m_parts) {
         if (client->isOpen())
             co_await part.second->opened();

@@ -1,22 +1,36 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "connectiontext.h"
 #include "driverruntime.h"
 #include "journalentry.h"
+#include "settinggroups.h"
 #include "valueconversion.h"
 
 #include "acsi/settinggroup.h"
+
+#include <remoteclient/controllercaller.h>
+
+#include <asio/steady_timer.hpp>
+#include <asio/use_awaitable.hpp>
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDateTime>
 #include <QtCore/QHash>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 using acsi::FunctionalConstraint;
+using ConnectionText::withoutPeriod;
+using std::chrono::steady_clock;
 
 namespace {
 
+using ConnectionText::text;
+
 using DevicePointer = std::shared_ptr<DeviceConnection>;
+using Caller = SettingGroupEdit::Caller;
+using Verdict = SettingGroupEdit::Verdict;
 
 struct Texts
 {
@@ -25,100 +39,18 @@ struct Texts
 
 /// Refused settings that a sentence names.
 constexpr int namedRefusals = 5;
-
-QString text(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
-}
+/// Between looks at a group that does not become active at once.
+constexpr std::chrono::milliseconds activationLook{250};
 
 QString text(const acsi::Reference &reference)
 {
     return text(acsi::toText(reference));
 }
 
-QString withoutPeriod(QString sentence)
-{
-    while (sentence.endsWith(QLatin1Char('.')))
-        sentence.chop(1);
-    return sentence;
-}
-
 /// A reference that tells the logical device alone names its only block.
 QString logicalDeviceOf(const QString &sgcbReference)
 {
     return sgcbReference.section(QLatin1Char('/'), 0, 0);
-}
-
-const acsi::DeviceDescription *deviceDescription(const OnlineModel &model, const QString &ldName)
-{
-    const std::string name = ldName.toStdString();
-    for (const acsi::DeviceDescription &device : model.description().devices) {
-        if (device.name == name)
-            return &device;
-    }
-    return nullptr;
-}
-
-/// "LD/LLN0$SP$SGCB"; an error when the logical device has none.
-mms::Result<acsi::Reference> blockOf(const OnlineModel &model, const QString &ldName)
-{
-    const auto error = [](const QString &sentence) {
-        return mms::Error{sentence.toStdString(), 0};
-    };
-    const acsi::DeviceDescription *device = deviceDescription(model, ldName);
-    if (!device)
-        return error(Texts::tr("The device has no logical device \"%1\".").arg(ldName));
-    for (const acsi::NodeDescription &node : device->nodes) {
-        if (acsi::typeBelow(node.type, "SP", "SGCB"))
-            return acsi::Reference{
-                device->name, node.name, FunctionalConstraint::SP, {{"SGCB", std::nullopt}}};
-    }
-    return error(Texts::tr("%1 has no setting group control block.").arg(ldName));
-}
-
-acsi::Reference attributeOf(acsi::Reference block, const char *name)
-{
-    block.path.push_back({name, std::nullopt});
-    return block;
-}
-
-/// The logical nodes that have settings under the constraint, in the order in which they are shown.
-std::vector<acsi::Reference> nodesWith(const OnlineModel &model, const QString &ldName,
-                                       FunctionalConstraint constraint)
-{
-    std::vector<acsi::Reference> result;
-    const acsi::DeviceDescription *device = deviceDescription(model, ldName);
-    if (!device)
-        return result;
-    for (const acsi::NodeDescription &node : device->nodes) {
-        if (acsi::typeBelow(node.type, acsi::toText(constraint), {}))
-            result.push_back({device->name, node.name, constraint, {}});
-    }
-    QHash<QString, int> places;
-    for (const LogicalDevice *shown : qAsConst(model.device().logicalDevices)) {
-        if (shown->name != ldName)
-            continue;
-        for (const LogicalNode *node : qAsConst(shown->logicalNodes))
-            places.insert(node->name, places.size());
-    }
-    const auto placeOf = [&places](const acsi::Reference &node) {
-        return places.value(text(node.node), std::numeric_limits<int>::max());
-    };
-    std::stable_sort(result.begin(), result.end(), [&](const auto &left, const auto &right) {
-        return placeOf(left) < placeOf(right);
-    });
-    return result;
-}
-
-/// What the model shows of a setting: the edited values have the types of the active ones.
-QString basicTypeOf(const OnlineModel &model, QString reference)
-{
-    const QString edited = QStringLiteral("$SE$");
-    const int constraint = reference.indexOf(edited);
-    if (constraint >= 0)
-        reference.replace(constraint, edited.size(), QStringLiteral("$SG$"));
-    const DataAttribute *attribute = model.device().findTag(reference);
-    return attribute ? attribute->basicType : QString();
 }
 
 struct Setting
@@ -128,14 +60,16 @@ struct Setting
     QString reason; ///< why there is no data
 };
 
-/// Every setting under the constraint in the order of the model; an error when nothing came at all.
+/// Every setting under the constraint in the order of the model, also those that cannot be read; an
+/// error when the device could not be asked.
 asio::awaitable<mms::Result<std::vector<Setting>>>
 readSettings(DevicePointer device, QString ldName, FunctionalConstraint constraint)
 {
     const std::shared_ptr<acsi::Client> client = device->client();
     if (!client)
         co_return mms::Error{device->notConnectedSentence().toStdString(), 0};
-    const std::vector<acsi::Reference> nodes = nodesWith(*device->model(), ldName, constraint);
+    const std::vector<acsi::Reference> nodes =
+        SettingModel::nodes(*device->model(), ldName, constraint);
     std::vector<Setting> settings;
     if (nodes.empty())
         co_return settings;
@@ -188,14 +122,6 @@ readSettings(DevicePointer device, QString ldName, FunctionalConstraint constrai
                 setting.reason = text(mms::describe(value.error()));
         }
     }
-    const bool hasData = std::any_of(settings.begin(), settings.end(), [](const Setting &setting) {
-        return setting.data.has_value();
-    });
-    if (!hasData && !settings.empty()) {
-        const QString sentence =
-            Texts::tr("%1: %2").arg(settings.front().reference, settings.front().reason);
-        co_return mms::Error{sentence.toStdString(), 0};
-    }
     co_return settings;
 }
 
@@ -211,16 +137,24 @@ QVariant editable(const QVariant &value)
     return fits ? QVariant(number) : QVariant(value.toString());
 }
 
-/// Shows in the model what was read.
-void enter(const DevicePointer &device, const acsi::Reference &block,
-           const acsi::SettingGroupBlock &read)
+/// Whether the operator left the value as it was shown. What was not changed need not be anything
+/// that can be written: settings that were never set are no numbers.
+bool isUnchanged(const QVariant &shown, const QVariant &wanted)
 {
-    const LogicalNode *node =
-        device->model() ? device->model()->node(text(block.device), text(block.node)) : nullptr;
-    if (!node || !node->settingGroup)
-        return;
-    node->settingGroup->numOfSG = static_cast<int>(read.numOfSG);
-    node->settingGroup->activeGroup = static_cast<int>(read.actSG);
+    const int type = shown.userType();
+    if (type == QMetaType::Float || type == QMetaType::Double) {
+        bool isNumber = false;
+        const double number = wanted.toDouble(&isNumber);
+        const double before = shown.toDouble();
+        if (!isNumber || std::isnan(before) || std::isnan(number))
+            return isNumber && std::isnan(before) && std::isnan(number);
+        const bool fits = std::abs(number) <= double(std::numeric_limits<float>::max());
+        return before == number ||
+               (type == QMetaType::Float && fits && static_cast<float>(number) == shown.toFloat());
+    }
+    if (type == QMetaType::Int)
+        return wanted.userType() != QMetaType::Bool && wanted.toString() == shown.toString();
+    return shown.isValid() && type == wanted.userType() && shown == wanted;
 }
 
 QDateTime dateTime(const mms::UtcTime &time)
@@ -232,7 +166,7 @@ QDateTime dateTime(const mms::UtcTime &time)
 asio::awaitable<Outcome> readBlock(DevicePointer device, QString ldName,
                                    std::shared_ptr<SGCB> block)
 {
-    const mms::Result<acsi::Reference> reference = blockOf(*device->model(), ldName);
+    const mms::Result<acsi::Reference> reference = SettingModel::block(*device->model(), ldName);
     if (!reference)
         co_return Outcome::failed(reference.error());
     const mms::Result<acsi::SettingGroupBlock> read =
@@ -245,7 +179,7 @@ asio::awaitable<Outcome> readBlock(DevicePointer device, QString ldName,
                                       .arg(text(*reference))
                                       .arg(read->numOfSG));
     }
-    enter(device, *reference, *read);
+    device->part<SettingGroups>().enter(*reference, read->numOfSG, read->actSG);
     block->name = text(*reference);
     block->numOfSG = static_cast<quint8>(read->numOfSG);
     block->actSG = static_cast<quint8>(read->actSG);
@@ -256,13 +190,76 @@ asio::awaitable<Outcome> readBlock(DevicePointer device, QString ldName,
     co_return Outcome();
 }
 
-QString noEditGroup(const QString &ldName)
+QString otherClient(const QString &ldName, std::uint32_t group)
 {
-    return Texts::tr("No setting group of %1 is being edited: select the group to edit first.")
+    return Texts::tr("Another client is editing group %1 of %2.").arg(group).arg(ldName);
+}
+
+/// Why the edited settings are not the caller's; empty when they are.
+QString refusalOf(Verdict verdict, const QString &ldName, std::uint32_t chosen,
+                  std::uint32_t edited)
+{
+    switch (verdict) {
+    case Verdict::Granted:
+        return {};
+    case Verdict::NothingChosen:
+        return Texts::tr("No setting group of %1 is being edited: select the group to edit first.")
+            .arg(ldName);
+    case Verdict::OtherWindow:
+        return Texts::tr("Group %1 of %2 was chosen for editing in another window: select the "
+                         "group to edit first.")
+            .arg(chosen)
+            .arg(ldName);
+    case Verdict::OtherClient:
+        return otherClient(ldName, edited);
+    case Verdict::GivenUp:
+        return Texts::tr("The device has given up the edit of group %1 of %2: select the group to "
+                         "edit again.")
+            .arg(chosen)
+            .arg(ldName);
+    }
+    return {};
+}
+
+QString noEditedSettings(const QString &ldName)
+{
+    return Texts::tr("%1 has no settings that can be edited: the device describes none under SE.")
         .arg(ldName);
 }
 
-asio::awaitable<Outcome> readValues(DevicePointer device, QString ldName, QString fc,
+Outcome stillConnected(const DevicePointer &device)
+{
+    if (device->client() && device->model())
+        return {};
+    return {OperationNotConnected, device->notConnectedSentence()};
+}
+
+/// Whether the caller may read or write the edited settings, as the device says now.
+asio::awaitable<Outcome> checkEdit(DevicePointer device, QString ldName, acsi::Reference block,
+                                   Caller caller)
+{
+    if (SettingModel::nodes(*device->model(), ldName, FunctionalConstraint::SE).empty())
+        co_return Outcome::failed(noEditedSettings(ldName));
+    const mms::Result<acsi::SettingGroupBlock> read =
+        co_await acsi::readSettingGroupBlock(device->client(), block);
+    if (!read)
+        co_return Outcome::failed(read.error());
+    const Outcome connected = stillConnected(device);
+    if (!connected)
+        co_return connected;
+    SettingGroupEdit &edit = device->part<SettingGroups>().edit(ldName);
+    const Verdict verdict = edit.verdict(caller, read->editSG);
+    const QString refusal = refusalOf(verdict, ldName, edit.group(), read->editSG);
+    if (refusal.isEmpty()) {
+        edit.used(steady_clock::now());
+        co_return Outcome();
+    }
+    if (verdict == Verdict::GivenUp)
+        edit.ended();
+    co_return Outcome::failed(refusal);
+}
+
+asio::awaitable<Outcome> readValues(DevicePointer device, QString ldName, QString fc, Caller caller,
                                     std::shared_ptr<QList<SGCBValue>> values)
 {
     const auto constraint = acsi::functionalConstraintFrom(fc.toStdString());
@@ -270,27 +267,41 @@ asio::awaitable<Outcome> readValues(DevicePointer device, QString ldName, QStrin
         co_return Outcome::failed(
             Texts::tr("Settings are read under SG or SE, not under \"%1\".").arg(fc));
     }
-    const mms::Result<acsi::Reference> block = blockOf(*device->model(), ldName);
+    const mms::Result<acsi::Reference> block = SettingModel::block(*device->model(), ldName);
     if (!block)
         co_return Outcome::failed(block.error());
+    Outcome outcome;
     if (constraint == FunctionalConstraint::SE) {
-        const mms::Result<acsi::SettingGroupBlock> read =
-            co_await acsi::readSettingGroupBlock(device->client(), *block);
-        if (!read)
-            co_return Outcome::failed(read.error());
-        if (read->editSG == 0)
-            co_return Outcome::failed(noEditGroup(ldName));
+        outcome = co_await checkEdit(device, ldName, *block, caller);
+        if (!outcome)
+            co_return outcome;
+    } else if (device->part<SettingGroups>().edit(ldName).endsByReadingActive(caller)) {
+        co_await device->part<SettingGroups>().release(ldName);
+        outcome = stillConnected(device);
+        if (!outcome)
+            co_return outcome;
     }
     const mms::Result<std::vector<Setting>> settings =
         co_await readSettings(device, ldName, *constraint);
     if (!settings)
         co_return Outcome::failed(settings.error());
+    const bool hasData =
+        std::any_of(settings->begin(), settings->end(),
+                    [](const Setting &setting) { return setting.data.has_value(); });
+    if (!hasData && !settings->empty()) {
+        co_return Outcome::failed(
+            Texts::tr("%1: %2").arg(settings->front().reference, settings->front().reason));
+    }
+    outcome = stillConnected(device);
+    if (!outcome)
+        co_return outcome;
     for (const Setting &setting : *settings) {
         SGCBValue value;
         value.name = setting.reference;
-        if (setting.data)
+        if (setting.data) {
             value.value = editable(ValueConversion::toVariant(
-                basicTypeOf(*device->model(), setting.reference), *setting.data));
+                SettingModel::basicType(*device->model(), setting.reference), *setting.data));
+        }
         values->append(value);
     }
     co_return Outcome();
@@ -305,55 +316,83 @@ struct NewValue
     QString newText;
 };
 
-/// What the tool wants to have in the group; the error names a setting that cannot be that.
-mms::Result<std::vector<NewValue>> newValuesOf(const OnlineModel &model, const QString &ldName,
-                                               const QList<SGCBValue> &values)
+/// What the tool gives for a setting.
+mms::Result<acsi::Reference> settingReference(const QString &ldName, const QString &name)
+{
+    if (name.contains(QLatin1Char('/')))
+        return acsi::parseReference(name.toStdString());
+    return acsi::parseReference(ldName.toStdString(), name.toStdString());
+}
+
+/// What the tool wants to be otherwise in the group; the error names a setting that cannot be that.
+mms::Result<std::vector<NewValue>> changesOf(const OnlineModel &model, const QString &ldName,
+                                             const QList<SGCBValue> &values,
+                                             const std::vector<Setting> &known)
 {
     const auto error = [](const QString &sentence) {
         return mms::Error{sentence.toStdString(), 0};
     };
+    QHash<QString, const Setting *> byReference;
+    for (const Setting &setting : known)
+        byReference.insert(setting.reference, &setting);
     std::vector<NewValue> result;
     for (const SGCBValue &value : values) {
-        const std::string name = value.name.toStdString();
-        mms::Result<acsi::Reference> reference =
-            value.name.contains(QLatin1Char('/'))
-                ? acsi::parseReference(name)
-                : acsi::parseReference(ldName.toStdString(), name);
+        mms::Result<acsi::Reference> reference = settingReference(ldName, value.name);
         if (!reference)
             return reference.error();
         const bool isSetting = reference->device == ldName.toStdString() &&
-                               (reference->constraint == FunctionalConstraint::SG ||
-                                reference->constraint == FunctionalConstraint::SE);
-        reference->constraint = FunctionalConstraint::SE;
+                               reference->constraint == FunctionalConstraint::SE;
         const mms::TypeDescription *type = isSetting ? model.type(*reference) : nullptr;
         if (!type)
             return error(Texts::tr("%1 has no setting %2.").arg(ldName, value.name));
-        mms::Result<mms::Data> data =
-            ValueConversion::toData(basicTypeOf(model, text(*reference)), *type, value.value);
+        // A setting that could not be read was listed without a value.
+        if (!value.value.isValid())
+            continue;
+        const QString basicType = SettingModel::basicType(model, text(*reference));
+        const Setting *setting = byReference.value(text(*reference));
+        QVariant shown;
+        if (setting && setting->data)
+            shown = editable(ValueConversion::toVariant(basicType, *setting->data));
+        if (isUnchanged(shown, value.value))
+            continue;
+        mms::Result<mms::Data> data = ValueConversion::toData(basicType, *type, value.value);
         if (!data)
             return error(Texts::tr("%1: %2").arg(value.name, text(data.error().message)));
-        result.push_back(
-            {*reference, *std::move(data), QString(), ValueConversion::text(value.value)});
+        if (setting && setting->data == *data)
+            continue;
+        result.push_back({*reference, *std::move(data),
+                          shown.isValid() ? ValueConversion::text(shown) : QString(),
+                          ValueConversion::text(value.value)});
     }
     return result;
 }
 
-/// Leaves those that the group does not have already.
-void keepChanges(const OnlineModel &model, const std::vector<Setting> &known,
-                 std::vector<NewValue> &values)
+/// What became of writes without an answer, as far as the device tells when it is asked.
+asio::awaitable<void> readBack(DevicePointer device, const std::vector<NewValue> &values,
+                               std::vector<acsi::SettingWrite> &written)
 {
-    QHash<QString, const Setting *> byReference;
-    for (const Setting &setting : known)
-        byReference.insert(setting.reference, &setting);
-    std::erase_if(values, [&](NewValue &value) {
-        const QString reference = text(value.reference);
-        const Setting *setting = byReference.value(reference);
-        if (!setting || !setting->data)
-            return false;
-        value.oldText = ValueConversion::text(
-            ValueConversion::toVariant(basicTypeOf(model, reference), *setting->data));
-        return *setting->data == value.data;
-    });
+    std::vector<std::size_t> places;
+    std::vector<mms::VariableAccess> variables;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        if (!written[i].isUnknown())
+            continue;
+        places.push_back(i);
+        variables.push_back(acsi::accessOf(values[i].reference));
+    }
+    const std::shared_ptr<acsi::Client> client = device->client();
+    if (places.empty() || !client || !client->isOpen())
+        co_return;
+    const auto results = co_await client->read(std::move(variables));
+    if (!results)
+        co_return;
+    for (std::size_t i = 0; i < places.size() && i < results->size(); ++i) {
+        const mms::AccessResult &result = (*results)[i];
+        if (!result.ok())
+            continue;
+        acsi::SettingWrite &write = written[places[i]];
+        const bool isDone = result.data() == values[places[i]].data;
+        write.kind = isDone ? acsi::SettingWrite::Kind::Done : acsi::SettingWrite::Kind::Refused;
+    }
 }
 
 /// Writes the values and journals each; one sentence names those that were refused.
@@ -369,17 +408,21 @@ asio::awaitable<Outcome> writeValues(DevicePointer device, const std::vector<New
         variables.push_back(acsi::accessOf(value.reference));
         data.push_back(value.data);
     }
-    const auto results = co_await device->client()->write(std::move(variables), std::move(data));
+    std::vector<acsi::SettingWrite> written =
+        co_await acsi::writeSettings(device->client(), std::move(variables), std::move(data));
+    co_await readBack(device, values, written);
     QStringList refusals;
     int count = 0;
     for (std::size_t i = 0; i < values.size(); ++i) {
+        const acsi::SettingWrite &write = written[i];
         Outcome outcome;
-        if (!results)
-            outcome = Outcome::failed(results.error());
-        else if (i >= results->size())
-            outcome = Outcome::failed(Texts::tr("The device has not answered."));
-        else if (const auto &refusal = (*results)[i])
-            outcome = Outcome::failed(text(mms::describe(*refusal)));
+        if (write.isUnknown()) {
+            outcome = Outcome::failed(Texts::tr("%1; it is not known whether the setting was "
+                                                "written.")
+                                          .arg(withoutPeriod(text(write.message))));
+        } else if (!write) {
+            outcome = Outcome::failed(text(write.message));
+        }
         entries[i]->setOutcome(outcome);
         if (outcome)
             continue;
@@ -387,8 +430,6 @@ asio::awaitable<Outcome> writeValues(DevicePointer device, const std::vector<New
             refusals.append(
                 Texts::tr("%1: %2").arg(text(values[i].reference), withoutPeriod(outcome.error)));
     }
-    if (!results)
-        co_return Outcome::failed(results.error());
     if (count == 0)
         co_return Outcome();
     QString sentence = refusals.join(QStringLiteral("; "));
@@ -397,26 +438,45 @@ asio::awaitable<Outcome> writeValues(DevicePointer device, const std::vector<New
     co_return Outcome::failed(Texts::tr("%1. The changes are not confirmed.").arg(sentence));
 }
 
-Outcome stillConnected(const DevicePointer &device)
+/// CnfEdit, and EditSG given back where the device keeps it.
+asio::awaitable<Outcome> confirm(DevicePointer device, QString ldName, acsi::Reference block)
 {
-    if (device->client() && device->model())
-        return {};
-    return {OperationNotConnected, device->notConnectedSentence()};
+    const std::uint32_t group = device->part<SettingGroups>().edit(ldName).group();
+    const acsi::SettingWrite confirmed = co_await acsi::confirmEdit(device->client(), block);
+    if (!confirmed && !confirmed.isUnknown())
+        co_return Outcome::failed(confirmed.error());
+    Outcome outcome;
+    if (confirmed.isUnknown()) {
+        outcome = Outcome::failed(Texts::tr("%1 It is not known whether the changes of group %2 "
+                                            "were taken over: select the group and look.")
+                                      .arg(text(confirmed.message))
+                                      .arg(group));
+    }
+    if (!stillConnected(device))
+        co_return outcome;
+    const mms::Result<acsi::SettingGroupBlock> read =
+        co_await acsi::readSettingGroupBlock(device->client(), block);
+    if (!stillConnected(device))
+        co_return outcome;
+    if (read && read->editSG != 0 && read->editSG == group && !confirmed.isUnknown())
+        static_cast<void>(co_await acsi::selectEditGroup(device->client(), block, 0));
+    if (confirmed || (read && read->editSG != group))
+        device->part<SettingGroups>().edit(ldName).ended();
+    co_return outcome;
 }
 
 asio::awaitable<Outcome> setValues(DevicePointer device, QString ldName, acsi::Reference block,
-                                   QList<SGCBValue> wanted)
+                                   QList<SGCBValue> wanted, Caller caller)
 {
-    mms::Result<std::vector<NewValue>> values = newValuesOf(*device->model(), ldName, wanted);
-    if (!values)
-        co_return Outcome::failed(values.error());
-    const mms::Result<acsi::SettingGroupBlock> read =
-        co_await acsi::readSettingGroupBlock(device->client(), block);
-    if (!read)
-        co_return Outcome::failed(read.error());
-    if (read->editSG == 0)
-        co_return Outcome::failed(noEditGroup(ldName));
-    Outcome outcome = stillConnected(device);
+    for (const SGCBValue &value : qAsConst(wanted)) {
+        const mms::Result<acsi::Reference> reference = settingReference(ldName, value.name);
+        if (reference && reference->constraint == FunctionalConstraint::SG) {
+            co_return Outcome::failed(
+                Texts::tr("These are the settings of the active group; choose "
+                          "the group to edit first."));
+        }
+    }
+    Outcome outcome = co_await checkEdit(device, ldName, block, caller);
     if (!outcome)
         co_return outcome;
     const mms::Result<std::vector<Setting>> known =
@@ -426,108 +486,209 @@ asio::awaitable<Outcome> setValues(DevicePointer device, QString ldName, acsi::R
     outcome = stillConnected(device);
     if (!outcome)
         co_return outcome;
-    keepChanges(*device->model(), *known, *values);
-    if (!values->empty()) {
-        outcome = co_await writeValues(device, *values);
+    const mms::Result<std::vector<NewValue>> changes =
+        changesOf(*device->model(), ldName, wanted, *known);
+    if (!changes)
+        co_return Outcome::failed(changes.error());
+    if (!changes->empty()) {
+        outcome = co_await writeValues(device, *changes);
         if (!outcome)
             co_return outcome;
     }
     outcome = stillConnected(device);
     if (!outcome)
         co_return outcome;
-    const mms::Result<void> confirmed = co_await acsi::confirmEdit(device->client(), block);
-    if (!confirmed)
-        co_return Outcome::failed(confirmed.error());
+    const std::uint32_t group = device->part<SettingGroups>().edit(ldName).group();
+    outcome = co_await confirm(device, ldName, block);
+    if (!outcome || changes->empty() || !stillConnected(device))
+        co_return outcome;
 
     // Changes of the active group hold at once and are shown at once.
-    if (read->editSG == read->actSG && !values->empty()) {
+    const LogicalNode *node = device->model()->node(text(block.device), text(block.node));
+    if (node && node->settingGroup && node->settingGroup->activeGroup == static_cast<int>(group)) {
         std::vector<acsi::Reference> active;
-        for (const NewValue &value : *values) {
+        for (const NewValue &value : *changes) {
             active.push_back(value.reference);
             active.back().constraint = FunctionalConstraint::SG;
         }
         const DeviceConnection::Publication publication;
         static_cast<void>(co_await device->readAndPublish(std::move(active), publication));
     }
-    co_return Outcome();
+    co_return outcome;
 }
 
 asio::awaitable<Outcome> setAndConfirm(DevicePointer device, QString ldName,
-                                       QList<SGCBValue> wanted)
+                                       QList<SGCBValue> wanted, Caller caller)
 {
-    const mms::Result<acsi::Reference> block = blockOf(*device->model(), ldName);
+    const mms::Result<acsi::Reference> block = SettingModel::block(*device->model(), ldName);
     JournalEntry entry(device, QStringLiteral("setSGCBValues"),
-                       block ? text(attributeOf(*block, "CnfEdit")) : ldName);
+                       block ? text(SettingModel::attribute(*block, "CnfEdit")) : ldName);
     entry.setValues(QString(), QStringLiteral("true"));
     Outcome outcome;
     if (block)
-        outcome = co_await setValues(device, ldName, *block, std::move(wanted));
+        outcome = co_await setValues(device, ldName, *block, std::move(wanted), caller);
     else
         outcome = Outcome::failed(block.error());
     entry.setOutcome(outcome);
     co_return outcome;
 }
 
-enum class Selection { Active, Edited };
+Outcome rangeOf(const acsi::SettingGroupBlock &read, const acsi::Reference &block, int lowest,
+                int group)
+{
+    if (group >= lowest && static_cast<std::uint32_t>(group) <= read.numOfSG)
+        return {};
+    return Outcome::failed(Texts::tr("%1 has the setting groups 1 to %2; there is no group %3.")
+                               .arg(text(block.device))
+                               .arg(read.numOfSG)
+                               .arg(group));
+}
 
-asio::awaitable<Outcome> writeGroup(DevicePointer device, acsi::Reference block, bool isActive,
-                                    int group, JournalEntry *entry)
+/// The active group, once it is the wanted one or the time is over; none when it cannot be read.
+asio::awaitable<std::optional<std::uint32_t>>
+activeAfter(DevicePointer device, acsi::Reference block, std::uint32_t group)
+{
+    const auto end = steady_clock::now() + device->configuration().callTimeout;
+    std::optional<std::uint32_t> active;
+    while (stillConnected(device)) {
+        const mms::Result<acsi::SettingGroupBlock> read =
+            co_await acsi::readSettingGroupBlock(device->client(), block);
+        if (!read)
+            break;
+        active = read->actSG;
+        device->part<SettingGroups>().enter(block, read->numOfSG, read->actSG);
+        if (read->actSG == group || steady_clock::now() >= end)
+            break;
+        asio::steady_timer timer(device->strand(), activationLook);
+        co_await timer.async_wait(asio::use_awaitable);
+    }
+    co_return active;
+}
+
+asio::awaitable<Outcome> selectActive(DevicePointer device, acsi::Reference block, int group,
+                                      JournalEntry *entry)
 {
     const mms::Result<acsi::SettingGroupBlock> read =
         co_await acsi::readSettingGroupBlock(device->client(), block);
     if (!read)
         co_return Outcome::failed(read.error());
-    entry->setValues(QString::number(isActive ? read->actSG : read->editSG),
-                     QString::number(group));
+    entry->setValues(QString::number(read->actSG), QString::number(group));
+    Outcome outcome = rangeOf(*read, block, 1, group);
+    if (outcome)
+        outcome = stillConnected(device);
+    if (!outcome)
+        co_return outcome;
     const auto number = static_cast<std::uint32_t>(group);
-    if (group < (isActive ? 1 : 0) || number > read->numOfSG) {
+    const acsi::SettingWrite written =
+        co_await acsi::selectActiveGroup(device->client(), block, number);
+    if (!written && !written.isUnknown())
+        co_return Outcome::failed(written.error());
+    const std::optional<std::uint32_t> active = co_await activeAfter(device, block, number);
+    if (active == number)
+        co_return Outcome();
+    if (active && written) {
         co_return Outcome::failed(
-            Texts::tr("%1 has the setting groups 1 to %2; there is no group %3.")
+            Texts::tr("%1 has accepted group %2, but group %3 is still the active one.")
                 .arg(text(block.device))
-                .arg(read->numOfSG)
+                .arg(group)
+                .arg(*active));
+    }
+    if (active) {
+        co_return Outcome::failed(
+            Texts::tr("%1 Group %2 is the active one.").arg(text(written.message)).arg(*active));
+    }
+    if (written)
+        co_return Outcome();
+    co_return Outcome::failed(Texts::tr("%1 It is not known whether group %2 became active: look "
+                                        "at the active group.")
+                                  .arg(text(written.message))
+                                  .arg(group));
+}
+
+asio::awaitable<Outcome> selectEdited(DevicePointer device, acsi::Reference block, int group,
+                                      Caller caller, JournalEntry *entry)
+{
+    const QString ldName = text(block.device);
+    const mms::Result<acsi::SettingGroupBlock> read =
+        co_await acsi::readSettingGroupBlock(device->client(), block);
+    if (!read)
+        co_return Outcome::failed(read.error());
+    entry->setValues(QString::number(read->editSG), QString::number(group));
+    Outcome outcome = rangeOf(*read, block, 0, group);
+    if (outcome)
+        outcome = stillConnected(device);
+    if (!outcome)
+        co_return outcome;
+    if (group > 0 &&
+        SettingModel::nodes(*device->model(), ldName, FunctionalConstraint::SE).empty())
+        co_return Outcome::failed(noEditedSettings(ldName));
+    SettingGroups &groups = device->part<SettingGroups>();
+    const std::uint32_t before = groups.edit(ldName).group();
+    const bool isOthers = read->editSG != 0 && read->editSG != before;
+    if (group == 0 && isOthers)
+        co_return Outcome::failed(otherClient(ldName, read->editSG));
+    const auto number = static_cast<std::uint32_t>(group);
+    const acsi::SettingWrite written =
+        co_await acsi::selectEditGroup(device->client(), block, number);
+    bool isChosen = written.ok();
+    if (!written && !written.isUnknown()) {
+        if (isOthers) {
+            co_return Outcome::failed(
+                Texts::tr("%1 %2").arg(otherClient(ldName, read->editSG), text(written.message)));
+        }
+        co_return Outcome::failed(written.error());
+    }
+    outcome = stillConnected(device);
+    if (outcome && written.isUnknown()) {
+        const mms::Result<acsi::SettingGroupBlock> now =
+            co_await acsi::readSettingGroupBlock(device->client(), block);
+        outcome = stillConnected(device);
+        // The number alone does not tell whose edit it is.
+        isChosen = now && now->editSG == number && !isOthers;
+    }
+    if (!isChosen) {
+        if (outcome)
+            groups.edit(ldName).ended();
+        co_return Outcome::failed(
+            Texts::tr("%1 It is not known whether the device is editing group "
+                      "%2: select the group to edit again.")
+                .arg(text(written.message))
                 .arg(group));
     }
-    const Outcome connected = stillConnected(device);
-    if (!connected)
-        co_return connected;
-    mms::Result<void> written;
-    if (isActive)
-        written = co_await acsi::selectActiveGroup(device->client(), block, number);
+    if (!outcome)
+        co_return outcome;
+    if (group > 0)
+        groups.edit(ldName).chosen(caller, number, steady_clock::now());
     else
-        written = co_await acsi::selectEditGroup(device->client(), block, number);
-    if (!written)
-        co_return Outcome::failed(written.error());
-    if (isActive) {
-        acsi::SettingGroupBlock now = *read;
-        now.actSG = number;
-        enter(device, block, now);
-    }
+        groups.edit(ldName).ended();
     co_return Outcome();
 }
 
+enum class Selection { Active, Edited };
+
 asio::awaitable<Outcome> selectGroup(DevicePointer device, QString ldName, Selection selection,
-                                     int group)
+                                     int group, Caller caller)
 {
     const bool isActive = selection == Selection::Active;
     Outcome outcome;
     {
-        const mms::Result<acsi::Reference> block = blockOf(*device->model(), ldName);
+        const mms::Result<acsi::Reference> block = SettingModel::block(*device->model(), ldName);
+        const char *const attribute = isActive ? "ActSG" : "EditSG";
         JournalEntry entry(
             device, isActive ? QStringLiteral("selectActiveSG") : QStringLiteral("selectEditSG"),
-            block ? text(attributeOf(*block, isActive ? "ActSG" : "EditSG")) : ldName);
+            block ? text(SettingModel::attribute(*block, attribute)) : ldName);
         entry.setValues(QString(), QString::number(group));
-        if (block)
-            outcome = co_await writeGroup(device, *block, isActive, group, &entry);
-        else
+        if (!block)
             outcome = Outcome::failed(block.error());
+        else if (isActive)
+            outcome = co_await selectActive(device, *block, group, &entry);
+        else
+            outcome = co_await selectEdited(device, *block, group, caller, &entry);
         entry.setOutcome(outcome);
     }
     // All settings are others now.
-    if (outcome && isActive && stillConnected(device)) {
-        const DeviceConnection::Publication publication;
-        static_cast<void>(co_await device->readAndPublish(
-            nodesWith(*device->model(), ldName, FunctionalConstraint::SG), publication));
-    }
+    if (outcome && isActive && stillConnected(device))
+        co_await device->part<SettingGroups>().publishActive(ldName);
     co_return outcome;
 }
 
@@ -552,9 +713,10 @@ OperationResult IedDriver::getSGCBValue(long deviceNo, const QString &sgcbRefere
 {
     const auto read = std::make_shared<QList<SGCBValue>>();
     const QString ldName = logicalDeviceOf(sgcbReference);
+    const Caller caller = ControllerCaller::current();
     const OperationResult result = m_runtime->run(
-        deviceNo, Runtime::Effect::Reads, error, [ldName, fc, read](DevicePointer device) {
-            return readValues(std::move(device), ldName, fc, read);
+        deviceNo, Runtime::Effect::Reads, error, [ldName, fc, caller, read](DevicePointer device) {
+            return readValues(std::move(device), ldName, fc, caller, read);
         });
     if (result == OperationSucceeded)
         values = *read;
@@ -565,9 +727,10 @@ OperationResult IedDriver::setSGCBValues(long deviceNo, const QString &sgcbRefer
                                          const QList<SGCBValue> &values, QString &error)
 {
     const QString ldName = logicalDeviceOf(sgcbReference);
+    const Caller caller = ControllerCaller::current();
     return m_runtime->run(deviceNo, Runtime::Effect::Changes, error,
-                          [ldName, values](DevicePointer device) {
-                              return setAndConfirm(std::move(device), ldName, values);
+                          [ldName, values, caller](DevicePointer device) {
+                              return setAndConfirm(std::move(device), ldName, values, caller);
                           });
 }
 
@@ -575,9 +738,10 @@ OperationResult IedDriver::selectEditSG(long deviceNo, const QString &sgcbRefere
                                         QString &error)
 {
     const QString ldName = logicalDeviceOf(sgcbReference);
+    const Caller caller = ControllerCaller::current();
     return m_runtime->run(
-        deviceNo, Runtime::Effect::Changes, error, [ldName, group](DevicePointer device) {
-            return selectGroup(std::move(device), ldName, Selection::Edited, group);
+        deviceNo, Runtime::Effect::Changes, error, [ldName, group, caller](DevicePointer device) {
+            return selectGroup(std::move(device), ldName, Selection::Edited, group, caller);
         });
 }
 
@@ -585,8 +749,9 @@ OperationResult IedDriver::selectActiveSG(long deviceNo, const QString &sgcbRefe
                                           QString &error)
 {
     const QString ldName = logicalDeviceOf(sgcbReference);
+    const Caller caller = ControllerCaller::current();
     return m_runtime->run(
-        deviceNo, Runtime::Effect::Changes, error, [ldName, group](DevicePointer device) {
-            return selectGroup(std::move(device), ldName, Selection::Active, group);
+        deviceNo, Runtime::Effect::Changes, error, [ldName, group, caller](DevicePointer device) {
+            return selectGroup(std::move(device), ldName, Selection::Active, group, caller);
         });
 }

@@ -95,7 +95,9 @@ ExitStatus writeGroup(Session &session, const QString &logicalDevice, int group,
     QList<SGCBValue> values;
     const OperationResult result = session.controller().getSGCBValue(
         session.deviceNo(), logicalDevice, QStringLiteral("SE"), values, error);
-    if (result != OperationSucceeded)
+    // Settings that can be written but not read are sent as they were typed.
+    const bool isReadable = result == OperationSucceeded;
+    if (!isReadable && settings.isEmpty())
         return session.failed(result, error);
     for (const QString &setting : settings) {
         const int equals = setting.indexOf(QLatin1Char('='));
@@ -103,6 +105,10 @@ ExitStatus writeGroup(Session &session, const QString &logicalDevice, int group,
             return session.failed(
                 QStringLiteral("\"%1\" is not \"reference=value\".").arg(setting));
         const QString name = setting.left(equals);
+        if (!isReadable) {
+            values.append({name, setting.mid(equals + 1)});
+            continue;
+        }
         bool found = false;
         for (SGCBValue &value : values) {
             if (value.name != name)

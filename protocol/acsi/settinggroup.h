@@ -28,15 +28,41 @@ struct SettingGroupBlock
 mms::Result<SettingGroupBlock> settingGroupBlockFrom(const mms::TypeDescription &type,
                                                      const mms::Data &value);
 
+/// What became of a write: without an answer nobody knows.
+struct [[nodiscard]] SettingWrite
+{
+    enum class Kind : std::uint8_t {
+        Done,
+        Refused, ///< or never sent
+        Unknown
+    };
+
+    Kind kind = Kind::Done;
+    std::string message; ///< why it is not done; one sentence
+    /// Of a refusal by the device.
+    std::optional<mms::DataAccessError> refusal;
+
+    bool ok() const { return kind == Kind::Done; }
+    explicit operator bool() const { return ok(); }
+    bool isUnknown() const { return kind == Kind::Unknown; }
+    mms::Error error() const { return {message, 0}; }
+};
+
 /// @p block is "LD/LN$SP$SGCB" in the functions below.
 asio::awaitable<mms::Result<SettingGroupBlock>>
 readSettingGroupBlock(std::shared_ptr<Client> client, Reference block);
-asio::awaitable<mms::Result<void>> selectActiveGroup(std::shared_ptr<Client> client,
-                                                     Reference block, std::uint32_t group);
+asio::awaitable<SettingWrite> selectActiveGroup(std::shared_ptr<Client> client, Reference block,
+                                                std::uint32_t group);
 /// Group 0 gives up editing.
-asio::awaitable<mms::Result<void>> selectEditGroup(std::shared_ptr<Client> client, Reference block,
-                                                   std::uint32_t group);
-asio::awaitable<mms::Result<void>> confirmEdit(std::shared_ptr<Client> client, Reference block);
+asio::awaitable<SettingWrite> selectEditGroup(std::shared_ptr<Client> client, Reference block,
+                                              std::uint32_t group);
+asio::awaitable<SettingWrite> confirmEdit(std::shared_ptr<Client> client, Reference block);
+
+/// Writes in the order of the list, a few variables with each request, and says of each what became
+/// of it. After a request without an answer nothing more is sent.
+asio::awaitable<std::vector<SettingWrite>> writeSettings(std::shared_ptr<Client> client,
+                                                         std::vector<mms::VariableAccess> variables,
+                                                         std::vector<mms::Data> values);
 
 struct SettingLeaf
 {
