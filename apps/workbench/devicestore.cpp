@@ -39,6 +39,18 @@ DeviceStore::DeviceStore(const QString &settingsFile)
     read();
 }
 
+void DeviceStore::makePrivate(const QString &settingsFile)
+{
+    QFile file(settingsFile);
+    if (!file.exists()) {
+        QFileInfo(settingsFile).dir().mkpath(QStringLiteral("."));
+        file.open(QIODevice::WriteOnly | QIODevice::NewOnly);
+        file.close();
+    }
+    // What is written into it later keeps them.
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+}
+
 QString DeviceStore::canonicalFile(const QString &file)
 {
     const QFileInfo info(file);
@@ -140,8 +152,17 @@ void DeviceStore::read()
     }
 }
 
+void DeviceStore::freeze(const QString &reason)
+{
+    m_isFrozen = true;
+    m_problem = reason;
+}
+
 void DeviceStore::write()
 {
+    if (m_isFrozen)
+        return;
+    makePrivate(m_settingsFile);
     QSettings settings(m_settingsFile, QSettings::IniFormat);
     settings.setIniCodec("UTF-8");
     settings.remove(arrayKey);
@@ -162,7 +183,6 @@ void DeviceStore::write()
     settings.endArray();
     settings.setValue(nextNumberKey, m_nextNumber);
     settings.sync();
-    QFile::setPermissions(m_settingsFile, QFile::ReadOwner | QFile::WriteOwner);
 
     m_problem.clear();
     if (settings.status() != QSettings::NoError) {

@@ -28,7 +28,7 @@ struct DeviceRecord
 
 /// The devices that are remembered between starts, in one settings file. Every change is written
 /// at once. A number belongs to one device for good: it is not given out again after a removal.
-/// The file may hold passwords, so that only its owner can read it.
+/// The file may hold passwords, so that only its owner can read it, from its first octet.
 class DeviceStore
 {
 public:
@@ -57,9 +57,15 @@ public:
     /// Forget a device; nothing happens when there is none of that number.
     void remove(int number);
 
+    /// Write nothing from now on, for the reason given, one sentence.
+    void freeze(const QString &reason);
+
     /// Why the last change may be forgotten at the next start, one sentence; empty when all is
     /// well.
     QString problem() const { return m_problem; }
+
+    /// See to it that only its owner can read the file, made empty where there is none.
+    static void makePrivate(const QString &settingsFile);
 
     /// The one spelling of a path by which files are compared.
     static QString canonicalFile(const QString &file);
@@ -72,5 +78,6 @@ private:
     QVector<DeviceRecord> m_devices;
     int m_nextNumber = 1;
     bool m_firstStart = true;
+    bool m_isFrozen = false;
     QString m_problem;
 };

@@ -120,6 +120,8 @@ int runWindow(const CommandLine &line)
     for (const QString &file : line.files)
         workbench.open(file, line.ied);
     const int status = QApplication::exec();
+    if (!workbench.keepsSettings())
+        return status;
     settings.setValue(geometryKey, window.saveGeometry());
     settings.setValue(stateKey, window.saveState());
     return status;

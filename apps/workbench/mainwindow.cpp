@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mainwindow.h"
 
+#include "confirmationdialog.h"
 #include "devicedialog.h"
 #include "guideviewer.h"
 #include "iedchooser.h"
@@ -19,9 +20,12 @@
 #include <QtCore/QSortFilterProxyModel>
 #include <QtGui/QDesktopServices>
 #include <QtGui/QDragEnterEvent>
+#include <QtWidgets/QActionGroup>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QScrollBar>
@@ -104,6 +108,7 @@ MainWindow::MainWindow(Workbench &workbench, const QString &pluginFolder, QWidge
 
     setUpViews();
     setUpActions();
+    setUpConfirmation();
     setUpStatusBar();
 
     connect(&m_workbench, &Workbench::choiceNeeded, this, &MainWindow::askForIeds);
@@ -116,6 +121,7 @@ MainWindow::MainWindow(Workbench &workbench, const QString &pluginFolder, QWidge
 
 MainWindow::~MainWindow()
 {
+    m_workbench.confirmation().setAsk({});
     m_context.mainWindow = nullptr;
 }
 
@@ -265,6 +271,34 @@ void MainWindow::setUpActions()
                                                              m_ui->toolBar->toggleViewAction()});
     m_ui->menuView->insertSeparator(m_ui->actionClearJournal);
     m_ui->menuTools->menuAction()->setEnabled(false);
+}
+
+void MainWindow::setUpConfirmation()
+{
+    m_workbench.confirmation().setAsk([this](const CallConfirmation::Question &question) {
+        QWidget *const asking = QApplication::activeWindow();
+        ConfirmationDialog dialog(question, asking ? asking : this);
+        QApplication::setOverrideCursor(Qt::ArrowCursor);
+        const bool isConfirmed = dialog.exec() == QDialog::Accepted;
+        QApplication::restoreOverrideCursor();
+        return isConfirmed;
+    });
+
+    auto *const menu = new QMenu(tr("&Confirm"), this);
+    menu->setObjectName(QStringLiteral("menuConfirm"));
+    auto *const group = new QActionGroup(menu);
+    const std::pair<CallConfirmation::Scope, QString> choices[] = {
+        {CallConfirmation::Commands, tr("&Commands before they are sent")},
+        {CallConfirmation::Everything, tr("&Everything that changes a device")},
+        {CallConfirmation::Nothing, tr("&Nothing")}};
+    for (const auto &[scope, text] : choices) {
+        QAction *const action = group->addAction(menu->addAction(text));
+        action->setCheckable(true);
+        action->setChecked(m_workbench.confirmation().scope() == scope);
+        connect(action, &QAction::triggered, this,
+                [this, wanted = scope] { m_workbench.setConfirmed(wanted); });
+    }
+    m_ui->menuDevice->addMenu(menu);
 }
 
 void MainWindow::setUpStatusBar()

@@ -66,6 +66,7 @@ private:
     void offerExtensionAction(QAction *action);
     void showSelection();
     void showDeviceMenu(const QPoint &position);
+    void setUpConfirmation();
     void setUpStatusBar();
     void askForFiles(const QString &title, const std::function<void(const QString &)> &take);
     void askForIeds(const QString &file, const QVector<IedSummary> &ieds, bool simulated);

@@ -5,6 +5,8 @@
 
 #include <remoteclient/driverserviceregistry.h>
 
+#include <QtCore/QBuffer>
+#include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QLocale>
 #include <QtCore/QSettings>
@@ -17,6 +19,38 @@ namespace {
 /// Counts change all the time and are told by nobody.
 constexpr std::chrono::milliseconds statusInterval{1000};
 const QString readOnlyKey = QStringLiteral("readOnly");
+const QString confirmedKey = QStringLiteral("confirm");
+
+/// As in the settings file, in the order of CallConfirmation::Scope.
+const QStringList scopeNames = {QStringLiteral("commands"), QStringLiteral("everything"),
+                                QStringLiteral("nothing")};
+
+/// The fields of a row of CSV that begins at a position, which is then behind the row.
+QStringList csvRow(const QString &csv, int &position)
+{
+    QStringList fields;
+    QString field;
+    bool quoted = false;
+    for (; position < csv.size(); ++position) {
+        const QChar c = csv.at(position);
+        if (c == QLatin1Char('"')) {
+            const bool isDoubled =
+                quoted && position + 1 < csv.size() && csv.at(position + 1) == QLatin1Char('"');
+            if (isDoubled)
+                field += csv.at(++position);
+            else
+                quoted = !quoted;
+        } else if (!quoted && c == QLatin1Char(',')) {
+            fields << std::exchange(field, {});
+        } else if (!quoted && c == QLatin1Char('\n')) {
+            ++position;
+            break;
+        } else if (quoted || c != QLatin1Char('\r')) {
+            field += c;
+        }
+    }
+    return fields << field;
+}
 
 } // namespace
 
@@ -25,11 +59,25 @@ const QString Workbench::demonstrationFile = QStringLiteral(":/workbench/demonst
 Workbench::Workbench(const Options &options, QObject *parent)
     : QObject(parent)
     , m_settingsFile(options.settingsFile)
+    , m_lock(options.settingsFile + QStringLiteral(".in-use"))
     , m_store(options.settingsFile)
     , m_changes(options.journalFile)
     , m_console(m_devices)
     , m_loader(options.import)
 {
+    QFileInfo(m_settingsFile).dir().mkpath(QStringLiteral("."));
+    m_lock.setStaleLockTime(0); // only the end of its process frees it
+    if (!m_lock.tryLock()) {
+        m_store.freeze(m_lock.error() == QLockFile::LockFailedError
+                           ? tr("Another workbench uses the list of devices in \"%1\": what is "
+                                "changed in this one is not kept.")
+                                 .arg(m_settingsFile)
+                           : tr("The list of devices in \"%1\" cannot be locked: what is changed "
+                                "is not kept.")
+                                 .arg(m_settingsFile));
+    } else {
+        DeviceStore::makePrivate(m_settingsFile);
+    }
     IedDriverOptions driver;
     driver.cacheFolder = options.cacheFolder;
     driver.statusChanged = [this](const DeviceStatus &) {
@@ -40,6 +88,9 @@ Workbench::Workbench(const Options &options, QObject *parent)
     m_driver = std::make_shared<IedDriver>(std::move(driver));
     const QSettings settings(m_settingsFile, QSettings::IniFormat);
     m_driver->setReadOnly(settings.value(readOnlyKey).toBool());
+    const int scope = scopeNames.indexOf(settings.value(confirmedKey).toString());
+    m_confirmation.setScope(scope < 0 ? CallConfirmation::Commands
+                                      : CallConfirmation::Scope(scope));
 
     m_context.console = &m_console;
     connect(&m_loader, &DeviceLoader::finished, this, &Workbench::takeResult);
@@ -53,17 +104,24 @@ Workbench::Workbench(const Options &options, QObject *parent)
     m_statusTimer.setInterval(statusInterval);
     connect(&m_statusTimer, &QTimer::timeout, this, &Workbench::takeStatuses);
     m_statusTimer.start();
-    m_journal.setDeviceNames([this](long deviceNo) {
+    const auto deviceName = [this](long deviceNo) {
         const DeviceListModel::Device *device = m_devices.device(static_cast<int>(deviceNo));
         return device ? tr("%1 (%2)").arg(device->record.name(), QString::number(deviceNo))
                       : QString::number(deviceNo);
+    };
+    m_journal.setDeviceNames(deviceName);
+    m_confirmation.setDeviceName(deviceName);
+    m_confirmation.setLookup([this](long deviceNo, const QStringList &references) {
+        return knownValue(deviceNo, references);
     });
     DriverServiceRegistry::add(EmbeddedConsole::address, m_driver);
     ControllerCallObserver::install(&m_journal);
+    ControllerCallGuard::install(&m_confirmation);
 }
 
 Workbench::~Workbench()
 {
+    ControllerCallGuard::install(nullptr);
     ControllerCallObserver::install(nullptr);
     DriverServiceRegistry::remove(EmbeddedConsole::address);
 }
@@ -234,8 +292,34 @@ void Workbench::setReadOnly(bool readOnly)
     if (readOnly == isReadOnly())
         return;
     m_driver->setReadOnly(readOnly);
-    QSettings(m_settingsFile, QSettings::IniFormat).setValue(readOnlyKey, readOnly);
+    if (keepsSettings())
+        QSettings(m_settingsFile, QSettings::IniFormat).setValue(readOnlyKey, readOnly);
     emit readOnlyChanged(readOnly);
+}
+
+void Workbench::setConfirmed(CallConfirmation::Scope scope)
+{
+    m_confirmation.setScope(scope);
+    if (keepsSettings())
+        QSettings(m_settingsFile, QSettings::IniFormat).setValue(confirmedKey, scopeNames[scope]);
+}
+
+CallConfirmation::KnownValue Workbench::knownValue(long deviceNo, const QStringList &references)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    if (!m_driver->exportValues(deviceNo, buffer).isEmpty())
+        return {};
+    const QString csv = QString::fromUtf8(buffer.data());
+    for (const QString &reference : references) {
+        int position = csv.indexOf(QLatin1Char('\n') + reference + QLatin1Char(','));
+        if (position < 0)
+            continue;
+        const QStringList row = csvRow(csv, ++position);
+        if (row.size() == 4)
+            return {row[2], row[3]};
+    }
+    return {};
 }
 
 void Workbench::takeStatuses()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "callconfirmation.h"
 #include "changejournal.h"
 #include "devicelistmodel.h"
 #include "deviceloader.h"
@@ -13,6 +14,7 @@
 #include <host/hosttaskcontext.h>
 
 #include <QtCore/QHash>
+#include <QtCore/QLockFile>
 #include <QtCore/QObject>
 #include <QtCore/QStringList>
 #include <QtCore/QTimer>
@@ -21,8 +23,9 @@
 #include <memory>
 
 /// The workbench without its windows: the devices, the embedded driver, simulated devices, the
-/// journals. It registers the driver's service and observes the controller calls as long as it
-/// lives, and must outlive every window, those of the plug-in included. GUI thread.
+/// journals. It registers the driver's service, observes the controller calls and lets them be
+/// confirmed as long as it lives, and must outlive every window, those of the plug-in included. One
+/// workbench at a time keeps what is changed in a settings file. GUI thread.
 class Workbench : public QObject
 {
     Q_OBJECT
@@ -88,6 +91,14 @@ public:
     void setReadOnly(bool readOnly);
     bool isReadOnly() const { return m_driver->isReadOnly(); }
 
+    /// Who confirms what the tools are about to send; the main window enters its question.
+    CallConfirmation &confirmation() { return m_confirmation; }
+    /// What is asked for; remembered between starts.
+    void setConfirmed(CallConfirmation::Scope scope);
+
+    /// Whether this is the workbench that may write the settings file.
+    bool keepsSettings() const { return m_lock.isLocked(); }
+
     /// Why the list of devices is not safe, one sentence; empty when all is well.
     QString storeProblem() const { return m_store.problem(); }
 
@@ -120,11 +131,15 @@ private:
                const QVector<scl::Finding> &findings);
     void setConnects(int number, bool connects);
 
+    CallConfirmation::KnownValue knownValue(long deviceNo, const QStringList &references);
+
     const QString m_settingsFile;
+    QLockFile m_lock;
     DeviceStore m_store;
     DeviceListModel m_devices;
     JournalModel m_journal;
     ChangeJournal m_changes;
+    CallConfirmation m_confirmation;
     EmbeddedConsole m_console;
     HostTaskContext m_context;
     QHash<int, std::shared_ptr<SimulatedDevice>> m_simulations; ///< by device number

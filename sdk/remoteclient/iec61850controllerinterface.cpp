@@ -2,9 +2,11 @@
 #include "iec61850controllerinterface.h"
 
 #include "callerscope.h"
+#include "controllercallguard.h"
 #include "controllercallobserver.h"
 #include "driverservice.h"
 #include "driverserviceregistry.h"
+#include "guardedcalls.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QHash>
@@ -133,9 +135,38 @@ OperationResult IEC61850ControllerInterface::perform(Method method, const char *
     QElapsedTimer timer;
     timer.start();
 
+    QStringList texts;
+    (describe(texts, arguments), ...);
+    call.address = m_address;
+    call.driverNo = m_driverNo;
+    call.deviceNo = deviceNo;
+    call.operation = QString::fromLatin1(operation);
+    call.arguments = texts.join(QLatin1String(", "));
+    const auto isRefused = [&] {
+        ControllerCallGuard *const guard = ControllerCallGuard::installed();
+        if (!guard)
+            return false;
+        CallArguments given;
+        (given.addIn(arguments), ...);
+        std::optional<GuardedCall> asked = guardedCall(operation, given);
+        if (!asked)
+            return false;
+        asked->address = call.address;
+        asked->driverNo = call.driverNo;
+        asked->deviceNo = call.deviceNo;
+        asked->arguments = call.arguments;
+        error = guard->refusal(*asked);
+        return !error.isEmpty();
+    };
+
     if (const std::shared_ptr<DriverService> service = DriverServiceRegistry::find(m_address)) {
+        const bool refused = isRefused();
+        timer.restart(); // an operator takes his time to answer
         const CallerScope caller(numberOf(this));
-        if constexpr (std::is_invocable_v<Method, DriverService &, long, Arguments &..., QString &>)
+        if (refused)
+            call.result = OperationFailed;
+        else if constexpr (std::is_invocable_v<Method, DriverService &, long, Arguments &...,
+                                               QString &>)
             call.result = std::invoke(method, *service, deviceNo, arguments..., error);
         else
             call.result = std::invoke(method, *service, deviceNo, arguments...);
@@ -146,13 +177,6 @@ OperationResult IEC61850ControllerInterface::perform(Method method, const char *
     call.duration = std::chrono::microseconds(timer.nsecsElapsed() / 1000);
 
     if (ControllerCallObserver *observer = ControllerCallObserver::installed()) {
-        QStringList texts;
-        (describe(texts, arguments), ...);
-        call.address = m_address;
-        call.driverNo = m_driverNo;
-        call.deviceNo = deviceNo;
-        call.operation = QString::fromLatin1(operation);
-        call.arguments = texts.join(QLatin1String(", "));
         call.error = error;
         observer->controllerCalled(call);
     }

@@ -16,7 +16,8 @@
 /// to setLocation(), and answers with its result. When no service answers there, an operation
 /// returns OperationDriverUnreachable. The look-up is made at each call, so that a driver may come
 /// and go. The arguments are described at DriverService. Every call blocks until the driver has
-/// answered, retries nothing, and is reported to the ControllerCallObserver of the process.
+/// answered, retries nothing, and is reported to the ControllerCallObserver of the process. What
+/// changes something on a device needs the consent of the process's ControllerCallGuard.
 class REMOTECLIENT_EXPORT IEC61850ControllerInterface
 {
 public:

@@ -76,6 +76,9 @@ private slots:
     void cleanup();
 
     void theFirstStartShowsTheDemonstrationDevice();
+    void aSecondWorkbenchDoesNotOverwriteTheList();
+    void theSettingsAreForTheirOwnerOnly();
+    void whatIsConfirmedIsRemembered();
     void aListThatWasEmptiedStaysEmpty();
     void openingAFileAddsItsDevice();
     void rememberedDevicesAreReadAtTheNextStart();
@@ -144,6 +147,61 @@ void tst_Workbench::theFirstStartShowsTheDemonstrationDevice()
     QTRY_COMPARE(workbench->devices().rowCount(), 1);
     QCOMPARE(workbench->devices().deviceAt(0)->record.ied(), QStringLiteral("DEMO"));
     QCOMPARE(workbench->devices().deviceAt(0)->state, DeviceListModel::Ready);
+}
+
+void tst_Workbench::aSecondWorkbenchDoesNotOverwriteTheList()
+{
+    auto first = makeUsed();
+    QVERIFY(first->keepsSettings());
+    QCOMPARE(first->storeProblem(), QString());
+    const QString a = file(QStringLiteral("a.icd"), {QStringLiteral("A")});
+    const QString b = file(QStringLiteral("b.icd"), {QStringLiteral("B")});
+
+    auto second = make();
+    QVERIFY(!second->keepsSettings());
+    QCOMPARE(second->storeProblem(),
+             QStringLiteral("Another workbench uses the list of devices in \"%1\": what is changed "
+                            "in this one is not kept.")
+                 .arg(m_settings));
+    second->open(b);
+    QTRY_VERIFY(settled(*second));
+    second->setReadOnly(true);
+    second->setConfirmed(CallConfirmation::Nothing);
+    first->open(a);
+    QTRY_VERIFY(settled(*first));
+    QTRY_COMPARE(first->devices().rowCount(), 1);
+    second.reset();
+    first.reset();
+
+    const auto next = make();
+    QVERIFY(next->keepsSettings());
+    QVERIFY(!next->isReadOnly());
+    QCOMPARE(next->confirmation().scope(), CallConfirmation::Commands);
+    next->restoreDevices();
+    QCOMPARE(next->devices().rowCount(), 1);
+    QCOMPARE(next->devices().deviceAt(0)->record.ied(), QStringLiteral("A"));
+}
+
+void tst_Workbench::theSettingsAreForTheirOwnerOnly()
+{
+    const auto workbench = make();
+    const QFile::Permissions others =
+        QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+    const QFileInfo info(m_settings);
+    QVERIFY(info.exists());
+    QCOMPARE(info.size(), 0);
+    QVERIFY(!(info.permissions() & others));
+    workbench->setReadOnly(true);
+    QVERIFY(QFileInfo(m_settings).size() > 0);
+    QVERIFY(!(QFileInfo(m_settings).permissions() & others));
+}
+
+void tst_Workbench::whatIsConfirmedIsRemembered()
+{
+    make()->setConfirmed(CallConfirmation::Everything);
+    QCOMPARE(make()->confirmation().scope(), CallConfirmation::Everything);
+    make()->setConfirmed(CallConfirmation::Nothing);
+    QCOMPARE(make()->confirmation().scope(), CallConfirmation::Nothing);
 }
 
 void tst_Workbench::aListThatWasEmptiedStaysEmpty()
