@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "controlorder.h"
-#include "controlstate.h"
+#include "controlpart.h"
 #include "driverruntime.h"
 #include "journalentry.h"
 #include "valueconversion.h"
@@ -16,6 +16,7 @@
 #include <atomic>
 
 using acsi::ControlModel;
+using Controls::Service;
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
@@ -28,13 +29,8 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(IedDriver)
 };
 
-/// How long a command may take where the device does not say, and at most.
-constexpr milliseconds usualTermination{30000};
-constexpr milliseconds longestTermination{3600000};
-/// What the device needs to tell of the end of a command that took all its time.
-constexpr milliseconds terminationMargin{2000};
-
-enum class Service { Select, Operate, Cancel };
+/// The call itself takes some time beside what it waits for.
+constexpr milliseconds callMargin{2000};
 
 QString text(std::string_view utf8)
 {
@@ -52,34 +48,6 @@ acsi::ControlResult failed(const QString &sentence)
     return {false, sentence.toStdString(), {}};
 }
 
-QString operationName(Service service)
-{
-    switch (service) {
-    case Service::Select:
-        return QStringLiteral("selectObject");
-    case Service::Operate:
-        return QStringLiteral("controlObject");
-    case Service::Cancel:
-        break;
-    }
-    return QStringLiteral("cancelObject");
-}
-
-/// What is to be said when nobody knows what became of it.
-QString unknownSentence(Service service)
-{
-    switch (service) {
-    case Service::Select:
-        return Texts::tr("It is not known whether the object was selected.");
-    case Service::Operate:
-        return Texts::tr("It is not known whether the command was carried out; look at the "
-                         "position.");
-    case Service::Cancel:
-        break;
-    }
-    return Texts::tr("It is not known whether the command was cancelled; look at the position.");
-}
-
 bool isUnknown(acsi::ControlOutcome outcome)
 {
     return outcome == acsi::ControlOutcome::Unknown || outcome == acsi::ControlOutcome::Accepted;
@@ -89,17 +57,6 @@ QString readOnlySentence(const DeviceConnection &device)
 {
     return Texts::tr("The driver is read-only: nothing on %1 was changed.")
         .arg(device.configuration().title());
-}
-
-/// The object under another constraint; nothing where it has none of that.
-std::optional<acsi::Reference> statusOf(const OnlineModel &model, acsi::Reference object)
-{
-    for (const auto constraint : {acsi::FunctionalConstraint::ST, acsi::FunctionalConstraint::MX}) {
-        object.constraint = constraint;
-        if (model.type(object))
-            return object;
-    }
-    return std::nullopt;
 }
 
 /// The attribute that shows the position.
@@ -114,109 +71,6 @@ QString positionOf(const OnlineModel &model, const acsi::Reference &status)
     }
     return {};
 }
-
-/// Reads and publishes the status of an object, for whoever looks at it.
-void showStatus(DevicePointer device, const acsi::Reference &object)
-{
-    const OnlineModel *model = device->model();
-    const auto status = model ? statusOf(*model, object) : std::nullopt;
-    if (!status)
-        return;
-    const auto read = [](DevicePointer owner, acsi::Reference what) -> asio::awaitable<void> {
-        std::vector<acsi::Reference> references;
-        references.push_back(std::move(what));
-        static_cast<void>(
-            co_await owner->readAndPublish(std::move(references), DeviceConnection::Publication()));
-    };
-    const auto strand = device->strand();
-    asio::co_spawn(strand, read(std::move(device), *status), [](const std::exception_ptr &) {});
-}
-
-/// What was selected and is being operated on a device; it ends with the association.
-class ControlPart : public AssociationPart
-{
-public:
-    struct Object
-    {
-        ControlState state;
-        /// The device's side of it; null until it is first needed in the present association.
-        std::shared_ptr<acsi::ControlObject> control;
-    };
-
-    explicit ControlPart(DeviceConnection &device)
-        : m_device(device)
-    {
-    }
-
-    Object &object(const std::string &name) { return m_objects[name]; }
-
-    /// What is told of a device in its status; @p sentence may be empty.
-    void setProblem(const std::string &name, const QString &sentence)
-    {
-        m_device.setProblem(QStringLiteral("control ") + text(name), sentence);
-    }
-
-    /// Hears of commands of the object that nobody waits for any more.
-    void listen(const acsi::Reference &reference)
-    {
-        const std::string name = acsi::toText(reference);
-        object(name).control->setLateHandler(
-            [this, reference, name](std::uint8_t ctlNum, const acsi::ControlResult &result) {
-                heardLate(reference, name, ctlNum, result);
-            });
-    }
-
-    void closed(const QString &) override
-    {
-        for (auto &each : m_objects) {
-            each.second.state.associationEnded();
-            if (each.second.control)
-                each.second.control->setLateHandler({});
-            each.second.control.reset();
-        }
-    }
-
-private:
-    void heardLate(const acsi::Reference &reference, const std::string &name, std::uint8_t ctlNum,
-                   const acsi::ControlResult &result)
-    {
-        ControlState &state = object(name).state;
-        const ControlState::Command *command = state.command(ctlNum);
-        if (!command)
-            return;
-        DeviceChange change;
-        change.operation = operationName(Service::Operate);
-        change.reference = text(name);
-        change.newValue = Texts::tr("%1 (told late)").arg(ControlOrder::text(command->block));
-        const QString object = text(acsi::objectReferenceText(reference));
-        QString problem;
-        switch (result.outcome) {
-        case acsi::ControlOutcome::Accepted:
-            state.operateAccepted(ctlNum, true, false, milliseconds(0), steady_clock::now());
-            change.error =
-                text(result.message) + QLatin1Char(' ') + unknownSentence(Service::Operate);
-            problem = change.error;
-            break;
-        case acsi::ControlOutcome::Done:
-            problem = Texts::tr("%1: the command that was not answered in time was carried out.")
-                          .arg(object);
-            state.operateEnded(ctlNum);
-            break;
-        default:
-            change.error = text(result.message);
-            problem = change.error;
-            state.operateEnded(ctlNum);
-        }
-        if (result.applError)
-            change.additionalCause = text(acsi::additionalCauseText(result.applError->addCause));
-        m_device.journal(std::move(change));
-        setProblem(name, problem);
-        showStatus(m_device.shared_from_this(), reference);
-    }
-
-    DeviceConnection &m_device;
-    std::map<std::string, Object> m_objects;
-};
 
 /// What the caller of an operation and the operation know of each other.
 struct Request
@@ -246,7 +100,7 @@ public:
         , m_name(acsi::toText(m_reference))
         , m_block(m_request->block)
         , m_client(m_device->client())
-        , m_part(m_device->part<ControlPart>())
+        , m_part(m_device->part<Controls::Part>())
         , m_object(m_part.object(m_name))
         , m_state(m_object.state)
     {
@@ -273,7 +127,6 @@ public:
             if (const QString refusal = afterwards(); !refusal.isEmpty())
                 co_return failed(refusal);
         }
-        m_part.setProblem(m_name, QString());
         acsi::ControlResult result;
         switch (m_service) {
         case Service::Select:
@@ -288,8 +141,10 @@ public:
         }
         m_request->isOnTheWay = false;
         if (isUnknown(result.outcome)) {
-            result.message += ' ' + unknownSentence(m_service).toStdString();
+            result.message += ' ' + Controls::unknownSentence(m_service).toStdString();
             m_part.setProblem(m_name, text(result.message));
+        } else if (!m_state.isInDoubt()) {
+            m_part.setProblem(m_name, QString());
         }
         entry.setValues(m_before, sent());
         co_return result;
@@ -303,7 +158,8 @@ public:
         if (const auto looked = co_await look(); !looked)
             co_return;
         m_request->control = m_object.control;
-        m_request->termination = terminationPatience();
+        m_request->termination =
+            ControlOrder::terminationPatience(m_object.control->operateTimeout());
     }
 
 private:
@@ -394,7 +250,7 @@ private:
     QString position() const
     {
         const OnlineModel *model = m_device->model();
-        const auto status = model ? statusOf(*model, m_reference) : std::nullopt;
+        const auto status = model ? Controls::statusOf(*model, m_reference) : std::nullopt;
         return status ? positionOf(*model, *status) : QString();
     }
 
@@ -431,7 +287,7 @@ private:
     void goes(JournalEntry &entry)
     {
         entry.setValues(m_before, sent());
-        entry.setOutcome(Outcome::failed(unknownSentence(m_service)));
+        entry.setOutcome(Outcome::failed(Controls::unknownSentence(m_service)));
         m_request->isOnTheWay = true;
     }
 
@@ -471,9 +327,9 @@ private:
         const bool terminates = isEnhanced(static_cast<quint8>(control->model()));
         m_state.operateSent(command);
         goes(entry);
-        Given given(m_state, number);
-        const acsi::ControlResult result =
-            co_await control->operate(command.request, terminationPatience());
+        Given given(*this, number);
+        const acsi::ControlResult result = co_await control->operate(
+            command.request, ControlOrder::terminationPatience(control->operateTimeout()));
         given.isOver = true;
         if (m_device->client() != m_client)
             co_return result;
@@ -487,6 +343,7 @@ private:
         case acsi::ControlOutcome::Accepted:
             m_state.operateAccepted(number, terminates, false, milliseconds(0),
                                     steady_clock::now());
+            m_state.operateUnknown(number);
             break;
         case acsi::ControlOutcome::Done:
             m_state.operateAccepted(number, terminates, control->isOperateMany(),
@@ -534,19 +391,24 @@ private:
     /// A command whose caller may give up while it is on its way.
     struct Given
     {
-        Given(ControlState &owner, std::uint8_t ctlNum)
-            : state(owner)
+        Given(Control &owner, std::uint8_t ctlNum)
+            : control(owner)
             , number(ctlNum)
         {
         }
         ~Given()
         {
-            if (!isOver)
-                state.operateUnknown(number);
+            if (isOver)
+                return;
+            control.m_state.operateUnknown(number);
+            control.m_part.setProblem(
+                control.m_name,
+                QString::fromStdString(acsi::objectReferenceText(control.m_reference)) +
+                    QStringLiteral(": ") + Controls::unknownSentence(Service::Operate));
         }
         Q_DISABLE_COPY(Given)
 
-        ControlState &state;
+        Control &control;
         std::uint8_t number;
         bool isOver = false;
     };
@@ -560,14 +422,6 @@ private:
         return isReadOfSelection ? QString() : ControlOrder::text(m_block);
     }
 
-    milliseconds terminationPatience() const
-    {
-        const milliseconds timeout = m_object.control->operateTimeout().value_or(milliseconds(0));
-        if (timeout <= milliseconds(0))
-            return usualTermination;
-        return std::min(timeout, longestTermination) + terminationMargin;
-    }
-
     DevicePointer m_device;
     RequestPointer m_request;
     Service m_service;
@@ -576,8 +430,8 @@ private:
     ControlBlock m_block;
     QString m_before; ///< the position
     std::shared_ptr<acsi::Client> m_client;
-    ControlPart &m_part;
-    ControlPart::Object &m_object;
+    Controls::Part &m_part;
+    Controls::Part::Object &m_object;
     ControlState &m_state;
 };
 
@@ -601,7 +455,8 @@ asio::awaitable<Outcome> control(DevicePointer device, RequestPointer request)
     acsi::ControlResult result;
     Outcome outcome;
     {
-        JournalEntry entry(device, operationName(request->service), text(acsi::toText(*reference)));
+        JournalEntry entry(device, Controls::operationName(request->service),
+                           text(acsi::toText(*reference)));
         request->begun = true;
         Control order(device, request, *reference);
         result = co_await order.run(entry);
@@ -613,7 +468,7 @@ asio::awaitable<Outcome> control(DevicePointer device, RequestPointer request)
     }
     // What the command came to is shown, but nobody waits for that.
     if (result.outcome != acsi::ControlOutcome::NotSent)
-        showStatus(device, *reference);
+        Controls::showStatus(device, *reference);
     co_return outcome;
 }
 
@@ -623,7 +478,7 @@ void journalTry(const DevicePointer &device, const Request &request, const QStri
     if (!device)
         return;
     DeviceChange change;
-    change.operation = operationName(request.service);
+    change.operation = Controls::operationName(request.service);
     change.reference = request.ldName + QLatin1Char('/') + request.name;
     change.newValue = ControlOrder::text(request.block);
     change.error = error;
@@ -668,7 +523,8 @@ OperationResult perform(Runtime &runtime, Service service, long deviceNo, const 
         milliseconds limit = milliseconds::zero();
         if (device && waits)
             limit = device->configuration().operationTimeout +
-                    std::max(request->termination, usualTermination) + terminationMargin;
+                    std::max(request->termination, ControlOrder::terminationPatience({})) +
+                    callMargin;
         result =
             runtime.runWithin(limit, deviceNo, effect, error, [request](DevicePointer connection) {
                 return control(std::move(connection), request);
@@ -677,7 +533,7 @@ OperationResult perform(Runtime &runtime, Service service, long deviceNo, const 
     if (result != OperationSucceeded && !request->begun)
         journalTry(device, *request, error);
     else if (result != OperationSucceeded && request->isOnTheWay)
-        error += QLatin1Char(' ') + unknownSentence(service);
+        error += QLatin1Char(' ') + Controls::unknownSentence(service);
     return result;
 }
 

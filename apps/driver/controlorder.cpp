@@ -7,6 +7,7 @@
 #include <QtCore/QDataStream>
 #include <QtCore/QStringList>
 
+#include <algorithm>
 #include <chrono>
 #include <cmath>
 
@@ -24,6 +25,11 @@ constexpr quint8 allChecks = interlockCheck | synchrocheck;
 /// So many bits has the fraction of a time stamp.
 constexpr unsigned fractionBits = 24;
 constexpr std::uint8_t millisecondAccuracy = 10;
+/// How long a command may take where the device does not say, and at most.
+constexpr std::chrono::milliseconds usualTermination{30000};
+constexpr std::chrono::milliseconds longestTermination{3600000};
+/// What the device needs to tell of the end of a command that took all its time.
+constexpr std::chrono::milliseconds terminationMargin{2000};
 
 } // namespace
 
@@ -72,6 +78,15 @@ mms::Result<acsi::ControlRequest> ControlOrder::toRequest(const ControlBlock &bl
     request.interlockCheck = (block.check & interlockCheck) != 0;
     request.synchrocheck = (block.check & synchrocheck) != 0;
     return request;
+}
+
+std::chrono::milliseconds
+ControlOrder::terminationPatience(const std::optional<std::chrono::milliseconds> &operateTimeout)
+{
+    const std::chrono::milliseconds timeout = operateTimeout.value_or(usualTermination);
+    if (timeout <= std::chrono::milliseconds(0))
+        return usualTermination;
+    return operateTimeout ? std::min(timeout, longestTermination) + terminationMargin : timeout;
 }
 
 bool ControlOrder::repeats(const ControlBlock &block, const ControlBlock &selected)

@@ -8,6 +8,7 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 
@@ -27,6 +28,10 @@ constexpr quint8 highestCategory = 8;
 /// the value fits the object is decided with its type.
 mms::Result<acsi::ControlRequest> toRequest(const ControlBlock &block, const QByteArray &originator,
                                             std::uint8_t ctlNum);
+
+/// How long the end of a command is waited for on a device that says so much of operTimeout.
+std::chrono::milliseconds
+terminationPatience(const std::optional<std::chrono::milliseconds> &operateTimeout);
 
 /// Whether the record, where it is not empty, asks for what was selected.
 bool repeats(const ControlBlock &block, const ControlBlock &selected);

@@ -133,8 +133,17 @@ void ControlState::operateRefused(std::uint8_t ctlNum)
 
 void ControlState::operateUnknown(std::uint8_t ctlNum)
 {
-    if (Entry *unknown = entry(ctlNum); unknown && unknown->phase == Phase::Sent)
+    Entry *unknown = entry(ctlNum);
+    if (!unknown)
+        return;
+    unknown->isLeft = true;
+    if (unknown->phase == Phase::Sent)
         unknown->phase = Phase::Unknown;
+}
+
+bool ControlState::isInDoubt() const
+{
+    return std::ranges::any_of(m_commands, &Entry::isLeft);
 }
 
 void ControlState::operateEnded(std::uint8_t ctlNum)

@@ -68,6 +68,8 @@ public:
     void operateRefused(std::uint8_t ctlNum);
     /// Nobody waits any more for its answer or termination, which may come all the same.
     void operateUnknown(std::uint8_t ctlNum);
+    /// Whether there is a command of which nobody knows what became of it.
+    bool isInDoubt() const;
     void operateEnded(std::uint8_t ctlNum);
     /// The command with that number, as long as it is not forgotten.
     const Command *command(std::uint8_t ctlNum) const;
@@ -102,6 +104,7 @@ private:
         Command command;
         Phase phase = Phase::Sent;
         std::uint64_t order = 0;
+        bool isLeft = false;                ///< nobody waits for it any more
         std::optional<Selection> selection; ///< that it used
     };
     Entry *entry(std::uint8_t ctlNum);

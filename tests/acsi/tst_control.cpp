@@ -91,6 +91,14 @@ protected:
         return {"LD/CSWI1$CO$Pos" + component, 1, {2, {'t'}}, ctlNum, addCause};
     }
 
+    void listen(mmstest::Awaited<ControlResult> &late)
+    {
+        asio::post(client->strand(), [this, take = late.setter()] {
+            control->setLateHandler(
+                [take](std::uint8_t, const ControlResult &result) { take(result); });
+        });
+    }
+
     Reaction reaction;
     std::shared_ptr<ControlObject> control;
 
@@ -333,6 +341,140 @@ TEST_F(ControlTest, TheEndOfTheAssociationEndsTheWaitForATermination)
                                   "association ended before the command: "),
               0U)
         << result.message;
+}
+
+TEST_F(ControlTest, ACauseThatComesJustAfterTheRefusalCounts)
+{
+    open(ControlModel::DirectNormal);
+    reaction.refusal = DataAccessError::ObjectAccessDenied;
+    reaction.errorAfter = error(10);
+    const ControlResult result = run(control->operate(request()));
+    EXPECT_EQ(result.message, "LD/CSWI1.Pos: the device refuses Oper: blocked by interlocking.");
+    EXPECT_EQ(result.outcome, ControlOutcome::Refused);
+}
+
+TEST_F(ControlTest, ACauseIsUnderstoodWhenOnlyOneCallCanBeMeant)
+{
+    open(ControlModel::SelectEnhanced);
+    reaction.refusal = DataAccessError::ObjectAccessDenied;
+    for (const char *name :
+         {"LD/CSWI1.Pos", "LD/CSWI1$CO$Pos", "LD/CSWI1$CO$Pos$Oper", "LD/CSWI1$CO$Pos$SBOw"}) {
+        for (const std::uint8_t number : {std::uint8_t{0}, std::uint8_t{7}}) {
+            LastApplError given = error(10, number);
+            given.controlObject = name;
+            reaction.errorBefore = given;
+            EXPECT_EQ(run(control->select(request())).applError, given) << name;
+        }
+    }
+}
+
+TEST_F(ControlTest, ARefusalWithoutACauseInItsErrorGivesTheAccessError)
+{
+    open(ControlModel::DirectNormal);
+    reaction.refusal = DataAccessError::TemporarilyUnavailable;
+    reaction.errorBefore = error(25);
+    reaction.errorBefore->error = 0;
+    EXPECT_EQ(run(control->operate(request())).message,
+              "LD/CSWI1.Pos: the device refuses Oper: " +
+                  mms::describe(DataAccessError::TemporarilyUnavailable));
+}
+
+TEST_F(ControlTest, ARefusalByServiceErrorOrRejectIsARefusal)
+{
+    open(ControlModel::DirectNormal);
+    bool rejects = false;
+    device->intercept = [&rejects](const auto &association, std::uint32_t invokeId,
+                                   mms::RequestService &service) {
+        if (!std::holds_alternative<mms::WriteRequest>(service))
+            return false;
+        if (rejects)
+            association->reject(invokeId, mms::rejectcodes::requestUnrecognizedService);
+        else
+            association->fail(invokeId, {mms::ErrorClass::Service,
+                                         mms::serviceerrors::serviceObjectStateConflict,
+                                         {},
+                                         {},
+                                         {}});
+        return true;
+    };
+    for (const bool reject : {false, true}) {
+        rejects = reject;
+        const ControlResult result = run(control->operate(request()));
+        EXPECT_EQ(result.outcome, ControlOutcome::Refused);
+        EXPECT_EQ(result.message.find("LD/CSWI1.Pos: the device refuses Oper: "), 0U)
+            << result.message;
+    }
+}
+
+TEST_F(ControlTest, AnErrorOfNoneInATerminationIsSuccess)
+{
+    open(ControlModel::DirectEnhanced);
+    reaction.terminates = true;
+    reaction.terminationError = error(25);
+    reaction.terminationError->error = 0;
+    EXPECT_TRUE(run(control->operate(request(), 1h)).ok);
+    reaction.terminationError->error = 1;
+    EXPECT_FALSE(run(control->operate(request(), 1h)).ok);
+}
+
+TEST_F(ControlTest, TheCauseOfAnotherObjectInATerminationIsNotShown)
+{
+    open(ControlModel::DirectEnhanced);
+    reaction.terminates = true;
+    reaction.terminationError = error(10);
+    reaction.terminationError->controlObject = "LD/CSWI2$CO$Pos$Oper";
+    const ControlResult result = run(control->operate(request(), 1h));
+    EXPECT_FALSE(result.applError);
+    EXPECT_EQ(result.message, "LD/CSWI1.Pos: the command ended without success: the device does "
+                              "not say why.");
+}
+
+TEST_F(ControlTest, ATerminationThatNobodyWaitsForAnyMoreIsHeard)
+{
+    open(ControlModel::DirectEnhanced);
+    mmstest::Awaited<ControlResult> late;
+    listen(late);
+    EXPECT_EQ(run(control->operate(request(), 50ms)).outcome, ControlOutcome::Accepted);
+    device->association()->report(commandTermination(*parseReference("LD/CSWI1$CO$Pos"),
+                                                     *controlValue(commandType(true), request()),
+                                                     error(17)));
+    const ControlResult told = late.get();
+    EXPECT_EQ(told.outcome, ControlOutcome::Failed);
+    EXPECT_EQ(told.applError, error(17));
+}
+
+TEST_F(ControlTest, AnAnswerThatNobodyWaitsForAnyMoreIsHeard)
+{
+    clientOptions.callTimeout = 500ms;
+    open(ControlModel::DirectNormal);
+    mmstest::Awaited<ControlResult> late;
+    listen(late);
+    std::atomic<std::uint32_t> asked{0};
+    device->intercept = [&asked](const auto &, std::uint32_t invokeId,
+                                 mms::RequestService &service) {
+        if (!std::holds_alternative<mms::WriteRequest>(service))
+            return false;
+        asked = invokeId;
+        return true;
+    };
+    const ControlResult result = run(control->operate(request()));
+    EXPECT_EQ(result.outcome, ControlOutcome::Unknown);
+    EXPECT_EQ(result.message, "LD/CSWI1.Pos: Oper got no answer within 0.5 s.");
+    device->association()->respond(asked, mms::WriteResponse{{std::nullopt}});
+    EXPECT_EQ(late.get().outcome, ControlOutcome::Done);
+}
+
+TEST_F(ControlTest, TheEndOfTheAssociationLeavesACommandUnknown)
+{
+    open(ControlModel::DirectNormal);
+    device->intercept = [](const auto &association, std::uint32_t, mms::RequestService &service) {
+        if (!std::holds_alternative<mms::WriteRequest>(service))
+            return false;
+        association->abort("The test wants it.");
+        return true;
+    };
+    EXPECT_EQ(run(control->operate(request())).outcome, ControlOutcome::Unknown);
+    EXPECT_EQ(run(control->operate(request())).outcome, ControlOutcome::NotSent);
 }
 
 TEST_F(ControlTest, CancelWritesTheCommandWithoutChecks)

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "driver/controlorder.h"
 #include "driver/controlstate.h"
 
 #include <QtTest/QtTest>
@@ -115,7 +116,9 @@ private slots:
     void anotherCommandThanTheSelectedOneIsRefused();
     void aCommandThatWasNotSentLeavesTheSelection();
     void aSelectionForManyCommandsStays();
+    void doubtLastsUntilTheCommandIsKnownToBeOver();
     void nothingOutlivesTheAssociation();
+    void theEndOfACommandIsAwaitedAsLongAsTheDeviceSays();
 };
 
 void tst_ControlState::numbersAreNeverZeroAndNeverThoseOfACommandThatRuns()
@@ -330,6 +333,36 @@ void tst_ControlState::aSelectionForManyCommandsStays()
     bench.now += seconds(20);
     QVERIFY(bench.state.selection(bench.now));
     QCOMPARE(bench.state.obstacle(emptyBlock(), 0, bench.now), Obstacle::None);
+}
+
+void tst_ControlState::doubtLastsUntilTheCommandIsKnownToBeOver()
+{
+    Bench bench;
+    const int running = bench.send(1);
+    bench.accept(running);
+    QVERIFY(!bench.state.isInDoubt());
+    bench.loseSight(running);
+    QVERIFY(bench.state.isInDoubt());
+    // That another one is refused says nothing of it.
+    bench.refuse(bench.send(0));
+    QVERIFY(bench.state.isInDoubt());
+    bench.end(running);
+    QVERIFY(!bench.state.isInDoubt());
+    const int silent = bench.send(1);
+    bench.loseSight(silent);
+    QVERIFY(bench.state.isInDoubt());
+    bench.accept(bench.send(0), false);
+    QVERIFY(!bench.state.isInDoubt());
+}
+
+void tst_ControlState::theEndOfACommandIsAwaitedAsLongAsTheDeviceSays()
+{
+    using ControlOrder::terminationPatience;
+    QCOMPARE(terminationPatience({}).count(), 30000);
+    QCOMPARE(terminationPatience(milliseconds(0)).count(), 30000);
+    QCOMPARE(terminationPatience(milliseconds(100)).count(), 2100);
+    QCOMPARE(terminationPatience(seconds(180)).count(), 182000);
+    QCOMPARE(terminationPatience(seconds(100000)).count(), 3602000);
 }
 
 void tst_ControlState::nothingOutlivesTheAssociation()
