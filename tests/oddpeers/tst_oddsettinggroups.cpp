@@ -75,6 +75,7 @@ private slots:
     void aConfirmationWithoutAnswerIsUnknown();
     void whatWasWrittenBeforeALossIsJournalled();
     void aGroupThatOthersActivateReachesTheModel();
+    void anEditGroupThatTheDeviceKeepsIsGivenBack();
     void theEditIsGivenBackOnLeaving();
 
 private:
@@ -506,6 +507,43 @@ void tst_OddSettingGroups::aGroupThatOthersActivateReachesTheModel()
         return -1;
     };
     QTRY_COMPARE_WITH_TIMEOUT(shown(), 3, 20000);
+}
+
+void tst_OddSettingGroups::anEditGroupThatTheDeviceKeepsIsGivenBack()
+{
+    // EditSG says 2 after CnfEdit too, until somebody writes 0.
+    bool keeps = false;
+    start({}, std::chrono::milliseconds(0),
+          [&keeps, this](const AssociationPointer &association, std::uint32_t invokeId,
+                         mms::RequestService &request) {
+              const std::string item = writtenItem(request);
+              keeps = item.empty() ? keeps : item == "BAY1E1PROT/LLN0$SP$SGCB$CnfEdit";
+              const auto *read = std::get_if<mms::ReadRequest>(&request);
+              const auto *list =
+                  read ? std::get_if<std::vector<mms::VariableAccess>>(&read->variables) : nullptr;
+              if (!keeps || !list || list->size() != 1 ||
+                  toText(list->front()) != "BAY1E1PROT/LLN0$SP$SGCB")
+                  return false;
+              const auto device = m_ied->device();
+              mms::AccessResult result = device->access().read(m_atTheDevice, list->front());
+              mms::Data block = result.data();
+              block.children()[2] = mms::Data::unsignedInteger(2);
+              mms::ReadResponse response;
+              response.results.emplace_back(std::move(block));
+              association->respond(invokeId, std::move(response));
+              return true;
+          });
+    QCOMPARE(m_driver->selectEditSG(1, protection, 2, m_error), OperationSucceeded);
+    QVERIFY2(m_driver->setSGCBValues(1, protection, {{delay.arg("SE"), 77}}, m_error) ==
+                 OperationSucceeded,
+             qPrintable(m_error));
+    const QStringList writes = sentWrites(*m_driver);
+    QCOMPARE(writes.size(), 4);
+    QVERIFY2(writes.at(2).contains("CnfEdit") && writes.at(3).contains("EditSG"),
+             qPrintable(writes.join('\n')));
+    // And it is nobody's any more.
+    QCOMPARE(m_driver->setSGCBValues(1, protection, {{delay.arg("SE"), 78}}, m_error),
+             OperationFailed);
 }
 
 void tst_OddSettingGroups::theEditIsGivenBackOnLeaving()
