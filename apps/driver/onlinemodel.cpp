@@ -3,8 +3,12 @@
 
 #include "discoveredmodel.h"
 
+#include "acsi/typedvalue.h"
+
 #include <QtCore/QDataStream>
 #include <QtCore/QIODevice>
+
+#include <span>
 
 using mms::Data;
 using mms::TypeDescription;
@@ -52,9 +56,7 @@ struct OnlineModel::Walk
     void visitStructure(const TypeDescription &type, const Data *data, const Data *quality,
                         const Data *time)
     {
-        const bool hasShape = !data || (data->kind() == Data::Kind::Structure &&
-                                        data->children().size() == type.components.size());
-        if (!hasShape) {
+        if (!hasForm(type, data)) {
             fits = false;
             return;
         }
@@ -74,11 +76,34 @@ struct OnlineModel::Walk
         }
     }
 
+    /// A structure with one member of another type has perhaps all of them in another order: then
+    /// none of them is taken.
+    static bool hasForm(const TypeDescription &type, const Data *data)
+    {
+        if (!data)
+            return true;
+        if (!acsi::isSentAs(type, *data))
+            return false;
+        const std::span<const Data> members = data->children();
+        for (std::size_t i = 0; i < type.components.size(); ++i) {
+            const TypeDescription &member = type.components[i].type;
+            // What is wrong within a member that is a group is that one's own affair.
+            if (!isGroup(member) && !acsi::isSentAs(member, members[i]))
+                return false;
+        }
+        return true;
+    }
+
+    static bool isGroup(const TypeDescription &type)
+    {
+        return type.kind == TypeDescription::Kind::Structure ||
+               type.kind == TypeDescription::Kind::Array;
+    }
+
     void visitArray(const TypeDescription &type, const Data *data, const Data *quality,
                     const Data *time)
     {
-        if (type.components.empty() ||
-            (data && (data->kind() != Data::Kind::Array || data->size() != type.elementCount))) {
+        if (type.components.empty() || (data && !acsi::isSentAs(type, *data))) {
             fits = false;
             return;
         }
@@ -94,7 +119,7 @@ struct OnlineModel::Walk
     void visitLeaf(const TypeDescription &type, const Data *data, const Data *quality,
                    const Data *time)
     {
-        if (data && (data->kind() == Data::Kind::Structure || data->kind() == Data::Kind::Array)) {
+        if (data && !acsi::isSentAs(type, *data)) {
             fits = false;
             return;
         }

@@ -50,8 +50,8 @@ QString logicalDeviceOf(const QString &sgcbReference)
 
 QDateTime dateTime(const mms::UtcTime &time)
 {
-    const auto milliseconds = static_cast<qint64>(std::uint64_t{time.fraction} * 1000U >> 24U);
-    return QDateTime::fromMSecsSinceEpoch(qint64{time.seconds} * 1000 + milliseconds, Qt::UTC);
+    const auto moment = mms::momentOf<std::chrono::milliseconds>(time);
+    return QDateTime::fromMSecsSinceEpoch(moment.time_since_epoch().count(), Qt::UTC);
 }
 
 asio::awaitable<Outcome> readBlock(DevicePointer device, QString ldName,

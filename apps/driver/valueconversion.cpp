@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "valueconversion.h"
 
+#include "acsi/typedvalue.h"
+
+#include <devicemodel/mmsvalue.h>
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDataStream>
 #include <QtCore/QDateTime>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QStringList>
 
 #include <algorithm>
@@ -26,7 +31,10 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(ValueConversion)
 };
 
-constexpr std::size_t qualityBits = 13;
+constexpr int qualityBits = 13;
+constexpr int validityBits = 2;
+/// Stands for a bit that was not sent.
+constexpr QLatin1Char unknownBit('?');
 
 mms::Error error(const QString &sentence)
 {
@@ -134,26 +142,26 @@ mms::Error misfit(const QVariant &value, const QString &name)
     return error(Texts::tr("%1 does not fit %2.").arg(ValueConversion::text(value), name));
 }
 
+/// The bits that a standard name such as "INT24U" stands for; more of them may be on the wire.
+int namedBits(const QString &name)
+{
+    if (!name.startsWith(QLatin1String("INT")))
+        return 64;
+    const bool isUnsigned = name.endsWith(QLatin1Char('U'));
+    bool isNumber = false;
+    const int bits = name.midRef(3, name.size() - (isUnsigned ? 4 : 3)).toInt(&isNumber);
+    return isNumber && bits > 0 ? std::min(bits, 64) : 64;
+}
+
 mms::Result<Data> toInteger(const QString &name, const TypeDescription &type, const QVariant &value)
 {
     const std::optional<Integer> number = integerOf(value);
-    const int bits = type.size > 0 && type.size <= 64 ? type.size : 64;
+    const int bits = std::min(type.size > 0 && type.size <= 64 ? type.size : 64, namedBits(name));
     if (!number)
         return misfit(value, name);
     if (type.kind == TypeDescription::Kind::Unsigned) {
-        // Standard names say less than the width that the device uses.
-        int named = bits;
-        if (name == QLatin1String("INT8U"))
-            named = 8;
-        else if (name == QLatin1String("INT16U"))
-            named = 16;
-        else if (name == QLatin1String("INT24U"))
-            named = 24;
-        else if (name == QLatin1String("INT32U"))
-            named = 32;
-        const int width = std::min(bits, named);
         const std::uint64_t highest =
-            width == 64 ? std::numeric_limits<std::uint64_t>::max() : (1ULL << width) - 1U;
+            bits == 64 ? std::numeric_limits<std::uint64_t>::max() : (1ULL << bits) - 1U;
         if ((number->isNegative && number->magnitude != 0) || number->magnitude > highest)
             return misfit(value, name);
         return Data::unsignedInteger(number->magnitude);
@@ -163,6 +171,19 @@ mms::Result<Data> toInteger(const QString &name, const TypeDescription &type, co
         return misfit(value, name);
     return Data::integer(number->isNegative ? -static_cast<std::int64_t>(number->magnitude - 1U) - 1
                                             : static_cast<std::int64_t>(number->magnitude));
+}
+
+/// The size of the type counts digits.
+mms::Result<Data> toBcd(const QString &name, const TypeDescription &type, const QVariant &value)
+{
+    constexpr int mostDigits = 18;
+    const std::optional<Integer> number = integerOf(value);
+    std::uint64_t end = 1;
+    for (int i = 0; i < (type.size > 0 && type.size < mostDigits ? type.size : mostDigits); ++i)
+        end *= 10;
+    if (!number || (number->isNegative && number->magnitude != 0) || number->magnitude >= end)
+        return misfit(value, name);
+    return Data::bcd(number->magnitude);
 }
 
 mms::Result<Data> toBoolean(const QString &name, const QVariant &value)
@@ -192,15 +213,12 @@ mms::Result<Data> toFloat(const QString &name, const TypeDescription &type, cons
         return error(Texts::tr("%1 is no finite number.").arg(ValueConversion::text(value)));
     if (type.size == 64)
         return Data::float64(number);
-    if (std::abs(number) > static_cast<double>(std::numeric_limits<float>::max()))
-        return misfit(value, name);
-    return Data::float32(static_cast<float>(number));
+    const std::optional<float> nearest = acsi::nearestFloat(number);
+    return nearest ? mms::Result<Data>(Data::float32(*nearest)) : misfit(value, name);
 }
 
 mms::Result<Data> toBits(const QString &name, const TypeDescription &type, const QVariant &value)
 {
-    const auto longest = static_cast<std::size_t>(std::abs(type.size));
-    const std::size_t fixedSize = longest;
     if (isCoded(name)) {
         const std::optional<Integer> number = integerOf(value);
         if (!number || number->isNegative || number->magnitude > 3)
@@ -214,11 +232,20 @@ mms::Result<Data> toBits(const QString &name, const TypeDescription &type, const
     const bool isText = std::all_of(text.begin(), text.end(), [](QChar c) {
         return c == QLatin1Char('0') || c == QLatin1Char('1');
     });
-    const auto length = static_cast<std::size_t>(text.size());
-    const bool lengthFits = type.size >= 0 ? length == fixedSize : length <= longest;
-    if (!isText || !lengthFits)
+    // Of any length that the type allows, only the full one leaves no bit to the device.
+    const bool isWhole = type.size == 0 || text.size() == std::abs(type.size);
+    if (!isText || !isWhole)
         return misfit(value, name);
     return Data::bitString(mms::BitString::fromText(text.toStdString()));
+}
+
+/// @p data when its length fits.
+mms::Result<Data> ofLength(const QString &name, const TypeDescription &type, const QVariant &value,
+                           Data data)
+{
+    if (!acsi::fitsLength(type, data))
+        return misfit(value, name);
+    return data;
 }
 
 mms::Result<Data> toOctets(const QString &name, const TypeDescription &type, const QVariant &value)
@@ -232,11 +259,10 @@ mms::Result<Data> toOctets(const QString &name, const TypeDescription &type, con
         if (octets.toHex() != text.toLower())
             return misfit(value, name);
     }
-    const int longest = std::abs(type.size);
-    if (longest != 0 && (type.size > 0 ? octets.size() != longest : octets.size() > longest))
-        return misfit(value, name);
-    return Data::octetString(mms::Bytes(reinterpret_cast<const std::uint8_t *>(octets.constData()),
-                                        static_cast<std::size_t>(octets.size())));
+    return ofLength(
+        name, type, value,
+        Data::octetString(mms::Bytes(reinterpret_cast<const std::uint8_t *>(octets.constData()),
+                                     static_cast<std::size_t>(octets.size()))));
 }
 
 mms::Result<Data> toVisibleString(const QString &name, const TypeDescription &type,
@@ -248,70 +274,45 @@ mms::Result<Data> toVisibleString(const QString &name, const TypeDescription &ty
             return error(
                 Texts::tr("\"%1\" holds characters that %2 does not have.").arg(text, name));
     }
-    const int longest = std::abs(type.size);
-    if (longest != 0 && (type.size > 0 ? text.size() != longest : text.size() > longest))
-        return misfit(value, name);
-    return Data::visibleString(text.toStdString());
+    return ofLength(name, type, value, Data::visibleString(text.toStdString()));
 }
 
 mms::Result<Data> toMmsString(const QString &name, const TypeDescription &type,
                               const QVariant &value)
 {
     const QString text = value.toString();
-    if (type.size != 0 && text.toUcs4().size() > std::abs(type.size))
-        return misfit(value, name);
-    return Data::mmsString(text.toStdString());
+    // What stands for octets that are no text is not the text of the device.
+    if (text.contains(QChar(QChar::ReplacementCharacter)) || !text.isValidUtf16())
+        return error(Texts::tr("\"%1\" holds characters that %2 does not have.").arg(text, name));
+    return ofLength(name, type, value, Data::mmsString(text.toStdString()));
 }
 
-std::optional<mms::UtcTime> utcTimeOf(const QString &text)
+mms::Result<Data> toUtcTime(const QString &name, const QVariant &value)
 {
-    // The fraction may be finer than QDateTime keeps; clock flags behind the time are not written.
-    const QString stamp = text.section(QLatin1Char(' '), 0, 0);
-    const int point = stamp.indexOf(QLatin1Char('.'));
-    QString whole = stamp;
-    double fraction = 0;
-    if (point >= 0) {
-        int end = point + 1;
-        while (end < stamp.size() && stamp.at(end).isDigit())
-            ++end;
-        bool ok = false;
-        fraction = (QStringLiteral("0.") + stamp.mid(point + 1, end - point - 1)).toDouble(&ok);
-        if (!ok)
-            return std::nullopt;
-        whole.remove(point, end - point);
-    }
-    QDateTime time = QDateTime::fromString(whole, Qt::ISODate);
-    if (!time.isValid())
-        return std::nullopt;
-    if (time.timeSpec() == Qt::LocalTime)
-        time.setTimeSpec(Qt::UTC);
-    const qint64 seconds = time.toSecsSinceEpoch();
-    if (seconds < 0 || seconds > std::numeric_limits<quint32>::max())
-        return std::nullopt;
-    mms::UtcTime result;
-    result.seconds = static_cast<std::uint32_t>(seconds);
-    result.fraction = std::min(static_cast<std::uint32_t>(fraction * 16777216.0), 0xFFFFFFU);
-    result.quality = 0x0A; // milliseconds
-    return result;
+    const auto time = mms::utcTimeFrom(value.toString().trimmed().toStdString());
+    return time ? mms::Result<Data>(Data::utcTime(*time)) : misfit(value, name);
 }
 
 mms::Result<Data> toBinaryTime(const QString &name, const TypeDescription &type,
                                const QVariant &value)
 {
-    QDateTime time = QDateTime::fromString(value.toString(), Qt::ISODateWithMs);
-    if (!time.isValid())
+    const auto time = mms::binaryTimeFrom(value.toString().trimmed().toStdString());
+    if (!time || time->days.has_value() != type.withDate)
         return misfit(value, name);
-    if (time.timeSpec() == Qt::LocalTime)
-        time.setTimeSpec(Qt::UTC);
-    time = time.toUTC();
-    const qint64 days = QDate(1984, 1, 1).daysTo(time.date());
-    if (days < 0 || days > std::numeric_limits<quint16>::max())
+    return Data::binaryTime(*time);
+}
+
+/// "20210304050607.123Z": the date and the time without separators (ISO 8601, basic format).
+mms::Result<Data> toGeneralizedTime(const QString &name, const QVariant &value)
+{
+    static const QRegularExpression form(
+        QStringLiteral("\\A([0-9]{8})([0-9]{6})([.,][0-9]+)?(Z|[+-][0-9]{4})?\\z"));
+    const QString text = value.toString();
+    const QRegularExpressionMatch match = form.match(text);
+    if (!QDate::fromString(match.captured(1), QStringLiteral("yyyyMMdd")).isValid() ||
+        !QTime::fromString(match.captured(2), QStringLiteral("HHmmss")).isValid())
         return misfit(value, name);
-    mms::BinaryTime result;
-    result.milliseconds = static_cast<std::uint32_t>(time.time().msecsSinceStartOfDay());
-    if (type.withDate)
-        result.days = static_cast<std::uint16_t>(days);
-    return Data::binaryTime(result);
+    return Data::generalizedTime(text.toStdString());
 }
 
 bool hasSize(const TypeDescription &type, TypeDescription::Kind kind,
@@ -349,9 +350,11 @@ QVariant ValueConversion::toVariant(const QString &basicType, const mms::Data &d
         if (basicType == QLatin1String("Quality"))
             return qualityText(data);
         const mms::BitString bits = data.bits();
-        if (isCoded(basicType) && bits.size() <= 2)
-            return ordinalOf(bits);
-        return bitText(bits);
+        if (!isCoded(basicType))
+            return bitText(bits);
+        // Half of the bits are no ordinal.
+        return bits.size() == 2 ? QVariant(ordinalOf(bits))
+                                : bitText(bits).leftJustified(2, unknownBit);
     }
     case Data::Kind::OctetString:
         return hexText(data.octets());
@@ -390,12 +393,9 @@ mms::Result<mms::Data> ValueConversion::toData(const QString &basicType,
         return toBoolean(name, value);
     case Kind::Integer:
     case Kind::Unsigned:
-    case Kind::Bcd: {
-        mms::Result<Data> number = toInteger(name, type, value);
-        if (number && type.kind == Kind::Bcd)
-            return Data::bcd(static_cast<std::uint64_t>(number->toInteger().value_or(0)));
-        return number;
-    }
+        return toInteger(name, type, value);
+    case Kind::Bcd:
+        return toBcd(name, type, value);
     case Kind::FloatingPoint:
         return toFloat(name, type, value);
     case Kind::BitString:
@@ -407,11 +407,9 @@ mms::Result<mms::Data> ValueConversion::toData(const QString &basicType,
     case Kind::MmsString:
         return toMmsString(name, type, value);
     case Kind::GeneralizedTime:
-        return Data::generalizedTime(value.toString().toStdString());
+        return toGeneralizedTime(name, value);
     case Kind::UtcTime:
-        if (const auto time = utcTimeOf(value.toString()))
-            return Data::utcTime(*time);
-        return misfit(value, name);
+        return toUtcTime(name, value);
     case Kind::BinaryTime:
         return toBinaryTime(name, type, value);
     case Kind::TypeName:
@@ -421,6 +419,22 @@ mms::Result<mms::Data> ValueConversion::toData(const QString &basicType,
         break;
     }
     return error(Texts::tr("A value of type %1 cannot be written as a whole.").arg(name));
+}
+
+QString ValueConversion::whyReadOnly(const QString &reference, const QVariant &known)
+{
+    if (known.userType() != QMetaType::QString)
+        return {};
+    MMSValue record;
+    record.reference = reference;
+    record.value = known;
+    if (!record.keepsValueWhole())
+        return Texts::tr("The text of %1 is longer than can be shown, so it can only be read.")
+            .arg(reference);
+    if (known.toString().contains(QChar(QChar::ReplacementCharacter)))
+        return Texts::tr("%1 holds octets that are no text, so it can only be read.")
+            .arg(reference);
+    return {};
 }
 
 QString ValueConversion::basicTypeOf(const mms::TypeDescription &type)
@@ -482,14 +496,13 @@ bool ValueConversion::fits(const QString &basicType, const mms::TypeDescription 
     if (basicType == QLatin1String("TrgOps") || basicType == QLatin1String("OptFlds") ||
         basicType == QLatin1String("SvOptFlds"))
         return type.kind == Kind::BitString;
-    if (basicType.startsWith(QLatin1String("INT")) && basicType.endsWith(QLatin1Char('U'))) {
-        const int bits = QStringView(basicType).mid(3, basicType.size() - 4).toString().toInt();
+    if (basicType.startsWith(QLatin1String("INT"))) {
+        const bool isUnsigned = basicType.endsWith(QLatin1Char('U'));
+        const Kind kind = isUnsigned ? Kind::Unsigned : Kind::Integer;
+        const int bits = basicType.midRef(3, basicType.size() - (isUnsigned ? 4 : 3)).toInt();
         // A 24-bit number travels as one of 32 bits with many peers.
-        return hasSize(type, Kind::Unsigned, {bits}) ||
-               (bits == 24 && hasSize(type, Kind::Unsigned, {32}));
+        return hasSize(type, kind, {bits}) || (bits == 24 && hasSize(type, kind, {32}));
     }
-    if (basicType.startsWith(QLatin1String("INT")))
-        return hasSize(type, Kind::Integer, {basicType.midRef(3).toInt()});
     if (basicType == QLatin1String("ObjRef") || basicType == QLatin1String("Currency"))
         return type.kind == Kind::VisibleString;
     if (basicType == QLatin1String("EntryID"))
@@ -500,10 +513,10 @@ bool ValueConversion::fits(const QString &basicType, const mms::TypeDescription 
 QString ValueConversion::qualityText(const mms::Data &data)
 {
     const mms::BitString bits = data.bits();
-    QString text;
-    text.reserve(static_cast<int>(qualityBits));
-    for (std::size_t i = 0; i < qualityBits; ++i)
-        text.append(bits.test(i) ? QLatin1Char('1') : QLatin1Char('0'));
+    QString text = bitText(bits).leftJustified(qualityBits, unknownBit);
+    // A validity that was not sent whole must not be taken for a good one.
+    if (bits.size() < static_cast<std::size_t>(validityBits))
+        text.replace(0, validityBits, QStringLiteral("11"));
     return text;
 }
 
@@ -511,7 +524,7 @@ QString ValueConversion::timeText(const mms::Data &data)
 {
     if (const auto time = data.toUtcTime())
         return QString::fromStdString(mms::toText(*time));
-    if (const auto time = data.toBinaryTime())
+    if (const auto time = data.toBinaryTime(); time && mms::isTimeOfDay(*time))
         return QString::fromStdString(mms::toText(*time));
     return {};
 }

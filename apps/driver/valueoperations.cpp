@@ -98,8 +98,12 @@ asio::awaitable<Outcome> write(DevicePointer device, QString ldName, QString nam
     const QString oldValue = attribute ? ValueConversion::text(attribute->value) : QString();
 
     Outcome outcome;
+    const QString readOnly =
+        attribute ? ValueConversion::whyReadOnly(full, attribute->value) : QString();
     const mms::Result<mms::Data> data = ValueConversion::toData(basicType, *type, value);
-    if (data) {
+    if (!readOnly.isEmpty()) {
+        outcome = Outcome::failed(readOnly);
+    } else if (data) {
         const mms::Result<void> written =
             co_await device->client()->writeOne(acsi::accessOf(*reference), *data);
         if (!written)

@@ -5,13 +5,7 @@ namespace sim {
 
 mms::UtcTime Clock::utcTime() const
 {
-    using namespace std::chrono;
-    const auto time = now().time_since_epoch();
-    const auto whole = floor<seconds>(time);
-    const auto rest = static_cast<std::uint64_t>((time - whole).count());
-    constexpr std::uint64_t nanosecondsPerSecond = 1000000000;
-    return {static_cast<std::uint32_t>(whole.count()),
-            static_cast<std::uint32_t>((rest << 24U) / nanosecondsPerSecond), m_quality};
+    return mms::utcTimeAt(now(), m_quality).value_or(mms::UtcTime{0, 0, m_quality});
 }
 
 mms::BinaryTime Clock::entryTime() const

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "simulator/initialvalues.h"
 
+#include "acsi/typedvalue.h"
 #include "mms/ber.h"
 
 #include <algorithm>
 #include <charconv>
-#include <chrono>
 #include <cstdlib>
 #include <sstream>
 #include <string>
@@ -36,14 +36,14 @@ mms::Data codedEnumeration(std::int64_t ordinal)
 std::int64_t initialOrdinal(const LeafPlace &place)
 {
     const auto *enumeration = place.leaf.enumeration == 0
-        ? nullptr
-        : &place.layout.enumerations[place.leaf.enumeration - 1];
+                                  ? nullptr
+                                  : &place.layout.enumerations[place.leaf.enumeration - 1];
     const auto has = [enumeration](std::int64_t ordinal) {
         return !enumeration || std::ranges::binary_search(enumeration->ordinals, ordinal);
     };
-    const bool isState = place.leaf.name == "stVal"
-        && (place.dataObject == "Mod" || place.dataObject == "Beh"
-            || place.dataObject.ends_with("Health"));
+    const bool isState =
+        place.leaf.name == "stVal" && (place.dataObject == "Mod" || place.dataObject == "Beh" ||
+                                       place.dataObject.ends_with("Health"));
     const bool startsAtOne = isState || place.leaf.name == "SIUnit";
     if (startsAtOne && has(1))
         return 1;
@@ -65,15 +65,24 @@ std::uint64_t initialNumber(const LeafPlace &place)
     return 0;
 }
 
-std::string cut(std::string_view text, std::int32_t size)
+mms::Data cut(const LayoutNode &leaf, std::string_view text)
 {
-    const auto limit = static_cast<std::size_t>(std::abs(size));
-    std::size_t length = std::min(text.size(), limit);
-    // Not within a character of several octets.
-    while (length < text.size() && length > 0
-           && (static_cast<unsigned char>(text[length]) & 0xC0U) == 0x80U)
-        --length;
-    return std::string(text.substr(0, length));
+    mms::TypeDescription type;
+    type.kind = leaf.mmsKind;
+    type.size = leaf.size;
+    const auto value = [&leaf](std::string_view all) {
+        return leaf.mmsKind == Kind::MmsString ? mms::Data::mmsString(all)
+                                               : mms::Data::visibleString(all);
+    };
+    while (!acsi::fitsLength(type, value(text))) {
+        // Not within a character of several octets.
+        unsigned char last = 0;
+        do {
+            last = static_cast<unsigned char>(text.back());
+            text.remove_suffix(1);
+        } while (!text.empty() && (last & 0xC0U) == 0x80U);
+    }
+    return value(text);
 }
 
 std::vector<std::uint8_t> octetsFrom(std::string_view hex)
@@ -85,37 +94,6 @@ std::vector<std::uint8_t> octetsFrom(std::string_view hex)
         octets.push_back(octet);
     }
     return octets;
-}
-
-/// From "2021-03-04T05:06:07.123Z", as the SCL reader writes it.
-std::optional<mms::UtcTime> timeFrom(std::string_view text)
-{
-    const auto number = [text](std::size_t offset, std::size_t length) {
-        int value = -1;
-        if (offset + length <= text.size())
-            std::from_chars(text.data() + offset, text.data() + offset + length, value);
-        return value;
-    };
-    const auto date = std::chrono::year(number(0, 4))
-        / std::chrono::month(static_cast<unsigned>(number(5, 2)))
-        / std::chrono::day(static_cast<unsigned>(number(8, 2)));
-    if (!date.ok() || text.size() < 19)
-        return std::nullopt;
-    const auto seconds = std::chrono::sys_days(date).time_since_epoch()
-        + std::chrono::hours(number(11, 2)) + std::chrono::minutes(number(14, 2))
-        + std::chrono::seconds(number(17, 2));
-    double fraction = 0;
-    if (text.size() > 20 && text[19] == '.') {
-        double weight = 0.1;
-        for (std::size_t i = 20; i < text.size() && text[i] >= '0' && text[i] <= '9'; ++i) {
-            fraction += weight * (text[i] - '0');
-            weight /= 10;
-        }
-    }
-    constexpr double unitsPerSecond = 16777216.0;
-    return mms::UtcTime{
-        static_cast<std::uint32_t>(std::chrono::duration_cast<std::chrono::seconds>(seconds).count()),
-        static_cast<std::uint32_t>(fraction * unitsPerSecond), 0};
 }
 
 std::optional<mms::Data> fromText(const LayoutNode &leaf, std::string_view text)
@@ -135,13 +113,15 @@ std::optional<mms::Data> fromText(const LayoutNode &leaf, std::string_view text)
             octets.resize(size);
         return mms::Data::octetString(octets);
     }
-    case Kind::VisibleString: return mms::Data::visibleString(cut(text, leaf.size));
-    case Kind::MmsString: return mms::Data::mmsString(cut(text, leaf.size));
+    case Kind::VisibleString:
+    case Kind::MmsString:
+        return cut(leaf, text);
     case Kind::UtcTime:
-        if (const auto time = timeFrom(text))
+        if (const auto time = mms::utcTimeFrom(text))
             return mms::Data::utcTime(*time);
         return std::nullopt;
-    default: return std::nullopt;
+    default:
+        return std::nullopt;
     }
 }
 
@@ -151,12 +131,14 @@ mms::Data initialValue(const LeafPlace &place, const mms::UtcTime &now)
 {
     const LayoutNode &leaf = place.leaf;
     switch (leaf.mmsKind) {
-    case Kind::Boolean: return mms::Data::boolean(false);
+    case Kind::Boolean:
+        return mms::Data::boolean(false);
     case Kind::Integer:
         return mms::Data::integer(leaf.basicType == BasicType::Enum
                                       ? initialOrdinal(place)
                                       : static_cast<std::int64_t>(initialNumber(place)));
-    case Kind::Unsigned: return mms::Data::unsignedInteger(initialNumber(place));
+    case Kind::Unsigned:
+        return mms::Data::unsignedInteger(initialNumber(place));
     case Kind::FloatingPoint: {
         const double value = leaf.name == "scaleFactor" ? 1 : 0;
         return leaf.size == 64 ? mms::Data::float64(value)
@@ -169,15 +151,18 @@ mms::Data initialValue(const LeafPlace &place, const mms::UtcTime &now)
     case Kind::OctetString:
         return mms::Data::octetString(
             std::vector<std::uint8_t>(leaf.size > 0 ? static_cast<std::size_t>(leaf.size) : 0));
-    case Kind::MmsString: return mms::Data::mmsString({});
+    case Kind::MmsString:
+        return mms::Data::mmsString({});
     case Kind::BinaryTime: {
         mms::BinaryTime time;
         if (leaf.withDate)
             time.days = 0;
         return mms::Data::binaryTime(time);
     }
-    case Kind::UtcTime: return mms::Data::utcTime(leaf.fc == Fc::CO ? mms::UtcTime() : now);
-    default: return mms::Data::visibleString({});
+    case Kind::UtcTime:
+        return mms::Data::utcTime(leaf.fc == Fc::CO ? mms::UtcTime() : now);
+    default:
+        return mms::Data::visibleString({});
     }
 }
 

@@ -3,6 +3,8 @@
 
 #include "simulator/modelbuilder.h"
 
+#include "acsi/typedvalue.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -91,7 +93,10 @@ std::optional<DataAccessError> checkLeaf(const Layout &layout, const LayoutNode 
         break;
     case Kind::OctetString:
     case Kind::VisibleString:
-    case Kind::MmsString: valid = fitsSize(data.size(), leaf.size); break;
+    case Kind::MmsString:
+        valid = leaf.size < 0 ? acsi::fitsLength(leafType(leaf), data)
+                              : fitsSize(data.size(), leaf.size);
+        break;
     case Kind::BinaryTime: {
         const auto time = data.toBinaryTime();
         if (!time || time->days.has_value() != leaf.withDate)

@@ -26,11 +26,12 @@ std::uint64_t lengthOf(const TypeDescription &type)
     return static_cast<std::uint64_t>(std::abs(static_cast<std::int64_t>(type.size)));
 }
 
-bool fitsLength(const TypeDescription &type, std::size_t length)
+/// Bits are counted exactly where the size is not the negative of the greatest.
+bool fitsBits(const TypeDescription &type, std::size_t bits)
 {
     if (type.size == 0)
         return true;
-    return type.size > 0 ? length == lengthOf(type) : length <= lengthOf(type);
+    return type.size > 0 ? bits == lengthOf(type) : bits <= lengthOf(type);
 }
 
 bool fitsInteger(const TypeDescription &type, std::int64_t value)
@@ -92,9 +93,8 @@ std::optional<Data> toFloat(const TypeDescription &type, double number)
 {
     if (type.size == 64)
         return Data::float64(number);
-    if (std::isfinite(number) && std::abs(number) > std::numeric_limits<float>::max())
-        return std::nullopt;
-    return Data::float32(static_cast<float>(number));
+    const auto nearest = nearestFloat(number);
+    return nearest ? std::optional(Data::float32(*nearest)) : std::nullopt;
 }
 
 std::optional<Data> toCodedEnum(const TypeDescription &type, std::uint64_t number)
@@ -159,11 +159,11 @@ std::optional<Data> converted(const TypeDescription &type, const Data &value)
             return toCodedEnum(type, *number);
         return std::nullopt;
     case Kind::VisibleString:
-        if (value.kind() == Data::Kind::MmsString && fitsLength(type, value.size()))
+        if (value.kind() == Data::Kind::MmsString && fitsLength(type, value))
             return Data::visibleString(value.text());
         return std::nullopt;
     case Kind::MmsString:
-        if (value.kind() == Data::Kind::VisibleString && fitsLength(type, value.size()))
+        if (value.kind() == Data::Kind::VisibleString && fitsLength(type, value))
             return Data::mmsString(value.text());
         return std::nullopt;
     default:
@@ -180,6 +180,61 @@ const TypeDescription *componentOf(const TypeDescription &structure, std::string
     const auto found =
         std::ranges::find(structure.components, name, &TypeDescription::Component::name);
     return found == structure.components.end() ? nullptr : &found->type;
+}
+
+std::optional<float> nearestFloat(double number)
+{
+    if (!std::isfinite(number))
+        return static_cast<float>(number);
+    // Half a unit above the greatest number begins what rounds to infinity.
+    constexpr double greatest = std::numeric_limits<float>::max();
+    constexpr double limit = 3.4028235677973366e38;
+    if (std::abs(number) >= limit)
+        return std::nullopt;
+    const auto result = static_cast<float>(std::clamp(number, -greatest, greatest));
+    if (result == 0 && number != 0)
+        return std::nullopt;
+    return result;
+}
+
+bool fitsLength(const TypeDescription &type, const Data &value)
+{
+    constexpr std::uint64_t charactersOfUnicode255 = 255;
+    const std::uint64_t limit = lengthOf(type);
+    if (limit == 0 || value.size() <= limit)
+        return true;
+    if (type.kind != Kind::MmsString || limit != charactersOfUnicode255)
+        return false;
+    const auto characters = std::ranges::count_if(value.text(), [](char octet) {
+        return (static_cast<unsigned char>(octet) & 0xC0U) != 0x80U;
+    });
+    return static_cast<std::uint64_t>(characters) <= limit;
+}
+
+bool isSentAs(const TypeDescription &type, const Data &value)
+{
+    const bool isGroup = value.kind() == Data::Kind::Structure || value.kind() == Data::Kind::Array;
+    if (type.kind == Kind::TypeName)
+        return !isGroup;
+    if (static_cast<int>(type.kind) != static_cast<int>(value.kind()))
+        return false;
+    constexpr std::uint64_t codedBits = 2;
+    switch (type.kind) {
+    case Kind::Structure:
+        return value.size() == type.components.size();
+    case Kind::Array:
+        return value.size() == type.elementCount && !type.components.empty();
+    case Kind::FloatingPoint:
+        return (type.size == 64) == value.isDouble();
+    case Kind::BitString:
+        // Every bit of a coded enumeration is needed, however its length is described.
+        return lengthOf(type) == codedBits ? value.size() == codedBits
+                                           : fitsBits(type, value.size());
+    case Kind::BinaryTime:
+        return mms::isTimeOfDay(*value.toBinaryTime());
+    default:
+        return true;
+    }
 }
 
 mms::Result<void> checkType(const TypeDescription &type, const Data &value)
@@ -215,10 +270,12 @@ mms::Result<void> checkType(const TypeDescription &type, const Data &value)
         fits = (type.size == 64) == value.isDouble();
         break;
     case Kind::BitString:
+        fits = fitsBits(type, value.size());
+        break;
     case Kind::OctetString:
     case Kind::VisibleString:
     case Kind::MmsString:
-        fits = fitsLength(type, value.size());
+        fits = fitsLength(type, value);
         break;
     default:
         break;

@@ -4,6 +4,7 @@
 #include "mms/data.h"
 #include "mms/typedescription.h"
 
+#include <optional>
 #include <string_view>
 
 namespace acsi {
@@ -11,6 +12,20 @@ namespace acsi {
 /// The component of a structure by its name; null when there is none.
 const mms::TypeDescription *componentOf(const mms::TypeDescription &structure,
                                         std::string_view name);
+
+/// The nearest number of 32 bits; none where that would be infinity, or 0 for a number that is not.
+std::optional<float> nearestFloat(double number);
+
+/// Whether the length of a text or of octets fits @p type, which is one of these. Devices describe
+/// some of them with a fixed size where the standard has a greatest one, so that a size is only
+/// ever the greatest. Sizes count octets; that of the standard's Unicode255 counts characters.
+bool fitsLength(const mms::TypeDescription &type, const mms::Data &value);
+
+/// Whether @p value, which a device sent, is what @p type says of it: of that kind, a
+/// floating-point number of that width, a bit string with as many bits as it must have, a time of
+/// day that is one. Ranges of numbers and lengths of texts are the device's own affair. Of groups
+/// only the number of their members counts.
+bool isSentAs(const mms::TypeDescription &type, const mms::Data &value);
 
 /// Whether a device with a variable of type @p type can take @p value as it is. The error says what
 /// does not fit.

@@ -5,7 +5,6 @@
 #include <array>
 #include <bit>
 #include <charconv>
-#include <chrono>
 #include <cstdio>
 #include <cstring>
 
@@ -21,8 +20,7 @@ namespace {
 constexpr std::uint8_t floatExponentWidth = 8;
 constexpr std::uint8_t doubleExponentWidth = 11;
 
-constexpr std::string_view noValue =
-    "An element that is no value stands where a value belongs";
+constexpr std::string_view noValue = "An element that is no value stands where a value belongs";
 
 std::uint64_t bigEndian(Bytes octets)
 {
@@ -47,13 +45,6 @@ std::string printed(const char *format, Arguments... arguments)
     char buffer[64];
     const int size = std::snprintf(buffer, sizeof buffer, format, arguments...);
     return std::string(buffer, static_cast<std::size_t>(std::max(size, 0)));
-}
-
-std::string dateText(std::chrono::sys_days day)
-{
-    const std::chrono::year_month_day date(day);
-    return printed("%04d-%02u-%02u", static_cast<int>(date.year()),
-                   static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()));
 }
 
 std::string hexText(Bytes octets)
@@ -675,38 +666,6 @@ std::string quoted(std::string_view text)
         }
     }
     return result + '"';
-}
-
-std::string toText(const UtcTime &time)
-{
-    const std::chrono::sys_seconds moment{std::chrono::seconds(time.seconds)};
-    const auto day = std::chrono::floor<std::chrono::days>(moment);
-    const std::chrono::hh_mm_ss clock(moment - day);
-    const auto microseconds =
-        static_cast<unsigned>(std::uint64_t{time.fraction & 0xFFFFFFU} * 1000000U >> 24);
-    std::string result =
-        dateText(day) + printed("T%02d:%02d:%02d.%06uZ", static_cast<int>(clock.hours().count()),
-                                static_cast<int>(clock.minutes().count()),
-                                static_cast<int>(clock.seconds().count()), microseconds);
-    if ((time.quality & 0x80U) != 0)
-        result += " leap-seconds-known";
-    if ((time.quality & 0x40U) != 0)
-        result += " clock-failure";
-    if ((time.quality & 0x20U) != 0)
-        result += " clock-not-synchronized";
-    return result;
-}
-
-std::string toText(const BinaryTime &time)
-{
-    const unsigned seconds = time.milliseconds / 1000;
-    std::string clock = printed("%02u:%02u:%02u.%03u", seconds / 3600, seconds / 60 % 60,
-                                seconds % 60, time.milliseconds % 1000);
-    if (!time.days)
-        return clock;
-    constexpr std::chrono::sys_days epoch =
-        std::chrono::year(1984) / std::chrono::January / std::chrono::day(1);
-    return dateText(epoch + std::chrono::days(*time.days)) + 'T' + clock + 'Z';
 }
 
 std::string toText(const Data &data)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "mms/ber.h"
+#include "mms/times.h"
 
 #include <cstdint>
 #include <optional>
@@ -12,31 +13,6 @@
 #include <vector>
 
 namespace mms {
-
-/// A moment as utc-time carries it (IEC 61850-8-1, 8.1.3.7).
-struct UtcTime
-{
-    /// Since 1970-01-01 00:00:00 UTC.
-    std::uint32_t seconds = 0;
-    /// Of a second, in units of 2^-24 s; 24 bits.
-    std::uint32_t fraction = 0;
-    /// Bit 7 leap seconds known, bit 6 clock failure, bit 5 clock not synchronized, bits 4 to 0
-    /// accuracy in bits of the fraction.
-    std::uint8_t quality = 0;
-
-    friend bool operator==(const UtcTime &, const UtcTime &) = default;
-};
-
-/// A time of day, with or without a date (ISO 9506-2, TimeOfDay).
-struct BinaryTime
-{
-    /// Since midnight.
-    std::uint32_t milliseconds = 0;
-    /// Since 1984-01-01.
-    std::optional<std::uint16_t> days;
-
-    friend bool operator==(const BinaryTime &, const BinaryTime &) = default;
-};
 
 /// A value as MMS carries it: one choice of Data (ISO 9506-2, 14.4.2), with everything inside it.
 /// 16 octets; texts, octets and bits of up to 8 octets are kept inside. A default value is a
@@ -309,11 +285,6 @@ std::vector<std::uint8_t> encode(const Data &data);
 /// times in UTC, structures in braces and arrays in brackets.
 std::string toText(const Data &data);
 std::string toText(const AccessResult &result);
-
-/// "2021-03-04T05:06:07.123456Z", cut to microseconds, with the clock flags behind it that are set.
-std::string toText(const UtcTime &time);
-/// "2021-03-04T05:06:07.123Z", or "05:06:07.123" without a date.
-std::string toText(const BinaryTime &time);
 
 /// Text in quotation marks; octets that do not print as "\x" and two digits.
 std::string quoted(std::string_view text);

@@ -11,15 +11,70 @@ namespace {
 
 constexpr quint8 formatVersion = 1;
 
-// Version, type, device number, cause and the four lengths of texts.
-constexpr int fixedBytes = 1 + 1 + 4 + 4 + 2 + 2 + 1 + 1;
-constexpr int longestQuality = 32;
-constexpr int longestTimeStamp = 80;
+/// Beside the types of AttributeValue: a text of which each character takes one octet.
+constexpr quint8 narrowText = 0xFE;
+
+// Version, type, device number, cause, the four lengths of texts and the alphabet of a narrow one.
+constexpr int fixedBytes = 1 + 1 + 4 + 4 + 2 + 2 + 1 + 1 + 2;
+constexpr int longestQuality = 15;
+constexpr int longestTimeStamp = 95; // with every clock flag and the accuracy
 constexpr int longestValueBesideLongReference = 255;
 static_assert(fixedBytes + longestQuality + longestTimeStamp + longestValueBesideLongReference +
                       129 <=
                   MMSValue::rawSize,
               "the longest visible string and the longest reference fit uncut");
+
+/// The room for a value's text or bytes beside so many of the other texts. It gives way to the
+/// reference, without which it is worth nothing, but keeps room for the longest visible string.
+int roomForValue(const QString &reference, int others)
+{
+    return qMax(longestValueBesideLongReference,
+                MMSValue::rawSize - fixedBytes - others - reference.toUtf8().size());
+}
+
+/// A text of ASCII and of characters of one other alphabet: where that begins, and one octet for
+/// each character, from 0x80 on for the other ones. Such a text of 255 characters fits, as long as
+/// most alphabets would make it in UTF-8.
+struct NarrowText
+{
+    quint16 alphabet = 0;
+    QByteArray octets;
+};
+
+constexpr int asciiEnd = 0x80;
+
+bool narrow(const QString &text, NarrowText &result)
+{
+    int least = 0x10000;
+    int greatest = 0;
+    for (const QChar c : text) {
+        if (c.unicode() >= asciiEnd) {
+            least = qMin<int>(least, c.unicode());
+            greatest = qMax<int>(greatest, c.unicode());
+        }
+    }
+    if (greatest - least >= asciiEnd)
+        return false;
+    result.alphabet = static_cast<quint16>(qMin(least, 0xFFFF));
+    result.octets.clear();
+    for (const QChar c : text) {
+        const int number = c.unicode();
+        result.octets.append(
+            static_cast<char>(number < asciiEnd ? number : number - least + asciiEnd));
+    }
+    return true;
+}
+
+QString widened(quint16 alphabet, const QByteArray &octets)
+{
+    QString text;
+    text.reserve(octets.size());
+    for (const char c : octets) {
+        const int number = static_cast<uchar>(c);
+        text.append(QChar(number < asciiEnd ? number : alphabet + number - asciiEnd));
+    }
+    return text;
+}
 
 /// UTF-8 of at most `limit` bytes; a text that has more ends in "…" behind its last whole
 /// character.
@@ -118,6 +173,10 @@ public:
             return text<quint16>();
         case AttributeValue::Bytes:
             return bytes<quint16>();
+        case narrowText: {
+            const auto alphabet = number<quint16>();
+            return widened(alphabet, bytes<quint16>());
+        }
         default:
             m_stream.setStatus(QDataStream::ReadCorruptData);
             return QVariant();
@@ -165,10 +224,9 @@ void MMSValue::toStream(QDataStream &stream) const
     const QByteArray qualityBytes = utf8Within(quality, longestQuality);
     const QByteArray timeBytes = utf8Within(timeStamp, longestTimeStamp);
 
-    // The value gives way to the reference, without which it is worth nothing, but keeps room for
-    // the longest visible string.
-    int left = rawSize - fixedBytes - qualityBytes.size() - timeBytes.size();
-    const int valueLimit = qMax(longestValueBesideLongReference, left - reference.toUtf8().size());
+    const int others = qualityBytes.size() + timeBytes.size();
+    int left = rawSize - fixedBytes - others;
+    const int valueLimit = roomForValue(reference, others);
 
     QVariant written = AttributeValue::represented(value);
     // Bytes that do not fit become the hexadecimal text by which octet strings are represented,
@@ -176,12 +234,20 @@ void MMSValue::toStream(QDataStream &stream) const
     if (written.userType() == AttributeValue::Bytes && written.toByteArray().size() > valueLimit)
         written = QString::fromLatin1(written.toByteArray().left(rawSize).toHex());
 
-    const int type = written.userType();
+    int type = written.userType();
     QByteArray valueBytes;
-    if (type == AttributeValue::Text)
-        valueBytes = utf8Within(written.toString(), valueLimit);
-    else if (type == AttributeValue::Bytes)
+    NarrowText narrowed;
+    if (type == AttributeValue::Text) {
+        const QString text = written.toString();
+        valueBytes = utf8Within(text, valueLimit);
+        if (text.size() <= valueLimit && text.toUtf8().size() > valueLimit &&
+            narrow(text, narrowed)) {
+            type = narrowText;
+            valueBytes = narrowed.octets;
+        }
+    } else if (type == AttributeValue::Bytes) {
         valueBytes = written.toByteArray();
+    }
     left -= qMax(valueBytes.size(), static_cast<int>(sizeof(double)));
     const QByteArray referenceBytes = utf8Within(reference, left);
 
@@ -208,6 +274,10 @@ void MMSValue::toStream(QDataStream &stream) const
     case AttributeValue::Float:
         stream << bitsOfFloat(written.toFloat());
         break;
+    case narrowText:
+        stream << narrowed.alphabet;
+        writeBytes<quint16>(stream, valueBytes);
+        break;
     case AttributeValue::Text:
     case AttributeValue::Bytes:
         writeBytes<quint16>(stream, valueBytes);
@@ -219,4 +289,17 @@ void MMSValue::toStream(QDataStream &stream) const
     writeBytes<quint8>(stream, qualityBytes);
     writeBytes<quint8>(stream, timeBytes);
     stream << deviceNo << cause;
+}
+
+bool MMSValue::keepsValueWhole() const
+{
+    const QVariant written = AttributeValue::represented(value);
+    const int room = roomForValue(reference, longestQuality + longestTimeStamp);
+    if (written.userType() == AttributeValue::Bytes)
+        return written.toByteArray().size() <= room;
+    if (written.userType() != AttributeValue::Text)
+        return true;
+    const QString text = written.toString();
+    NarrowText narrowed;
+    return text.toUtf8().size() <= room || (text.size() <= room && narrow(text, narrowed));
 }

@@ -30,6 +30,10 @@ public:
     /// Write one value in at most `rawSize` bytes, whatever the lengths of its texts.
     void toStream(QDataStream &stream) const;
 
+    /// Whether the text of `value` arrives as it is, whatever quality and time stamp stand beside
+    /// it; otherwise toStream() may cut it.
+    bool keepsValueWhole() const;
+
     QVariant value;    ///< represented as DataAttribute::value
     QString reference; ///< logical device "/" logical node "$" FC "$" path
 

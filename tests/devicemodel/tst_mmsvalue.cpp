@@ -97,9 +97,11 @@ private slots:
         MMSValue written;
         written.value = QString(255, QLatin1Char('v'));
         written.reference = QString(129, QLatin1Char('r'));
-        written.quality = QString(32, QLatin1Char('1'));
-        written.timeStamp = QString(80, QLatin1Char('t'));
-        QCOMPARE(bytesOf(written).size(), MMSValue::rawSize);
+        written.quality = QString(15, QLatin1Char('1'));
+        written.timeStamp = QString(95, QLatin1Char('t'));
+        // Two bytes are kept for the alphabet of a narrow text.
+        QCOMPARE(bytesOf(written).size(), MMSValue::rawSize - 2);
+        QVERIFY(written.keepsValueWhole());
         const MMSValue read = throughRecord(written);
         QCOMPARE(read.value, written.value);
         QCOMPARE(read.reference, written.reference);
@@ -116,6 +118,47 @@ private slots:
         const MMSValue read = throughRecord(written);
         QCOMPARE(read.value, written.value);
         QCOMPARE(read.reference, written.reference);
+    }
+
+    void aTextOfOneAlphabetAndTheLongestReferenceFitUncut_data()
+    {
+        QTest::addColumn<QString>("text");
+        const QString ascii = QStringLiteral("MW, 50 Hz ");
+        QTest::newRow("of two bytes each") << QString(255, QChar(0x00DF));
+        QTest::newRow("Cyrillic") << (ascii + QString(245, QChar(0x0436)));
+        QTest::newRow("both ends of an alphabet")
+            << (QString(100, QChar(0x0391)) + QString(155, QChar(0x0410)));
+        QTest::newRow("of three bytes each") << (ascii + QString(245, QChar(0x3042)));
+        QTest::newRow("the last characters") << QString(255, QChar(0xFFFD));
+    }
+
+    void aTextOfOneAlphabetAndTheLongestReferenceFitUncut()
+    {
+        QFETCH(QString, text);
+        MMSValue written;
+        written.value = text;
+        written.reference = QString(129, QLatin1Char('r'));
+        written.quality = QString(15, QLatin1Char('1'));
+        written.timeStamp = QString(95, QLatin1Char('t'));
+        QVERIFY(written.keepsValueWhole());
+        QVERIFY(bytesOf(written).size() <= MMSValue::rawSize);
+        const MMSValue read = throughRecord(written);
+        QCOMPARE(read.value, written.value);
+        QCOMPARE(read.reference, written.reference);
+        QCOMPARE(read.quality, written.quality);
+        QCOMPARE(read.timeStamp, written.timeStamp);
+    }
+
+    void aValueThatIsCutCanBeTold()
+    {
+        MMSValue written = example();
+        written.value = QString(600, QLatin1Char('v'));
+        QVERIFY(!written.keepsValueWhole());
+        written.value = QString(200, QChar(0x00DF)) + QString(200, QChar(0x4F4D));
+        QVERIFY(!written.keepsValueWhole());
+        QVERIFY(throughRecord(written).value.toString().endsWith(ellipsis()));
+        written.value = 42;
+        QVERIFY(written.keepsValueWhole());
     }
 
     void aShortReferenceLeavesRoomForALongValue()

@@ -158,13 +158,8 @@ TEST(Data, TimesAreReadBack)
 {
     const UtcTime utc{1614834367, 0xFFFFFF, 0x8A};
     EXPECT_EQ(Data::utcTime(utc).toUtcTime(), utc);
-    EXPECT_EQ(toText(utc), "2021-03-04T05:06:07.999999Z leap-seconds-known");
-    EXPECT_EQ(toText(UtcTime{0, 0, 0x60}),
-              "1970-01-01T00:00:00.000000Z clock-failure clock-not-synchronized");
-    EXPECT_EQ(toText(UtcTime{4294967295U, 0, 0}), "2106-02-07T06:28:15.000000Z");
     const BinaryTime entry{86399999, 0};
     EXPECT_EQ(Data::binaryTime(entry).toBinaryTime(), entry);
-    EXPECT_EQ(toText(entry), "1984-01-01T23:59:59.999Z");
     EXPECT_EQ(Data::boolean(true).toUtcTime(), std::nullopt);
     EXPECT_EQ(Data::utcTime(utc).toBinaryTime(), std::nullopt);
 }
