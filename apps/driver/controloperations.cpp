@@ -304,6 +304,8 @@ private:
         if (result)
             m_state.selectGranted(number, control->selectTimeout().value_or(milliseconds(0)),
                                   steady_clock::now());
+        else if (result.outcome == acsi::ControlOutcome::NotSent)
+            m_state.selectWithdrawn(number);
         else if (!isUnknown(result.outcome))
             m_state.selectRefused(number);
         co_return result;
@@ -375,6 +377,8 @@ private:
             // rest.
             if (ControlOrder::isEmpty(m_block))
                 m_block.orCat = static_cast<quint8>(m_device->configuration().originatorCategory);
+            if (const auto valid = ControlOrder::toRequest(m_block, originator(), 0); !valid)
+                co_return failed(text(valid.error().message));
             command = this->command(m_block, known ? known->request.ctlNum : m_state.newNumber());
         }
         command.request.time = ControlOrder::now();

@@ -21,7 +21,9 @@ std::uint8_t ControlState::newNumber()
 
 void ControlState::selectSent(Command command)
 {
-    if (m_selection) {
+    m_wasAmbiguous = m_isAmbiguous;
+    // Whoever was refused knows that nothing is selected.
+    if (m_selection && m_selection->phase != SelectPhase::Refused) {
         const Command &before = m_selection->command;
         const bool isSameCaller = command.caller != 0 && command.caller == before.caller;
         const bool isSameCommand = command.block.controlValue == before.block.controlValue &&
@@ -29,17 +31,24 @@ void ControlState::selectSent(Command command)
                                    command.block.check == before.block.check &&
                                    command.block.test == before.block.test;
         m_isAmbiguous = m_isAmbiguous || (!isSameCaller && !isSameCommand);
-    } else {
-        m_isAmbiguous = false;
     }
-    m_selection = Selection{std::move(command), ++m_order, false, std::nullopt};
+    m_replaced = std::move(m_selection);
+    m_selection = Selection{std::move(command), ++m_order, SelectPhase::Sent, std::nullopt};
+}
+
+void ControlState::selectWithdrawn(std::uint8_t ctlNum)
+{
+    if (!m_selection || m_selection->command.request.ctlNum != ctlNum)
+        return;
+    m_selection = std::exchange(m_replaced, std::nullopt);
+    m_isAmbiguous = m_wasAmbiguous;
 }
 
 void ControlState::selectGranted(std::uint8_t ctlNum, std::chrono::milliseconds timeout, Time now)
 {
     if (!m_selection || m_selection->command.request.ctlNum != ctlNum)
         return;
-    m_selection->isGranted = true;
+    m_selection->phase = SelectPhase::Granted;
     m_selection->end.reset();
     if (timeout > std::chrono::milliseconds(0))
         m_selection->end = now + timeout;
@@ -49,13 +58,19 @@ void ControlState::selectGranted(std::uint8_t ctlNum, std::chrono::milliseconds 
 
 void ControlState::selectRefused(std::uint8_t ctlNum)
 {
-    if (m_selection && m_selection->command.request.ctlNum == ctlNum)
-        m_selection->isGranted = false;
+    if (!m_selection || m_selection->command.request.ctlNum != ctlNum)
+        return;
+    // The device may still have what it granted before.
+    if (m_replaced && m_replaced->isGranted())
+        m_selection = std::exchange(m_replaced, std::nullopt);
+    m_selection->phase = SelectPhase::Refused;
+    m_isAmbiguous = false;
 }
 
 bool ControlState::isLive(Time now) const
 {
-    return m_selection && m_selection->isGranted && (!m_selection->end || now < *m_selection->end);
+    return m_selection && m_selection->isGranted() &&
+           (!m_selection->end || now < *m_selection->end);
 }
 
 const ControlState::Command *ControlState::selection(Time now) const
@@ -91,7 +106,7 @@ void ControlState::operateSent(Command command)
     Entry sent;
     sent.command = std::move(command);
     sent.order = ++m_order;
-    if (m_selection && m_selection->isGranted)
+    if (m_selection && m_selection->isGranted())
         sent.selection = std::move(m_selection);
     m_selection.reset();
     m_isAmbiguous = false;
@@ -171,7 +186,8 @@ const ControlState::Command *ControlState::cancellable(Time now) const
 
 void ControlState::cancelled(std::uint8_t ctlNum)
 {
-    if (m_selection && (m_selection->command.request.ctlNum == ctlNum || m_selection->isGranted)) {
+    if (m_selection &&
+        (m_selection->command.request.ctlNum == ctlNum || m_selection->isGranted())) {
         m_selection.reset();
         m_isAmbiguous = false;
     }
@@ -184,6 +200,7 @@ void ControlState::cancelled(std::uint8_t ctlNum)
 void ControlState::associationEnded()
 {
     m_selection.reset();
+    m_replaced.reset();
     m_isAmbiguous = false;
     m_commands.clear();
 }

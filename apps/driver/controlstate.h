@@ -34,9 +34,12 @@ public:
     /// known.
     std::uint8_t newNumber();
 
-    // Selections. A new one takes the place of the one before, also when the device refuses it.
+    // Selections. A new one takes the place of the one before: when the device refuses it, the one
+    // before is operated no more either, but it can be given back.
 
     void selectSent(Command command);
+    /// It was not sent after all; what was selected before is.
+    void selectWithdrawn(std::uint8_t ctlNum);
     /// @p timeout how long it lasts, 0 for as long as it is not used
     void selectGranted(std::uint8_t ctlNum, std::chrono::milliseconds timeout, Time now);
     void selectRefused(std::uint8_t ctlNum);
@@ -91,12 +94,15 @@ private:
         Unknown,
         CarriedOut, ///< accepted, by an object that tells of no end
     };
+    enum class SelectPhase { Sent, Granted, Refused };
     struct Selection
     {
         Command command;
         std::uint64_t order = 0;
-        bool isGranted = false;
+        SelectPhase phase = SelectPhase::Sent;
         std::optional<Time> end;
+
+        bool isGranted() const { return phase == SelectPhase::Granted; }
     };
 
     struct Entry
@@ -116,6 +122,8 @@ private:
     std::uint8_t m_lastNumber = 0;
     std::uint64_t m_order = 0;
     std::optional<Selection> m_selection; ///< the last one that was asked for
+    std::optional<Selection> m_replaced;  ///< by it
     bool m_isAmbiguous = false;           ///< different ones were asked for, none of them used
+    bool m_wasAmbiguous = false;          ///< before the last one
     std::vector<Entry> m_commands;        ///< oldest first
 };

@@ -107,6 +107,9 @@ private slots:
     void aCommandThatRunsGoesBeforeOneWithoutAnswer();
     void anObjectThatTellsOfNoEndKeepsTheLastAcceptedCommand();
     void aSelectThatWasRefusedOrUnansweredCanBeCancelled();
+    void aRefusedSelectLeavesTheOneBeforeToBeGivenBack();
+    void aSelectThatWasNotSentLeavesTheOneBefore();
+    void aRefusedSelectLeavesNoDoubtOfTheNext();
     void theSelectionIsCancelledUntilItIsUsed();
     void aGrantedSelectEndsWhatWasUnknownBefore();
     void aSelectionLastsAsLongAsTheDeviceSays();
@@ -214,6 +217,33 @@ void tst_ControlState::aSelectThatWasRefusedOrUnansweredCanBeCancelled()
     other.accept(running);
     other.select(0, 0, false);
     QCOMPARE(other.cancels(), running);
+}
+
+void tst_ControlState::aRefusedSelectLeavesTheOneBeforeToBeGivenBack()
+{
+    Bench bench;
+    const int granted = bench.select(1);
+    bench.select(0, 0, false);
+    QVERIFY(!bench.state.selection(bench.now));
+    QCOMPARE(bench.cancels(), granted);
+}
+
+void tst_ControlState::aSelectThatWasNotSentLeavesTheOneBefore()
+{
+    Bench bench;
+    const int granted = bench.select(1);
+    bench.state.selectWithdrawn(static_cast<std::uint8_t>(bench.sendSelect(0)));
+    QVERIFY(bench.state.selection(bench.now));
+    QCOMPARE(bench.state.obstacle(emptyBlock(), 0, bench.now), Obstacle::None);
+    QCOMPARE(bench.cancels(), granted);
+}
+
+void tst_ControlState::aRefusedSelectLeavesNoDoubtOfTheNext()
+{
+    Bench bench;
+    bench.select(1, 0, false);
+    bench.select(0);
+    QCOMPARE(bench.state.obstacle(emptyBlock(), 0, bench.now), Obstacle::None);
 }
 
 void tst_ControlState::theSelectionIsCancelledUntilItIsUsed()

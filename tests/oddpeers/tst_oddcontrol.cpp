@@ -725,6 +725,16 @@ void tst_OddControl::categoriesEndWithEight()
              QString("9 is no originator category; they go from 0 to 8."));
     order.orCat = 8;
     QVERIFY(peer.operate(order));
+    // A record of a cancel is looked at where it is what is sent.
+    Order normal;
+    normal.object = "GGIO2$CO$SPCSO3";
+    normal.model = 2;
+    QVERIFY(peer.select(normal));
+    normal.orCat = 9;
+    QString error;
+    QCOMPARE(peer.driver->cancelObject(1, io, normal.object, bytesOf(normal), error),
+             OperationFailed);
+    QCOMPARE(error, QString("9 is no originator category; they go from 0 to 8."));
 }
 
 QTEST_GUILESS_MAIN(tst_OddControl)
