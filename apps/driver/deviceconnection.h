@@ -68,8 +68,9 @@ struct ConnectionEnvironment
     std::shared_ptr<LiveValues> values;
     std::function<void(const DeviceStatus &)> statusChanged;
     std::function<void(const DeviceChange &)> changed;
-    /// Takes every report, in order for each device; null when nobody wants them.
-    std::function<void(ReportEvent)> reportReceived;
+    /// Takes every report, in order for each device; null when nobody wants them. Gives the number
+    /// of older events of the device that had to be dropped for it.
+    std::function<std::uint64_t(ReportEvent)> reportReceived;
     /// Claims the names of logical devices for the device that goes online; a sentence when another
     /// device has one of them, otherwise empty.
     std::function<QString(const QStringList &logicalDevices)> claim;

@@ -25,6 +25,8 @@ IedDriver::Runtime::Runtime(IedDriverOptions options)
     , m_work(asio::make_work_guard(m_context))
     , m_values(LiveValues::create(m_context.get_executor(), m_options.poster))
 {
+    if (m_options.reportReceived)
+        m_events = ReportEvents::create(m_context.get_executor(), m_options.reportReceived);
     for (int i = 0; i < std::max(m_options.threads, 1); ++i)
         m_threads.emplace_back([this] { m_context.run(); });
 }
@@ -60,6 +62,8 @@ IedDriver::Runtime::~Runtime()
     m_context.stop();
     for (std::thread &thread : m_threads)
         thread.join();
+    if (m_events)
+        m_events->flush();
 }
 
 void IedDriver::Runtime::setDevice(const DeviceConfiguration &configuration)
@@ -72,6 +76,11 @@ void IedDriver::Runtime::setDevice(const DeviceConfiguration &configuration)
         environment.values = m_values;
         environment.statusChanged = m_options.statusChanged;
         environment.changed = m_options.changed;
+        if (m_events) {
+            environment.reportReceived = [events = m_events](ReportEvent event) {
+                return events->push(std::move(event));
+            };
+        }
         Holder holder;
         holder.number = configuration.number;
         {

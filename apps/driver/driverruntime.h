@@ -5,6 +5,7 @@
 #include "ieddriver.h"
 #include "livevalues.h"
 #include "offlinedriverservice.h"
+#include "reportevents.h"
 
 #include <asio/executor_work_guard.hpp>
 #include <asio/io_context.hpp>
@@ -67,6 +68,7 @@ private:
     asio::io_context m_context;
     asio::executor_work_guard<asio::io_context::executor_type> m_work;
     std::shared_ptr<LiveValues> m_values;
+    std::shared_ptr<ReportEvents> m_events; ///< null when the host wants none
     OfflineDriverService m_offline;
     std::atomic<bool> m_readOnly{false};
     mutable std::mutex m_mutex;

@@ -10,16 +10,18 @@
 #include <cstdint>
 #include <optional>
 
-/// One member of a report.
+/// A value in a report: a leaf of a member of the data set.
 struct ReportEventMember
 {
-    QString reference; ///< "LD/LN$FC$Data..."; of what the device included
+    /// "LD/LN$FC$Data..." of the leaf; of the member where it has no value that could be taken
+    /// apart. Quality and time of a value stand beside it and are members only where they are
+    /// alone.
+    QString reference;
     /// Why it was included: the bits of PublishCause, 1 data change, 2 quality change, 4 data
     /// update, 8 integrity, 16 general interrogation, 32 application; none when the report does not
     /// tell.
     std::optional<quint32> reason;
-    /// A single value, or a list of lists for structured data, in the order of the type.
-    QVariant value;
+    QVariant value;    ///< as DataAttribute represents it
     QString quality;   ///< 13 characters; empty where there is none
     QString timeStamp; ///< of the value itself
     QString error;     ///< why there is no value; empty otherwise

@@ -8,6 +8,7 @@
 #include <QtCore/QtEndian>
 
 #include <algorithm>
+#include <array>
 #include <limits>
 
 namespace {
@@ -101,6 +102,7 @@ asio::awaitable<Outcome> readBlock(DevicePointer device, QString ldName, QString
     if (!read)
         co_return Outcome::failed(read.error());
     *record = toRecord(*block, *read);
+    device->part<ReportSubscriptions>().setShown(*block, {*record, *read});
     const ReportControlBlock *configured = device->configuredBlock(ldName, record->reference);
     if (configured) {
         record->clientRptId =
@@ -182,6 +184,51 @@ private:
     QByteArray m_bytes;
 };
 
+/// A text as a line of a form can hold it.
+QString formText(QString text)
+{
+    for (QChar &character : text) {
+        if (!character.isPrint() || character == QChar::ObjectReplacementCharacter)
+            character = QLatin1Char(' ');
+    }
+    return text;
+}
+
+/// Whether a form that was filled with @p shown has been left as it was.
+bool isAsShown(const QString &shown, const QString &edited)
+{
+    return formText(shown) == formText(edited);
+}
+
+/// The highest numbers that the form can hold.
+constexpr qint32 highestPeriod = 100000;
+constexpr qint32 highestBufferTime = 99999;
+
+bool isAsShown(qint32 shown, qint32 edited, qint32 highest)
+{
+    return edited == shown || (shown > highest && edited == highest);
+}
+
+/// Settings after which a block has another buffer.
+bool emptiesBuffer(const std::string &attribute)
+{
+    static const std::array<std::string_view, 6> names = {"DatSet", "RptID",  "TrgOps",
+                                                          "BufTm",  "IntgPd", "PurgeBuf"};
+    return std::ranges::find(names, attribute) != names.end();
+}
+
+/// Why a block refused, as far as somebody else has it: a sentence behind the device's.
+asio::awaitable<QString> holderBehind(DevicePointer device, acsi::Reference block)
+{
+    const std::shared_ptr<acsi::Client> client = device->client();
+    if (!client || !client->isOpen())
+        co_return QString();
+    const mms::Result<acsi::ReportBlock> read = co_await acsi::readReportBlock(client, block);
+    const QString sentence =
+        read ? device->part<ReportSubscriptions>().holderSentence(block, *read) : QString();
+    co_return sentence.isEmpty() ? QString() : QLatin1Char(' ') + sentence;
+}
+
 asio::awaitable<Outcome> writeAttribute(DevicePointer device, QString ldName, QString name,
                                         QString attribute, QByteArray bytes)
 {
@@ -199,6 +246,11 @@ asio::awaitable<Outcome> writeAttribute(DevicePointer device, QString ldName, QS
     }
 
     std::string onDevice = attribute.toStdString();
+    // Octets that are no text come back from the form as something else.
+    const ReportSubscriptions::Shown *const shown = subscriptions.shown(*block);
+    if (attribute == QLatin1String("RptID") && shown &&
+        isAsShown(shown->record.rptId, QString::fromUtf8(bytes)))
+        value = Data::visibleString(shown->block.rptId);
     const bool reserves = onDevice == "Resv" && value->toBoolean().value_or(false);
     // Buffered blocks are reserved for a time.
     const bool isTimed = onDevice == "Resv" && !hasAttribute(device, *block, "Resv") &&
@@ -211,12 +263,25 @@ asio::awaitable<Outcome> writeAttribute(DevicePointer device, QString ldName, QS
     place.path.push_back({onDevice, {}});
     const std::shared_ptr<acsi::Client> client = device->client();
     const mms::Result<Data> before = co_await client->readOne(acsi::accessOf(place));
+    if (isTimed && before && before->toInteger().value_or(0) < 0) {
+        co_return Outcome::failed(
+            Texts::tr("The configuration of the device reserves %1; that cannot be changed.")
+                .arg(text(acsi::toText(*block))));
+    }
     const mms::Result<void> written =
         co_await acsi::writeReportAttribute(client, *block, onDevice, *value);
     if (written && isTimed)
         subscriptions.setReserved(*block, reserves);
-    if (written && onDevice == "PurgeBuf")
+    const bool isChange = !before || *before != *value || onDevice == "PurgeBuf";
+    if (written && isChange && emptiesBuffer(onDevice))
         subscriptions.forgetEntries(*block);
+    if (written && onDevice == "GI")
+        subscriptions.setInterrogated(*block);
+    QString refusal;
+    if (!written) {
+        const QString holder = co_await holderBehind(device, *block);
+        refusal = text(written.error().message) + holder;
+    }
 
     DeviceChange change;
     change.operation = QStringLiteral("writeValue");
@@ -224,15 +289,15 @@ asio::awaitable<Outcome> writeAttribute(DevicePointer device, QString ldName, QS
     if (before)
         change.oldValue = text(mms::toText(*before));
     change.newValue = text(mms::toText(*value));
-    if (!written)
-        change.error = text(written.error().message);
+    change.error = refusal;
     device->journal(change);
-    co_return written ? Outcome() : Outcome::failed(written.error());
+    co_return written ? Outcome() : Outcome::failed(refusal);
 }
 
 mms::Result<acsi::ReportSettings> settingsFrom(const acsi::Reference &reference,
                                                const QString &rptId, const QString &dataSet,
-                                               const ReportBlock &block)
+                                               const ReportBlock &block,
+                                               const ReportSubscriptions::Shown *shown)
 {
     if (block.bufTm < 0 || block.intgPd < 0)
         return failure(Texts::tr("Buffer time and integrity period cannot be negative."));
@@ -240,18 +305,34 @@ mms::Result<acsi::ReportSettings> settingsFrom(const acsi::Reference &reference,
     // Texts that were left empty are not to be cleared on the device: without a data set there
     // would be nothing to report.
     const QString &identifier = rptId.isEmpty() ? block.rptId : rptId;
-    if (!identifier.isEmpty())
+    if (!identifier.isEmpty() && !(shown && isAsShown(shown->record.rptId, identifier)))
         settings.rptId = identifier.toStdString();
-    const std::string wanted =
-        ReportDataSet::wire(reference, dataSet.isEmpty() ? block.datSet : dataSet);
-    if (!wanted.empty())
-        settings.datSet = wanted;
-    settings.bufTm = static_cast<std::uint32_t>(block.bufTm);
-    settings.intgPd = static_cast<std::uint32_t>(block.intgPd);
+    const QString &set = dataSet.isEmpty() ? block.datSet : dataSet;
+    if (!set.isEmpty() && !(shown && isAsShown(shown->record.datSet, set)))
+        settings.datSet = ReportDataSet::wire(reference, set);
+    if (!shown || !isAsShown(shown->record.bufTm, block.bufTm, highestBufferTime))
+        settings.bufTm = static_cast<std::uint32_t>(block.bufTm);
+    if (!shown || !isAsShown(shown->record.intgPd, block.intgPd, highestPeriod))
+        settings.intgPd = static_cast<std::uint32_t>(block.intgPd);
     const std::vector<std::uint8_t> triggers = {block.trgOps};
-    settings.trgOps = acsi::Triggers::from(mms::BitString(triggers, 6));
+    const acsi::Triggers edited = acsi::Triggers::from(mms::BitString(triggers, 6));
+    if (!shown || edited != shown->block.trgOps)
+        settings.trgOps = edited;
     const std::vector<std::uint8_t> fields = {block.optFlds[0], block.optFlds[1]};
-    settings.optFlds = acsi::OptFlds::from(mms::BitString(fields, 10));
+    acsi::OptFlds wanted = acsi::OptFlds::from(mms::BitString(fields, 10));
+    if (shown) {
+        acsi::OptFlds before = shown->block.optFlds;
+        before.segmentation = wanted.segmentation;
+        if (reference.constraint != FunctionalConstraint::BR) {
+            // The form of an unbuffered block does not have these.
+            before.bufferOverflow = wanted.bufferOverflow;
+            before.entryId = wanted.entryId;
+        }
+        if (wanted != before)
+            settings.optFlds = wanted;
+    } else {
+        settings.optFlds = wanted;
+    }
     return settings;
 }
 
@@ -261,11 +342,12 @@ asio::awaitable<Outcome> enableBlock(DevicePointer device, QString ldName, QStri
     const mms::Result<acsi::Reference> reference = blockOf(ldName, name);
     if (!reference)
         co_return Outcome::failed(reference.error());
+    ReportSubscriptions &subscriptions = device->part<ReportSubscriptions>();
     const mms::Result<acsi::ReportSettings> settings =
-        settingsFrom(*reference, rptId, dataSet, block);
+        settingsFrom(*reference, rptId, dataSet, block, subscriptions.shown(*reference));
     if (!settings)
         co_return Outcome::failed(settings.error());
-    co_return co_await device->part<ReportSubscriptions>().enable(*reference, *settings);
+    co_return co_await subscriptions.enable(*reference, *settings);
 }
 
 } // namespace

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+// The life of report control blocks that the operator wants; what their reports bring is in
+// reporttaking.cpp.
 #include "reportsubscriptions.h"
 
 #include "discoveredmodel.h"
@@ -9,7 +11,10 @@
 
 #include <QtCore/QCoreApplication>
 
+#include <algorithm>
+
 using std::chrono::milliseconds;
+using std::chrono::seconds;
 using std::chrono::steady_clock;
 
 namespace {
@@ -22,7 +27,13 @@ struct Texts
 /// How often the device is asked whether the blocks are still enabled, and blocks that could not be
 /// enabled again are tried once more.
 constexpr milliseconds watchInterval{3000};
-const QString unreadable = QStringLiteral("reports");
+/// A pause that took so much longer than it should: nothing ran meanwhile, and reports may be lost.
+constexpr milliseconds standstill{2000};
+/// What was begun on a block that could not be enabled is undone within this time.
+constexpr seconds undoPatience{15};
+constexpr milliseconds turnPause{20};
+/// How long it is told who has a block that the operator has looked at.
+constexpr seconds notedTime{60};
 
 QString text(std::string_view utf8)
 {
@@ -40,20 +51,6 @@ acsi::Reference attributeOf(acsi::Reference block, const char *name)
     return block;
 }
 
-std::uint32_t causeOf(const acsi::ReportMember &member)
-{
-    std::uint32_t cause = PublishCause::Report;
-    if (!member.reason)
-        return cause;
-    const acsi::Triggers &reason = *member.reason;
-    cause |= reason.dataChange ? 1U : 0U;
-    cause |= reason.qualityChange ? 2U : 0U;
-    cause |= reason.dataUpdate ? 4U : 0U;
-    cause |= reason.integrity ? 8U : 0U;
-    cause |= reason.generalInterrogation ? 16U : 0U;
-    return cause;
-}
-
 ReportCoverage coverageOf(const acsi::ReportBlock &block)
 {
     ReportCoverage coverage;
@@ -65,14 +62,12 @@ ReportCoverage coverageOf(const acsi::ReportBlock &block)
     return coverage;
 }
 
-/// Whether both texts name the same data set.
-bool isSameDataSet(const acsi::Reference &block, const std::string &left, const std::string &right)
+QString deviceKey(const DeviceConfiguration &configuration)
 {
-    if (left == right)
-        return true;
-    const auto first = acsi::dataSetName(block.device, left);
-    const auto second = acsi::dataSetName(block.device, right);
-    return first && second && *first == *second;
+    return QStringLiteral("%1:%2#%3")
+        .arg(configuration.host)
+        .arg(configuration.port)
+        .arg(configuration.number);
 }
 
 /// The members of a data set of a logical node as the model has it; none when it does not.
@@ -91,81 +86,52 @@ std::vector<acsi::Reference> knownMembers(const OnlineModel &model, const mms::O
     return members;
 }
 
-/// Qualities and times that a report brings as members of their own, by the data they belong to.
-class Companions
+/// Whether this side must keep its hands off the block.
+/// @param unattended when nobody has just asked for it
+bool belongsToOthers(const acsi::ReportHolder &holder, bool isBuffered, bool isOwn, bool unattended)
 {
-public:
-    void add(const acsi::Reference &reference, const mms::Data &data)
-    {
-        if (reference.path.size() < 2)
-            return;
-        const std::string &name = reference.path.back().name;
-        const bool isQuality = name == "q" && data.kind() == mms::Data::Kind::BitString;
-        const bool isTime = name == "t" && data.kind() == mms::Data::Kind::UtcTime;
-        if (isQuality || isTime)
-            (isQuality ? m_qualities : m_times)[parentOf(acsi::toText(reference))] = &data;
-    }
-
-    const mms::Data *quality(const std::string &reference) const
-    {
-        return find(m_qualities, reference);
-    }
-    const mms::Data *time(const std::string &reference) const { return find(m_times, reference); }
-
-private:
-    using Known = std::map<std::string, const mms::Data *>;
-
-    static std::string parentOf(const std::string &reference)
-    {
-        return reference.substr(0, reference.rfind('$'));
-    }
-
-    static const mms::Data *find(const Known &known, std::string reference)
-    {
-        while (!known.empty() && reference.find('$') != std::string::npos) {
-            reference = parentOf(reference);
-            const auto found = known.find(reference);
-            if (found != known.end())
-                return found->second;
-        }
-        return nullptr;
-    }
-
-    Known m_qualities;
-    Known m_times;
-};
+    using Who = acsi::ReportHolder::Who;
+    if (holder.who == Who::Nobody || isOwn)
+        return false;
+    if (holder.isEnabled)
+        return true;
+    // A reservation by this address, or one that outlives associations, may be what is left of the
+    // one before.
+    return unattended &&
+           (holder.who == Who::OtherAddress || (holder.who == Who::Somebody && !isBuffered));
+}
 
 } // namespace
 
-struct ReportSubscription
-{
-    acsi::Reference block;
-    std::string reference; ///< of the block
-    acsi::ReportSettings settings;
-    std::string rptId;
-    std::string datSet;
-    std::vector<acsi::Reference> members;
-    bool isTaking = false; ///< reports are expected
-    bool isBusy = false;   ///< is being enabled
-    bool hasOverflown = false;
-    QString disturbance; ///< why something of the last report was not published
-    std::optional<std::uint32_t> sqNum;
-};
-
 ReportSubscriptions::ReportSubscriptions(DeviceConnection &connection)
     : m_connection(connection)
+    , m_entries(connection.environment().cacheFolder, deviceKey(connection.configuration()))
 {
 }
 
-ReportSubscriptions::~ReportSubscriptions() = default;
+ReportSubscriptions::~ReportSubscriptions()
+{
+    m_entries.save();
+}
+
+asio::awaitable<ReportSubscriptions::Turn> ReportSubscriptions::turn(std::string reference)
+{
+    while (m_working.count(reference) != 0)
+        co_await m_connection.pause(turnPause);
+    m_working.insert(reference);
+    // The connection outlives what is done in its strand, and this part lives as long.
+    const auto end = [this, reference, connection = m_connection.shared_from_this()](
+                         const char *) mutable { m_working.erase(reference); };
+    co_return Turn(std::shared_ptr<const char>("", end), nullptr);
+}
 
 void ReportSubscriptions::listen()
 {
-    const std::shared_ptr<acsi::Client> client = m_connection.client();
+    const ClientPointer client = m_connection.client();
     if (!client || m_heard.lock() == client)
         return;
     m_heard = client;
-    m_assembler = acsi::ReportAssembler();
+    m_stream.clear();
     const std::weak_ptr<DeviceConnection> weak = m_connection.weak_from_this();
     client->addInformationHandler([weak](const mms::InformationReport &information) {
         const auto connection = weak.lock();
@@ -173,6 +139,24 @@ void ReportSubscriptions::listen()
     });
     asio::co_spawn(m_connection.strand(), watch(client),
                    [self = m_connection.shared_from_this()](const std::exception_ptr &) {});
+}
+
+ReportSubscriptions::SubscriptionPointer
+ReportSubscriptions::find(const std::string &reference) const
+{
+    const auto found = m_subscriptions.find(reference);
+    return found == m_subscriptions.end() ? nullptr : found->second;
+}
+
+bool ReportSubscriptions::isCurrent(const SubscriptionPointer &subscription) const
+{
+    return find(subscription->reference) == subscription;
+}
+
+ReportControlBlock *ReportSubscriptions::shownInModel(const acsi::Reference &block) const
+{
+    OnlineModel *const model = m_connection.model();
+    return model ? model->reportBlock(text(block.device), text(acsi::itemText(block))) : nullptr;
 }
 
 asio::awaitable<void> ReportSubscriptions::opened()
@@ -184,7 +168,7 @@ asio::awaitable<void> ReportSubscriptions::opened()
     for (const auto &each : m_subscriptions)
         wanted.push_back(each.second);
     for (const SubscriptionPointer &each : wanted) {
-        const std::shared_ptr<acsi::Client> client = m_connection.client();
+        const ClientPointer client = m_connection.client();
         if (client && client->isOpen())
             co_await resume(each, Texts::tr("enabled again after the association was lost"));
     }
@@ -192,10 +176,12 @@ asio::awaitable<void> ReportSubscriptions::opened()
 
 asio::awaitable<void> ReportSubscriptions::leaving()
 {
-    const std::shared_ptr<acsi::Client> client = m_connection.client();
+    const ClientPointer client = m_connection.client();
+    if (client && client->isOpen())
+        co_await lookAtBlocks(client);
     std::vector<acsi::Reference> enabled;
     for (const auto &each : m_subscriptions) {
-        if (each.second->isTaking)
+        if (each.second->life.isTaking())
             enabled.push_back(each.second->block);
     }
     for (const acsi::Reference &block : enabled) {
@@ -213,184 +199,336 @@ asio::awaitable<void> ReportSubscriptions::leaving()
 
 void ReportSubscriptions::closed(const QString &)
 {
-    for (const auto &each : m_subscriptions)
+    for (const auto &each : m_subscriptions) {
         stop(*each.second);
+        if (each.second->life.state() != SubscriptionLife::State::Enabling)
+            each.second->life.closed();
+    }
+    for (const auto &each : m_noted)
+        m_connection.setProblem(text(each.first) + QStringLiteral(" holder"), {});
+    m_noted.clear();
     m_reserved.clear();
-    m_assembler = acsi::ReportAssembler();
+    m_leftEnabled.clear();
+    m_stream.clear();
+    m_entries.save();
 }
 
 asio::awaitable<Outcome> ReportSubscriptions::enable(acsi::Reference block,
                                                      acsi::ReportSettings settings)
 {
-    listen();
-    const auto subscription = std::make_shared<ReportSubscription>();
+    const auto subscription = std::make_shared<Subscription>();
     subscription->reference = acsi::toText(block);
     subscription->block = std::move(block);
     subscription->settings = std::move(settings);
-    SubscriptionPointer &place = m_subscriptions[subscription->reference];
-    if (place)
-        stop(*place);
-    place = subscription;
-    m_connection.setProblem(text(subscription->reference), {});
+    Turn turn = co_await this->turn(subscription->reference);
+    listen();
 
     Outcome outcome;
     std::exception_ptr cancelled;
     try {
-        outcome = co_await start(subscription);
+        outcome = co_await start(subscription, Attended::Yes);
     } catch (...) {
         cancelled = std::current_exception();
     }
-    if ((!outcome || cancelled) && m_subscriptions[subscription->reference] == subscription) {
+    if ((!outcome || cancelled) && isCurrent(subscription)) {
         stop(*subscription);
+        m_connection.setProblem(text(subscription->reference), {});
         m_subscriptions.erase(subscription->reference);
     }
+    if (cancelled) {
+        journal(*subscription, {}, {},
+                Texts::tr("%1 was not enabled in time.").arg(text(subscription->reference)));
+    }
+    if (!outcome || cancelled)
+        undo(subscription, std::move(turn));
     if (cancelled)
         std::rethrow_exception(cancelled);
     co_return outcome;
 }
 
-asio::awaitable<Outcome> ReportSubscriptions::start(SubscriptionPointer subscription)
+Outcome ReportSubscriptions::ended(const SubscriptionPointer &subscription, Attended attended,
+                                   SubscriptionLife::Result result, const QString &oldValue,
+                                   const QString &newValue, const QString &error)
 {
-    struct Busy
-    {
-        explicit Busy(bool &whether)
-            : flag(whether)
-        {
-            flag = true;
-        }
-        ~Busy() { flag = false; }
-        bool &flag;
-    };
-    const Busy busy(subscription->isBusy);
-    const std::shared_ptr<acsi::Client> client = m_connection.client();
+    const bool isNews = subscription->life.ended(result, error, steady_clock::now());
+    if (isNews || attended == Attended::Yes)
+        journal(*subscription, oldValue, newValue, error);
+    if (result == SubscriptionLife::Result::Enabled)
+        return {};
+    if (isCurrent(subscription))
+        stop(*subscription);
+    return Outcome::failed(error);
+}
+
+asio::awaitable<acsi::ReportSettings> ReportSubscriptions::prepare(SubscriptionPointer subscription,
+                                                                   ClientPointer client,
+                                                                   const acsi::ReportBlock &before)
+{
+    acsi::ReportSettings settings = subscription->settings;
+    const acsi::Reference block = subscription->block;
+    if (settings.datSet && isSameDataSet(block, *settings.datSet, before.datSet))
+        settings.datSet.reset();
+    acsi::ReportBlock wanted = before;
+    wanted.datSet = settings.datSet.value_or(before.datSet);
+    wanted.rptId = settings.rptId.value_or(before.rptId);
+    wanted.trgOps = settings.trgOps.value_or(before.trgOps);
+    wanted.optFlds = settings.optFlds.value_or(before.optFlds);
+    wanted.bufTm = settings.bufTm.value_or(before.bufTm);
+    wanted.intgPd = settings.intgPd.value_or(before.intgPd);
+    subscription->datSet = wanted.datSet;
+    subscription->terms = LastEntries::Terms::of(wanted);
+    if (wanted.datSet.empty())
+        co_return settings;
+
+    ReportStream::Block expected;
+    expected.block = block;
+    expected.rptId = wanted.rptId;
+    expected.datSet = wanted.datSet;
+    expected.members = co_await membersOf(client, block, wanted.datSet);
+    if (expected.members.empty() && !wanted.optFlds.dataReference) {
+        wanted.optFlds.dataReference = true;
+        settings.optFlds = wanted.optFlds;
+    }
+    // Reports that could be another block's have to say what they are of.
+    if (m_stream.isConfusable(expected) && !wanted.optFlds.dataSetName &&
+        !wanted.optFlds.dataReference) {
+        wanted.optFlds.dataSetName = true;
+        settings.optFlds = wanted.optFlds;
+    }
+    expected.optFlds = wanted.optFlds;
+    subscription->reportedAt.assign(expected.members.size(), 0);
+    subscription->reports = 0;
+    if (before.buffered)
+        settings.resumeAfter = m_entries.find(text(subscription->reference), subscription->terms);
+    // Known before the first report may come.
+    m_stream.start(std::move(expected));
+    co_return settings;
+}
+
+asio::awaitable<Outcome> ReportSubscriptions::start(SubscriptionPointer subscription,
+                                                    Attended attended)
+{
+    using Result = SubscriptionLife::Result;
+    const ClientPointer client = m_connection.client();
+    if (!client || !client->isOpen()) {
+        const QString sentence = m_connection.notConnectedSentence();
+        co_return Outcome{OperationNotConnected, sentence};
+    }
+    subscription->life.begin();
+    subscription->client = client;
     const acsi::Reference block = subscription->block;
     const mms::Result<acsi::ReportBlock> before = co_await acsi::readReportBlock(client, block);
-    if (!before)
-        co_return Outcome::failed(before.error());
-
-    acsi::ReportSettings settings = subscription->settings;
-    if (settings.datSet && isSameDataSet(block, *settings.datSet, before->datSet))
-        settings.datSet.reset();
-    // Known before the first report may come.
-    subscription->rptId = settings.rptId.value_or(before->rptId);
-    subscription->datSet = settings.datSet.value_or(before->datSet);
-    if (subscription->datSet.empty())
-        co_return Outcome::failed(
-            Texts::tr("The report control block %1 has no data set.").arg(text(block)));
-    co_await findMembers(subscription, client);
-    if (subscription->members.empty()) {
-        acsi::OptFlds fields = settings.optFlds.value_or(before->optFlds);
-        fields.dataReference = true;
-        settings.optFlds = fields;
+    if (!before) {
+        co_return ended(subscription, attended, Result::Refused, {}, {},
+                        text(before.error().message));
     }
-    const auto entry = m_lastEntries.find(subscription->reference);
-    if (entry != m_lastEntries.end())
-        settings.resumeAfter = entry->second;
-    subscription->isTaking = true;
-    subscription->hasOverflown = false;
-    subscription->disturbance.clear();
-    subscription->sqNum.reset();
-
+    const SubscriptionPointer former = find(subscription->reference);
+    const bool isOwn =
+        (former && former->life.isTaking()) || m_leftEnabled.count(subscription->reference) != 0;
+    const acsi::ReportHolder holder = acsi::holderOf(*before, client->association().localAddress());
+    if (belongsToOthers(holder, before->buffered, isOwn, attended == Attended::No)) {
+        const QString sentence = Texts::tr("%1 It was left alone.").arg(describe(block, holder));
+        co_return ended(subscription, attended, Result::Held, {}, {}, sentence);
+    }
+    if (subscription->settings.datSet.value_or(before->datSet).empty()) {
+        co_return ended(subscription, attended, Result::Refused, describe(*before), {},
+                        Texts::tr("The report control block %1 has no data set.").arg(text(block)));
+    }
+    // From here on the block is this subscription's.
+    if (former && former != subscription)
+        stop(*former);
+    m_subscriptions[subscription->reference] = subscription;
+    subscription->faults.clear();
+    if (attended == Attended::Yes)
+        m_connection.setProblem(text(subscription->reference), {});
+    acsi::ReportSettings settings = co_await prepare(subscription, client, *before);
+    settings.isOwn = isOwn;
+    subscription->trace = std::make_shared<acsi::ReportBlockTrace>();
+    const std::shared_ptr<acsi::ReportBlockTrace> trace = subscription->trace;
     const mms::Result<acsi::ReportBlock> enabled =
-        co_await acsi::enableReportBlock(client, block, settings);
-    Outcome outcome;
+        co_await acsi::enableReportBlock(client, block, settings, trace);
+    QString error;
     if (!enabled)
-        outcome = Outcome::failed(enabled.error());
+        error = text(enabled.error().message);
     else if (!client->isOpen())
-        outcome = Outcome::failed(text(client->closeReason()));
+        error = text(client->closeReason());
     else if (!enabled->rptEna)
-        outcome = Outcome::failed(
-            Texts::tr("The device has not enabled %1 although it said so.").arg(text(block)));
-    QString newValue;
-    if (outcome) {
-        subscription->rptId = enabled->rptId;
-        newValue = describe(*enabled);
-        for (const std::string &note : enabled->notes)
-            newValue += QStringLiteral("; ") + text(note);
-        m_connection.setReported(text(subscription->reference), subscription->members,
-                                 coverageOf(*enabled));
-        const QString device = text(block.device);
-        const QString reference = text(acsi::itemText(block));
-        if (ReportControlBlock *shown = m_connection.model()->reportBlock(device, reference)) {
-            DiscoveredModel::setSettings(*shown, *enabled,
-                                         m_connection.configuredBlock(device, reference));
-        }
-        co_await readMembers(subscription, client);
-    } else {
-        stop(*subscription);
+        error = Texts::tr("The device has not enabled %1 although it said so.").arg(text(block));
+    if (!error.isEmpty()) {
+        co_return ended(subscription, attended, Result::Refused, describe(*before), {}, error);
     }
-    journal(*subscription, describe(*before), newValue, outcome.error);
+    trace->changes.clear();
+    m_leftEnabled.erase(subscription->reference);
+    QString newValue = describe(*enabled);
+    for (const std::string &note : enabled->notes)
+        newValue += QStringLiteral("; ") + text(note);
+    if (!enabled->optFlds.sequenceNumber)
+        newValue += QStringLiteral("; ") +
+                    Texts::tr("without sequence numbers lost reports cannot be noticed");
+    const Outcome outcome =
+        ended(subscription, attended, Result::Enabled, describe(*before), newValue, {});
+    started(subscription, *enabled);
+    // What changed between the last polling and the first report is in no report.
+    subscription->mending.need();
+    co_await mendOnce(subscription, client);
+    if (subscription->mending.isNeeded())
+        mend(subscription);
     co_return outcome;
 }
 
-asio::awaitable<void> ReportSubscriptions::findMembers(SubscriptionPointer subscription,
-                                                       std::shared_ptr<acsi::Client> client)
+void ReportSubscriptions::started(const SubscriptionPointer &subscription,
+                                  const acsi::ReportBlock &enabled)
 {
-    const mms::Result<mms::ObjectName> name =
-        acsi::dataSetName(subscription->block.device, subscription->datSet);
-    if (!name)
-        co_return;
-    subscription->members.clear();
-    const mms::Result<acsi::DataSetDescription> directory =
-        co_await acsi::dataSetDirectory(client, *name);
-    if (directory) {
-        for (const mms::VariableAccess &member : directory->members) {
-            // What has no reference is not in the model either; its place is kept.
-            const mms::Result<acsi::Reference> reference = acsi::referenceOf(member);
-            subscription->members.push_back(reference ? *reference : acsi::Reference());
-        }
-    } else {
-        // The list of a large data set may be longer than the device can send. The file knows it,
-        // or the reports have to say what they bring.
-        subscription->members = knownMembers(*m_connection.model(), *name);
+    const acsi::Reference &block = subscription->block;
+    m_stream.settle(subscription->reference, enabled.rptId, enabled.optFlds, enabled.confRev);
+    subscription->terms = LastEntries::Terms::of(enabled);
+    subscription->coverage = coverageOf(enabled);
+    subscription->readsEntry = enabled.buffered && !enabled.optFlds.entryId;
+    subscription->isTrusted = false;
+    trust(*subscription, true);
+    // As it is now is as it shall be again, whatever the device forgets meanwhile.
+    acsi::ReportSettings &settings = subscription->settings;
+    settings.rptId = enabled.rptId;
+    settings.datSet = enabled.datSet;
+    settings.optFlds = enabled.optFlds;
+    settings.bufTm = enabled.bufTm;
+    settings.trgOps = enabled.trgOps;
+    settings.intgPd = enabled.intgPd;
+    if (ReportControlBlock *shown = shownInModel(block)) {
+        DiscoveredModel::setSettings(
+            *shown, enabled,
+            m_connection.configuredBlock(text(block.device), text(acsi::itemText(block))));
+    }
+    if (enabled.resumed == false) {
+        m_entries.forget(text(subscription->reference));
+        fault(subscription, ReportFault::UnknownEntry);
     }
 }
 
-asio::awaitable<void> ReportSubscriptions::readMembers(SubscriptionPointer subscription,
-                                                       std::shared_ptr<acsi::Client> client)
+void ReportSubscriptions::undo(const SubscriptionPointer &subscription, Turn turn)
 {
-    // What changed between the last polling and the first report is in no report.
-    const mms::Result<mms::ObjectName> name =
-        acsi::dataSetName(subscription->block.device, subscription->datSet);
-    if (!name)
-        co_return;
-    const mms::Result<std::vector<mms::AccessResult>> values = co_await client->readList(*name);
-    if (!values || values->size() != subscription->members.size())
-        co_return;
-    DeviceConnection::Publication publication;
-    publication.cause = PublishCause::Polled;
-    publication.onlyChanges = true;
-    for (std::size_t i = 0; i < values->size(); ++i) {
-        if ((*values)[i].ok())
-            m_connection.publish(subscription->members[i], (*values)[i].data(), publication);
+    const ClientPointer client = subscription->client.lock();
+    if (!subscription->trace || subscription->trace->changes.empty() || !client)
+        return;
+    // Apart from the operation, which is over, or was cancelled.
+    asio::co_spawn(m_connection.strand(),
+                   undone(m_connection.shared_from_this(), subscription, client, std::move(turn)),
+                   [](const std::exception_ptr &) {});
+}
+
+asio::awaitable<void>
+ReportSubscriptions::undone([[maybe_unused]] std::shared_ptr<DeviceConnection> connection,
+                            SubscriptionPointer subscription, ClientPointer client,
+                            [[maybe_unused]] Turn turn)
+{
+    const std::shared_ptr<acsi::ReportBlockTrace> trace = subscription->trace;
+    const bool isUndone = co_await acsi::undoReportBlock(client, subscription->block, trace,
+                                                         steady_clock::now() + undoPatience);
+    if (!isUndone) {
+        QStringList left;
+        for (const acsi::ReportBlockTrace::Change &change : trace->changes) {
+            // Ends with the association.
+            const bool endsByItself = change.attribute == "RptEna" || change.attribute == "Resv";
+            if (!client->isOpen() && endsByItself)
+                continue;
+            left.append(text(change.attribute));
+            if (change.attribute == "RptEna")
+                m_leftEnabled.insert(subscription->reference);
+        }
+        if (left.isEmpty())
+            co_return;
+        journal(*subscription, {}, {},
+                Texts::tr("%1 could not be enabled, and this was left behind as it was written: "
+                          "%2.")
+                    .arg(text(subscription->reference), left.join(QStringLiteral(", "))));
     }
+}
+
+asio::awaitable<std::vector<acsi::Reference>>
+ReportSubscriptions::membersOf(ClientPointer client, acsi::Reference block, std::string datSet)
+{
+    std::vector<acsi::Reference> members;
+    const mms::Result<mms::ObjectName> name = acsi::dataSetName(block.device, datSet);
+    if (!name)
+        co_return members;
+    const mms::Result<acsi::DataSetDescription> directory =
+        co_await acsi::dataSetDirectory(client, *name);
+    if (!directory) {
+        // The list of a large data set may be longer than the device can send. The file knows it,
+        // or the reports have to say what they bring.
+        if (m_connection.model())
+            members = knownMembers(*m_connection.model(), *name);
+        co_return members;
+    }
+    for (const mms::VariableAccess &member : directory->members) {
+        // What has no reference is not in the model either; its place is kept.
+        const mms::Result<acsi::Reference> reference = acsi::referenceOf(member);
+        members.push_back(reference ? *reference : acsi::Reference());
+    }
+    co_return members;
 }
 
 asio::awaitable<Outcome> ReportSubscriptions::disable(acsi::Reference block)
 {
     const std::string reference = acsi::toText(block);
-    const std::shared_ptr<acsi::Client> client = m_connection.client();
-    const mms::Result<void> disabled = co_await acsi::disableReportBlock(client, block);
+    bool wasWaiting = false;
+    if (const SubscriptionPointer waiting = find(reference); waiting && !waiting->life.isTaking()) {
+        wasWaiting = true;
+        waiting->isUnwanted = true;
+        m_connection.setProblem(text(reference), {});
+    }
+    const Turn turn = co_await this->turn(reference);
+    const ClientPointer client = m_connection.client();
+    if (!client || !client->isOpen()) {
+        const QString sentence = m_connection.notConnectedSentence();
+        co_return Outcome{OperationNotConnected, sentence};
+    }
+    const SubscriptionPointer subscription = find(reference);
+    const bool isTaking = subscription && subscription->life.isTaking();
+    // Who no longer waits has what he wanted, whatever becomes of the block.
+    if (subscription && !isTaking)
+        m_subscriptions.erase(reference);
+    const bool isOwn = isTaking || m_leftEnabled.count(reference) != 0;
     Outcome outcome;
-    if (!disabled)
-        outcome = Outcome::failed(disabled.error());
+    bool isOthers = false;
+    if (!isOwn) {
+        const mms::Result<acsi::ReportBlock> live = co_await acsi::readReportBlock(client, block);
+        if (!live)
+            co_return Outcome::failed(live.error());
+        using Who = acsi::ReportHolder::Who;
+        const acsi::ReportHolder holder =
+            acsi::holderOf(*live, client->association().localAddress());
+        // One of this address, or one that the device does not name, may be what is left of an
+        // earlier association; the device decides.
+        isOthers = holder.who == Who::OtherAddress || (wasWaiting && holder.isEnabled);
+        if (isOthers)
+            outcome =
+                Outcome::failed(Texts::tr("%1 It was left alone.").arg(describe(block, holder)));
+    }
+    if (!isOthers) {
+        const mms::Result<void> disabled = co_await acsi::disableReportBlock(client, block);
+        if (!disabled)
+            outcome = Outcome::failed(disabled.error());
+    }
+    if (wasWaiting && isOthers)
+        outcome = Outcome();
     if (outcome) {
-        const auto found = m_subscriptions.find(reference);
-        if (found != m_subscriptions.end()) {
-            stop(*found->second);
-            m_subscriptions.erase(found);
+        if (const SubscriptionPointer former = find(reference)) {
+            stop(*former);
+            m_subscriptions.erase(reference);
         }
         m_reserved.erase(reference);
+        m_leftEnabled.erase(reference);
         m_connection.setProblem(text(reference), {});
-        ReportControlBlock *shown =
-            m_connection.model()->reportBlock(text(block.device), text(acsi::itemText(block)));
-        if (shown)
+        ReportControlBlock *const shown = shownInModel(block);
+        if (shown && !isOthers)
             shown->enabled = false;
     }
     DeviceChange change;
     change.operation = QStringLiteral("writeValue");
     change.reference = text(attributeOf(block, "RptEna"));
-    change.newValue = QStringLiteral("false");
+    change.newValue =
+        isOthers && outcome ? Texts::tr("no longer waited for") : QStringLiteral("false");
     change.error = outcome.error;
     m_connection.journal(std::move(change));
     co_return outcome;
@@ -407,212 +545,220 @@ void ReportSubscriptions::setReserved(const acsi::Reference &block, bool reserve
 
 void ReportSubscriptions::forgetEntries(const acsi::Reference &block)
 {
-    m_lastEntries.erase(acsi::toText(block));
+    m_entries.forget(text(block));
+    if (const SubscriptionPointer subscription = find(acsi::toText(block))) {
+        subscription->faults.erase(ReportFault::Overflow);
+        tell(*subscription);
+    }
+}
+
+void ReportSubscriptions::setInterrogated(const acsi::Reference &block)
+{
+    if (const SubscriptionPointer subscription = find(acsi::toText(block)))
+        subscription->isAsked = true;
+}
+
+void ReportSubscriptions::setShown(const acsi::Reference &block, Shown shown)
+{
+    const std::string reference = acsi::toText(block);
+    const QString holder = holderSentence(block, shown.block);
+    if (shown.block.rptEna && !holder.isEmpty()) {
+        m_noted[reference] = steady_clock::now() + notedTime;
+        m_connection.setProblem(text(reference) + QStringLiteral(" holder"), holder);
+        listen();
+    }
+    m_shown.insert_or_assign(reference, std::move(shown));
+}
+
+const ReportSubscriptions::Shown *ReportSubscriptions::shown(const acsi::Reference &block) const
+{
+    const auto found = m_shown.find(acsi::toText(block));
+    return found == m_shown.end() ? nullptr : &found->second;
+}
+
+QString ReportSubscriptions::holderSentence(const acsi::Reference &block,
+                                            const acsi::ReportBlock &read) const
+{
+    const std::string reference = acsi::toText(block);
+    const SubscriptionPointer subscription = find(reference);
+    const bool isOwn =
+        (subscription && subscription->life.state() != SubscriptionLife::State::Waiting) ||
+        m_reserved.count(reference) != 0 || m_leftEnabled.count(reference) != 0 ||
+        m_working.count(reference) != 0;
+    const ClientPointer client = m_connection.client();
+    if (isOwn || !client)
+        return {};
+    return describe(block, acsi::holderOf(read, client->association().localAddress()));
 }
 
 asio::awaitable<void> ReportSubscriptions::resume(SubscriptionPointer subscription, QString why)
 {
     const std::string reference = subscription->reference;
-    if (subscription->isBusy || subscription->isTaking)
+    Turn turn = co_await this->turn(reference);
+    if (!isCurrent(subscription) || subscription->isUnwanted ||
+        !subscription->life.isDue(steady_clock::now()))
         co_return;
     Outcome outcome;
-    if (m_connection.isReadOnly())
-        outcome = Outcome::failed(Texts::tr("the driver is read-only."));
-    else
-        outcome = co_await start(subscription);
-    const auto current = m_subscriptions.find(reference);
-    const std::shared_ptr<acsi::Client> client = m_connection.client();
-    if (!client || !client->isOpen() || current == m_subscriptions.end() ||
-        current->second != subscription)
+    if (m_connection.isReadOnly()) {
+        outcome = ended(subscription, Attended::No, SubscriptionLife::Result::Held, {}, {},
+                        Texts::tr("the driver is read-only."));
+    } else {
+        outcome = co_await start(subscription, Attended::No);
+        if (!outcome)
+            undo(subscription, std::move(turn));
+    }
+    const ClientPointer client = m_connection.client();
+    if (!client || !client->isOpen()) {
+        subscription->life.closed();
         co_return;
-    m_connection.setProblem(text(reference),
-                            outcome ? QString()
-                                    : Texts::tr("The report control block %1 could not be %2: %3")
-                                          .arg(text(reference), why, outcome.error));
+    }
+    if (!isCurrent(subscription) || subscription->isUnwanted)
+        co_return;
+    if (!outcome) {
+        m_connection.setProblem(text(reference),
+                                Texts::tr("The report control block %1 could not be %2: %3")
+                                    .arg(text(reference), why, outcome.error));
+    } else {
+        tell(*subscription);
+    }
 }
 
-asio::awaitable<void> ReportSubscriptions::watch(std::shared_ptr<acsi::Client> client)
+asio::awaitable<void> ReportSubscriptions::watch(ClientPointer client)
 {
     while (client->isOpen() && m_connection.isWanted()) {
         const auto next = steady_clock::now() + watchInterval;
         for (auto now = steady_clock::now();
              now < next && client->isOpen() && m_connection.isWanted(); now = steady_clock::now())
             co_await m_connection.pause(std::chrono::ceil<milliseconds>(next - now));
-        std::vector<SubscriptionPointer> watched;
-        std::vector<SubscriptionPointer> stopped;
-        std::vector<mms::VariableAccess> flags;
-        for (const auto &each : m_subscriptions) {
-            if (each.second->isBusy)
-                continue;
-            if (each.second->isTaking) {
-                watched.push_back(each.second);
-                flags.push_back(acsi::accessOf(attributeOf(each.second->block, "RptEna")));
-            } else {
-                stopped.push_back(each.second);
-            }
-        }
         if (!client->isOpen() || !m_connection.isWanted())
-            co_return;
-        if (!flags.empty()) {
-            const auto values = co_await client->read(std::move(flags));
-            for (std::size_t i = 0; values && i < watched.size() && i < values->size(); ++i) {
-                ReportSubscription &subscription = *watched[i];
-                const bool isDisabled = (*values)[i].ok() &&
-                                        (*values)[i].data().toBoolean() == false &&
-                                        subscription.isTaking && !subscription.isBusy;
-                if (!isDisabled)
-                    continue;
-                stop(subscription);
-                const QString sentence = Texts::tr("The device has disabled %1 by itself.")
-                                             .arg(text(subscription.reference));
-                m_connection.setProblem(text(subscription.reference), sentence);
-                journal(subscription, {}, {}, sentence);
+            break;
+        const auto now = steady_clock::now();
+        const bool stoodStill = now - next > standstill;
+        const std::vector<std::string> expired = m_stream.expire(now);
+        for (const std::string &each : expired) {
+            if (const SubscriptionPointer subscription = find(each))
+                fault(subscription, ReportFault::MissingSegment);
+        }
+        co_await lookAtBlocks(client);
+        co_await lookAtHolders(client);
+        std::vector<SubscriptionPointer> all;
+        for (const auto &each : m_subscriptions)
+            all.push_back(each.second);
+        for (const SubscriptionPointer &each : all) {
+            if (!client->isOpen() || !m_connection.isWanted())
+                break;
+            if (each->life.isDue(steady_clock::now()))
+                co_await resume(each, Texts::tr("enabled again"));
+            else if (stoodStill && each->life.isTaking())
+                mend(each);
+        }
+        m_entries.save();
+    }
+}
+
+asio::awaitable<void> ReportSubscriptions::lookAtBlocks(ClientPointer client)
+{
+    enum class What { Number, Entry };
+    struct Question
+    {
+        SubscriptionPointer subscription;
+        What what;
+    };
+    std::vector<Question> questions;
+    std::vector<mms::VariableAccess> attributes;
+    const auto ask = [&](const SubscriptionPointer &subscription, What what, const char *name) {
+        questions.push_back({subscription, what});
+        attributes.push_back(acsi::accessOf(attributeOf(subscription->block, name)));
+    };
+    std::vector<SubscriptionPointer> watched;
+    std::vector<mms::VariableAccess> flags;
+    for (const auto &each : m_subscriptions) {
+        if (!each.second->life.isTaking() || m_working.count(each.first) != 0)
+            continue;
+        watched.push_back(each.second);
+        flags.push_back(acsi::accessOf(attributeOf(each.second->block, "RptEna")));
+        ask(each.second, What::Number, "SqNum");
+        if (each.second->readsEntry)
+            ask(each.second, What::Entry, "EntryID");
+    }
+    if (questions.empty())
+        co_return;
+    const auto isStill = [this](const SubscriptionPointer &subscription) {
+        return isCurrent(subscription) && subscription->life.isTaking() &&
+               m_working.count(subscription->reference) == 0;
+    };
+    const auto enabled = co_await client->read(std::move(flags));
+    for (std::size_t i = 0; enabled && i < watched.size() && i < enabled->size(); ++i) {
+        const mms::AccessResult &value = (*enabled)[i];
+        if (!value.ok() || value.data().toBoolean() != false || !isStill(watched[i]))
+            continue;
+        stop(*watched[i]);
+        watched[i]->life.stopped(steady_clock::now());
+        const QString sentence =
+            Texts::tr("The device has disabled %1 by itself.").arg(text(watched[i]->block));
+        m_connection.setProblem(text(watched[i]->reference), sentence);
+        journal(*watched[i], {}, {}, sentence);
+    }
+    if (!client->isOpen())
+        co_return;
+    const auto values = co_await client->read(std::move(attributes));
+    for (std::size_t i = 0; values && i < questions.size() && i < values->size(); ++i) {
+        const SubscriptionPointer &subscription = questions[i].subscription;
+        const mms::AccessResult &value = (*values)[i];
+        if (!value.ok() || !isStill(subscription))
+            continue;
+        const mms::Data &data = value.data();
+        if (questions[i].what == What::Number) {
+            const auto number = data.toUnsigned();
+            const bool isNumber = number && *number <= 0xffff;
+            if (isNumber &&
+                m_stream.isBehind(subscription->reference, static_cast<std::uint32_t>(*number)))
+                fault(subscription, ReportFault::Gap);
+        } else {
+            const mms::Bytes entry = data.octets();
+            const bool isEntry = data.kind() == mms::Data::Kind::OctetString &&
+                                 std::ranges::any_of(entry, [](auto octet) { return octet != 0; });
+            if (isEntry) {
+                m_entries.set(text(subscription->reference), subscription->terms,
+                              {entry.begin(), entry.end()});
             }
         }
-        for (const SubscriptionPointer &each : stopped) {
-            if (client->isOpen() && m_connection.isWanted())
-                co_await resume(each, Texts::tr("enabled again"));
-        }
     }
 }
 
-void ReportSubscriptions::stop(ReportSubscription &subscription)
+asio::awaitable<void> ReportSubscriptions::lookAtHolders(ClientPointer client)
 {
-    subscription.isTaking = false;
-    m_connection.setReported(text(subscription.reference), {}, {});
+    std::vector<std::string> noted;
+    for (const auto &each : m_noted)
+        noted.push_back(each.first);
+    for (const std::string &reference : noted) {
+        const auto block = acsi::parseReference(reference);
+        QString sentence;
+        if (block && client->isOpen()) {
+            const auto live = co_await acsi::readReportBlock(client, *block);
+            if (live && live->rptEna)
+                sentence = holderSentence(*block, *live);
+        }
+        const auto found = m_noted.find(reference);
+        if (found == m_noted.end())
+            continue;
+        if (steady_clock::now() >= found->second)
+            sentence.clear();
+        if (sentence.isEmpty())
+            m_noted.erase(found);
+        m_connection.setProblem(text(reference) + QStringLiteral(" holder"), sentence);
+    }
 }
 
-ReportSubscriptions::SubscriptionPointer
-ReportSubscriptions::subscriptionOf(const acsi::Report &report) const
+void ReportSubscriptions::stop(Subscription &subscription)
 {
-    SubscriptionPointer best;
-    int bestScore = 0;
-    for (const auto &each : m_subscriptions) {
-        const ReportSubscription &subscription = *each.second;
-        if (!subscription.isTaking)
-            continue;
-        // A block without an identifier of its own reports under its reference; some devices leave
-        // the identifier empty instead.
-        const bool isNamed = report.rptId == subscription.rptId ||
-                             report.rptId == subscription.reference ||
-                             report.rptId == acsi::objectReferenceText(subscription.block);
-        if (!isNamed && !report.rptId.empty())
-            continue;
-        if (!report.datSet.empty() &&
-            !isSameDataSet(subscription.block, report.datSet, subscription.datSet))
-            continue;
-        // Several instances of a block may share one identifier.
-        const bool isNext = report.sqNum && subscription.sqNum &&
-                            *report.sqNum == (*subscription.sqNum + 1) % 0x10000;
-        const int score = 1 + (isNamed ? 4 : 0) +
-                          (report.dataSetSize == subscription.members.size() ? 2 : 0) +
-                          (isNext ? 1 : 0);
-        if (score > bestScore) {
-            bestScore = score;
-            best = each.second;
-        }
-    }
-    return best;
+    m_stream.stop(subscription.reference);
+    subscription.mending.reset();
+    subscription.faults.clear();
+    trust(subscription, false);
 }
 
-bool ReportSubscriptions::take(const mms::InformationReport &information)
-{
-    if (!acsi::isReport(information))
-        return false;
-    mms::Result<acsi::Report> segment = acsi::decodeReport(information);
-    if (!segment) {
-        m_connection.setProblem(unreadable,
-                                Texts::tr("A report of the device could not be read: %1")
-                                    .arg(text(segment.error().message)));
-        return false;
-    }
-    const SubscriptionPointer subscription = subscriptionOf(*segment);
-    if (!subscription)
-        return false;
-    const std::optional<acsi::Report> report =
-        m_assembler.take(std::move(*segment), steady_clock::now());
-    if (!report)
-        return true;
-    publish(*subscription, *report);
-    subscription->sqNum = report->sqNum;
-    if (!report->entryId.empty())
-        m_lastEntries[subscription->reference] = report->entryId;
-    m_connection.setProblem(unreadable, {});
-    m_connection.countReport();
-    return true;
-}
-
-void ReportSubscriptions::publish(ReportSubscription &subscription, const acsi::Report &report)
-{
-    const bool isKnown = report.dataSetSize == subscription.members.size();
-    QString disturbance;
-    std::vector<acsi::Reference> references(report.members.size());
-    Companions companions;
-    for (std::size_t i = 0; i < report.members.size(); ++i) {
-        const acsi::ReportMember &member = report.members[i];
-        if (isKnown) {
-            references[i] = subscription.members[member.index];
-        } else if (const auto given = acsi::parseReference(member.reference)) {
-            references[i] = *given;
-        }
-        if (member.value.ok())
-            companions.add(references[i], member.value.data());
-    }
-    const std::optional<mms::Data> entryTime =
-        report.timeOfEntry ? std::optional(mms::Data::binaryTime(*report.timeOfEntry))
-                           : std::nullopt;
-    for (std::size_t i = 0; i < report.members.size(); ++i) {
-        const acsi::ReportMember &member = report.members[i];
-        if (references[i].node.empty()) {
-            disturbance = isKnown ? Texts::tr("The member %1 of the data set of %2 is no data of "
-                                              "the device's model.")
-                                        .arg(member.index + 1)
-                                        .arg(text(subscription.reference))
-                                  : Texts::tr("A report of %1 has %2 members, but its data set "
-                                              "has %3.")
-                                        .arg(text(subscription.reference))
-                                        .arg(report.dataSetSize)
-                                        .arg(subscription.members.size());
-            continue;
-        }
-        const std::string reference = acsi::toText(references[i]);
-        if (!member.value.ok()) {
-            disturbance = Texts::tr("The reports of %1 have no value for %2: %3.")
-                              .arg(text(subscription.reference), text(reference),
-                                   QString::fromStdString(mms::describe(member.value.error())));
-            continue;
-        }
-        DeviceConnection::Publication publication;
-        publication.cause = causeOf(member);
-        publication.quality = companions.quality(reference);
-        publication.time = companions.time(reference);
-        if (!publication.time && entryTime)
-            publication.time = &*entryTime;
-        const bool isUnderstood =
-            m_connection.model() && m_connection.model()->isWholeKnown(references[i]);
-        if (!isUnderstood && m_connection.model() &&
-            !m_connection.model()->readableParts(references[i]).empty()) {
-            disturbance = Texts::tr("The device described %1 in parts only, so what the reports of "
-                                    "%2 say of it cannot be understood; it is polled.")
-                              .arg(text(reference), text(subscription.reference));
-        } else if (!m_connection.publish(references[i], member.value.data(), publication)) {
-            disturbance = Texts::tr("A value of %1 in the reports of %2 does not have the form of "
-                                    "its type.")
-                              .arg(text(reference), text(subscription.reference));
-        }
-    }
-    if (report.bufOvfl.value_or(false))
-        subscription.hasOverflown = true;
-    if (disturbance.isEmpty() && subscription.hasOverflown)
-        disturbance = Texts::tr("The buffer of %1 has overflown: older changes are lost.")
-                          .arg(text(subscription.reference));
-    if (disturbance != subscription.disturbance) {
-        subscription.disturbance = disturbance;
-        m_connection.setProblem(text(subscription.reference), disturbance);
-    }
-}
-
-void ReportSubscriptions::journal(const ReportSubscription &subscription, const QString &oldValue,
+void ReportSubscriptions::journal(const Subscription &subscription, const QString &oldValue,
                                   const QString &newValue, const QString &error) const
 {
     DeviceChange change;
@@ -622,37 +768,4 @@ void ReportSubscriptions::journal(const ReportSubscription &subscription, const 
     change.newValue = newValue;
     change.error = error;
     m_connection.journal(std::move(change));
-}
-
-QString ReportDataSet::shown(const acsi::Reference &block, const std::string &device)
-{
-    const mms::Result<mms::ObjectName> name = acsi::dataSetName(block.device, device);
-    if (!name)
-        return text(device);
-    const std::string ownNode = block.node + '$';
-    if (name->scope == mms::Scope::Domain && name->domain == block.device &&
-        name->item.compare(0, ownNode.size(), ownNode) == 0)
-        return text(name->item).mid(static_cast<int>(ownNode.size()));
-    return text(acsi::dataSetText(*name));
-}
-
-std::string ReportDataSet::wire(const acsi::Reference &block, const QString &shown)
-{
-    std::string name = shown.trimmed().toStdString();
-    if (name.empty())
-        return name;
-    if (name.find_first_of("@/$.") == std::string::npos)
-        name = block.node + '$' + name;
-    const mms::Result<mms::ObjectName> parsed = acsi::dataSetName(block.device, name);
-    return parsed ? acsi::dataSetText(*parsed) : name;
-}
-
-QString describe(const acsi::ReportBlock &block)
-{
-    const QString state = block.rptEna ? Texts::tr("enabled") : Texts::tr("disabled");
-    return QStringLiteral("%1, RptID=%2, DatSet=%3, TrgOps=%4, OptFlds=%5, BufTm=%6, IntgPd=%7")
-        .arg(state, text(block.rptId), text(block.datSet), text(block.trgOps.toBits().toText()),
-             text(block.optFlds.toBits().toText()))
-        .arg(block.bufTm)
-        .arg(block.intgPd);
 }

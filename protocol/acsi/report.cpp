@@ -289,6 +289,14 @@ bool isReport(const mms::InformationReport &information)
     return list && list->scope == mms::Scope::Vmd && list->item == reportList;
 }
 
+std::string reportIdOf(const mms::InformationReport &information)
+{
+    if (!isReport(information) || information.results.empty())
+        return {};
+    const mms::AccessResult &first = information.results.front();
+    return first.ok() && isText(first.data()) ? std::string(first.data().text()) : std::string();
+}
+
 mms::Result<Report> decodeReport(mms::InformationReport information)
 {
     if (!isReport(information))
@@ -350,7 +358,7 @@ mms::InformationReport encodeReport(const Report &report)
     return information;
 }
 
-void ReportAssembler::forgetOld(Time now)
+void ReportAssembler::expire(Time now)
 {
     for (auto it = m_pending.begin(); it != m_pending.end();) {
         if (now - it->second.since > m_patience)
@@ -358,10 +366,26 @@ void ReportAssembler::forgetOld(Time now)
         else
             ++it;
     }
-    if (m_pending.size() >= maxPending) {
-        drop(std::ranges::min_element(m_pending, {},
-                                      [](const auto &entry) { return entry.second.since; }));
-    }
+}
+
+std::string ReportAssembler::keyOf(const Report &segment)
+{
+    // Two blocks may share a report id as long as they report different data sets.
+    return segment.rptId + '\n' + segment.datSet;
+}
+
+bool ReportAssembler::fits(const Pending &pending, const Report &segment)
+{
+    return segment.subSqNum == pending.nextSubSqNum && segment.sqNum == pending.report.sqNum &&
+           segment.entryId == pending.report.entryId &&
+           segment.dataSetSize == pending.report.dataSetSize &&
+           pending.report.members.size() + segment.members.size() <= segment.dataSetSize;
+}
+
+bool ReportAssembler::continues(const Report &segment) const
+{
+    const auto found = m_pending.find(keyOf(segment));
+    return found != m_pending.end() && fits(found->second, segment);
 }
 
 std::map<std::string, ReportAssembler::Pending>::iterator
@@ -373,9 +397,12 @@ ReportAssembler::drop(std::map<std::string, Pending>::iterator pending)
 
 std::optional<Report> ReportAssembler::take(Report segment, Time now)
 {
-    forgetOld(now);
-    // Two blocks may share a report id as long as they report different data sets.
-    const std::string key = segment.rptId + '\n' + segment.datSet;
+    expire(now);
+    if (m_pending.size() >= maxPending) {
+        drop(std::ranges::min_element(m_pending, {},
+                                      [](const auto &entry) { return entry.second.since; }));
+    }
+    const std::string key = keyOf(segment);
     auto found = m_pending.find(key);
     if (segment.subSqNum == 0) {
         if (found != m_pending.end())
@@ -390,12 +417,7 @@ std::optional<Report> ReportAssembler::take(Report segment, Time now)
         return std::nullopt;
     }
     Pending &pending = found->second;
-    const bool continues =
-        segment.subSqNum == pending.nextSubSqNum && segment.sqNum == pending.report.sqNum &&
-        segment.entryId == pending.report.entryId &&
-        segment.dataSetSize == pending.report.dataSetSize &&
-        pending.report.members.size() + segment.members.size() <= segment.dataSetSize;
-    if (!continues) {
+    if (!fits(pending, segment)) {
         drop(found);
         ++m_dropped;
         return std::nullopt;

@@ -82,6 +82,9 @@ struct Report
 /// True for the list of variables that reports come in.
 bool isReport(const mms::InformationReport &information);
 
+/// The report id of a report that may be unreadable otherwise; empty when even that is.
+std::string reportIdOf(const mms::InformationReport &information);
+
 /// Takes a report apart by its own OptFlds (IEC 61850-8-1, 17.2.5). The error says which field is
 /// missing or of the wrong type. Values are moved out of @p information. BufOvfl and EntryID may be
 /// missing in reports of unbuffered blocks; Report::optFlds then does without them.
@@ -105,6 +108,10 @@ public:
     /// predecessor or successor, parts that wait longer than the patience, and the oldest of very
     /// many reports that wait are dropped and counted.
     std::optional<Report> take(Report segment, Time now);
+    /// Whether @p segment is the next part of a report that waits.
+    bool continues(const Report &segment) const;
+    /// Drops what has waited longer than the patience; take() does so too.
+    void expire(Time now);
     /// Parts that will not be part of any report.
     std::uint64_t dropped() const { return m_dropped; }
 
@@ -116,7 +123,8 @@ private:
         Time since;
     };
 
-    void forgetOld(Time now);
+    static std::string keyOf(const Report &segment);
+    static bool fits(const Pending &pending, const Report &segment);
     std::map<std::string, Pending>::iterator drop(std::map<std::string, Pending>::iterator pending);
 
     std::chrono::milliseconds m_patience;

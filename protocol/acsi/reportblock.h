@@ -37,7 +37,27 @@ struct ReportBlock
     std::optional<std::vector<std::uint8_t>> owner; ///< address of the client; empty when free
     /// What the device refused although the block works, one sentence each.
     std::vector<std::string> notes;
+    /// Whether the device took ReportSettings::resumeAfter; empty when it was not asked to.
+    std::optional<bool> resumed;
 };
+
+/// Who has a report control block, as far as the block tells.
+struct ReportHolder
+{
+    enum class Who : std::uint8_t {
+        Nobody,
+        Somebody,     ///< the device does not tell who
+        OtherAddress, ///< another computer
+        SameAddress   ///< this computer: the association that asks, or another one
+    };
+
+    Who who = Who::Nobody;
+    bool isEnabled = false; ///< by whoever has it; reserved otherwise
+    std::string address;    ///< as a person writes it; empty for Somebody
+};
+
+/// @param ownAddress of this end of the association, as Owner gives addresses
+ReportHolder holderOf(const ReportBlock &block, std::span<const std::uint8_t> ownAddress);
 
 /// The address of a client as a person writes it, "10.0.0.5"; empty when there is none.
 std::string ownerText(std::span<const std::uint8_t> owner);
@@ -67,16 +87,42 @@ struct ReportSettings
     /// Seconds to reserve a buffered block for; ignored where the block has no ResvTms.
     std::int32_t resvTms = 60;
     bool generalInterrogation = false; ///< ask for one once enabled
+    /// A block that is enabled is enabled by this association: it is disabled first. Otherwise one
+    /// that is enabled is somebody else's, and nothing is written to it.
+    bool isOwn = false;
 };
 
-/// Reserves the block, writes what differs attribute by attribute, and enables it; a block that is
-/// enabled is disabled before. Gives the block as it is then. The error names the attribute that
-/// was refused, with the reason, and the owner when another client has taken the block; what had
-/// been reserved is released then. An attribute refused only because the value is there already is
-/// no error.
+/// What was written to a block on the way to enabling it, oldest first, with what was there before.
+/// Entered before a request goes out and taken out when the device refuses it, so that what stands
+/// here when the way ends in the middle has happened or may have.
+struct ReportBlockTrace
+{
+    struct Change
+    {
+        std::string attribute;
+        mms::Data before;
+    };
+
+    std::vector<Change> changes;
+    bool isUncertain = false; ///< a write has had no answer
+};
+
+/// Reserves the block, writes what differs attribute by attribute, and enables it. Gives the block
+/// as it is then. The error names the attribute that was refused, with the reason, and the owner
+/// when another client has taken the block; what had been written and reserved is undone then,
+/// unless an answer was missing and @p trace was given: then it stays there for
+/// undoReportBlock(), as it does when the coroutine is cancelled.
 asio::awaitable<mms::Result<ReportBlock>>
-enableReportBlock(std::shared_ptr<Client> client, Reference block, ReportSettings settings);
-/// Disables the block and gives up the reservation.
+enableReportBlock(std::shared_ptr<Client> client, Reference block, ReportSettings settings,
+                  std::shared_ptr<ReportBlockTrace> trace = {});
+/// Writes back what the trace says, the newest first, until @p deadline. What stands in the trace
+/// afterwards was left behind on the device: true when that is nothing. Cancelled, it can be called
+/// again.
+asio::awaitable<bool> undoReportBlock(std::shared_ptr<Client> client, Reference block,
+                                      std::shared_ptr<ReportBlockTrace> trace,
+                                      std::chrono::steady_clock::time_point deadline);
+/// Disables the block and gives up the reservation, unless the configuration made it. When the
+/// device does not disable it, the reservation stays.
 asio::awaitable<mms::Result<void>> disableReportBlock(std::shared_ptr<Client> client,
                                                       Reference block);
 

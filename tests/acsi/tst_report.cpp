@@ -391,3 +391,30 @@ TEST(ReportAssembling, VeryManyUnfinishedReportsDoNotPileUp)
     last.rptId = "999";
     EXPECT_TRUE(assembler.take(last, now));
 }
+
+TEST(ReportAssembling, WhatContinuesAWaitingReportIsKnown)
+{
+    ReportAssembler assembler(10s);
+    const ReportAssembler::Time start{};
+    EXPECT_FALSE(assembler.continues(segment(1, true, {1})));
+    EXPECT_FALSE(assembler.take(segment(0, true, {0}), start));
+    EXPECT_TRUE(assembler.continues(segment(1, true, {1})));
+    EXPECT_FALSE(assembler.continues(segment(2, true, {1})));
+    assembler.expire(start + 10s);
+    EXPECT_EQ(assembler.dropped(), 0U);
+    assembler.expire(start + 11s);
+    EXPECT_EQ(assembler.dropped(), 1U);
+    EXPECT_FALSE(assembler.continues(segment(1, true, {1})));
+}
+
+TEST(ReportDecoding, TheIdOfAReportThatCannotBeReadIsStillThere)
+{
+    mms::InformationReport broken = encodeReport(fullReport());
+    broken.results.pop_back();
+    EXPECT_FALSE(decodeReport(broken).ok());
+    EXPECT_EQ(reportIdOf(broken), fullReport().rptId);
+    broken.results.front() = Data::boolean(true);
+    EXPECT_EQ(reportIdOf(broken), "");
+    broken.results.clear();
+    EXPECT_EQ(reportIdOf(broken), "");
+}

@@ -102,6 +102,7 @@ protected:
     /// "RptEna=true" in their order, refused ones as well.
     std::vector<std::string> writes;
     std::set<std::string> refusals; ///< "RptEna=true", or "Resv" for any value
+    std::set<std::string> silences; ///< done, but not answered
 
 private:
     void update()
@@ -123,6 +124,8 @@ private:
             response.results.front() = DataAccessError::TemporarilyUnavailable;
         else
             set(name, write.values.front());
+        if (silences.count(text) != 0)
+            return true;
         association.respond(invokeId, response);
         return true;
     }
@@ -261,12 +264,27 @@ TEST_F(ReportBlockTest, ABlockReservedByConfigurationIsNotReservedAgain)
     EXPECT_EQ(writes, (Writes{"RptEna=true"}));
 }
 
-TEST_F(ReportBlockTest, AnEnabledBlockIsDisabledBeforeItIsChanged)
+TEST_F(ReportBlockTest, ABlockOfThisAssociationIsDisabledBeforeItIsChanged)
 {
     start(unbuffered(), "RP");
     set("RptEna", Data::boolean(true));
-    EXPECT_TRUE(run(enableReportBlock(client, block, {})).ok());
+    ReportSettings settings;
+    settings.isOwn = true;
+    EXPECT_TRUE(run(enableReportBlock(client, block, settings)).ok());
     EXPECT_EQ(writes, (Writes{"RptEna=false", "Resv=true", "RptEna=true"}));
+}
+
+TEST_F(ReportBlockTest, ABlockThatSomebodyElseEnabledIsNotWritten)
+{
+    start(unbuffered(), "RP");
+    set("RptEna", Data::boolean(true));
+    set("Owner", Data::octetString(std::vector<std::uint8_t>{10, 0, 0, 5}));
+    const auto enabled = run(enableReportBlock(client, block, {}));
+    ASSERT_FALSE(enabled.ok());
+    EXPECT_EQ(enabled.error().message, "LD/LLN0.blk is enabled already."
+                                       " The block belongs to the client 10.0.0.5.");
+    EXPECT_EQ(writes, Writes{});
+    EXPECT_EQ(get("RptEna"), "true");
 }
 
 TEST_F(ReportBlockTest, ABlockOfAnotherClientNamesIt)
@@ -275,7 +293,9 @@ TEST_F(ReportBlockTest, ABlockOfAnotherClientNamesIt)
     set("RptEna", Data::boolean(true));
     set("Owner", Data::octetString(std::vector<std::uint8_t>{10, 0, 0, 5}));
     refusals = {"RptEna", "Resv"};
-    const auto enabled = run(enableReportBlock(client, block, {}));
+    ReportSettings settings;
+    settings.isOwn = true;
+    const auto enabled = run(enableReportBlock(client, block, settings));
     ASSERT_FALSE(enabled.ok());
     EXPECT_EQ(enabled.error().message,
               "LD/LLN0.blk is enabled already. RptEna of LD/LLN0.blk cannot be written: " +
@@ -350,6 +370,94 @@ TEST_F(ReportBlockTest, DisablingGivesUpTheReservation)
     writes.clear();
     refusals = {"RptEna"};
     EXPECT_FALSE(run(disableReportBlock(client, block)).ok());
+    EXPECT_EQ(writes, (Writes{"RptEna=false"}));
+}
+
+TEST_F(ReportBlockTest, DisablingLeavesTheReservationOfTheConfiguration)
+{
+    start(buffered(), "BR");
+    set("ResvTms", Data::integer(-1));
+    EXPECT_TRUE(run(disableReportBlock(client, block)).ok());
+    EXPECT_EQ(writes, (Writes{"RptEna=false"}));
+}
+
+TEST_F(ReportBlockTest, WhatWasWrittenBeforeARefusalIsWrittenBack)
+{
+    start(unbuffered(), "RP");
+    refusals = {"TrgOps"};
+    ReportSettings settings;
+    settings.rptId = "mine";
+    settings.bufTm = 7;
+    settings.trgOps = Triggers{true, true};
+    ASSERT_FALSE(run(enableReportBlock(client, block, settings)).ok());
+    EXPECT_EQ(writes, (Writes{"Resv=true", "RptID=\"mine\"", "BufTm=7", "TrgOps='011000'B",
+                              "BufTm=100", "RptID=\"id\"", "Resv=false"}));
+    EXPECT_EQ(get("RptID"), "\"id\"");
+}
+
+TEST_F(ReportBlockTest, AnEnablingWithoutAnswerLeavesItsTraceAndCanBeUndone)
+{
+    start(unbuffered(), "RP");
+    silences = {"RptEna=true"};
+    ReportSettings settings;
+    settings.rptId = "mine";
+    const auto trace = std::make_shared<ReportBlockTrace>();
+    ASSERT_FALSE(run(enableReportBlock(client, block, settings, trace)).ok());
+    EXPECT_TRUE(trace->isUncertain);
+    std::vector<std::string> left;
+    for (const ReportBlockTrace::Change &change : trace->changes)
+        left.push_back(change.attribute);
+    EXPECT_EQ(left, (std::vector<std::string>{"Resv", "RptID", "RptEna"}));
+    // The device has done what it did not answer.
+    EXPECT_EQ(get("RptEna"), "true");
+
+    writes.clear();
+    refusals = {"RptID"};
+    const auto never = std::chrono::steady_clock::time_point::max();
+    EXPECT_FALSE(run(undoReportBlock(client, block, trace, never)));
+    EXPECT_EQ(writes, (Writes{"RptEna=false", "RptID=\"id\"", "Resv=false"}));
+    ASSERT_EQ(trace->changes.size(), 1U);
+    EXPECT_EQ(trace->changes.front().attribute, "RptID");
+    refusals.clear();
+    const auto longAgo = std::chrono::steady_clock::time_point::min();
+    EXPECT_FALSE(run(undoReportBlock(client, block, trace, longAgo)));
+    EXPECT_EQ(trace->changes.size(), 1U);
+    EXPECT_TRUE(run(undoReportBlock(client, block, trace, never)));
+    EXPECT_TRUE(trace->changes.empty());
+    EXPECT_EQ(get("RptID"), "\"id\"");
+}
+
+TEST_F(ReportBlockTest, ARefusedUndoOfWhatIsAsItWasIsNoRest)
+{
+    start(unbuffered(), "RP");
+    refusals = {"BufTm"};
+    const auto trace = std::make_shared<ReportBlockTrace>();
+    trace->changes.push_back({"BufTm", Data::unsignedInteger(100)});
+    EXPECT_TRUE(run(undoReportBlock(client, block, trace,
+                                    std::chrono::steady_clock::time_point::max())));
+    EXPECT_TRUE(trace->changes.empty());
+}
+
+TEST(ReportBlockHolder, IsToldByOwnerFlagAndReservation)
+{
+    using Who = ReportHolder::Who;
+    const std::vector<std::uint8_t> own{10, 0, 0, 1};
+    ReportBlock each;
+    EXPECT_EQ(holderOf(each, own).who, Who::Nobody);
+    each.resvTms = -1;
+    EXPECT_EQ(holderOf(each, own).who, Who::Nobody);
+    each.resvTms = 5;
+    EXPECT_EQ(holderOf(each, own).who, Who::Somebody);
+    EXPECT_FALSE(holderOf(each, own).isEnabled);
+    each.owner = own;
+    EXPECT_EQ(holderOf(each, own).who, Who::SameAddress);
+    each.owner = std::vector<std::uint8_t>{10, 0, 0, 2};
+    each.rptEna = true;
+    EXPECT_EQ(holderOf(each, own).who, Who::OtherAddress);
+    EXPECT_EQ(holderOf(each, own).address, "10.0.0.2");
+    EXPECT_TRUE(holderOf(each, own).isEnabled);
+    each.owner = std::vector<std::uint8_t>(4);
+    EXPECT_EQ(holderOf(each, own).who, Who::Somebody);
 }
 
 TEST_F(ReportBlockTest, DisablingABufferedBlockGivesUpTheReservation)

@@ -2,6 +2,8 @@
 #include "driver/indicatorfile.h"
 #include "driver/simulatedstation.h"
 
+#include "acsi/reference.h"
+
 #include <tavrix/tavrix.h>
 
 #include <QtCore/QElapsedTimer>
@@ -375,7 +377,7 @@ void tst_DriverReports::aReservedBlockNamesItsOwner()
     QVERIFY(first.isOnline() && second.isOnline());
     QVERIFY2(first.enable(buffered, dialogBlock(true)), qPrintable(first.error()));
     QVERIFY(!second.enable(buffered, dialogBlock(true)));
-    QVERIFY2(second.error().contains("belongs to the client 127.0.0.1"),
+    QVERIFY2(second.error().contains("another association of this computer (127.0.0.1)"),
              qPrintable(second.error()));
     QCOMPARE(second.block(buffered).owner, QStringLiteral("127.0.0.1"));
     QVERIFY(second.block(buffered).rptEna);
@@ -516,23 +518,27 @@ void tst_DriverReports::aBlockThatTheDeviceDisablesIsNoticed()
 {
     SimulatedIed ied(stationFile);
     ied.stop();
-    const auto lies = std::make_shared<std::atomic<bool>>(false);
-    ied.setRequestFilter([lies](const std::shared_ptr<mms::Association> &association,
-                                std::uint32_t invokeId, mms::RequestService &request) {
+    const auto mayAct = std::make_shared<std::atomic<bool>>(false);
+    ied.setRequestFilter([mayAct, &ied](const std::shared_ptr<mms::Association> &association,
+                                        std::uint32_t, mms::RequestService &request) {
         const auto *read = std::get_if<mms::ReadRequest>(&request);
-        if (!*lies || !read || mms::toText(read->variables).find("$RptEna") == std::string::npos)
+        if (!*mayAct || !read || mms::toText(read->variables).find("$RptEna") == std::string::npos)
             return false;
-        *lies = false;
-        mms::ReadResponse response;
-        response.results.emplace_back(mms::Data::boolean(false));
-        association->respond(invokeId, response);
-        return true;
+        *mayAct = false;
+        // Nobody waits for the answer to this one.
+        constexpr std::uint32_t nobodys = 1U << 30U;
+        mms::WriteRequest write;
+        write.variables = std::vector<mms::VariableAccess>{acsi::accessOf(
+            *acsi::parseReference((control + '/' + unbuffered + "$RptEna").toStdString()))};
+        write.values.push_back(mms::Data::boolean(false));
+        ied.device()->request(association, nobodys, write);
+        return false;
     });
     ied.start();
     Station station(ied);
     QVERIFY(station.isOnline());
     QVERIFY(station.enable(unbuffered, dialogBlock(false)));
-    *lies = true;
+    *mayAct = true;
     QVERIFY(station.listener().waitForStatus(1, [](const DeviceStatus &status) {
         return status.reason ==
                "The device has disabled BAY1E1CTRL/LLN0$RP$urcbPositions01 by itself.";
