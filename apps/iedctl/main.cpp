@@ -73,6 +73,8 @@ ExitStatus run(const Invocation &invocation, Output &output)
 {
     Arrival arrival;
     IedDriverOptions options;
+    const auto events = std::make_shared<EventReceiver>();
+    options.reportReceived = [events](const ReportEvent &event) { events->take(event); };
     options.statusChanged = [&arrival](const DeviceStatus &status) { arrival.take(status); };
     const auto driver = std::make_shared<IedDriver>(options);
     const QStringList faults = driver->setDevice(invocation.device);
@@ -93,6 +95,7 @@ ExitStatus run(const Invocation &invocation, Output &output)
     ExitStatus status = ExitStatus::Done;
     {
         Session session(driverAddress, deviceNumber, output);
+        session.setEvents(events);
         if (invocation.batch.isEmpty()) {
             status = invocation.command(session);
         } else if (invocation.batch == QLatin1String("-")) {

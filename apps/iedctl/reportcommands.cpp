@@ -6,6 +6,7 @@
 #include "valuelines.h"
 
 #include <QtCore/QDataStream>
+#include <QtCore/QElapsedTimer>
 
 #include <algorithm>
 
@@ -104,6 +105,104 @@ ExitStatus writeAttribute(Session &session, const QString &blockText, const QStr
 QJsonArray texts(const QStringList &list)
 {
     return QJsonArray::fromStringList(list);
+}
+
+/// Between looks at whether the operator wants the stream to end.
+constexpr int streamWaitMs = 200;
+
+QString reasonText(quint32 bits)
+{
+    static const QStringList names = {
+        QStringLiteral("data-change"),           QStringLiteral("quality-change"),
+        QStringLiteral("data-update"),           QStringLiteral("integrity"),
+        QStringLiteral("general-interrogation"), QStringLiteral("application")};
+    QStringList set;
+    for (int i = 0; i < names.size(); ++i) {
+        if ((bits & (1U << static_cast<unsigned>(i))) != 0)
+            set.append(names.at(i));
+    }
+    return set.join(QLatin1Char(','));
+}
+
+QJsonObject memberRow(const PhysicalDevice &device, const ReportEventMember &member)
+{
+    MMSValue value;
+    value.reference = member.reference;
+    value.value = member.value;
+    value.quality = member.quality;
+    value.timeStamp = member.timeStamp;
+    QJsonObject row = valueRow(device, value);
+    if (member.reason)
+        row.insert(QStringLiteral("reason"), reasonText(*member.reason));
+    if (!member.error.isEmpty())
+        row.insert(QStringLiteral("error"), member.error);
+    return row;
+}
+
+/// A line for the report and one for each member, or an object.
+void showEvent(Session &session, const PhysicalDevice &device, const ReportEvent &event)
+{
+    QJsonObject object{{QStringLiteral("arrival"), event.arrival.toString(Qt::ISODateWithMs)},
+                       {QStringLiteral("block"), event.block}};
+    QStringList head{event.arrival.toString(Qt::ISODateWithMs), event.block};
+    if (!event.missing.isEmpty()) {
+        object.insert(QStringLiteral("missing"), event.missing);
+        head.append(event.missing);
+        session.output().streamed(head.join(QLatin1String("  ")), object);
+        return;
+    }
+    object.insert(QStringLiteral("rptId"), event.rptId);
+    if (event.sequenceNumber) {
+        object.insert(QStringLiteral("sequenceNumber"), static_cast<int>(*event.sequenceNumber));
+        head.append(QLatin1Char('#') + QString::number(*event.sequenceNumber));
+    }
+    if (!event.entryId.isEmpty())
+        object.insert(QStringLiteral("entryId"), QString::fromLatin1(event.entryId.toHex()));
+    if (!event.timeOfEntry.isEmpty()) {
+        object.insert(QStringLiteral("timeOfEntry"), event.timeOfEntry);
+        head.append(event.timeOfEntry);
+    }
+    if (event.bufferOverflow) {
+        object.insert(QStringLiteral("bufferOverflow"), true);
+        head.append(QStringLiteral("buffer overflow"));
+    }
+    QStringList lines{head.join(QLatin1String("  "))};
+    QJsonArray members;
+    for (const ReportEventMember &member : event.members) {
+        const QJsonObject row = memberRow(device, member);
+        members.append(row);
+        QStringList parts{
+            member.reference, row.value(QStringLiteral("text")).toString(),   member.quality,
+            member.timeStamp, row.value(QStringLiteral("reason")).toString(), member.error};
+        parts.removeAll(QString());
+        lines.append(QLatin1String("  ") + parts.join(QLatin1String("  ")));
+    }
+    object.insert(QStringLiteral("members"), members);
+    session.output().streamed(lines.join(QLatin1Char('\n')), object);
+}
+
+/// Shows every report of the block until the limit or the operator ends it.
+void streamEvents(Session &session, const PhysicalDevice &device,
+                  const Commands::ReportRequest &request)
+{
+    QElapsedTimer running;
+    running.start();
+    int shown = 0;
+    while (!Session::interrupted()) {
+        int wait = streamWaitMs;
+        if (request.limit.seconds > 0) {
+            const qint64 left = qint64(request.limit.seconds) * 1000 - running.elapsed();
+            if (left <= 0)
+                return;
+            wait = static_cast<int>(std::min<qint64>(left, wait));
+        }
+        for (const ReportEvent &event : session.events()->receive(wait)) {
+            showEvent(session, device, event);
+            if (event.missing.isEmpty() && request.limit.count > 0 &&
+                ++shown >= request.limit.count)
+                return;
+        }
+    }
 }
 
 } // namespace
@@ -212,6 +311,8 @@ ExitStatus enableReport(Session &session, const ReportRequest &request)
     block->bufTm = request.bufferTime.value_or(block->bufTm);
 
     session.listen();
+    if (session.events())
+        session.events()->listen();
     const OperationResult result =
         session.controller().enableReportBlock(session.deviceNo(), place->device, place->reference,
                                                block->rptId, QString(), *block, error);
@@ -222,7 +323,10 @@ ExitStatus enableReport(Session &session, const ReportRequest &request)
         if (status != ExitStatus::Done)
             return status;
     }
-    streamValues(session, *device, {}, Session::Origin::Wanted, request.limit);
+    if (session.events())
+        streamEvents(session, *device, request);
+    else
+        streamValues(session, *device, {}, Session::Origin::Wanted, request.limit);
     return disableReport(session, request.block);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "eventreceiver.h"
 #include "exitstatus.h"
 #include "output.h"
 #include "valuereceiver.h"
@@ -41,6 +42,10 @@ public:
     /// The status of the last failed().
     ExitStatus lastFailure() const { return m_lastFailure; }
 
+    /// Where the driver's report events go; null when nobody takes them.
+    void setEvents(std::shared_ptr<EventReceiver> events) { m_events = std::move(events); }
+    EventReceiver *events() const { return m_events.get(); }
+
     /// Starts to listen; values that come from now on are kept for receive().
     void listen();
     enum class Origin {
@@ -68,6 +73,7 @@ private:
     Output &m_output;
     std::unique_ptr<PhysicalDevice> m_model;
     std::unique_ptr<ValueReceiver> m_receiver;
+    std::shared_ptr<EventReceiver> m_events;
     QHash<QString, ControlBlock> m_selections;
     ExitStatus m_lastFailure = ExitStatus::Done;
 };
