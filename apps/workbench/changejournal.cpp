@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "changejournal.h"
 
+#include "plaintip.h"
+
 #include "driver/csvfield.h"
 
 #include <QtCore/QDir>
@@ -144,6 +146,8 @@ QVariant ChangeJournal::data(const QModelIndex &index, int role) const
     const DeviceChange &change = m_changes[static_cast<std::size_t>(index.row())];
     if (role == Qt::ForegroundRole && index.column() == ResultColumn && !change.error.isEmpty())
         return QBrush(Qt::red);
+    if (role == Qt::ToolTipRole && index.column() != TimeColumn)
+        return plainTip(data(index, Qt::DisplayRole).toString());
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
         return {};
     switch (index.column()) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "devicelistmodel.h"
 
+#include "plaintip.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QLocale>
@@ -22,7 +24,9 @@ bool isSameToTheOperator(const DeviceStatus &left, const DeviceStatus &right)
            left.vendor == right.vendor && left.model == right.model &&
            left.revision == right.revision && left.roundTrip == right.roundTrip &&
            left.modelStepsDone == right.modelStepsDone && left.modelSteps == right.modelSteps &&
-           left.refusedObjects == right.refusedObjects &&
+           left.refusedObjects == right.refusedObjects && left.lostSince == right.lostSince &&
+           left.staleValues == right.staleValues && left.staleSince == right.staleSince &&
+           left.refusedValues == right.refusedValues &&
            left.counters.sentPdus == right.counters.sentPdus &&
            left.counters.receivedPdus == right.counters.receivedPdus &&
            left.counters.reports == right.counters.reports &&
@@ -33,6 +37,11 @@ bool isSameToTheOperator(const DeviceStatus &left, const DeviceStatus &right)
 QString count(std::uint64_t number)
 {
     return QLocale().toString(static_cast<qulonglong>(number));
+}
+
+QString shortTime(const QDateTime &time)
+{
+    return QLocale().toString(time, QLocale::ShortFormat);
 }
 
 bool isNumberColumn(int column)
@@ -182,8 +191,11 @@ QString DeviceListModel::stateText(const Device &device)
                                            .arg(100 * status.modelStepsDone / status.modelSteps)
                                      : tr("Reading the model…");
     case DeviceState::Online:
-        return status.reason.isEmpty() ? tr("Connected")
-                                       : tr("Connected: %1").arg(status.reason);
+        if (status.reason.isEmpty() && status.staleValues > 0) {
+            return tr("Connected, values not current: %1")
+                .arg(count(static_cast<std::uint64_t>(status.staleValues)));
+        }
+        return status.reason.isEmpty() ? tr("Connected") : tr("Connected: %1").arg(status.reason);
     case DeviceState::Waiting:
         return tr("Trying again: %1").arg(status.reason);
     }
@@ -233,7 +245,18 @@ QString DeviceListModel::toolTip(const Device &device, int column) const
         if (!device.content.isEmpty())
             lines << device.content;
         if (isReached && status.since.isValid())
-            lines << tr("Since %1").arg(QLocale().toString(status.since, QLocale::ShortFormat));
+            lines << tr("Since %1").arg(shortTime(status.since));
+        if (isReached && status.lostSince.isValid())
+            lines << tr("Away since %1").arg(shortTime(status.lostSince));
+        if (isReached && status.staleValues > 0) {
+            lines << tr("Values that are not current: %1, the oldest of %2")
+                         .arg(count(static_cast<std::uint64_t>(status.staleValues)),
+                              shortTime(status.staleSince));
+        }
+        if (isReached && status.refusedValues > 0) {
+            lines << tr("Values that the device denies: %1")
+                         .arg(count(static_cast<std::uint64_t>(status.refusedValues)));
+        }
         if (isReached && status.refusedObjects > 0)
             lines << tr("Objects that the device did not describe: %1").arg(status.refusedObjects);
         return lines.join(QLatin1Char('\n'));
@@ -257,6 +280,20 @@ QString DeviceListModel::toolTip(const Device &device, int column) const
     default:
         return {};
     }
+}
+
+DeviceListModel::Away DeviceListModel::away() const
+{
+    Away away;
+    for (const Device &device : m_devices) {
+        const QDateTime &since = device.status.lostSince;
+        if (!device.isWanted() || !since.isValid())
+            continue;
+        away.names << device.record.name();
+        if (!away.since.isValid() || since < away.since)
+            away.since = since;
+    }
+    return away;
 }
 
 QVariant DeviceListModel::data(const QModelIndex &index, int role) const
@@ -285,7 +322,7 @@ QVariant DeviceListModel::data(const QModelIndex &index, int role) const
     if (role == Qt::ForegroundRole && index.column() == StateColumn && isInTrouble)
         return QBrush(Qt::red);
     if (role == Qt::ToolTipRole)
-        return toolTip(device, index.column());
+        return plainTip(toolTip(device, index.column()));
     if (role != Qt::DisplayRole)
         return {};
 

@@ -75,6 +75,15 @@ public:
     const Device *device(int number) const;
     const Device *deviceAt(int row) const;
 
+    /// The devices to which an association is striven for, and since when the first of them has
+    /// been away; nothing when all are there.
+    struct Away
+    {
+        QStringList names;
+        QDateTime since; ///< local time
+    };
+    Away away() const;
+
     /// Row of the device, -1 when there is none.
     int rowOf(int number) const;
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "findingsmodel.h"
 
+#include "plaintip.h"
+
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QStyle>
 
@@ -74,7 +76,7 @@ QVariant FindingsModel::data(const QModelIndex &index, int role) const
         return int(Qt::AlignRight | Qt::AlignVCenter);
     if (role == Qt::ToolTipRole &&
         (index.column() == ElementColumn || index.column() == TextColumn)) {
-        return data(index, Qt::DisplayRole);
+        return plainTip(data(index, Qt::DisplayRole).toString());
     }
     if (role == SortRole && index.column() == SeverityColumn)
         return -int(finding.severity);

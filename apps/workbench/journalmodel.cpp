@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "journalmodel.h"
 
+#include "plaintip.h"
+
 #include <QtCore/QLocale>
 #include <QtGui/QBrush>
 
@@ -117,7 +119,7 @@ QVariant JournalModel::data(const QModelIndex &index, int role) const
         return text(call, index.column());
     case Qt::ToolTipRole:
         if (index.column() == ArgumentsColumn || index.column() == ResultColumn)
-            return text(call, index.column());
+            return plainTip(text(call, index.column()));
         if (index.column() == TimeColumn)
             return call.started.toString(Qt::ISODateWithMs);
         return {};

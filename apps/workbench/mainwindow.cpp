@@ -5,6 +5,7 @@
 #include "devicedialog.h"
 #include "guideviewer.h"
 #include "iedchooser.h"
+#include "plaintip.h"
 #include "tracedialog.h"
 #include "ui_mainwindow.h"
 #include "workbench.h"
@@ -310,7 +311,18 @@ void MainWindow::setUpStatusBar()
     statusBar()->addPermanentWidget(m_readOnly);
     showReadOnly();
 
+    m_away = new QLabel(this);
+    m_away->setObjectName(QStringLiteral("awayMark"));
+    m_away->setTextFormat(Qt::PlainText);
+    m_away->setStyleSheet(QStringLiteral("background: #b00020; color: white; padding: 1px 8px"));
+    statusBar()->addPermanentWidget(m_away);
+    showAway();
+    for (const auto changed : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
+        connect(&m_workbench.devices(), changed, this, &MainWindow::showAway);
+    connect(&m_workbench.devices(), &QAbstractItemModel::dataChanged, this, &MainWindow::showAway);
+
     m_progressText = new QLabel(this);
+    m_progressText->setTextFormat(Qt::PlainText);
     m_progress = new QProgressBar(this);
     m_progress->setObjectName(QStringLiteral("loadingProgress"));
     m_progress->setRange(0, progressRange);
@@ -375,6 +387,18 @@ void MainWindow::showReadOnly()
 {
     m_ui->actionReadOnly->setChecked(m_workbench.isReadOnly());
     m_readOnly->setVisible(m_workbench.isReadOnly());
+}
+
+void MainWindow::showAway()
+{
+    const DeviceListModel::Away away = m_workbench.devices().away();
+    m_away->setVisible(!away.names.isEmpty());
+    const QString since = QLocale().toString(away.since, QLocale::ShortFormat);
+    m_away->setText(away.names.size() == 1
+                        ? tr("%1 is away since %2").arg(away.names.first(), since)
+                        : tr("Devices away: %1, the first since %2")
+                              .arg(QString::number(away.names.size()), since));
+    m_away->setToolTip(plainTip(away.names.join(QLatin1Char('\n'))));
 }
 
 void MainWindow::loadExtension()
@@ -680,7 +704,7 @@ void MainWindow::writeFile(const QString &title, const QString &name, const QStr
             const bool isOpen = file.open(QIODevice::WriteOnly);
             if (isOpen)
                 *problem = write(file);
-            if (problem->isEmpty() && (!isOpen || !file.commit())) {
+            if (problem->isEmpty() && (!isOpen || !file.flush() || !file.commit())) {
                 *problem = tr("\"%1\" cannot be written: %2")
                                .arg(QDir::toNativeSeparators(path), file.errorString());
             }

@@ -72,6 +72,7 @@ private:
     void askForIeds(const QString &file, const QVector<IedSummary> &ieds, bool simulated);
     void showProgress();
     void showReadOnly();
+    void showAway();
     void showNextQuestion();
     void showFailures(const QStringList &sentences);
     void addDevice();
@@ -100,6 +101,7 @@ private:
     QProgressBar *m_progress = nullptr;
     QToolButton *m_cancel = nullptr;
     QLabel *m_readOnly = nullptr;
+    QLabel *m_away = nullptr;
     bool m_loadIsSlow = false;
 
     struct Question

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "tracemodel.h"
 
+#include "plaintip.h"
+
 #include <algorithm>
 
 TraceModel::TraceModel(const IedDriver &driver, int deviceNo, int capacity, QObject *parent)
@@ -61,7 +63,7 @@ QVariant TraceModel::data(const QModelIndex &index, int role) const
         return {};
     const PduCapture::Line &line = m_lines[static_cast<std::size_t>(index.row())];
     if (role == Qt::ToolTipRole && index.column() == TextColumn)
-        return line.text;
+        return plainTip(line.text);
     if (role != Qt::DisplayRole)
         return {};
     switch (index.column()) {

@@ -11,8 +11,8 @@
 #include <remoteclient/driverconsolinterface.h>
 
 #include <QtCore/QDir>
-#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
+#include <QtCore/QSaveFile>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QMessageBox>
@@ -24,6 +24,19 @@ constexpr int nameColumnWidth = 200;
 constexpr int timeColumnWidth = 160;
 
 const QString filePattern = QStringLiteral("*.*");
+
+/// A device's file name as a name of this system. What a device says must not choose a folder.
+QString localFileName(QString name)
+{
+    for (QChar &c : name) {
+        const bool isControl = c.category() == QChar::Other_Control;
+        if (c == QLatin1Char('/') || c == QDir::separator() || isControl)
+            c = QLatin1Char('_');
+    }
+    const bool isFolder =
+        name.isEmpty() || name == QLatin1String(".") || name == QLatin1String("..");
+    return isFolder ? QStringLiteral("_") : name;
+}
 
 } // namespace
 
@@ -114,8 +127,8 @@ void FileServiceDialog::download()
     const std::optional<MMSFileEntry> entry = selectedEntry();
     if (!entry)
         return;
-    const QString localName =
-        askLocalFile(QCoreApplication::applicationDirPath() + QDir::separator() + entry->name);
+    const QString localName = askLocalFile(QCoreApplication::applicationDirPath() +
+                                           QDir::separator() + localFileName(entry->name));
     if (localName.isEmpty())
         return;
 
@@ -128,12 +141,26 @@ void FileServiceDialog::download()
         showFailure(tr("Fail to Read File: %1 error:%2").arg(fileName, error));
         return;
     }
-    QFile local(localName);
-    if (local.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        local.write(content);
-    local.close();
+    // Beside and renamed: a file that is only half written never has the name.
+    QSaveFile local(localName);
+    const bool isOpen = local.open(QIODevice::WriteOnly);
+    const bool isWritten =
+        isOpen && local.write(content) == content.size() && local.flush() && local.commit();
+    const QString problem =
+        isWritten ? QString()
+                  : tr("\"%1\" cannot be written: %2")
+                        .arg(QDir::toNativeSeparators(localName), local.errorString());
+    if (isOpen && !isWritten) {
+        showFailure(problem);
+        return;
+    }
     readDirectory();
-    QMessageBox::information(this, tr("Success"), tr("Download Finished"));
+    QMessageBox box(isWritten ? QMessageBox::Information : QMessageBox::Warning, tr("Success"),
+                    tr("Download Finished"), QMessageBox::Ok, this);
+    box.setTextFormat(Qt::PlainText);
+    // The transfer is done, and yet there is no file.
+    box.setInformativeText(problem);
+    box.exec();
 }
 
 void FileServiceDialog::deleteFile()

@@ -25,6 +25,11 @@
 
 #include <memory>
 
+#ifdef Q_OS_LINUX
+#include <csignal>
+#include <sys/resource.h>
+#endif
+
 namespace {
 
 constexpr int location = 3;
@@ -195,6 +200,10 @@ private slots:
     void failedDownloadIsReportedAndWritesNothing_data();
     void failedDownloadIsReportedAndWritesNothing();
     void localFileThatCannotBeWrittenStillCountsAsDownloaded();
+    void localFileThatCannotBeWrittenIsToldWithTheReason();
+    void localFileThatIsOnlyHalfWrittenKeepsItsOldContent();
+    void nameOfADeviceChoosesNoFolder_data();
+    void nameOfADeviceChoosesNoFolder();
     void downloadAndDeleteWithoutASelectionDoNothing();
 
     void deleteAsksNothingAndListsAgain();
@@ -845,6 +854,90 @@ void tst_FileServiceDialog::localFileThatCannotBeWrittenStillCountsAsDownloaded(
     QCOMPARE(message.text, "Download Finished");
     QCOMPARE(m_store->operations(), QStringList({"getFile", "getFileDirectory"}));
     QVERIFY(!QFile::exists(impossible));
+}
+
+void tst_FileServiceDialog::localFileThatCannotBeWrittenIsToldWithTheReason()
+{
+    open();
+    click("readme.txt");
+    const QString impossible = localPath("no such folder/copy.txt");
+    QString reason;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    ModalDriver driver({answerFileDialog(impossible), [&](QWidget *window) {
+                            auto *const box = qobject_cast<QMessageBox *>(window);
+                            reason = box ? box->informativeText() : QString();
+                            icon = box ? box->icon() : QMessageBox::NoIcon;
+                            window->close();
+                        }});
+    press("download");
+    QVERIFY(driver.finished());
+    QCOMPARE(icon, QMessageBox::Warning);
+    const QString beginning = QString("\"%1\" cannot be written: ").arg(impossible);
+    QVERIFY2(reason.startsWith(beginning), qPrintable(reason));
+    QVERIFY(reason.size() > beginning.size());
+}
+
+void tst_FileServiceDialog::localFileThatIsOnlyHalfWrittenKeepsItsOldContent()
+{
+#ifdef Q_OS_LINUX
+    open();
+    click("readme.txt");
+    // Larger than what this process may write.
+    const QByteArray old("what was there before");
+    QFile file(localPath("copy.txt"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(old);
+    file.close();
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    rlimit little = before;
+    little.rlim_cur = 2;
+    const auto handler = signal(SIGXFSZ, SIG_IGN);
+    ShownMessage message;
+    ModalDriver driver({[&](QWidget *window) {
+                            setrlimit(RLIMIT_FSIZE, &little);
+                            answerFileDialog(localPath("copy.txt"))(window);
+                        },
+                        ModalDriver::pressInMessageBox(QMessageBox::Yes),
+                        ModalDriver::pressInMessageBox(QMessageBox::Ok, &message)});
+    press("download");
+    setrlimit(RLIMIT_FSIZE, &before);
+    signal(SIGXFSZ, handler);
+    QVERIFY(driver.finished());
+    QCOMPARE(message.title, "Fail");
+    QVERIFY2(message.text.contains("cannot be written: "), qPrintable(message.text));
+    QCOMPARE(contentOf(localPath("copy.txt")), old);
+    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList("copy.txt"));
+#else
+    QSKIP("The size of files is limited on Linux only.");
+#endif
+}
+
+void tst_FileServiceDialog::nameOfADeviceChoosesNoFolder_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("proposed");
+    QTest::newRow("folders above") << "../../etc/passwd.txt"
+                                   << ".._.._etc_passwd.txt";
+    QTest::newRow("an absolute path") << "/etc/passwd.txt"
+                                      << "_etc_passwd.txt";
+    QTest::newRow("a line feed") << "a\nb.txt"
+                                 << "a_b.txt";
+}
+
+void tst_FileServiceDialog::nameOfADeviceChoosesNoFolder()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, proposed);
+    m_store->addFile("", name, "content");
+    open();
+    click(name);
+    AskedFile asked;
+    ModalDriver driver({answerFileDialog({}, &asked)});
+    press("download");
+    QVERIFY(driver.finished());
+    QCOMPARE(asked.directory, QCoreApplication::applicationDirPath());
+    QCOMPARE(asked.name, proposed);
 }
 
 void tst_FileServiceDialog::downloadAndDeleteWithoutASelectionDoNothing()

@@ -45,6 +45,8 @@ private slots:
     void aDeviceIsAddedByItsForm();
     void aDeviceIsEditedByItsForm();
     void readOnlyIsVisibleInTheWindow();
+    void devicesThatAreAwayAreCountedInTheStatusStrip();
+    void whatIsConfirmedIsChosenInTheMenu();
     void theTraceGrowsAndPauses();
     void aCaptureIsSavedForProtocolAnalysers();
     void theValuesAreExportedAsATable();
@@ -253,6 +255,47 @@ void tst_DeviceWindow::readOnlyIsVisibleInTheWindow()
     action("actionReadOnly")->trigger();
     QVERIFY(!mark->isVisible());
     QVERIFY(!m_workbench->driver().isReadOnly());
+}
+
+void tst_DeviceWindow::devicesThatAreAwayAreCountedInTheStatusStrip()
+{
+    auto *const mark = m_window->findChild<QLabel *>("awayMark");
+    QVERIFY(mark->isHidden());
+    DeviceListModel &devices = m_workbench->devices();
+    DeviceStatus status;
+    for (int number = 101; number <= 102; ++number) {
+        DeviceRecord record;
+        record.configuration.number = number;
+        record.configuration.name = QString("IED%1").arg(number);
+        record.configuration.host = "192.0.2.1";
+        devices.append(record);
+        devices.setReady(number, {}, {});
+        status.number = number;
+        status.state = DeviceState::Waiting;
+        status.lostSince = QDateTime(QDate(2026, 3, 4), QTime(5, number - 100));
+        devices.setStatus(status);
+        QVERIFY(!mark->isHidden());
+        const QString since =
+            QLocale().toString(QDateTime(QDate(2026, 3, 4), QTime(5, 1)), QLocale::ShortFormat);
+        QCOMPARE(mark->text(), number == 101
+                                   ? QString("IED101 is away since %1").arg(since)
+                                   : QString("Devices away: 2, the first since %1").arg(since));
+    }
+    devices.remove(101);
+    devices.remove(102);
+    QVERIFY(mark->isHidden());
+}
+
+void tst_DeviceWindow::whatIsConfirmedIsChosenInTheMenu()
+{
+    const QList<QAction *> choices = m_window->findChild<QMenu *>("menuConfirm")->actions();
+    QCOMPARE(choices.size(), 3);
+    QVERIFY(choices[0]->isChecked());
+    choices[1]->trigger();
+    QCOMPARE(m_workbench->confirmation().scope(), CallConfirmation::Everything);
+    choices[2]->trigger();
+    QCOMPARE(m_workbench->confirmation().scope(), CallConfirmation::Nothing);
+    QVERIFY(!choices[1]->isChecked());
 }
 
 void tst_DeviceWindow::theTraceGrowsAndPauses()
