@@ -27,8 +27,7 @@ constexpr std::array cases = {
                &Oddities::noCancelOfCommands},
     OddityCase{"cause-after-answer", "Why a control is refused is told after it was refused.",
                &Oddities::causeAfterAnswer},
-    OddityCase{"cause-names-object",
-               "Causes name the object without the service: LD/LN$CO$Data.",
+    OddityCase{"cause-names-object", "Causes name the object without the service: LD/LN$CO$Data.",
                &Oddities::causeNamesObject},
     OddityCase{"cause-names-reference", "Causes name the object as LD/LN.Data.",
                &Oddities::causeNamesReference},
@@ -38,6 +37,16 @@ constexpr std::array cases = {
                &Oddities::causeWithoutNumber},
 
     // Setting groups
+    OddityCase{"delayed-activation",
+               "A setting group that was made active becomes it only half a second later.",
+               &Oddities::delayedActivation},
+    OddityCase{"kept-edit-group",
+               "EditSG keeps its number after CnfEdit until its client writes another one.",
+               &Oddities::keptEditGroup},
+    OddityCase{"write-only-edit", "The settings of the edited group can be written but not read.",
+               &Oddities::writeOnlyEdit},
+    OddityCase{"shared-edit", "Every client may write and confirm what another one is editing.",
+               &Oddities::sharedEdit},
 
     // Files
     OddityCase{"unreadable-files",

@@ -35,6 +35,11 @@ struct Oddities
 
     // Setting groups
 
+    bool delayedActivation = false;
+    bool keptEditGroup = false;
+    bool writeOnlyEdit = false;
+    bool sharedEdit = false;
+
     // Files
 
     bool unreadableFiles = false;

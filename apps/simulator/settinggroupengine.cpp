@@ -7,6 +7,13 @@
 
 namespace sim {
 
+namespace {
+
+/// Of a device that takes its time.
+constexpr std::chrono::milliseconds activationDelay{500};
+
+} // namespace
+
 /// One control block, and the values of the settings that it governs.
 class SettingGroupEngine::Block : public SettingGroupHost
 {
@@ -102,6 +109,8 @@ public:
 
     std::optional<mms::AccessResult> read(Client &, const Part &) override
     {
+        if (m_engine.m_host.oddities.writeOnlyEdit)
+            return mms::AccessResult(mms::DataAccessError::ObjectAccessDenied);
         if (m_block.groups().isEditing())
             return std::nullopt;
         return mms::AccessResult(mms::DataAccessError::TemporarilyUnavailable);
@@ -133,8 +142,7 @@ SettingGroupEngine::SettingGroupEngine(const Host &host, const scl::Ied &ied)
                          [](const scl::LogicalNode &n) { return n.settingControl != nullptr; });
         if (!domain || node == device.nodes.end())
             return;
-        const Part part =
-            m_host.model.find(device.name, std::string(node->name) + "$SP$SGCB");
+        const Part part = m_host.model.find(device.name, std::string(node->name) + "$SP$SGCB");
         if (!part.isValid())
             return;
         const scl::SettingControl &control = *node->settingControl;
@@ -142,6 +150,10 @@ SettingGroupEngine::SettingGroupEngine(const Host &host, const scl::Ied &ied)
         config.count = std::max(control.groupCount, 1U);
         config.active = std::clamp(control.activeGroup, 1U, config.count);
         config.reservation = std::chrono::seconds(control.reservationTime);
+        config.activationDelay =
+            m_host.oddities.delayedActivation ? activationDelay : std::chrono::milliseconds(0);
+        config.keepsEdited = m_host.oddities.keptEditGroup;
+        config.isShared = m_host.oddities.sharedEdit;
         m_blocks.push_back(std::make_unique<Block>(m_host, *domain, config));
         Block &block = *m_blocks.back();
         m_host.access.attach(part, std::make_shared<BlockObject>(*this, block, part));

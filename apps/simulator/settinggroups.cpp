@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "simulator/settinggroups.h"
 
+#include <algorithm>
+
 namespace sim {
 
 using mms::DataAccessError;
@@ -39,22 +41,26 @@ std::optional<DataAccessError> SettingGroups::write(Client &client, std::string_
         const std::uint64_t group = data.toUnsigned().value_or(0);
         if (group == 0 || group > m_config.count)
             return DataAccessError::ObjectValueInvalid;
-        m_active = static_cast<std::uint32_t>(group);
-        m_activatedAt = m_clock.utcTime();
-        m_host.activate(m_active);
+        if (m_config.activationDelay.count() > 0) {
+            m_next = static_cast<std::uint32_t>(group);
+            m_activation = m_clock.steadyNow() + m_config.activationDelay;
+        } else {
+            activate(static_cast<std::uint32_t>(group));
+        }
         return std::nullopt;
     }
     if (attribute == "EditSG")
         return selectEdited(client, data.toUnsigned().value_or(m_config.count + 1ULL));
     if (attribute == "CnfEdit") {
-        if (m_edited == 0 || m_client != &client)
+        if (!mayEdit(client))
             return DataAccessError::TemporarilyUnavailable;
         if (!data.toBoolean().value_or(false))
             return std::nullopt;
         m_host.keep(m_edited);
         if (m_edited == m_active)
             m_host.activate(m_active);
-        release();
+        if (!m_config.keepsEdited)
+            release();
         return std::nullopt;
     }
     return DataAccessError::ObjectAccessDenied;
@@ -79,10 +85,29 @@ std::optional<DataAccessError> SettingGroups::selectEdited(Client &client, std::
 
 std::optional<DataAccessError> SettingGroups::writeSetting(const Client &client)
 {
-    if (m_edited == 0 || m_client != &client)
+    if (!mayEdit(client))
         return DataAccessError::TemporarilyUnavailable;
     touch();
     return std::nullopt;
+}
+
+void SettingGroups::activate(std::uint32_t group)
+{
+    m_active = group;
+    m_activatedAt = m_clock.utcTime();
+    m_host.activate(m_active);
+}
+
+bool SettingGroups::mayEdit(const Client &client) const
+{
+    return m_edited != 0 && (m_client == &client || m_config.isShared);
+}
+
+std::optional<Clock::SteadyTime> SettingGroups::deadline() const
+{
+    if (!m_deadline || !m_activation)
+        return m_deadline ? m_deadline : m_activation;
+    return std::min(*m_deadline, *m_activation);
 }
 
 void SettingGroups::closed(const Client &client)
@@ -106,6 +131,10 @@ void SettingGroups::release()
 
 void SettingGroups::advance()
 {
+    if (m_activation && m_clock.steadyNow() >= *m_activation) {
+        m_activation.reset();
+        activate(m_next);
+    }
     if (m_deadline && m_clock.steadyNow() >= *m_deadline)
         release();
 }

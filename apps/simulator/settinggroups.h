@@ -36,6 +36,12 @@ public:
         std::uint32_t active = 1;
         /// Until an edit without activity is given up; zero for never.
         std::chrono::seconds reservation{0};
+        /// From a choice of the active group to its effect.
+        std::chrono::milliseconds activationDelay{0};
+        /// The group stays the edited one of its client when it was confirmed.
+        bool keepsEdited = false;
+        /// Every client may go on with an edit.
+        bool isShared = false;
     };
 
     SettingGroups(Config config, SettingGroupHost &host, const Clock &clock);
@@ -51,11 +57,14 @@ public:
     bool isEditing() const { return m_edited != 0; }
     void closed(const Client &client);
 
-    std::optional<Clock::SteadyTime> deadline() const { return m_deadline; }
+    /// When advance() has something to do.
+    std::optional<Clock::SteadyTime> deadline() const;
     void advance();
 
 private:
     std::optional<mms::DataAccessError> selectEdited(Client &client, std::uint64_t group);
+    void activate(std::uint32_t group);
+    bool mayEdit(const Client &client) const;
     void touch();
     void release();
 
@@ -66,7 +75,9 @@ private:
     std::uint32_t m_edited = 0;
     const Client *m_client = nullptr;
     mms::UtcTime m_activatedAt;
-    std::optional<Clock::SteadyTime> m_deadline;
+    std::optional<Clock::SteadyTime> m_deadline; ///< of the reservation
+    std::uint32_t m_next = 0;                    ///< becomes active at m_activation
+    std::optional<Clock::SteadyTime> m_activation;
 };
 
 } // namespace sim

@@ -71,6 +71,7 @@ private slots:
     void aDelayedActivationIsWaitedFor();
     void anActivationThatNeverComesIsTold();
     void anActivationWithoutAnswerIsReadBack();
+    void devicesThatAreOddOnRequestAreDealtWith();
     void aSettingWithoutAnswerIsReadBack();
     void aConfirmationWithoutAnswerIsUnknown();
     void whatWasWrittenBeforeALossIsJournalled();
@@ -81,7 +82,7 @@ private slots:
 private:
     void start(const std::string &faults = {},
                std::chrono::milliseconds pollInterval = std::chrono::milliseconds(0),
-               sim::Device::RequestFilter filter = {});
+               sim::Device::RequestFilter filter = {}, sim::DeviceOptions options = {});
     QList<SGCBValue> values(const char *fc);
     int edited();
     QStringList sentWrites(const IedDriver &driver) const;
@@ -105,10 +106,11 @@ void tst_OddSettingGroups::cleanup()
 }
 
 void tst_OddSettingGroups::start(const std::string &faults, std::chrono::milliseconds pollInterval,
-                                 sim::Device::RequestFilter filter)
+                                 sim::Device::RequestFilter filter, sim::DeviceOptions options)
 {
     cleanup();
-    m_ied = std::make_unique<SimulatedIed>(QStringLiteral(STATION_FILE), QString(), faults);
+    m_ied = std::make_unique<SimulatedIed>(QStringLiteral(STATION_FILE), QString(), faults,
+                                           std::move(options));
     if (filter) {
         m_ied->stop();
         m_ied->setRequestFilter(std::move(filter));
@@ -422,6 +424,32 @@ void tst_OddSettingGroups::anActivationWithoutAnswerIsReadBack()
     QVERIFY2(m_error.startsWith("ActSG of BAY1E1PROT/LLN0.SGCB cannot be written: ") &&
                  m_error.endsWith(" Group 1 is the active one."),
              qPrintable(m_error));
+}
+
+void tst_OddSettingGroups::devicesThatAreOddOnRequestAreDealtWith()
+{
+    sim::DeviceOptions options;
+    options.oddities.delayedActivation = true;
+    options.oddities.keptEditGroup = true;
+    options.oddities.writeOnlyEdit = true;
+    options.oddities.sharedEdit = true;
+    start({}, std::chrono::milliseconds(0), {}, options);
+    Listener otherListener;
+    IedDriver other(otherListener.options());
+    other.setDevice(configurationFor(*m_ied));
+    other.connectDevice(1);
+    QVERIFY(otherListener.waitForState(1, DeviceState::Online));
+    QCOMPARE(m_driver->selectEditSG(1, protection, 2, m_error), OperationSucceeded);
+    // The device would take it.
+    QCOMPARE(other.setSGCBValues(1, protection, {{delay.arg("SE"), 3}}, m_error), OperationFailed);
+    QCOMPARE(m_error, QString("Another client is editing group 2 of BAY1E1PROT."));
+    QVERIFY2(m_driver->setSGCBValues(1, protection, {{delay.arg("SE"), 77}}, m_error) ==
+                 OperationSucceeded,
+             qPrintable(m_error));
+    QCOMPARE(edited(), 0);
+    QVERIFY2(m_driver->selectActiveSG(1, protection, 2, m_error) == OperationSucceeded,
+             qPrintable(m_error));
+    QCOMPARE(valueOf(values("SG"), delay.arg("SG")).toInt(), 77);
 }
 
 void tst_OddSettingGroups::aSettingWithoutAnswerIsReadBack()

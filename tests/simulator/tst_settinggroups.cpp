@@ -156,3 +156,46 @@ TEST_F(SettingGroupsTest, WhatTheDeviceSetsCannotBeWritten)
     EXPECT_EQ(m_groups.write(m_client, "LActTm", Data::utcTime({})), denied);
     EXPECT_EQ(m_groups.write(m_client, "ResvTms", Data::unsignedInteger(1)), denied);
 }
+
+TEST_F(SettingGroupsTest, AnActivationMayTakeItsTime)
+{
+    sim::SettingGroups::Config config{4, 2, 60s};
+    config.activationDelay = 500ms;
+    sim::SettingGroups groups(config, m_store, m_clock);
+    EXPECT_EQ(groups.write(m_client, "ActSG", Data::unsignedInteger(3)), std::nullopt);
+    EXPECT_EQ(m_store.take(), "");
+    EXPECT_EQ(groups.value("ActSG"), Data::unsignedInteger(2));
+    EXPECT_EQ(groups.deadline(), m_clock.steadyNow() + 500ms);
+    m_clock.advance(499ms);
+    groups.advance();
+    EXPECT_EQ(groups.value("ActSG"), Data::unsignedInteger(2));
+    m_clock.advance(1ms);
+    groups.advance();
+    EXPECT_EQ(m_store.take(), "activate3");
+    EXPECT_EQ(groups.value("ActSG"), Data::unsignedInteger(3));
+    EXPECT_FALSE(groups.deadline().has_value());
+}
+
+TEST_F(SettingGroupsTest, AConfirmedGroupMayStayTheEditedOne)
+{
+    sim::SettingGroups::Config config{4, 2, 60s};
+    config.keepsEdited = true;
+    sim::SettingGroups groups(config, m_store, m_clock);
+    EXPECT_EQ(groups.write(m_client, "EditSG", Data::unsignedInteger(3)), std::nullopt);
+    EXPECT_EQ(groups.write(m_client, "CnfEdit", Data::boolean(true)), std::nullopt);
+    EXPECT_EQ(groups.value("EditSG"), Data::unsignedInteger(3));
+    EXPECT_EQ(groups.write(m_other, "EditSG", Data::unsignedInteger(1)), busy);
+    EXPECT_EQ(groups.write(m_client, "EditSG", Data::unsignedInteger(0)), std::nullopt);
+    EXPECT_EQ(groups.value("EditSG"), Data::unsignedInteger(0));
+}
+
+TEST_F(SettingGroupsTest, AnEditMayBeEverybodys)
+{
+    sim::SettingGroups::Config config{4, 2, 60s};
+    config.isShared = true;
+    sim::SettingGroups groups(config, m_store, m_clock);
+    EXPECT_EQ(groups.writeSetting(m_other), busy);
+    EXPECT_EQ(groups.write(m_client, "EditSG", Data::unsignedInteger(3)), std::nullopt);
+    EXPECT_EQ(groups.writeSetting(m_other), std::nullopt);
+    EXPECT_EQ(groups.write(m_other, "CnfEdit", Data::boolean(true)), std::nullopt);
+}
