@@ -522,6 +522,11 @@ asio::awaitable<ControlResult> ControlObject::cancel(ControlRequest request)
         co_return ControlResult{false, name() + ": a command of it cannot be cancelled.", {}};
     request.synchrocheck = false;
     request.interlockCheck = false;
+    // What it has no place for keeps nobody from stopping a command.
+    if (!componentOf(m_cancelType, "Test"))
+        request.test = false;
+    if (!componentOf(m_cancelType, "operTm"))
+        request.operateTime.reset();
     const CallPointer call = begin("Cancel", request.ctlNum);
     const Leaving leaving(*this, call);
     co_await write(call, m_cancelType, request);

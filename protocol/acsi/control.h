@@ -185,7 +185,7 @@ public:
     asio::awaitable<ControlResult>
     operate(ControlRequest request,
             std::chrono::milliseconds terminationTimeout = std::chrono::seconds(30));
-    /// Checks belong to no Cancel; they are left out.
+    /// Checks belong to no Cancel; they are left out, as is what the device has no place for.
     asio::awaitable<ControlResult> cancel(ControlRequest request);
 
     /// Hears what the device says of a command after operate() has ended, or was given up, without

@@ -486,6 +486,17 @@ TEST_F(ControlTest, CancelWritesTheCommandWithoutChecks)
     EXPECT_EQ(writes[0].values[0], *controlValue(commandType(false), request()));
 }
 
+TEST_F(ControlTest, WhatACancelHasNoPlaceForKeepsNobodyFromCancelling)
+{
+    open(ControlModel::SelectNormal);
+    ControlRequest given = request();
+    given.interlockCheck = true;
+    given.operateTime = mms::UtcTime{1700000000, 0, 0};
+    EXPECT_TRUE(run(control->cancel(given)).ok);
+    EXPECT_EQ(device->requestsOf<mms::WriteRequest>().back().values[0],
+              *controlValue(commandType(false), request()));
+}
+
 TEST_F(ControlTest, ACommandCanBeCancelledWhileItIsExecuted)
 {
     open(ControlModel::DirectEnhanced);

@@ -359,7 +359,7 @@ TEST_F(EnginesTest, InterlockingAndSynchrocheckAreThoseOfTheBay)
     close.interlockCheck = true;
     close.synchrocheck = true;
     EXPECT_EQ(control("CSWI1$CO$Pos", "SBOw", close), "+");
-    EXPECT_EQ(control("CSWI1$CO$Pos", "Cancel", close), "+");
+    EXPECT_EQ(control("CSWI1$CO$Pos", "Cancel", request(on())), "+");
     set("RSYN1$ST$Rel$stVal", off());
     EXPECT_EQ(control("CSWI1$CO$Pos", "SBOw", close), "11");
     set("CILO1$ST$EnaCls$stVal", off());
