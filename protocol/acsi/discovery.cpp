@@ -69,17 +69,20 @@ const mms::TypeDescription *stepBelow(const mms::TypeDescription &type, std::str
 asio::awaitable<mms::Result<ServerDescription>> discover(std::shared_ptr<Client> client,
                                                          DiscoveryOptions options)
 {
-    DiscoveryPlan plan(windowOf(*client, options));
+    DiscoveryPlan plan(windowOf(*client, options), options.limits, options.identity);
     CallGroup group(client);
+    const auto end = std::chrono::steady_clock::now() + options.limits.time;
     const std::uint64_t strays = strayAnswers(*client);
-    const std::optional<std::chrono::milliseconds> patience =
-        options.cancelled ? std::optional(cancellationPeriod) : std::nullopt;
+    const std::chrono::milliseconds patience =
+        options.cancelled ? cancellationPeriod : client->options().callTimeout;
     bool overdue = false;
     while (!plan.finished()) {
         const auto cancellation = co_await asio::this_coro::cancellation_state;
         if (cancellation.cancelled() != asio::cancellation_type::none
             || (options.cancelled && *options.cancelled))
             co_return mms::Error{"The discovery was cancelled.", 0};
+        if (std::chrono::steady_clock::now() >= end)
+            plan.timeIsOver();
         while (auto request = plan.next()) {
             auto timeout = client->options().callTimeout;
             // Calls without an answer keep their places until their grace is over.

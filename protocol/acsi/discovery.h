@@ -5,8 +5,11 @@
 #include "mms/typedescription.h"
 
 #include <atomic>
+#include <chrono>
+#include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,6 +21,8 @@ struct DataSetDescription
     mms::ObjectName name;
     bool deletable = false;
     std::vector<mms::VariableAccess> members;
+
+    friend bool operator==(const DataSetDescription &, const DataSetDescription &) = default;
 };
 
 struct NodeDescription
@@ -40,6 +45,8 @@ struct DeviceDescription
     std::vector<NodeDescription> nodes;
     std::vector<DataSetDescription> dataSets;
     std::vector<std::string> journals;
+
+    friend bool operator==(const DeviceDescription &, const DeviceDescription &) = default;
 };
 
 /// A server as it describes itself.
@@ -50,10 +57,31 @@ struct ServerDescription
     std::vector<DataSetDescription> associationDataSets;
     /// What the server refused, one sentence each with the name of the object.
     std::vector<std::string> refused;
+    /// What was left out because it is beyond the limits, one sentence each.
+    std::vector<std::string> leftOut;
+
+    friend bool operator==(const ServerDescription &, const ServerDescription &) = default;
+};
+
+/// What is taken of a server. Every real device is far below; the limits keep a hostile or broken
+/// one from using up memory or time. What is beyond them is left out.
+struct DiscoveryLimits
+{
+    std::size_t devices = 1000;
+    std::size_t nodes = 100'000; ///< logical nodes of all logical devices
+    std::size_t names = 2'000'000;
+    std::size_t octets = std::size_t{256} * 1024 * 1024; ///< of all names, in lists and types
+    std::size_t depth = 30;           ///< structures and arrays inside each other
+    std::uint64_t elements = 100'000; ///< values in one array
+    std::uint64_t values = 8'000'000; ///< of all types, elements of arrays one by one
+    std::chrono::seconds time{1800};
 };
 
 struct DiscoveryOptions
 {
+    DiscoveryLimits limits;
+    /// Who the server is, where that is known; it is not asked then.
+    std::optional<mms::IdentifyResponse> identity;
     /// Requests on the way at a time; 0 means as many as were negotiated.
     int outstanding = 0;
     /// Steps that are done and known so far; the total grows until all names are known.
@@ -65,7 +93,8 @@ struct DiscoveryOptions
 /// Asks a server for everything it has: the domains side by side, types by whole logical node, by
 /// functional constraint or data object where that is too large for a PDU. A peer whose answers
 /// get confused (rejects, missing answers) is asked again one call at a time. Objects that are
-/// refused are left out and named in ServerDescription::refused. In the client's strand.
+/// refused are left out and named in ServerDescription::refused, what is beyond the limits in
+/// ServerDescription::leftOut. In the client's strand.
 asio::awaitable<mms::Result<ServerDescription>> discover(std::shared_ptr<Client> client,
                                                          DiscoveryOptions options = {});
 

@@ -4,6 +4,7 @@
 #include "acsi/functionalconstraint.h"
 
 #include <algorithm>
+#include <numeric>
 #include <set>
 #include <utility>
 
@@ -19,29 +20,50 @@ using mms::Scope;
 constexpr char separator = '$';
 /// Time-outs in a row, one call at a time, after which a device is taken for dead.
 constexpr std::size_t tolerableSilences = 2;
+/// Counts of values end here; the product of two of them fits 64 bits.
+constexpr std::uint64_t most = 0xFFFFFFFF;
+constexpr const char *excessive = " is larger, or nested deeper, than what is taken; it is left out.";
 
-/// The parts of @p item that @p names know, by the names of components. Logical nodes list
-/// functional constraints in an order of their own, whatever the order of the names.
-std::vector<std::string> partsOf(std::string_view item, const std::vector<std::string> &names)
+/// What the type of a variable holds when all elements of arrays are counted.
+std::uint64_t valuesIn(const mms::TypeDescription &type)
 {
-    std::vector<std::string> parts;
-    std::set<std::string, std::less<>> known;
-    for (const std::string_view name : names) {
-        if (name.size() <= item.size() + 1 || !name.starts_with(item)
-            || name[item.size()] != separator)
-            continue;
-        const std::string_view rest = name.substr(item.size() + 1);
-        const std::string_view part = rest.substr(0, rest.find(separator));
-        if (known.emplace(part).second)
-            parts.emplace_back(part);
+    using Kind = mms::TypeDescription::Kind;
+    if (type.kind != Kind::Structure && type.kind != Kind::Array)
+        return 1;
+    std::uint64_t values = 0;
+    for (const mms::TypeDescription::Component &component : type.components)
+        values = std::min(most, values + valuesIn(component.type));
+    if (type.kind == Kind::Structure)
+        return values;
+    // What is empty costs a place all the same.
+    return std::min(most, std::max<std::uint64_t>(values, 1) * type.elementCount);
+}
+
+std::size_t levelsOf(const mms::TypeDescription &type)
+{
+    std::size_t below = 0;
+    for (const mms::TypeDescription::Component &component : type.components)
+        below = std::max(below, levelsOf(component.type));
+    return below + (type.components.empty() ? 0 : 1);
+}
+
+std::size_t octetsOf(const mms::TypeDescription &type)
+{
+    std::size_t octets = sizeof(mms::TypeDescription);
+    for (const mms::TypeDescription::Component &component : type.components)
+        octets += component.name.size() + octetsOf(component.type);
+    return octets;
+}
+
+/// 1000000 as "1,000,000".
+std::string grouped(std::uint64_t number)
+{
+    std::string text = std::to_string(number);
+    for (std::size_t i = text.size(); i > 3;) {
+        i -= 3;
+        text.insert(i, 1, ',');
     }
-    if (item.find(separator) == std::string_view::npos) {
-        std::ranges::stable_sort(parts, {}, [](const std::string &part) {
-            const auto constraint = functionalConstraintFrom(part);
-            return constraint ? static_cast<int>(*constraint) : 256;
-        });
-    }
-    return parts;
+    return text;
 }
 
 bool isRefusal(const mms::RejectPdu &reject)
@@ -92,14 +114,64 @@ std::string whyNot(std::string text)
 
 } // namespace
 
-DiscoveryPlan::DiscoveryPlan(std::size_t window)
+DiscoveryPlan::DiscoveryPlan(std::size_t window, DiscoveryLimits limits,
+                             std::optional<mms::IdentifyResponse> identity)
     : m_window(std::max<std::size_t>(window, 1))
+    , m_limits(limits)
 {
     addList(ObjectClass::Domain, Scope::Vmd);
     addList(ObjectClass::NamedVariableList, Scope::Association);
-    Step identity;
-    identity.kind = Kind::Identity;
-    add(std::move(identity));
+    if (identity) {
+        m_server.identity = std::move(*identity);
+        return;
+    }
+    Step step;
+    step.kind = Kind::Identity;
+    add(std::move(step));
+}
+
+void DiscoveryPlan::add(Step step)
+{
+    if (!m_stopped)
+        queueOf(step).push_back(std::move(step));
+    else if (step.kind == Kind::Type)
+        m_devices[step.device].refusedParts.push_back(std::move(step));
+}
+
+void DiscoveryPlan::leaveOut(std::string sentence)
+{
+    if (std::ranges::find(m_server.leftOut, sentence) == m_server.leftOut.end())
+        m_server.leftOut.push_back(std::move(sentence));
+}
+
+/// Nothing more is asked; what is on the way is still taken.
+void DiscoveryPlan::stop(std::string sentence)
+{
+    if (std::exchange(m_stopped, true))
+        return;
+    leaveOut(std::move(sentence));
+    const auto giveUp = [this](const Step &step) {
+        if (step.kind == Kind::Type)
+            m_devices[step.device].refusedParts.push_back(step);
+    };
+    std::ranges::for_each(m_first, giveUp);
+    std::ranges::for_each(m_others, giveUp);
+    m_first.clear();
+    m_others.clear();
+    for (Device &device : m_devices) {
+        for (const auto &each : std::exchange(device.tooLarge, {}))
+            giveUp(each.first);
+    }
+}
+
+void DiscoveryPlan::timeIsOver()
+{
+    stop("The device took longer than " + std::to_string(m_limits.time.count() / 60)
+         + " minutes to describe itself; what it had not told by then is left out.");
+    for (const auto &[number, step] : std::exchange(m_asked, {})) {
+        if (step.kind == Kind::Type)
+            m_devices[step.device].refusedParts.push_back(step);
+    }
 }
 
 std::size_t DiscoveryPlan::waiting() const
@@ -196,7 +268,7 @@ void DiscoveryPlan::answered(std::size_t stepId, CallOutcome outcome)
         return;
     }
     const bool isRejected = std::holds_alternative<mms::RejectPdu>(outcome);
-    if (!step.alone && isConfusion(outcome) && !(isRejected && isOptional(step))) {
+    if (!m_stopped && !step.alone && isConfusion(outcome) && !(isRejected && isOptional(step))) {
         m_window = 1;
         queueOf(step).push_front(std::move(step));
         return;
@@ -234,12 +306,14 @@ bool DiscoveryPlan::take(const Step &step, mms::ResponseService &response)
         break;
     case Kind::Names:
         if (auto *page = std::get_if<mms::GetNameListResponse>(&response)) {
-            NamePages &pages = m_lists[step.list].pages;
-            const mms::Result<void> taken = pages.take(std::move(*page));
+            const mms::Result<void> taken = m_lists[step.list].pages.take(std::move(*page));
             takeNames(step);
+            const NamePages &pages = m_lists[step.list].pages;
             if (!taken)
                 refuse(step, whyNot(taken.error().message));
-            else if (pages.complete())
+            else if (pages.complete() || m_stopped
+                     || (m_hasAllDevices
+                         && m_lists[step.list].objectClass == ObjectClass::Domain))
                 namesEnded(step.list);
             else
                 add(step);
@@ -267,7 +341,19 @@ void DiscoveryPlan::takeNames(const Step &step)
     // New lists may be added below.
     const NameList &list = m_lists[step.list];
     for (const std::string &name : list.pages.newNames()) {
+        m_octets += name.size();
+        if (++m_names > m_limits.names || m_octets > m_limits.octets) {
+            stop("The device has more names than the " + grouped(m_limits.names) + " names and "
+                 + grouped(m_limits.octets) + " octets that are taken; the others are left out.");
+            return;
+        }
         if (list.objectClass == ObjectClass::Domain) {
+            if (m_devices.size() >= m_limits.devices) {
+                m_hasAllDevices = true;
+                leaveOut("The device has more than " + grouped(m_limits.devices)
+                         + " logical devices; the others are left out.");
+                return;
+            }
             const std::size_t device = m_server.devices.size();
             m_server.devices.emplace_back().name = name;
             m_devices.emplace_back().variables = m_lists.size();
@@ -296,6 +382,12 @@ void DiscoveryPlan::takeNode(std::size_t device, std::string_view item)
     auto &known = m_devices[device].nodes;
     if (known.contains(item))
         return;
+    if (m_nodes >= m_limits.nodes) {
+        leaveOut("The device has more than " + grouped(m_limits.nodes)
+                 + " logical nodes; the others are left out.");
+        return;
+    }
+    ++m_nodes;
     known.emplace(item, nodes.size());
     Step step;
     step.kind = Kind::Type;
@@ -321,10 +413,60 @@ void DiscoveryPlan::namesEnded(std::size_t list)
 void DiscoveryPlan::takeType(const Step &step, mms::TypeDescription type)
 {
     const bool isNode = step.object.item.find(separator) == std::string::npos;
-    if (isNode && type.kind != mms::TypeDescription::Kind::Structure)
+    if (isNode && type.kind != mms::TypeDescription::Kind::Structure) {
         refuse(step, "It is not a logical node");
-    else if (auto *place = typeOf(step))
-        *place = std::move(type);
+        return;
+    }
+    const auto above = std::ranges::count(step.object.item, separator);
+    const auto depth = static_cast<std::size_t>(above);
+    const bool isExcessive = type.kind == mms::TypeDescription::Kind::Array
+        && (valuesIn(type) > m_limits.elements || depth + levelsOf(type) > m_limits.depth);
+    mms::TypeDescription *const place = typeOf(step);
+    if (isExcessive || !place) {
+        m_devices[step.device].refusedParts.push_back(step);
+        if (isExcessive)
+            leaveOut(mms::toText(step.object) + excessive);
+        return;
+    }
+    withoutExcess(type, step, step.object.item);
+    m_octets += octetsOf(type);
+    m_values += valuesIn(type);
+    if (m_octets > m_limits.octets || m_values > m_limits.values) {
+        m_devices[step.device].refusedParts.push_back(step);
+        stop("The device describes more than the " + grouped(m_limits.values) + " values in "
+             + grouped(m_limits.octets) + " octets that are taken; the rest is left out.");
+        return;
+    }
+    *place = std::move(type);
+}
+
+/// Takes arrays that are too large, and what is nested too deeply, out of a structure. What is left
+/// of that is read part by part, since the device goes on sending the whole.
+void DiscoveryPlan::withoutExcess(mms::TypeDescription &type, const Step &step,
+                                  const std::string &item)
+{
+    if (type.kind != mms::TypeDescription::Kind::Structure)
+        return;
+    auto &inParts = m_server.devices[step.device].nodes[step.node].inParts;
+    const auto depth = static_cast<std::size_t>(std::ranges::count(item, separator));
+    const std::size_t before = type.components.size();
+    const std::size_t marks = inParts.size();
+    std::erase_if(type.components, [&](mms::TypeDescription::Component &component) {
+        const std::string name = item + separator + component.name;
+        const bool isArray = component.type.kind == mms::TypeDescription::Kind::Array;
+        const std::size_t levels = depth + 1 + levelsOf(component.type);
+        const bool isExcessive = isArray
+            ? valuesIn(component.type) > m_limits.elements || levels > m_limits.depth
+            : depth + 1 >= m_limits.depth && !component.type.components.empty();
+        if (isExcessive) {
+            leaveOut(step.object.domain + '/' + name + excessive);
+            return true;
+        }
+        withoutExcess(component.type, step, name);
+        return false;
+    });
+    if (type.components.size() != before || inParts.size() != marks)
+        inParts.push_back(item);
 }
 
 void DiscoveryPlan::takeMembers(const Step &step,
@@ -342,7 +484,7 @@ void DiscoveryPlan::failed(const Step &step, const CallOutcome &outcome)
     const std::string why = whyNot(mms::failureText(outcome));
     if (step.kind == Kind::Type && mayHaveParts(outcome)) {
         Device &device = m_devices[step.device];
-        if (!device.namesKnown) {
+        if (!device.namesKnown && !m_stopped) {
             device.tooLarge.emplace_back(step, why);
             return;
         }
@@ -371,8 +513,10 @@ void DiscoveryPlan::refuse(const Step &step, const std::string &why)
 /// Asks for the parts of a type instead of the whole; false when it has none.
 bool DiscoveryPlan::descend(const Step &step)
 {
-    const auto &names = m_lists[m_devices[step.device].variables].pages.names();
-    const std::vector<std::string> parts = partsOf(step.object.item, names);
+    const auto depth = static_cast<std::size_t>(std::ranges::count(step.object.item, separator));
+    if (m_stopped || depth >= m_limits.depth)
+        return false;
+    const std::vector<std::string> parts = partsOf(m_devices[step.device], step.object.item);
     mms::TypeDescription *type = typeOf(step);
     if (parts.empty() || !type)
         return false;
@@ -386,6 +530,50 @@ bool DiscoveryPlan::descend(const Step &step)
         add(std::move(below));
     }
     return true;
+}
+
+/// The parts of @p item that the names of the device know. In the order in which the device lists
+/// them; functional constraints of a logical node have an order of their own.
+std::vector<std::string> DiscoveryPlan::partsOf(Device &device, const std::string &item) const
+{
+    const auto &names = m_lists[device.variables].pages.names();
+    auto &sorted = device.sorted;
+    if (sorted.empty()) {
+        sorted.resize(names.size());
+        std::iota(sorted.begin(), sorted.end(), 0U);
+        std::ranges::sort(sorted, {}, [&names](std::uint32_t place) -> const std::string & {
+            return names[place];
+        });
+    }
+    const std::string prefix = item + separator;
+    std::vector<std::pair<std::uint32_t, std::string_view>> found;
+    auto place = std::ranges::lower_bound(
+        sorted, prefix, {},
+        [&names](std::uint32_t each) -> const std::string & { return names[each]; });
+    for (; place != sorted.end() && names[*place].starts_with(prefix); ++place) {
+        const std::string_view rest = std::string_view(names[*place]).substr(prefix.size());
+        const std::string_view part = rest.substr(0, rest.find(separator));
+        if (part.empty())
+            continue;
+        if (found.empty() || found.back().second != part)
+            found.emplace_back(*place, part);
+        else
+            found.back().first = std::min(found.back().first, *place);
+    }
+    const bool isNode = item.find(separator) == std::string::npos;
+    std::ranges::sort(found, {}, [isNode](const auto &each) {
+        const auto constraint = functionalConstraintFrom(each.second);
+        return std::pair(isNode ? (constraint ? static_cast<int>(*constraint) : 256) : 0,
+                         each.first);
+    });
+    std::vector<std::string> parts;
+    std::set<std::string_view> known;
+    for (const auto &each : found) {
+        // A name may hold what sorts before the separator, and tear a part's names apart.
+        if (known.insert(each.second).second)
+            parts.emplace_back(each.second);
+    }
+    return parts;
 }
 
 /// The place of a type or of a part of it in the logical node.
@@ -422,10 +610,8 @@ mms::Result<ServerDescription> DiscoveryPlan::take()
 {
     if (m_error)
         return *m_error;
-    for (const Device &device : m_devices) {
-        for (const Step &step : device.refusedParts)
-            removePart(step);
-    }
+    for (Device &device : m_devices)
+        removeParts(std::move(device.refusedParts));
     // Answers come in any order.
     const auto sort = [](std::vector<DataSetDescription> &dataSets) {
         std::ranges::sort(dataSets, {}, [](const DataSetDescription &each) -> const std::string & {
@@ -435,24 +621,40 @@ mms::Result<ServerDescription> DiscoveryPlan::take()
     sort(m_server.associationDataSets);
     for (DeviceDescription &device : m_server.devices) {
         sort(device.dataSets);
-        for (NodeDescription &node : device.nodes)
+        for (NodeDescription &node : device.nodes) {
             std::ranges::sort(node.inParts);
+            const auto repeated = std::ranges::unique(node.inParts);
+            node.inParts.erase(repeated.begin(), repeated.end());
+        }
     }
     return std::move(m_server);
 }
 
-/// Takes the empty place away that a refused part has in its type.
-void DiscoveryPlan::removePart(const Step &step)
+/// Takes the empty places away that refused parts have in their types.
+void DiscoveryPlan::removeParts(std::vector<Step> steps)
 {
-    const std::size_t last = step.object.item.rfind(separator);
-    if (last == std::string::npos)
-        return;
-    Step above = step;
-    above.object.item.resize(last);
-    if (auto *type = typeOf(above)) {
-        std::erase_if(type->components, [&step, last](const auto &component) {
-            return step.object.item.compare(last + 1, std::string::npos, component.name) == 0;
-        });
+    struct Holes
+    {
+        Step above;
+        std::set<std::string, std::less<>> names;
+    };
+    std::map<std::pair<std::size_t, std::string>, Holes> all;
+    for (Step &step : steps) {
+        const std::size_t last = step.object.item.rfind(separator);
+        if (last == std::string::npos)
+            continue;
+        std::string name = step.object.item.substr(last + 1);
+        step.object.item.resize(last);
+        Holes &holes = all[{step.node, step.object.item}];
+        holes.names.insert(std::move(name));
+        holes.above = std::move(step);
+    }
+    for (const auto &[place, holes] : all) {
+        if (auto *type = typeOf(holes.above)) {
+            std::erase_if(type->components, [&names = holes.names](const auto &component) {
+                return names.contains(component.name);
+            });
+        }
     }
 }
 

@@ -5,6 +5,7 @@
 #include "acsi/namepages.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <deque>
 #include <map>
 #include <optional>
@@ -32,11 +33,14 @@ public:
     };
 
     /// @p window is the number of requests on the way at a time.
-    explicit DiscoveryPlan(std::size_t window);
+    explicit DiscoveryPlan(std::size_t window, DiscoveryLimits limits = {},
+                           std::optional<mms::IdentifyResponse> identity = {});
 
     /// The next request; none while the window is full or answers are needed first.
     std::optional<Request> next();
     void answered(std::size_t step, mms::CallOutcome outcome);
+    /// Nothing more is asked; what is known by now is what there is.
+    void timeIsOver();
     /// The peer answered something that nobody had asked.
     void confused() { m_window = 1; }
 
@@ -80,6 +84,8 @@ private:
     {
         std::map<std::string, std::size_t, std::less<>> nodes;
         std::size_t variables = 0; ///< the list of its variables
+        /// Positions in that list, sorted by name; once something had to be taken in parts.
+        std::vector<std::uint32_t> sorted;
         bool namesKnown = false;   ///< or as many as can be had
         /// Types that cannot be had as a whole, with the reason, until the names of their parts
         /// are known.
@@ -91,7 +97,7 @@ private:
     std::size_t waiting() const;
     std::deque<Step> &queueOf(const Step &step);
     bool isOptional(const Step &step) const;
-    void add(Step step) { queueOf(step).push_back(std::move(step)); }
+    void add(Step step);
     void addList(mms::ObjectClass objectClass, mms::Scope scope, std::size_t device = 0);
     mms::RequestService requestOf(const Step &step) const;
 
@@ -100,6 +106,10 @@ private:
     void takeNode(std::size_t device, std::string_view item);
     void namesEnded(std::size_t list);
     void takeType(const Step &step, mms::TypeDescription type);
+    void withoutExcess(mms::TypeDescription &type, const Step &step, const std::string &item);
+    void leaveOut(std::string sentence);
+    void stop(std::string sentence);
+    std::vector<std::string> partsOf(Device &device, const std::string &item) const;
     void takeMembers(const Step &step, mms::GetNamedVariableListAttributesResponse answer);
 
     void silent(const Step &step);
@@ -107,10 +117,17 @@ private:
     void refuse(const Step &step, const std::string &why);
     bool descend(const Step &step);
     mms::TypeDescription *typeOf(const Step &step);
-    void removePart(const Step &step);
+    void removeParts(std::vector<Step> steps);
     std::string nameOf(const Step &step) const;
 
     std::size_t m_window;
+    const DiscoveryLimits m_limits;
+    bool m_stopped = false;       ///< a limit of everything was reached
+    bool m_hasAllDevices = false; ///< that are taken
+    std::size_t m_nodes = 0;
+    std::size_t m_names = 0;
+    std::size_t m_octets = 0;
+    std::uint64_t m_values = 0;
     std::size_t m_lastStep = 0;
     std::size_t m_done = 0;
     std::size_t m_silences = 0;

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <map>
 
 namespace {
 
@@ -50,8 +51,8 @@ void addNames(const std::string &name, const TypeDescription &type, std::vector<
 class PlanDriver
 {
 public:
-    explicit PlanDriver(std::size_t window)
-        : plan(window)
+    explicit PlanDriver(std::size_t window, DiscoveryLimits limits = {})
+        : plan(window, limits)
     {
     }
 
@@ -283,6 +284,161 @@ TEST(DiscoveryPlan, WhatWasDescribedInPartsIsMarked)
     const NodeDescription &whole = server->devices[0].nodes[2];
     EXPECT_TRUE(whole.inParts.empty());
     EXPECT_EQ(partsToldWhole(whole, "XCBR10$ST"), std::vector<std::string>{"XCBR10$ST"});
+}
+
+TEST(DiscoveryPlan, OrderOfPartsIsThatOfTheNamesAndConstraintsHaveTheirOwn)
+{
+    PlanDriver driver(5);
+    driver.instead = [](const auto &request) -> std::optional<CallOutcome> {
+        if (typeItem(request) == "XCBR1")
+            return tooLarge;
+        return std::nullopt;
+    };
+    const auto server = driver.run();
+    ASSERT_TRUE(server.ok());
+    EXPECT_EQ(server->devices[0].nodes[1].type, nodeType());
+    EXPECT_EQ(server->devices[0].nodes[1].inParts, std::vector<std::string>{"XCBR1"});
+}
+
+/// Types other than those of the table, by item.
+auto typesOf(std::map<std::string, TypeDescription> types)
+{
+    return [types = std::move(types)](const mms::RequestService &request)
+               -> std::optional<CallOutcome> {
+        const auto found = types.find(typeItem(request));
+        if (found == types.end())
+            return std::nullopt;
+        mms::GetVariableAccessAttributesResponse response;
+        response.type = found->second;
+        return CallOutcome(ResponseService(std::move(response)));
+    };
+}
+
+TEST(DiscoveryPlan, ArraysOfEnormousCountsAreLeftOutAndTheRestIsReadInParts)
+{
+    const TypeDescription plain = TypeDescription::structure({{"stVal", TypeDescription::boolean()}});
+    const auto withArray = [&plain](const TypeDescription &array) {
+        return TypeDescription::structure(
+            {{"ST", TypeDescription::structure(
+                        {{"Pos", plain},
+                         {"Har", TypeDescription::structure(
+                                     {{"before", TypeDescription::boolean()}, {"har", array}})}})},
+             {"CF", plain}});
+    };
+    const TypeDescription huge = TypeDescription::array(4294967295U, TypeDescription::float32());
+    const TypeDescription inside = TypeDescription::array(
+        1000, TypeDescription::array(1000, TypeDescription::array(1000, plain)));
+    const TypeDescription usual = TypeDescription::array(16, plain);
+    PlanDriver driver(5);
+    driver.devices = {"LD0"};
+    driver.instead = typesOf({{"LLN0", withArray(huge)},
+                              {"XCBR1", withArray(inside)},
+                              {"XCBR10", withArray(usual)}});
+    const auto server = driver.run();
+    ASSERT_TRUE(server.ok());
+    const TypeDescription left = TypeDescription::structure(
+        {{"ST", TypeDescription::structure(
+                    {{"Pos", plain},
+                     {"Har", TypeDescription::structure({{"before", TypeDescription::boolean()}})}})},
+         {"CF", plain}});
+    for (const std::size_t i : {0U, 1U}) {
+        const NodeDescription &node = server->devices[0].nodes[i];
+        EXPECT_EQ(node.type, left) << mms::toText(node.type);
+        EXPECT_EQ(node.inParts, (std::vector<std::string>{node.name, node.name + "$ST",
+                                                          node.name + "$ST$Har"}));
+        EXPECT_EQ(partsToldWhole(node, node.name + "$ST"),
+                  (std::vector<std::string>{node.name + "$ST$Pos",
+                                            node.name + "$ST$Har$before"}));
+    }
+    EXPECT_EQ(server->devices[0].nodes[2].type, withArray(usual));
+    EXPECT_TRUE(server->devices[0].nodes[2].inParts.empty());
+    auto leftOut = server->leftOut;
+    std::ranges::sort(leftOut);
+    EXPECT_EQ(leftOut, (std::vector<std::string>{
+                           "LD0/LLN0$ST$Har$har is larger, or nested deeper, than what is taken; it "
+                           "is left out.",
+                           "LD0/XCBR1$ST$Har$har is larger, or nested deeper, than what is taken; it "
+                           "is left out."}));
+}
+
+TEST(DiscoveryPlan, WhatIsNestedTooDeeplyIsLeftOut)
+{
+    TypeDescription deep = TypeDescription::boolean();
+    for (int i = 0; i < 40; ++i)
+        deep = TypeDescription::structure({{"a", deep}});
+    PlanDriver driver(5);
+    driver.devices = {"LD0"};
+    driver.nodes = {"LLN0"};
+    driver.instead = typesOf({{"LLN0", TypeDescription::structure({{"ST", deep}})}});
+    const auto server = driver.run();
+    ASSERT_TRUE(server.ok());
+    EXPECT_EQ(server->leftOut.size(), 1U);
+    EXPECT_TRUE(partsToldWhole(server->devices[0].nodes[0], "LLN0$ST").empty());
+}
+
+TEST(DiscoveryPlan, LimitsEndTheReadingWithASentence)
+{
+    const auto leftOut = [](DiscoveryLimits limits, auto change) {
+        PlanDriver driver(5, limits);
+        driver.pageSize = 100;
+        change(driver);
+        const auto server = driver.run();
+        EXPECT_TRUE(server.ok());
+        EXPECT_TRUE(driver.plan.finished());
+        EXPECT_LT(driver.requests, 200U);
+        return server ? server->leftOut : std::vector<std::string>();
+    };
+    DiscoveryLimits limits;
+    limits.devices = 3;
+    EXPECT_EQ(leftOut(limits,
+                      [](PlanDriver &driver) {
+                          for (int i = 0; i < 1000; ++i)
+                              driver.devices.push_back("MORE" + std::to_string(i));
+                      }),
+              std::vector<std::string>{
+                  "The device has more than 3 logical devices; the others are left out."});
+    limits = {};
+    limits.nodes = 4;
+    EXPECT_EQ(leftOut(limits, [](PlanDriver &) {}),
+              std::vector<std::string>{
+                  "The device has more than 4 logical nodes; the others are left out."});
+    limits = {};
+    limits.names = 1000;
+    EXPECT_EQ(leftOut(limits,
+                      [](PlanDriver &driver) {
+                          driver.nodes.clear();
+                          for (int i = 0; i < 1000; ++i)
+                              driver.nodes.push_back("GGIO" + std::to_string(i));
+                      }),
+              std::vector<std::string>{"The device has more names than the 1,000 names and "
+                                       "268,435,456 octets that are taken; the others are left out."});
+    limits = {};
+    limits.values = 7;
+    EXPECT_EQ(leftOut(limits, [](PlanDriver &) {}),
+              std::vector<std::string>{"The device describes more than the 7 values in 268,435,456 "
+                                       "octets that are taken; the rest is left out."});
+}
+
+TEST(DiscoveryPlan, WhatWasNotToldInTimeIsLeftOut)
+{
+    DiscoveryPlan plan(5);
+    ASSERT_TRUE(plan.next());
+    plan.timeIsOver();
+    EXPECT_TRUE(plan.finished());
+    const auto server = plan.take();
+    ASSERT_TRUE(server.ok());
+    EXPECT_EQ(server->leftOut,
+              std::vector<std::string>{"The device took longer than 30 minutes to describe itself; "
+                                       "what it had not told by then is left out."});
+}
+
+TEST(DiscoveryPlan, AKnownIdentityIsNotAskedFor)
+{
+    DiscoveryPlan plan(5, {}, mms::IdentifyResponse{"known", {}, {}, {}});
+    while (const auto request = plan.next())
+        EXPECT_FALSE(std::holds_alternative<mms::IdentifyRequest>(request->service));
+    plan.timeIsOver();
+    EXPECT_EQ(plan.take()->identity.vendor, "known");
 }
 
 TEST(DiscoveryPlan, RefusedObjectsAreNamedAndLeftOut)
