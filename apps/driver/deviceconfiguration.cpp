@@ -358,6 +358,7 @@ QJsonObject DeviceConfiguration::toJson() const
         {QStringLiteral("port"), port},
         {QStringLiteral("sclFile"), sclFile},
         {QStringLiteral("ied"), ied},
+        {QStringLiteral("accessPoint"), accessPoint},
         {QStringLiteral("local"), ::toJson(local)},
         {QStringLiteral("remote"), ::toJson(remote)},
         {QStringLiteral("password"), password},
@@ -385,6 +386,7 @@ DeviceConfiguration DeviceConfiguration::fromJson(const QJsonObject &object, QSt
     members.take("port", result.port);
     members.take("sclFile", result.sclFile);
     members.take("ied", result.ied);
+    members.take("accessPoint", result.accessPoint);
     ::fromJson(members.object("local"), result.local, error);
     ::fromJson(members.object("remote"), result.remote, error);
     members.take("password", result.password);

@@ -46,6 +46,7 @@ struct DeviceConfiguration
     int port = 102;
     QString sclFile; ///< path, or empty
     QString ied;     ///< IED of the file; may be empty when the file describes a single one
+    QString accessPoint; ///< of the IED in the file; empty for the one of the address
 
     AssociationAddress local;
     AssociationAddress remote;

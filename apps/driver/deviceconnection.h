@@ -77,7 +77,7 @@ struct ConnectionEnvironment
     std::function<void()> release;
     /// Whether nothing may be changed on devices at present.
     std::function<bool()> isReadOnly;
-    /// Folder of the descriptions that devices gave of themselves; empty for none.
+    /// Folder of what is remembered of devices between starts; empty for none.
     QString cacheFolder;
     std::size_t captureOctets = PduCapture::defaultLimit;
 };
@@ -201,6 +201,8 @@ public:
     /// change shortly after are published again a little later, since a browser that opens with
     /// these bytes does not listen yet.
     QByteArray modelBytes();
+    /// Asks which data sets there are now. Keeps what is known where the device does not tell soon.
+    asio::awaitable<void> refreshDataSets();
 
     QString notConnectedSentence() const;
 
@@ -221,11 +223,9 @@ private:
     asio::awaitable<void> identify(ClientPointer client);
     /// One sentence why the device cannot be used; empty when its model is there.
     asio::awaitable<QString> getReady(ClientPointer client);
-    /// The names that tell whether the device is still the same.
-    asio::awaitable<mms::Result<QByteArray>> fingerprint(ClientPointer client,
-                                                         const std::vector<std::string> &domains);
-    asio::awaitable<mms::Result<acsi::ServerDescription>> describe(ClientPointer client,
-                                                                   const QByteArray &fingerprint);
+    /// Always the whole: a device may have become another under the same revision.
+    asio::awaitable<mms::Result<acsi::ServerDescription>> describe(ClientPointer client);
+    asio::awaitable<void> readRevisions(ClientPointer client);
     asio::awaitable<void> readBlocks(ClientPointer client);
     asio::awaitable<void> poll(ClientPointer client);
     /// Reads and publishes the data under the constraints; a variable that is refused is asked for
@@ -243,7 +243,8 @@ private:
     inReadableParts(const std::vector<acsi::Reference> &references) const;
 
     void connectInStrand();
-    QString loadFile();
+    /// Takes what the file says of the device with these logical devices.
+    QString loadFile(const QStringList &logicalDevices);
     QString problems() const;
     void setState(DeviceState state, const QString &reason = {});
     void updateStatus(const std::function<void(DeviceStatus &)> &change);
@@ -259,10 +260,10 @@ private:
     // In the strand:
     std::shared_ptr<acsi::Client> m_client;
     std::unique_ptr<OnlineModel> m_model;
-    QByteArray m_fingerprint;             ///< of the device when the model was read
     QHash<QString, QString> m_revisions;  ///< configuration revisions by logical device
     std::unique_ptr<PhysicalDevice> m_fromFile;
     bool m_fileRead = false;
+    QStringList m_fileFor; ///< the logical devices that the file was chosen for
     std::map<std::type_index, std::unique_ptr<AssociationPart>> m_parts;
     ReportedData m_reported;
     QMap<QString, QString> m_problems;                   ///< by source
@@ -272,7 +273,6 @@ private:
     std::set<asio::steady_timer *> m_pauses; ///< of the coroutines in pause()
     bool m_wanted = false;
     bool m_living = false;
-    bool m_isModelSettled = false; ///< reading the model again would give nothing more
     bool m_modelReady = false; ///< the model belongs to the present association
     bool m_attempted = false;  ///< an attempt has come to an end since an association was wanted
     bool m_dormant = false;    ///< aborted; the next operation connects

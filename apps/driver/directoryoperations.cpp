@@ -166,6 +166,14 @@ asio::awaitable<Outcome> listSettingGroups(DevicePointer device, Entries entries
         acsi::parseReference(ldName.toStdString(), "LLN0$SP$SGCB");
     if (!reference)
         co_return Outcome::failed(reference.error());
+    // A logical device without setting groups has none to list.
+    if (const OnlineModel *model = device->model()) {
+        acsi::Reference node = *reference;
+        node.constraint.reset();
+        node.path.clear();
+        if (model->type(node) && !model->type(*reference))
+            co_return Outcome();
+    }
     const mms::Result<acsi::SettingGroupBlock> block =
         co_await acsi::readSettingGroupBlock(device->client(), *reference);
     if (!block)
@@ -393,8 +401,7 @@ OperationResult IedDriver::getSGCBBlock(long deviceNo, const QString &ldName,
                      deviceNo, Runtime::Effect::Reads, error,
                      [entries, ldName](DevicePointer device) {
                          return listSettingGroups(std::move(device), entries, ldName);
-                     },
-                     Need::Association),
+                     }),
                  entries, list);
 }
 

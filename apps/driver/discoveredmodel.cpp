@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "discoveredmodel.h"
 
+#include "filecomparison.h"
 #include "standardtypes.h"
 #include "valueconversion.h"
 
@@ -14,14 +15,10 @@
 #include <algorithm>
 #include <limits>
 
+using namespace FileComparison;
 using mms::TypeDescription;
 
 namespace {
-
-constexpr quint8 absent = 0;
-constexpr quint8 agreeing = 1;
-constexpr quint8 additional = 2;
-constexpr quint8 differing = 3;
 
 QString text(std::string_view utf8)
 {
@@ -160,129 +157,6 @@ QString inferredClass(const Parts &parts)
     }
 }
 
-std::unique_ptr<DAO> absentCopy(const DAO &source)
-{
-    auto copy = std::make_unique<DAO>();
-    copy->state = absent;
-    if (source.attribute) {
-        copy->attribute = new DataAttribute(*source.attribute);
-        copy->attribute->present = false;
-        copy->attribute->value = QVariant();
-    } else if (source.subDataObject) {
-        copy->subDataObject = new SubDataObject(*source.subDataObject);
-    }
-    for (const DAO *child : source.children)
-        copy->children.append(absentCopy(*child).release());
-    return copy;
-}
-
-std::unique_ptr<DataObject> absentCopy(const DataObject &source)
-{
-    auto copy = std::make_unique<DataObject>();
-    copy->present = false;
-    copy->name = source.name;
-    copy->type = source.type;
-    for (const DAO *child : source.attributes)
-        copy->attributes.append(absentCopy(*child).release());
-    return copy;
-}
-
-std::unique_ptr<DataSet> absentCopy(const DataSet &source)
-{
-    auto copy = std::make_unique<DataSet>();
-    copy->state = 0;
-    copy->name = source.name;
-    for (const DataSetMember *member : source.members)
-        copy->members.append(new DataSetMember{absent, member->reference});
-    return copy;
-}
-
-std::unique_ptr<LogicalNode> absentCopy(const LogicalNode &source)
-{
-    auto copy = std::make_unique<LogicalNode>();
-    copy->present = false;
-    copy->lnClass = source.lnClass;
-    copy->name = source.name;
-    for (const DataObject *object : source.dataObjects)
-        copy->dataObjects.append(absentCopy(*object).release());
-    for (const DataSet *set : source.dataSetGroup->dataSets)
-        copy->dataSetGroup->dataSets.append(absentCopy(*set).release());
-    for (const ReportControlBlock *block : source.reportControls->blocks) {
-        auto *missing = new ReportControlBlock(*block);
-        missing->state = absent;
-        copy->reportControls->blocks.append(missing);
-    }
-    if (source.settingGroup) {
-        copy->settingGroup = new SettingGroupControl(*source.settingGroup);
-        copy->settingGroup->state = absent;
-    }
-    return copy;
-}
-
-std::unique_ptr<LogicalDevice> absentCopy(const LogicalDevice &source)
-{
-    auto copy = std::make_unique<LogicalDevice>();
-    copy->present = false;
-    copy->name = source.name;
-    for (const LogicalNode *node : source.logicalNodes)
-        copy->logicalNodes.append(absentCopy(*node).release());
-    return copy;
-}
-
-QString nameOf(const DAO &node)
-{
-    return node.name();
-}
-
-template <typename Item>
-QString nameOf(const Item &item)
-{
-    return item.name;
-}
-
-/// Items of the file in their order, each with its name; null without a file.
-template <typename Item>
-class FileItems
-{
-public:
-    FileItems() = default;
-    explicit FileItems(const QList<Item *> *items)
-        : m_items(items)
-    {
-        if (!items)
-            return;
-        for (const Item *item : *items)
-            m_byName.insert(nameOf(*item), item);
-    }
-
-    const Item *find(const QString &name) const { return m_byName.value(name); }
-    bool isGiven() const { return m_items != nullptr; }
-
-    /// The names of the file in its order, then the others.
-    QStringList order(const QStringList &names) const
-    {
-        if (!m_items)
-            return names;
-        QStringList result;
-        QSet<QString> taken;
-        for (const Item *item : *m_items) {
-            const QString name = nameOf(*item);
-            if (!taken.contains(name))
-                result.append(name);
-            taken.insert(name);
-        }
-        for (const QString &name : names) {
-            if (!taken.contains(name))
-                result.append(name);
-        }
-        return result;
-    }
-
-private:
-    const QList<Item *> *m_items = nullptr;
-    QHash<QString, const Item *> m_byName;
-};
-
 class Builder
 {
 public:
@@ -313,14 +187,38 @@ public:
             else
                 device->logicalDevices.append(absentCopy(*fileDevice).release());
         }
-        for (const acsi::DataSetDescription &set : description.associationDataSets) {
-            auto shown = std::make_unique<DataSet>();
-            shown->name = text(set.name.item);
-            fillDataSet(*shown, set, nullptr);
-            device->dataSets.append(shown.release());
-        }
+        addAssociationDataSets(*device, description);
         device->rebuildIndex();
         return device;
+    }
+
+    /// Instead of those that are shown.
+    void replaceDataSets(PhysicalDevice &device, const acsi::ServerDescription &description)
+    {
+        QHash<QString, const LogicalNode *> fileNodes;
+        for (const LogicalDevice *each : m_file ? m_file->logicalDevices : QList<LogicalDevice *>()) {
+            for (const LogicalNode *node : each->logicalNodes)
+                fileNodes.insert(each->name + QLatin1Char('/') + node->name, node);
+        }
+        QHash<QString, QVector<const acsi::DataSetDescription *>> sets;
+        for (const acsi::DeviceDescription &each : description.devices) {
+            for (const acsi::DataSetDescription &set : each.dataSets) {
+                const QString item = text(set.name.item);
+                sets[text(each.name) + QLatin1Char('/') + item.section(QLatin1Char('$'), 0, 0)]
+                    .append(&set);
+            }
+        }
+        for (LogicalDevice *each : qAsConst(device.logicalDevices)) {
+            for (LogicalNode *node : qAsConst(each->logicalNodes)) {
+                const QString name = each->name + QLatin1Char('/') + node->name;
+                qDeleteAll(node->dataSetGroup->dataSets);
+                node->dataSetGroup->dataSets.clear();
+                addDataSets(*node, sets.value(name), fileNodes.value(name));
+            }
+        }
+        qDeleteAll(device.dataSets);
+        device.dataSets.clear();
+        addAssociationDataSets(device, description);
     }
 
 private:
@@ -335,6 +233,17 @@ private:
             return {commonDataClass, path + QStringList(name)};
         }
     };
+
+    static void addAssociationDataSets(PhysicalDevice &device,
+                                       const acsi::ServerDescription &description)
+    {
+        for (const acsi::DataSetDescription &set : description.associationDataSets) {
+            auto shown = std::make_unique<DataSet>();
+            shown->name = text(set.name.item);
+            fillDataSet(*shown, set, nullptr);
+            device.dataSets.append(shown.release());
+        }
+    }
 
     std::unique_ptr<LogicalDevice> logicalDevice(const acsi::DeviceDescription &source,
                                                  const LogicalDevice *file)
@@ -377,6 +286,8 @@ private:
         node->lnClass = file ? file->lnClass : nodeClass(node->name);
         m_lnClass = node->lnClass;
         m_base = deviceName + QLatin1Char('/') + node->name + QLatin1Char('$');
+        m_nodeName = node->name;
+        m_source = &source;
 
         const bool hasActiveSettings = componentOf(source.type, "SG") != nullptr;
         QHash<QString, Parts> data;
@@ -448,15 +359,40 @@ private:
             }
             order.add(names);
         }
+        const QSet<QString> moved = file.isGiven() ? movedMembers(parts, file, path) : QSet<QString>();
         const QStringList names = file.order(order.names());
         for (const QString &name : names) {
             const DAO *fileNode = file.find(name);
             const Parts found = data.value(name);
-            if (found.isEmpty())
+            if (found.isEmpty()) {
                 children.append(absentCopy(*fileNode).release());
-            else
-                addNode(children, name, found, fileNode, file.isGiven(), context, path);
+                continue;
+            }
+            const int before = children.size();
+            addNode(children, name, found, fileNode, file.isGiven(), context, path);
+            for (int i = before; moved.contains(name) && i < children.size(); ++i) {
+                if (children.at(i)->state == agreeing)
+                    children.at(i)->state = differing;
+            }
         }
+    }
+
+    /// The members that stand at other places of their structures than in the file.
+    QSet<QString> movedMembers(const Parts &parts, const FileItems<DAO> &file,
+                               const QString &path) const
+    {
+        QSet<QString> moved;
+        for (const Part &part : parts) {
+            const QString item = m_nodeName + QLatin1Char('$') + part.fc + path;
+            if (part.type->kind != TypeDescription::Kind::Structure ||
+                !acsi::isToldWhole(*m_source, item.toStdString()))
+                continue;
+            QStringList names;
+            for (const TypeDescription::Component &component : part.type->components)
+                names.append(text(component.name));
+            moved += outOfOrder(names, file.order({}));
+        }
+        return moved;
     }
 
     void addNode(QList<DAO *> &children, const QString &name, const Parts &parts, const DAO *file,
@@ -630,32 +566,6 @@ private:
         }
     }
 
-    static void fillDataSet(DataSet &shown, const acsi::DataSetDescription &set,
-                            const DataSet *file)
-    {
-        shown.deletable = set.deletable;
-        QStringList fileMembers;
-        if (file) {
-            for (const DataSetMember *member : file->members)
-                fileMembers.append(member->reference);
-        }
-        QSet<QString> there;
-        for (std::size_t i = 0; i < set.members.size(); ++i) {
-            const mms::Result<acsi::Reference> reference = acsi::referenceOf(set.members[i]);
-            const QString name =
-                text(reference ? acsi::toText(*reference) : mms::toText(set.members[i]));
-            there.insert(name);
-            quint8 state = agreeing;
-            if (file && fileMembers.value(static_cast<int>(i)) != name)
-                state = fileMembers.contains(name) ? differing : additional;
-            shown.members.append(new DataSetMember{state, name});
-        }
-        for (const QString &name : qAsConst(fileMembers)) {
-            if (!there.contains(name))
-                shown.members.append(new DataSetMember{absent, name});
-        }
-    }
-
     void addBlocks(LogicalNode &node, const TypeDescription &type, const LogicalNode *file) const
     {
         QHash<QString, ReportControlBlock> described;
@@ -704,32 +614,10 @@ private:
     const QList<DAO *> m_nothing;
     QString m_lnClass;
     QString m_dataObject;
+    QString m_nodeName;
+    const acsi::NodeDescription *m_source = nullptr; ///< of the node that is being built
     QString m_base; ///< of references: logical device, logical node and "$"
 };
-
-bool isAsConfigured(const ReportControlBlock &block, const ReportControlBlock &file)
-{
-    // Without a configured identifier the device takes the block's reference.
-    const bool sameId = file.rptId.isEmpty() || file.rptId == block.rptId;
-    // Unbuffered blocks have neither overflow nor entries.
-    const bool isBuffered = file.type == QLatin1String("BR");
-    const bool sameEntries = !isBuffered || (block.optBufferOverflow == file.optBufferOverflow &&
-                                             block.optEntryId == file.optEntryId);
-    return sameId && sameEntries && block.dataSet == file.dataSet &&
-           block.confRev == file.confRev && block.integrityPeriod == file.integrityPeriod &&
-           block.bufferTime == file.bufferTime &&
-           block.triggerDataChange == file.triggerDataChange &&
-           block.triggerQualityChange == file.triggerQualityChange &&
-           block.triggerDataUpdate == file.triggerDataUpdate &&
-           block.triggerIntegrity == file.triggerIntegrity &&
-           block.triggerGeneralInterrogation == file.triggerGeneralInterrogation &&
-           block.optSequenceNumber == file.optSequenceNumber &&
-           block.optTimeStamp == file.optTimeStamp &&
-           block.optReasonForInclusion == file.optReasonForInclusion &&
-           block.optDataSetName == file.optDataSetName &&
-           block.optDataReference == file.optDataReference &&
-           block.optConfRevision == file.optConfRevision;
-}
 
 /// The leaf that holds the configuration revision of a logical device; null when it has none.
 DAO *revisionOf(const PhysicalDevice &device, const QString &logicalDevice)
@@ -760,6 +648,13 @@ DiscoveredModel::makeDevice(const acsi::ServerDescription &description, const QS
     return Builder(fromFile).build(description, name);
 }
 
+void DiscoveredModel::setDataSets(PhysicalDevice &device,
+                                  const acsi::ServerDescription &description,
+                                  const PhysicalDevice *fromFile)
+{
+    Builder(fromFile).replaceDataSets(device, description);
+}
+
 QString DiscoveredModel::dataSetName(const QString &text)
 {
     QString name = text.section(QLatin1Char('/'), -1);
@@ -770,7 +665,8 @@ QString DiscoveredModel::dataSetName(const QString &text)
     return name;
 }
 
-void DiscoveredModel::setSettings(ReportControlBlock &block, const acsi::ReportBlock &read,
+void DiscoveredModel::setSettings(ReportControlBlock &block, const QString &logicalDevice,
+                                  const acsi::ReportBlock &read,
                                   const ReportControlBlock *fromFile)
 {
     block.enabled = read.rptEna;
@@ -794,7 +690,7 @@ void DiscoveredModel::setSettings(ReportControlBlock &block, const acsi::ReportB
     block.optConfRevision = read.optFlds.confRevision;
     if (!fromFile)
         return;
-    block.state = isAsConfigured(block, *fromFile) ? agreeing : differing;
+    block.state = isAsConfigured(block, logicalDevice, read.datSet, *fromFile) ? agreeing : differing;
 }
 
 void DiscoveredModel::setRevision(PhysicalDevice &device, const QString &logicalDevice,
@@ -802,9 +698,10 @@ void DiscoveredModel::setRevision(PhysicalDevice &device, const QString &logical
 {
     const QString reference = logicalDevice + QStringLiteral("/LLN0$DC$NamPlt$configRev");
     DAO *node = revisionOf(device, logicalDevice);
-    if (!node || revision.isEmpty())
+    if (!node)
         return;
-    node->attribute->value = revision;
+    if (!revision.isEmpty())
+        node->attribute->value = revision;
     const DataAttribute *configured = fromFile ? fromFile->findTag(reference) : nullptr;
     const QString expected = configured ? configured->value.toString() : QString();
     if (node->state == agreeing && !expected.isEmpty() && expected != revision)

@@ -21,13 +21,17 @@ namespace DiscoveredModel {
 std::unique_ptr<PhysicalDevice> makeDevice(const acsi::ServerDescription &description,
                                            const QString &name, const PhysicalDevice *fromFile);
 
+/// The data sets of the description instead of those that @p device has.
+void setDataSets(PhysicalDevice &device, const acsi::ServerDescription &description,
+                 const PhysicalDevice *fromFile);
+
 /// Enters the settings of a block as read. @p fromFile may be null; a block that differs from it in
 /// any of them gets state 3.
-void setSettings(ReportControlBlock &block, const acsi::ReportBlock &read,
-                 const ReportControlBlock *fromFile);
+void setSettings(ReportControlBlock &block, const QString &logicalDevice,
+                 const acsi::ReportBlock &read, const ReportControlBlock *fromFile);
 
 /// Enters the configuration revision of a logical device (its LLN0's NamPlt.configRev); the leaf
-/// gets state 3 when the file gives another one. @p fromFile may be null.
+/// gets state 3 when the file gives one and the device another or none. @p fromFile may be null.
 void setRevision(PhysicalDevice &device, const QString &logicalDevice, const QString &revision,
                  const PhysicalDevice *fromFile);
 

@@ -199,6 +199,7 @@ OperationResult IedDriver::getIEDModel(long deviceNo, QByteArray &model, QString
     const OperationResult result = m_runtime->run(
         deviceNo, Runtime::Effect::Reads, error,
         [bytes](std::shared_ptr<DeviceConnection> device) -> asio::awaitable<Outcome> {
+            co_await device->refreshDataSets();
             *bytes = device->modelBytes();
             co_return Outcome();
         });

@@ -4,15 +4,16 @@
 #include "deviceconnection.h"
 
 #include "connectiontext.h"
-#include "descriptioncache.h"
 #include "discoveredmodel.h"
+#include "filechoice.h"
 #include "sclimport.h"
 
 #include "acsi/reportblock.h"
 #include "acsi/settinggroup.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QCryptographicHash>
+
+#include <algorithm>
 
 using acsi::FunctionalConstraint;
 using ConnectionText::text;
@@ -24,6 +25,18 @@ struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(IedDriver)
 };
+
+/// How long the opening of a browser waits for the data sets of now.
+constexpr std::chrono::seconds dataSetPatience{5};
+/// Sentences about what was left out that are shown.
+constexpr std::size_t namedOmissions = 3;
+
+/// Who the device said it was when it was asked; it is not asked again.
+mms::IdentifyResponse identityOf(const DeviceStatus &status)
+{
+    return {status.vendor.toStdString(), status.model.toStdString(), status.revision.toStdString(),
+            {}};
+}
 
 } // namespace
 
@@ -44,11 +57,14 @@ asio::awaitable<void> DeviceConnection::identify(ClientPointer client)
     });
 }
 
-QString DeviceConnection::loadFile()
+QString DeviceConnection::loadFile(const QStringList &logicalDevices)
 {
-    if (m_fileRead || m_configuration.sclFile.isEmpty())
+    if (m_configuration.sclFile.isEmpty() ||
+        (m_fileRead && m_fileFor == logicalDevices))
         return {};
     m_fileRead = true;
+    m_fileFor = logicalDevices;
+    m_fromFile.reset();
     const scl::ReadResult read = SclImport::readFile(m_configuration.sclFile);
     if (!read.document)
         return SclImport::errorText(read);
@@ -56,54 +72,51 @@ QString DeviceConnection::loadFile()
     const scl::Ied *ied = SclImport::chooseIed(*read.document, m_configuration.ied, error);
     if (!ied)
         return error;
-    m_fromFile = SclImport::makeDevice(*ied);
+    const FileChoice choice =
+        chooseServer(*read.document, *ied,
+                     {m_configuration.accessPoint, m_configuration.host, logicalDevices}, error);
+    if (!error.isEmpty())
+        return error;
+    m_fromFile = SclImport::makeDevice(*ied, choice);
     return {};
 }
 
 asio::awaitable<QString> DeviceConnection::getReady(ClientPointer client)
 {
     co_await identify(client);
-    const mms::Result<std::vector<std::string>> domains =
-        co_await client->nameList(mms::ObjectClass::Domain, mms::Scope::Vmd);
-    if (!domains)
-        co_return text(domains.error().message);
+    m_readingCancelled = std::make_shared<std::atomic<bool>>(false);
+    mms::Result<acsi::ServerDescription> description = co_await describe(client);
+    const bool wasCancelled = *m_readingCancelled;
+    m_readingCancelled.reset();
+    if (wasCancelled) {
+        m_wanted = false;
+        m_leaveReason = Texts::tr("Reading the model was cancelled.");
+        co_return m_leaveReason;
+    }
+    if (!description)
+        co_return text(description.error().message);
     QStringList names;
-    for (const std::string &domain : *domains)
-        names.append(text(domain));
-    const QString conflict = m_environment.claim(names);
-    if (!conflict.isEmpty())
-        co_return conflict;
-
-    const QString problem = loadFile();
-    if (!problem.isEmpty())
-        setProblem(QStringLiteral("SCL"), Texts::tr("The SCL file is not used: %1").arg(problem));
-
-    const mms::Result<QByteArray> print = co_await fingerprint(client, *domains);
-    if (!print)
-        co_return text(print.error().message);
-    if (!m_model || *print != m_fingerprint || !m_isModelSettled) {
-        m_readingCancelled = std::make_shared<std::atomic<bool>>(false);
-        mms::Result<acsi::ServerDescription> description = co_await describe(client, *print);
-        const bool wasCancelled = *m_readingCancelled;
-        m_readingCancelled.reset();
-        if (wasCancelled) {
-            m_wanted = false;
-            m_leaveReason = Texts::tr("Reading the model was cancelled.");
-            co_return m_leaveReason;
-        }
-        if (!description)
-            co_return text(description.error().message);
-        // What is refused once may be given the next time; what is refused twice never will.
-        m_isModelSettled = description->refused.empty() ||
-                           (m_model && m_model->description().refused == description->refused);
+    for (const acsi::DeviceDescription &device : description->devices)
+        names.append(text(device.name));
+    const bool isFileOther = m_fileFor != names;
+    const QString problem = loadFile(names);
+    if (isFileOther)
+        setProblem(QStringLiteral("SCL"),
+                   problem.isEmpty() ? QString()
+                                     : Texts::tr("The SCL file is not used: %1").arg(problem));
+    // Values are kept with the model as long as the device is in every way the same.
+    if (!m_model || isFileOther || m_model->description() != *description) {
         m_model = std::make_unique<OnlineModel>(
-            std::make_shared<const acsi::ServerDescription>(std::move(*description)),
-            m_fromFile ? m_fromFile->name : m_configuration.name, m_fromFile.get());
-        m_fingerprint = *print;
+            std::move(*description), m_fromFile ? m_fromFile->name : m_configuration.name,
+            m_fromFile.get());
         m_inParts.clear();
     }
-    for (auto each = m_revisions.cbegin(); each != m_revisions.cend(); ++each)
-        DiscoveredModel::setRevision(m_model->device(), each.key(), each.value(), m_fromFile.get());
+    const std::vector<std::string> &leftOut = m_model->description().leftOut;
+    QStringList sentences;
+    for (std::size_t i = 0; i < leftOut.size() && i < namedOmissions; ++i)
+        sentences.append(text(leftOut[i]));
+    setProblem(QStringLiteral("limits"), sentences.join(QLatin1Char(' ')));
+    co_await readRevisions(client);
     m_refused.clear();
     updateStatus([this](DeviceStatus &status) {
         status.refusedObjects = static_cast<int>(m_model->description().refused.size());
@@ -114,61 +127,69 @@ asio::awaitable<QString> DeviceConnection::getReady(ClientPointer client)
     co_return client->isOpen() ? QString() : m_endReason;
 }
 
-asio::awaitable<mms::Result<QByteArray>>
-DeviceConnection::fingerprint(ClientPointer client, const std::vector<std::string> &domains)
+asio::awaitable<void> DeviceConnection::readRevisions(ClientPointer client)
 {
-    QCryptographicHash hash(QCryptographicHash::Sha256);
-    const auto add = [&hash](std::string_view part) {
-        hash.addData(part.data(), static_cast<int>(part.size()));
-        hash.addData("", 1);
-    };
-    m_revisions.clear();
-    const DeviceStatus who = status();
-    add(who.vendor.toStdString());
-    add(who.model.toStdString());
-    add(who.revision.toStdString());
-
     std::vector<mms::VariableAccess> revisions;
-    for (const std::string &domain : domains) {
+    for (const acsi::DeviceDescription &device : m_model->description().devices) {
         mms::VariableAccess access;
-        access.variable = mms::ObjectName::inDomain(domain, "LLN0$DC$NamPlt$configRev");
+        access.variable = mms::ObjectName::inDomain(device.name, "LLN0$DC$NamPlt$configRev");
         revisions.push_back(std::move(access));
     }
-    const mms::Result<std::vector<mms::AccessResult>> values = co_await client->read(revisions);
-    for (std::size_t i = 0; i < domains.size(); ++i) {
-        add(domains[i]);
-        const bool hasRevision = values && i < values->size() && (*values)[i].ok() &&
-                                 !(*values)[i].data().text().empty();
-        if (hasRevision) {
-            add((*values)[i].data().text());
-            m_revisions.insert(text(domains[i]), text((*values)[i].data().text()));
-        }
-        // Data sets come and go within a revision; without a revision anything may.
-        std::vector<mms::ObjectClass> classes = {mms::ObjectClass::NamedVariableList};
-        if (!hasRevision)
-            classes.push_back(mms::ObjectClass::NamedVariable);
-        for (const mms::ObjectClass objectClass : classes) {
-            const mms::Result<std::vector<std::string>> names =
-                co_await client->nameList(objectClass, mms::Scope::Domain, domains[i]);
-            if (!names && !client->isOpen())
-                co_return names.error();
-            if (!names)
-                continue;
-            for (const std::string &name : *names)
-                add(name);
-        }
+    m_revisions.clear();
+    if (revisions.empty())
+        co_return;
+    const mms::Result<std::vector<mms::AccessResult>> values =
+        co_await client->read(std::move(revisions));
+    // A device that does not answer at all is about to be lost.
+    if (!values || !m_model)
+        co_return;
+    const std::vector<acsi::DeviceDescription> &devices = m_model->description().devices;
+    for (std::size_t i = 0; i < devices.size() && i < values->size(); ++i) {
+        const mms::AccessResult &value = (*values)[i];
+        const QString revision = value.ok() ? text(value.data().text()) : QString();
+        if (!revision.isEmpty())
+            m_revisions.insert(text(devices[i].name), revision);
+        DiscoveredModel::setRevision(m_model->device(), text(devices[i].name), revision,
+                                     m_fromFile.get());
     }
-    co_return hash.result();
+}
+
+asio::awaitable<void> DeviceConnection::refreshDataSets()
+{
+    const ClientPointer client = m_client;
+    if (!client || !m_model)
+        co_return;
+    std::vector<std::string> devices;
+    for (const acsi::DeviceDescription &device : m_model->description().devices)
+        devices.push_back(device.name);
+    acsi::DiscoveryOptions options;
+    options.limits.time = dataSetPatience;
+    options.cancelled = std::make_shared<std::atomic<bool>>(false);
+    const mms::Result<acsi::ServerDescription> read =
+        co_await acsi::discoverDataSets(client, std::move(devices), std::move(options));
+    if (!read || !read->leftOut.empty() || !m_model || client != m_client)
+        co_return;
+    const std::vector<std::string> &known = m_model->description().refused;
+    const bool isRefusalNew =
+        std::ranges::any_of(read->refused, [&known](const std::string &sentence) {
+            return std::ranges::find(known, sentence) == known.end();
+        });
+    if (!isRefusalNew)
+        m_model->setDataSets(*read, m_fromFile.get());
 }
 
 asio::awaitable<mms::Result<acsi::ServerDescription>>
-DeviceConnection::describe(ClientPointer client, const QByteArray &print)
+DeviceConnection::describe(ClientPointer client)
 {
-    const DescriptionCache cache(m_environment.cacheFolder);
-    if (std::optional<acsi::ServerDescription> cached = cache.load(print))
-        co_return std::move(*cached);
     acsi::DiscoveryOptions options;
     options.cancelled = m_readingCancelled;
+    options.identity = identityOf(status());
+    options.devicesKnown = [this](const std::vector<std::string> &devices) {
+        QStringList names;
+        for (const std::string &device : devices)
+            names.append(text(device));
+        return m_environment.claim(names).toStdString();
+    };
     const std::weak_ptr<DeviceConnection> weak = weak_from_this();
     options.progress = [weak](std::size_t done, std::size_t total) {
         if (const auto self = weak.lock()) {
@@ -178,10 +199,7 @@ DeviceConnection::describe(ClientPointer client, const QByteArray &print)
             });
         }
     };
-    mms::Result<acsi::ServerDescription> description = co_await acsi::discover(client, options);
-    if (description && description->refused.empty())
-        cache.save(print, *description);
-    co_return description;
+    co_return co_await acsi::discover(client, options);
 }
 
 asio::awaitable<void> DeviceConnection::readBlocks(ClientPointer client)
@@ -231,7 +249,7 @@ asio::awaitable<void> DeviceConnection::readBlocks(ClientPointer client)
             const mms::Result<acsi::ReportBlock> read = acsi::reportBlockFrom(*type, value.data());
             if (read) {
                 DiscoveredModel::setSettings(
-                    *blocks[i].block, *read,
+                    *blocks[i].block, blocks[i].device, *read,
                     configuredBlock(blocks[i].device, blocks[i].block->reference));
             }
         } else {

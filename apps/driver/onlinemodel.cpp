@@ -8,6 +8,7 @@
 #include <QtCore/QDataStream>
 #include <QtCore/QIODevice>
 
+#include <algorithm>
 #include <span>
 
 using mms::Data;
@@ -128,9 +129,9 @@ struct OnlineModel::Walk
     }
 };
 
-OnlineModel::OnlineModel(std::shared_ptr<const acsi::ServerDescription> description,
-                         const QString &name, const PhysicalDevice *fromFile)
-    : m_description(std::move(description))
+OnlineModel::OnlineModel(acsi::ServerDescription description, const QString &name,
+                         const PhysicalDevice *fromFile)
+    : m_description(std::make_unique<acsi::ServerDescription>(std::move(description)))
     , m_device(DiscoveredModel::makeDevice(*m_description, name, fromFile))
 {
     for (const acsi::DeviceDescription &device : m_description->devices) {
@@ -220,6 +221,22 @@ std::vector<OnlineModel::Leaf> OnlineModel::leavesOf(const acsi::Reference &refe
     Walk walk{*m_device, visitor, text(acsi::toText(reference))};
     walk.visit(*described, nullptr, nullptr, nullptr);
     return leaves;
+}
+
+void OnlineModel::setDataSets(const acsi::ServerDescription &read, const PhysicalDevice *fromFile)
+{
+    bool isOther = m_description->associationDataSets != read.associationDataSets;
+    m_description->associationDataSets = read.associationDataSets;
+    for (acsi::DeviceDescription &device : m_description->devices) {
+        const auto found =
+            std::ranges::find(read.devices, device.name, &acsi::DeviceDescription::name);
+        if (found == read.devices.end() || found->dataSets == device.dataSets)
+            continue;
+        device.dataSets = found->dataSets;
+        isOther = true;
+    }
+    if (isOther)
+        DiscoveredModel::setDataSets(*m_device, *m_description, fromFile);
 }
 
 QByteArray OnlineModel::toBytes() const

@@ -34,7 +34,7 @@ public:
 
     /// @param fromFile the model of the device's SCL file, or null; what the two disagree in is
     ///                 marked
-    OnlineModel(std::shared_ptr<const acsi::ServerDescription> description, const QString &name,
+    OnlineModel(acsi::ServerDescription description, const QString &name,
                 const PhysicalDevice *fromFile);
 
     PhysicalDevice &device() { return *m_device; }
@@ -61,6 +61,9 @@ public:
     /// The leaves of a data set member or of whatever a reference names, without values.
     std::vector<Leaf> leavesOf(const acsi::Reference &reference) const;
 
+    /// Takes over the data sets of a newer description.
+    void setDataSets(const acsi::ServerDescription &read, const PhysicalDevice *fromFile);
+
     QByteArray toBytes() const;
 
 private:
@@ -69,7 +72,7 @@ private:
     const acsi::NodeDescription *description(const acsi::Reference &reference) const;
     const mms::TypeDescription *describedType(const acsi::Reference &reference) const;
 
-    std::shared_ptr<const acsi::ServerDescription> m_description;
+    std::unique_ptr<acsi::ServerDescription> m_description;
     std::unique_ptr<PhysicalDevice> m_device;
     QHash<QString, const acsi::NodeDescription *> m_nodes; ///< by "LD/LN"
     QHash<QString, LogicalNode *> m_shownNodes;            ///< by "LD/LN"

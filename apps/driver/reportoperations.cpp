@@ -67,7 +67,7 @@ void enterBlock(const DevicePointer &device, const acsi::Reference &block,
     const QString logicalDevice = text(block.device);
     const QString reference = text(acsi::itemText(block));
     if (ReportControlBlock *shown = device->model()->reportBlock(logicalDevice, reference))
-        DiscoveredModel::setSettings(*shown, read,
+        DiscoveredModel::setSettings(*shown, logicalDevice, read,
                                      device->configuredBlock(logicalDevice, reference));
 }
 

@@ -396,7 +396,7 @@ void ReportSubscriptions::started(const SubscriptionPointer &subscription,
     settings.intgPd = enabled.intgPd;
     if (ReportControlBlock *shown = shownInModel(block)) {
         DiscoveredModel::setSettings(
-            *shown, enabled,
+            *shown, text(block.device), enabled,
             m_connection.configuredBlock(text(block.device), text(acsi::itemText(block))));
     }
     if (enabled.resumed == false) {

@@ -31,12 +31,17 @@ qint32 bounded(std::uint32_t number)
 class DeviceBuilder
 {
 public:
+    explicit DeviceBuilder(const FileChoice &choice)
+        : m_choice(choice)
+    {
+    }
+
     std::unique_ptr<PhysicalDevice> build(const scl::Ied &ied)
     {
         auto device = std::make_unique<PhysicalDevice>();
         m_device = device.get();
         device->name = text(ied.name);
-        ied.forEachDevice([this](const scl::LogicalDevice &logicalDevice) {
+        m_choice.forEachDevice(ied, [this](const scl::LogicalDevice &logicalDevice) {
             m_device->logicalDevices.append(logicalDeviceOf(logicalDevice).release());
         });
         device->rebuildIndex();
@@ -60,7 +65,7 @@ private:
     std::unique_ptr<LogicalDevice> logicalDeviceOf(const scl::LogicalDevice &source)
     {
         auto device = std::make_unique<LogicalDevice>();
-        device->name = text(source.name);
+        device->name = m_choice.nameOf(text(source.name));
         m_settingGroup = 1;
         for (const scl::LogicalNode &node : source.nodes) {
             if (node.settingControl)
@@ -316,8 +321,11 @@ private:
             dataSet->name = shared(set.name);
             dataSet->members.reserve(static_cast<int>(set.members.size()));
             for (const scl::DataSetMember &member : set.members) {
-                dataSet->members.append(new DataSetMember{static_cast<quint8>(member.resolved),
-                                                          text(member.reference)});
+                QString reference = text(member.reference);
+                const QString device = reference.section(QLatin1Char('/'), 0, 0);
+                reference.replace(0, device.size(), m_choice.nameOf(device));
+                dataSet->members.append(
+                    new DataSetMember{static_cast<quint8>(member.resolved), reference});
             }
         }
     }
@@ -363,6 +371,7 @@ private:
         return entry->second;
     }
 
+    const FileChoice &m_choice;
     PhysicalDevice *m_device = nullptr;
     std::uint32_t m_settingGroup = 1;
     QString m_reference; ///< of the node that is being built, its constraint written as "XX"
@@ -419,7 +428,7 @@ const scl::Ied *SclImport::chooseIed(const scl::Document &document, const QStrin
     return nullptr;
 }
 
-std::unique_ptr<PhysicalDevice> SclImport::makeDevice(const scl::Ied &ied)
+std::unique_ptr<PhysicalDevice> SclImport::makeDevice(const scl::Ied &ied, const FileChoice &choice)
 {
-    return DeviceBuilder().build(ied);
+    return DeviceBuilder(choice).build(ied);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "filechoice.h"
+
 #include <devicemodel/physicaldevice.h>
 
 #include "scl/reader.h"
@@ -27,6 +29,7 @@ const scl::Ied *chooseIed(const scl::Document &document, const QString &name, QS
 /// values in the representation of `DataAttribute`. What the file names but does not define is
 /// there without presence (red in the tree). An attribute has a value only where the file gives
 /// one that fits its type; a setting has the value of the active setting group. Any thread.
-std::unique_ptr<PhysicalDevice> makeDevice(const scl::Ied &ied);
+/// @param choice which of the servers, and the names that the device gives its logical devices
+std::unique_ptr<PhysicalDevice> makeDevice(const scl::Ied &ied, const FileChoice &choice = {});
 
 } // namespace SclImport

@@ -64,12 +64,9 @@ const mms::TypeDescription *stepBelow(const mms::TypeDescription &type, std::str
     return &below->components.front().type;
 }
 
-} // namespace
-
-asio::awaitable<mms::Result<ServerDescription>> discover(std::shared_ptr<Client> client,
-                                                         DiscoveryOptions options)
+asio::awaitable<mms::Result<ServerDescription>>
+carryOut(std::shared_ptr<Client> client, DiscoveryOptions options, DiscoveryPlan plan)
 {
-    DiscoveryPlan plan(windowOf(*client, options), options.limits, options.identity);
     CallGroup group(client);
     const auto end = std::chrono::steady_clock::now() + options.limits.time;
     const std::uint64_t strays = strayAnswers(*client);
@@ -97,6 +94,12 @@ asio::awaitable<mms::Result<ServerDescription>> discover(std::shared_ptr<Client>
         plan.answered(arrival->id, std::move(arrival->outcome));
         if (strayAnswers(*client) != strays)
             plan.confused();
+        if (options.devicesKnown && plan.areDevicesKnown()) {
+            const std::string objection =
+                std::exchange(options.devicesKnown, {})(plan.deviceNames());
+            if (!objection.empty())
+                co_return mms::Error{objection, 0};
+        }
         if (options.progress)
             options.progress(plan.done(), plan.total());
     }
@@ -104,6 +107,24 @@ asio::awaitable<mms::Result<ServerDescription>> discover(std::shared_ptr<Client>
     if (!server && !client->isOpen() && !client->closeReason().empty())
         co_return mms::Error{client->closeReason(), 0};
     co_return server;
+}
+
+} // namespace
+
+asio::awaitable<mms::Result<ServerDescription>> discover(std::shared_ptr<Client> client,
+                                                         DiscoveryOptions options)
+{
+    DiscoveryPlan plan(windowOf(*client, options), options.limits, options.identity);
+    return carryOut(std::move(client), std::move(options), std::move(plan));
+}
+
+asio::awaitable<mms::Result<ServerDescription>>
+discoverDataSets(std::shared_ptr<Client> client, std::vector<std::string> devices,
+                 DiscoveryOptions options)
+{
+    DiscoveryPlan plan =
+        DiscoveryPlan::ofDataSets(windowOf(*client, options), devices, options.limits);
+    return carryOut(std::move(client), std::move(options), std::move(plan));
 }
 
 const mms::TypeDescription *typeBelow(const mms::TypeDescription &node, std::string_view constraint,

@@ -86,6 +86,9 @@ struct DiscoveryOptions
     int outstanding = 0;
     /// Steps that are done and known so far; the total grows until all names are known.
     std::function<void(std::size_t done, std::size_t total)> progress;
+    /// Hears the names of the logical devices once, before most is known of them; discovery ends
+    /// with the sentence that it returns, if it is not empty.
+    std::function<std::string(const std::vector<std::string> &names)> devicesKnown;
     /// Set from any thread; discovery then ends with an error soon.
     std::shared_ptr<std::atomic<bool>> cancelled;
 };
@@ -97,6 +100,11 @@ struct DiscoveryOptions
 /// ServerDescription::leftOut. In the client's strand.
 asio::awaitable<mms::Result<ServerDescription>> discover(std::shared_ptr<Client> client,
                                                          DiscoveryOptions options = {});
+
+/// Asks for the data sets alone: those of the logical devices @p devices and of the association.
+asio::awaitable<mms::Result<ServerDescription>>
+discoverDataSets(std::shared_ptr<Client> client, std::vector<std::string> devices,
+                 DiscoveryOptions options = {});
 
 /// The type of data below the type of a logical node; null when there is none.
 /// @p constraint and @p path as in the node's type, "ST", "Pos$stVal"; elements of arrays "har(3)".

@@ -114,10 +114,29 @@ std::string whyNot(std::string text)
 
 } // namespace
 
-DiscoveryPlan::DiscoveryPlan(std::size_t window, DiscoveryLimits limits,
-                             std::optional<mms::IdentifyResponse> identity)
+DiscoveryPlan::DiscoveryPlan(Empty, std::size_t window, DiscoveryLimits limits)
     : m_window(std::max<std::size_t>(window, 1))
     , m_limits(limits)
+{
+}
+
+DiscoveryPlan DiscoveryPlan::ofDataSets(std::size_t window, const std::vector<std::string> &devices,
+                                        DiscoveryLimits limits)
+{
+    DiscoveryPlan plan(Empty(), window, limits);
+    plan.addList(ObjectClass::NamedVariableList, Scope::Association);
+    for (const std::string &name : devices) {
+        const std::size_t device = plan.m_server.devices.size();
+        plan.m_server.devices.emplace_back().name = name;
+        plan.m_devices.emplace_back();
+        plan.addList(ObjectClass::NamedVariableList, Scope::Domain, device);
+    }
+    return plan;
+}
+
+DiscoveryPlan::DiscoveryPlan(std::size_t window, DiscoveryLimits limits,
+                             std::optional<mms::IdentifyResponse> identity)
+    : DiscoveryPlan(Empty(), window, limits)
 {
     addList(ObjectClass::Domain, Scope::Vmd);
     addList(ObjectClass::NamedVariableList, Scope::Association);
@@ -180,6 +199,14 @@ std::size_t DiscoveryPlan::waiting() const
     for (const Device &device : m_devices)
         result += device.tooLarge.size();
     return result;
+}
+
+std::vector<std::string> DiscoveryPlan::deviceNames() const
+{
+    std::vector<std::string> names;
+    for (const DeviceDescription &device : m_server.devices)
+        names.push_back(device.name);
+    return names;
 }
 
 bool DiscoveryPlan::finished() const
@@ -400,6 +427,8 @@ void DiscoveryPlan::takeNode(std::size_t device, std::string_view item)
 
 void DiscoveryPlan::namesEnded(std::size_t list)
 {
+    if (m_lists[list].objectClass == ObjectClass::Domain)
+        m_devicesKnown = true;
     if (m_lists[list].objectClass != ObjectClass::NamedVariable)
         return;
     Device &device = m_devices[m_lists[list].device];

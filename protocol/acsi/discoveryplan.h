@@ -35,6 +35,9 @@ public:
     /// @p window is the number of requests on the way at a time.
     explicit DiscoveryPlan(std::size_t window, DiscoveryLimits limits = {},
                            std::optional<mms::IdentifyResponse> identity = {});
+    /// Of the data sets alone, of the association and of these logical devices.
+    static DiscoveryPlan ofDataSets(std::size_t window, const std::vector<std::string> &devices,
+                                    DiscoveryLimits limits = {});
 
     /// The next request; none while the window is full or answers are needed first.
     std::optional<Request> next();
@@ -44,6 +47,8 @@ public:
     /// The peer answered something that nobody had asked.
     void confused() { m_window = 1; }
 
+    bool areDevicesKnown() const { return m_devicesKnown; }
+    std::vector<std::string> deviceNames() const;
     bool isSequential() const { return m_window == 1; }
     /// Nothing is left to ask, or there is no use in asking.
     bool finished() const;
@@ -94,6 +99,11 @@ private:
         std::vector<Step> refusedParts;
     };
 
+    struct Empty
+    {
+    };
+    DiscoveryPlan(Empty, std::size_t window, DiscoveryLimits limits);
+
     std::size_t waiting() const;
     std::deque<Step> &queueOf(const Step &step);
     bool isOptional(const Step &step) const;
@@ -121,9 +131,10 @@ private:
     std::string nameOf(const Step &step) const;
 
     std::size_t m_window;
-    const DiscoveryLimits m_limits;
+    DiscoveryLimits m_limits;
     bool m_stopped = false;       ///< a limit of everything was reached
     bool m_hasAllDevices = false; ///< that are taken
+    bool m_devicesKnown = false;
     std::size_t m_nodes = 0;
     std::size_t m_names = 0;
     std::size_t m_octets = 0;

@@ -82,6 +82,13 @@ std::shared_ptr<Association> Association::serve(Link::Strand strand, asio::ip::t
     return association;
 }
 
+namespace {
+
+/// No answer fits a PDU that is shorter; what is longer is a matter of single calls.
+constexpr std::int32_t uselessPduSize = 64;
+
+} // namespace
+
 Association::Association(Private, Link::Strand strand, AssociationOptions options,
                          Handlers handlers)
     : m_strand(std::move(strand))
@@ -329,7 +336,7 @@ void Association::handleIndication(const AssociateIndication &indication)
     InitiateParameters agreed = proposal();
     agreed.maxPduSize =
         std::min(asked.maxPduSize.value_or(m_options.maxPduSize), m_options.maxPduSize);
-    if (*agreed.maxPduSize < smallestPduSize) {
+    if (*agreed.maxPduSize < uselessPduSize) {
         refuse();
         return;
     }
@@ -368,7 +375,6 @@ void Association::handleConfirm(const AssociateConfirm &confirm)
     InitiateParameters agreed = response->parameters;
     agreed.maxPduSize =
         std::min(agreed.maxPduSize.value_or(m_options.maxPduSize), m_options.maxPduSize);
-    constexpr std::int32_t uselessPduSize = 64;
     if (*agreed.maxPduSize < uselessPduSize) {
         m_link->abort("The peer's PDU size of " + std::to_string(*agreed.maxPduSize)
                       + " octets is too small.");

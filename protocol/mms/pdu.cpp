@@ -29,7 +29,11 @@ Choice readService(Reader &reader, const Element &element)
     if constexpr (isUnknown<Alternative>) {
         return UnknownService{{element.tag, reader.octets(element)}};
     } else {
-        if (element.tag == Alternative::tag)
+        // Some peers send what is empty in the other form.
+        const bool isEmpty = std::is_empty_v<Alternative> && element.content.empty() &&
+                             element.tag.isContext() &&
+                             element.tag.number() == Alternative::tag.number();
+        if (element.tag == Alternative::tag || isEmpty)
             return Alternative::read(reader, element);
         return readService<Choice, Index + 1>(reader, element);
     }

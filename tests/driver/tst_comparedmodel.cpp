@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "driver/comparedied.h"
-#include "driver/descriptioncache.h"
+#include "driver/filecomparison.h"
 #include "driver/simulatedstation.h"
 
 #include "acsi/reference.h"
@@ -110,6 +110,7 @@ public:
     const LogicalNode *indications() const { return nodeOf(*m_device, "IEDA", "GGIO1"); }
     const DataObject *first() const { return objectOf(indications(), "Ind1"); }
     IedDriver &driver() { return m_driver; }
+    const SimulatedIed &ied() const { return m_ied; }
 
 private:
     QString write(const char *name, const QByteArray &text)
@@ -150,10 +151,16 @@ private slots:
     void dataSetsOfTheAssociationHaveAStateOfTheirOwn();
     void enumerationsComeFromTheFile();
     void aFileThatCannotBeUsedIsToldAndDoneWithout();
-    void descriptionsSurviveTheCache();
-    void damagedDescriptionsAreAsIfTheyWereNotThere();
-    void theOldestDescriptionsGiveWay();
-    void aDeviceOfAnotherRevisionIsReadAnew();
+    void aDeviceThatChangedUnderItsRevisionIsReadAnew();
+    void anotherOrderOfComponentsIsMarked();
+    void aMissingFirstMemberMarksNoOther();
+    void anEmptyDataSetIsNotShownAsTheFiles();
+    void aMissingRevisionIsMarked();
+    void theDataSetOfABlockIsComparedWhole();
+    void dataSetsAreThoseOfTheMomentWhenABrowserOpens();
+    void theAccessPointIsThatOfTheAddressOrTheSetting();
+    void aTemplateIsComparedByInstances();
+    void aFileOfAnotherDeviceIsToldInOneSentence();
 };
 
 void tst_ComparedModel::whatAgreesIsMarkedSo()
@@ -408,112 +415,191 @@ void tst_ComparedModel::aFileThatCannotBeUsedIsToldAndDoneWithout()
     QCOMPARE(compared.first()->getDAOByName("stVal")->state, quint32(1));
 }
 
-void tst_ComparedModel::descriptionsSurviveTheCache()
-{
-    acsi::ServerDescription description;
-    description.identity.vendor = "Maker";
-    description.devices.resize(1);
-    description.devices[0].name = "LD";
-    description.devices[0].journals = {"LLN0$EventLog"};
-    description.devices[0].nodes.resize(1);
-    description.devices[0].nodes[0].name = "LLN0";
-    description.devices[0].nodes[0].type = mms::TypeDescription::boolean();
-    description.devices[0].dataSets.resize(1);
-    description.devices[0].dataSets[0].name = mms::ObjectName::inDomain("LD", "LLN0$set");
-    description.devices[0].dataSets[0].members = {
-        acsi::accessOf(*acsi::parseReference("LD/MHAI1$MX$HA$har(3)$mag"))};
-    const auto read = DescriptionCache::fromBytes(DescriptionCache::toBytes(description));
-    QVERIFY(read);
-    QCOMPARE(QString::fromStdString(read->identity.vendor), QStringLiteral("Maker"));
-    QCOMPARE(read->devices.size(), std::size_t(1));
-    QVERIFY(read->devices[0].journals == description.devices[0].journals);
-    QVERIFY(read->devices[0].nodes[0].type == description.devices[0].nodes[0].type);
-    QVERIFY(read->devices[0].dataSets[0].name == description.devices[0].dataSets[0].name);
-    QVERIFY(read->devices[0].dataSets[0].members == description.devices[0].dataSets[0].members);
-}
-
-void tst_ComparedModel::damagedDescriptionsAreAsIfTheyWereNotThere()
+void tst_ComparedModel::aDeviceThatChangedUnderItsRevisionIsReadAnew()
 {
     const QTemporaryDir folder;
-    const DescriptionCache cache(folder.filePath("cache"));
-    acsi::ServerDescription description;
-    description.identity.model = "Relay";
-    QVERIFY(!cache.load("print"));
-    cache.save("print", description);
-    QVERIFY(cache.load("print"));
-    const QFileInfoList files = QDir(folder.filePath("cache")).entryInfoList(QDir::Files);
-    QCOMPARE(files.size(), 1);
-    QFile file(files.first().filePath());
-    QVERIFY(file.open(QIODevice::ReadWrite));
-    const QByteArray bytes = file.readAll();
-    for (int length = 0; length < bytes.size(); ++length) {
-        QVERIFY(file.resize(length));
-        QVERIFY(!cache.load("print"));
-        QVERIFY(file.seek(0));
-        file.write(bytes);
-        file.flush();
-    }
-    QVERIFY(cache.load("print"));
-    QVERIFY(!DescriptionCache::fromBytes("no description"));
-    // Without a folder nothing is kept and nothing fails.
-    DescriptionCache(QString()).save("print", description);
-    QVERIFY(!DescriptionCache(QString()).load("print"));
-}
-
-void tst_ComparedModel::theOldestDescriptionsGiveWay()
-{
-    const QTemporaryDir folder;
-    const DescriptionCache cache(folder.path());
-    const QDateTime longAgo = QDateTime::currentDateTime().addDays(-10);
-    for (int i = 0; i <= DescriptionCache::mostFiles; ++i) {
-        cache.save("print" + QByteArray::number(i), {});
-        for (const QFileInfo &each : QDir(folder.path()).entryInfoList(QDir::Files)) {
-            QFile file(each.filePath());
-            if (i == 0 && file.open(QIODevice::ReadWrite))
-                file.setFileTime(longAgo, QFileDevice::FileModificationTime);
-        }
-    }
-    QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), int(DescriptionCache::mostFiles));
-    QVERIFY(!cache.load("print0"));
-    QVERIFY(cache.load("print1"));
-}
-
-void tst_ComparedModel::aDeviceOfAnotherRevisionIsReadAnew()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("device.icd");
-    const auto write = [&path](const QByteArray &text) {
+    const auto write = [&folder](const char *name, const QByteArray &text) {
+        const QString path = folder.filePath(name);
         QFile file(path);
-        return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
+        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+            qFatal("cannot write");
+        return path;
     };
-    // A data object more under another revision: whoever took the former description would lack it.
-    const QByteArray more =
-        changed(changed(comparedIed, "<DO name=\"AnIn1\" type=\"MV_1\"/>",
-                        "<DO name=\"AnIn1\" type=\"MV_1\"/><DO name=\"AnIn2\" type=\"MV_1\"/>"),
-                "<Val>2026-1</Val>", "<Val>2026-2</Val>");
-    QVector<bool> wasAsked;
-    for (const QByteArray &text : {comparedIed, more, comparedIed}) {
-        QVERIFY(write(text));
-        SimulatedIed ied(path);
-        Listener listener;
-        IedDriverOptions options = listener.options();
-        options.cacheFolder = folder.filePath("cache");
-        IedDriver driver(options);
-        driver.setDevice(configurationFor(ied));
-        driver.connectDevice(1);
-        QVERIFY(listener.waitForState(1, DeviceState::Online));
-        QByteArray bytes;
+    // The same names in another order, of other types: names and revision alone would not tell.
+    const QByteArray other = changed(
+        comparedIed,
+        "<DA name=\"stVal\" bType=\"BOOLEAN\" fc=\"ST\" dchg=\"true\"/><DA name=\"q\" "
+        "bType=\"Quality\" fc=\"ST\" qchg=\"true\"/><DA name=\"t\" bType=\"Timestamp\" fc=\"ST\"/>"
+        "<DA name=\"d\"",
+        "<DA name=\"t\" bType=\"Timestamp\" fc=\"ST\"/><DA name=\"q\" bType=\"Quality\" fc=\"ST\" "
+        "qchg=\"true\"/><DA name=\"stVal\" bType=\"INT32\" fc=\"ST\" dchg=\"true\"/><DA name=\"d\"");
+    SimulatedIed first(write("first.icd", comparedIed));
+    Listener listener;
+    IedDriver driver(listener.options());
+    driver.setDevice(configurationFor(first));
+    driver.connectDevice(1);
+    const QString indication = QStringLiteral("IEDA/GGIO1$ST$Ind1$stVal");
+    QVERIFY(listener.waitForValue(indication, QVariant(false)));
+    listener.clear();
+    sim::DeviceOptions options;
+    options.server.port = first.port();
+    first.stop();
+    QVERIFY(listener.waitForState(1, DeviceState::Waiting));
+    SimulatedIed second(write("second.icd", other), {}, {}, options);
+    second.set("IEDA", "GGIO1$ST$Ind1$stVal", mms::Data::integer(77));
+    QVERIFY(listener.waitForState(1, DeviceState::Online));
+    QVERIFY(listener.waitForValue(indication, QVariant(77)));
+    QByteArray bytes;
+    QString error;
+    QCOMPARE(driver.getIEDModel(1, bytes, error), OperationSucceeded);
+    QCOMPARE(deviceFrom(bytes)->findTag(indication)->basicType, QStringLiteral("INT32"));
+}
+
+void tst_ComparedModel::anotherOrderOfComponentsIsMarked()
+{
+    const QByteArray device =
+        changed(comparedIed,
+                "<DA name=\"mag\" bType=\"Struct\" type=\"Analogue_1\" fc=\"MX\" dchg=\"true\"/><DA "
+                "name=\"q\" bType=\"Quality\" fc=\"MX\" qchg=\"true\"/>",
+                "<DA name=\"q\" bType=\"Quality\" fc=\"MX\" qchg=\"true\"/><DA name=\"mag\" "
+                "bType=\"Struct\" type=\"Analogue_1\" fc=\"MX\" dchg=\"true\"/>");
+    const Comparison compared(device, comparedIed);
+    const DataObject *value = objectOf(compared.indications(), "AnIn1");
+    const QVector<quint32> states = {value->getDAOByName("mag")->state,
+                                     value->getDAOByName("q")->state,
+                                     value->getDAOByName("t")->state};
+    QCOMPARE(states.count(3), 1);
+    QCOMPARE(states.at(2), quint32(1));
+    QVERIFY(!statesBelow(compared.first()->attributes).contains(3));
+}
+
+void tst_ComparedModel::aMissingFirstMemberMarksNoOther()
+{
+    const QByteArray device = changed(
+        comparedIed,
+        "<DataSet name=\"Both\"><FCDA ldInst=\"A\" lnClass=\"GGIO\" lnInst=\"1\" doName=\"Ind1\" "
+        "fc=\"ST\"/>",
+        "<DataSet name=\"Both\">");
+    const Comparison compared(device, comparedIed);
+    QCOMPARE(memberStates(compared.zero()->dataSet("Both")), QVector<int>({1, 0}));
+}
+
+void tst_ComparedModel::anEmptyDataSetIsNotShownAsTheFiles()
+{
+    DataSet file;
+    file.members.append(new DataSetMember{1, "IEDA/GGIO1$ST$Ind1"});
+    acsi::DataSetDescription device;
+    device.name = mms::ObjectName::inDomain("IEDA", "LLN0$Both");
+    DataSet shown;
+    FileComparison::fillDataSet(shown, device, &file);
+    QVERIFY(shown.members.isEmpty());
+}
+
+void tst_ComparedModel::aMissingRevisionIsMarked()
+{
+    const QByteArray device = changed(comparedIed, "<Val>2026-1</Val>", "<Val></Val>");
+    const Comparison compared(device, comparedIed);
+    QCOMPARE(objectOf(compared.zero(), "NamPlt")->getDAOByName("configRev")->state, quint32(3));
+}
+
+void tst_ComparedModel::theDataSetOfABlockIsComparedWhole()
+{
+    ReportControlBlock block;
+    block.reference = "LLN0$RP$urcb";
+    block.type = "RP";
+    block.dataSet = "Both";
+    QVERIFY(FileComparison::isAsConfigured(block, "IEDA", "IEDA/LLN0$Both", block));
+    QVERIFY(!FileComparison::isAsConfigured(block, "IEDA", "IEDA/GGIO1$Both", block));
+    QVERIFY(!FileComparison::isAsConfigured(block, "IEDA", "IEDB/LLN0$Both", block));
+    QVERIFY(!FileComparison::isAsConfigured(block, "IEDA", "@Both", block));
+    QVERIFY(!FileComparison::isAsConfigured(block, "IEDA", "", block));
+    block.dataSet.clear();
+    QVERIFY(FileComparison::isAsConfigured(block, "IEDA", "", block));
+}
+
+void tst_ComparedModel::dataSetsAreThoseOfTheMomentWhenABrowserOpens()
+{
+    Comparison compared(comparedIed, comparedIed);
+    QVERIFY(!compared.zero()->dataSet("Later"));
+    // Another client makes one.
+    Listener listener;
+    IedDriver other(listener.options());
+    other.setDevice(configurationFor(compared.ied()));
+    other.connectDevice(1);
+    QVERIFY(listener.waitForState(1, DeviceState::Online));
+    QString error;
+    QVERIFY2(other.createDataSet(1, "IEDA", "LLN0$Later", "IEDA/GGIO1$ST$Ind2", 0, error) ==
+                 OperationSucceeded,
+             qPrintable(error));
+    compared.load();
+    QVERIFY(compared.zero()->dataSet("Later"));
+    QCOMPARE(memberStates(compared.zero()->dataSet("Later")), QVector<int>({2}));
+    QCOMPARE(memberStates(compared.zero()->dataSet("Both")), QVector<int>({1, 1}));
+}
+
+void tst_ComparedModel::theAccessPointIsThatOfTheAddressOrTheSetting()
+{
+    // Two access points with servers of their own.
+    QByteArray text = changed(
+        comparedIed, "<LDevice inst=\"B\">",
+        "</Server></AccessPoint><AccessPoint name=\"S2\"><Server><Authentication none=\"true\"/>"
+        "<LDevice inst=\"B\">");
+    text = changed(text, "<IED name",
+                   "<Communication><SubNetwork name=\"N\"><ConnectedAP iedName=\"IED\" "
+                   "apName=\"S1\"><Address><P type=\"IP\">10.0.0.1</P></Address></ConnectedAP>"
+                   "<ConnectedAP iedName=\"IED\" apName=\"S2\"><Address><P type=\"IP\">10.0.0.2</P>"
+                   "</Address></ConnectedAP></SubNetwork></Communication><IED name");
+    const scl::ReadResult file =
+        scl::readBytes({text.constData(), static_cast<std::size_t>(text.size())});
+    QVERIFY(file.document);
+    const scl::Ied &ied = file.document->ieds.front();
+    const auto chosen = [&](const KnownDevice &device) {
         QString error;
-        QCOMPARE(driver.getIEDModel(1, bytes, error), OperationSucceeded);
-        const auto device = deviceFrom(bytes);
-        QCOMPARE(device->findTag("IEDA/GGIO1$MX$AnIn2$mag$f") != nullptr, text == more);
-        const QVector<PduCapture::Line> lines = driver.trace(1, 100000);
-        wasAsked << std::any_of(lines.begin(), lines.end(), [](const PduCapture::Line &line) {
-            return line.sent && line.text.contains("getVariableAccessAttributes");
-        });
-    }
-    // The third time the first description was still there.
-    QCOMPARE(wasAsked, QVector<bool>({true, true, false}));
+        const FileChoice choice = chooseServer(*file.document, ied, device, error);
+        if (!error.isEmpty())
+            return QStringList(error);
+        QStringList names;
+        for (const LogicalDevice *each : SclImport::makeDevice(ied, choice)->logicalDevices)
+            names.append(each->name);
+        return names;
+    };
+    QCOMPARE(chosen({{}, "10.0.0.1", {"IEDA"}}), QStringList("IEDA"));
+    QCOMPARE(chosen({{}, "10.0.0.2", {"IEDB"}}), QStringList("IEDB"));
+    QCOMPARE(chosen({"S2", "10.0.0.1", {"IEDB"}}), QStringList("IEDB"));
+    QCOMPARE(chosen({{}, "127.0.0.1", {"IEDB"}}), QStringList("IEDB"));
+    QCOMPARE(chosen({{}, "127.0.0.1", {"IEDA", "IEDB"}}), QStringList({"IEDA", "IEDB"}));
+    QCOMPARE(chosen({"S3", "10.0.0.1", {"IEDB"}}),
+             QStringList("The IED IED of the file has no access point \"S3\" with a server."));
+    // Under the name of the device's own.
+    QCOMPARE(chosen({{}, "127.0.0.1", {"Q1A", "Q1B"}}), QStringList({"Q1A", "Q1B"}));
+    QCOMPARE(chosen({{}, "127.0.0.1", {"Relay"}}),
+             QStringList("The device has none of the logical devices that the file describes for "
+                         "IED, such as IEDA."));
+}
+
+void tst_ComparedModel::aTemplateIsComparedByInstances()
+{
+    const QByteArray file = changed(comparedIed, "<IED name=\"IED\"", "<IED name=\"TEMPLATE\"");
+    const Comparison compared(comparedIed, file);
+    QCOMPARE(compared.device().logicalDevices.size(), 2);
+    for (const DataObject *object : compared.indications()->dataObjects)
+        QVERIFY(object->present);
+    QVERIFY(!statesBelow(compared.first()->attributes).contains(2));
+    QCOMPARE(memberStates(compared.zero()->dataSet("Both")), QVector<int>({1, 1}));
+    QCOMPARE(blockOf(compared.zero(), "brcb")->state, quint32(1));
+}
+
+void tst_ComparedModel::aFileOfAnotherDeviceIsToldInOneSentence()
+{
+    QByteArray file = comparedIed;
+    file.replace("inst=\"A\"", "inst=\"X\"").replace("ldInst=\"A\"", "ldInst=\"X\"");
+    file.replace("inst=\"B\"", "inst=\"Y\"").replace("<IED name=\"IED\"", "<IED name=\"OTHER\"");
+    Comparison compared(comparedIed, file);
+    QCOMPARE(compared.driver().status(1).reason,
+             QStringLiteral("The SCL file is not used: The device has none of the logical devices "
+                            "that the file describes for OTHER, such as OTHERX."));
+    QCOMPARE(compared.device().logicalDevices.size(), 2);
+    QCOMPARE(compared.first()->getDAOByName("stVal")->state, quint32(1));
 }
 
 QTEST_GUILESS_MAIN(tst_ComparedModel)

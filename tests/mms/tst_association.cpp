@@ -180,6 +180,26 @@ TEST_F(AssociationTest, OnlyTheRightPasswordOpensAnAssociation)
     EXPECT_TRUE(connect(port, right).ok());
 }
 
+TEST_F(AssociationTest, AServerTakesTheSmallPduSizeThatAPeerProposes)
+{
+    const std::uint16_t port = startServer();
+    RawPeer peer;
+    peer.connect(port);
+    Stack stack(Stack::Role::Initiator, {});
+    InitiateParameters parameters;
+    parameters.maxPduSize = 512;
+    peer.send(stack.connect(encode(InitiateRequestPdu{parameters})).octets);
+    std::vector<StackEvent> events;
+    ASSERT_TRUE(peer.feed(stack, events));
+    const auto *confirm = std::get_if<AssociateConfirm>(&events.front());
+    ASSERT_TRUE(confirm);
+    const auto pdu = decodePdu(confirm->pdu);
+    ASSERT_TRUE(pdu.ok());
+    const auto *response = std::get_if<InitiateResponsePdu>(&*pdu);
+    ASSERT_TRUE(response);
+    EXPECT_EQ(response->parameters.maxPduSize, 512);
+}
+
 TEST_F(AssociationTest, AServerRefusesAPduSizeThatIsTooSmallToWorkWith)
 {
     const std::uint16_t port = startServer();
@@ -187,7 +207,7 @@ TEST_F(AssociationTest, AServerRefusesAPduSizeThatIsTooSmallToWorkWith)
     peer.connect(port);
     Stack stack(Stack::Role::Initiator, {});
     InitiateParameters parameters;
-    parameters.maxPduSize = smallestPduSize - 1;
+    parameters.maxPduSize = 63;
     peer.send(stack.connect(encode(InitiateRequestPdu{parameters})).octets);
     std::vector<StackEvent> events;
     ASSERT_TRUE(peer.feed(stack, events));

@@ -302,6 +302,18 @@ TEST(Pdu, ServicesSupportedOfFewerBitsAreReadAsTheyAre)
     EXPECT_FALSE(parameters.maxPduSize);
 }
 
+TEST(Pdu, EmptyAnswersAreTakenInEitherForm)
+{
+    const auto created = decodePdu(fromHex("a106 0202012c ab00"));
+    ASSERT_TRUE(created) << created.error().message;
+    EXPECT_TRUE(std::holds_alternative<DefineNamedVariableListResponse>(
+        std::get<ConfirmedResponsePdu>(*created).response));
+    const auto other = decodePdu(fromHex("a109 0202012c ab03800101"));
+    ASSERT_TRUE(other) << other.error().message;
+    EXPECT_FALSE(std::holds_alternative<DefineNamedVariableListResponse>(
+        std::get<ConfirmedResponsePdu>(*other).response));
+}
+
 TEST(Pdu, RejectsAreExplained)
 {
     EXPECT_EQ(describe(RejectPdu{7, RejectedPdu::ConfirmedRequest, 1}),

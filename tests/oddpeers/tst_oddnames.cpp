@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Only the type of a structure tells the order of what is in it; names come in the order that the
 // device likes. Values that are read whole are compared leaf by leaf with those of the device.
+#include "acsi/scripteddevice.h"
 #include "driver/simulatedstation.h"
 
 #include "acsi/client.h"
@@ -128,8 +129,7 @@ asio::awaitable<void> compare(std::uint16_t port, int pduSize,
         result.wrong.append(text(description.error().message));
         co_return;
     }
-    const OnlineModel model(
-        std::make_shared<const acsi::ServerDescription>(std::move(*description)), "IED", nullptr);
+    const OnlineModel model(std::move(*description), "IED", nullptr);
 
     std::deque<acsi::Reference> wanted;
     for (const acsi::DeviceDescription &device : model.description().devices) {
@@ -269,6 +269,57 @@ QString firstOf(const QStringList &lines)
 
 } // namespace
 
+/// A device made of tables that serves on loopback.
+class TableDevice
+{
+public:
+    TableDevice()
+        : m_work(asio::make_work_guard(m_context))
+        , m_thread([this] { m_context.run(); })
+    {
+    }
+    ~TableDevice()
+    {
+        if (m_server)
+            m_server->stop();
+        m_server.reset();
+        m_work.reset();
+        m_thread.join();
+    }
+
+    void serve()
+    {
+        mms::ServerOptions options;
+        options.address = "127.0.0.1";
+        options.port = 0;
+        m_server = mms::Server::create(m_context.get_executor(), options, tables);
+        const auto port = m_server->start();
+        if (!port)
+            qFatal("%s", port.error().message.c_str());
+        configuration.number = 1;
+        configuration.name = "TABLES";
+        configuration.host = "127.0.0.1";
+        configuration.port = *port;
+    }
+
+    std::shared_ptr<acsitest::ScriptedDevice> tables = std::make_shared<acsitest::ScriptedDevice>();
+    DeviceConfiguration configuration;
+
+private:
+    asio::io_context m_context;
+    asio::executor_work_guard<asio::io_context::executor_type> m_work;
+    std::shared_ptr<mms::Server> m_server;
+    std::thread m_thread;
+};
+
+mms::TypeDescription indication()
+{
+    return mms::TypeDescription::structure(
+        {{"ST", mms::TypeDescription::structure(
+                    {{"Ind", mms::TypeDescription::structure(
+                                 {{"stVal", mms::TypeDescription::boolean()}})}})}});
+}
+
 class tst_OddNames : public QObject
 {
     Q_OBJECT
@@ -277,6 +328,10 @@ private slots:
     void valuesKeepTheirNamesWhateverTheOrderOfTheNames_data();
     void valuesKeepTheirNamesWhateverTheOrderOfTheNames();
     void theDriverPollsWhatWasDescribedInParts();
+    void anArrayOfEnormousCountIsLeftOutAndTold();
+    void moreLogicalDevicesThanAnyDeviceHasAreLeftOutAndTold();
+    void readingNamesWithoutEndEndsWhenNobodyWantsIt_data();
+    void readingNamesWithoutEndEndsWhenNobodyWantsIt();
     void everyLeafOfTheFolderHasItsOwnValue_data();
     void everyLeafOfTheFolderHasItsOwnValue();
 };
@@ -328,6 +383,90 @@ void tst_OddNames::theDriverPollsWhatWasDescribedInParts()
     QVERIFY(listener.waitForReferences(400 * 4, PublishCause::Read));
     QCOMPARE(listener.value("MANYLD/GGIO1$MX$Obj10$mag$i").value.toInt(),
              static_cast<int>(*ied.value("MANYLD", "GGIO1$MX$Obj10$mag$i").toInteger()));
+}
+
+void tst_OddNames::anArrayOfEnormousCountIsLeftOutAndTold()
+{
+    TableDevice device;
+    mms::TypeDescription type = indication();
+    type.components.front().type.components.push_back(
+        {"Har", mms::TypeDescription::structure(
+                    {{"har", mms::TypeDescription::array(4294967295U,
+                                                         mms::TypeDescription::float32())}})});
+    device.tables->domains["LD"].nodes["GGIO1"] = type;
+    device.tables->values["LD/GGIO1$ST$Ind"] =
+        mms::Data::structure({mms::Data::boolean(true)});
+    device.serve();
+    Listener listener;
+    IedDriver driver(listener.options());
+    driver.setDevice(device.configuration);
+    driver.connectDevice(1);
+    QVERIFY(listener.waitForState(1, DeviceState::Online));
+    QVERIFY2(driver.status(1).reason.contains("LD/GGIO1$ST$Har$har is larger"),
+             qPrintable(driver.status(1).reason));
+    QVERIFY(listener.waitForValue("LD/GGIO1$ST$Ind$stVal", QVariant(true)));
+}
+
+void tst_OddNames::moreLogicalDevicesThanAnyDeviceHasAreLeftOutAndTold()
+{
+    TableDevice device;
+    device.tables->pageSize = 2000;
+    for (int i = 0; i < 100000; ++i)
+        device.tables->domains["LD" + std::to_string(i)].nodes["LLN0"] = indication();
+    device.serve();
+    Listener listener;
+    IedDriver driver(listener.options());
+    driver.setDevice(device.configuration);
+    driver.connectDevice(1);
+    QTRY_VERIFY_WITH_TIMEOUT(driver.status(1).state == DeviceState::Online, 60000);
+    QVERIFY2(driver.status(1).reason.contains("more than 1,000 logical devices"),
+             qPrintable(driver.status(1).reason));
+    QByteArray bytes;
+    QString error;
+    QCOMPARE(driver.getIEDModel(1, bytes, error), OperationSucceeded);
+    QCOMPARE(deviceFrom(bytes)->logicalDevices.size(), 1000);
+}
+
+void tst_OddNames::readingNamesWithoutEndEndsWhenNobodyWantsIt_data()
+{
+    QTest::addColumn<int>("way");
+    QTest::newRow("disconnect") << 0;
+    QTest::newRow("cancel") << 1;
+    QTest::newRow("remove") << 2;
+}
+
+void tst_OddNames::readingNamesWithoutEndEndsWhenNobodyWantsIt()
+{
+    QFETCH(int, way);
+    TableDevice device;
+    std::atomic<int> pages = 0;
+    device.tables->domains["LD"].nodes["LLN0"] = indication();
+    device.tables->intercept = [&pages](const auto &association, std::uint32_t invokeId,
+                                        mms::RequestService &request) {
+        const auto *list = std::get_if<mms::GetNameListRequest>(&request);
+        if (!list || list->objectClass != mms::ObjectClass::NamedVariable)
+            return false;
+        association->respond(invokeId, mms::GetNameListResponse{
+                                           {"LLN0$ST$Ind" + std::to_string(++pages)}, true});
+        return true;
+    };
+    device.serve();
+    Listener listener;
+    IedDriver driver(listener.options());
+    driver.setDevice(device.configuration);
+    driver.connectDevice(1);
+    QTRY_VERIFY_WITH_TIMEOUT(pages > 50, 20000);
+    if (way == 0)
+        driver.disconnectDevice(1);
+    else if (way == 1)
+        driver.cancelReading(1);
+    else
+        driver.removeDevice(1);
+    if (way != 2)
+        QVERIFY(listener.waitForState(1, DeviceState::Disconnected));
+    // Whatever was on the way has been answered; nothing more is asked.
+    int before = -1;
+    QTRY_VERIFY_WITH_TIMEOUT(std::exchange(before, int(pages)) == pages, 20000);
 }
 
 void tst_OddNames::everyLeafOfTheFolderHasItsOwnValue_data()
