@@ -171,6 +171,8 @@ void DeviceConnection::disconnect(std::function<void()> left)
     asio::post(m_strand, [self = shared_from_this(), left = std::move(left)]() mutable {
         self->m_wanted = false;
         self->m_dormant = false;
+        if (self->m_readingCancelled)
+            *self->m_readingCancelled = true;
         if (left && self->m_living)
             self->m_left.push_back(std::move(left));
         else if (left)
@@ -186,6 +188,8 @@ void DeviceConnection::abort()
             return;
         self->m_wanted = false;
         self->m_dormant = true;
+        if (self->m_readingCancelled)
+            *self->m_readingCancelled = true;
         if (self->m_client)
             self->m_client->abort(Texts::tr("Aborted by the operator.").toStdString());
         self->wake();

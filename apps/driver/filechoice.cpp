@@ -20,8 +20,8 @@ QString text(std::string_view utf8)
 bool hasAnyOf(const scl::AccessPoint &point, const QStringList &logicalDevices)
 {
     return point.server && std::ranges::any_of(point.server->devices, [&](const auto &device) {
-        return logicalDevices.contains(text(device.name));
-    });
+               return logicalDevices.contains(text(device.name));
+           });
 }
 
 /// The names that the device gives the logical devices of the file when all begin with the name of

@@ -10,7 +10,7 @@
 /// Which of an IED's servers in a file a device is, and how the device calls what is in it.
 struct FileChoice
 {
-    QStringList accessPoints; ///< with a server; empty for all
+    QStringList accessPoints;      ///< with a server; empty for all
     QHash<QString, QString> names; ///< of the device, by the file's; where they differ
 
     QString nameOf(const QString &logicalDevice) const

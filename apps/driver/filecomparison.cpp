@@ -5,54 +5,30 @@
 #include "acsi/reference.h"
 
 #include <algorithm>
-#include <utility>
+#include <iterator>
 #include <vector>
 
 namespace {
-
-/// Steps that a comparison of two orders may take; longer lists are compared place by place.
-constexpr std::size_t mostSteps = 4'000'000;
 
 QString text(std::string_view utf8)
 {
     return QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
 }
 
-/// Places in @p names of a longest sequence that @p others has in the same order, each once.
-std::vector<bool> inCommonOrder(const QStringList &names, const QStringList &others)
+/// Places in @p names of those that stand at another place among the names of both, or in
+/// @p others not at all.
+std::vector<bool> moved(const QStringList &names, const QStringList &others)
 {
-    const auto rows = static_cast<std::size_t>(names.size());
-    const auto columns = static_cast<std::size_t>(others.size());
-    std::vector<bool> common(rows, false);
-    const auto isSame = [&](std::size_t row, std::size_t column) {
-        return names.at(static_cast<int>(row)) == others.at(static_cast<int>(column));
-    };
-    if (rows * columns > mostSteps) {
-        for (std::size_t i = 0; i < std::min(rows, columns); ++i)
-            common[i] = isSame(i, i);
-        return common;
-    }
-    std::vector<std::vector<int>> longest(rows + 1, std::vector<int>(columns + 1, 0));
-    for (std::size_t row = rows; row-- > 0;) {
-        for (std::size_t column = columns; column-- > 0;) {
-            longest[row][column] = isSame(row, column)
-                                       ? longest[row + 1][column + 1] + 1
-                                       : std::max(longest[row + 1][column],
-                                                  longest[row][column + 1]);
-        }
-    }
-    for (std::size_t row = 0, column = 0; row < rows && column < columns;) {
-        if (isSame(row, column)) {
-            common[row] = true;
-            ++row;
-            ++column;
-        } else if (longest[row + 1][column] >= longest[row][column + 1]) {
-            ++row;
-        } else {
-            ++column;
-        }
-    }
-    return common;
+    const QSet<QString> own(names.begin(), names.end());
+    QStringList common;
+    std::copy_if(others.begin(), others.end(), std::back_inserter(common),
+                 [&own](const QString &name) { return own.contains(name); });
+    const QSet<QString> shared(common.begin(), common.end());
+    std::vector<bool> result;
+    int place = 0;
+    for (const QString &name : names)
+        result.push_back(!shared.contains(name) || common.value(place++) != name);
+    return result;
 }
 
 } // namespace
@@ -128,19 +104,12 @@ std::unique_ptr<LogicalDevice> FileComparison::absentCopy(const LogicalDevice &s
 
 QSet<QString> FileComparison::outOfOrder(const QStringList &names, const QStringList &fileNames)
 {
-    QStringList own;
-    QStringList file;
-    std::copy_if(names.begin(), names.end(), std::back_inserter(own),
-                 [&](const QString &name) { return fileNames.contains(name); });
-    std::copy_if(fileNames.begin(), fileNames.end(), std::back_inserter(file),
-                 [&](const QString &name) { return names.contains(name); });
     QSet<QString> result;
-    if (own == file)
-        return result;
-    const std::vector<bool> common = inCommonOrder(own, file);
-    for (std::size_t i = 0; i < common.size(); ++i) {
-        if (!common[i])
-            result.insert(own.at(static_cast<int>(i)));
+    const std::vector<bool> places = moved(names, fileNames);
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        const QString &name = names.at(static_cast<int>(i));
+        if (places[i] && fileNames.contains(name))
+            result.insert(name);
     }
     return result;
 }
@@ -161,11 +130,11 @@ void FileComparison::fillDataSet(DataSet &shown, const acsi::DataSetDescription 
         const mms::Result<acsi::Reference> reference = acsi::referenceOf(member);
         members.append(text(reference ? acsi::toText(*reference) : mms::toText(member)));
     }
-    const std::vector<bool> common = inCommonOrder(members, fileMembers);
-    for (std::size_t i = 0; i < common.size(); ++i) {
+    const std::vector<bool> places = moved(members, fileMembers);
+    for (std::size_t i = 0; i < places.size(); ++i) {
         const QString &name = members.at(static_cast<int>(i));
         quint8 state = agreeing;
-        if (file && !common[i])
+        if (file && places[i])
             state = fileMembers.contains(name) ? differing : additional;
         shown.members.append(new DataSetMember{state, name});
     }
@@ -185,8 +154,7 @@ bool FileComparison::isAsConfigured(const ReportControlBlock &block, const QStri
     if (sameDataSet && !dataSet.empty()) {
         const mms::Result<mms::ObjectName> given = acsi::dataSetName(domain, dataSet);
         const QString expected = node + QLatin1Char('$') + file.dataSet;
-        sameDataSet =
-            given && *given == mms::ObjectName::inDomain(domain, expected.toStdString());
+        sameDataSet = given && *given == mms::ObjectName::inDomain(domain, expected.toStdString());
     }
     // Without a configured identifier the device takes the block's reference.
     const bool sameId = file.rptId.isEmpty() || file.rptId == block.rptId;
@@ -194,9 +162,8 @@ bool FileComparison::isAsConfigured(const ReportControlBlock &block, const QStri
     const bool isBuffered = file.type == QLatin1String("BR");
     const bool sameEntries = !isBuffered || (block.optBufferOverflow == file.optBufferOverflow &&
                                              block.optEntryId == file.optEntryId);
-    return sameId && sameEntries && sameDataSet &&
-           block.confRev == file.confRev && block.integrityPeriod == file.integrityPeriod &&
-           block.bufferTime == file.bufferTime &&
+    return sameId && sameEntries && sameDataSet && block.confRev == file.confRev &&
+           block.integrityPeriod == file.integrityPeriod && block.bufferTime == file.bufferTime &&
            block.triggerDataChange == file.triggerDataChange &&
            block.triggerQualityChange == file.triggerQualityChange &&
            block.triggerDataUpdate == file.triggerDataUpdate &&

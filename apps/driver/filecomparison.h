@@ -28,8 +28,7 @@ std::unique_ptr<DataSet> absentCopy(const DataSet &source);
 std::unique_ptr<LogicalNode> absentCopy(const LogicalNode &source);
 std::unique_ptr<LogicalDevice> absentCopy(const LogicalDevice &source);
 
-/// The names of both that have to change their places to turn one order into the other; as few as
-/// possible.
+/// The names of both that stand at another place among them.
 QSet<QString> outOfOrder(const QStringList &names, const QStringList &fileNames);
 
 /// Enters the members of a data set; @p file may be null. A data set that is empty on the device

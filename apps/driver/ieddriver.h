@@ -18,8 +18,7 @@ class QIODevice;
 struct IedDriverOptions
 {
     int threads = 2;
-    /// Folder in which the descriptions that devices gave of themselves are kept between starts;
-    /// empty for none.
+    /// Folder of what is remembered of devices between starts; empty for none.
     QString cacheFolder;
     /// Octets of the last PDUs that are kept of each device, for captures and traces.
     std::size_t captureOctets = PduCapture::defaultLimit;

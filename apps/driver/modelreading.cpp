@@ -89,9 +89,12 @@ asio::awaitable<QString> DeviceConnection::getReady(ClientPointer client)
     const bool wasCancelled = *m_readingCancelled;
     m_readingCancelled.reset();
     if (wasCancelled) {
+        const QString reason = Texts::tr("Reading the model was cancelled.");
+        // Who disconnects meanwhile has a reason of his own.
+        if (m_wanted)
+            m_leaveReason = reason;
         m_wanted = false;
-        m_leaveReason = Texts::tr("Reading the model was cancelled.");
-        co_return m_leaveReason;
+        co_return reason;
     }
     if (!description)
         co_return text(description.error().message);

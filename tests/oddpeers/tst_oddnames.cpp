@@ -394,8 +394,7 @@ void tst_OddNames::anArrayOfEnormousCountIsLeftOutAndTold()
                     {{"har", mms::TypeDescription::array(4294967295U,
                                                          mms::TypeDescription::float32())}})});
     device.tables->domains["LD"].nodes["GGIO1"] = type;
-    device.tables->values["LD/GGIO1$ST$Ind"] =
-        mms::Data::structure({mms::Data::boolean(true)});
+    device.tables->values["LD/GGIO1$ST$Ind"] = mms::Data::structure({mms::Data::boolean(true)});
     device.serve();
     Listener listener;
     IedDriver driver(listener.options());
@@ -446,8 +445,8 @@ void tst_OddNames::readingNamesWithoutEndEndsWhenNobodyWantsIt()
         const auto *list = std::get_if<mms::GetNameListRequest>(&request);
         if (!list || list->objectClass != mms::ObjectClass::NamedVariable)
             return false;
-        association->respond(invokeId, mms::GetNameListResponse{
-                                           {"LLN0$ST$Ind" + std::to_string(++pages)}, true});
+        association->respond(
+            invokeId, mms::GetNameListResponse{{"LLN0$ST$Ind" + std::to_string(++pages)}, true});
         return true;
     };
     device.serve();
