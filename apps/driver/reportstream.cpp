@@ -52,7 +52,9 @@ bool isSameDataSet(const acsi::Reference &block, const std::string &left, const 
 void ReportStream::start(Block block)
 {
     const std::string key = acsi::toText(block.block);
-    m_blocks.insert_or_assign(key, Followed{std::move(block), acsi::ReportAssembler(), {}, {}});
+    Followed followed;
+    followed.block = std::move(block);
+    m_blocks.insert_or_assign(key, std::move(followed));
 }
 
 void ReportStream::settle(const std::string &block, const std::string &rptId,
@@ -158,12 +160,17 @@ void ReportStream::follow(Followed &followed, const acsi::Report &segment, Taken
         const std::uint32_t now = *segment.sqNum;
         const std::optional<std::uint32_t> before = followed.sqNum;
         // The same again is another part, or a device that does not count.
-        if (before && now != *before && !isNext(*before, now)) {
+        const bool isConsecutive = before && (now == *before || isNext(*before, now));
+        if (!isConsecutive && followed.beforeMissing && isNext(*followed.beforeMissing, now)) {
+            // Nothing was missing.
+            followed.isAttributeWrong = true;
+        } else if (before && !isConsecutive) {
             taken.faults.push_back(ReportFault::Gap);
             taken.missing = now > *before ? now - *before - 1 : 0;
         }
         followed.sqNum = now;
         followed.suspected.reset();
+        followed.beforeMissing.reset();
     }
     if (segment.bufOvfl) {
         // Some devices say it again until they are asked something.
@@ -262,7 +269,7 @@ std::vector<std::string> ReportStream::expire(Time now)
 bool ReportStream::isBehind(const std::string &block, std::uint32_t sqNum)
 {
     const auto found = m_blocks.find(block);
-    if (found == m_blocks.end() || !found->second.sqNum)
+    if (found == m_blocks.end() || !found->second.sqNum || found->second.isAttributeWrong)
         return false;
     Followed &followed = found->second;
     const std::uint32_t last = *followed.sqNum;
@@ -275,6 +282,7 @@ bool ReportStream::isBehind(const std::string &block, std::uint32_t sqNum)
         return false;
     }
     followed.suspected.reset();
+    followed.beforeMissing = last;
     followed.sqNum = sqNum;
     return true;
 }

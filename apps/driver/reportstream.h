@@ -83,7 +83,7 @@ public:
     /// Given the attribute SqNum of the block, which counts what the device has sent: whether
     /// reports must have been lost behind the last one that came. Devices differ in whether they
     /// tell the last number or the next one, so only a difference that is still there at the second
-    /// look counts.
+    /// look counts. A device whose attribute turns out not to count is not believed again.
     bool isBehind(const std::string &block, std::uint32_t sqNum);
 
 private:
@@ -93,6 +93,9 @@ private:
         acsi::ReportAssembler assembler;
         std::optional<std::uint32_t> sqNum; ///< of the last report, or part
         std::optional<std::uint32_t> suspected;
+        /// The last report's, when the attribute said that others are missing behind it.
+        std::optional<std::uint32_t> beforeMissing;
+        bool isAttributeWrong = false;
         bool isOverflown = false;
     };
 

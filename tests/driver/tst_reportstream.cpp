@@ -84,6 +84,7 @@ private slots:
     void aMemberThatIsNoDataIsTold();
     void aReportUnderAnUnknownNameConcernsAll();
     void numbersOfTheBlockTellWhatIsMissingBehindTheLastReport();
+    void aBlockThatDoesNotCountIsNotBelieved();
     void stoppedBlocksTakeNothing();
 };
 
@@ -396,6 +397,20 @@ void tst_ReportStream::numbersOfTheBlockTellWhatIsMissingBehindTheLastReport()
     QVERIFY(stream.take(report("id", 9), {}).faults.empty());
     QVERIFY(!stream.isBehind(first, 11));
     QVERIFY(!stream.isBehind("nobody", 11));
+}
+
+void tst_ReportStream::aBlockThatDoesNotCountIsNotBelieved()
+{
+    ReportStream stream;
+    stream.start(block(first, "id", "A"));
+    stream.take(report("id", 7), {});
+    QVERIFY(!stream.isBehind(first, 0));
+    QVERIFY(stream.isBehind(first, 0));
+    QVERIFY(stream.take(report("id", 8), {}).faults.empty());
+    for (int look = 0; look < 3; ++look)
+        QVERIFY(!stream.isBehind(first, 0));
+    // Numbers of reports count as before.
+    QVERIFY(stream.take(report("id", 10), {}).faults == Faults{ReportFault::Gap});
 }
 
 void tst_ReportStream::stoppedBlocksTakeNothing()
