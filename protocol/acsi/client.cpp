@@ -24,6 +24,16 @@ using mms::DataAccessError;
 
 constexpr auto asTuple = asio::experimental::as_tuple(asio::use_awaitable);
 
+/// What a client does for its peer: it has files fetched from it, and hears reports.
+mms::AssociationOptions withOwnServices(mms::AssociationOptions options)
+{
+    for (const mms::Service service :
+         {mms::Service::FileOpen, mms::Service::FileRead, mms::Service::FileClose,
+          mms::Service::InformationReport, mms::Service::Conclude})
+        options.services.set(static_cast<std::size_t>(service));
+    return options;
+}
+
 mms::Error cancelledError()
 {
     return {"The call was cancelled.", 0};
@@ -174,7 +184,8 @@ Client::connect(asio::any_io_executor executor, std::string host, std::uint16_t 
     const auto client = std::make_shared<Client>(Private(), std::move(options));
     client->m_closed = std::move(closed);
     client->m_association =
-        mms::Association::create(executor, client->m_options.association, client->handlers());
+        mms::Association::create(executor, withOwnServices(client->m_options.association),
+                                 client->handlers());
     auto opening = open(client, std::move(host), port);
     const mms::Result<void> opened =
         co_await asio::co_spawn(client->strand(), std::move(opening), asio::use_awaitable);

@@ -96,6 +96,7 @@ Association::Association(Private, Link::Strand strand, AssociationOptions option
     , m_handlers(std::move(handlers))
     , m_table(1, m_options.grace)
     , m_timer(m_strand)
+    , m_concludeTimer(m_strand)
 {
     m_options.maxPduSize = std::max(m_options.maxPduSize, smallestPduSize);
 }
@@ -128,17 +129,20 @@ asio::awaitable<Result<InitiateParameters>> Association::connect(std::string hos
 }
 
 Association::CallId Association::call(RequestService request, std::chrono::milliseconds timeout,
-                                      CallHandler handler)
+                                      CallHandler handler, GivenUpCall givenUp)
 {
     const CallId id = ++m_lastId;
     const auto deadline = CallTable::Clock::now() + timeout;
-    asio::dispatch(m_strand, [self = shared_from_this(), id, deadline,
+    asio::dispatch(m_strand, [self = shared_from_this(), id, deadline, givenUp,
                               request = std::move(request), handler = std::move(handler)]() mutable {
-        if (!self->m_open) {
-            handler(failure(CallFailure::Kind::NotOpen, "There is no association."));
+        if (!self->m_open || self->m_isConcluding) {
+            handler(failure(CallFailure::Kind::NotOpen,
+                            self->m_open ? "The association is being concluded."
+                                         : "There is no association."));
             return;
         }
-        const CallTable::Ticket ticket = self->m_table.add(deadline);
+        const CallTable::Ticket ticket =
+            self->m_table.add(deadline, givenUp == GivenUpCall::LeavesItsPlace);
         self->m_calls.emplace(ticket, Call{id, std::move(request), std::move(handler)});
         self->sendCalls();
     });
@@ -146,7 +150,8 @@ Association::CallId Association::call(RequestService request, std::chrono::milli
 }
 
 asio::awaitable<CallOutcome> Association::call(RequestService request,
-                                               std::chrono::milliseconds timeout)
+                                               std::chrono::milliseconds timeout,
+                                               GivenUpCall givenUp)
 {
     const auto self = shared_from_this();
     co_return co_await asio::async_initiate<const asio::use_awaitable_t<>, void(CallOutcome)>(
@@ -161,7 +166,7 @@ asio::awaitable<CallOutcome> Association::call(RequestService request,
                 });
             }
             *target = self->call(std::move(request), timeout,
-                                 completing<CallOutcome>(std::move(shared)));
+                                 completing<CallOutcome>(std::move(shared)), givenUp);
         },
         asio::use_awaitable);
 }
@@ -177,11 +182,15 @@ void Association::cancelInStrand(CallId id)
         m_calls, [id](const auto &entry) { return entry.second.id == id; });
     if (found == m_calls.end())
         return;
-    const CallTable::Ticket ticket = found->first;
+    giveUp(found->first, "The call was cancelled.");
+    startTimer();
+}
+
+void Association::giveUp(CallTable::Ticket ticket, std::string reason)
+{
     m_table.cancel(ticket, CallTable::Clock::now());
     tellCancelled(ticket);
-    finish(ticket, failure(CallFailure::Kind::Cancelled, "The call was cancelled."));
-    startTimer();
+    finish(ticket, failure(CallFailure::Kind::Cancelled, std::move(reason)));
 }
 
 void Association::respond(std::uint32_t invokeId, ResponseService response)
@@ -190,10 +199,11 @@ void Association::respond(std::uint32_t invokeId, ResponseService response)
                               response = std::move(response)]() mutable {
         if (!self->closeRequest(invokeId))
             return;
-        if (self->send(ConfirmedResponsePdu{invokeId, std::move(response)}))
-            return;
-        ServiceError error{ErrorClass::Resource, serviceerrors::resourceOther, {}, {}, {}};
-        self->send(ConfirmedErrorPdu{invokeId, std::nullopt, std::move(error)});
+        if (!self->send(ConfirmedResponsePdu{invokeId, std::move(response)})) {
+            ServiceError error{ErrorClass::Resource, serviceerrors::resourceOther, {}, {}, {}};
+            self->send(ConfirmedErrorPdu{invokeId, std::nullopt, std::move(error)});
+        }
+        self->answerConclude();
     });
 }
 
@@ -201,17 +211,20 @@ void Association::fail(std::uint32_t invokeId, ServiceError error)
 {
     asio::dispatch(m_strand,
                    [self = shared_from_this(), invokeId, error = std::move(error)]() mutable {
-                       if (self->closeRequest(invokeId))
-                           self->send(
-                               ConfirmedErrorPdu{invokeId, std::nullopt, std::move(error)});
+                       if (!self->closeRequest(invokeId))
+                           return;
+                       self->send(ConfirmedErrorPdu{invokeId, std::nullopt, std::move(error)});
+                       self->answerConclude();
                    });
 }
 
 void Association::reject(std::uint32_t invokeId, std::int32_t code)
 {
     asio::dispatch(m_strand, [self = shared_from_this(), invokeId, code] {
-        if (self->closeRequest(invokeId))
-            self->send(RejectPdu{invokeId, RejectedPdu::ConfirmedRequest, code});
+        if (!self->closeRequest(invokeId))
+            return;
+        self->send(RejectPdu{invokeId, RejectedPdu::ConfirmedRequest, code});
+        self->answerConclude();
     });
 }
 
@@ -253,10 +266,59 @@ void Association::conclude(std::function<void(Result<void>)> handler)
             handler(Error{"There is no association.", 0});
             return;
         }
+        if (self->m_isConcluding) {
+            self->m_concluded = [first = std::move(self->m_concluded),
+                                 second = std::move(handler)](const Result<void> &result) {
+                first(result);
+                second(result);
+            };
+            return;
+        }
         self->m_concluded = std::move(handler);
-        self->send(ConcludeRequestPdu());
-        self->m_link->expectRelease();
+        self->m_isConcluding = true;
+        self->sendConclude();
+        if (self->m_hasSentConclude)
+            return;
+        self->m_concludeTimer.expires_after(self->m_options.concludePatience);
+        self->m_concludeTimer.async_wait([weak = self->weak_from_this()](
+                                             const asio::error_code &error) {
+            const auto association = weak.lock();
+            if (error || !association)
+                return;
+            while (association->m_isConcluding && !association->m_calls.empty())
+                association->giveUp(association->m_calls.begin()->first,
+                                    "The association is being concluded.");
+            association->sendConclude();
+        });
     });
+}
+
+/// A peer refuses to conclude while it works on a call.
+void Association::sendConclude()
+{
+    if (!m_open || !m_isConcluding || m_hasSentConclude || !m_calls.empty())
+        return;
+    m_hasSentConclude = true;
+    m_concludeTimer.cancel();
+    send(ConcludeRequestPdu());
+    m_link->expectRelease();
+}
+
+void Association::concluded(Result<void> result)
+{
+    m_isConcluding = false;
+    m_hasSentConclude = false;
+    m_concludeTimer.cancel();
+    if (const auto handler = std::exchange(m_concluded, nullptr))
+        handler(std::move(result));
+}
+
+void Association::answerConclude()
+{
+    if (!m_isConcludeAwaited || !m_openRequests.empty())
+        return;
+    m_isConcludeAwaited = false;
+    send(ConcludeResponsePdu());
 }
 
 asio::awaitable<Result<void>> Association::conclude()
@@ -311,8 +373,7 @@ void Association::handle(StackEvent event)
     } else if (std::holds_alternative<ReleaseIndication>(event)) {
         m_link->answerRelease();
     } else if (std::holds_alternative<ReleaseConfirm>(event)) {
-        if (auto concluded = std::exchange(m_concluded, nullptr))
-            concluded({});
+        concluded({});
         close("The association was released.");
     } else if (const auto *lost = std::get_if<AssociationLost>(&event)) {
         close(lost->reason);
@@ -418,12 +479,13 @@ void Association::handlePdu(Bytes octets)
             sendCalls();
         }
     } else if (std::holds_alternative<ConcludeRequestPdu>(*pdu)) {
-        send(ConcludeResponsePdu());
+        m_isConcludeAwaited = true;
+        answerConclude();
     } else if (std::holds_alternative<ConcludeResponsePdu>(*pdu)) {
-        if (m_concluded)
+        if (m_hasSentConclude)
             m_link->release();
     } else if (const auto *error = std::get_if<ConcludeErrorPdu>(&*pdu)) {
-        if (auto concluded = std::exchange(m_concluded, nullptr)) {
+        if (m_hasSentConclude) {
             m_link->forgetRelease();
             concluded(Error{describe(error->error), 0});
         }
@@ -441,7 +503,7 @@ void Association::handleReject(const RejectPdu &reject, const PduHead &head, Byt
         m_refusesCancel = true;
         return;
     case RejectedPdu::ConcludeRequest:
-        if (auto concluded = std::exchange(m_concluded, nullptr)) {
+        if (m_hasSentConclude) {
             m_link->forgetRelease();
             concluded(Error{describe(reject) + '.', 0});
         }
@@ -467,6 +529,7 @@ void Association::handleCancel(std::uint32_t invokeId)
         invokeId,
         std::nullopt,
         {ErrorClass::ServicePreempt, serviceerrors::preemptCancel, {}, {}, {}}});
+    answerConclude();
 }
 
 void Association::handleRequest(ConfirmedRequestPdu pdu)
@@ -550,6 +613,7 @@ void Association::finish(CallTable::Ticket ticket, CallOutcome outcome)
     auto call = m_calls.extract(ticket);
     if (!call.empty())
         call.mapped().handler(std::move(outcome));
+    sendConclude();
 }
 
 // The timer may fire earlier than needed: setting it again for each call would cost more.
@@ -581,9 +645,14 @@ void Association::expireTimer()
     m_timerRuns = false;
     const auto now = CallTable::Clock::now();
     for (const CallTable::Ticket ticket : m_table.expire(now)) {
+        CallFailure late =
+            failure(CallFailure::Kind::TimedOut, "The peer did not answer in time.");
+        late.wasSent = m_table.placeOf(ticket).has_value();
+        if (!late.wasSent)
+            late.message = "The request was not sent: it waited for a place behind calls that the "
+                           "peer has not answered.";
         tellCancelled(ticket);
-        finish(ticket,
-               failure(CallFailure::Kind::TimedOut, "The peer did not answer in time."));
+        finish(ticket, std::move(late));
     }
     if (isIdle(now)) {
         m_link->abort("The peer said nothing for "
@@ -614,7 +683,7 @@ void Association::askForSignOfLife(CallTable::Clock::time_point now)
     m_nextLifeCheck = m_link->lastHeard() + m_options.keepAlive;
     if (m_nextLifeCheck > now)
         return;
-    if (!m_table.hasPlace()) {
+    if (!m_table.hasPlace() || m_isConcluding) {
         m_nextLifeCheck = now + m_options.keepAlive;
         return;
     }
@@ -666,8 +735,7 @@ void Association::close(const std::string &reason)
         call.handler(failure(CallFailure::Kind::Lost, reason));
     if (auto opened = std::exchange(m_opened, nullptr))
         opened(Error{reason, 0});
-    if (auto concluded = std::exchange(m_concluded, nullptr))
-        concluded(Error{reason, 0});
+    concluded(Error{reason, 0});
     const Handlers handlers = std::exchange(m_handlers, {});
     if (wasOpen && handlers.closed)
         handlers.closed(reason);

@@ -33,6 +33,14 @@ struct CallFailure
 
     Kind kind = Kind::NotOpen;
     std::string message; ///< one sentence
+    /// False for a call that waited for a place until it ended: the peer was never asked.
+    bool wasSent = true;
+};
+
+/// What a call that is given up does to the places for calls on the way.
+enum class GivenUpCall : std::uint8_t {
+    KeepsItsPlace, ///< until its answer comes or AssociationOptions::grace is over
+    LeavesItsPlace ///< at once; for questions that some peers never answer
 };
 
 /// How a call ended.
@@ -69,6 +77,8 @@ struct AssociationOptions
     std::chrono::milliseconds keepAlive{0};
     /// Until the sign of life must have come; the association is aborted otherwise.
     std::chrono::milliseconds keepAliveTimeout{5000};
+    /// How long conclude() waits for calls under way before it gives them up.
+    std::chrono::milliseconds concludePatience{1000};
     /// A peer that says nothing for so long is cut off; 0 for never. Meant for servers.
     std::chrono::milliseconds idleLimit{0};
 };
@@ -142,9 +152,11 @@ public:
     asio::awaitable<Result<InitiateParameters>> connect(std::string host, std::uint16_t port);
 
     /// Call a service of the peer. @p timeout counts from now, waiting for a place included.
-    CallId call(RequestService request, std::chrono::milliseconds timeout, CallHandler handler);
+    CallId call(RequestService request, std::chrono::milliseconds timeout, CallHandler handler,
+                GivenUpCall givenUp = GivenUpCall::KeepsItsPlace);
     /// Cancelling the awaiting coroutine cancels the call.
-    asio::awaitable<CallOutcome> call(RequestService request, std::chrono::milliseconds timeout);
+    asio::awaitable<CallOutcome> call(RequestService request, std::chrono::milliseconds timeout,
+                                      GivenUpCall givenUp = GivenUpCall::KeepsItsPlace);
     /// End a call with CallFailure::Kind::Cancelled, unless it is over. A peer that knows the
     /// service Cancel is told, as it is of a call whose deadline passed.
     void cancel(CallId id);
@@ -161,8 +173,9 @@ public:
     /// association with more than LinkOptions::maxQueued octets waiting is cut off.
     void whenQueued(std::size_t octets, std::function<void()> handler);
 
-    /// Conclude and release; the handler hears how it went. An association that cannot be
-    /// concluded in time is aborted.
+    /// Conclude and release; the handler hears how it went. Calls under way are waited for, but not
+    /// beyond AssociationOptions::concludePatience; new ones are refused. An association that cannot
+    /// be concluded in time is aborted.
     void conclude(std::function<void(Result<void> result)> handler);
     asio::awaitable<Result<void>> conclude();
     /// End at once.
@@ -203,6 +216,9 @@ private:
     void handleCancel(std::uint32_t invokeId);
     bool closeRequest(std::uint32_t invokeId);
     void handleAnswer(const PduHead &head, Bytes octets);
+    void sendConclude();
+    void concluded(Result<void> result);
+    void answerConclude();
     void rejectMalformed(const std::optional<PduHead> &head);
     void sendCalls();
     void finish(CallTable::Ticket ticket, CallOutcome outcome);
@@ -215,6 +231,7 @@ private:
     void open(const InitiateParameters &parameters);
     void close(const std::string &reason);
     void cancelInStrand(CallId id);
+    void giveUp(CallTable::Ticket ticket, std::string reason);
 
     Link::Strand m_strand;
     AssociationOptions m_options;
@@ -226,6 +243,9 @@ private:
     std::atomic<std::size_t> m_pduSize{0};
     bool m_open = false;
     bool m_closed = false;
+    bool m_isConcluding = false;      ///< conclude() was called
+    bool m_hasSentConclude = false;   ///< after the calls that were under way
+    bool m_isConcludeAwaited = false; ///< the peer asked; it is answered after its requests
     std::vector<std::uint32_t> m_openRequests;
     BitString m_peerServices;
     bool m_refusesCancel = false;
@@ -234,6 +254,7 @@ private:
     CallTable m_table;
     std::map<CallTable::Ticket, Call> m_calls;
     asio::steady_timer m_timer;
+    asio::steady_timer m_concludeTimer;
     bool m_timerRuns = false;
     std::atomic<CallId> m_lastId{0};
     std::atomic<std::uint64_t> m_late{0};

@@ -25,9 +25,9 @@ void CallTable::setLimit(std::size_t limit)
     m_limit = std::max<std::size_t>(limit, 1);
 }
 
-CallTable::Ticket CallTable::add(Clock::time_point deadline)
+CallTable::Ticket CallTable::add(Clock::time_point deadline, bool leavesPlace)
 {
-    m_waiting.push_back({++m_lastTicket, deadline});
+    m_waiting.push_back({++m_lastTicket, deadline, leavesPlace});
     return m_lastTicket;
 }
 
@@ -42,7 +42,7 @@ std::optional<CallTable::Sent> CallTable::next()
     } while (m_sent.contains(m_lastInvokeId));
     const Waiting call = m_waiting.front();
     m_waiting.pop_front();
-    m_sent.emplace(m_lastInvokeId, OnTheWay{call.ticket, call.deadline, false});
+    m_sent.emplace(m_lastInvokeId, OnTheWay{call.ticket, call.deadline, false, call.leavesPlace});
     return Sent{call.ticket, m_lastInvokeId};
 }
 
@@ -99,7 +99,7 @@ bool CallTable::cancel(Ticket ticket, Clock::time_point now)
         return false;
     OnTheWay &call = m_sent.at(*invokeId);
     call.givenUp = true;
-    call.deadline = now + m_grace;
+    call.deadline = call.leavesPlace ? now : now + m_grace;
     return true;
 }
 
@@ -114,7 +114,7 @@ std::vector<CallTable::Ticket> CallTable::expire(Clock::time_point now)
             continue;
         result.push_back(call.ticket);
         call.givenUp = true;
-        call.deadline = now + m_grace;
+        call.deadline = call.leavesPlace ? now : now + m_grace;
     }
     std::erase_if(m_waiting, [now, &result](const Waiting &call) {
         if (call.deadline > now)

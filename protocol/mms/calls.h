@@ -40,8 +40,9 @@ public:
                        std::uint32_t lastInvokeId = 0);
 
     void setLimit(std::size_t limit);
-    /// A new call, behind those that wait.
-    Ticket add(Clock::time_point deadline);
+    /// A new call, behind those that wait. One that @p leavesPlace has none any more once it is
+    /// given up.
+    Ticket add(Clock::time_point deadline, bool leavesPlace = false);
     /// The next call to be sent, with a new invoke id; none when none waits or the limit is reached.
     std::optional<Sent> next();
     /// An answer came: the call it belongs to, which is over now; none for a late or unknown answer.
@@ -72,12 +73,14 @@ private:
     {
         Ticket ticket;
         Clock::time_point deadline;
+        bool leavesPlace;
     };
     struct OnTheWay
     {
         Ticket ticket;
         Clock::time_point deadline;
         bool givenUp;
+        bool leavesPlace;
     };
 
     std::size_t m_limit;

@@ -4,6 +4,7 @@
 #include <asio/co_spawn.hpp>
 #include <asio/connect.hpp>
 #include <asio/experimental/as_tuple.hpp>
+#include <asio/post.hpp>
 #include <asio/use_awaitable.hpp>
 
 #include <algorithm>
@@ -28,6 +29,19 @@ bool isTls(std::uint8_t firstOctet)
     return firstOctet == 0x15 || firstOctet == 0x16;
 }
 
+/// What a certificate of the host has to be made out to.
+std::string certifiedName(const std::string &host)
+{
+    const auto address = numericAddress(host);
+    if (!address)
+        return host;
+    if (!address->is_v6())
+        return address->to_string();
+    asio::ip::address_v6 withoutScope = address->to_v6();
+    withoutScope.scope_id(0);
+    return withoutScope.to_string();
+}
+
 void prepare(asio::ip::tcp::socket &socket)
 {
     asio::error_code ignored;
@@ -42,7 +56,7 @@ Link::Link(Strand strand, LinkOptions options)
     , m_options(std::move(options))
     , m_stack(Stack::Role::Initiator, m_options.stack)
     , m_stream(asio::ip::tcp::socket(m_strand))
-    , m_resolver(m_strand)
+    , m_lookupTimer(m_strand)
     , m_establishTimer(m_strand)
     , m_sendTimer(m_strand)
     , m_releaseTimer(m_strand)
@@ -57,7 +71,7 @@ Link::Link(Strand strand, LinkOptions options, asio::ip::tcp::socket socket,
     , m_stack(Stack::Role::Responder, m_options.stack)
     , m_stream(std::move(socket))
     , m_tls(std::move(tls))
-    , m_resolver(m_strand)
+    , m_lookupTimer(m_strand)
     , m_establishTimer(m_strand)
     , m_sendTimer(m_strand)
     , m_releaseTimer(m_strand)
@@ -103,7 +117,7 @@ void Link::connect(std::string host, std::uint16_t port, Octets pdu, Handler han
         m_strand,
         [self = shared_from_this(), host = std::move(host), port,
          pdu = std::move(pdu)]() mutable {
-            return self->establish(std::move(host), port, std::move(pdu));
+            return self->live(self->establish(std::move(host), port, std::move(pdu)));
         },
         ending());
 }
@@ -113,7 +127,7 @@ void Link::serve(Handler handler)
     m_handler = std::move(handler);
     arm(Watch::Establish);
     asio::co_spawn(
-        m_strand, [self = shared_from_this()] { return self->attend(); }, ending());
+        m_strand, [self = shared_from_this()] { return self->live(self->attend()); }, ending());
 }
 
 void Link::accept(Bytes pdu)
@@ -214,17 +228,75 @@ void Link::abort(const std::string &reason)
     deliver(AssociationLost{false, reason});
 }
 
+/// The work of the whole life of the link. Handler and link keep each other, which the last event
+/// ends; where the execution context goes before, taking the coroutine with it, nobody else would.
+asio::awaitable<void> Link::live(asio::awaitable<void> work)
+{
+    struct Leftover
+    {
+        std::shared_ptr<Link> link;
+        bool isOver = false;
+
+        explicit Leftover(std::shared_ptr<Link> of)
+            : link(std::move(of))
+        {
+        }
+        Leftover(const Leftover &) = delete;
+        Leftover &operator=(const Leftover &) = delete;
+        ~Leftover()
+        {
+            if (!isOver)
+                const Handler dropped = std::exchange(link->m_handler, nullptr);
+        }
+    };
+    Leftover leftover(shared_from_this());
+    try {
+        co_await std::move(work);
+    } catch (...) {
+        leftover.isOver = true;
+        throw;
+    }
+    leftover.isOver = true;
+}
+
+asio::awaitable<HostAddresses> Link::addressesOf(std::string host)
+{
+    const auto self = shared_from_this();
+    if (const auto address = numericAddress(host))
+        co_return HostAddresses{{*address}, {}};
+    m_lookedUp = host;
+    const HostLookup lookup(host, m_options.lookUp,
+                            [strand = m_strand, weak = weak_from_this()](HostAddresses found) {
+                                asio::post(strand, [weak, found = std::move(found)]() mutable {
+                                    const auto link = weak.lock();
+                                    if (!link)
+                                        return;
+                                    link->m_found = std::move(found);
+                                    link->m_lookupTimer.cancel();
+                                });
+                            });
+    while (!m_found && !m_stack.isClosed()) {
+        m_lookupTimer.expires_at(asio::steady_timer::time_point::max());
+        co_await m_lookupTimer.async_wait(asTuple);
+    }
+    m_lookedUp.clear();
+    co_return m_found.value_or(HostAddresses());
+}
+
 asio::awaitable<void> Link::establish(std::string host, std::uint16_t port, Octets pdu)
 {
     const auto self = shared_from_this();
-    const auto [resolveError, endpoints] =
-        co_await m_resolver.async_resolve(host, std::to_string(port), asTuple);
-    if (resolveError) {
-        lose("The name \"" + host + "\" cannot be resolved: " + resolveError.message() + ".");
-        co_return;
-    }
+    const HostAddresses found = co_await addressesOf(host);
     if (m_stack.isClosed())
         co_return;
+    if (found.addresses.empty()) {
+        lose("The name \"" + host + "\" cannot be resolved: "
+             + (found.error.empty() ? "it has no address" : found.error) + ".");
+        co_return;
+    }
+    std::vector<asio::ip::tcp::endpoint> endpoints;
+    for (const asio::ip::address &address : found.addresses)
+        endpoints.emplace_back(address, port);
     const auto [connectError, endpoint] =
         co_await asio::async_connect(m_stream.socket(), endpoints, asTuple);
     if (connectError) {
@@ -237,7 +309,10 @@ asio::awaitable<void> Link::establish(std::string host, std::uint16_t port, Octe
         co_return;
     }
     prepare(m_stream.socket());
-    if (!co_await secure(TlsRole::Client))
+    std::optional<TlsOptions> tls = m_options.tls;
+    if (tls && tls->peerName.empty() && tls->pins.empty() && !tls->acceptsOtherNames)
+        tls->peerName = certifiedName(host);
+    if (!co_await secure(TlsRole::Client, tls ? &*tls : nullptr))
         co_return;
     if (m_options.trace)
         m_options.trace(Direction::Sent, pdu);
@@ -248,16 +323,16 @@ asio::awaitable<void> Link::establish(std::string host, std::uint16_t port, Octe
 asio::awaitable<void> Link::attend()
 {
     const auto self = shared_from_this();
-    if (co_await secure(TlsRole::Server))
+    if (co_await secure(TlsRole::Server, m_options.tls ? &*m_options.tls : nullptr))
         co_await readLoop();
 }
 
-asio::awaitable<bool> Link::secure(TlsRole role)
+asio::awaitable<bool> Link::secure(TlsRole role, const TlsOptions *options)
 {
-    if (!m_options.tls)
+    if (!options)
         co_return true;
     if (!m_tls) {
-        auto loaded = TlsContext::load(*m_options.tls);
+        auto loaded = TlsContext::load(*options);
         if (!loaded) {
             lose(loaded.error().message);
             co_return false;
@@ -432,6 +507,8 @@ void Link::arm(Watch watch)
         switch (watch) {
         case Watch::Establish:
             self->lose(!self->m_stream.refusal().empty() ? self->m_stream.refusal()
+                       : !self->m_lookedUp.empty()
+                           ? "The name \"" + self->m_lookedUp + "\" was not resolved in time."
                        : self->m_isSecuring ? "The peer did not complete the TLS handshake in time."
                                             : "The peer did not complete the association in time.");
             break;
@@ -459,7 +536,7 @@ asio::steady_timer &Link::timerOf(Watch watch)
 
 void Link::closeSocket()
 {
-    m_resolver.cancel();
+    m_lookupTimer.cancel();
     for (asio::steady_timer &delay : m_delays)
         delay.cancel();
     if (m_resetWhenSent)

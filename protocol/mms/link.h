@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "mms/hostlookup.h"
 #include "mms/interference.h"
 #include "mms/networkstream.h"
 #include "mms/stack.h"
@@ -35,8 +36,11 @@ struct LinkOptions
     /// Octets that may wait for the network before the peer is cut off.
     std::size_t maxQueued = 16 * 1024 * 1024;
     TraceHook trace;
-    /// Without, the connection is plain.
+    /// Without, the connection is plain. Unless the options say otherwise, the certificate of the
+    /// end that is connected to must be made out to the host that was asked for.
     std::optional<TlsOptions> tls;
+    /// Looks up hosts' names; without, the system does. Called in any thread, several at a time.
+    HostLookup::Function lookUp;
     /// Makes what changes PDUs of a link on their way, to simulate devices that misbehave; usually
     /// null. Called when a link is made.
     std::function<std::unique_ptr<Interference>()> interference;
@@ -78,7 +82,8 @@ public:
     /// end.
     void whenQueued(std::size_t octets, std::function<void()> handler);
 
-    /// Initiator: connect to @p host (a name or an address) and ask for an association.
+    /// Initiator: connect to @p host (a name or an address) and ask for an association. Addresses
+    /// are taken as they are; names are looked up apart (HostLookup).
     void connect(std::string host, std::uint16_t port, Octets pdu, Handler handler);
     /// Responder: wait for the peer's request.
     void serve(Handler handler);
@@ -103,9 +108,11 @@ private:
         std::function<void()> handler;
     };
 
+    asio::awaitable<void> live(asio::awaitable<void> work);
     asio::awaitable<void> establish(std::string host, std::uint16_t port, Octets pdu);
     asio::awaitable<void> attend();
-    asio::awaitable<bool> secure(TlsRole role);
+    asio::awaitable<HostAddresses> addressesOf(std::string host);
+    asio::awaitable<bool> secure(TlsRole role, const TlsOptions *options);
     asio::awaitable<void> readLoop();
     asio::awaitable<void> writeLoop();
     void pass(Bytes pdu, bool accepts);
@@ -126,11 +133,13 @@ private:
     Stack m_stack;
     NetworkStream m_stream;
     std::shared_ptr<const TlsContext> m_tls;
-    asio::ip::tcp::resolver m_resolver;
+    asio::steady_timer m_lookupTimer;
+    std::optional<HostAddresses> m_found;
     asio::steady_timer m_establishTimer;
     asio::steady_timer m_sendTimer;
     asio::steady_timer m_releaseTimer;
     Handler m_handler;
+    std::string m_lookedUp; ///< the name that is being looked up
     bool m_isSecuring = false;
     std::chrono::steady_clock::time_point m_lastHeard;
     Octets m_queue;

@@ -114,18 +114,40 @@ asio::awaitable<void> Server::acceptLoop()
             // Usually too many open files, which only time can mend.
             pause.expires_after(pauseAfterFailure);
             co_await pause.async_wait(asTuple);
-        } else if (m_associations.size() >= m_options.maxAssociations) {
-            ++m_turnedAway;
-            m_handler->refused("There are " + std::to_string(m_options.maxAssociations)
-                               + " associations already, which is the limit.");
+            continue;
+        }
+        asio::error_code ignored;
+        const asio::ip::address peer = socket.remote_endpoint(ignored).address();
+        const std::size_t mostHalfOpen = m_options.maxHalfOpenOfPeer;
+        if (m_associations.size() >= m_options.maxAssociations) {
+            turnAway("There are " + std::to_string(m_options.maxAssociations)
+                     + " associations already, which is the limit.");
+        } else if (mostHalfOpen > 0 && m_halfOpen[peer] >= mostHalfOpen) {
+            turnAway("The peer " + peer.to_string() + " has " + std::to_string(mostHalfOpen)
+                     + " connections that are no associations yet, which is the limit.");
         } else {
-            take(std::move(strand), std::move(socket));
+            take(std::move(strand), std::move(socket), peer);
         }
     }
 }
 
-void Server::take(Link::Strand strand, asio::ip::tcp::socket socket)
+void Server::turnAway(const std::string &reason)
 {
+    ++m_turnedAway;
+    m_handler->refused(reason);
+}
+
+void Server::take(Link::Strand strand, asio::ip::tcp::socket socket,
+                  const asio::ip::address &peer)
+{
+    ++m_halfOpen[peer];
+    const auto complete = [self = shared_from_this(), peer] {
+        asio::post(self->m_strand, [self, peer] {
+            const auto found = self->m_halfOpen.find(peer);
+            if (found != self->m_halfOpen.end() && --found->second == 0)
+                self->m_halfOpen.erase(found);
+        });
+    };
     // The association that the handlers mean is known only after they were made.
     const auto place = std::make_shared<std::weak_ptr<Association>>();
     const auto forget = [self = shared_from_this(), place] {
@@ -147,7 +169,9 @@ void Server::take(Link::Strand strand, asio::ip::tcp::socket socket)
         handler->closed(place->lock(), reason);
         forget();
     };
-    auto opened = [handler = m_handler, place, forget](const Result<InitiateParameters> &result) {
+    auto opened = [handler = m_handler, place, forget,
+                   complete](const Result<InitiateParameters> &result) {
+        complete();
         if (result) {
             handler->opened(place->lock());
         } else {

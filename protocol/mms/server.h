@@ -6,6 +6,7 @@
 #include <asio/any_io_executor.hpp>
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <set>
 #include <string>
@@ -20,6 +21,9 @@ struct ServerOptions
     std::uint16_t port = 102;
     /// A connection beyond this is closed at once.
     std::size_t maxAssociations = 16;
+    /// A connection beyond this of one peer that is no association yet is closed at once, so that
+    /// nobody can take all places with connections that never become one; 0 for no such limit.
+    std::size_t maxHalfOpenOfPeer = 0;
     AssociationOptions association;
 };
 
@@ -70,12 +74,13 @@ public:
     void stop();
     /// Connections, opened or not. In no strand; changes at any time.
     std::size_t associations() const { return m_count; }
-    /// Connections closed because there were too many.
+    /// Connections closed because there were too many, of all or of one peer.
     std::uint64_t turnedAway() const { return m_turnedAway; }
 
 private:
     asio::awaitable<void> acceptLoop();
-    void take(Link::Strand strand, asio::ip::tcp::socket socket);
+    void take(Link::Strand strand, asio::ip::tcp::socket socket, const asio::ip::address &peer);
+    void turnAway(const std::string &reason);
 
     asio::any_io_executor m_executor;
     ServerOptions m_options;
@@ -84,6 +89,7 @@ private:
     asio::ip::tcp::acceptor m_acceptor;
     std::shared_ptr<const TlsContext> m_tls;
     std::set<std::shared_ptr<Association>> m_associations;
+    std::map<asio::ip::address, std::size_t> m_halfOpen;
     std::atomic<std::size_t> m_count{0};
     std::atomic<std::uint64_t> m_turnedAway{0};
     bool m_stopped = false;

@@ -40,9 +40,12 @@ struct TlsOptions
     /// SHA-256 fingerprints of peers' certificates, 64 hexadecimal digits with or without colons.
     /// With any, no other peer is accepted, whatever its issuer.
     std::vector<std::string> pins;
-    /// Client: the host name or address that the server's certificate must be made out to; not
-    /// checked when empty, as many devices have certificates made out to their own name.
+    /// Client: the host name or address that the server's certificate must be made out to. When it
+    /// is empty, that is the host that was asked for, unless the certificate is pinned.
     std::string peerName;
+    /// Client: without a peerName, take the certificate of another host as well, as long as a
+    /// trusted authority issued it. Any device of the plant may then answer for any other.
+    bool acceptsOtherNames = false;
     TlsVersion minimumVersion = TlsVersion::Tls12;
     TlsVersion maximumVersion = TlsVersion::Tls13;
 };

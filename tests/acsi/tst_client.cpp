@@ -58,6 +58,27 @@ TEST_F(AcsiClient, FailedConnectionSaysWhyAndClosesNothing)
     EXPECT_NE(connected.error().message.find("No connection to 127.0.0.1"), std::string::npos);
 }
 
+TEST_F(AcsiClient, ItDeclaresWhatItServes)
+{
+    const auto sent = std::make_shared<mms::Octets>();
+    clientOptions.association.link.trace = [sent](mms::Direction direction, mms::Bytes pdu) {
+        if (direction == mms::Direction::Sent && sent->empty())
+            sent->assign(pdu.begin(), pdu.end());
+    };
+    connect();
+    const auto pdu = mms::decodePdu(*sent);
+    ASSERT_TRUE(pdu.ok());
+    const auto *request = std::get_if<mms::InitiateRequestPdu>(&*pdu);
+    ASSERT_NE(request, nullptr);
+    // ISO 9506-2, ServiceSupportOptions: fileOpen, fileRead, fileClose, informationReport, conclude.
+    std::vector<std::size_t> declared;
+    for (std::size_t bit = 0; bit < request->parameters.services.size(); ++bit) {
+        if (request->parameters.services.test(bit))
+            declared.push_back(bit);
+    }
+    EXPECT_EQ(declared, (std::vector<std::size_t>{72, 73, 74, 79, 83}));
+}
+
 TEST_F(AcsiClient, ClosingConcludesAndIsHeardOnce)
 {
     connect();

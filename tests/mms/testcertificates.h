@@ -38,8 +38,9 @@ public:
 
     /// An authority; its certificate is signed by @p issuer, or by itself.
     Identity authority(const std::string &name, const Identity *issuer = nullptr);
+    /// Made out to this computer unless told otherwise.
     Identity issue(const Identity &issuer, const std::string &name, Validity validity = {},
-                   const std::string &alternativeName = {});
+                   const std::string &alternativeName = "DNS:localhost,IP:127.0.0.1");
     /// The file with the authority's list of what it has revoked.
     std::string revocationList(const Identity &authority, const std::vector<Identity> &revoked,
                                Validity validity = {});

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mms/associationtest.h"
+#include "mms/hostlookup.h"
 
 #include <asio/co_spawn.hpp>
 #include <asio/detached.hpp>
 
+#include <future>
 #include <stdexcept>
 
 using namespace mmstest;
@@ -449,4 +451,220 @@ TEST_F(AssociationTest, AHandlerThatThrowsEndsItsAssociationAndNoOther)
     EXPECT_EQ(m_device->end.get(), "An internal error ended the association: no status.");
     ASSERT_TRUE(connect(port, quickOptions()).ok());
     EXPECT_NE(answerOf<IdentifyResponse>(call(IdentifyRequest())), nullptr);
+}
+
+TEST_F(AssociationTest, ConcludingWaitsForTheCallsThatAreUnderWay)
+{
+    RawPeer peer;
+    Stack stack{Stack::Role::Responder, {}};
+    connectToRawPeer(peer, stack);
+    std::vector<StackEvent> events;
+    const auto next = [&]() -> Pdu {
+        while (events.empty()) {
+            if (!peer.feed(stack, events))
+                return RejectPdu();
+        }
+        const auto pdu = decodePdu(std::get<PduIndication>(events.front()).pdu);
+        events.erase(events.begin());
+        return pdu.ok() ? *pdu : Pdu();
+    };
+    Awaited<CallOutcome> outcome;
+    m_client->call(IdentifyRequest(), 10s, outcome.setter());
+    const auto request = std::get<ConfirmedRequestPdu>(next());
+    Awaited<Result<void>> concluded;
+    m_client->conclude(concluded.setter());
+    Awaited<CallOutcome> refused;
+    m_client->call(IdentifyRequest(), 10s, refused.setter());
+    const auto tooLate = refused.get();
+    EXPECT_EQ(failureText(tooLate), "The association is being concluded.");
+    peer.send(
+        stack.send(encode(ConfirmedResponsePdu{request.invokeId, IdentifyResponse()})).octets);
+    EXPECT_NE(answerOf<IdentifyResponse>(outcome.get()), nullptr);
+    EXPECT_TRUE(std::holds_alternative<ConcludeRequestPdu>(next()));
+    peer.close();
+    EXPECT_FALSE(concluded.get().ok());
+}
+
+TEST_F(AssociationTest, CallsWithoutAnAnswerAreGivenUpWhenTheAssociationIsConcluded)
+{
+    AssociationOptions options = quickOptions();
+    options.concludePatience = 50ms;
+    ASSERT_TRUE(connect(startServer(), options).ok());
+    Awaited<CallOutcome> outcome;
+    m_client->call(StatusRequest(), 1h, outcome.setter());
+    Awaited<Result<void>> concluded;
+    m_client->conclude(concluded.setter());
+    const auto given = outcome.get();
+    EXPECT_EQ(failureOf(given), CallFailure::Kind::Cancelled);
+    EXPECT_EQ(failureText(given), "The association is being concluded.");
+    // The server still works on the call, so it does not conclude; the client does not wait longer
+    // than for any release.
+    m_client->abort("Enough.");
+    EXPECT_FALSE(concluded.get().ok());
+}
+
+TEST_F(AssociationTest, AServerConcludesAfterItsAnswers)
+{
+    class SlowDevice : public TestDevice
+    {
+    public:
+        void request(const std::shared_ptr<Association> &association, std::uint32_t invokeId,
+                     RequestService) override
+        {
+            asked.setter()({association, invokeId});
+        }
+        Awaited<std::pair<std::shared_ptr<Association>, std::uint32_t>> asked;
+    };
+    const auto device = std::make_shared<SlowDevice>();
+    m_device = device;
+    const std::uint16_t port = startServer();
+    RawPeer peer;
+    peer.connect(port);
+    Stack stack{Stack::Role::Initiator, {}};
+    peer.send(stack.connect(encode(InitiateRequestPdu{InitiateParameters()})).octets);
+    std::vector<StackEvent> events;
+    ASSERT_TRUE(peer.feed(stack, events));
+    ASSERT_TRUE(std::holds_alternative<AssociateConfirm>(events.front()));
+    events.clear();
+    peer.send(stack.send(encode(ConfirmedRequestPdu{7, IdentifyRequest()})).octets);
+    peer.send(stack.send(encode(ConcludeRequestPdu())).octets);
+    const auto [association, invokeId] = device->asked.get();
+    association->respond(invokeId, IdentifyResponse());
+    std::vector<Pdu> answers;
+    while (answers.size() < 2 && peer.feed(stack, events)) {
+        for (const StackEvent &event : events)
+            answers.push_back(*decodePdu(std::get<PduIndication>(event).pdu));
+        events.clear();
+    }
+    ASSERT_EQ(answers.size(), 2U);
+    EXPECT_TRUE(std::holds_alternative<ConfirmedResponsePdu>(answers[0]));
+    EXPECT_TRUE(std::holds_alternative<ConcludeResponsePdu>(answers[1]));
+}
+
+TEST_F(AssociationTest, ACallThatFoundNoPlaceSaysSo)
+{
+    AssociationOptions options = quickOptions();
+    options.maxOutstandingCalling = 1;
+    ASSERT_TRUE(connect(startServer(), options).ok());
+    const auto first = call(StatusRequest(), 50ms);
+    ASSERT_EQ(failureOf(first), CallFailure::Kind::TimedOut);
+    EXPECT_TRUE(std::get<CallFailure>(first).wasSent);
+    const auto second = call(IdentifyRequest(), 50ms);
+    ASSERT_EQ(failureOf(second), CallFailure::Kind::TimedOut);
+    EXPECT_FALSE(std::get<CallFailure>(second).wasSent);
+    EXPECT_EQ(failureText(second), "The request was not sent: it waited for a place behind calls "
+                                   "that the peer has not answered.");
+}
+
+TEST_F(AssociationTest, ACallThatLeavesItsPlaceHoldsNobodyUp)
+{
+    AssociationOptions options = quickOptions();
+    options.maxOutstandingCalling = 1;
+    options.grace = 1h;
+    ASSERT_TRUE(connect(startServer(), options).ok());
+    Awaited<CallOutcome> outcome;
+    m_client->call(StatusRequest(), 50ms, outcome.setter(), GivenUpCall::LeavesItsPlace);
+    EXPECT_EQ(failureOf(outcome.get()), CallFailure::Kind::TimedOut);
+    EXPECT_NE(answerOf<IdentifyResponse>(call(IdentifyRequest())), nullptr);
+}
+
+TEST_F(AssociationTest, ConnectionsOfOnePeerThatAreNoAssociationsAreLimited)
+{
+    ServerOptions server;
+    server.maxHalfOpenOfPeer = 2;
+    const std::uint16_t port = startServer(server);
+    RawPeer first;
+    RawPeer second;
+    first.connect(port);
+    second.connect(port);
+    RawPeer third;
+    third.connect(port);
+    EXPECT_TRUE(third.receive().empty());
+    EXPECT_EQ(m_server->turnedAway(), 1U);
+    // A place is free again once one has gone, or has become an association.
+    first.close();
+    Result<InitiateParameters> opened = Error{"not tried", 0};
+    for (int attempt = 0; attempt < 100 && !opened; ++attempt)
+        opened = connect(port, quickOptions());
+    EXPECT_TRUE(opened.ok());
+    RawPeer fourth;
+    fourth.connect(port);
+    EXPECT_NE(answerOf<IdentifyResponse>(call(IdentifyRequest())), nullptr);
+    second.close();
+    fourth.close();
+}
+
+TEST(HostLookup, AddressesAreTakenAsTheyAre)
+{
+    EXPECT_EQ(numericAddress("10.1.2.3"), asio::ip::make_address("10.1.2.3"));
+    EXPECT_EQ(numericAddress("::1"), asio::ip::make_address("::1"));
+    EXPECT_EQ(numericAddress("[::1]"), asio::ip::make_address("::1"));
+    EXPECT_FALSE(numericAddress("bay1.example"));
+    EXPECT_FALSE(numericAddress("10.1.2"));
+    EXPECT_FALSE(numericAddress("[]"));
+    EXPECT_FALSE(numericAddress(""));
+}
+
+TEST(HostLookup, ANameIsAskedForOnceAtATime)
+{
+    std::promise<void> gate;
+    const auto opened = gate.get_future().share();
+    std::atomic<int> asked{0};
+    const auto slow = [&asked, opened](const std::string &) {
+        ++asked;
+        opened.wait();
+        return HostAddresses{{asio::ip::make_address("10.1.2.3")}, {}};
+    };
+    Awaited<HostAddresses> first;
+    Awaited<HostAddresses> second;
+    const HostLookup one("twice.example", slow, first.setter());
+    const HostLookup two("twice.example", slow, second.setter());
+    {
+        // Nobody hears of what was let go.
+        const HostLookup forgotten("twice.example", slow,
+                                   [](const HostAddresses &) { FAIL(); });
+    }
+    gate.set_value();
+    EXPECT_EQ(first.get().addresses, second.get().addresses);
+    EXPECT_EQ(asked, 1);
+}
+
+TEST(HostLookup, AFunctionThatThrowsFoundNothing)
+{
+    Awaited<HostAddresses> found;
+    const HostLookup lookup(
+        "broken.example",
+        [](const std::string &) -> HostAddresses { throw std::runtime_error("it broke"); },
+        found.setter());
+    EXPECT_EQ(found.get().error, "it broke");
+}
+
+TEST_F(AssociationTest, AnAddressInBracketsIsReached)
+{
+    ServerOptions options;
+    options.address = "::1";
+    options.port = 0;
+    m_server = Server::create(m_loop.executor(), options, m_device);
+    const auto port = m_server->start();
+    if (!port)
+        GTEST_SKIP() << "This computer has no IPv6.";
+    m_client = Association::create(m_loop.executor(), quickOptions(), {});
+    Awaited<Result<InitiateParameters>> opened;
+    m_client->connect("[::1]", *port, opened.setter());
+    EXPECT_TRUE(opened.get().ok());
+}
+
+TEST_F(AssociationTest, AnAttemptUnderWayGoesWithItsContext)
+{
+    RawPeer peer;
+    std::weak_ptr<Association> attempt;
+    {
+        asio::io_context context;
+        const auto association =
+            Association::create(context.get_executor(), quickOptions(), {});
+        attempt = association;
+        association->connect("127.0.0.1", peer.port(), [](const Result<InitiateParameters> &) {});
+        context.run_for(50ms);
+    }
+    EXPECT_TRUE(attempt.expired());
 }

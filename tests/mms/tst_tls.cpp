@@ -407,6 +407,28 @@ TEST_F(Tls, TheNameOfTheServerIsCheckedWhereOneIsAskedFor)
     }
 }
 
+TEST_F(Tls, TheCertificateOfAnotherHostIsRefusedUnlessToldOtherwise)
+{
+    const Identity other = s_certificates->issue(s_authority, "Other", {}, "DNS:bay9.example");
+    const TlsOptions server = TestCertificates::options(other, s_authority);
+    TlsOptions tls = operatorOptions();
+    m_tlsDevice->openings = 0;
+    EXPECT_TRUE(contains(refusals(server, tls).first,
+                         "is not made out to the host that was asked for"));
+    EXPECT_EQ(m_tlsDevice->openings, 0);
+    m_server->stop();
+    tls.acceptsOtherNames = true;
+    const auto accepted = connectSecure(startSecure(server), tls);
+    EXPECT_TRUE(accepted.ok()) << accepted.error().message;
+    m_client->abort("Next.");
+    m_server->stop();
+    // A certificate that is pinned says itself whose it is.
+    tls.acceptsOtherNames = false;
+    tls.pins = {*certificateFingerprint(other.certificateFile)};
+    const auto pinned = connectSecure(startSecure(server), tls);
+    EXPECT_TRUE(pinned.ok()) << pinned.error().message;
+}
+
 TEST_F(Tls, EndsWithoutACommonVersionSaySo)
 {
     TlsOptions server = deviceOptions();
