@@ -139,6 +139,7 @@ std::variant<CommandLine, Ending> parseCommandLine(int argc, const char *const *
     sim::AnimationOptions animation;
     sim::FileOptions files;
     int port = 10102;
+    int idleLimit = 900;
     std::string password;
     std::string passwordFile;
     std::string directory;
@@ -178,6 +179,16 @@ std::variant<CommandLine, Ending> parseCommandLine(int argc, const char *const *
         ->type_name("N")
         ->capture_default_str()
         ->check(within(1, 10000));
+    app.add_option("--max-half-open", simulation.maxHalfOpenOfPeer,
+                   "Connections of one client that are no associations yet, 1 to 10000")
+        ->type_name("N")
+        ->capture_default_str()
+        ->check(within(1, 10000));
+    app.add_option("--idle-limit", idleLimit,
+                   "Seconds after which a silent client is cut off, up to 86400; 0 for never")
+        ->type_name("SECONDS")
+        ->capture_default_str()
+        ->check(within(0, 86400));
     app.add_option("--max-pdu", simulation.maxPduSize, "Longest PDU in octets, 1000 to 1000000")
         ->type_name("OCTETS")
         ->capture_default_str()
@@ -265,6 +276,7 @@ std::variant<CommandLine, Ending> parseCommandLine(int argc, const char *const *
             return mistake(added.error().message);
     }
     simulation.port = static_cast<std::uint16_t>(port);
+    simulation.idleLimit = std::chrono::seconds(idleLimit);
     if (!passwordFile.empty()) {
         const auto line = firstLine(passwordFile);
         if (!line)

@@ -153,6 +153,7 @@ mms::ServerOptions Device::serverOptions() const
     mms::BitString &services = options.association.services;
     for (const mms::Service service : servedAlways)
         services.set(static_cast<std::size_t>(service));
+    services.set(static_cast<std::size_t>(mms::Service::Status), !m_options.oddities.noStatus);
     if (m_options.files) {
         for (const mms::Service service : servedWithFiles)
             services.set(static_cast<std::size_t>(service));
@@ -223,6 +224,8 @@ void Device::request(const std::shared_ptr<mms::Association> &association, std::
                      mms::RequestService request)
 {
     if (m_filter && m_filter(association, invokeId, request))
+        return;
+    if (m_options.oddities.noStatus && std::holds_alternative<mms::StatusRequest>(request))
         return;
     AssociationClient *const client = clientOf(association.get());
     if (!client)

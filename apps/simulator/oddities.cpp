@@ -60,6 +60,8 @@ constexpr std::array cases = {
     OddityCase{"refused-close", "Closing a file is refused.", &Oddities::refusedClose},
 
     // Associations
+    OddityCase{"no-status", "The service Status is neither declared nor answered.",
+               &Oddities::noStatus},
 };
 
 } // namespace

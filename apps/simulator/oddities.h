@@ -49,6 +49,8 @@ struct Oddities
     bool refusedClose = false;
 
     // Associations
+
+    bool noStatus = false;
 };
 
 /// One oddity that can be asked for by name.

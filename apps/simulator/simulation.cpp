@@ -82,6 +82,8 @@ mms::Result<SimulatedDevice> simulate(asio::any_io_executor executor, const scl:
     device.server.address = options.address;
     device.server.port = options.port;
     device.server.maxAssociations = options.maxAssociations;
+    device.server.maxHalfOpenOfPeer = options.maxHalfOpenOfPeer;
+    device.server.association.idleLimit = options.idleLimit;
     device.server.association.maxPduSize = options.maxPduSize;
     device.firstEdition = options.firstEdition;
     device.oddities = options.oddities;

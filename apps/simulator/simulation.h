@@ -23,6 +23,10 @@ struct SimulationOptions
     /// 0 takes a free port.
     std::uint16_t port = 0;
     std::size_t maxAssociations = 16;
+    /// Connections of one peer that are no associations yet; 0 for as many as it likes.
+    std::size_t maxHalfOpenOfPeer = 8;
+    /// A client that says nothing for so long is cut off; 0 for never.
+    std::chrono::milliseconds idleLimit{0};
     /// Octets, at least mms::smallestPduSize.
     std::int32_t maxPduSize = 65000;
     /// What clients have to name when they ask for an association; none asks for none.

@@ -247,6 +247,8 @@ TEST_F(Iedsim, MistakesOnTheCommandLineAreToldInOneLine)
         {device, "--port"},
         {device, "--max-pdu", "64"},
         {device, "--max-associations", "0"},
+        {device, "--max-half-open", "0"},
+        {device, "--idle-limit", "-1"},
         {device, "--interval", "1", "--animate"},
         {device, "--interval", "100"},
         {device, "--all", "--ied", "BAY1"},
@@ -337,6 +339,26 @@ TEST_F(Iedsim, AnAssociationBeyondTheLimitIsTurnedAwayAndTold)
     EXPECT_NE(program.lineWith("connection refused: There are 1 associations already"), "");
 }
 
+TEST_F(Iedsim, OneClientCannotTakeAllPlacesWithConnectionsThatAreNoAssociations)
+{
+    Program program({device, "--port", "0", "--max-half-open", "1"});
+    const std::uint16_t port = program.port();
+    mmstest::RawPeer silent;
+    silent.connect(port);
+    mmstest::RawPeer second;
+    second.connect(port);
+    EXPECT_TRUE(second.receive().empty());
+    EXPECT_NE(program.lineWith("connection refused: The peer 127.0.0.1 has 1 connections"), "");
+}
+
+TEST_F(Iedsim, AClientThatSaysNothingForLongIsCutOff)
+{
+    Program program({device, "--port", "0", "--idle-limit", "1"});
+    const Caller idle(m_loop.executor(), program.port());
+    EXPECT_TRUE(idle.isOpen());
+    EXPECT_NE(program.lineWith("association closed"), "");
+}
+
 TEST_F(Iedsim, WhoDoesNotGiveThePasswordIsRefusedAndTold)
 {
     Program program({device, "--port", "0", "--password-file", file("password", "secret\r\nmore")});
@@ -399,7 +421,8 @@ TEST_F(Iedsim, HelpAndManualPageNameEveryOption)
     EXPECT_TRUE(page.starts_with(".TH IEDSIM 1 "));
     std::erase(page, '\\');
     for (const char *option :
-         {"--ied", "--all", "--list", "--address", "--port", "--max-associations", "--max-pdu",
+         {"--ied", "--all", "--list", "--address", "--port", "--max-associations", "--max-half-open",
+          "--idle-limit", "--max-pdu",
           "--password", "--password-file", "--tls", "--tls-key-password-file", "--tls-crl",
           "--tls-pin", "--animate", "--seed", "--interval", "--no-events", "--files",
           "--files-read-only", "--files-flat", "--files-one-part", "--files-keep", "--faults",
