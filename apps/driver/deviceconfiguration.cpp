@@ -128,7 +128,8 @@ QJsonObject toJson(const TlsConfiguration &tls)
             {QStringLiteral("authorityFiles"), QJsonArray::fromStringList(tls.authorityFiles)},
             {QStringLiteral("revocationFiles"), QJsonArray::fromStringList(tls.revocationFiles)},
             {QStringLiteral("pins"), QJsonArray::fromStringList(tls.pins)},
-            {QStringLiteral("peerName"), tls.peerName}};
+            {QStringLiteral("peerName"), tls.peerName},
+            {QStringLiteral("acceptsOtherNames"), tls.acceptsOtherNames}};
 }
 
 /// Takes members out of an object and remembers the first that has the wrong form.
@@ -250,6 +251,7 @@ void fromJson(const QJsonObject &object, TlsConfiguration &tls, QString &error)
     members.take("revocationFiles", tls.revocationFiles);
     members.take("pins", tls.pins);
     members.take("peerName", tls.peerName);
+    members.take("acceptsOtherNames", tls.acceptsOtherNames);
 }
 
 } // namespace
@@ -283,6 +285,7 @@ mms::TlsOptions TlsConfiguration::toOptions() const
     for (const QString &pin : pins)
         options.pins.push_back(pin.toStdString());
     options.peerName = peerName.toStdString();
+    options.acceptsOtherNames = acceptsOtherNames;
     return options;
 }
 

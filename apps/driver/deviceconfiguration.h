@@ -32,7 +32,9 @@ struct TlsConfiguration
     QStringList authorityFiles;
     QStringList revocationFiles;
     QStringList pins; ///< SHA-256 fingerprints of device certificates, hexadecimal
-    QString peerName;
+    QString peerName; ///< the device's host unless given
+    /// Take certificates that are made out to others, too; mms::TlsOptions tells what that means.
+    bool acceptsOtherNames = false;
 
     mms::TlsOptions toOptions() const;
 };

@@ -17,6 +17,9 @@
 
 #include <algorithm>
 #include <condition_variable>
+#include <exception>
+#include <random>
+#include <system_error>
 
 using ConnectionText::text;
 using ConnectionText::withoutPeriod;
@@ -30,11 +33,6 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(IedDriver)
 };
 
-constexpr milliseconds firstRetry{200};
-constexpr milliseconds longestRetry{2000};
-/// A device that has been silent for so long is asked whether it is there.
-constexpr milliseconds keepAliveInterval{2000};
-constexpr milliseconds roundTripInterval{10000};
 /// How long an operation waits for a model that is being read.
 constexpr milliseconds modelPatience{500};
 
@@ -63,6 +61,41 @@ mms::acse::Title titleOf(const AssociationAddress &address)
 double seconds(milliseconds time)
 {
     return static_cast<double>(time.count()) / 1000.0;
+}
+
+AssociationLife::Random randomSource()
+{
+    return [engine = std::mt19937(std::random_device()()),
+            fractions = std::uniform_real_distribution<double>()]() mutable {
+        return fractions(engine);
+    };
+}
+
+bool isCancellation(const std::exception_ptr &exception)
+{
+    try {
+        std::rethrow_exception(exception);
+    } catch (const std::system_error &error) {
+        return error.code() == asio::error::operation_aborted;
+    } catch (...) {
+        return false;
+    }
+}
+
+/// One sentence about an exception that nobody expected.
+QString internalError(const std::exception_ptr &exception)
+{
+    QString what;
+    try {
+        std::rethrow_exception(exception);
+    } catch (const std::exception &error) {
+        what = QString::fromUtf8(error.what());
+    } catch (...) {
+    }
+    if (what.isEmpty())
+        return Texts::tr("An internal error of the driver ended the association.");
+    return Texts::tr("An internal error of the driver ended the association: %1.")
+        .arg(withoutPeriod(what));
 }
 
 } // namespace
@@ -102,6 +135,8 @@ struct DeviceConnection::Pending
     {
         {
             const std::lock_guard<std::mutex> lock(mutex);
+            if (outcome)
+                return;
             outcome = std::move(how);
         }
         ended.notify_all();
@@ -111,6 +146,7 @@ struct DeviceConnection::Pending
 struct DeviceConnection::Attempt
 {
     std::optional<mms::Result<ClientPointer>> result;
+    asio::cancellation_signal cancel;
     bool isAbandoned = false;
 };
 
@@ -129,6 +165,7 @@ DeviceConnection::DeviceConnection(Private, asio::any_io_executor executor,
     , m_environment(std::move(environment))
     , m_strand(asio::make_strand(std::move(executor)))
     , m_capture(std::make_shared<PduCapture>(m_environment.captureOctets))
+    , m_life(randomSource())
 {
     m_status.number = m_configuration.number;
     m_status.name = m_configuration.name;
@@ -155,39 +192,60 @@ void DeviceConnection::connect()
 
 void DeviceConnection::connectInStrand()
 {
-    m_dormant = false;
-    if (!m_wanted)
-        m_attempted = false;
-    m_wanted = true;
+    m_life.want(steady_clock::now());
     wake();
     if (m_living)
         return;
     m_living = true;
-    asio::co_spawn(m_strand, live(), [self = shared_from_this()](const std::exception_ptr &) {});
+    asio::co_spawn(m_strand, live(),
+                   [self = shared_from_this()](const std::exception_ptr &exception) {
+                       if (!exception)
+                           return;
+                       self->m_living = false;
+                       self->m_life.leave();
+                       self->m_life.over();
+                       self->setState(DeviceState::Disconnected, internalError(exception));
+                   });
+}
+
+void DeviceConnection::leave(const QString &reason)
+{
+    m_life.leave();
+    m_leaveReason = reason;
+    if (m_readingCancelled)
+        *m_readingCancelled = true;
+    // What is read at present would be read in vain.
+    if (m_life.phase() == AssociationLife::Phase::Reading && m_client) {
+        asio::co_spawn(m_strand, m_client->close(),
+                       [self = shared_from_this(), client = m_client](
+                           const std::exception_ptr &exception) { self->fail(client, exception); });
+    }
+    wake();
+}
+
+void DeviceConnection::fail(const ClientPointer &client, const std::exception_ptr &exception)
+{
+    if (exception && !isCancellation(exception))
+        client->abort(internalError(exception).toStdString());
 }
 
 void DeviceConnection::disconnect(std::function<void()> left)
 {
     asio::post(m_strand, [self = shared_from_this(), left = std::move(left)]() mutable {
-        self->m_wanted = false;
-        self->m_dormant = false;
-        if (self->m_readingCancelled)
-            *self->m_readingCancelled = true;
         if (left && self->m_living)
             self->m_left.push_back(std::move(left));
         else if (left)
             left();
-        self->wake();
+        self->leave({});
     });
 }
 
 void DeviceConnection::abort()
 {
     asio::post(m_strand, [self = shared_from_this()] {
-        if (!self->m_wanted)
+        if (!self->isWanted())
             return;
-        self->m_wanted = false;
-        self->m_dormant = true;
+        self->m_life.abort();
         if (self->m_readingCancelled)
             *self->m_readingCancelled = true;
         if (self->m_client)
@@ -201,6 +259,27 @@ void DeviceConnection::cancelReading()
     asio::post(m_strand, [self = shared_from_this()] {
         if (self->m_readingCancelled)
             *self->m_readingCancelled = true;
+        if (self->m_life.phase() == AssociationLife::Phase::Reading)
+            self->leave(Texts::tr("Reading the model was cancelled."));
+    });
+}
+
+void DeviceConnection::cancelOperations()
+{
+    asio::post(m_strand, [self = shared_from_this()] {
+        const std::set<std::shared_ptr<Pending>> operations = self->m_operations;
+        for (const std::shared_ptr<Pending> &each : operations) {
+            each->end(Outcome::failed(Texts::tr("The operation was cancelled.")));
+            each->cancel.emit(asio::cancellation_type::terminal);
+        }
+    });
+}
+
+void DeviceConnection::namesReleased()
+{
+    asio::post(m_strand, [self = shared_from_this()] {
+        self->m_life.namesReleased(steady_clock::now());
+        self->wake();
     });
 }
 
@@ -213,13 +292,19 @@ Outcome DeviceConnection::perform(Need need, milliseconds limit, Operation opera
 {
     const Deadline deadline = steady_clock::now() + limit;
     const auto pending = std::make_shared<Pending>();
-    const auto ended = [pending](const std::exception_ptr &exception, Outcome outcome) {
-        if (exception)
-            outcome = Outcome::failed(Texts::tr("The operation was cancelled."));
+    const auto ended = [pending, self = shared_from_this()](const std::exception_ptr &exception,
+                                                            Outcome outcome) {
+        if (exception) {
+            outcome = Outcome::failed(isCancellation(exception)
+                                          ? Texts::tr("The operation was cancelled.")
+                                          : internalError(exception));
+        }
+        self->m_operations.erase(pending);
         pending->end(std::move(outcome));
     };
     asio::post(m_strand, [self = shared_from_this(), need, deadline, pending, ended,
                           operation = std::move(operation)]() mutable {
+        self->m_operations.insert(pending);
         asio::co_spawn(self->m_strand, run(self, need, deadline, std::move(operation)),
                        asio::bind_cancellation_slot(pending->cancel.slot(), ended));
     });
@@ -257,10 +342,10 @@ asio::awaitable<Outcome> DeviceConnection::waitFor(Need need, Deadline deadline)
     for (;;) {
         if (m_client && m_client->isOpen() && (need == Need::Association || m_modelReady))
             co_return Outcome();
-        if (m_dormant)
+        if (m_life.isDormant())
             connectInStrand();
-        const bool isReading = m_wanted && m_client && m_client->isOpen();
-        const bool isFirstAttempt = m_wanted && !m_attempted;
+        const bool isReading = isWanted() && m_client && m_client->isOpen();
+        const bool isFirstAttempt = m_life.isFirstAttempt();
         const Deadline end = isReading ? patienceEnd : deadline;
         const Deadline now = steady_clock::now();
         if (isReading && now >= end) {
@@ -324,12 +409,18 @@ void DeviceConnection::setState(DeviceState state, const QString &reason)
 {
     updateStatus([&](DeviceStatus &status) {
         const QDateTime now = QDateTime::currentDateTime();
-        if (status.state != state)
-            status.since = now;
-        if (state == DeviceState::Online || state == DeviceState::Disconnected)
+        if (!m_life.awaySince()) {
             status.lostSince = {};
-        else if (state == DeviceState::Waiting && !status.lostSince.isValid())
-            status.lostSince = now;
+        } else if (state == DeviceState::Waiting && !status.lostSince.isValid()) {
+            const auto away = steady_clock::now() - *m_life.awaySince();
+            status.lostSince = now.addMSecs(-std::chrono::floor<milliseconds>(away).count());
+        }
+        // An outage is one, however many attempts there are to end it.
+        const bool isAway = state == DeviceState::Connecting || state == DeviceState::Waiting;
+        if (isAway && status.lostSince.isValid())
+            status.since = status.lostSince;
+        else if (status.state != state)
+            status.since = now;
         status.state = state;
         status.reason = reason;
         if (state != DeviceState::ReadingModel)
@@ -347,6 +438,7 @@ acsi::ClientOptions DeviceConnection::clientOptions() const
     association.maxPduSize = m_configuration.maxPduSize;
     association.maxOutstandingCalling = static_cast<std::int16_t>(m_configuration.outstandingCalls);
     association.link.establishTimeout = m_configuration.connectTimeout;
+    association.link.lookUp = m_environment.lookUp;
     association.link.trace = [capture = m_capture](mms::Direction direction, mms::Bytes pdu) {
         capture->add(direction, pdu);
     };
@@ -398,26 +490,32 @@ asio::awaitable<void> DeviceConnection::attempt(std::shared_ptr<DeviceConnection
 
 asio::awaitable<void> DeviceConnection::live()
 {
-    milliseconds retry = firstRetry;
-    while (m_wanted) {
-        setState(DeviceState::Connecting, status().reason);
-        const std::uint64_t before = status().counters.connections;
-        const QString reason = co_await associate();
-        if (status().counters.connections != before)
-            retry = firstRetry;
-        m_attempted = true;
-        if (!m_wanted)
+    for (;;) {
+        const AssociationLife::Step step = m_life.next(steady_clock::now());
+        if (step.what == AssociationLife::Step::What::End)
             break;
-        setState(DeviceState::Waiting, reason);
-        const Deadline next = steady_clock::now() + retry;
-        for (Deadline now = steady_clock::now(); m_wanted && now < next; now = steady_clock::now())
-            co_await pause(std::chrono::ceil<milliseconds>(next - now));
-        retry = std::min(retry * 2, longestRetry);
+        if (step.what == AssociationLife::Step::What::Wait) {
+            co_await pause(std::chrono::ceil<milliseconds>(step.until - steady_clock::now()));
+            continue;
+        }
+        m_life.connecting();
+        m_ending = AssociationLife::Ending::Failed;
+        setState(DeviceState::Connecting, status().reason);
+        QString reason;
+        try {
+            reason = co_await associate();
+        } catch (...) {
+            reason = internalError(std::current_exception());
+        }
+        m_life.ended(steady_clock::now(), m_ending);
+        dissociate(reason);
+        if (isWanted())
+            setState(DeviceState::Waiting, reason);
     }
     m_living = false;
-    m_attempted = true;
+    m_life.over();
     setState(DeviceState::Disconnected,
-             m_dormant ? Texts::tr("Aborted by the operator.") : m_leaveReason);
+             m_life.isDormant() ? Texts::tr("Aborted by the operator.") : m_leaveReason);
     m_leaveReason.clear();
     std::vector<std::function<void()>> left;
     left.swap(m_left);
@@ -428,13 +526,21 @@ asio::awaitable<void> DeviceConnection::live()
 asio::awaitable<QString> DeviceConnection::associate()
 {
     const auto state = std::make_shared<Attempt>();
-    asio::co_spawn(m_strand, attempt(shared_from_this(), state), asio::detached);
-    // The attempt itself ends at its time-out; nobody has to wait for that who wants no
-    // association.
-    while (!state->result && m_wanted)
+    asio::co_spawn(
+        m_strand, attempt(shared_from_this(), state),
+        asio::bind_cancellation_slot(
+            state->cancel.slot(),
+            [self = shared_from_this(), state](const std::exception_ptr &exception) {
+                if (!exception || state->result)
+                    return;
+                state->result.emplace(mms::Error{internalError(exception).toStdString(), 0});
+                self->wake();
+            }));
+    while (!state->result && isWanted())
         co_await pause(m_configuration.connectTimeout);
     if (!state->result) {
         state->isAbandoned = true;
+        state->cancel.emit(asio::cancellation_type::terminal);
         co_return QString();
     }
     if (!*state->result)
@@ -442,30 +548,40 @@ asio::awaitable<QString> DeviceConnection::associate()
 
     m_client = std::move(**state->result);
     m_endReason.clear();
+    m_life.associated();
     updateStatus([](DeviceStatus &status) { ++status.counters.connections; });
     setState(DeviceState::ReadingModel);
     const ClientPointer client = m_client;
     QString reason = co_await getReady(client);
-    if (reason.isEmpty() && m_wanted && client->isOpen())
+    if (reason.isEmpty() && isWanted() && client->isOpen())
         co_await beOnline(client);
     if (client->isOpen())
         co_await client->close();
     if (reason.isEmpty())
         reason = m_endReason;
+    co_return reason;
+}
 
+void DeviceConnection::dissociate(const QString &reason)
+{
+    const ClientPointer client = std::exchange(m_client, nullptr);
+    if (!client)
+        return;
+    if (client->isOpen())
+        client->abort(reason.toStdString());
     m_modelReady = false;
-    m_client.reset();
+    m_identity = {};
     m_environment.release();
     for (const auto &part : m_parts)
         part.second->closed(reason);
     m_reported.clear();
     wake();
-    co_return reason;
 }
 
 asio::awaitable<void> DeviceConnection::beOnline(ClientPointer client)
 {
     m_modelReady = true;
+    m_life.online(steady_clock::now());
     setState(DeviceState::Online, problems());
     // Looks after the groups from the beginning, not only once somebody uses them.
     static_cast<void>(part<SettingGroups>());
@@ -474,24 +590,41 @@ asio::awaitable<void> DeviceConnection::beOnline(ClientPointer client)
             co_await part.second->opened();
     }
     asio::co_spawn(m_strand, poll(client),
-                   [self = shared_from_this()](const std::exception_ptr &) {});
+                   [self = shared_from_this(), client](const std::exception_ptr &exception) {
+                       self->fail(client, exception);
+                   });
+    co_await watchOver(client);
+    for (const auto &part : m_parts) {
+        if (client->isOpen())
+            co_await part.second->leaving();
+    }
+}
 
-    Deadline nextMeasurement = steady_clock::now() + roundTripInterval;
-    while (m_wanted && client->isOpen()) {
+asio::awaitable<void> DeviceConnection::watchOver(ClientPointer client)
+{
+    const QString waiting = QStringLiteral("life");
+    SignOfLife sign(steady_clock::now());
+    while (isWanted() && client->isOpen()) {
         const Deadline now = steady_clock::now();
-        const Deadline silentAt = m_capture->lastReceived() + keepAliveInterval;
-        const Deadline due = std::min(silentAt, nextMeasurement);
+        const Deadline due = sign.due(m_capture->lastReceived());
         if (due > now) {
             co_await pause(std::chrono::ceil<milliseconds>(due - now));
             continue;
         }
-        nextMeasurement = now + roundTripInterval;
-        const mms::CallOutcome outcome =
-            co_await client->association().call(mms::StatusRequest(), m_configuration.callTimeout);
+        sign.asked(now);
+        const mms::CallOutcome outcome = co_await askForSignOfLife(client);
+        if (!client->isOpen())
+            break;
         const auto *failure = std::get_if<mms::CallFailure>(&outcome);
-        // A device that answers other calls meanwhile is there.
-        if (failure && failure->kind == mms::CallFailure::Kind::TimedOut &&
-            m_capture->lastReceived() < now) {
+        const bool isLate = failure && failure->kind == mms::CallFailure::Kind::TimedOut;
+        const auto judgement =
+            sign.judge(!isLate, !isLate || failure->wasSent, m_capture->lastReceived());
+        setProblem(waiting, judgement == SignOfLife::Judgement::Waits
+                                ? Texts::tr("The device has not answered earlier requests; the "
+                                            "question whether it is there waits for a place "
+                                            "behind them.")
+                                : QString());
+        if (judgement == SignOfLife::Judgement::Silent) {
             client->abort(Texts::tr("The device has not answered for %1 seconds.")
                               .arg(seconds(m_configuration.callTimeout))
                               .toStdString());
@@ -504,12 +637,34 @@ asio::awaitable<void> DeviceConnection::beOnline(ClientPointer client)
             });
         }
     }
-    if (!client->isOpen())
-        co_return;
-    for (const auto &part : m_parts) {
-        if (client->isOpen())
-            co_await part.second->leaving();
+    setProblem(waiting, {});
+}
+
+asio::awaitable<mms::CallOutcome> DeviceConnection::askForSignOfLife(ClientPointer client)
+{
+    const mms::InitiateParameters &agreed = client->association().negotiated();
+    mms::RequestService request;
+    switch (SignOfLife::questionFor(agreed.supports(mms::Service::Status),
+                                    agreed.supports(mms::Service::Identify), m_answersIdentify)) {
+    case SignOfLife::Question::Status:
+        request = mms::StatusRequest();
+        break;
+    case SignOfLife::Question::Identify:
+        request = mms::IdentifyRequest();
+        break;
+    case SignOfLife::Question::Read: {
+        // Every logical device has it; where not, the error is an answer as well.
+        mms::VariableAccess access;
+        const std::vector<acsi::DeviceDescription> &devices = m_model->description().devices;
+        access.variable = mms::ObjectName::inDomain(
+            devices.empty() ? std::string() : devices.front().name, "LLN0$ST$Mod$stVal");
+        mms::ReadRequest read;
+        read.variables = std::vector<mms::VariableAccess>{std::move(access)};
+        request = std::move(read);
+        break;
     }
+    }
+    co_return co_await client->association().call(std::move(request), m_configuration.callTimeout);
 }
 
 QString DeviceConnection::problems() const

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "associationlife.h"
 #include "deviceconfiguration.h"
+#include "deviceidentity.h"
 #include "devicestatus.h"
 #include "livevalues.h"
 #include "onlinemodel.h"
@@ -80,6 +82,8 @@ struct ConnectionEnvironment
     /// Folder of what is remembered of devices between starts; empty for none.
     QString cacheFolder;
     std::size_t captureOctets = PduCapture::defaultLimit;
+    /// Looks up hosts' names; without, the system does.
+    mms::HostLookup::Function lookUp;
 };
 
 /// The driver's side of one device with an address: makes the association, keeps it, notices its
@@ -127,6 +131,10 @@ public:
     void abort();
     /// Stop reading the model; the device is then disconnected.
     void cancelReading();
+    /// Ends every operation that is under way, wherever it waits.
+    void cancelOperations();
+    /// Another device holds names of logical devices no longer.
+    void namesReleased();
 
     /// Runs the operation in the strand and waits for its end in the calling thread, which must be
     /// none of the driver's. Ends at the latest after @p limit: then the operation is cancelled.
@@ -141,6 +149,8 @@ public:
     const std::shared_ptr<acsi::Client> &client() const { return m_client; }
     /// Null until the model has been read for the first time.
     OnlineModel *model() const { return m_model.get(); }
+    /// Who is there; known while the model belongs to the present association.
+    const DeviceIdentity &identity() const { return m_identity; }
 
     /// The one part of that class; @p Part has a constructor that takes this connection and keeps
     /// it by reference.
@@ -186,7 +196,7 @@ public:
     const ReportControlBlock *configuredBlock(const QString &logicalDevice,
                                               const QString &reference) const;
     bool isReadOnly() const { return m_environment.isReadOnly && m_environment.isReadOnly(); }
-    bool isWanted() const { return m_wanted; }
+    bool isWanted() const { return m_life.isWanted(); }
     /// Returns after the time or sooner, whenever something has changed.
     asio::awaitable<void> pause(std::chrono::milliseconds time);
 
@@ -196,6 +206,9 @@ public:
     /// Adds to one of the counters of the status.
     void count(std::uint64_t DeviceCounters::*counter, std::uint64_t by = 1);
     const ConnectionEnvironment &environment() const { return m_environment; }
+
+    /// Returns when the device has said who it is, or will not.
+    asio::awaitable<void> identified(std::shared_ptr<acsi::Client> client);
 
     /// The model with the values of now, as PhysicalDevice::fromStream() reads it. Values that
     /// change shortly after are published again a little later, since a browser that opens with
@@ -220,6 +233,10 @@ private:
     /// From connecting to the end of the association; why it ended, or never stood.
     asio::awaitable<QString> associate();
     asio::awaitable<void> beOnline(ClientPointer client);
+    void dissociate(const QString &reason);
+    asio::awaitable<void> watchOver(ClientPointer client);
+    asio::awaitable<mms::CallOutcome> askForSignOfLife(ClientPointer client);
+    /// Asks who is there, beside everything else: some devices say that they can tell and never do.
     asio::awaitable<void> identify(ClientPointer client);
     /// One sentence why the device cannot be used; empty when its model is there.
     asio::awaitable<QString> getReady(ClientPointer client);
@@ -243,6 +260,9 @@ private:
     inReadableParts(const std::vector<acsi::Reference> &references) const;
 
     void connectInStrand();
+    /// Wants no association any more, for a reason of the driver's own or none.
+    void leave(const QString &reason);
+    void fail(const ClientPointer &client, const std::exception_ptr &exception);
     /// Takes what the file says of the device with these logical devices.
     QString loadFile(const QStringList &logicalDevices);
     QString problems() const;
@@ -270,12 +290,16 @@ private:
     std::set<std::string> m_inParts; ///< nodes' constraints that have to be read in parts
     std::set<std::string> m_refused; ///< data that the device does not hand out
     std::shared_ptr<std::atomic<bool>> m_readingCancelled;
+    AssociationLife m_life;
+    /// How the present association, or attempt, is going to end.
+    AssociationLife::Ending m_ending = AssociationLife::Ending::Failed;
+    DeviceIdentity m_identity;
+    bool m_isIdentifying = false;
+    bool m_answersIdentify = true; ///< it has not failed to, in whichever association
+    std::set<std::shared_ptr<Pending>> m_operations; ///< under way
     std::set<asio::steady_timer *> m_pauses; ///< of the coroutines in pause()
-    bool m_wanted = false;
     bool m_living = false;
     bool m_modelReady = false; ///< the model belongs to the present association
-    bool m_attempted = false;  ///< an attempt has come to an end since an association was wanted
-    bool m_dormant = false;    ///< aborted; the next operation connects
     QString m_endReason;       ///< why the last association ended
     QString m_leaveReason;     ///< why the driver left by itself
     std::vector<std::function<void()>> m_left;

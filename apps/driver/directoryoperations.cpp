@@ -92,8 +92,14 @@ asio::awaitable<Outcome> listData(DevicePointer device, Entries entries, QString
             whole.path.resize(i + 1);
             break;
         }
-        const mms::Result<mms::TypeDescription> type = co_await device->client()->type(
-            mms::ObjectName::inDomain(whole.device, acsi::itemText(whole)));
+        // The association may have ended while the reference before was asked for.
+        const std::shared_ptr<acsi::Client> client = device->client();
+        if (!client) {
+            const QString sentence = device->notConnectedSentence();
+            co_return Outcome{OperationNotConnected, sentence};
+        }
+        const mms::Result<mms::TypeDescription> type =
+            co_await client->type(mms::ObjectName::inDomain(whole.device, acsi::itemText(whole)));
         if (!type)
             co_return Outcome::failed(Texts::tr("%1: %2").arg(each, text(type.error().message)));
         if (!below.empty()) {

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "driverruntime.h"
 
+#include <remoteclient/controllercaller.h>
+
 #include <QtCore/QCoreApplication>
 
 #include <algorithm>
-#include <condition_variable>
+#include <exception>
 
 using std::chrono::milliseconds;
 
@@ -18,6 +20,19 @@ struct Texts
 /// How long the driver waits at its end for devices to be left in an orderly way.
 constexpr milliseconds leavePatience{3000};
 
+/// The operation, refused where another device answers now.
+DeviceConnection::Operation onlyOn(DeviceIdentity opened, DeviceConnection::Operation operation)
+{
+    return [opened = std::move(opened), operation = std::move(operation)](
+               std::shared_ptr<DeviceConnection> device) -> asio::awaitable<Outcome> {
+        if (!device->identity().fits(opened)) {
+            co_return Outcome::failed(Texts::tr(
+                "This is not the device that the window was opened for: open it again."));
+        }
+        co_return co_await operation(device);
+    };
+}
+
 } // namespace
 
 IedDriver::Runtime::Runtime(IedDriverOptions options)
@@ -27,8 +42,25 @@ IedDriver::Runtime::Runtime(IedDriverOptions options)
 {
     if (m_options.reportReceived)
         m_events = ReportEvents::create(m_context.get_executor(), m_options.reportReceived);
-    for (int i = 0; i < std::max(m_options.threads, 1); ++i)
-        m_threads.emplace_back([this] { m_context.run(); });
+    m_running = static_cast<std::size_t>(std::max(m_options.threads, 1));
+    for (std::size_t i = 0; i < m_running; ++i)
+        m_threads.emplace_back([this] { runContext(); });
+}
+
+void IedDriver::Runtime::runContext()
+{
+    // What a single handler throws must not be the end of all devices.
+    for (bool hasEnded = false; !hasEnded;) {
+        try {
+            m_context.run();
+            hasEnded = true;
+        } catch (const std::exception &exception) {
+            qWarning("IedDriver: %s", exception.what());
+        }
+    }
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    --m_running;
+    m_threadEnded.notify_all();
 }
 
 IedDriver::Runtime::~Runtime()
@@ -39,6 +71,7 @@ IedDriver::Runtime::~Runtime()
         std::condition_variable changed;
         std::size_t count = 0;
     };
+    const auto end = std::chrono::steady_clock::now() + leavePatience;
     const auto remaining = std::make_shared<Remaining>();
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
@@ -54,11 +87,15 @@ IedDriver::Runtime::~Runtime()
     }
     {
         std::unique_lock<std::mutex> lock(remaining->mutex);
-        remaining->changed.wait_for(lock, leavePatience, [&] { return remaining->count == 0; });
+        remaining->changed.wait_until(lock, end, [&] { return remaining->count == 0; });
     }
     m_values->flush();
+    // Attempts to connect that nobody wants any more have been cancelled, and need a moment to end.
     m_work.reset();
-    // What is still under way are attempts to connect that nobody waits for.
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_threadEnded.wait_until(lock, end, [this] { return m_running == 0; });
+    }
     m_context.stop();
     for (std::thread &thread : m_threads)
         thread.join();
@@ -94,6 +131,7 @@ void IedDriver::Runtime::setDevice(const DeviceConfiguration &configuration)
         environment.isReadOnly = [this] { return isReadOnly(); };
         environment.cacheFolder = m_options.cacheFolder;
         environment.captureOctets = m_options.captureOctets;
+        environment.lookUp = m_options.lookUp;
         created = DeviceConnection::create(m_context.get_executor(), configuration,
                                            std::move(environment));
     }
@@ -128,6 +166,7 @@ void IedDriver::Runtime::removeDevice(long deviceNo)
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_offlineNumbers.erase(deviceNo);
+        m_bound.erase(m_bound.lower_bound({deviceNo, 0}), m_bound.lower_bound({deviceNo + 1, 0}));
         const auto found = m_connections.find(deviceNo);
         if (found == m_connections.end())
             return;
@@ -160,8 +199,24 @@ IedDriver::Runtime::separate(const DeviceConfiguration &configuration)
     environment.values = m_values;
     environment.claim = [](const QStringList &) { return QString(); };
     environment.release = [] {};
+    environment.lookUp = m_options.lookUp;
     return DeviceConnection::create(m_context.get_executor(), configuration,
                                     std::move(environment));
+}
+
+void IedDriver::Runtime::bindCaller(long deviceNo, const DeviceIdentity &identity)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_bound[{deviceNo, ControllerCaller::current()}] = identity;
+}
+
+std::optional<DeviceIdentity> IedDriver::Runtime::boundTo(long deviceNo) const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const auto found = m_bound.find({deviceNo, ControllerCaller::current()});
+    if (found == m_bound.end())
+        return std::nullopt;
+    return found->second;
 }
 
 OperationResult IedDriver::Runtime::run(long deviceNo, Effect effect, QString &error,
@@ -187,6 +242,11 @@ OperationResult IedDriver::Runtime::runWithin(milliseconds limit, long deviceNo,
         error = Texts::tr("The driver is read-only: nothing on %1 was changed.")
                     .arg(device->configuration().title());
         return OperationFailed;
+    }
+    const std::optional<DeviceIdentity> bound = boundTo(deviceNo);
+    if (effect == Effect::Changes && bound) {
+        operation = onlyOn(*bound, std::move(operation));
+        need = Need::Model;
     }
     Outcome outcome = limit == milliseconds::zero()
                           ? device->perform(need, std::move(operation))
@@ -218,8 +278,13 @@ QString IedDriver::Runtime::claim(Holder holder, const QStringList &logicalDevic
 void IedDriver::Runtime::release(Holder holder)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
+    const std::size_t before = m_claimed.size();
     for (auto each = m_claimed.begin(); each != m_claimed.end();) {
         each = each->second.connection == holder.connection ? m_claimed.erase(each)
                                                             : std::next(each);
     }
+    if (m_claimed.size() == before)
+        return;
+    for (const auto &each : m_connections)
+        each.second->namesReleased();
 }

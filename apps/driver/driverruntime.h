@@ -11,11 +11,14 @@
 #include <asio/io_context.hpp>
 
 #include <atomic>
+#include <condition_variable>
 #include <map>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <set>
 #include <thread>
+#include <utility>
 #include <vector>
 
 /// What the controller operations of the driver run on: threads, devices by number, and the rules
@@ -42,9 +45,14 @@ public:
     void setReadOnly(bool readOnly) { m_readOnly = readOnly; }
     bool isReadOnly() const { return m_readOnly; }
 
+    /// The caller has been given the model of the device: from now on its calls are about that one
+    /// and no other that answers in its place.
+    void bindCaller(long deviceNo, const DeviceIdentity &identity);
+
     /// Runs an operation on the device: refused when it changes something and the driver is
-    /// read-only, or when the device has no address. Fills @p error. Ends at the latest after the
-    /// device's operation time-out.
+    /// read-only or another device than the one that the caller was bound to has answered, or when
+    /// the device has no address. Fills @p error. Ends at the latest after the device's operation
+    /// time-out.
     OperationResult run(long deviceNo, Effect effect, QString &error,
                         DeviceConnection::Operation operation, Need need = Need::Model);
     /// The same with a limit of its own.
@@ -63,6 +71,8 @@ private:
 
     QString claim(Holder holder, const QStringList &logicalDevices);
     void release(Holder holder);
+    void runContext();
+    std::optional<DeviceIdentity> boundTo(long deviceNo) const;
 
     const IedDriverOptions m_options;
     asio::io_context m_context;
@@ -75,6 +85,10 @@ private:
     std::map<long, std::shared_ptr<DeviceConnection>> m_connections;
     std::set<long> m_offlineNumbers; ///< devices without an address
     std::map<QString, Holder> m_claimed; ///< by logical device
+    /// What callers were given the model of, by device and caller.
+    std::map<std::pair<long, quint64>, DeviceIdentity> m_bound;
     std::uint64_t m_lastConnection = 0;
+    std::condition_variable m_threadEnded;
+    std::size_t m_running = 0; ///< threads
     std::vector<std::thread> m_threads;
 };

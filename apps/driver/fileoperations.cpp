@@ -2,6 +2,7 @@
 #include "driverruntime.h"
 #include "filenames.h"
 #include "journalentry.h"
+#include "transferpace.h"
 
 #include "acsi/files.h"
 
@@ -163,6 +164,8 @@ asio::awaitable<Outcome> fetch(DevicePointer device, QString name,
     if (!outcome)
         co_return outcome;
     bool isTooLarge = false;
+    bool isTooSlow = false;
+    const TransferPace pace(steady_clock::now());
     const auto announced = [&](std::uint32_t size) {
         isTooLarge = size > largestFile;
         if (!isTooLarge)
@@ -174,7 +177,8 @@ asio::awaitable<Outcome> fetch(DevicePointer device, QString name,
         if (!isTooLarge)
             content->append(reinterpret_cast<const char *>(block.data()),
                             static_cast<int>(block.size()));
-        return !isTooLarge;
+        isTooSlow = pace.isTooSlow(steady_clock::now(), static_cast<quint64>(content->size()));
+        return !isTooLarge && !isTooSlow;
     };
     QString notClosed;
     const auto keep = [&notClosed](const std::string &reason) { notClosed = text(reason); };
@@ -190,6 +194,13 @@ asio::awaitable<Outcome> fetch(DevicePointer device, QString name,
         co_return Outcome::failed(Texts::tr("%1 is too large: at most %2 octets can be fetched.")
                                       .arg(name)
                                       .arg(largestFile));
+    }
+    if (isTooSlow && !fetched) {
+        co_return Outcome::failed(Texts::tr("%1 comes too slowly: %2 octets so far, less than %3 "
+                                            "in a second.")
+                                      .arg(name)
+                                      .arg(content->size())
+                                      .arg(TransferPace::leastOctetsPerSecond));
     }
     co_return fetched ? Outcome() : Outcome::failed(fetched.error());
 }

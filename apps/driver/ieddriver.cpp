@@ -101,6 +101,12 @@ void IedDriver::cancelReading(long deviceNo)
         device->cancelReading();
 }
 
+void IedDriver::cancelOperations(long deviceNo)
+{
+    if (const auto device = m_runtime->connection(deviceNo))
+        device->cancelOperations();
+}
+
 DeviceStatus IedDriver::status(long deviceNo) const
 {
     const auto device = m_runtime->connection(deviceNo);
@@ -166,20 +172,19 @@ IedDriver::TestResult IedDriver::test(const DeviceConfiguration &configuration)
         [found](std::shared_ptr<DeviceConnection> self) -> asio::awaitable<Outcome> {
             const std::shared_ptr<acsi::Client> client = self->client();
             const auto before = std::chrono::steady_clock::now();
-            mms::Result<mms::IdentifyResponse> identity =
-                co_await client->ask<mms::IdentifyResponse>(mms::IdentifyRequest());
-            found->roundTrip = std::chrono::duration_cast<std::chrono::microseconds>(
-                std::chrono::steady_clock::now() - before);
-            if (identity) {
-                found->vendor = QString::fromStdString(identity->vendor);
-                found->model = QString::fromStdString(identity->model);
-                found->revision = QString::fromStdString(identity->revision);
-            }
             mms::Result<std::vector<std::string>> devices =
                 co_await client->nameList(mms::ObjectClass::Domain, mms::Scope::Vmd);
             if (!devices)
                 co_return Outcome::failed(devices.error());
+            found->roundTrip = std::chrono::duration_cast<std::chrono::microseconds>(
+                std::chrono::steady_clock::now() - before);
             found->logicalDevices = static_cast<int>(devices->size());
+            // The connection asks who is there by itself.
+            co_await self->identified(client);
+            const DeviceStatus who = self->status();
+            found->vendor = who.vendor;
+            found->model = who.model;
+            found->revision = who.revision;
             co_return Outcome();
         });
     device->cancelReading();
@@ -196,15 +201,20 @@ OperationResult IedDriver::getIEDModel(long deviceNo, QByteArray &model, QString
     if (!m_runtime->connection(deviceNo))
         return m_runtime->offline().getIEDModel(deviceNo, model, error);
     const auto bytes = std::make_shared<QByteArray>();
+    const auto identity = std::make_shared<DeviceIdentity>();
     const OperationResult result = m_runtime->run(
         deviceNo, Runtime::Effect::Reads, error,
-        [bytes](std::shared_ptr<DeviceConnection> device) -> asio::awaitable<Outcome> {
+        [bytes, identity](std::shared_ptr<DeviceConnection> device) -> asio::awaitable<Outcome> {
             co_await device->refreshDataSets();
             *bytes = device->modelBytes();
+            *identity = device->identity();
             co_return Outcome();
         });
-    if (result == OperationSucceeded)
+    if (result == OperationSucceeded) {
         model = *bytes;
+        if (identity->isKnown())
+            m_runtime->bindCaller(deviceNo, *identity);
+    }
     return result;
 }
 

@@ -6,6 +6,8 @@
 #include "pducapture.h"
 #include "reportevent.h"
 
+#include "mms/hostlookup.h"
+
 #include <remoteclient/driverservice.h>
 
 #include <QtCore/QVector>
@@ -34,6 +36,8 @@ struct IedDriverOptions
     /// thread of the driver, one at a time. Must not call the driver. A host that does not keep up
     /// loses the oldest that wait; the next event says so, and DeviceCounters::droppedEvents counts.
     std::function<void(const ReportEvent &)> reportReceived;
+    /// Looks up names of hosts; the system unless given. Called in any thread, several at a time.
+    mms::HostLookup::Function lookUp;
 };
 
 /// The driver: devices by number, reached over MMS or known only from their SCL file.
@@ -61,6 +65,9 @@ public:
     void disconnectDevice(long deviceNo);
     /// Stop reading the device's model; it is then disconnected.
     void cancelReading(long deviceNo);
+    /// End every operation that is under way on the device, whatever it waits for. Who called it is
+    /// told at once that it was cancelled; what the device was asked before may still be done.
+    void cancelOperations(long deviceNo);
 
     /// Number 0 when there is no such device, or none with an address.
     DeviceStatus status(long deviceNo) const;

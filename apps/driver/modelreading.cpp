@@ -11,12 +11,15 @@
 #include "acsi/reportblock.h"
 #include "acsi/settinggroup.h"
 
+#include <asio/co_spawn.hpp>
+
 #include <QtCore/QCoreApplication>
 
 #include <algorithm>
 
 using acsi::FunctionalConstraint;
 using ConnectionText::text;
+using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
 namespace {
@@ -37,24 +40,40 @@ mms::IdentifyResponse identityOf(const DeviceStatus &status)
     return {status.vendor.toStdString(), status.model.toStdString(), status.revision.toStdString(),
             {}};
 }
+/// How long a device may take to say who it is; one that does not is not asked again.
+constexpr milliseconds identifyLimit{2000};
 
 } // namespace
 
 asio::awaitable<void> DeviceConnection::identify(ClientPointer client)
 {
     const Deadline before = steady_clock::now();
-    const mms::Result<mms::IdentifyResponse> answer =
-        co_await client->ask<mms::IdentifyResponse>(mms::IdentifyRequest());
+    const mms::CallOutcome outcome = co_await client->association().call(
+        mms::IdentifyRequest(), std::min(identifyLimit, m_configuration.callTimeout),
+        mms::GivenUpCall::LeavesItsPlace);
+    if (client != m_client)
+        co_return;
+    const auto *failure = std::get_if<mms::CallFailure>(&outcome);
+    if (failure && failure->kind == mms::CallFailure::Kind::TimedOut && failure->wasSent)
+        m_answersIdentify = false;
+    const auto *answer = mms::answerOf<mms::IdentifyResponse>(outcome);
     const auto time =
         std::chrono::duration_cast<std::chrono::microseconds>(steady_clock::now() - before);
     updateStatus([&](DeviceStatus &status) {
-        status.roundTrip = time;
+        if (!failure)
+            status.roundTrip = time;
         if (!answer)
             return;
         status.vendor = text(answer->vendor);
         status.model = text(answer->model);
         status.revision = text(answer->revision);
     });
+}
+
+asio::awaitable<void> DeviceConnection::identified(ClientPointer client)
+{
+    while (m_isIdentifying && client->isOpen())
+        co_await pause(identifyLimit);
 }
 
 QString DeviceConnection::loadFile(const QStringList &logicalDevices)
@@ -83,7 +102,16 @@ QString DeviceConnection::loadFile(const QStringList &logicalDevices)
 
 asio::awaitable<QString> DeviceConnection::getReady(ClientPointer client)
 {
-    co_await identify(client);
+    if (m_answersIdentify && !m_isIdentifying) {
+        m_isIdentifying = true;
+        asio::co_spawn(m_strand, identify(client),
+                       [self = shared_from_this(), client](const std::exception_ptr &exception) {
+                           self->m_isIdentifying = false;
+                           self->wake();
+                           self->fail(client, exception);
+                       });
+    }
+    co_await identified(client);
     m_readingCancelled = std::make_shared<std::atomic<bool>>(false);
     mms::Result<acsi::ServerDescription> description = co_await describe(client);
     const bool wasCancelled = *m_readingCancelled;
@@ -91,9 +119,8 @@ asio::awaitable<QString> DeviceConnection::getReady(ClientPointer client)
     if (wasCancelled) {
         const QString reason = Texts::tr("Reading the model was cancelled.");
         // Who disconnects meanwhile has a reason of his own.
-        if (m_wanted)
-            m_leaveReason = reason;
-        m_wanted = false;
+        if (isWanted())
+            leave(reason);
         co_return reason;
     }
     if (!description)
@@ -124,6 +151,15 @@ asio::awaitable<QString> DeviceConnection::getReady(ClientPointer client)
     updateStatus([this](DeviceStatus &status) {
         status.refusedObjects = static_cast<int>(m_model->description().refused.size());
     });
+    const DeviceStatus who = status();
+    m_identity.address =
+        QStringLiteral("%1:%2").arg(m_configuration.host).arg(m_configuration.port);
+    m_identity.vendor = who.vendor;
+    m_identity.model = who.model;
+    m_identity.logicalDevices = names;
+    m_identity.revisions = m_revisions;
+    const std::optional<mms::TlsPeer> peer = client->association().tlsPeer();
+    m_identity.certificate = peer ? text(peer->fingerprint) : QString();
     co_await readBlocks(client);
     // The browser offers controls by their control model, so it comes with the model.
     co_await readConfiguration(client);
@@ -191,7 +227,10 @@ DeviceConnection::describe(ClientPointer client)
         QStringList names;
         for (const std::string &device : devices)
             names.append(text(device));
-        return m_environment.claim(names).toStdString();
+        const QString conflict = m_environment.claim(names);
+        if (!conflict.isEmpty())
+            m_ending = AssociationLife::Ending::Conflict;
+        return conflict.toStdString();
     };
     const std::weak_ptr<DeviceConnection> weak = weak_from_this();
     options.progress = [weak](std::size_t done, std::size_t total) {

@@ -164,12 +164,12 @@ asio::awaitable<void> DeviceConnection::poll(ClientPointer client)
     co_await readValues(client, slowConstraints, publication);
     const milliseconds interval = m_configuration.pollInterval;
     int count = 0;
-    while (interval > milliseconds::zero() && m_wanted && client->isOpen()) {
+    while (interval > milliseconds::zero() && isWanted() && client->isOpen()) {
         const Deadline next = steady_clock::now() + interval;
-        for (Deadline now = steady_clock::now(); now < next && client->isOpen() && m_wanted;
+        for (Deadline now = steady_clock::now(); now < next && client->isOpen() && isWanted();
              now = steady_clock::now())
             co_await pause(std::chrono::ceil<milliseconds>(next - now));
-        if (!m_wanted || !client->isOpen())
+        if (!isWanted() || !client->isOpen())
             break;
         co_await readValues(client, fastConstraints, publication);
         if (++count % slowPolls == 0) {
@@ -270,7 +270,8 @@ QByteArray DeviceConnection::modelBytes()
 {
     ++m_recentUsers;
     asio::co_spawn(m_strand, republish(),
-                   [self = shared_from_this()](const std::exception_ptr &) {});
+                   [self = shared_from_this(), client = m_client](
+                       const std::exception_ptr &exception) { self->fail(client, exception); });
     return m_model->toBytes();
 }
 

@@ -63,6 +63,8 @@ public:
     std::uint16_t port() const { return m_options.server.port; }
     const scl::Ied &ied() const { return *m_ied; }
     std::shared_ptr<sim::Device> device() const { return m_device; }
+    /// Of the next start.
+    sim::DeviceOptions &options() { return m_options; }
     void setFaults(const std::string &script)
     {
         const auto faults = sim::Faults::parse(script);
