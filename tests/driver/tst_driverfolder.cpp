@@ -24,7 +24,7 @@ bool hasLeaves(const DAO &node)
 }
 
 /// One line for each thing of a device, with all that the browser shows of it. Left out is what no
-/// device can have: data without any attribute in it.
+/// device can have: data without any attribute in it, and members that the file does not define.
 class Inventory
 {
 public:
@@ -57,10 +57,12 @@ private:
         }
         for (const DataSet *set : node.dataSetGroup->dataSets) {
             add(QStringLiteral("%1 set %2 state %3").arg(path, set->name).arg(set->state));
-            for (const DataSetMember *member : set->members)
-                add(QStringLiteral("%1 set %2 member %3 state %4")
-                        .arg(path, set->name, member->reference)
-                        .arg(member->state));
+            for (const DataSetMember *member : set->members) {
+                if (member->state != 0)
+                    add(QStringLiteral("%1 set %2 member %3 state %4")
+                            .arg(path, set->name, member->reference)
+                            .arg(member->state));
+            }
         }
         for (const ReportControlBlock *block : node.reportControls->blocks) {
             add(QStringLiteral("%1 block %2 set %3 revision %4 integrity %5 buffer %6")
