@@ -71,49 +71,70 @@ asio::awaitable<Outcome> listNode(DevicePointer device, Entries entries, QString
     co_return Outcome();
 }
 
+/// What is below one reference. The error is one sentence.
+asio::awaitable<mms::Result<void>> listBelow(std::shared_ptr<acsi::Client> client, Entries entries,
+                                             QString ldName, QString each)
+{
+    const mms::Result<acsi::Reference> reference =
+        acsi::parseReference(ldName.toStdString(), each.toStdString());
+    if (!reference)
+        co_return reference.error();
+    // The type of an element is the one in its array's.
+    acsi::Reference whole = *reference;
+    std::string below;
+    for (std::size_t i = 0; i < whole.path.size(); ++i) {
+        if (!whole.path[i].element)
+            continue;
+        below = '(' + std::to_string(*whole.path[i].element) + ')';
+        for (std::size_t j = i + 1; j < reference->path.size(); ++j)
+            below += '$' + reference->path[j].name;
+        whole.path[i].element.reset();
+        whole.path.resize(i + 1);
+        break;
+    }
+    const mms::Result<mms::TypeDescription> type =
+        co_await client->type(mms::ObjectName::inDomain(whole.device, acsi::itemText(whole)));
+    if (!type)
+        co_return type.error();
+    if (!below.empty()) {
+        append(*entries, each, text(below));
+        co_return mms::Result<void>();
+    }
+    if (type->components.empty())
+        append(*entries, each, text(mms::toText(*type)));
+    for (const mms::TypeDescription::Component &component : type->components) {
+        const QString name =
+            component.name.empty() ? each : each + QLatin1Char('$') + text(component.name);
+        append(*entries, name, text(mms::toText(component.type)));
+    }
+    co_return mms::Result<void>();
+}
+
+/// A reference that names nothing is listed as not valid; only when all of them do, it is an error.
 asio::awaitable<Outcome> listData(DevicePointer device, Entries entries, QString ldName,
                                   QStringList references)
 {
+    QStringList failures;
     for (const QString &each : qAsConst(references)) {
-        const mms::Result<acsi::Reference> reference =
-            acsi::parseReference(ldName.toStdString(), each.toStdString());
-        if (!reference)
-            co_return Outcome::failed(reference.error());
-        // The type of an element is the one in its array's.
-        acsi::Reference whole = *reference;
-        std::string below;
-        for (std::size_t i = 0; i < whole.path.size(); ++i) {
-            if (!whole.path[i].element)
-                continue;
-            below = '(' + std::to_string(*whole.path[i].element) + ')';
-            for (std::size_t j = i + 1; j < reference->path.size(); ++j)
-                below += '$' + reference->path[j].name;
-            whole.path[i].element.reset();
-            whole.path.resize(i + 1);
-            break;
-        }
         // The association may have ended while the reference before was asked for.
         const std::shared_ptr<acsi::Client> client = device->client();
         if (!client) {
             const QString sentence = device->notConnectedSentence();
             co_return Outcome{OperationNotConnected, sentence};
         }
-        const mms::Result<mms::TypeDescription> type =
-            co_await client->type(mms::ObjectName::inDomain(whole.device, acsi::itemText(whole)));
-        if (!type)
-            co_return Outcome::failed(Texts::tr("%1: %2").arg(each, text(type.error().message)));
-        if (!below.empty()) {
-            append(*entries, each, text(below));
+        const mms::Result<void> listed = co_await listBelow(client, entries, ldName, each);
+        if (listed)
             continue;
-        }
-        if (type->components.empty())
-            append(*entries, each, text(mms::toText(*type)));
-        for (const mms::TypeDescription::Component &component : type->components) {
-            const QString name =
-                component.name.empty() ? each : each + QLatin1Char('$') + text(component.name);
-            append(*entries, name, text(mms::toText(component.type)));
-        }
+        const QString reason = text(listed.error().message);
+        failures.append(Texts::tr("%1: %2").arg(each, reason));
+        NameVaildValue entry;
+        entry.name = each;
+        entry.valid = false;
+        entry.value = reason;
+        entries->append(entry);
     }
+    if (failures.size() == references.size())
+        co_return Outcome::failed(failures.join(QLatin1Char(' ')));
     co_return Outcome();
 }
 
@@ -168,6 +189,7 @@ asio::awaitable<Outcome> listBlocks(DevicePointer device, Entries entries, QStri
 
 asio::awaitable<Outcome> listSettingGroups(DevicePointer device, Entries entries, QString ldName)
 {
+    const std::shared_ptr<acsi::Client> client = device->client();
     mms::Result<acsi::Reference> reference =
         acsi::parseReference(ldName.toStdString(), "LLN0$SP$SGCB");
     if (!reference)
@@ -181,7 +203,7 @@ asio::awaitable<Outcome> listSettingGroups(DevicePointer device, Entries entries
             co_return Outcome();
     }
     const mms::Result<acsi::SettingGroupBlock> block =
-        co_await acsi::readSettingGroupBlock(device->client(), *reference);
+        co_await acsi::readSettingGroupBlock(client, *reference);
     if (!block)
         co_return Outcome::failed(block.error());
     append(*entries, QStringLiteral("NumOfSG"), block->numOfSG);
@@ -238,6 +260,19 @@ void tell(DeviceConnection &device, const QString &operation, const QString &ref
     device.journal(std::move(change));
 }
 
+/// Why a data set cannot be made under that name; empty when it can.
+QString faultOfName(const mms::ObjectName &name)
+{
+    constexpr std::size_t longestName = 32; // IEC 61850-7-2, DSName
+    const std::string bare = name.item.substr(name.item.find('$') + 1);
+    if (bare.size() <= longestName)
+        return {};
+    return Texts::tr("\"%1\" has %2 characters; the name of a data set has at most %3.")
+        .arg(text(bare))
+        .arg(bare.size())
+        .arg(longestName);
+}
+
 asio::awaitable<Outcome> makeDataSet(DevicePointer device, QString ldName, QString reference,
                                      QString members, bool isOfAssociation)
 {
@@ -245,6 +280,9 @@ asio::awaitable<Outcome> makeDataSet(DevicePointer device, QString ldName, QStri
         acsi::dataSetName(ldName.toStdString(), wireName(reference, isOfAssociation).toStdString());
     if (!name)
         co_return Outcome::failed(name.error());
+    const QString fault = faultOfName(*name);
+    if (!fault.isEmpty())
+        co_return Outcome::failed(fault);
     std::vector<mms::VariableAccess> variables;
     QStringList full;
     const QStringList parts = members.split(QLatin1Char(';'), Qt::SkipEmptyParts);
@@ -255,6 +293,11 @@ asio::awaitable<Outcome> makeDataSet(DevicePointer device, QString ldName, QStri
                                             : acsi::parseReference(ldName.toStdString(), member);
         if (!known)
             co_return Outcome::failed(known.error());
+        if (!known->constraint)
+            co_return Outcome::failed(
+                Texts::tr("\"%1\" names no functional constraint, which each member of a data set "
+                          "needs.")
+                    .arg(part.trimmed()));
         variables.push_back(acsi::accessOf(*known));
         full.append(text(acsi::toText(*known)));
     }
@@ -272,9 +315,12 @@ asio::awaitable<Outcome> makeDataSet(DevicePointer device, QString ldName, QStri
 
 asio::awaitable<Outcome> dropDataSet(DevicePointer device, QString ldName, QString reference)
 {
+    // A name with a part for a logical node, whatever stands between the two, is not one of the
+    // association.
+    const bool isBare =
+        !reference.contains(QLatin1Char('$')) && !reference.contains(QLatin1Char('.'));
     const mms::Result<mms::ObjectName> name =
-        acsi::dataSetName(ldName.toStdString(),
-                          wireName(reference, !reference.contains(QLatin1Char('$'))).toStdString());
+        acsi::dataSetName(ldName.toStdString(), wireName(reference, isBare).toStdString());
     if (!name)
         co_return Outcome::failed(name.error());
     const mms::Result<void> deleted = co_await acsi::deleteDataSet(device->client(), *name);

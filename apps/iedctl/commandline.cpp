@@ -6,6 +6,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include <QtCore/QFile>
+
 #include <memory>
 #include <string>
 #include <vector>
@@ -38,8 +40,15 @@ struct Values
     std::string connect;
     std::string sclFile;
     std::string ied;
+    std::string accessPoint;
     std::string password;
-    std::string authorities;
+    std::string passwordFile;
+    int passwordDescriptor = -1;
+    std::vector<std::string> authorities;
+    std::vector<std::string> pins;
+    std::vector<std::string> revocations;
+    std::string peerName;
+    std::string keyPasswordFile;
     std::string certificate;
     std::string key;
     double timeout = 5;
@@ -87,6 +96,39 @@ CLI::Validator unnamed(CLI::Validator check)
     return check.description({});
 }
 
+/// The first line of what is open.
+QString firstLine(QFile &file, const QString &name, QString &refusal)
+{
+    constexpr qint64 longest = 4096;
+    QByteArray line = file.readLine(longest);
+    while (line.endsWith('\n') || line.endsWith('\r'))
+        line.chop(1);
+    if (line.isEmpty())
+        refusal = QStringLiteral("%1 holds no password.").arg(name);
+    return QString::fromUtf8(line);
+}
+
+QString secretFrom(const QString &path, QString &refusal)
+{
+    QFile file(path);
+    const QString name = QStringLiteral("The file \"%1\"").arg(path);
+    if (file.open(QIODevice::ReadOnly))
+        return firstLine(file, name, refusal);
+    refusal = QStringLiteral("%1 cannot be read: %2.").arg(name, file.errorString());
+    return {};
+}
+
+QString secretFrom(int descriptor, QString &refusal)
+{
+    QFile file;
+    const QString name = QStringLiteral("The descriptor %1").arg(descriptor);
+    // Not one octet more than the line: what is behind it may be the commands of a batch.
+    if (file.open(descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return firstLine(file, name, refusal);
+    refusal = QStringLiteral("%1 cannot be read: %2.").arg(name, file.errorString());
+    return {};
+}
+
 class Parser
 {
 public:
@@ -132,6 +174,7 @@ public:
         device.number = 1;
         device.sclFile = text(m_values.sclFile);
         device.ied = text(m_values.ied);
+        device.accessPoint = text(m_values.accessPoint);
         device.password = text(m_values.password);
         const auto timeout =
             std::chrono::milliseconds(static_cast<std::int64_t>(m_values.timeout * 1000));
@@ -141,12 +184,23 @@ public:
         device.connectTimeout = timeout;
         device.callTimeout = timeout;
         device.operationTimeout = 3 * timeout;
-        device.tls.enabled = !m_values.authorities.empty();
-        if (!m_values.authorities.empty())
-            device.tls.authorityFiles = QStringList(text(m_values.authorities));
+        device.tls.enabled = !m_values.authorities.empty() || !m_values.pins.empty();
+        device.tls.authorityFiles = texts(m_values.authorities);
+        device.tls.pins = texts(m_values.pins);
+        device.tls.revocationFiles = texts(m_values.revocations);
+        device.tls.peerName = text(m_values.peerName);
         device.tls.certificateFile = text(m_values.certificate);
         device.tls.keyFile = text(m_values.key);
         device.pollInterval = std::chrono::milliseconds(m_values.polls ? watchIntervalMs : 0);
+        QString secretRefusal;
+        if (!m_values.passwordFile.empty())
+            device.password = secretFrom(text(m_values.passwordFile), secretRefusal);
+        else if (m_values.passwordDescriptor >= 0)
+            device.password = secretFrom(m_values.passwordDescriptor, secretRefusal);
+        if (!m_values.keyPasswordFile.empty())
+            device.tls.keyPassword = secretFrom(text(m_values.keyPasswordFile), secretRefusal);
+        if (!secretRefusal.isEmpty())
+            return Answer{secretRefusal, true, ExitStatus::Usage};
         if (!m_values.connect.empty()) {
             const QString refusal = takeAddress(text(m_values.connect), device);
             if (!refusal.isEmpty())
@@ -197,24 +251,73 @@ private:
         m_app.add_option("--ied", m_values.ied, "IED of the SCL file, where it describes several")
             ->type_name("NAME")
             ->needs(scl);
-        m_app.add_option("--password", m_values.password, "Password for the association")
-            ->type_name("TEXT")
-            ->needs(connect);
-        CLI::Option *authorities =
+        m_app
+            .add_option("--access-point", m_values.accessPoint,
+                        "Access point of the IED; found by the address unless given")
+            ->type_name("NAME")
+            ->needs(scl);
+        CLI::Option *password =
             m_app
-                .add_option("--tls-ca", m_values.authorities,
-                            "Connect over TLS; who may have issued the server's certificate (PEM)")
-                ->type_name("FILE")
+                .add_option("--password", m_values.password,
+                            "Password for the association; other users of this computer may see it")
+                ->type_name("TEXT")
                 ->needs(connect);
+        CLI::Option *passwordFile = m_app
+                                        .add_option("--password-file", m_values.passwordFile,
+                                                    "The password is the first line of a file")
+                                        ->type_name("FILE")
+                                        ->needs(connect)
+                                        ->excludes(password);
+        m_app
+            .add_option("--password-fd", m_values.passwordDescriptor,
+                        "The password is the first line that can be read from an open descriptor")
+            ->type_name("NUMBER")
+            ->check(unnamed(CLI::NonNegativeNumber))
+            ->needs(connect)
+            ->excludes(password)
+            ->excludes(passwordFile);
+        m_app
+            .add_option("--tls-ca", m_values.authorities,
+                        "Connect over TLS; who may have issued the server's certificate (PEM); may "
+                        "be given several times")
+            ->type_name("FILE")
+            ->expected(1)
+            ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+            ->needs(connect);
+        m_app
+            .add_option("--tls-pin", m_values.pins,
+                        "Connect over TLS to the server with this certificate only: its SHA-256 "
+                        "fingerprint; may be given several times")
+            ->type_name("HEX")
+            ->expected(1)
+            ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+            ->needs(connect);
+        m_app
+            .add_option("--tls-crl", m_values.revocations,
+                        "Revocation list (PEM) of the issuers; may be given several times")
+            ->type_name("FILE")
+            ->expected(1)
+            ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+            ->needs(connect);
+        m_app
+            .add_option("--tls-name", m_values.peerName,
+                        "Host name or address that the server's certificate is made out to")
+            ->type_name("NAME")
+            ->needs(connect);
         CLI::Option *certificate =
             m_app.add_option("--tls-cert", m_values.certificate, "Own certificate (PEM)")
                 ->type_name("FILE")
-                ->needs(authorities);
+                ->needs(connect);
         CLI::Option *key =
             m_app.add_option("--tls-key", m_values.key, "Key of the certificate (PEM)")
                 ->type_name("FILE")
                 ->needs(certificate);
         certificate->needs(key);
+        m_app
+            .add_option("--tls-key-password-file", m_values.keyPasswordFile,
+                        "The password of the key is the first line of a file")
+            ->type_name("FILE")
+            ->needs(key);
         m_app
             .add_option("--timeout", m_values.timeout,
                         "Limit of each request in seconds, from 0.1 to 600")
@@ -228,6 +331,11 @@ private:
         m_app.callback([this] {
             if (m_values.connect.empty() && m_values.sclFile.empty())
                 throw CLI::RequiredError("--connect HOST:PORT or --scl FILE");
+            const bool trusts = !m_values.authorities.empty() || !m_values.pins.empty();
+            const bool needsTrust = !m_values.certificate.empty() || !m_values.peerName.empty() ||
+                                    !m_values.revocations.empty();
+            if (needsTrust && !trusts)
+                throw CLI::RequiredError("With TLS, --tls-ca FILE or --tls-pin HEX");
         });
     }
 

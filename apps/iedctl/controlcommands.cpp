@@ -68,11 +68,7 @@ std::optional<Target> targetOf(Session &session, const Commands::ControlRequest 
         return {};
     }
     if (request.value) {
-        const DataAttribute *attribute =
-            attributeOf(*selection.object, {QStringLiteral("Oper"), QStringLiteral("ctlVal")});
-        const EnumType entries =
-            attribute ? device->getEnumType(attribute->enumTypeId) : EnumType();
-        target.value = ValueText::parseControl(entries, *request.value, error);
+        target.value = ValueText::parseControl(*device, *selection.object, *request.value, error);
         if (!error.isEmpty()) {
             session.failed(error);
             return {};

@@ -11,8 +11,8 @@
 
 class Output;
 
-/// What the driver tells of the state of the one device: whether it has arrived, and when it goes and
-/// comes back. The driver calls take() from any thread, the commands call the rest.
+/// What the driver tells of the state of the one device: whether it has arrived, and when it goes
+/// and comes back. The driver calls take() from any thread, the commands call the rest.
 class DeviceObserver
 {
 public:

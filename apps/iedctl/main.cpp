@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "batch.h"
 #include "commandline.h"
+#include "deviceobserver.h"
 #include "output.h"
 #include "session.h"
 
@@ -10,10 +11,8 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 
-#include <condition_variable>
 #include <csignal>
 #include <memory>
-#include <mutex>
 #include <unistd.h>
 
 namespace {
@@ -29,53 +28,13 @@ extern "C" void stopStreams(int)
     std::signal(SIGTERM, SIG_DFL);
 }
 
-/// Waits until the driver has the device's model, or knows why not.
-class Arrival
-{
-public:
-    void take(const DeviceStatus &status)
-    {
-        const std::lock_guard lock(m_mutex);
-        m_status = status;
-        m_changed.notify_all();
-    }
-
-    /// Shows the progress to @p output; false when it was given up, with @p reason.
-    bool wait(Output &output, QString &reason)
-    {
-        constexpr std::chrono::milliseconds look{100};
-        std::unique_lock lock(m_mutex);
-        while (!Session::interrupted()) {
-            m_changed.wait_for(lock, look);
-            if (m_status.state == DeviceState::Online)
-                return true;
-            if (m_status.state == DeviceState::Waiting) {
-                reason = m_status.reason;
-                return false;
-            }
-            if (m_status.state == DeviceState::ReadingModel && m_status.modelSteps > 0) {
-                output.progress(QStringLiteral("Reading the model: %1 of %2")
-                                    .arg(m_status.modelStepsDone)
-                                    .arg(m_status.modelSteps));
-            }
-        }
-        reason = QStringLiteral("Interrupted.");
-        return false;
-    }
-
-private:
-    std::mutex m_mutex;
-    std::condition_variable m_changed;
-    DeviceStatus m_status;
-};
-
 ExitStatus run(const Invocation &invocation, Output &output)
 {
-    Arrival arrival;
+    DeviceObserver observer;
     IedDriverOptions options;
     const auto events = std::make_shared<EventReceiver>();
     options.reportReceived = [events](const ReportEvent &event) { events->take(event); };
-    options.statusChanged = [&arrival](const DeviceStatus &status) { arrival.take(status); };
+    options.statusChanged = [&observer](const DeviceStatus &status) { observer.take(status); };
     const auto driver = std::make_shared<IedDriver>(options);
     const QStringList faults = driver->setDevice(invocation.device);
     if (!faults.isEmpty()) {
@@ -86,7 +45,7 @@ ExitStatus run(const Invocation &invocation, Output &output)
     if (!invocation.device.host.isEmpty()) {
         driver->connectDevice(deviceNumber);
         QString reason;
-        if (!arrival.wait(output, reason)) {
+        if (!observer.waitForArrival(output, reason)) {
             output.complain(reason);
             return ExitStatus::NotConnected;
         }
@@ -94,7 +53,7 @@ ExitStatus run(const Invocation &invocation, Output &output)
     DriverServiceRegistry::add(driverAddress, driver);
     ExitStatus status = ExitStatus::Done;
     {
-        Session session(driverAddress, deviceNumber, output);
+        Session session(driverAddress, deviceNumber, output, &observer);
         session.setEvents(events);
         if (invocation.batch.isEmpty()) {
             status = invocation.command(session);

@@ -10,7 +10,8 @@
 class QIODevice;
 
 /// Where results and complaints go: as aligned text for people, as JSON for scripts. Results are
-/// one JSON document for each command; a stream of values is one object a line.
+/// one JSON document for each command; a stream of values is one object a line. Whatever a device
+/// sends as text, nothing of it commands the terminal: see printable().
 class Output
 {
 public:
@@ -42,6 +43,10 @@ private:
     bool m_terminal;
     bool m_showsProgress = false;
 };
+
+/// The text with everything that does not print, control characters and marks that turn the
+/// direction of writing among them, as "\u" and four hexadecimal digits, as JSON writes it.
+QString printable(const QString &text);
 
 /// A JSON value as people read it: "true", "3.5", texts as they are, lists joined by blanks.
 QString plainText(const QJsonValue &value);

@@ -14,9 +14,11 @@ constexpr int silenceMs = 3000;
 
 } // namespace
 
-Session::Session(const QString &driverAddress, long deviceNo, Output &output)
+Session::Session(const QString &driverAddress, long deviceNo, Output &output,
+                 DeviceObserver *observer)
     : m_deviceNo(deviceNo)
     , m_output(output)
+    , m_observer(observer)
 {
     m_controller.setLocation(driverAddress, 0);
 }

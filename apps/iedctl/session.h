@@ -19,16 +19,21 @@
 #include <memory>
 #include <optional>
 
+class DeviceObserver;
+
 /// One device behind a driver, and what the commands have learnt about it. One thread.
 class Session
 {
 public:
     /// @param output outlives the session
-    Session(const QString &driverAddress, long deviceNo, Output &output);
+    /// @param observer of the device, outlives the session; null when nobody tells its state
+    Session(const QString &driverAddress, long deviceNo, Output &output,
+            DeviceObserver *observer = nullptr);
 
     IEC61850ControllerInterface &controller() { return m_controller; }
     long deviceNo() const { return m_deviceNo; }
     Output &output() { return m_output; }
+    DeviceObserver *observer() { return m_observer; }
 
     /// The model, fetched at the first call; null when it cannot be had, which was complained
     /// about.
@@ -71,6 +76,7 @@ private:
     IEC61850ControllerInterface m_controller;
     long m_deviceNo;
     Output &m_output;
+    DeviceObserver *m_observer;
     std::unique_ptr<PhysicalDevice> m_model;
     std::unique_ptr<ValueReceiver> m_receiver;
     std::shared_ptr<EventReceiver> m_events;

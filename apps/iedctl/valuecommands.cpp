@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "commands.h"
+#include "deviceobserver.h"
 #include "references.h"
 #include "session.h"
 #include "valuelines.h"
@@ -12,6 +13,29 @@
 namespace {
 
 constexpr int streamWaitMs = 200;
+
+/// One line for each time that the association was lost or stands again.
+void showTurns(Session &session)
+{
+    if (!session.observer())
+        return;
+    const QList<DeviceObserver::Turn> turns = session.observer()->turns();
+    for (const DeviceObserver::Turn &turn : turns) {
+        const QString time = turn.time.toUTC().toString(Qt::ISODateWithMs);
+        QJsonObject row{{QStringLiteral("event"),
+                         turn.isLost ? QStringLiteral("lost") : QStringLiteral("back")},
+                        {QStringLiteral("time"), time}};
+        if (turn.isLost)
+            row.insert(QStringLiteral("reason"), turn.reason);
+        session.output().streamed(
+            turn.isLost ? QStringLiteral(
+                              "The device was lost at %1; what stands above is older than that. %2")
+                              .arg(time, turn.reason)
+                              .trimmed()
+                        : QStringLiteral("The device was back at %1.").arg(time),
+            row);
+    }
+}
 
 } // namespace
 
@@ -54,7 +78,9 @@ ExitStatus streamValues(Session &session, const PhysicalDevice &device,
                 break;
             wait = static_cast<int>(std::min<qint64>(left, wait));
         }
-        for (const MMSValue &value : session.receive(wait, origin)) {
+        const QList<MMSValue> received = session.receive(wait, origin);
+        showTurns(session);
+        for (const MMSValue &value : received) {
             if (!wanted.isEmpty() && !wanted.contains(value.reference))
                 continue;
             const QJsonObject row = valueRow(device, value);
@@ -151,19 +177,27 @@ ExitStatus watch(Session &session, const QStringList &references, StreamLimit li
         return session.lastFailure();
     session.listen();
     QStringList wanted;
+    ExitStatus status = ExitStatus::Done;
     for (const QString &reference : references) {
         QString error;
         const Selection selection = selectData(*device, reference, error);
-        if (selection.attributes.isEmpty())
-            return session.failed(error);
+        if (selection.attributes.isEmpty()) {
+            status = session.failed(error);
+            continue;
+        }
         for (const DataAttribute *attribute : selection.attributes)
             wanted.append(attribute->reference);
+        // What cannot be read is told; the rest is shown as it changes.
         const OperationResult result = session.controller().readVariable(
             session.deviceNo(), selection.device, selection.references, error);
         if (result != OperationSucceeded)
-            return session.failed(result, error);
+            status = session.failed(result, error);
     }
-    return streamValues(session, *device, wanted, Session::Origin::Any, limit);
+    // Without a reference that can be meant, all would be shown that nobody asked for.
+    if (!references.isEmpty() && wanted.isEmpty())
+        return status;
+    streamValues(session, *device, wanted, Session::Origin::Any, limit);
+    return status;
 }
 
 } // namespace Commands

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "valuetext.h"
 
+#include "references.h"
+
+#include "driver/valueconversion.h"
+
 #include <devicemodel/physicaldevice.h>
 
 #include <QtCore/QHash>
@@ -41,11 +45,18 @@ bool isCoded(const QString &basicType)
            basicType == QLatin1String("Tcmd") || basicType == QLatin1String("Check");
 }
 
-/// The entries that the standard itself gives a coded type.
-EnumType standardEntries(const QString &basicType)
+/// The entries that the standard itself gives a coded type, and the modes of logical nodes.
+EnumType standardEntries(const QString &basicType, const QString &enumTypeId)
 {
     EnumType entries;
-    if (basicType == QLatin1String("Dbpos")) {
+    if (basicType == QLatin1String("Enum") &&
+        (enumTypeId == QLatin1String("Mod") || enumTypeId == QLatin1String("Beh"))) {
+        entries.values = {{1, QStringLiteral("on")},
+                          {2, QStringLiteral("blocked")},
+                          {3, QStringLiteral("test")},
+                          {4, QStringLiteral("test/blocked")},
+                          {5, QStringLiteral("off")}};
+    } else if (basicType == QLatin1String("Dbpos")) {
         entries.values = {{0, QStringLiteral("intermediate-state")},
                           {1, QStringLiteral("off")},
                           {2, QStringLiteral("on")},
@@ -66,7 +77,7 @@ EnumType entriesOf(const PhysicalDevice &device, const DataAttribute &attribute)
         if (!entries.values.isEmpty())
             return entries;
     }
-    return standardEntries(attribute.basicType);
+    return standardEntries(attribute.basicType, attribute.enumTypeId);
 }
 
 std::optional<int> entry(const EnumType &entries, const QString &text)
@@ -133,6 +144,36 @@ bool consistsOf(const QString &text, const QString &characters)
             return false;
     }
     return true;
+}
+
+/// What the control value of an object is: its type, and the enumeration that names its values. A
+/// type that is neither a boolean nor counts stands for the number that an analogue set point
+/// takes.
+DataAttribute takenBy(const PhysicalDevice &device, const DataObject &object)
+{
+    DataAttribute taken;
+    const DAO *status = object.getDAOByName(QStringLiteral("stVal"));
+    const DataAttribute *state = status ? status->attribute : nullptr;
+    const DataAttribute *value =
+        attributeOf(object, {QStringLiteral("Oper"), QStringLiteral("ctlVal")});
+    if (!value)
+        value = attributeOf(object, {QStringLiteral("SBOw"), QStringLiteral("ctlVal")});
+    if (value) {
+        taken.basicType = value->basicType;
+        taken.enumTypeId = value->enumTypeId;
+    } else if (state && !object.getDAOByName(QStringLiteral("Oper"))) {
+        // A device that hides the command from its description takes what its status suggests.
+        taken.basicType = state->basicType == QLatin1String("Dbpos") ? QStringLiteral("BOOLEAN")
+                                                                     : state->basicType;
+    }
+    // Without a file the device tells no enumeration for the command: the status has the same.
+    const bool isNumbered = taken.basicType == QLatin1String("Enum") || rangeOf(taken.basicType);
+    if (isNumbered && state && state->basicType == QLatin1String("Enum") &&
+        device.getEnumType(taken.enumTypeId).values.isEmpty()) {
+        taken.basicType = QStringLiteral("Enum");
+        taken.enumTypeId = state->enumTypeId;
+    }
+    return taken;
 }
 
 } // namespace
@@ -222,13 +263,32 @@ QVariant parseLike(const QVariant &before, const QString &text, QString &error)
     }
 }
 
-double parseControl(const EnumType &enumeration, const QString &text, QString &error)
+double parseControl(const PhysicalDevice &device, const DataObject &object, const QString &text,
+                    QString &error)
 {
-    if (const std::optional<int> ordinal = entry(enumeration, text))
+    const DataAttribute taken = takenBy(device, object);
+    const EnumType entries = entriesOf(device, taken);
+    if (const std::optional<int> ordinal = entry(entries, text))
         return *ordinal;
-    if (const std::optional<bool> value = truth(text))
-        return *value ? 1 : 0;
-    return real(text, QStringLiteral("a control value"), error).toDouble();
+    if (taken.basicType == QLatin1String("BOOLEAN")) {
+        if (const std::optional<bool> value = truth(text))
+            return *value ? 1 : 0;
+        error = doesNotFit(text, taken.basicType);
+        return 0;
+    }
+    const bool isWhole = isCoded(taken.basicType) || rangeOf(taken.basicType);
+    if (isWhole) {
+        const QVariant number = integer(text, taken.basicType,
+                                        isCoded(taken.basicType) ? *rangeOf(QStringLiteral("INT32"))
+                                                                 : *rangeOf(taken.basicType),
+                                        error);
+        const QStringList names = entries.values.values();
+        if (!number.isValid() && !names.isEmpty())
+            error =
+                QStringLiteral("\"%1\" is none of %2.").arg(text, names.join(QLatin1String(", ")));
+        return number.toDouble();
+    }
+    return real(text, QStringLiteral("a control value that is a number"), error).toDouble();
 }
 
 QString shown(const PhysicalDevice &device, const DataAttribute *attribute, const QVariant &value)
@@ -240,9 +300,7 @@ QString shown(const PhysicalDevice &device, const DataAttribute *attribute, cons
         if (!name.isEmpty())
             return QStringLiteral("%1 (%2)").arg(value.toString(), name);
     }
-    if (value.userType() == QMetaType::Float)
-        return QString::number(static_cast<double>(value.toFloat()), 'g', 7);
-    return value.toString();
+    return ValueConversion::text(value);
 }
 
 QJsonValue toJson(const QVariant &value)

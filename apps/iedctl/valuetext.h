@@ -5,9 +5,9 @@
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
-class EnumType;
 class PhysicalDevice;
 struct DataAttribute;
+struct DataObject;
 
 /// Between what is typed on a command line and the representation of `DataAttribute::value`.
 namespace ValueText {
@@ -21,8 +21,11 @@ QVariant parse(const PhysicalDevice &device, const DataAttribute &attribute, con
 /// The value that @p text means where @p before stood.
 QVariant parseLike(const QVariant &before, const QString &text, QString &error);
 
-/// A control value as the driver takes it: a number, "on", "off", or an entry of @p enumeration.
-double parseControl(const EnumType &enumeration, const QString &text, QString &error);
+/// A control value as the driver takes it, by the type that the object's command has: "on", "off",
+/// "true" and "false" where that is a boolean, entries or whole numbers where it is an enumeration
+/// or an integer, a number for an analogue set point.
+double parseControl(const PhysicalDevice &device, const DataObject &object, const QString &text,
+                    QString &error);
 
 /// With the name of the entry behind the number where the attribute is an enumeration.
 QString shown(const PhysicalDevice &device, const DataAttribute *attribute, const QVariant &value);

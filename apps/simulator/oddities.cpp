@@ -13,6 +13,9 @@ constexpr std::array cases = {
     OddityCase{"names-in-type-order",
                "Lists of variable names are in the order of the types, not sorted.",
                &Oddities::namesInTypeOrder},
+    OddityCase{"fixed-lengths",
+               "Texts and octets are described with a fixed length where they have a greatest one.",
+               &Oddities::fixedLengths},
 
     // Values
 

@@ -17,6 +17,7 @@ struct Oddities
     // Names and types
 
     bool namesInTypeOrder = false;
+    bool fixedLengths = false;
 
     // Values
 

@@ -2,6 +2,7 @@
 #include "simulator/services.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 namespace sim {
@@ -54,6 +55,18 @@ std::size_t leastOctets(const mms::Data &data)
     for (const mms::Data &child : data.children())
         octets += leastOctets(child);
     return octets;
+}
+
+/// Of texts and octets, the greatest length as a fixed one.
+void fixLengths(mms::TypeDescription &type)
+{
+    using Kind = mms::TypeDescription::Kind;
+    const bool isText = type.kind == Kind::OctetString || type.kind == Kind::VisibleString
+        || type.kind == Kind::MmsString;
+    if (isText)
+        type.size = std::abs(type.size);
+    for (mms::TypeDescription::Component &component : type.components)
+        fixLengths(component.type);
 }
 
 } // namespace
@@ -146,7 +159,10 @@ ServiceAnswer Services::operator()(const mms::GetVariableAccessAttributesRequest
         : Part();
     if (!part.isValid())
         return nonExistent();
-    return mms::GetVariableAccessAttributesResponse{false, std::nullopt, part.type()};
+    mms::TypeDescription type = part.type();
+    if (m_oddities.fixedLengths)
+        fixLengths(type);
+    return mms::GetVariableAccessAttributesResponse{false, std::nullopt, std::move(type)};
 }
 
 ServiceAnswer Services::operator()(const mms::ReadRequest &request)

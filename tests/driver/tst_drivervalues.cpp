@@ -158,8 +158,8 @@ void tst_DriverValues::changesArePolledWithoutReports()
 
 void tst_DriverValues::aWriteReachesTheDeviceAndTheJournal()
 {
-    QCOMPARE(m_driver->writeVariable(1, "BAY1E1CTRL", "QA1CSWI1$CF$Pos$sboTimeout",
-                                     encoded(12345U), m_error),
+    QCOMPARE(m_driver->writeVariable(1, "BAY1E1CTRL", "QA1CSWI1$CF$Pos$sboTimeout", encoded(12345U),
+                                     m_error),
              OperationSucceeded);
     QCOMPARE(m_ied->value("BAY1E1CTRL", "QA1CSWI1$CF$Pos$sboTimeout").toUnsigned(),
              std::optional<std::uint64_t>(12345));
@@ -184,14 +184,13 @@ void tst_DriverValues::aValueThatDoesNotFitIsNeverSent()
                                      m_error),
              OperationFailed);
     QCOMPARE(m_error, QStringLiteral("-1 does not fit INT32U."));
-    QCOMPARE(m_driver->writeVariable(1, "BAY1E1CTRL", "QA1CSWI1$CF$Pos$sboTimeout", "rubbish",
-                                     m_error),
-             OperationFailed);
+    QCOMPARE(
+        m_driver->writeVariable(1, "BAY1E1CTRL", "QA1CSWI1$CF$Pos$sboTimeout", "rubbish", m_error),
+        OperationFailed);
     QCOMPARE(m_error, QStringLiteral("The value to be written cannot be read."));
     QCOMPARE(m_driver->writeVariable(1, "BAY1E1CTRL", "QA1CSWI1$CF$Pos$gone", encoded(1), m_error),
              OperationFailed);
-    QCOMPARE(m_error,
-             QStringLiteral("The device has no BAY1E1CTRL/QA1CSWI1$CF$Pos$gone."));
+    QCOMPARE(m_error, QStringLiteral("The device has no BAY1E1CTRL/QA1CSWI1$CF$Pos$gone."));
     // Reading the first values may still go on.
     const QVector<PduCapture::Line> lines =
         m_driver->trace(1, static_cast<int>(m_driver->status(1).counters.sentPdus - before) * 2);
@@ -213,8 +212,7 @@ void tst_DriverValues::directoriesAreAskedOfTheDevice()
     QList<NameVaildValue> list;
     QCOMPARE(m_driver->getServerDirectory(1, list, m_error), OperationSucceeded);
     QCOMPARE(names(list), (QStringList{"BAY1E1CTRL", "BAY1E1IO", "BAY1E1MEAS", "BAY1E1PROT"}));
-    QCOMPARE(m_driver->getLogicalDeviceDirectory(1, "BAY1E1IO", list, m_error),
-             OperationSucceeded);
+    QCOMPARE(m_driver->getLogicalDeviceDirectory(1, "BAY1E1IO", list, m_error), OperationSucceeded);
     QVERIFY(names(list).contains("GGIO1"));
     for (const QString &name : names(list))
         QVERIFY2(!name.contains('$'), qPrintable(name));
@@ -231,6 +229,16 @@ void tst_DriverValues::directoriesAreAskedOfTheDevice()
              OperationFailed);
     QVERIFY2(m_error.contains("QA1CSWI1$ST$Gone"), qPrintable(m_error));
     QCOMPARE(m_driver->getDataDirectory(1, "BAY1E1CTRL", "", list, m_error), OperationFailed);
+    // One that names nothing does not stop the others.
+    QCOMPARE(m_driver->getDataDirectory(1, "BAY1E1CTRL", "QA1CSWI1$ST$Gone;$$;QA1CSWI1$ST$Pos",
+                                        list, m_error),
+             OperationSucceeded);
+    QVERIFY(names(list).contains("QA1CSWI1$ST$Pos$stVal"));
+    QCOMPARE(list.at(0).name, QString("QA1CSWI1$ST$Gone"));
+    QVERIFY(!list.at(0).valid);
+    QCOMPARE(list.at(1).name, QString("$$"));
+    QVERIFY(!list.at(1).valid);
+    QVERIFY(list.at(2).valid);
     QCOMPARE(m_driver->getLogicalDeviceDirectory(1, "GONE", list, m_error), OperationFailed);
     QVERIFY(!m_error.isEmpty());
 }
@@ -268,8 +276,7 @@ void tst_DriverValues::dataSetsAreMadeAndDeleted()
     QVERIFY(names(list).contains("LLN0$made"));
     QCOMPARE(m_driver->getDataSetDirectory(1, "BAY1E1IO", "LLN0$made", list, m_error),
              OperationSucceeded);
-    QCOMPARE(names(list),
-             (QStringList{"BAY1E1IO/GGIO1$ST$Ind1", "BAY1E1IO/GGIO1$ST$Ind2$stVal"}));
+    QCOMPARE(names(list), (QStringList{"BAY1E1IO/GGIO1$ST$Ind1", "BAY1E1IO/GGIO1$ST$Ind2$stVal"}));
     m_listener->clear();
     QCOMPARE(m_driver->readDataSetValue(1, "BAY1E1IO", "LLN0$made", m_error), OperationSucceeded);
     QVERIFY(m_listener->waitForValue("BAY1E1IO/GGIO1$ST$Ind2$stVal",
@@ -289,14 +296,28 @@ void tst_DriverValues::dataSetsAreMadeAndDeleted()
     QCOMPARE(m_driver->createDataSet(1, "BAY1E1IO", "LLN0$made", "GGIO1$ST$Ind1", 0, m_error),
              OperationFailed);
     QVERIFY(!m_error.isEmpty());
-    QCOMPARE(m_driver->createDataSet(1, "BAY1E1IO", "LLN0$empty", "", 0, m_error),
-             OperationFailed);
+    QCOMPARE(m_driver->createDataSet(1, "BAY1E1IO", "LLN0$empty", "", 0, m_error), OperationFailed);
     QCOMPARE(m_error, QStringLiteral("A data set needs at least one member."));
+    m_error.clear();
+    QCOMPARE(m_driver->createDataSet(1, "BAY1E1IO", "LLN0$" + QString(33, 'x'), "GGIO1$ST$Ind1", 0,
+                                     m_error),
+             OperationFailed);
+    QCOMPARE(m_error, QString(33, 'x').prepend('"') +
+                          "\" has 33 characters; the name of a data set has at most 32.");
+    QCOMPARE(m_driver->createDataSet(1, "BAY1E1IO", "LLN0$bare", "GGIO1$ST$Ind1;GGIO1", 0, m_error),
+             OperationFailed);
+    QCOMPARE(m_error,
+             QString("\"GGIO1\" names no functional constraint, which each member of a data "
+                     "set needs."));
+    QCOMPARE(m_driver->createDataSet(1, "BAY1E1IO", "LLN0$dot", "GGIO1$ST$Ind1", 0, m_error),
+             OperationSucceeded);
+    QCOMPARE(m_driver->deleteDataSet(1, "BAY1E1IO", "LLN0.dot", m_error), OperationSucceeded);
+    QCOMPARE(m_driver->getDataSetList(1, "BAY1E1IO", list, m_error), OperationSucceeded);
+    QVERIFY(!names(list).contains("LLN0$dot"));
     QCOMPARE(m_driver->deleteDataSet(1, "BAY1E1IO", "LLN0$made", m_error), OperationSucceeded);
     QCOMPARE(m_driver->getDataSetList(1, "BAY1E1IO", list, m_error), OperationSucceeded);
     QVERIFY(!names(list).contains("LLN0$made"));
-    QCOMPARE(m_driver->deleteDataSet(1, "BAY1E1IO", "LLN0$Indications", m_error),
-             OperationFailed);
+    QCOMPARE(m_driver->deleteDataSet(1, "BAY1E1IO", "LLN0$Indications", m_error), OperationFailed);
     QVERIFY(!m_error.isEmpty());
 }
 
@@ -329,8 +350,7 @@ void tst_DriverValues::aReadOnlyDriverChangesNothing()
     QCOMPARE(m_error, sentence);
     QCOMPARE(m_driver->deleteDataSet(1, "BAY1E1IO", "LLN0$x", m_error), OperationFailed);
     QCOMPARE(m_error, sentence);
-    QCOMPARE(m_driver->readVariable(1, "BAY1E1IO", {"GGIO1$ST$Ind1"}, m_error),
-             OperationSucceeded);
+    QCOMPARE(m_driver->readVariable(1, "BAY1E1IO", {"GGIO1$ST$Ind1"}, m_error), OperationSucceeded);
     m_driver->setReadOnly(false);
     QCOMPARE(m_driver->writeVariable(1, "BAY1E1CTRL", "QA1CSWI1$CF$Pos$sboTimeout", encoded(777U),
                                      m_error),

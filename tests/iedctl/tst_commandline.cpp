@@ -2,7 +2,10 @@
 #include "iedctl/commandline.h"
 
 #include <QtCore/QProcess>
+#include <QtCore/QTemporaryFile>
 #include <QtTest/QtTest>
+
+#include <unistd.h>
 
 namespace {
 
@@ -36,6 +39,9 @@ private slots:
     void aMissingArgumentIsNamed();
     void helpListsEveryCommand();
     void optionsReachTheDevice();
+    void optionsOfTlsReachTheDevice();
+    void theAccessPointReachesTheDevice();
+    void passwordsComeFromAFileOrADescriptor();
     void batchReadsStandardInputUnlessAFileIsGiven();
     void aBatchLineKnowsNoOptionsOfTheProgram();
     void everyCommandIsUnderstood_data();
@@ -124,6 +130,72 @@ void tst_IedctlCommandLine::optionsReachTheDevice()
     QVERIFY(invocation.json);
     QVERIFY(invocation.readOnly);
     QCOMPARE(invocation.device.faults(), QStringList());
+}
+
+void tst_IedctlCommandLine::optionsOfTlsReachTheDevice()
+{
+    const QString pin(64, QLatin1Char('a'));
+    const Invocation invocation = accepted(
+        {"--connect", "192.0.2.7", "--tls-ca", "a.pem", "--tls-ca", "b.pem", "--tls-pin", pin,
+         "--tls-crl", "a.crl", "--tls-crl", "b.crl", "--tls-name", "bay1.example", "model"});
+    const TlsConfiguration &tls = invocation.device.tls;
+    QVERIFY(tls.enabled);
+    QCOMPARE(tls.authorityFiles, QStringList({"a.pem", "b.pem"}));
+    QCOMPARE(tls.pins, QStringList(pin));
+    QCOMPARE(tls.revocationFiles, QStringList({"a.crl", "b.crl"}));
+    QCOMPARE(tls.peerName, QString("bay1.example"));
+
+    QVERIFY(accepted({"--connect", "bay1", "--tls-pin", pin, "model"}).device.tls.enabled);
+    QVERIFY(!accepted({"--connect", "bay1", "model"}).device.tls.enabled);
+    for (const char *option : {"--tls-name", "--tls-crl"}) {
+        const Answer answer = refused({"--connect", "bay1", option, "x", "model"});
+        QVERIFY2(answer.isError && answer.text.contains("--tls-ca"), qPrintable(answer.text));
+    }
+}
+
+void tst_IedctlCommandLine::theAccessPointReachesTheDevice()
+{
+    QTemporaryFile file;
+    QVERIFY(file.open());
+    QCOMPARE(
+        accepted({"--scl", file.fileName(), "--access-point", "S2", "model"}).device.accessPoint,
+        QString("S2"));
+    QVERIFY(refused({"--connect", "bay1", "--access-point", "S2", "model"}).isError);
+}
+
+void tst_IedctlCommandLine::passwordsComeFromAFileOrADescriptor()
+{
+    QTemporaryFile file;
+    QVERIFY(file.open());
+    file.write("from the file\r\nnot this\n");
+    file.flush();
+    QCOMPARE(accepted({"--connect", "bay1", "--password-file", file.fileName(), "model"})
+                 .device.password,
+             QString("from the file"));
+    int ends[2] = {-1, -1};
+    QCOMPARE(pipe(ends), 0);
+    const QByteArray sent = "from the pipe\nmodel\n";
+    QCOMPARE(write(ends[1], sent.constData(), static_cast<std::size_t>(sent.size())),
+             static_cast<ssize_t>(sent.size()));
+    QCOMPARE(accepted({"--connect", "bay1", "--password-fd", QString::number(ends[0]), "model"})
+                 .device.password,
+             QString("from the pipe"));
+    // What follows is left for the batch.
+    char rest[16] = {};
+    QCOMPARE(read(ends[0], rest, sizeof rest), static_cast<ssize_t>(6));
+    close(ends[0]);
+    close(ends[1]);
+
+    Answer answer = refused({"--connect", "bay1", "--password-file", "/nowhere/at/all", "model"});
+    QVERIFY2(answer.isError && answer.text.contains("/nowhere/at/all"), qPrintable(answer.text));
+    QCOMPARE(answer.status, ExitStatus::Usage);
+    QTemporaryFile empty;
+    QVERIFY(empty.open());
+    answer = refused({"--connect", "bay1", "--password-file", empty.fileName(), "model"});
+    QVERIFY2(answer.text.contains("holds no password"), qPrintable(answer.text));
+    answer = refused(
+        {"--connect", "bay1", "--password", "a", "--password-file", file.fileName(), "model"});
+    QVERIFY(answer.isError);
 }
 
 void tst_IedctlCommandLine::batchReadsStandardInputUnlessAFileIsGiven()

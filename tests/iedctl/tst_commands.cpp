@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "iedctl/batch.h"
 #include "iedctl/commands.h"
+#include "iedctl/deviceobserver.h"
 #include "iedctl/session.h"
 
 #include "support/generateddevice.h"
@@ -54,6 +55,10 @@ private slots:
     void aRefusalIsOneLineAndStatusOne();
     void anUnreachableDriverIsStatusThree();
     void watchEndsAfterItsCount();
+    void watchGoesOnWithoutAMisspeltReference();
+    void watchTellsWhenTheDeviceIsLostAndBack();
+    void nothingOfADeviceCommandsTheTerminal_data();
+    void nothingOfADeviceCommandsTheTerminal();
     void aPersistentDataSetGoesToItsLogicalDevice();
     void aDataSetOfTheAssociationHasNoLogicalDevice();
     void reportSettingsBecomeTheBytesOfTheirAttributes_data();
@@ -216,6 +221,98 @@ void tst_IedctlCommands::anUnreachableDriverIsStatusThree()
     m_registration.reset();
     QCOMPARE(Commands::model(*m_session, false), ExitStatus::NotConnected);
     QCOMPARE(complaints(), QString("iedctl: The driver cannot be reached.\n"));
+}
+
+void tst_IedctlCommands::watchGoesOnWithoutAMisspeltReference()
+{
+    answerReads({{"LD0/CSWI1$ST$Pos$stVal", 1}});
+    QCOMPARE(Commands::watch(*m_session, {"LD0/CSWI1.Gone", "LD0/CSWI1.Pos.stVal"}, {1, 0}),
+             ExitStatus::Refused);
+    QVERIFY2(complaints().contains("LD0/CSWI1.Gone"), qPrintable(complaints()));
+    QVERIFY2(text().contains("1 (off)"), qPrintable(text()));
+    start();
+    QCOMPARE(Commands::watch(*m_session, {"LD0/CSWI1.Gone"}, {0, 0}), ExitStatus::Refused);
+    QCOMPARE(text(), QString());
+}
+
+void tst_IedctlCommands::watchTellsWhenTheDeviceIsLostAndBack()
+{
+    DeviceObserver observer;
+    m_session.reset();
+    m_session = std::make_unique<Session>(address, deviceNo, *m_output, &observer);
+    DeviceStatus status;
+    const auto turn = [&](DeviceState state, const QString &reason, int second) {
+        status.state = state;
+        status.reason = reason;
+        status.since = QDateTime(QDate(2026, 3, 4), QTime(5, 6, second), Qt::UTC);
+        observer.take(status);
+    };
+    turn(DeviceState::Connecting, {}, 0);
+    turn(DeviceState::Online, {}, 1);
+    turn(DeviceState::Waiting, QStringLiteral("The device has closed the connection."), 2);
+    turn(DeviceState::Connecting, {}, 3);
+    turn(DeviceState::Waiting, QStringLiteral("Nobody answers."), 4);
+    turn(DeviceState::ReadingModel, {}, 5);
+    turn(DeviceState::Online, {}, 6);
+    answerReads({{"LD0/CSWI1$ST$Pos$stVal", 1}});
+    QCOMPARE(Commands::watch(*m_session, {"LD0/CSWI1.Pos.stVal"}, {1, 0}), ExitStatus::Done);
+    const QStringList lines = text().split(QLatin1Char('\n'));
+    QCOMPARE(
+        lines.at(0),
+        QString("The device was lost at 2026-03-04T05:06:02.000Z; what stands above is older than "
+                "that. The device has closed the connection."));
+    QCOMPARE(lines.at(1), QString("The device was back at 2026-03-04T05:06:06.000Z."));
+    QVERIFY(lines.at(2).startsWith("LD0/CSWI1$ST$Pos$stVal"));
+    m_session.reset();
+}
+
+void tst_IedctlCommands::nothingOfADeviceCommandsTheTerminal_data()
+{
+    QTest::addColumn<QString>("sent");
+    QTest::addColumn<QString>("escaped");
+    QTest::newRow("escape") << QString("\x1b[2J") << QString("\\u001b[2J");
+    QTest::newRow("control sequence of one character")
+        << QString(QChar(0x9B)) + "2J" << QString("\\u009b2J");
+    QTest::newRow("bell") << QString("\a") << QString("\\u0007");
+    QTest::newRow("line end") << QString("a\nb") << QString("a\\u000ab");
+    QTest::newRow("delete") << QString(QChar(0x7F)) << QString("\\u007f");
+    QTest::newRow("direction of writing")
+        << QString(QChar(0x202E)) + "fdp.exe" << QString("\\u202efdp.exe");
+    QTest::newRow("line separator") << QString(QChar(0x2028)) << QString("\\u2028");
+    QTest::newRow("letters") << QString::fromUtf8("Stra\xC3\x9F"
+                                                  "e \xE4\xBD\x8D")
+                             << QString::fromUtf8("Stra\xC3\x9F"
+                                                  "e \xE4\xBD\x8D");
+}
+
+void tst_IedctlCommands::nothingOfADeviceCommandsTheTerminal()
+{
+    QFETCH(const QString, sent);
+    QFETCH(const QString, escaped);
+    QCOMPARE(printable(sent), escaped);
+    const QJsonObject object{{QStringLiteral("name"), sent}};
+    const auto isHarmless = [this] {
+        const QString all = text() + complaints();
+        return std::all_of(all.cbegin(), all.cend(), [](QChar c) {
+            return c == QLatin1Char('\n') || (c.unicode() >= 0x20 && c.unicode() < 0x7F) ||
+                   (c.unicode() > 0x9F && c.unicode() != 0x202E && c.unicode() != 0x2028);
+        });
+    };
+    m_output->rows({QStringLiteral("name")}, {object});
+    m_output->object({QStringLiteral("name")}, object);
+    m_output->streamed(sent, object);
+    m_output->note(sent);
+    m_output->complain(sent);
+    QCOMPARE(text(), escaped + "\nname: " + escaped + '\n' + escaped + '\n' + escaped + '\n');
+    QVERIFY(isHarmless());
+    start(true);
+    m_output->rows({QStringLiteral("name")}, {object});
+    m_output->object({QStringLiteral("name")}, object);
+    m_output->streamed(sent, object);
+    QVERIFY2(isHarmless(), qPrintable(text()));
+    // It is still the same text to a reader of JSON.
+    const QByteArray last = text().trimmed().split(QLatin1Char('\n')).last().toUtf8();
+    QCOMPARE(QJsonDocument::fromJson(last).object(), object);
 }
 
 void tst_IedctlCommands::watchEndsAfterItsCount()

@@ -143,9 +143,9 @@ void tst_IedctlProcess::optionsMayStandBehindTheCommand()
 
 void tst_IedctlProcess::aWrittenValueIsReadBack()
 {
-    const Ended ended = run(
-        connected({QStringLiteral("write"),
-                   QStringLiteral("BAY1E1MEAS/MMXU1.A.phsA.units.multiplier"), QStringLiteral("3")}));
+    const Ended ended = run(connected({QStringLiteral("write"),
+                                       QStringLiteral("BAY1E1MEAS/MMXU1.A.phsA.units.multiplier"),
+                                       QStringLiteral("3")}));
     QCOMPARE(ended.complaint, QString());
     QCOMPARE(ended.status, 0);
     QVERIFY2(ended.output.trimmed().endsWith(QLatin1Char('3')), qPrintable(ended.output));
@@ -161,10 +161,9 @@ void tst_IedctlProcess::aRefusedWriteEndsWithTheReason()
 
 void tst_IedctlProcess::aValueOutOfRangeIsNotSent()
 {
-    const Ended ended =
-        run(connected({QStringLiteral("write"),
-                       QStringLiteral("BAY1E1MEAS/MMXU1.A.phsA.units.multiplier"),
-                       QStringLiteral("300")}));
+    const Ended ended = run(connected({QStringLiteral("write"),
+                                       QStringLiteral("BAY1E1MEAS/MMXU1.A.phsA.units.multiplier"),
+                                       QStringLiteral("300")}));
     QCOMPARE(ended.status, 1);
     QVERIFY2(ended.complaint.contains(QLatin1String("300 does not fit")),
              qPrintable(ended.complaint));
@@ -246,9 +245,9 @@ void tst_IedctlProcess::anObjectIsSelectedOperatedAndSeenToMove()
     const auto position = [this](const char *item) { return m_bay->value("BAY1E1CTRL", item); };
     const auto breakerBefore = position("QA1XCBR1$ST$Pos$stVal");
     const auto disconnectorBefore = position("QB1XSWI1$ST$Pos$stVal");
-    const Ended ended = run(connected({QStringLiteral("operate"),
-                                       QStringLiteral("BAY1E1CTRL/QB1CSWI1.Pos"),
-                                       QStringLiteral("--value"), QStringLiteral("off")}));
+    const Ended ended =
+        run(connected({QStringLiteral("operate"), QStringLiteral("BAY1E1CTRL/QB1CSWI1.Pos"),
+                       QStringLiteral("--value"), QStringLiteral("off")}));
     QCOMPARE(ended.complaint, QString());
     QCOMPARE(ended.status, 0);
     // The disconnector of the switch controller's own prefix moves, and no other switch.
@@ -258,9 +257,9 @@ void tst_IedctlProcess::anObjectIsSelectedOperatedAndSeenToMove()
 
 void tst_IedctlProcess::aRefusedCommandEndsWithTheCause()
 {
-    const Ended ended = run(connected({QStringLiteral("operate"),
-                                       QStringLiteral("BAY1E1CTRL/QB1CSWI1.Pos"),
-                                       QStringLiteral("--value"), QStringLiteral("off")}));
+    const Ended ended =
+        run(connected({QStringLiteral("operate"), QStringLiteral("BAY1E1CTRL/QB1CSWI1.Pos"),
+                       QStringLiteral("--value"), QStringLiteral("off")}));
     QCOMPARE(ended.status, 1);
     QVERIFY2(ended.complaint.contains(QLatin1String("position has been reached")),
              qPrintable(ended.complaint));
@@ -315,7 +314,8 @@ void tst_IedctlProcess::filesTravelBothWays()
     QCOMPARE(source.write(content), qint64(content.size()));
     source.close();
 
-    QCOMPARE(file({QStringLiteral("put"), sent, QStringLiteral("record.txt")}).complaint, QString());
+    QCOMPARE(file({QStringLiteral("put"), sent, QStringLiteral("record.txt")}).complaint,
+             QString());
     QVERIFY(file({QStringLiteral("ls")}).output.contains(QLatin1String("record.txt")));
     QCOMPARE(file({QStringLiteral("get"), QStringLiteral("record.txt"), fetched}).complaint,
              QString());
@@ -328,10 +328,9 @@ void tst_IedctlProcess::filesTravelBothWays()
 
 void tst_IedctlProcess::nothingIsChangedReadOnly()
 {
-    const Ended ended =
-        run(connected({QStringLiteral("--read-only"), QStringLiteral("write"),
-                       QStringLiteral("BAY1E1MEAS/MMXU1.A.phsB.units.multiplier"),
-                       QStringLiteral("6")}));
+    const Ended ended = run(connected({QStringLiteral("--read-only"), QStringLiteral("write"),
+                                       QStringLiteral("BAY1E1MEAS/MMXU1.A.phsB.units.multiplier"),
+                                       QStringLiteral("6")}));
     QCOMPARE(ended.status, 1);
     QVERIFY2(ended.complaint.contains(QLatin1String("read-only")), qPrintable(ended.complaint));
     QVERIFY(m_bay->value("BAY1E1MEAS", "MMXU1$CF$A$phsB$units$multiplier") !=
@@ -354,10 +353,9 @@ void tst_IedctlProcess::aSilentDeviceEndsInTime()
 {
     QTcpServer silent;
     QVERIFY(silent.listen(QHostAddress::LocalHost));
-    const Ended ended = run({QStringLiteral("--connect"),
-                             QStringLiteral("127.0.0.1:%1").arg(silent.serverPort()),
-                             QStringLiteral("--timeout"), QStringLiteral("0.3"),
-                             QStringLiteral("model")});
+    const Ended ended =
+        run({QStringLiteral("--connect"), QStringLiteral("127.0.0.1:%1").arg(silent.serverPort()),
+             QStringLiteral("--timeout"), QStringLiteral("0.3"), QStringLiteral("model")});
     QCOMPARE(ended.status, 3);
     QCOMPARE(ended.complaint.count(QLatin1Char('\n')), 1);
 }
@@ -368,7 +366,8 @@ void tst_IedctlProcess::thePageAndTheHelpNeedNoDevice()
     QVERIFY(run({QStringLiteral("--manual-page")}).output.startsWith(QLatin1String(".TH IEDCTL")));
     const Ended nothing = run({});
     QCOMPARE(nothing.status, 2);
-    QVERIFY2(nothing.complaint.startsWith(QLatin1String("iedctl: ")), qPrintable(nothing.complaint));
+    QVERIFY2(nothing.complaint.startsWith(QLatin1String("iedctl: ")),
+             qPrintable(nothing.complaint));
 }
 
 QTEST_GUILESS_MAIN(tst_IedctlProcess)

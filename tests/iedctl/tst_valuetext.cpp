@@ -18,7 +18,10 @@ private slots:
     void whatDoesNotFitIsRefusedWithASentence_data();
     void whatDoesNotFitIsRefusedWithASentence();
     void aSettingKeepsTheTypeItHad();
-    void aControlValueMayBeAWord();
+    void aControlValueIsReadByItsType_data();
+    void aControlValueIsReadByItsType();
+    void modesHaveTheirNamesWithoutAFile();
+    void aFloatIsShownSoThatItCanBeTyped();
     void enumerationsShowTheirEntries();
     void integersThatJsonCannotHoldBecomeText();
 };
@@ -150,20 +153,99 @@ void tst_IedctlValueText::aSettingKeepsTheTypeItHad()
     QVERIFY(!error.isEmpty());
 }
 
-void tst_IedctlValueText::aControlValueMayBeAWord()
+void tst_IedctlValueText::aControlValueIsReadByItsType_data()
 {
-    EnumType none;
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("status");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QVariant>("value");
+    const auto row = [](const char *title, const char *type, const char *status, const char *text,
+                        const QVariant &value) {
+        QTest::newRow(title) << type << status << text << value;
+    };
+    const QVariant refused;
+    row("switch on", "BOOLEAN", "Dbpos", "on", 1.0);
+    row("switch off", "BOOLEAN", "Dbpos", "OFF", 0.0);
+    row("switch by number", "BOOLEAN", "Dbpos", "1", 1.0);
+    row("switch beyond", "BOOLEAN", "Dbpos", "2", refused);
+    row("tap command", "Tcmd", "", "higher", 2.0);
+    row("tap command by number", "Tcmd", "", "1", 1.0);
+    row("tap command as a switch", "Tcmd", "", "on", refused);
+    row("mode", "Enum", "Enum", "off", 5.0);
+    row("mode by number", "Enum", "Enum", "2", 2.0);
+    row("mode that is none", "Enum", "Enum", "true", refused);
+    row("mode that the device describes as a number", "INT8", "Enum", "off", 5.0);
+    row("number", "INT32", "INT32", "-7", -7.0);
+    row("number with a word", "INT32", "INT32", "on", refused);
+    row("number with a fraction", "INT32", "INT32", "1.5", refused);
+    row("number beyond", "INT8", "INT32", "128", refused);
+    row("set point", "Struct", "", "12.5", 12.5);
+    row("set point with a word", "Struct", "", "on", refused);
+    row("set point that is none", "Struct", "", "nan", refused);
+    row("set point of one number", "FLOAT32", "", "off", refused);
+    row("command that is not described", "", "Dbpos", "on", 1.0);
+}
+
+void tst_IedctlValueText::aControlValueIsReadByItsType()
+{
+    QFETCH(QString, type);
+    QFETCH(QString, status);
+    QFETCH(QString, text);
+    QFETCH(QVariant, value);
+    PhysicalDevice device;
+    addEnumeration(device);
+    DataObject object;
+    const auto leaf = [](const QString &name, const QString &basicType) {
+        auto *node = new DAO;
+        node->attribute = new DataAttribute(attributeOfType(basicType));
+        node->attribute->name = name;
+        return node;
+    };
+    if (!status.isEmpty())
+        object.attributes.append(leaf(QStringLiteral("stVal"), status));
+    if (!type.isEmpty()) {
+        auto *oper = new DAO;
+        oper->attribute = new DataAttribute;
+        oper->attribute->name = QStringLiteral("Oper");
+        oper->children.append(leaf(QStringLiteral("ctlVal"), type));
+        if (type == QLatin1String("Enum"))
+            oper->children.last()->attribute->enumTypeId.clear();
+        object.attributes.append(oper);
+    }
     QString error;
-    QCOMPARE(ValueText::parseControl(none, "on", error), 1.0);
-    QCOMPARE(ValueText::parseControl(none, "false", error), 0.0);
-    QCOMPARE(ValueText::parseControl(none, "2.5", error), 2.5);
-    QCOMPARE(error, QString());
-    EnumType modes;
-    modes.values = {{1, QStringLiteral("on")}, {5, QStringLiteral("off")}};
-    QCOMPARE(ValueText::parseControl(modes, "off", error), 5.0);
-    QCOMPARE(error, QString());
-    ValueText::parseControl(none, "nan", error);
-    QVERIFY(!error.isEmpty());
+    const double parsed = ValueText::parseControl(device, object, text, error);
+    QCOMPARE(error.isEmpty(), value.isValid());
+    QVERIFY2(error.isEmpty() || error.endsWith(QLatin1Char('.')), qPrintable(error));
+    if (value.isValid())
+        QCOMPARE(parsed, value.toDouble());
+}
+
+void tst_IedctlValueText::modesHaveTheirNamesWithoutAFile()
+{
+    PhysicalDevice device;
+    DataAttribute mode;
+    mode.basicType = QStringLiteral("Enum");
+    mode.enumTypeId = QStringLiteral("Mod");
+    QString error;
+    QCOMPARE(ValueText::parse(device, mode, "off", error), QVariant(5));
+    QCOMPARE(ValueText::shown(device, &mode, 4), QString("4 (test/blocked)"));
+    mode.enumTypeId = QStringLiteral("OpModKnd");
+    QVERIFY(!ValueText::parse(device, mode, "off", error).isValid());
+    QVERIFY(error.contains("no known entries"));
+}
+
+void tst_IedctlValueText::aFloatIsShownSoThatItCanBeTyped()
+{
+    PhysicalDevice device;
+    DataAttribute value;
+    value.basicType = QStringLiteral("FLOAT32");
+    QString error;
+    for (const float number : {std::numeric_limits<float>::max(), 0.1F, 16777217.0F, 1e-45F}) {
+        const QString shown = ValueText::shown(device, &value, number);
+        const QVariant typed = ValueText::parse(device, value, shown, error);
+        QVERIFY2(typed.isValid(), qPrintable(error));
+        QCOMPARE(static_cast<float>(qMin(typed.toDouble(), 3.4028234663852886e38)), number);
+    }
 }
 
 void tst_IedctlValueText::enumerationsShowTheirEntries()
