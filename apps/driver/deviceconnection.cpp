@@ -421,6 +421,10 @@ void DeviceConnection::setState(DeviceState state, const QString &reason)
             status.since = status.lostSince;
         else if (status.state != state)
             status.since = now;
+        if (state == DeviceState::Disconnected) {
+            status.staleValues = status.refusedValues = 0;
+            status.staleSince = {};
+        }
         status.state = state;
         status.reason = reason;
         if (state != DeviceState::ReadingModel)
@@ -571,6 +575,7 @@ void DeviceConnection::dissociate(const QString &reason)
         client->abort(reason.toStdString());
     m_modelReady = false;
     m_identity = {};
+    valuesAreLost();
     m_environment.release();
     for (const auto &part : m_parts)
         part.second->closed(reason);

@@ -10,9 +10,11 @@
 #include "pducapture.h"
 #include "reportcoverage.h"
 #include "reportevent.h"
+#include "valuecurrency.h"
 
 #include "acsi/client.h"
 #include "acsi/discovery.h"
+#include "acsi/readcalls.h"
 
 #include <remoteclient/operationresult.h>
 
@@ -167,13 +169,16 @@ public:
     struct Publication
     {
         std::uint32_t cause = PublishCause::Read;
-        bool onlyChanges = false;        ///< leave out values that are known already
+        bool onlyChanges = false; ///< leave out values that are known already
+        /// The values are not older: when they were asked for, or came. Now when it is not given.
+        std::chrono::steady_clock::time_point asOf{};
         /// For values without a time, or a quality, of their own.
         const mms::Data *time = nullptr;
         const mms::Data *quality = nullptr;
     };
-    /// Takes the data apart, keeps the values in the model and publishes them. False when the data
-    /// does not fit the live type.
+    /// Takes the data apart, keeps the values in the model and publishes them. A value that is
+    /// older than what is known is dropped; who reads hears what is known instead. False when the
+    /// data does not fit the live type.
     bool publish(const acsi::Reference &reference, const mms::Data &data,
                  const Publication &publication);
 
@@ -184,9 +189,16 @@ public:
                      const ReportCoverage &coverage);
     const ReportedData &reported() const { return m_reported; }
 
-    /// Reads the variables and publishes what came; one sentence names those that failed.
+    /// Reads the variables and publishes what came; one sentence names those that failed. What is
+    /// refused or too large as a whole is read in parts.
     asio::awaitable<Outcome> readAndPublish(std::vector<acsi::Reference> references,
                                             Publication publication);
+
+    /// The device has accepted a value: what was asked for before is old.
+    void haveWritten(const acsi::Reference &reference);
+    /// A value was not written: publishes what the device has instead, soon and for some time,
+    /// since whoever wrote shows what he wrote until he has read why it was refused.
+    void showUnwritten(const acsi::Reference &reference);
 
     /// Something of the device does not work though it is online; one sentence for the operator,
     /// shown as the reason of the device's state. An empty one takes it away.
@@ -245,15 +257,29 @@ private:
     asio::awaitable<void> readRevisions(ClientPointer client);
     asio::awaitable<void> readBlocks(ClientPointer client);
     asio::awaitable<void> poll(ClientPointer client);
-    /// Reads and publishes the data under the constraints; a variable that is refused is asked for
-    /// in parts, and parts that are refused are not asked for again.
-    asio::awaitable<void> readValues(ClientPointer client,
-                                     const std::vector<acsi::FunctionalConstraint> &constraints,
-                                     Publication publication);
+    /// Begins to keep account of which values are current, with none.
+    void makeCurrency(const ClientPointer &client);
+    /// Asks for what m_currency wants and publishes what comes, until nothing more will be wanted,
+    /// with @p untilIdle for the moment, or until the association ends.
+    asio::awaitable<void> carryOut(ClientPointer client, bool untilIdle);
+    void takeAnswer(ValueCurrency &currency, const ValueCurrency::Question &question,
+                    acsi::ReadAnswer answer, Deadline asked);
+    void followReports(ValueCurrency &currency);
+    const LeafTriggers &triggersOf(std::uint32_t leaf);
+    /// Status and problems say what is not current.
+    void tellCurrency(const ValueCurrency &currency);
+    /// The association has ended: all values are old.
+    void valuesAreLost();
+    std::vector<ValueCurrency::Part> partsOf(const ValueCurrency::Part &whole) const;
+    MMSValue knownRecord(const DataAttribute &attribute, std::uint32_t cause) const;
+    void publishKnown(const LeafRange &leaves, std::uint32_t cause);
+    void publishQualityOf(const acsi::Reference &quality, const mms::Data &data,
+                          const Publication &publication);
+    asio::awaitable<void> keepShowing(acsi::Reference reference);
+    void send(std::vector<MMSValue> records);
     asio::awaitable<void> readConfiguration(ClientPointer client);
     asio::awaitable<void> republish();
     asio::awaitable<Outcome> waitFor(Need need, Deadline deadline);
-    std::vector<acsi::Reference> polled(acsi::FunctionalConstraint constraint) const;
     /// The references, each as what has to be read to get it; those that the model does not know as
     /// they are.
     std::vector<acsi::Reference>
@@ -286,9 +312,14 @@ private:
     QStringList m_fileFor; ///< the logical devices that the file was chosen for
     std::map<std::type_index, std::unique_ptr<AssociationPart>> m_parts;
     ReportedData m_reported;
-    QMap<QString, QString> m_problems;                   ///< by source
-    std::set<std::string> m_inParts; ///< nodes' constraints that have to be read in parts
-    std::set<std::string> m_refused; ///< data that the device does not hand out
+    QMap<QString, QString> m_problems;         ///< by source
+    std::shared_ptr<ValueCurrency> m_currency; ///< of the last association that had a model
+    bool m_reportedChanged = false;
+    std::vector<LeafTriggers> m_triggers; ///< by leaf, as far as they were needed
+    std::vector<bool> m_knowsTriggers;    ///< by leaf
+    std::uint64_t m_toldChanges = 0;      ///< of m_currency
+    Deadline m_nextTelling;               ///< of what is not current
+    std::set<std::uint32_t> m_unwritten;  ///< leaves with a refused write that somebody may show
     std::shared_ptr<std::atomic<bool>> m_readingCancelled;
     AssociationLife m_life;
     /// How the present association, or attempt, is going to end.

@@ -139,7 +139,8 @@ asio::awaitable<QString> DeviceConnection::getReady(ClientPointer client)
         m_model = std::make_unique<OnlineModel>(
             std::move(*description), m_fromFile ? m_fromFile->name : m_configuration.name,
             m_fromFile.get());
-        m_inParts.clear();
+        m_triggers.clear();
+        m_knowsTriggers.clear();
     }
     const std::vector<std::string> &leftOut = m_model->description().leftOut;
     QStringList sentences;
@@ -147,7 +148,6 @@ asio::awaitable<QString> DeviceConnection::getReady(ClientPointer client)
         sentences.append(text(leftOut[i]));
     setProblem(QStringLiteral("limits"), sentences.join(QLatin1Char(' ')));
     co_await readRevisions(client);
-    m_refused.clear();
     updateStatus([this](DeviceStatus &status) {
         status.refusedObjects = static_cast<int>(m_model->description().refused.size());
     });
@@ -160,6 +160,7 @@ asio::awaitable<QString> DeviceConnection::getReady(ClientPointer client)
     m_identity.revisions = m_revisions;
     const std::optional<mms::TlsPeer> peer = client->association().tlsPeer();
     m_identity.certificate = peer ? text(peer->fingerprint) : QString();
+    makeCurrency(client);
     co_await readBlocks(client);
     // The browser offers controls by their control model, so it comes with the model.
     co_await readConfiguration(client);

@@ -34,14 +34,59 @@ std::string pathText(const acsi::Reference &reference)
     return result;
 }
 
+/// Elements of an array that may be asked for one by one.
+constexpr std::uint32_t mostElements = 256;
+
+std::uint32_t leavesBelow(const TypeDescription &type)
+{
+    if (type.kind == TypeDescription::Kind::Array)
+        return type.components.empty()
+                   ? 0
+                   : type.elementCount * leavesBelow(type.components.front().type);
+    if (type.kind != TypeDescription::Kind::Structure)
+        return 1;
+    std::uint32_t count = 0;
+    for (const TypeDescription::Component &component : type.components)
+        count += leavesBelow(component.type);
+    return count;
+}
+
+const TypeDescription *componentOf(const TypeDescription &type, std::string_view name)
+{
+    for (const TypeDescription::Component &component : type.components) {
+        if (component.name == name)
+            return &component.type;
+    }
+    return nullptr;
+}
+
+/// Numbers the leaves below a type; those of an array's later elements have no entry of their own.
+std::uint32_t number(const TypeDescription &type, std::uint32_t first,
+                     std::vector<std::pair<const TypeDescription *, std::uint32_t>> &places)
+{
+    places.emplace_back(&type, first);
+    if (type.kind == TypeDescription::Kind::Array) {
+        if (type.components.empty())
+            return first;
+        const std::uint32_t end = number(type.components.front().type, first, places);
+        return first + type.elementCount * (end - first);
+    }
+    if (type.kind != TypeDescription::Kind::Structure)
+        return first + 1;
+    for (const TypeDescription::Component &component : type.components)
+        first = number(component.type, first, places);
+    return first;
+}
+
 } // namespace
 
 /// The way through type and data to the leaves.
 struct OnlineModel::Walk
 {
-    const PhysicalDevice &device;
+    const std::vector<DataAttribute *> &attributes;
     const LeafVisitor &visitor;
     QString reference;
+    std::uint32_t number = 0; ///< of the next leaf
     bool fits = true;
 
     void visit(const TypeDescription &type, const Data *data, const Data *quality, const Data *time)
@@ -59,6 +104,7 @@ struct OnlineModel::Walk
     {
         if (!hasForm(type, data)) {
             fits = false;
+            number += leavesBelow(type);
             return;
         }
         for (std::size_t i = 0; data && i < type.components.size(); ++i) {
@@ -106,6 +152,7 @@ struct OnlineModel::Walk
     {
         if (type.components.empty() || (data && !acsi::isSentAs(type, *data))) {
             fits = false;
+            number += leavesBelow(type);
             return;
         }
         const int length = reference.size();
@@ -120,12 +167,13 @@ struct OnlineModel::Walk
     void visitLeaf(const TypeDescription &type, const Data *data, const Data *quality,
                    const Data *time)
     {
+        const std::uint32_t own = number++;
         if (data && !acsi::isSentAs(type, *data)) {
             fits = false;
             return;
         }
-        visitor({reference, device.findTag(reference), &type, data,
-                 quality == data ? nullptr : quality, time == data ? nullptr : time});
+        visitor({reference, own, attributes[own], &type, data, quality == data ? nullptr : quality,
+                 time == data ? nullptr : time});
     }
 };
 
@@ -138,6 +186,7 @@ OnlineModel::OnlineModel(acsi::ServerDescription description, const QString &nam
         for (const acsi::NodeDescription &node : device.nodes)
             m_nodes.insert(text(device.name) + QLatin1Char('/') + text(node.name), &node);
     }
+    numberLeaves();
     for (const LogicalDevice *device : qAsConst(m_device->logicalDevices)) {
         for (LogicalNode *node : device->logicalNodes)
             m_shownNodes.insert(device->name + QLatin1Char('/') + node->name, node);
@@ -183,6 +232,97 @@ const mms::TypeDescription *OnlineModel::describedType(const acsi::Reference &re
     return acsi::typeBelow(node->type, acsi::toText(*reference.constraint), pathText(reference));
 }
 
+void OnlineModel::numberLeaves()
+{
+    std::uint32_t count = 0;
+    for (const acsi::DeviceDescription &device : m_description->devices) {
+        for (const acsi::NodeDescription &node : device.nodes)
+            count = number(node.type, count, m_firstLeaves);
+    }
+    std::sort(m_firstLeaves.begin(), m_firstLeaves.end());
+    m_attributes.resize(count);
+    m_qualities.resize(count);
+    const std::vector<DataAttribute *> none(count);
+    std::vector<DataAttribute *> &attributes = m_attributes;
+    PhysicalDevice &shown = *m_device;
+    const LeafVisitor remember = [&attributes, &shown](const Leaf &leaf) {
+        attributes[leaf.number] = shown.findTag(leaf.reference);
+    };
+    std::uint32_t first = 0;
+    for (const acsi::DeviceDescription &device : m_description->devices) {
+        for (const acsi::NodeDescription &node : device.nodes) {
+            Walk walk{none, remember, text(device.name) + QLatin1Char('/') + text(node.name),
+                      first};
+            walk.visit(node.type, nullptr, nullptr, nullptr);
+            first = walk.number;
+        }
+    }
+}
+
+std::uint32_t OnlineModel::firstLeafOf(const TypeDescription *type) const
+{
+    const auto found = std::lower_bound(
+        m_firstLeaves.begin(), m_firstLeaves.end(), type,
+        [](const auto &entry, const TypeDescription *wanted) { return entry.first < wanted; });
+    return found == m_firstLeaves.end() || found->first != type ? 0 : found->second;
+}
+
+LeafRange OnlineModel::leafRange(const acsi::Reference &reference) const
+{
+    const acsi::NodeDescription *node = description(reference);
+    const TypeDescription *type = node ? &node->type : nullptr;
+    if (type && reference.constraint)
+        type = componentOf(*type, acsi::toText(*reference.constraint));
+    // What comes before the wanted elements in the arrays on the way.
+    std::uint32_t skipped = 0;
+    for (const acsi::PathStep &step : reference.path) {
+        if (type)
+            type = componentOf(*type, step.name);
+        if (!type || !step.element)
+            continue;
+        const bool isThere = type->kind == TypeDescription::Kind::Array &&
+                             !type->components.empty() && *step.element < type->elementCount;
+        type = isThere ? &type->components.front().type : nullptr;
+        if (type)
+            skipped += *step.element * leavesBelow(*type);
+    }
+    if (!type)
+        return {};
+    return {firstLeafOf(type) + skipped, leavesBelow(*type)};
+}
+
+std::vector<acsi::Reference> OnlineModel::partsOf(const acsi::Reference &reference) const
+{
+    std::vector<acsi::Reference> parts;
+    const TypeDescription *whole = describedType(reference);
+    if (!whole || !reference.constraint)
+        return parts;
+    if (whole->kind == TypeDescription::Kind::Structure) {
+        for (const TypeDescription::Component &component : whole->components) {
+            acsi::Reference part = reference;
+            part.path.push_back({component.name, {}});
+            parts.push_back(std::move(part));
+        }
+    } else if (whole->kind == TypeDescription::Kind::Array && whole->elementCount <= mostElements &&
+               !reference.path.empty() && !reference.path.back().element) {
+        for (std::uint32_t i = 0; i < whole->elementCount; ++i) {
+            acsi::Reference part = reference;
+            part.path.back().element = i;
+            parts.push_back(std::move(part));
+        }
+    }
+    return parts;
+}
+
+bool OnlineModel::setQuality(std::uint32_t leaf, const mms::Data &quality)
+{
+    const mms::BitString bits = quality.bits();
+    std::uint32_t folded = 1;
+    for (std::size_t i = 0; i < std::min<std::size_t>(bits.size(), 31); ++i)
+        folded = (folded << 1U) | (bits.test(i) ? 1U : 0U);
+    return leaf < m_qualities.size() && std::exchange(m_qualities[leaf], folded) != folded;
+}
+
 LogicalNode *OnlineModel::node(const QString &device, const QString &node) const
 {
     return m_shownNodes.value(device + QLatin1Char('/') + node);
@@ -206,7 +346,7 @@ bool OnlineModel::forEachLeaf(const acsi::Reference &reference, const mms::Data 
     const TypeDescription *described = type(reference);
     if (!described)
         return false;
-    Walk walk{*m_device, visitor, text(acsi::toText(reference))};
+    Walk walk{m_attributes, visitor, text(acsi::toText(reference)), leafRange(reference).first};
     walk.visit(*described, &data, nullptr, nullptr);
     return walk.fits;
 }
@@ -218,7 +358,7 @@ std::vector<OnlineModel::Leaf> OnlineModel::leavesOf(const acsi::Reference &refe
     if (!described)
         return leaves;
     const LeafVisitor visitor = [&leaves](const Leaf &leaf) { leaves.push_back(leaf); };
-    Walk walk{*m_device, visitor, text(acsi::toText(reference))};
+    Walk walk{m_attributes, visitor, text(acsi::toText(reference)), leafRange(reference).first};
     walk.visit(*described, nullptr, nullptr, nullptr);
     return leaves;
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "leafrange.h"
+
 #include "acsi/discovery.h"
 #include "acsi/reference.h"
 
@@ -13,6 +15,7 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 /// What the driver knows of a connected device: what the device told of itself, and the model that
@@ -24,6 +27,7 @@ public:
     struct Leaf
     {
         QString reference;                          ///< full
+        std::uint32_t number = 0;                   ///< as in leafRange()
         DataAttribute *attribute = nullptr;         ///< null for one that the model does not show
         const mms::TypeDescription *type = nullptr; ///< of the leaf
         const mms::Data *data = nullptr;
@@ -50,6 +54,18 @@ public:
     /// What has to be read to get all of the reference: itself, or the largest parts of it of which
     /// the device told the order; nothing for what it did not describe.
     std::vector<acsi::Reference> readableParts(const acsi::Reference &reference) const;
+    /// All leaves, those included that the model does not show.
+    std::uint32_t leafCount() const { return static_cast<std::uint32_t>(m_attributes.size()); }
+    /// Null for one that the model does not show.
+    const DataAttribute *attribute(std::uint32_t leaf) const { return m_attributes[leaf]; }
+    /// The leaves of what the reference names, "LD/LN" at least; none of what the device did not
+    /// describe.
+    LeafRange leafRange(const acsi::Reference &reference) const;
+    /// The components, or elements, of what the reference names, in the order of its leaves. None
+    /// of a leaf, and none of an array that is too long to be asked for one by one.
+    std::vector<acsi::Reference> partsOf(const acsi::Reference &reference) const;
+    /// Remembers the quality that goes with the value of a leaf; true when it is another one.
+    bool setQuality(std::uint32_t leaf, const mms::Data &quality);
     LogicalNode *node(const QString &device, const QString &node) const;
     ReportControlBlock *reportBlock(const QString &device, const QString &reference) const;
 
@@ -71,9 +87,16 @@ private:
 
     const acsi::NodeDescription *description(const acsi::Reference &reference) const;
     const mms::TypeDescription *describedType(const acsi::Reference &reference) const;
+    void numberLeaves();
+    std::uint32_t firstLeafOf(const mms::TypeDescription *type) const;
 
     std::unique_ptr<acsi::ServerDescription> m_description;
     std::unique_ptr<PhysicalDevice> m_device;
     QHash<QString, const acsi::NodeDescription *> m_nodes; ///< by "LD/LN"
-    QHash<QString, LogicalNode *> m_shownNodes;            ///< by "LD/LN"
+    /// The number of the first leaf of each type, in the order of the addresses; of the first
+    /// element's in arrays.
+    std::vector<std::pair<const mms::TypeDescription *, std::uint32_t>> m_firstLeaves;
+    std::vector<DataAttribute *> m_attributes;  ///< by number of the leaf; null for one not shown
+    std::vector<std::uint32_t> m_qualities; ///< by number of the leaf; 0 until there was one
+    QHash<QString, LogicalNode *> m_shownNodes; ///< by "LD/LN"
 };

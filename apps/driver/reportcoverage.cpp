@@ -57,6 +57,21 @@ LeafTriggers standardTriggers(const Reference &leaf)
     return triggers;
 }
 
+bool areTold(const LeafTriggers &needed, const LeafTriggers &on)
+{
+    return needed != LeafTriggers() && (on.dataChange || !needed.dataChange) &&
+           (on.qualityChange || !needed.qualityChange) && (on.dataUpdate || !needed.dataUpdate);
+}
+
+void ReportedData::forEachMember(
+    const std::function<void(const Reference &, const ReportCoverage &)> &visitor) const
+{
+    for (const Source &source : m_sources) {
+        for (const Reference &member : source.members)
+            visitor(member, source.coverage);
+    }
+}
+
 void ReportedData::set(const QString &source, const std::vector<Reference> &references,
                        const ReportCoverage &coverage)
 {
@@ -106,6 +121,5 @@ bool ReportedData::covers(const Reference &leaf, const std::optional<LeafTrigger
             on.dataUpdate = on.dataUpdate || source.coverage.dataUpdate;
         }
     }
-    return needed != LeafTriggers() && (on.dataChange || !needed.dataChange) &&
-           (on.qualityChange || !needed.qualityChange) && (on.dataUpdate || !needed.dataUpdate);
+    return areTold(needed, on);
 }

@@ -7,6 +7,7 @@
 #include <QtCore/QString>
 
 #include <chrono>
+#include <functional>
 #include <optional>
 #include <set>
 #include <string>
@@ -36,6 +37,10 @@ struct LeafTriggers
     friend bool operator==(const LeafTriggers &, const LeafTriggers &) = default;
 };
 
+/// Whether no change by the triggers that a leaf has (@p needed) is untold. A leaf without any
+/// changes untold.
+bool areTold(const LeafTriggers &needed, const LeafTriggers &on);
+
 /// What the common data classes of the standard give a leaf, by its name and functional constraint:
 /// for a device of which no file tells. A time goes with its value and quality, and is told when
 /// either changes.
@@ -55,6 +60,10 @@ public:
              const ReportCoverage &coverage);
     void clear() { m_sources.clear(); }
     bool isEmpty() const { return m_sources.isEmpty(); }
+
+    /// Every reported member with what its source tells of it.
+    void forEachMember(
+        const std::function<void(const acsi::Reference &, const ReportCoverage &)> &visitor) const;
 
     /// "LD/LN$FC" of everything that some source reports something of.
     std::set<std::string> constraints() const;

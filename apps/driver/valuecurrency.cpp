@@ -64,7 +64,7 @@ bool ValueCurrency::isReported(const LeafRange &range) const
     return range.count > 0 && reportedIn(range) == range.count;
 }
 
-void ValueCurrency::ask(Pace pace, Time)
+void ValueCurrency::ask(Pace pace)
 {
     const std::vector<Id> roots = m_roots;
     for (const Id root : roots) {
@@ -148,6 +148,12 @@ void ValueCurrency::collect(Id id, bool isFast)
     m_queue.push_back(id);
 }
 
+/// Only where the others keep a place, or do not need the only one.
+bool ValueCurrency::mayAskApart(std::size_t busy) const
+{
+    return !m_apart && (m_options.places == 1 ? m_queue.empty() : m_options.places - busy > 1);
+}
+
 std::optional<ValueCurrency::Question> ValueCurrency::next(Time now)
 {
     while (!m_held.empty() && m_held.front() <= now)
@@ -162,8 +168,7 @@ std::optional<ValueCurrency::Question> ValueCurrency::next(Time now)
             m_items[part].asked = now;
         return OnTheWay{++m_lastQuestion, std::move(parts)};
     };
-    // Only where the others have a place beside it.
-    if (m_isStarted && !m_apart && (m_queue.empty() || m_options.places - busy > 1)) {
+    if (m_isStarted && mayAskApart(busy)) {
         const auto first = std::min_element(m_silent.begin(), m_silent.end(),
                                             [](const SilentGroup &left, const SilentGroup &right) {
                                                 return left.nextTry < right.nextTry;
@@ -206,9 +211,12 @@ std::optional<ValueCurrency::Time> ValueCurrency::nextTime() const
     };
     if (!m_held.empty())
         consider(m_held.front());
+    const std::size_t busy = m_onTheWay.size() + (m_apart ? 1 : 0) + m_held.size();
+    if (busy >= m_options.places)
+        return result;
     if (m_nextRound && isIdle())
         consider(*m_nextRound);
-    if (m_isStarted && !m_apart) {
+    if (m_isStarted && mayAskApart(busy)) {
         for (const SilentGroup &group : m_silent)
             consider(group.nextTry);
     }
@@ -459,6 +467,14 @@ ValueCurrency::Leaf ValueCurrency::leaf(std::uint32_t number) const
     const bool isKnown = result.source != Source::Nothing && result.source != Source::Write;
     result.isCurrent = isKnown && (item == m_items.end() || !isStale(*item, number));
     return result;
+}
+
+std::uint32_t ValueCurrency::known() const
+{
+    return static_cast<std::uint32_t>(
+        std::count_if(m_source.begin(), m_source.end(), [](Source source) {
+            return source != Source::Nothing && source != Source::Write;
+        }));
 }
 
 ValueCurrency::Summary ValueCurrency::summary() const

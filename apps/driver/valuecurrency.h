@@ -106,7 +106,7 @@ public:
     void setReported(const std::vector<LeafRange> &ranges);
 
     /// Ask for all of one pace, once.
-    void ask(Pace pace, Time now);
+    void ask(Pace pace);
     /// Ask for all but the configuration, then in rounds.
     void start(Time now);
     /// Nothing is waiting to be asked or on the way; silent parts do not count.
@@ -134,6 +134,8 @@ public:
     void haveRead(const LeafRange &range, Time now);
 
     Leaf leaf(std::uint32_t number) const;
+    /// Leaves with a value of this association.
+    std::uint32_t known() const;
     Summary summary() const;
     /// Counts up whenever the summary may have changed.
     std::uint64_t changes() const { return m_changes; }
@@ -177,6 +179,7 @@ private:
     static bool isFailing(const Item &item);
     void beginRound(Time now);
     void endQuestion(Time now);
+    bool mayAskApart(std::size_t busy) const;
     void followReports();
     void collect(Id id, bool isFast);
     std::vector<Id> takeRequest();

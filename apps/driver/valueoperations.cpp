@@ -6,6 +6,8 @@
 
 #include <QtCore/QCoreApplication>
 
+#include <chrono>
+
 namespace {
 
 using DevicePointer = std::shared_ptr<DeviceConnection>;
@@ -23,17 +25,29 @@ QString text(std::string_view utf8)
 asio::awaitable<Outcome> readVariables(DevicePointer device, QString ldName, QStringList names)
 {
     std::vector<acsi::Reference> references;
+    QStringList errors;
     for (const QString &name : qAsConst(names)) {
         mms::Result<acsi::Reference> reference =
             acsi::parseReference(ldName.toStdString(), name.toStdString());
-        if (!reference)
-            co_return Outcome::failed(reference.error());
-        references.push_back(std::move(*reference));
+        if (reference)
+            references.push_back(std::move(*reference));
+        else
+            errors.append(text(reference.error().message));
     }
-    if (references.empty())
-        co_return Outcome::failed(Texts::tr("There is nothing to read."));
-    DeviceConnection::Publication publication;
-    co_return co_await device->readAndPublish(std::move(references), publication);
+    if (references.empty() && errors.isEmpty())
+        errors.append(Texts::tr("There is nothing to read."));
+    Outcome outcome;
+    if (!references.empty()) {
+        const DeviceConnection::Publication publication;
+        outcome = co_await device->readAndPublish(std::move(references), publication);
+        if (outcome.result != OperationSucceeded && outcome.result != OperationFailed)
+            co_return outcome;
+    }
+    if (!outcome.error.isEmpty())
+        errors.append(outcome.error);
+    if (!errors.isEmpty())
+        outcome = Outcome::failed(errors.join(QLatin1Char(' ')));
+    co_return outcome;
 }
 
 asio::awaitable<Outcome> readDataSet(DevicePointer device, QString ldName, QString name)
@@ -48,6 +62,8 @@ asio::awaitable<Outcome> readDataSet(DevicePointer device, QString ldName, QStri
         co_await acsi::dataSetDirectory(client, *set);
     if (!directory)
         co_return Outcome::failed(directory.error());
+    DeviceConnection::Publication publication;
+    publication.asOf = std::chrono::steady_clock::now();
     const mms::Result<std::vector<mms::AccessResult>> values = co_await client->readList(*set);
     if (!values)
         co_return Outcome::failed(values.error());
@@ -56,8 +72,8 @@ asio::awaitable<Outcome> readDataSet(DevicePointer device, QString ldName, QStri
                                       .arg(directory->members.size())
                                       .arg(values->size()));
     QStringList failures;
+    // What the device gives in parts only, or refuses as a member.
     std::vector<acsi::Reference> inParts;
-    const DeviceConnection::Publication publication;
     for (std::size_t i = 0; i < values->size(); ++i) {
         const mms::AccessResult &value = (*values)[i];
         const mms::Result<acsi::Reference> member = acsi::referenceOf(directory->members[i]);
@@ -68,19 +84,23 @@ asio::awaitable<Outcome> readDataSet(DevicePointer device, QString ldName, QStri
         }
         const QString reference =
             text(member ? acsi::toText(*member) : mms::toText(directory->members[i]));
-        if (!value.ok())
+        if (!value.ok() && member)
+            inParts.push_back(*member);
+        else if (!value.ok())
             failures.append(Texts::tr("%1: %2").arg(
                 reference, QString::fromStdString(mms::describe(value.error()))));
         else if (!member || !device->publish(*member, value.data(), publication))
             failures.append(
                 Texts::tr("%1: the value does not have the form of its type").arg(reference));
     }
-    if (!inParts.empty()) {
-        const Outcome read = co_await device->readAndPublish(std::move(inParts), publication);
-        if (!read)
-            failures.append(read.error);
-    }
-    co_return failures.isEmpty() ? Outcome() : Outcome::failed(failures.join(QStringLiteral("; ")));
+    Outcome outcome;
+    if (!inParts.empty())
+        outcome = co_await device->readAndPublish(std::move(inParts), publication);
+    if (!outcome)
+        failures.append(outcome.error);
+    if (!failures.isEmpty())
+        outcome = Outcome::failed(failures.join(QStringLiteral("; ")));
+    co_return outcome;
 }
 
 asio::awaitable<Outcome> write(DevicePointer device, QString ldName, QString name, QVariant value)
@@ -111,6 +131,10 @@ asio::awaitable<Outcome> write(DevicePointer device, QString ldName, QString nam
     } else {
         outcome = Outcome::failed(data.error());
     }
+    if (outcome)
+        device->haveWritten(*reference);
+    else
+        device->showUnwritten(*reference);
     DeviceChange change;
     change.operation = QStringLiteral("writeVariable");
     change.reference = full;

@@ -1,23 +1,23 @@
 // SPDX-License-Identifier: Apache-2.0
-// DeviceConnection's way from what a device answers to published values: polling, reading, taking
-// data apart to the leaves of the model.
+// DeviceConnection's carrying out of what ValueCurrency wants to be asked, and the telling of what
+// is not current.
 #include "deviceconnection.h"
 
 #include "connectiontext.h"
-#include "valueconversion.h"
 
-#include <asio/co_spawn.hpp>
+#include "acsi/callgroup.h"
 
 #include <QtCore/QCoreApplication>
 
 #include <algorithm>
-#include <iterator>
+#include <map>
 
 using acsi::FunctionalConstraint;
 using ConnectionText::text;
-using ConnectionText::withoutPeriod;
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
+using Pace = ValueCurrency::Pace;
+using Reply = ValueCurrency::Reply;
 
 namespace {
 
@@ -26,122 +26,111 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(IedDriver)
 };
 
-/// What is not expected to change is read every so many times.
-constexpr int slowPolls = 10;
-/// Between the bytes of a model and the browser that listens.
-constexpr milliseconds browserStart{1500};
-/// Failed references that a sentence names.
-constexpr int namedFailures = 5;
+/// How often what is not current is told within one round.
+constexpr milliseconds tellingInterval{1000};
+constexpr std::uint64_t nothingTold = ~std::uint64_t(0);
+const QString staleValues = QStringLiteral("values, stale");
+const QString refusedValues = QStringLiteral("values, refused");
 
-const std::vector<FunctionalConstraint> fastConstraints = {FunctionalConstraint::ST,
-                                                           FunctionalConstraint::MX};
-const std::vector<FunctionalConstraint> slowConstraints = {
-    FunctionalConstraint::SP, FunctionalConstraint::SG, FunctionalConstraint::SV,
-    FunctionalConstraint::DC, FunctionalConstraint::EX, FunctionalConstraint::BL,
-    FunctionalConstraint::OR, FunctionalConstraint::SR};
-const std::vector<FunctionalConstraint> configurationConstraints = {FunctionalConstraint::CF};
-
-/// Sentences about single references in one.
-class Failures
+std::optional<Pace> paceOf(FunctionalConstraint constraint)
 {
-public:
-    void add(const QString &reference, const QString &reason)
-    {
-        if (m_sentences.size() < namedFailures)
-            m_sentences.append(Texts::tr("%1: %2").arg(reference, withoutPeriod(reason)));
-        ++m_count;
+    switch (constraint) {
+    case FunctionalConstraint::ST:
+    case FunctionalConstraint::MX:
+        return Pace::Fast;
+    case FunctionalConstraint::SP:
+    case FunctionalConstraint::SG:
+    case FunctionalConstraint::SV:
+    case FunctionalConstraint::DC:
+    case FunctionalConstraint::EX:
+    case FunctionalConstraint::BL:
+    case FunctionalConstraint::OR:
+    case FunctionalConstraint::SR:
+        return Pace::Slow;
+    case FunctionalConstraint::CF:
+        return Pace::Configuration;
+    default:
+        return std::nullopt;
     }
+}
 
-    Outcome outcome() const
-    {
-        if (m_count == 0)
-            return {};
-        QString sentence = m_sentences.join(QStringLiteral("; "));
-        if (m_count > m_sentences.size())
-            sentence = Texts::tr("%1; and %2 more").arg(sentence).arg(m_count - m_sentences.size());
-        return Outcome::failed(sentence + QLatin1Char('.'));
+Reply replyOf(mms::DataAccessError error)
+{
+    switch (error) {
+    case mms::DataAccessError::ObjectAccessDenied:
+    case mms::DataAccessError::ObjectUndefined:
+    case mms::DataAccessError::ObjectNonExistent:
+        return Reply::Refused;
+    default:
+        return Reply::Unavailable;
     }
+}
 
-private:
-    QStringList m_sentences;
-    int m_count = 0;
-};
+/// The setting group control block stands among the data, but is none.
+bool isControlBlock(const acsi::Reference &reference)
+{
+    return reference.constraint == FunctionalConstraint::SP && reference.node == "LLN0" &&
+           reference.path.size() == 1 && reference.path.front().name == "SGCB";
+}
+
+QString localTime(ValueCurrency::Time time, QDateTime &asDate)
+{
+    const auto ago = std::chrono::duration_cast<milliseconds>(steady_clock::now() - time);
+    asDate = QDateTime::currentDateTime().addMSecs(-ago.count());
+    return asDate.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+}
 
 } // namespace
 
-std::vector<acsi::Reference> DeviceConnection::polled(FunctionalConstraint constraint) const
+std::vector<ValueCurrency::Part> DeviceConnection::partsOf(const ValueCurrency::Part &whole) const
 {
-    // An object stays as long as one of its leaves may change unreported.
-    const auto isReported = [this](const acsi::Reference &object) {
-        const std::vector<OnlineModel::Leaf> leaves = m_model->leavesOf(object);
-        return std::all_of(leaves.begin(), leaves.end(), [this](const OnlineModel::Leaf &leaf) {
-            const auto reference = acsi::parseReference(leaf.reference.toStdString());
-            return reference &&
-                   m_reported.covers(*reference, std::nullopt, m_configuration.pollInterval);
-        });
-    };
-    const std::set<std::string> reportedNodes = m_reported.constraints();
-
-    std::vector<acsi::Reference> result;
-    const std::string_view name = acsi::toText(constraint);
-    for (const acsi::DeviceDescription &device : m_model->description().devices) {
-        for (const acsi::NodeDescription &node : device.nodes) {
-            const mms::TypeDescription *type = acsi::typeBelow(node.type, name, {});
-            if (!type)
-                continue;
-            acsi::Reference reference{device.name, node.name, constraint, {}};
-            const std::string whole = acsi::toText(reference);
-            const bool isControlBlockThere =
-                constraint == FunctionalConstraint::SP && node.name == "LLN0";
-            if (!isControlBlockThere && m_inParts.count(whole) == 0 &&
-                reportedNodes.count(whole) == 0 && m_model->isWholeKnown(reference)) {
-                result.push_back(std::move(reference));
-                continue;
-            }
-            reference.path.resize(1);
-            for (const mms::TypeDescription::Component &object : type->components) {
-                if (isControlBlockThere && object.name == "SGCB")
-                    continue;
-                reference.path.front().name = object.name;
-                for (acsi::Reference &part : m_model->readableParts(reference)) {
-                    const std::string full = acsi::toText(part);
-                    if (m_refused.count(full) == 0 && !isReported(part))
-                        result.push_back(std::move(part));
-                }
-            }
+    std::vector<ValueCurrency::Part> parts;
+    if (!m_model)
+        return parts;
+    for (const acsi::Reference &component : m_model->partsOf(whole.reference)) {
+        if (isControlBlock(component))
+            continue;
+        for (acsi::Reference &part : m_model->readableParts(component)) {
+            const std::size_t octets = acsi::readSize(acsi::accessOf(part));
+            const LeafRange leaves = m_model->leafRange(part);
+            parts.push_back({std::move(part), leaves, octets});
         }
     }
-    return result;
+    return parts;
 }
 
-asio::awaitable<void>
-DeviceConnection::readValues(ClientPointer client,
-                             const std::vector<FunctionalConstraint> &constraints,
-                             Publication publication)
+void DeviceConnection::makeCurrency(const ClientPointer &client)
 {
-    for (const FunctionalConstraint constraint : constraints) {
-        // Twice: what is refused as a whole is asked for in parts.
-        std::set<std::string> done;
-        for (int pass = 0; pass < 2 && client->isOpen() && m_model; ++pass) {
-            std::vector<acsi::Reference> references = polled(constraint);
-            std::vector<mms::VariableAccess> variables;
-            std::erase_if(references, [&](const acsi::Reference &reference) {
-                return !done.insert(acsi::toText(reference)).second;
-            });
-            for (const acsi::Reference &reference : references)
-                variables.push_back(acsi::accessOf(reference));
-            if (variables.empty())
-                break;
-            const mms::Result<std::vector<mms::AccessResult>> values =
-                co_await client->read(std::move(variables));
-            if (!values || !m_model)
-                break;
-            for (std::size_t i = 0; i < references.size() && i < values->size(); ++i) {
-                const mms::AccessResult &value = (*values)[i];
-                if (value.ok() && publish(references[i], value.data(), publication))
+    ValueCurrency::Options options;
+    options.interval = m_configuration.pollInterval;
+    const std::size_t limit = client->association().pduSize();
+    options.room = limit - std::min(limit, acsi::readFrameSize());
+    options.places = client->outstanding();
+    const auto divide = [this](const ValueCurrency::Part &whole) { return partsOf(whole); };
+    m_currency = std::make_shared<ValueCurrency>(m_model->leafCount(), divide, options);
+    m_reportedChanged = true;
+    // Of the values of the outage nothing is known until the first round is over.
+    m_toldChanges = nothingTold;
+    m_unwritten.clear();
+    m_problems.remove(staleValues);
+    m_problems.remove(refusedValues);
+    for (const acsi::DeviceDescription &device : m_model->description().devices) {
+        for (const acsi::NodeDescription &node : device.nodes) {
+            for (const mms::TypeDescription::Component &component : node.type.components) {
+                const auto constraint = acsi::functionalConstraintFrom(component.name);
+                const std::optional<Pace> pace = constraint ? paceOf(*constraint) : std::nullopt;
+                if (!pace)
                     continue;
-                (references[i].path.empty() ? m_inParts : m_refused)
-                    .insert(acsi::toText(references[i]));
+                ValueCurrency::Part part;
+                part.reference = acsi::Reference{device.name, node.name, *constraint, {}};
+                part.leaves = m_model->leafRange(part.reference);
+                part.octets = acsi::readSize(acsi::accessOf(part.reference));
+                acsi::Reference block = part.reference;
+                block.path.push_back({"SGCB", {}});
+                const bool isDivided =
+                    !m_model->isWholeKnown(part.reference) ||
+                    (isControlBlock(block) && m_model->leafRange(block).count > 0);
+                m_currency->add(*pace, std::move(part), isDivided);
             }
         }
     }
@@ -149,108 +138,109 @@ DeviceConnection::readValues(ClientPointer client,
 
 asio::awaitable<void> DeviceConnection::readConfiguration(ClientPointer client)
 {
-    Publication publication;
-    publication.cause = PublishCause::Polled;
-    publication.onlyChanges = true;
-    co_await readValues(client, configurationConstraints, publication);
+    m_currency->ask(Pace::Configuration);
+    co_await carryOut(client, true);
 }
 
 asio::awaitable<void> DeviceConnection::poll(ClientPointer client)
 {
+    m_currency->start(steady_clock::now());
+    co_await carryOut(client, false);
+}
+
+asio::awaitable<void> DeviceConnection::carryOut(ClientPointer client, bool untilIdle)
+{
+    struct Asked
+    {
+        ValueCurrency::Question question;
+        Deadline when;
+    };
+    const std::shared_ptr<ValueCurrency> currency = m_currency;
+    std::map<ValueCurrency::Id, Asked> asked;
+    acsi::CallGroup group(client);
+    const auto goesOn = [&] {
+        return isWanted() && client->isOpen() && m_model && m_currency == currency;
+    };
+    while (goesOn()) {
+        const Deadline now = steady_clock::now();
+        followReports(*currency);
+        while (auto question = currency->next(now)) {
+            std::vector<mms::VariableAccess> variables;
+            variables.reserve(question->parts.size());
+            for (const ValueCurrency::Id part : question->parts)
+                variables.push_back(acsi::accessOf(currency->part(part).reference));
+            group.start(question->id, acsi::readRequest(std::move(variables)),
+                        m_configuration.callTimeout);
+            asked[question->id] = {std::move(*question), now};
+        }
+        if (untilIdle) {
+            if (currency->isIdle())
+                co_return;
+        } else if (currency->isIdle()) {
+            tellCurrency(*currency);
+        } else if (now >= m_nextTelling && m_toldChanges != nothingTold) {
+            m_nextTelling = now + tellingInterval;
+            tellCurrency(*currency);
+        }
+        const std::optional<Deadline> next = currency->nextTime();
+        std::optional<milliseconds> patience;
+        if (next)
+            patience = std::max(std::chrono::ceil<milliseconds>(*next - now), milliseconds(1));
+        if (group.onTheWay() == 0) {
+            if (!patience)
+                co_return;
+            co_await pause(*patience);
+            continue;
+        }
+        std::optional<acsi::CallGroup::Arrival> arrival = co_await group.next(patience);
+        if (!goesOn() || !arrival)
+            continue;
+        const auto found = asked.find(static_cast<ValueCurrency::Id>(arrival->id));
+        const Asked answered = std::move(found->second);
+        asked.erase(found);
+        acsi::ReadAnswer answer =
+            acsi::readAnswer(std::move(arrival->outcome), answered.question.parts.size());
+        if (answer.kind == acsi::ReadAnswer::Kind::Ended)
+            co_return;
+        takeAnswer(*currency, answered.question, std::move(answer), answered.when);
+    }
+}
+
+void DeviceConnection::takeAnswer(ValueCurrency &currency, const ValueCurrency::Question &question,
+                                  acsi::ReadAnswer answer, Deadline asked)
+{
+    const Deadline now = steady_clock::now();
+    switch (answer.kind) {
+    case acsi::ReadAnswer::Kind::Results:
+        break;
+    case acsi::ReadAnswer::Kind::TooLarge:
+        return currency.refused(question.id, Reply::TooLarge, now);
+    case acsi::ReadAnswer::Kind::Refused:
+        return currency.refused(question.id, replyOf(answer.error), now);
+    case acsi::ReadAnswer::Kind::Silent:
+        return currency.silent(question.id, now);
+    case acsi::ReadAnswer::Kind::NotSent:
+        return currency.unsent(question.id, now);
+    case acsi::ReadAnswer::Kind::Ended:
+        return;
+    }
     Publication publication;
     publication.cause = PublishCause::Polled;
     publication.onlyChanges = true;
-    co_await readValues(client, fastConstraints, publication);
-    co_await readValues(client, slowConstraints, publication);
-    const milliseconds interval = m_configuration.pollInterval;
-    int count = 0;
-    while (interval > milliseconds::zero() && isWanted() && client->isOpen()) {
-        const Deadline next = steady_clock::now() + interval;
-        for (Deadline now = steady_clock::now(); now < next && client->isOpen() && isWanted();
-             now = steady_clock::now())
-            co_await pause(std::chrono::ceil<milliseconds>(next - now));
-        if (!isWanted() || !client->isOpen())
-            break;
-        co_await readValues(client, fastConstraints, publication);
-        if (++count % slowPolls == 0) {
-            co_await readValues(client, slowConstraints, publication);
-            co_await readConfiguration(client);
+    publication.asOf = asked;
+    std::vector<Reply> replies;
+    replies.reserve(question.parts.size());
+    for (std::size_t i = 0; i < question.parts.size(); ++i) {
+        const mms::AccessResult &result = answer.results[i];
+        if (!result.ok()) {
+            replies.push_back(replyOf(result.error()));
+            continue;
         }
+        const acsi::Reference reference = currency.part(question.parts[i]).reference;
+        replies.push_back(publish(reference, result.data(), publication) ? Reply::Taken
+                                                                         : Reply::Unfit);
     }
-}
-
-bool DeviceConnection::publish(const acsi::Reference &reference, const mms::Data &data,
-                               const Publication &publication)
-{
-    std::vector<MMSValue> values;
-    const auto visit = [&](const OnlineModel::Leaf &leaf) {
-        if (!leaf.attribute)
-            return;
-        QVariant value = ValueConversion::toVariant(leaf.attribute->basicType, *leaf.data);
-        if (publication.onlyChanges && value == leaf.attribute->value)
-            return;
-        leaf.attribute->value = value;
-        MMSValue record;
-        record.value = std::move(value);
-        record.reference = leaf.attribute->reference;
-        if (const mms::Data *quality = leaf.quality ? leaf.quality : publication.quality)
-            record.quality = ValueConversion::qualityText(*quality);
-        if (const mms::Data *time = leaf.time ? leaf.time : publication.time)
-            record.timeStamp = ValueConversion::timeText(*time);
-        record.deviceNo = m_configuration.number;
-        record.cause = publication.cause;
-        if (m_recentUsers > 0)
-            m_recent.insert(record.reference, record);
-        values.push_back(std::move(record));
-    };
-    const bool fits = m_model && m_model->forEachLeaf(reference, data, visit);
-    m_published += values.size();
-    m_environment.values->publish(std::move(values));
-    return fits;
-}
-
-std::vector<acsi::Reference>
-DeviceConnection::inReadableParts(const std::vector<acsi::Reference> &references) const
-{
-    std::vector<acsi::Reference> result;
-    for (const acsi::Reference &reference : references) {
-        std::vector<acsi::Reference> parts;
-        if (m_model)
-            parts = m_model->readableParts(reference);
-        // The device itself shall say what it thinks of a name that it did not describe.
-        if (parts.empty())
-            parts.push_back(reference);
-        std::ranges::move(parts, std::back_inserter(result));
-    }
-    return result;
-}
-
-asio::awaitable<Outcome> DeviceConnection::readAndPublish(std::vector<acsi::Reference> references,
-                                                          Publication publication)
-{
-    const ClientPointer client = m_client;
-    if (!client) {
-        const QString sentence = notConnectedSentence();
-        co_return Outcome{OperationNotConnected, sentence};
-    }
-    references = inReadableParts(references);
-    std::vector<mms::VariableAccess> variables;
-    for (const acsi::Reference &reference : references)
-        variables.push_back(acsi::accessOf(reference));
-    const mms::Result<std::vector<mms::AccessResult>> values =
-        co_await client->read(std::move(variables));
-    if (!values)
-        co_return Outcome::failed(values.error());
-    Failures failures;
-    for (std::size_t i = 0; i < references.size() && i < values->size(); ++i) {
-        const mms::AccessResult &value = (*values)[i];
-        const QString item = text(acsi::itemText(references[i]));
-        if (!value.ok())
-            failures.add(item, QString::fromStdString(mms::describe(value.error())));
-        else if (!publish(references[i], value.data(), publication))
-            failures.add(item, Texts::tr("the value does not have the form of its type"));
-    }
-    co_return failures.outcome();
+    currency.answered(question.id, replies, now);
 }
 
 void DeviceConnection::setReported(const QString &source,
@@ -264,28 +254,114 @@ void DeviceConnection::setReported(const QString &source,
             understood.push_back(reference);
     }
     m_reported.set(source, understood, coverage);
+    m_reportedChanged = true;
+    wake();
 }
 
-QByteArray DeviceConnection::modelBytes()
+const LeafTriggers &DeviceConnection::triggersOf(std::uint32_t leaf)
 {
-    ++m_recentUsers;
-    asio::co_spawn(m_strand, republish(),
-                   [self = shared_from_this(), client = m_client](
-                       const std::exception_ptr &exception) { self->fail(client, exception); });
-    return m_model->toBytes();
+    m_triggers.resize(m_model->leafCount());
+    m_knowsTriggers.resize(m_model->leafCount());
+    if (!m_knowsTriggers[leaf]) {
+        m_knowsTriggers[leaf] = true;
+        const DataAttribute *attribute = m_model->attribute(leaf);
+        const auto reference =
+            acsi::parseReference(attribute ? attribute->reference.toStdString() : std::string());
+        if (reference)
+            m_triggers[leaf] = standardTriggers(*reference);
+    }
+    return m_triggers[leaf];
 }
 
-asio::awaitable<void> DeviceConnection::republish()
+/// Of each leaf what its sources tell together is compared with what may change it.
+void DeviceConnection::followReports(ValueCurrency &currency)
 {
-    const Deadline end = steady_clock::now() + browserStart;
-    // Without an association nothing is left to change the values.
-    for (Deadline now = steady_clock::now(); now < end && m_client; now = steady_clock::now())
-        co_await pause(std::chrono::ceil<milliseconds>(end - now));
-    std::vector<MMSValue> values;
-    values.reserve(static_cast<std::size_t>(m_recent.size()));
-    for (const MMSValue &value : qAsConst(m_recent))
-        values.push_back(value);
-    if (--m_recentUsers == 0)
-        m_recent.clear();
-    m_environment.values->publish(std::move(values));
+    if (!std::exchange(m_reportedChanged, false))
+        return;
+    struct Told
+    {
+        LeafTriggers on;
+        bool isAlways = false;
+    };
+    std::map<std::uint32_t, Told> told;
+    m_reported.forEachMember([&](const acsi::Reference &member, const ReportCoverage &coverage) {
+        const LeafRange leaves = m_model->leafRange(member);
+        // A time that is a member by itself has nothing that it could be told with.
+        const bool isLoneTime =
+            leaves.count == 1 && !member.path.empty() && member.path.back().name == "t";
+        const bool isAlways = coverage.integrityPeriod > milliseconds::zero() &&
+                              coverage.integrityPeriod <= m_configuration.pollInterval;
+        for (std::uint32_t leaf = leaves.first; leaf < leaves.end(); ++leaf) {
+            Told &each = told[leaf];
+            each.isAlways = each.isAlways || isAlways;
+            if (isLoneTime)
+                continue;
+            each.on.dataChange = each.on.dataChange || coverage.dataChange;
+            each.on.qualityChange = each.on.qualityChange || coverage.qualityChange;
+            each.on.dataUpdate = each.on.dataUpdate || coverage.dataUpdate;
+        }
+    });
+    std::vector<LeafRange> covered;
+    for (const auto &[leaf, each] : told) {
+        if (!each.isAlways && !areTold(triggersOf(leaf), each.on))
+            continue;
+        if (!covered.empty() && covered.back().end() == leaf)
+            ++covered.back().count;
+        else
+            covered.push_back({leaf, 1});
+    }
+    currency.setReported(covered);
+}
+
+void DeviceConnection::tellCurrency(const ValueCurrency &currency)
+{
+    if (currency.changes() == m_toldChanges)
+        return;
+    m_toldChanges = currency.changes();
+    const ValueCurrency::Summary summary = currency.summary();
+    QDateTime since;
+    QString sentence;
+    if (summary.stale > 0) {
+        const QString time = localTime(summary.staleSince, since);
+        const QString reference = text(acsi::toText(*summary.firstStale));
+        sentence =
+            summary.isSilent
+                ? Texts::tr("%n value(s) are not current since %1: the device does not answer "
+                            "when it is asked for %2.",
+                            nullptr, static_cast<int>(summary.stale))
+                      .arg(time, reference)
+                : Texts::tr("%n value(s) are not current since %1: %2 is not available for "
+                            "the moment.",
+                            nullptr, static_cast<int>(summary.stale))
+                      .arg(time, reference);
+    }
+    setProblem(staleValues, sentence);
+    sentence.clear();
+    if (summary.refused > 0) {
+        QStringList names;
+        for (const acsi::Reference &reference : summary.refusedParts)
+            names.append(text(acsi::toText(reference)));
+        sentence = Texts::tr("The device refuses %n value(s), which are not asked for again: %1.",
+                             nullptr, static_cast<int>(summary.refused))
+                       .arg(names.join(QStringLiteral(", ")));
+    }
+    setProblem(refusedValues, sentence);
+    updateStatus([&](DeviceStatus &status) {
+        status.staleValues = static_cast<int>(summary.stale);
+        status.staleSince = since;
+        status.refusedValues = static_cast<int>(summary.refused);
+    });
+}
+
+void DeviceConnection::valuesAreLost()
+{
+    m_unwritten.clear();
+    const std::uint32_t known = m_currency ? m_currency->known() : 0;
+    if (known == 0)
+        return;
+    updateStatus([known](DeviceStatus &status) {
+        status.staleValues = static_cast<int>(known);
+        if (!status.staleSince.isValid())
+            status.staleSince = QDateTime::currentDateTime();
+    });
 }

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "acsi/client.h"
 
-#include "acsi/callgroup.h"
+#include "acsi/listcalls.h"
 #include "acsi/namepages.h"
+#include "acsi/readcalls.h"
 
 #include <asio/co_spawn.hpp>
 #include <asio/experimental/as_tuple.hpp>
@@ -39,29 +40,6 @@ mms::Error cancelledError()
     return {"The call was cancelled.", 0};
 }
 
-/// Some variables of a list that are asked for together.
-struct Range
-{
-    std::size_t first = 0;
-    std::size_t count = 0;
-};
-
-/// Octets that a PDU takes with all its lengths at their longest.
-std::size_t longestSize(mms::RequestService request)
-{
-    // Four lengths of a long PDU, each with up to three octets more than those of a short one.
-    constexpr std::size_t growth = 4 * 3;
-    constexpr std::uint32_t longInvokeId = 0x7fffffff;
-    return mms::encode(mms::ConfirmedRequestPdu{longInvokeId, std::move(request)}).size() + growth;
-}
-
-mms::RequestService readRequest(std::vector<mms::VariableAccess> variables)
-{
-    mms::ReadRequest request;
-    request.variables = std::move(variables);
-    return request;
-}
-
 mms::RequestService writeRequest(std::vector<mms::VariableAccess> variables,
                                  std::vector<mms::Data> values)
 {
@@ -69,110 +47,6 @@ mms::RequestService writeRequest(std::vector<mms::VariableAccess> variables,
     request.variables = std::move(variables);
     request.values = std::move(values);
     return request;
-}
-
-/// The list of @p sizes in as few ranges as fit @p room; what fits nowhere stands alone.
-std::deque<Range> ranges(const std::vector<std::size_t> &sizes, std::size_t room)
-{
-    std::deque<Range> result;
-    std::size_t used = 0;
-    for (std::size_t i = 0; i < sizes.size(); ++i) {
-        if (result.empty() || used + sizes[i] > room) {
-            result.push_back({i, 0});
-            used = 0;
-        }
-        ++result.back().count;
-        used += sizes[i];
-    }
-    return result;
-}
-
-/// Nothing more can be expected of the association or of this peer's service.
-bool endsAll(const CallOutcome &outcome)
-{
-    if (const auto *failure = std::get_if<CallFailure>(&outcome)) {
-        return failure->kind != CallFailure::Kind::TooLarge
-            && failure->kind != CallFailure::Kind::Malformed;
-    }
-    const auto *reject = std::get_if<mms::RejectPdu>(&outcome);
-    return reject && reject->rejected == mms::RejectedPdu::ConfirmedRequest
-        && reject->code == mms::rejectcodes::requestUnrecognizedService;
-}
-
-/// The error of a single variable that could not be asked for.
-DataAccessError accessErrorOf(const CallOutcome &outcome)
-{
-    const auto *error = std::get_if<mms::ServiceError>(&outcome);
-    if (!error || error->errorClass != mms::ErrorClass::Access)
-        return DataAccessError::ObjectAccessUnsupported;
-    switch (error->code) {
-    case mms::serviceerrors::accessNonExistent:
-        return DataAccessError::ObjectNonExistent;
-    case mms::serviceerrors::accessDenied:
-        return DataAccessError::ObjectAccessDenied;
-    case mms::serviceerrors::accessInvalidated:
-        return DataAccessError::ObjectInvalidated;
-    default:
-        return DataAccessError::ObjectAccessUnsupported;
-    }
-}
-
-std::string whyNot(const CallOutcome &outcome)
-{
-    std::string text = mms::failureText(outcome);
-    return text.empty() ? "The device's answer does not match the question." : text;
-}
-
-/// A long list on its way in several calls: gives ranges to ask for, takes what became of them.
-class ListCalls
-{
-public:
-    ListCalls(std::deque<Range> waiting, std::size_t size)
-        : m_waiting(std::move(waiting))
-        , m_size(size)
-    {
-    }
-
-    bool idle() const { return m_waiting.empty(); }
-    Range next()
-    {
-        const Range range = m_waiting.front();
-        m_waiting.pop_front();
-        return range;
-    }
-    /// The range was refused as a whole. The error of the variable when it is only one.
-    std::optional<DataAccessError> refused(const Range &range, const CallOutcome &outcome)
-    {
-        if (range.count > 1) {
-            const std::size_t half = range.count / 2;
-            m_waiting.push_front({range.first + half, range.count - half});
-            m_waiting.push_front({range.first, half});
-            return std::nullopt;
-        }
-        if (m_refused++ == 0)
-            m_reason = whyNot(outcome);
-        return accessErrorOf(outcome);
-    }
-    /// When not a single variable could be asked for.
-    std::optional<mms::Error> failure() const
-    {
-        if (m_refused == 0 || m_refused < m_size)
-            return std::nullopt;
-        return mms::Error{m_reason, 0};
-    }
-
-private:
-    std::deque<Range> m_waiting;
-    std::size_t m_size;
-    std::size_t m_refused = 0;
-    std::string m_reason;
-};
-
-template <typename T>
-std::vector<T> part(const std::vector<T> &list, const Range &range)
-{
-    const auto first = list.begin() + static_cast<std::ptrdiff_t>(range.first);
-    return std::vector<T>(first, first + static_cast<std::ptrdiff_t>(range.count));
 }
 
 } // namespace
@@ -343,42 +217,19 @@ asio::awaitable<mms::Result<std::vector<mms::AccessResult>>>
 Client::read(std::vector<mms::VariableAccess> variables)
 {
     const auto self = shared_from_this();
-    const std::size_t frame = longestSize(readRequest({}));
-    std::vector<std::size_t> sizes;
-    if (variables.size() > 1) {
-        for (const mms::VariableAccess &variable : variables)
-            sizes.push_back(longestSize(readRequest({variable})) - frame);
-    } else {
-        sizes.resize(variables.size());
+    auto each = co_await readEach(self, std::move(variables));
+    if (!each)
+        co_return each.error();
+    std::vector<mms::AccessResult> results;
+    std::size_t refused = 0;
+    for (ReadResult &one : *each) {
+        if (one.kind == ReadResult::Kind::Missing)
+            co_return mms::Error{one.reason, 0};
+        refused += one.kind == ReadResult::Kind::Refused ? 1 : 0;
+        results.push_back(std::move(one.result));
     }
-    const std::size_t limit = m_association->pduSize();
-    ListCalls calls(ranges(sizes, limit - std::min(limit, frame)), variables.size());
-    std::vector<mms::AccessResult> results(variables.size(), DataAccessError::ObjectInvalidated);
-    std::map<std::size_t, Range> asked;
-    CallGroup group(self);
-    while (!calls.idle() || group.onTheWay() != 0) {
-        while (!calls.idle() && group.onTheWay() < outstanding()) {
-            const Range range = calls.next();
-            asked[range.first] = range;
-            group.start(range.first, readRequest(part(variables, range)), m_options.callTimeout);
-        }
-        auto arrival = co_await group.next();
-        if (!arrival)
-            co_return cancelledError();
-        const Range range = asked[arrival->id];
-        auto *service = std::get_if<mms::ResponseService>(&arrival->outcome);
-        auto *answer = service ? std::get_if<mms::ReadResponse>(service) : nullptr;
-        if (answer && answer->results.size() == range.count) {
-            std::ranges::move(answer->results,
-                              results.begin() + static_cast<std::ptrdiff_t>(range.first));
-        } else if (endsAll(arrival->outcome)) {
-            co_return endError(arrival->outcome);
-        } else if (const auto error = calls.refused(range, arrival->outcome)) {
-            results[range.first] = *error;
-        }
-    }
-    if (auto failure = calls.failure())
-        co_return std::move(*failure);
+    if (refused > 0 && refused == each->size())
+        co_return mms::Error{each->front().reason, 0};
     co_return results;
 }
 
@@ -431,13 +282,14 @@ Client::write(std::vector<mms::VariableAccess> variables, std::vector<mms::Data>
         sizes.resize(variables.size());
     }
     const std::size_t limit = m_association->pduSize();
-    ListCalls calls(ranges(sizes, limit - std::min(limit, frame)), variables.size());
+    ListCalls calls(listRanges(sizes, limit - std::min(limit, frame)), variables.size());
     std::vector<std::optional<DataAccessError>> results(variables.size());
+    std::string reason;
     // One request after the other: what is written keeps its order.
     while (!calls.idle()) {
-        const Range range = calls.next();
+        const ListRange range = calls.next();
         const CallOutcome outcome =
-            co_await call(writeRequest(part(variables, range), part(values, range)));
+            co_await call(writeRequest(listPart(variables, range), listPart(values, range)));
         const auto *answer = mms::answerOf<mms::WriteResponse>(outcome);
         const auto *failure = std::get_if<CallFailure>(&outcome);
         if (answer && answer->results.size() == range.count) {
@@ -447,12 +299,14 @@ Client::write(std::vector<mms::VariableAccess> variables, std::vector<mms::Data>
                    || (failure && failure->kind == CallFailure::Kind::Malformed)) {
             // Writing again could do a thing twice.
             co_return endError(outcome);
-        } else if (const auto error = calls.refused(range, outcome)) {
-            results[range.first] = error;
+        } else if (calls.refused(range)) {
+            if (reason.empty())
+                reason = whyNot(outcome);
+            results[range.first] = accessErrorOf(outcome);
         }
     }
-    if (auto failure = calls.failure())
-        co_return std::move(*failure);
+    if (calls.hasFailed())
+        co_return mms::Error{reason, 0};
     co_return results;
 }
 

@@ -62,6 +62,8 @@ public:
     const ClientOptions &options() const { return m_options; }
     mms::Association &association() { return *m_association; }
     bool isOpen() const { return m_open; }
+    /// Requests that the peer takes at a time.
+    std::size_t outstanding() const;
     /// Why the association ended; empty while it stands.
     const std::string &closeReason() const { return m_closeReason; }
 
@@ -144,7 +146,6 @@ private:
     mms::Association::Handlers handlers();
     void ended(const std::string &reason);
     mms::Error endError(const mms::CallOutcome &outcome) const;
-    std::size_t outstanding() const;
 
     ClientOptions m_options;
     std::shared_ptr<mms::Association> m_association;

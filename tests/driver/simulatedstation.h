@@ -39,9 +39,10 @@ class SimulatedIed
 public:
     /// @param ied may be empty when the file describes a single one
     explicit SimulatedIed(const QString &file, const QString &ied = {}, std::string faults = {},
-                          sim::DeviceOptions options = {})
+                          sim::DeviceOptions options = {}, sim::Device::RequestFilter filter = {})
         : m_file(SclImport::readFile(file))
         , m_options(std::move(options))
+        , m_filter(std::move(filter))
         , m_work(asio::make_work_guard(m_context))
         , m_thread([this] { m_context.run(); })
     {
