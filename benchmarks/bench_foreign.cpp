@@ -41,7 +41,7 @@ public:
             GeneratedScl{20000, false, nodesPerDevice, objectsPerNode}.text()));
         scl.close();
         m_server = std::make_unique<interop::ForeignServer>(scl.fileName());
-        m_client = std::make_unique<interop::ForeignPeer>("peer_client.py", QStringList());
+        m_client = std::make_unique<interop::ForeignPeer>(interop::ForeignPeer::Role::Client);
         if (!m_server->peer().isReady() || !m_client->isReady())
             throw std::runtime_error("the foreign stack does not start");
     }

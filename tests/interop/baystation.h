@@ -14,6 +14,12 @@ public:
 
     /// "simulator", "foreign-server": which results of the tests these are.
     virtual QString column() const = 0;
+    /// Why a job cannot be done on this server; empty when it can.
+    virtual QString lacks(const QString &job) const
+    {
+        Q_UNUSED(job)
+        return {};
+    }
     virtual std::uint16_t port() const = 0;
     /// The path of a file that the server offers.
     virtual QString filePath(const QString &name) const = 0;

@@ -13,7 +13,14 @@ public:
     }
 
     interop::ForeignPeer &peer() { return m_server.peer(); }
-    QString column() const override { return QStringLiteral("dialogs-foreign-server"); }
+    QString column() const override
+    {
+        return QStringLiteral("dialogs-foreign-server-") + interop::peerName();
+    }
+    QString lacks(const QString &job) const override
+    {
+        return interop::knownDifference(QStringLiteral("operator"), job);
+    }
     std::uint16_t port() const override { return m_server.port(); }
     QString filePath(const QString &name) const override { return m_server.filePath(name); }
 
@@ -43,10 +50,10 @@ private:
 
     void set(const QString &item, const QString &constraint, const QJsonValue &value)
     {
-        const QJsonValue done = peer().ask(QStringLiteral("set"),
-                                           {{QStringLiteral("reference"), full(item)},
-                                            {QStringLiteral("fc"), constraint},
-                                            {QStringLiteral("value"), value}});
+        const QJsonValue done =
+            peer().ask(QStringLiteral("set"), {{QStringLiteral("reference"), full(item)},
+                                               {QStringLiteral("fc"), constraint},
+                                               {QStringLiteral("value"), value}});
         if (!done.toBool())
             qFatal("%s", qPrintable(peer().failure()));
     }

@@ -5,6 +5,7 @@
 #include <asio/ip/tcp.hpp>
 
 #include <QDeadlineTimer>
+#include <QFile>
 #include <QJsonDocument>
 
 namespace interop {
@@ -21,11 +22,17 @@ std::uint16_t freePort()
     return acceptor.local_endpoint().port();
 }
 
+QString peerFile(const char *name)
+{
+    return sourceFile("peers/" + peerName() + '/' + name);
+}
+
 Installation install()
 {
     QProcess process;
     process.start(QStringLiteral(INTEROP_PYTHON),
-                  {sourceFile("install_peers.py"), QStringLiteral(INTEROP_FOLDER "/python")});
+                  {sourceFile("install_peers.py"), peerFile("requirements.txt"),
+                   QStringLiteral(INTEROP_FOLDER "/python-") + peerName()});
     if (!process.waitForFinished(300000))
         return {{}, QStringLiteral("the installation does not end"), true};
     const QString said = QString::fromUtf8(process.readAllStandardError()).trimmed();
@@ -35,6 +42,25 @@ Installation install()
 }
 
 } // namespace
+
+QString peerName()
+{
+    return qEnvironmentVariable("INTEROP_PEER", "pyiec61850");
+}
+
+QString knownDifference(const QString &kind, const QString &row)
+{
+    QFile file(peerFile("differences.txt"));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const QStringList lines = QString::fromUtf8(file.readAll()).split('\n');
+    for (const QString &line : lines) {
+        const QStringList parts = line.split(QStringLiteral(" | "));
+        if (parts.size() == 3 && parts[0] == kind && parts[1] == row)
+            return parts[2];
+    }
+    return {};
+}
 
 QString sourceFile(const QString &name)
 {
@@ -47,10 +73,11 @@ const Installation &Installation::get()
     return installation;
 }
 
-ForeignPeer::ForeignPeer(const QString &script, const QStringList &arguments)
+ForeignPeer::ForeignPeer(Role role, const QStringList &arguments)
 {
+    const QString script = peerFile(role == Role::Client ? "client.py" : "server.py");
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    m_process.start(Installation::get().python, QStringList{sourceFile(script)} + arguments);
+    m_process.start(Installation::get().python, QStringList{script} + arguments);
     const QJsonObject line = nextLine(patience);
     if (line.value("event") != QLatin1String("ready"))
         m_failure = line.value("reason").toString("the peer does not start");
@@ -100,7 +127,7 @@ ForeignServer::ForeignServer(const QString &scl, QJsonObject options)
         m_port = freePort();
         options.insert("port", m_port);
         m_peer = std::make_unique<ForeignPeer>(
-            "peer_server.py",
+            ForeignPeer::Role::Server,
             QStringList{QString::fromUtf8(QJsonDocument(options).toJson(QJsonDocument::Compact))});
     }
 }

@@ -16,11 +16,20 @@
 
 namespace interop {
 
+/// The foreign stack of this run, a folder below peers/: what the environment variable INTEROP_PEER
+/// names, otherwise the first one.
+QString peerName();
+
+/// What the peer is known to lack or to do otherwise: the third part of the line of
+/// peers/NAME/differences.txt that begins with @p kind ("server", "client" or "operator") and @p
+/// row; empty when there is none.
+QString knownDifference(const QString &kind, const QString &row);
+
 /// The foreign stack as it is installed in the build.
 struct Installation
 {
-    QString python; ///< the interpreter that has it; empty when it is not there
-    QString reason; ///< why not
+    QString python;      ///< the interpreter that has it; empty when it is not there
+    QString reason;      ///< why not
     bool failed = false; ///< it could have been installed, but was not
 
     /// Installs at the first call.
@@ -32,8 +41,10 @@ struct Installation
 class ForeignPeer
 {
 public:
-    /// Starts @p script with @p arguments and waits until it is ready.
-    ForeignPeer(const QString &script, const QStringList &arguments);
+    enum class Role { Client, Server };
+
+    /// Starts the program with @p arguments and waits until it is ready.
+    explicit ForeignPeer(Role role, const QStringList &arguments = {});
     ~ForeignPeer();
     ForeignPeer(const ForeignPeer &) = delete;
     ForeignPeer &operator=(const ForeignPeer &) = delete;

@@ -19,7 +19,8 @@ constexpr int iec61850Protocol = 4;
 constexpr int valueColumn = 1;
 constexpr std::chrono::seconds patience{20};
 
-QModelIndex findBelow(const QAbstractItemModel &model, const QModelIndex &above, const QString &name)
+QModelIndex findBelow(const QAbstractItemModel &model, const QModelIndex &above,
+                      const QString &name)
 {
     for (int row = 0; row < model.rowCount(above); ++row) {
         const QModelIndex child = model.index(row, 0, above);
@@ -162,12 +163,14 @@ bool OperatorDesk::choose(const QStringList &names, const QString &entry, std::v
         menu->close();
     });
     const ModalDriver attendant(std::move(steps));
-    QContextMenuEvent event(QContextMenuEvent::Mouse, place, m_tree->viewport()->mapToGlobal(place));
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place,
+                            m_tree->viewport()->mapToGlobal(place));
     QApplication::sendEvent(m_tree->viewport(), &event);
     return chosen && attendant.finished();
 }
 
-bool OperatorDesk::enterValue(const QStringList &names, const QString &text, std::vector<Step> steps)
+bool OperatorDesk::enterValue(const QStringList &names, const QString &text,
+                              std::vector<Step> steps)
 {
     const QModelIndex index = node(names);
     if (!index.isValid())
@@ -191,7 +194,10 @@ bool OperatorDesk::enterValue(const QStringList &names, const QString &text, std
     }
     // A typed value is taken once the event loop runs again.
     return QTest::qWaitFor(
-        [&] { return m_tree->viewport()->findChildren<QLineEdit *>().isEmpty() && attendant.finished(); },
+        [&] {
+            return m_tree->viewport()->findChildren<QLineEdit *>().isEmpty() &&
+                   attendant.finished();
+        },
         static_cast<int>(std::chrono::milliseconds(patience).count()));
 }
 

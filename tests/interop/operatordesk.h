@@ -49,9 +49,9 @@ public:
     bool has(const QStringList &names) const { return node(names).isValid(); }
     QString valueOf(const QStringList &names) const;
 
-    /// Selects the node and chooses an entry of its context menu; @p steps attend to the windows that
-    /// follow. False when there is no such node or no such entry that can be chosen, or when not
-    /// every step had its window.
+    /// Selects the node and chooses an entry of its context menu; @p steps attend to the windows
+    /// that follow. False when there is no such node or no such entry that can be chosen, or when
+    /// not every step had its window.
     bool choose(const QStringList &names, const QString &entry, std::vector<Step> steps = {});
     /// Types a value into the node's cell, or chooses it from the cell's list.
     bool enterValue(const QStringList &names, const QString &text, std::vector<Step> steps = {});

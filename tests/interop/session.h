@@ -15,9 +15,9 @@ namespace interop {
 class Session
 {
 public:
-    using RequestHandler = std::function<void(const std::shared_ptr<mms::Association> &association,
-                                              std::uint32_t invokeId,
-                                              const mms::RequestService &request)>;
+    using RequestHandler =
+        std::function<void(const std::shared_ptr<mms::Association> &association,
+                           std::uint32_t invokeId, const mms::RequestService &request)>;
 
     /// Before connect(): answer what the peer asks for, in the association's strand.
     void serve(RequestHandler handler) { m_requestHandler = std::move(handler); }
@@ -81,8 +81,8 @@ public:
             false, std::vector<mms::VariableAccess>{
                        {mms::ObjectName::inDomain(domain, item), std::move(parts)}}});
         return response.results.size() == 1
-            ? response.results.front()
-            : mms::AccessResult(mms::DataAccessError::ObjectUndefined);
+                   ? response.results.front()
+                   : mms::AccessResult(mms::DataAccessError::ObjectUndefined);
     }
 
     /// The next report; none after ten seconds.

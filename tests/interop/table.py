@@ -12,14 +12,16 @@ import sys
 
 NOT_THERE = 77
 HERE = pathlib.Path(__file__).parent
-REQUIREMENTS = HERE / "requirements.txt"
+PEERS = ("pyiec61850", "iec61850", "open61850")
 # Heading of a table's first column, file of its rows, its columns with the results they come from.
 SERVICES = ("service", HERE / "rows.txt",
-            (("our client, foreign server", ("foreign-server", "foreign-server-acsi")),
-             ("foreign client, our simulated IED", ("foreign-client",))))
+            tuple((f"our client, server of `{peer}`",
+                   (f"foreign-server-{peer}", f"foreign-server-acsi-{peer}")) for peer in PEERS)
+            + tuple((f"client of `{peer}`, our simulated IED", (f"foreign-client-{peer}",))
+                    for peer in PEERS))
 DIALOGS = ("job of an operator", HERE / "dialogrows.txt",
-           (("our simulated IED", ("dialogs-simulator",)),
-            ("foreign server", ("dialogs-foreign-server",))))
+           (("our simulated IED", ("dialogs-simulator",)),)
+           + tuple((f"server of `{peer}`", (f"dialogs-foreign-server-{peer}",)) for peer in PEERS))
 DIALOGS_HEAD = """
 ## Through the menus and dialogs of the plug-in
 
@@ -28,22 +30,23 @@ The plug-in in a host, on the driver, with hands on mouse and keyboard.
 """
 HEAD = """# Interoperability
 
-Every service is tried in both directions with a stack that others wrote: the client and the server
-of the Python wheel `{peer}` {version}. The tests in `tests/interop` install it into the build and
-write this table; each "works" stands for values that were compared. Where a cell is "–" it has not
-been tried in that direction, mostly because the client of that direction has no call for it. Renew the table
-with `INTEROP_RENEW=1 ./test --all -R interop`.
-
-The Java library `com.beanit:iec61850bean` is meant to be the second stack. The package registry
-does not have it, so nothing has been tried with it and it has no columns.
+Every service is tried in both directions with stacks that others wrote: the clients and servers of
+the Python packages {peers}. The tests in `tests/interop` install them into the build and write this
+table; each "works" stands for values that were compared. What a peer lacks or does otherwise is kept
+in `tests/interop/peers`, and a test fails when that is no longer so. Where a cell is "–" it has not
+been tried in that direction, mostly because the client of that direction has no call for it. Renew the
+table with `INTEROP_RENEW=1 ./test --all -R interop`.
 
 """
 
 
 def head():
-    requirements = REQUIREMENTS.read_text(encoding="utf-8")
-    peer, version = re.search(r"^([\w-]+)==([\w.]+)", requirements, re.MULTILINE).groups()
-    return HEAD.format(peer=peer, version=version)
+    peers = []
+    for peer in PEERS:
+        requirements = (HERE / "peers" / peer / "requirements.txt").read_text(encoding="utf-8")
+        name, version = re.search(r"^([\w-]+)==([\w.]+)", requirements, re.MULTILINE).groups()
+        peers.append(f"`{name}` {version}")
+    return HEAD.format(peers=", ".join(peers[:-1]) + " and " + peers[-1])
 
 
 def read_rows(path):

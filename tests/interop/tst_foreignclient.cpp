@@ -68,16 +68,24 @@ protected:
     {
         if (!m_device)
             start();
-        m_client = std::make_unique<ForeignPeer>("peer_client.py", QStringList());
+        m_client = std::make_unique<ForeignPeer>(ForeignPeer::Role::Client);
         ASSERT_TRUE(m_client->isReady()) << m_client->failure().toStdString();
         options.insert("port", m_port);
         const QJsonValue connected = m_client->ask("connect", options);
+        noteWhatIsMissing(*m_client);
         EXPECT_TRUE(connected.toBool()) << m_client->failure().toStdString();
+    }
+
+    void noteWhatIsMissing(const ForeignPeer &peer)
+    {
+        if (peer.failure().startsWith("the peer has no call for"))
+            peerHasNoCall();
     }
 
     QJsonValue ask(const char *command, const QJsonObject &arguments = {})
     {
         QJsonValue answer = m_client->ask(QString::fromLatin1(command), arguments);
+        noteWhatIsMissing(*m_client);
         EXPECT_FALSE(answer.isUndefined()) << command << ": " << m_client->failure().toStdString();
         return answer;
     }
@@ -85,6 +93,7 @@ protected:
     std::string refusal(const char *command, const QJsonObject &arguments)
     {
         EXPECT_TRUE(m_client->ask(QString::fromLatin1(command), arguments).isUndefined());
+        noteWhatIsMissing(*m_client);
         return m_client->failure().toStdString();
     }
 
@@ -207,9 +216,9 @@ TEST_F(ForeignClientTest, ListsTheVariablesOfADomain)
     row("GetNameList: variables of a domain");
     connect();
     const QJsonArray found = ask("variables", {{"domain", bay}}).toArray();
-    for (const char *name : {"LLN0", "LLN0$ST$Mod$stVal", "GGIO1$MX$AnIn1$mag$f",
-                             "LLN0$BR$brcbStates01$RptEna", "LLN0$SP$SGCB$ActSG",
-                             "CSWI1$CO$Pos$SBOw$origin$orIdent", "PTOC1$SE$StrVal$setMag$f"})
+    for (const char *name :
+         {"LLN0", "LLN0$ST$Mod$stVal", "GGIO1$MX$AnIn1$mag$f", "LLN0$BR$brcbStates01$RptEna",
+          "LLN0$SP$SGCB$ActSG", "CSWI1$CO$Pos$SBOw$origin$orIdent", "PTOC1$SE$StrVal$setMag$f"})
         EXPECT_TRUE(found.contains(name)) << name;
 }
 
@@ -221,8 +230,8 @@ TEST_F(ForeignClientTest, ListsNamesPageAfterPage)
     const QJsonArray found = ask("variables", {{"domain", bay}}).toArray();
     EXPECT_GT(found.size(), 200);
     const auto expected = inDevice([](sim::Device &device) {
-        const auto page = device.model().variableNames(*device.model().findDomain("BAY1CTRL"), {},
-                                                       1000000);
+        const auto page =
+            device.model().variableNames(*device.model().findDomain("BAY1CTRL"), {}, 1000000);
         return page ? page->names : std::vector<std::string>();
     });
     ASSERT_EQ(static_cast<std::size_t>(found.size()), expected.size());
@@ -261,9 +270,8 @@ TEST_F(ForeignClientTest, AsksForTypes)
     row("GetVariableAccessAttributes");
     connect();
     for (const char *name : {"GGIO1$MX$AnIn1", "GGIO2", "CSWI1", "MHAI1", "LLN0"}) {
-        const auto type = inDevice([name](sim::Device &device) {
-            return device.model().find("BAY1CTRL", name).type();
-        });
+        const auto type = inDevice(
+            [name](sim::Device &device) { return device.model().find("BAY1CTRL", name).type(); });
         EXPECT_EQ(ask("type", item(name)), toJson(type)) << name;
     }
 }
@@ -281,13 +289,13 @@ TEST_F(ForeignClientTest, ReadsAListOfVariables)
 {
     row("Read: list of variables");
     connect();
-    const QJsonArray values
-        = ask("readmany", {{"domain", bay},
-                           {"items", texts({"GGIO1$MX$AnIn1$mag$f", "GGIO1$ST$Nothing",
-                                            "GGIO1$ST$Ind1$stVal", "CSWI1$ST$Pos$stVal"})}})
-              .toObject()
-              .value("array")
-              .toArray();
+    const QJsonArray values =
+        ask("readmany", {{"domain", bay},
+                         {"items", texts({"GGIO1$MX$AnIn1$mag$f", "GGIO1$ST$Nothing",
+                                          "GGIO1$ST$Ind1$stVal", "CSWI1$ST$Pos$stVal"})}})
+            .toObject()
+            .value("array")
+            .toArray();
     EXPECT_EQ(values, (QJsonArray{toJson(Data::float32(1.5F)), QJsonObject{{"error", 10}}, true,
                                   QJsonObject{{"bits", "01"}}}));
 }
@@ -367,13 +375,22 @@ TEST_F(ForeignClientTest, WritesOneVariableOfEveryType)
         {"tim", Data::utcTime({1614834367, 0x800000, 0x0A})},
         {"qual", Data::bitString(mms::BitString::fromText("1100000000001"))},
     };
+    std::string missing;
     for (const auto &[name, value] : values) {
         const std::string variable = std::string("GGIO2$SP$All$") + name;
         QJsonObject arguments = item(variable.c_str());
         arguments.insert("value", toJson(value));
-        EXPECT_TRUE(ask("write", arguments).toBool()) << name;
-        EXPECT_EQ(held(variable), toJson(value)) << name;
+        // A client need not be able to write every type.
+        if (m_client->ask("write", arguments).isUndefined() &&
+            m_client->failure().startsWith("the peer has no call for")) {
+            missing += missing.empty() ? name : std::string(", ") + name;
+            continue;
+        }
+        EXPECT_EQ(held(variable), toJson(value))
+            << name << ": " << m_client->failure().toStdString();
     }
+    if (!missing.empty())
+        worksBut("the peer has no call for " + missing);
     QJsonObject measured = item("GGIO1$MX$AnIn1$mag$f");
     measured.insert("value", toJson(Data::float32(7)));
     EXPECT_EQ(refusal("write", measured), "data access error 3");
@@ -383,12 +400,12 @@ TEST_F(ForeignClientTest, WritesAListOfVariables)
 {
     row("Write: list of variables");
     connect();
-    const QJsonValue results
-        = ask("writemany",
-              {{"domain", bay},
-               {"items", texts({"GGIO2$SP$All$i32", "GGIO1$MX$AnIn1$mag$f", "GGIO2$SP$All$f32"})},
-               {"values", QJsonArray{toJson(Data::integer(5)), toJson(Data::float32(5)),
-                                     toJson(Data::float32(6))}}});
+    const QJsonValue results =
+        ask("writemany",
+            {{"domain", bay},
+             {"items", texts({"GGIO2$SP$All$i32", "GGIO1$MX$AnIn1$mag$f", "GGIO2$SP$All$f32"})},
+             {"values", QJsonArray{toJson(Data::integer(5)), toJson(Data::float32(5)),
+                                   toJson(Data::float32(6))}}});
     EXPECT_EQ(results.toArray(), (QJsonArray{QJsonValue(), 3, QJsonValue()}));
     EXPECT_EQ(held("GGIO2$SP$All$i32"), toJson(Data::integer(5)));
     EXPECT_EQ(held("GGIO2$SP$All$f32"), toJson(Data::float32(6)));
@@ -398,10 +415,11 @@ TEST_F(ForeignClientTest, WritesANamedList)
 {
     row("Write: named variable list");
     connect();
-    const QJsonValue results = ask(
-        "writelist", {{"domain", bay},
-                      {"name", "LLN0$Settings"},
-                      {"values", QJsonArray{toJson(Data::integer(-7)), toJson(Data::float32(0.75F))}}});
+    const QJsonValue results =
+        ask("writelist",
+            {{"domain", bay},
+             {"name", "LLN0$Settings"},
+             {"values", QJsonArray{toJson(Data::integer(-7)), toJson(Data::float32(0.75F))}}});
     EXPECT_EQ(results.toArray(), (QJsonArray{QJsonValue(), QJsonValue()}));
     EXPECT_EQ(held("GGIO2$SP$All$i32"), toJson(Data::integer(-7)));
 }
@@ -435,8 +453,10 @@ TEST_F(ForeignClientTest, KeepsANamedListOfADomain)
               (QJsonArray{toJson(Data::float32(-2.25F)), true}));
     EXPECT_TRUE(ask("delete", name).toBool());
     EXPECT_FALSE(refusal("members", name).empty());
-    EXPECT_FALSE(
-        ask("members", {{"domain", bay}, {"name", "LLN0$States"}}).toObject().value("deletable").toBool());
+    EXPECT_FALSE(ask("members", {{"domain", bay}, {"name", "LLN0$States"}})
+                     .toObject()
+                     .value("deletable")
+                     .toBool());
 }
 
 TEST_F(ForeignClientTest, KeepsANamedListOfTheAssociation)
@@ -458,8 +478,8 @@ TEST_F(ForeignClientTest, IsRefusedANamedListOfTheDevice)
     row("Define, Get, DeleteNamedVariableList: VMD");
     connect();
     const QJsonArray members{texts({"BAY1CTRL", "GGIO1$MX$AnIn2$mag$f"})};
-    const std::string reason
-        = refusal("define", {{"scope", "vmd"}, {"name", "everyones"}, {"members", members}});
+    const std::string reason =
+        refusal("define", {{"scope", "vmd"}, {"name", "everyones"}, {"members", members}});
     EXPECT_FALSE(reason.empty());
     worksBut("our simulated IED refuses them (" + reason + ")");
 }
@@ -491,8 +511,9 @@ TEST_F(ForeignClientTest, OpensAFileAtAPosition)
     connect();
     putFile("record.dat", "0123456789");
     const QJsonObject file = ask("fileopen", {{"file", "record.dat"}, {"position", 7}}).toObject();
-    EXPECT_EQ(ask("fileread", {{"state", file.value("state")}}).toObject().value("octets").toString(),
-              "373839");
+    EXPECT_EQ(
+        ask("fileread", {{"state", file.value("state")}}).toObject().value("octets").toString(),
+        "373839");
 }
 
 TEST_F(ForeignClientTest, ListsFiles)
@@ -556,11 +577,11 @@ TEST_F(ForeignClientTest, ManyCallsAreOnTheWay)
 {
     row("Five outstanding calls");
     connect();
-    const QJsonValue values
-        = ask("readtogether", {{"domain", bay},
-                               {"items", texts({"GGIO1$MX$AnIn1$mag$f", "GGIO1$MX$AnIn2$mag$f",
-                                                "GGIO1$MX$AnIn3$mag$f", "GGIO2$SP$All$f32",
-                                                "GGIO1$ST$Ind1$stVal"})}});
+    const QJsonValue values = ask(
+        "readtogether",
+        {{"domain", bay},
+         {"items", texts({"GGIO1$MX$AnIn1$mag$f", "GGIO1$MX$AnIn2$mag$f", "GGIO1$MX$AnIn3$mag$f",
+                          "GGIO2$SP$All$f32", "GGIO1$ST$Ind1$stVal"})}});
     EXPECT_EQ(values.toArray(),
               (QJsonArray{toJson(Data::float32(1.5F)), toJson(Data::float32(-2.25F)),
                           toJson(Data::float32(1000000)), toJson(Data::float32(0.5F)), true}));
@@ -617,9 +638,9 @@ TEST_F(ForeignClientTest, GivesAPassword)
     m_options.server.association.link.stack.association.authentication = password;
     connect({{"password", "secret"}});
     EXPECT_EQ(ask("read", item("GGIO1$MX$AnIn1$mag$f")), toJson(Data::float32(1.5F)));
-    ForeignPeer wrong("peer_client.py", {});
+    ForeignPeer wrong(ForeignPeer::Role::Client);
     EXPECT_TRUE(wrong.ask("connect", {{"port", m_port}, {"password", "wrong"}}).isUndefined());
-    ForeignPeer none("peer_client.py", {});
+    ForeignPeer none(ForeignPeer::Role::Client);
     EXPECT_TRUE(none.ask("connect", {{"port", m_port}}).isUndefined());
 }
 
@@ -633,13 +654,13 @@ TEST_F(ForeignClientTest, CallsBySelectors)
     stack.transport.checkSelector = true;
     stack.session.checkSelector = true;
     stack.presentation.checkSelector = true;
-    connect({{"selectors", QJsonObject{{"presentation", "00000009"},
-                                       {"session", "0008"},
-                                       {"transport", "0007"}}},
-             {"title", "1.1.1.999"},
-             {"qualifier", 12}});
+    connect(
+        {{"selectors",
+          QJsonObject{{"presentation", "00000009"}, {"session", "0008"}, {"transport", "0007"}}},
+         {"title", "1.1.1.999"},
+         {"qualifier", 12}});
     EXPECT_EQ(ask("read", item("GGIO1$MX$AnIn1$mag$f")), toJson(Data::float32(1.5F)));
-    ForeignPeer other("peer_client.py", {});
+    ForeignPeer other(ForeignPeer::Role::Client);
     EXPECT_TRUE(other.ask("connect", {{"port", m_port}}).isUndefined());
 }
 
@@ -650,22 +671,20 @@ TEST_F(ForeignClientTest, SpeaksTls)
     const auto authority = certificates.authority("Utility");
     const auto server = certificates.issue(authority, "IED1");
     const auto client = certificates.issue(authority, "SCADA");
-    m_options.server.association.link.tls
-        = mmstest::TestCertificates::options(server, authority);
+    m_options.server.association.link.tls = mmstest::TestCertificates::options(server, authority);
     const auto identity = [&](const mmstest::TestCertificates::Identity &own,
                               const mmstest::TestCertificates::Identity &trusted) {
-        return QJsonObject{
-            {"certificate", QString::fromStdString(own.certificateFile)},
-            {"key", QString::fromStdString(own.keyFile)},
-            {"authority", QString::fromStdString(trusted.certificateFile)}};
+        return QJsonObject{{"certificate", QString::fromStdString(own.certificateFile)},
+                           {"key", QString::fromStdString(own.keyFile)},
+                           {"authority", QString::fromStdString(trusted.certificateFile)}};
     };
     connect({{"tls", identity(client, authority)}});
     EXPECT_EQ(ask("read", item("GGIO1$MX$AnIn1$mag$f")), toJson(Data::float32(1.5F)));
     const auto stranger = certificates.authority("Stranger");
     const auto intruder = certificates.issue(stranger, "SCADA");
-    ForeignPeer other("peer_client.py", {});
-    EXPECT_TRUE(
-        other.ask("connect", {{"port", m_port}, {"tls", identity(intruder, authority)}}).isUndefined());
+    ForeignPeer other(ForeignPeer::Role::Client);
+    EXPECT_TRUE(other.ask("connect", {{"port", m_port}, {"tls", identity(intruder, authority)}})
+                    .isUndefined());
 }
 
 TEST_F(ForeignClientTest, DiscoversTheDevice)
@@ -707,7 +726,7 @@ TEST_F(ForeignClientTest, HearsReportsOfAnUnbufferedBlock)
     EXPECT_EQ(second.value("reasons").toArray(), (QJsonArray{0, 0, 1}));
     EXPECT_EQ(second.value("values").toObject().value("array").toArray()[2],
               toJson(Data::float32(12.5F)));
-    ForeignPeer other("peer_client.py", {});
+    ForeignPeer other(ForeignPeer::Role::Client);
     ASSERT_TRUE(other.ask("connect", {{"port", m_port}}).toBool());
     EXPECT_TRUE(other.ask("enable", block).isUndefined());
     EXPECT_TRUE(ask("disable", block).toBool());
@@ -822,5 +841,5 @@ TEST_F(ForeignClientTest, DownloadsAndUploadsFiles)
 
 int main(int argc, char **argv)
 {
-    return interop::runMatrix(argc, argv, "foreign-client");
+    return interop::runMatrix(argc, argv, "client", "foreign-client");
 }

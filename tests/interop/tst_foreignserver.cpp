@@ -81,11 +81,26 @@ protected:
         return failureText(outcome);
     }
 
+    /// All names, page after page.
     std::vector<std::string> names(ObjectClass objectClass, Scope scope, std::string domain = {})
     {
-        return m_session
-            ->ask<GetNameListResponse>(GetNameListRequest{objectClass, scope, std::move(domain), {}})
-            .names;
+        return names(*m_session, objectClass, scope, std::move(domain));
+    }
+
+    static std::vector<std::string> names(Session &session, ObjectClass objectClass, Scope scope,
+                                          std::string domain)
+    {
+        std::vector<std::string> all;
+        for (bool more = true; more;) {
+            std::optional<std::string> after;
+            if (!all.empty())
+                after = all.back();
+            const auto page = session.ask<GetNameListResponse>(
+                GetNameListRequest{objectClass, scope, domain, after});
+            more = page.moreFollows && !page.names.empty();
+            all.insert(all.end(), page.names.begin(), page.names.end());
+        }
+        return all;
     }
 
     std::unique_ptr<ForeignServer> m_server;
@@ -175,9 +190,9 @@ TEST_F(ForeignServerTest, ListsTheVariablesOfADomain)
     const auto found = names(ObjectClass::NamedVariable, Scope::Domain, bay);
     const std::set<std::string> set(found.begin(), found.end());
     EXPECT_EQ(set.size(), found.size());
-    for (const char *name : {"LLN0", "LLN0$ST$Mod$stVal", "GGIO1$MX$AnIn1$mag$f",
-                             "LLN0$BR$brcbStates01$RptEna", "LLN0$SP$SGCB$ActSG",
-                             "CSWI1$CO$Pos$SBOw$origin$orIdent", "PTOC1$SE$StrVal$setMag$f"})
+    for (const char *name :
+         {"LLN0", "LLN0$ST$Mod$stVal", "GGIO1$MX$AnIn1$mag$f", "LLN0$BR$brcbStates01$RptEna",
+          "LLN0$SP$SGCB$ActSG", "CSWI1$CO$Pos$SBOw$origin$orIdent", "PTOC1$SE$StrVal$setMag$f"})
         EXPECT_TRUE(set.count(name)) << name;
 }
 
@@ -200,20 +215,18 @@ TEST_F(ForeignServerTest, ListsNamesPageAfterPage)
         all.insert(all.end(), page.names.begin(), page.names.end());
         more = page.moreFollows;
     }
-    EXPECT_GT(pages, 5);
+    EXPECT_GT(pages, 1);
     Session wide;
     ASSERT_TRUE(wide.connect(m_server->port()).ok());
-    EXPECT_EQ(all, wide.ask<GetNameListResponse>(GetNameListRequest{ObjectClass::NamedVariable,
-                                                                    Scope::Domain, bay, {}})
-                       .names);
+    EXPECT_EQ(all, names(wide, ObjectClass::NamedVariable, Scope::Domain, bay));
 }
 
 TEST_F(ForeignServerTest, ListsTheVariablesOfTheDevice)
 {
     row("GetNameList: variables of the VMD");
     connect();
-    const CallOutcome outcome
-        = m_session->call(GetNameListRequest{ObjectClass::NamedVariable, Scope::Vmd, {}, {}});
+    const CallOutcome outcome =
+        m_session->call(GetNameListRequest{ObjectClass::NamedVariable, Scope::Vmd, {}, {}});
     if (const auto *answer = answerOf<GetNameListResponse>(outcome)) {
         EXPECT_TRUE(answer->names.empty());
         worksBut("it has none");
@@ -299,7 +312,8 @@ TEST_F(ForeignServerTest, ReadsAListOfVariables)
         Data::unsignedInteger(4000000000),
         Data::float64(3.25),
         Data::visibleString("plain text"),
-        Data::mmsString("Gr\xc3\xbc\xc3\x9f" "e"),
+        Data::mmsString("Gr\xc3\xbc\xc3\x9f"
+                        "e"),
     };
     EXPECT_EQ(answer.results, expected);
 }
@@ -324,8 +338,8 @@ TEST_F(ForeignServerTest, ReadsANamedList)
     ASSERT_TRUE(answer.results[1].ok());
     EXPECT_EQ(answer.results[1].data().children().front(),
               Data::structure({Data::float32(-2.25F)}));
-    const auto specified = m_session->ask<ReadResponse>(
-        ReadRequest{true, ObjectName::inDomain(bay, "LLN0$Measured")});
+    const auto specified =
+        m_session->ask<ReadResponse>(ReadRequest{true, ObjectName::inDomain(bay, "LLN0$Measured")});
     EXPECT_EQ(specified.results, answer.results);
 }
 
@@ -408,9 +422,8 @@ TEST_F(ForeignServerTest, WritesANamedList)
 {
     row("Write: named variable list");
     connect();
-    const auto answer = m_session->ask<WriteResponse>(
-        WriteRequest{ObjectName::inDomain(bay, "LLN0$Settings"),
-                     {Data::integer(-7), Data::float32(0.75F)}});
+    const auto answer = m_session->ask<WriteResponse>(WriteRequest{
+        ObjectName::inDomain(bay, "LLN0$Settings"), {Data::integer(-7), Data::float32(0.75F)}});
     EXPECT_EQ(answer.results, (Errors{std::nullopt, std::nullopt}));
     EXPECT_EQ(held("BAY1CTRL/GGIO2.All.i32", "SP"), toJson(Data::integer(-7)));
     EXPECT_EQ(held("BAY1CTRL/GGIO2.All.f32", "SP"), toJson(Data::float32(0.75F)));
@@ -421,9 +434,8 @@ TEST_F(ForeignServerTest, WritesElementsOfAnArray)
     row("Write: elements of an array (alternate access)");
     connect();
     const auto answer = m_session->ask<WriteResponse>(
-        WriteRequest{std::vector<VariableAccess>{
-                         {ObjectName::inDomain(bay, "MHAI1$SP$HA$factors"),
-                          {AlternateAccess::ofElement(1)}}},
+        WriteRequest{std::vector<VariableAccess>{{ObjectName::inDomain(bay, "MHAI1$SP$HA$factors"),
+                                                  {AlternateAccess::ofElement(1)}}},
                      {Data::float32(9)}});
     EXPECT_EQ(answer.results, Errors{std::nullopt});
     EXPECT_EQ(m_session->read(bay, "MHAI1$SP$HA$factors"),
@@ -516,8 +528,8 @@ TEST_F(ForeignServerTest, OpensReadsAndClosesAFile)
         read.insert(read.end(), block.data.begin(), block.data.end());
         more = block.moreFollows;
     }
-    EXPECT_TRUE(std::equal(read.begin(), read.end(), bytesOf(content).begin(),
-                           bytesOf(content).end()));
+    EXPECT_TRUE(
+        std::equal(read.begin(), read.end(), bytesOf(content).begin(), bytesOf(content).end()));
     m_session->ask<FileCloseResponse>(FileCloseRequest{file.frsmId});
     EXPECT_FALSE(refusalOf(FileReadRequest{file.frsmId}).empty());
     EXPECT_FALSE(refusalOf(FileOpenRequest{{"nothing.dat"}, 0}).empty());
@@ -544,8 +556,8 @@ TEST_F(ForeignServerTest, ListsFiles)
     connect();
     putFile("one.txt", "1");
     putFile("two.txt", "22");
-    const auto answer
-        = m_session->ask<FileDirectoryResponse>(FileDirectoryRequest{std::nullopt, std::nullopt});
+    const auto answer =
+        m_session->ask<FileDirectoryResponse>(FileDirectoryRequest{std::nullopt, std::nullopt});
     std::map<std::string, std::uint32_t> sizes;
     for (const auto &entry : answer.entries) {
         ASSERT_EQ(entry.name.size(), 1U);
@@ -586,9 +598,12 @@ TEST_F(ForeignServerTest, RefusesJournals)
 {
     row("ReadJournal");
     connect();
-    const auto outcome = m_session->call(
-        ReadJournalRequest{ObjectName::inDomain(bay, "LLN0$GeneralLog"), BinaryTime{0, 1},
-                           BinaryTime{0, 30000}, {}, {}});
+    const auto outcome =
+        m_session->call(ReadJournalRequest{ObjectName::inDomain(bay, "LLN0$GeneralLog"),
+                                           BinaryTime{0, 1},
+                                           BinaryTime{0, 30000},
+                                           {},
+                                           {}});
     ASSERT_TRUE(std::holds_alternative<ServiceError>(outcome));
     EXPECT_EQ(std::get<ServiceError>(outcome).errorClass, ErrorClass::Access);
     peerLacksIt("the wheel has no storage for logs; " + failureText(outcome));
@@ -601,7 +616,8 @@ TEST_F(ForeignServerTest, ManyCallsAreOnTheWay)
     std::vector<mmstest::Awaited<CallOutcome>> outcomes(50);
     for (std::size_t i = 0; i < outcomes.size(); ++i) {
         m_session->association().call(
-            ReadRequest{false, list({i % 2 == 0 ? "GGIO1$MX$AnIn1$mag$f" : "GGIO1$MX$AnIn2$mag$f"})},
+            ReadRequest{false,
+                        list({i % 2 == 0 ? "GGIO1$MX$AnIn1$mag$f" : "GGIO1$MX$AnIn2$mag$f"})},
             std::chrono::seconds(10), outcomes[i].setter());
     }
     for (std::size_t i = 0; i < outcomes.size(); ++i) {
@@ -617,9 +633,8 @@ TEST_F(ForeignServerTest, SendsInformationReports)
     row("InformationReport");
     connect();
     const std::string block = "LLN0$RP$urcbMeasured01$";
-    const auto answer = m_session->ask<WriteResponse>(
-        WriteRequest{list({block + "RptEna", block + "GI"}),
-                     {Data::boolean(true), Data::boolean(true)}});
+    const auto answer = m_session->ask<WriteResponse>(WriteRequest{
+        list({block + "RptEna", block + "GI"}), {Data::boolean(true), Data::boolean(true)}});
     EXPECT_EQ(answer.results, (Errors{std::nullopt, std::nullopt}));
     const auto report = m_session->nextReport();
     ASSERT_TRUE(report.has_value());
@@ -636,8 +651,7 @@ TEST_F(ForeignServerTest, SendsInformationReports)
         const auto changed = m_session->nextReport();
         ASSERT_TRUE(changed.has_value());
         arrived = std::find(changed->results.begin(), changed->results.end(),
-                            AccessResult(Data::float32(17.5F)))
-            != changed->results.end();
+                            AccessResult(Data::float32(17.5F))) != changed->results.end();
     }
 }
 
@@ -717,9 +731,9 @@ TEST_F(ForeignServerTest, FetchesAFile)
                          const RequestService &request) {
         if (const auto *open = std::get_if<FileOpenRequest>(&request)) {
             asked = open->name;
-            association->respond(invokeId,
-                                 FileOpenResponse{7, {static_cast<std::uint32_t>(content.size()),
-                                                      std::nullopt}});
+            association->respond(
+                invokeId,
+                FileOpenResponse{7, {static_cast<std::uint32_t>(content.size()), std::nullopt}});
         } else if (std::holds_alternative<FileReadRequest>(request)) {
             const Bytes block = bytesOf(content).subspan(
                 static_cast<std::size_t>(position),
@@ -812,5 +826,5 @@ TEST_F(ForeignServerTest, IsDiscovered)
 
 int main(int argc, char **argv)
 {
-    return interop::runMatrix(argc, argv, "foreign-server");
+    return interop::runMatrix(argc, argv, "server", "foreign-server");
 }

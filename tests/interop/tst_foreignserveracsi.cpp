@@ -71,8 +71,7 @@ protected:
     {
         const std::string host = "127.0.0.1";
         const ClientOptions options;
-        auto client
-            = run(Client::connect(m_loop.executor(), host, m_server->port(), options));
+        auto client = run(Client::connect(m_loop.executor(), host, m_server->port(), options));
         EXPECT_TRUE(client.ok()) << client.error().message;
         return client.ok() ? *client : nullptr;
     }
@@ -160,8 +159,8 @@ protected:
 TEST_F(ForeignServerAcsiTest, KeepsDataSets)
 {
     row("Data sets");
-    const auto fixed
-        = run(dataSetDirectory(m_client, mms::ObjectName::inDomain("BAY1CTRL", "LLN0$Measured")));
+    const auto fixed =
+        run(dataSetDirectory(m_client, mms::ObjectName::inDomain("BAY1CTRL", "LLN0$Measured")));
     ASSERT_TRUE(fixed.ok()) << fixed.error().message;
     EXPECT_FALSE(fixed.value().deletable);
     EXPECT_EQ(fixed.value().members,
@@ -337,8 +336,8 @@ TEST_F(ForeignServerAcsiTest, SwitchesAndEditsSettingGroups)
     value = run(m_client->readOne(variable("BAY1CTRL/PTOC1$SE$OpDlTmms$setVal")));
     ASSERT_TRUE(value.ok()) << value.error().message;
     EXPECT_EQ(*value, Data::integer(300));
-    done = run(
-        m_client->writeOne(variable("BAY1CTRL/PTOC1$SE$OpDlTmms$setVal"), Data::integer(333)));
+    done =
+        run(m_client->writeOne(variable("BAY1CTRL/PTOC1$SE$OpDlTmms$setVal"), Data::integer(333)));
     EXPECT_TRUE(done.ok()) << done.error().message;
     done = run(confirmEdit(m_client, block));
     EXPECT_TRUE(done.ok()) << done.error().message;
@@ -351,5 +350,5 @@ TEST_F(ForeignServerAcsiTest, SwitchesAndEditsSettingGroups)
 
 int main(int argc, char **argv)
 {
-    return interop::runMatrix(argc, argv, "foreign-server-acsi");
+    return interop::runMatrix(argc, argv, "server", "foreign-server-acsi");
 }

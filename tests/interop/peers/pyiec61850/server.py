@@ -1,20 +1,24 @@
 # SPDX-License-Identifier: Apache-2.0
 """A server of the foreign stack, with the model of an SCL file.
 
-Usage: peer_server.py OPTIONS, a JSON object: {"scl": FILE, "port": N, "files": FOLDER,
+Usage: server.py OPTIONS, a JSON object: {"scl": FILE, "port": N, "files": FOLDER,
 optionally "password": TEXT, "tls": {...}}. Writes {"event": "ready"} when it serves; afterwards
 obeys one JSON command a line and answers each with one line. Controls that ask for the interlock
 check are refused.
 """
 import ctypes
 import json
+import pathlib
 import queue
 import sys
 import threading
 import xml.etree.ElementTree as xml
 
-from foreign import (BOOL, BYTE, DOUBLE, FLOAT, I32, I64, INT, POINTER, TEXT, U32, U64, commands,
-                     constants, from_json, function, say, tls_configuration, to_json, value_delete)
+sys.path.append(str(pathlib.Path(__file__).parent.parent))
+
+from foreign import (BOOL, BYTE, DOUBLE, FLOAT, I32, I64, INT, POINTER, TEXT, U32, U64, constants,
+                     from_json, function, tls_configuration, to_json, value_delete)
+from wire import commands, say
 
 SCL = "{http://www.iec.ch/61850/2003/SCL}"
 

@@ -6,9 +6,7 @@ module leaves out the handlers that the peers need.
 """
 import ctypes
 import glob
-import json
 import os
-import sys
 
 import pyiec61850
 import pyiec61850.pyiec61850 as constants
@@ -42,18 +40,6 @@ def text(octets):
 
 def text_at(address):
     return text(ctypes.cast(address, TEXT).value) if address else ""
-
-
-def say(message):
-    sys.stdout.write(json.dumps(message) + "\n")
-    sys.stdout.flush()
-
-
-def commands():
-    """The lines that come in; the end of the input ends the peer."""
-    for line in sys.stdin:
-        if line.strip():
-            yield json.loads(line)
 
 
 class LinkedList(ctypes.Structure):

@@ -5,13 +5,17 @@ Reads one JSON command a line, {"do": NAME, ...}, and answers each with one line
 or {"failure": REASON}. Reports are collected and handed out by "reports".
 """
 import ctypes
+import pathlib
 import sys
 import threading
 import time
 
-from foreign import (BOOL, BYTE, I32, INT, POINTER, TEXT, U32, U64, commands, constants, from_json,
-                     function, items, list_add, list_create, list_destroy_static, names, say, text,
-                     text_at, tls_configuration, to_json, value_delete)
+sys.path.append(str(pathlib.Path(__file__).parent.parent))
+
+from foreign import (BOOL, BYTE, I32, INT, POINTER, TEXT, U32, U64, constants, from_json, function, items,
+                     list_add, list_create, list_destroy_static, names, text, text_at,
+                     tls_configuration, to_json, value_delete)
+from wire import Refused, obey_forever, say
 
 MMS_ERRORS = {getattr(constants, name): name[len("MMS_ERROR_"):].lower().replace("_", "-")
               for name in dir(constants) if name.startswith("MMS_ERROR_")}
@@ -53,10 +57,6 @@ def selector(kind, octets):
     for i, octet in enumerate(data):
         result.value[i] = octet
     return result
-
-
-class Refused(Exception):
-    pass
 
 
 class Client:
@@ -692,14 +692,5 @@ class Client:
 POINTER_LIST = ctypes.POINTER(type(list_create().contents))
 
 
-def main():
-    client = Client()
-    say({"event": "ready"})
-    for command in commands():
-        try:
-            say({"result": getattr(client, "do_" + command["do"])(command)})
-        except Refused as refused:
-            say({"failure": str(refused)})
-
-
-main()
+say({"event": "ready"})
+obey_forever(Client())
