@@ -439,11 +439,8 @@ void DataCodec::readInto(Reader &reader, const Element &element, Data &data, Roo
                 data.m_size = 8;
                 std::memcpy(data.m_content.inside, content.data(), 8);
                 return;
+            // A value that is no object identifier must not cost the values beside it.
             case Data::Kind::ObjectIdentifier:
-                (void)reader.objectIdentifier(element);
-                if (!reader.failed())
-                    copyOctets();
-                return;
             case Data::Kind::OctetString:
             case Data::Kind::VisibleString:
             case Data::Kind::GeneralizedTime:
@@ -707,7 +704,10 @@ std::string toText(const Data &data)
         return toText(*data.toUtcTime());
     case Data::Kind::ObjectIdentifier: {
         std::string result;
-        for (const std::uint32_t number : data.toObjectIdentifier())
+        const std::vector<std::uint32_t> numbers = data.toObjectIdentifier();
+        if (numbers.empty())
+            return '\'' + hexText(data.octets()) + "'H";
+        for (const std::uint32_t number : numbers)
             result.append(result.empty() ? "" : ".").append(std::to_string(number));
         return result;
     }

@@ -121,6 +121,7 @@ public:
     mms::BitString bits() const;
     /// Whether bit @a index of a bit-string is set; a bit beyond the end is not.
     bool testBit(std::size_t index) const noexcept;
+    /// Empty for what is none, also where the octets of an object identifier are none.
     std::vector<std::uint32_t> toObjectIdentifier() const;
 
     friend bool operator==(const Data &left, const Data &right);

@@ -206,7 +206,20 @@ TEST(Data, WhatIsNoValueIsSaid)
     EXPECT_EQ(errorOf("83020000"), "A boolean has not one octet");
     EXPECT_EQ(errorOf("8500"), "An integer has no octet or more than 8");
     EXPECT_EQ(errorOf("8400"), "A bit string does not say how many of its bits count");
-    EXPECT_EQ(errorOf("8f0188"), "An object identifier ends within a number");
+}
+
+TEST(Data, OctetsThatAreNoObjectIdentifierCostNoOtherValue)
+{
+    const auto bytes = fromHex("8f0188 850105");
+    ber::Input input(bytes);
+    ber::Reader reader = input.reader();
+    const auto results = DataCodec::readResults(reader);
+    ASSERT_FALSE(input.failed());
+    ASSERT_EQ(results.size(), 2U);
+    ASSERT_TRUE(results[0].ok());
+    EXPECT_TRUE(results[0].data().toObjectIdentifier().empty());
+    EXPECT_EQ(toText(results[0].data()), "'88'H");
+    EXPECT_EQ(results[1].data().toInteger(), 5);
 }
 
 TEST(Data, AFailureInAListOfResultsIsNoValue)
