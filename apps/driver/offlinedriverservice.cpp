@@ -20,6 +20,15 @@ OperationResult notConnected(QString &error)
     return OperationNotConnected;
 }
 
+void markAsOffline(const QList<DAO *> &nodes)
+{
+    for (const DAO *node : nodes) {
+        if (node->attribute)
+            node->attribute->reference.prepend(OfflineDriverService::offlineMark());
+        markAsOffline(node->children);
+    }
+}
+
 } // namespace
 
 void OfflineDriverService::addDevice(long deviceNo, const QString &file, const QString &ied)
@@ -43,6 +52,12 @@ void OfflineDriverService::removeDevice(long deviceNo)
 QByteArray OfflineDriverService::offlineModel(PhysicalDevice &device)
 {
     device.offline = true;
+    for (const LogicalDevice *logicalDevice : qAsConst(device.logicalDevices)) {
+        for (const LogicalNode *node : qAsConst(logicalDevice->logicalNodes)) {
+            for (const DataObject *object : qAsConst(node->dataObjects))
+                markAsOffline(object->attributes);
+        }
+    }
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     device.toStream(stream);

@@ -42,7 +42,10 @@ void tst_OfflineDriverService::answersWithTheModelFromTheFileMarkedAsOffline()
     QCOMPARE(stream.status(), QDataStream::Ok);
     QVERIFY(device.offline);
     QCOMPARE(device.name, QStringLiteral("BAY1"));
-    QVERIFY(device.findTag(QStringLiteral("BAY1CTRL/Q0CSWI1$ST$Pos$stVal")));
+    // Values of a connected device with the same names are none of this one.
+    const QString reference = QStringLiteral("BAY1CTRL/Q0CSWI1$ST$Pos$stVal");
+    QVERIFY(!device.findTag(reference));
+    QVERIFY(device.findTag(OfflineDriverService::offlineMark() + reference));
 }
 
 void tst_OfflineDriverService::readsFilesFromResources()

@@ -4,6 +4,7 @@
 #include "workbench/simulateddevice.h"
 
 #include "driver/ieddriver.h"
+#include "driver/offlinedriverservice.h"
 
 #include <devicemodel/physicaldevice.h>
 
@@ -106,7 +107,8 @@ void tst_EmbeddedDriver::whatWasImportedIsWhatTheDriverAnswers()
     device.fromStream(stream);
     QVERIFY(device.offline);
     QCOMPARE(device.logicalDevices.size(), 1);
-    QVERIFY(device.findTag(QStringLiteral("BAY1LD0/LLN0$ST$Beh$q")) != nullptr);
+    QVERIFY(device.findTag(OfflineDriverService::offlineMark() +
+                           QStringLiteral("BAY1LD0/LLN0$ST$Beh$q")) != nullptr);
 
     driver.removeDevice(5);
     QVERIFY(driver.getIEDModel(5, model, error) != OperationSucceeded);
