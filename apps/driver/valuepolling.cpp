@@ -324,16 +324,14 @@ void DeviceConnection::tellCurrency(const ValueCurrency &currency)
     if (summary.stale > 0) {
         const QString time = localTime(summary.staleSince, since);
         const QString reference = text(acsi::toText(*summary.firstStale));
-        sentence =
-            summary.isSilent
-                ? Texts::tr("%n value(s) are not current since %1: the device does not answer "
-                            "when it is asked for %2.",
-                            nullptr, static_cast<int>(summary.stale))
-                      .arg(time, reference)
-                : Texts::tr("%n value(s) are not current since %1: %2 is not available for "
-                            "the moment.",
-                            nullptr, static_cast<int>(summary.stale))
-                      .arg(time, reference);
+        sentence = (summary.isSilent
+                        ? Texts::tr("Values that are not current since %1: %2. The device does "
+                                    "not answer when it is asked for %3.")
+                        : Texts::tr("Values that are not current since %1: %2. The device "
+                                    "cannot give %3 for the moment."))
+                       .arg(time)
+                       .arg(summary.stale)
+                       .arg(reference);
     }
     setProblem(staleValues, sentence);
     sentence.clear();
@@ -341,8 +339,9 @@ void DeviceConnection::tellCurrency(const ValueCurrency &currency)
         QStringList names;
         for (const acsi::Reference &reference : summary.refusedParts)
             names.append(text(acsi::toText(reference)));
-        sentence = Texts::tr("The device refuses %n value(s), which are not asked for again: %1.",
-                             nullptr, static_cast<int>(summary.refused))
+        sentence = Texts::tr("Values that the device refuses and that are not asked for again: "
+                             "%1 (%2).")
+                       .arg(summary.refused)
                        .arg(names.join(QStringLiteral(", ")));
     }
     setProblem(refusedValues, sentence);

@@ -279,8 +279,8 @@ void tst_OddValues::aNodeThatIsRefusedForOneValueIsReadInParts()
     QVERIFY(m_listener->waitForStatus(
         1, [](const DeviceStatus &status) { return status.refusedValues == 1; }));
     QCOMPARE(m_driver->status(1).reason,
-             QStringLiteral("The device refuses 1 value(s), which are not asked for again: "
-                            "ODDLD/GGIO2$ST$Ind1$t."));
+             QStringLiteral("Values that the device refuses and that are not asked for again: 1 ("
+                            "ODDLD/GGIO2$ST$Ind1$t)."));
     for (const char *item : {"GGIO2$ST$Ind1$stVal", "GGIO2$ST$Ind2$stVal"}) {
         ied.set("ODDLD", item, mms::Data::boolean(true));
         QVERIFY(m_listener->waitForValue(QStringLiteral("ODDLD/") + item, true));
