@@ -2,6 +2,153 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_US">
 <context>
+    <name>CallConfirmation</name>
+    <message>
+        <source>Select</source>
+        <translation>Anwählen</translation>
+    </message>
+    <message>
+        <source>Operate</source>
+        <translation>Schalten</translation>
+    </message>
+    <message>
+        <source>Write a value</source>
+        <translation>Wert schreiben</translation>
+    </message>
+    <message>
+        <source>Create a data set</source>
+        <translation>Datensatz anlegen</translation>
+    </message>
+    <message>
+        <source>Delete a data set</source>
+        <translation>Datensatz löschen</translation>
+    </message>
+    <message>
+        <source>Delete a file</source>
+        <translation>Datei löschen</translation>
+    </message>
+    <message>
+        <source>Send a file</source>
+        <translation>Datei senden</translation>
+    </message>
+    <message>
+        <source>Configure a report control block</source>
+        <translation>Report-Steuerblock konfigurieren</translation>
+    </message>
+    <message>
+        <source>Write settings</source>
+        <translation>Parameter schreiben</translation>
+    </message>
+    <message>
+        <source>Choose a setting group to edit</source>
+        <translation>Zu ändernden Parametersatz wählen</translation>
+    </message>
+    <message>
+        <source>Make a setting group the active one</source>
+        <translation>Parametersatz zum aktiven machen</translation>
+    </message>
+    <message>
+        <source>not supported</source>
+        <translation>nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>bay control</source>
+        <translation>Feldsteuerung</translation>
+    </message>
+    <message>
+        <source>station control</source>
+        <translation>Stationssteuerung</translation>
+    </message>
+    <message>
+        <source>remote control</source>
+        <translation>Fernsteuerung</translation>
+    </message>
+    <message>
+        <source>automatic bay</source>
+        <translation>Feldautomatik</translation>
+    </message>
+    <message>
+        <source>automatic station</source>
+        <translation>Stationsautomatik</translation>
+    </message>
+    <message>
+        <source>automatic remote</source>
+        <translation>Fernautomatik</translation>
+    </message>
+    <message>
+        <source>maintenance</source>
+        <translation>Wartung</translation>
+    </message>
+    <message>
+        <source>process</source>
+        <translation>Prozess</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>interlocking</source>
+        <translation>Verriegelung</translation>
+    </message>
+    <message>
+        <source>synchrocheck</source>
+        <translation>Synchrocheck</translation>
+    </message>
+    <message>
+        <source>synchrocheck and interlocking</source>
+        <translation>Synchrocheck und Verriegelung</translation>
+    </message>
+    <message>
+        <source>Device:</source>
+        <translation>Gerät:</translation>
+    </message>
+    <message>
+        <source>Logical device:</source>
+        <translation>Logisches Gerät:</translation>
+    </message>
+    <message>
+        <source>Object:</source>
+        <translation>Objekt:</translation>
+    </message>
+    <message>
+        <source>Value:</source>
+        <translation>Wert:</translation>
+    </message>
+    <message>
+        <source>Current value:</source>
+        <translation>Aktueller Wert:</translation>
+    </message>
+    <message>
+        <source>as selected</source>
+        <translation>wie angewählt</translation>
+    </message>
+    <message>
+        <source>Originator category:</source>
+        <translation>Kategorie des Auslösers:</translation>
+    </message>
+    <message>
+        <source>Checks:</source>
+        <translation>Prüfungen:</translation>
+    </message>
+    <message>
+        <source>Test:</source>
+        <translation>Test:</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>Nothing was sent, since it was not confirmed.</source>
+        <translation>Es wurde nichts gesendet, weil nicht bestätigt wurde.</translation>
+    </message>
+</context>
+<context>
     <name>ChangeJournal</name>
     <message>
         <source>The journal &quot;%1&quot; cannot be written: %2</source>
@@ -108,6 +255,17 @@
     </message>
 </context>
 <context>
+    <name>ConfirmationDialog</name>
+    <message>
+        <source>Confirm</source>
+        <translation>Bestätigen</translation>
+    </message>
+    <message>
+        <source>&amp;Send to the device</source>
+        <translation>An das Gerät &amp;senden</translation>
+    </message>
+</context>
+<context>
     <name>DeviceConfiguration</name>
     <message>
         <source>The %1 has %2 octets; at most %3 are possible.</source>
@@ -146,7 +304,7 @@
         <translation>„%1“ hat die falsche Form.</translation>
     </message>
     <message>
-        <source>The device's number must be from 1 to %1.</source>
+        <source>The device&apos;s number must be from 1 to %1.</source>
         <translation>Die Nummer des Geräts muss zwischen 1 und %1 liegen.</translation>
     </message>
     <message>
@@ -334,7 +492,7 @@
     </message>
     <message>
         <source>Selectors are octets in hexadecimal, for example 00 01. An AP title is an object identifier, for example 1.1.1.999.1; empty fields are not sent.</source>
-        <translation>Selektoren sind Oktette in hexadezimaler Schreibweise, zum Beispiel 00 01. Ein AP-Titel ist ein Objektbezeichner, zum Beispiel 1.1.1.999.1; leere Felder werden nicht gesendet.</translation>
+        <translation>Selektoren sind Oktette in hexadezimaler Schreibweise, zum Beispiel 00&#xa0;01. Ein AP-Titel ist ein Objektbezeichner, zum Beispiel 1.1.1.999.1; leere Felder werden nicht gesendet.</translation>
     </message>
     <message>
         <source>Security</source>
@@ -615,6 +773,22 @@ Verbindungen: %5</translation>
         <source>Connected: %1</source>
         <translation>Verbunden: %1</translation>
     </message>
+    <message>
+        <source>Connected, values not current: %1</source>
+        <translation>Verbunden, nicht aktuelle Werte: %1</translation>
+    </message>
+    <message>
+        <source>Away since %1</source>
+        <translation>Nicht erreichbar seit %1</translation>
+    </message>
+    <message>
+        <source>Values that are not current: %1, the oldest of %2</source>
+        <translation>Nicht aktuelle Werte: %1, der älteste von %2</translation>
+    </message>
+    <message>
+        <source>Values that the device denies: %1</source>
+        <translation>Werte, die das Gerät verweigert: %1</translation>
+    </message>
 </context>
 <context>
     <name>DeviceStore</name>
@@ -677,7 +851,7 @@ Verbindungen: %5</translation>
         <translation>Stellen Sie sicher, dass die nötigen Bibliotheken installiert sind und zur selben Version gehören.</translation>
     </message>
     <message>
-        <source>The plug-in's object does not have the promised interface.</source>
+        <source>The plug-in&apos;s object does not have the promised interface.</source>
         <translation>Das Objekt des Plug-ins hat nicht die zugesagte Schnittstelle.</translation>
     </message>
     <message>
@@ -1021,10 +1195,6 @@ Verbindungen: %5</translation>
         <translation>Ein Report des Geräts war nicht lesbar: %1</translation>
     </message>
     <message>
-        <source>A report of %1 has %2 members, but its data set has %3.</source>
-        <translation>Ein Report von %1 hat %2 Elemente, sein Datensatz aber %3.</translation>
-    </message>
-    <message>
         <source>The reports of %1 have no value for %2: %3.</source>
         <translation>Die Reports von %1 haben keinen Wert für %2: %3.</translation>
     </message>
@@ -1041,7 +1211,7 @@ Verbindungen: %5</translation>
         <translation>freigegeben</translation>
     </message>
     <message>
-        <source>The member %1 of the data set of %2 is no data of the device's model.</source>
+        <source>The member %1 of the data set of %2 is no data of the device&apos;s model.</source>
         <translation>Das Element %1 des Datensatzes von %2 gehört nicht zum Modell des Geräts.</translation>
     </message>
     <message>
@@ -1117,16 +1287,244 @@ Verbindungen: %5</translation>
         <translation>%1 hat keinen Parameter %2.</translation>
     </message>
     <message>
-        <source>The device has not answered.</source>
-        <translation>Das Gerät hat nicht geantwortet.</translation>
-    </message>
-    <message>
         <source>%1. The changes are not confirmed.</source>
         <translation>%1. Die Änderungen sind nicht bestätigt.</translation>
     </message>
     <message>
         <source>%1 has the setting groups 1 to %2; there is no group %3.</source>
         <translation>%1 hat die Parametersätze 1 bis %2; einen Parametersatz %3 gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Another window has selected the object since: select it here first.</source>
+        <translation>Ein anderes Fenster hat das Objekt inzwischen angewählt: Wählen Sie es zuerst hier an.</translation>
+    </message>
+    <message>
+        <source>The object was selected for different commands; which one is meant is not known: cancel the selection and select it again.</source>
+        <translation>Das Objekt wurde für verschiedene Befehle angewählt; welcher gemeint ist, ist nicht bekannt: Wählen Sie das Objekt ab und erneut an.</translation>
+    </message>
+    <message>
+        <source>%1 is no originator category; they go from 0 to 8.</source>
+        <translation>%1 ist keine Kategorie des Auslösers; die Kategorien gehen von 0 bis 8.</translation>
+    </message>
+    <message>
+        <source>category %1</source>
+        <translation>Kategorie %1</translation>
+    </message>
+    <message>
+        <source>It is not known whether the object was selected.</source>
+        <translation>Es ist nicht bekannt, ob das Objekt angewählt wurde.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the command was carried out; look at the position.</source>
+        <translation>Es ist nicht bekannt, ob der Befehl ausgeführt wurde; prüfen Sie die Stellung.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the command was cancelled; look at the position.</source>
+        <translation>Es ist nicht bekannt, ob der Befehl abgebrochen wurde; prüfen Sie die Stellung.</translation>
+    </message>
+    <message>
+        <source>%1 (told late)</source>
+        <translation>%1 (verspätet gemeldet)</translation>
+    </message>
+    <message>
+        <source>%1: the command that was not answered in time was carried out.</source>
+        <translation>%1: Der Befehl, der nicht rechtzeitig beantwortet wurde, wurde ausgeführt.</translation>
+    </message>
+    <message>
+        <source>An internal error of the driver ended the association.</source>
+        <translation>Ein interner Fehler des Treibers hat die Assoziation beendet.</translation>
+    </message>
+    <message>
+        <source>An internal error of the driver ended the association: %1.</source>
+        <translation>Ein interner Fehler des Treibers hat die Assoziation beendet: %1.</translation>
+    </message>
+    <message>
+        <source>The device has not answered earlier requests; the question whether it is there waits for a place behind them.</source>
+        <translation>Das Gerät hat frühere Anfragen nicht beantwortet; die Frage, ob es noch da ist, wartet hinter ihnen auf einen Platz.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has %2 characters; the name of a data set has at most %3.</source>
+        <translation>„%1“ hat %2 Zeichen; der Name eines Datensatzes hat höchstens %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no functional constraint, which each member of a data set needs.</source>
+        <translation>„%1“ nennt keinen Functional Constraint, den jedes Element eines Datensatzes braucht.</translation>
+    </message>
+    <message>
+        <source>This is not the device that the window was opened for: open it again.</source>
+        <translation>Das ist nicht das Gerät, für das das Fenster geöffnet wurde: Öffnen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The IED %1 of the file has no access point &quot;%2&quot; with a server.</source>
+        <translation>Das IED %1 der Datei hat keinen Zugangspunkt „%2“ mit einem Server.</translation>
+    </message>
+    <message>
+        <source>The device has none of the logical devices that the file describes for %1, such as %2.</source>
+        <translation>Das Gerät hat keines der logischen Geräte, die die Datei für %1 beschreibt, etwa %2.</translation>
+    </message>
+    <message>
+        <source>%1 stays open on the device, which has few open files: %2</source>
+        <translation>%1 bleibt auf dem Gerät geöffnet, das nur wenige offene Dateien zulässt: %2</translation>
+    </message>
+    <message>
+        <source>%1 comes too slowly: %2 octets so far, less than %3 in a second.</source>
+        <translation>%1 kommt zu langsam: bisher %2 Oktette, weniger als %3 in einer Sekunde.</translation>
+    </message>
+    <message>
+        <source>%1 events of the device were dropped, because they were not taken in time.</source>
+        <translation>%1 Ereignisse des Geräts wurden verworfen, weil sie nicht rechtzeitig abgeholt wurden.</translation>
+    </message>
+    <message>
+        <source>The configuration of the device reserves %1; that cannot be changed.</source>
+        <translation>Die Konfiguration des Geräts reserviert %1; das kann nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>%1 was not enabled in time.</source>
+        <translation>%1 wurde nicht rechtzeitig freigegeben.</translation>
+    </message>
+    <message>
+        <source>%1 It was left alone.</source>
+        <translation>%1 Daran wurde nichts geändert.</translation>
+    </message>
+    <message>
+        <source>without sequence numbers lost reports cannot be noticed</source>
+        <translation>ohne Folgenummern sind verlorene Reports nicht zu bemerken</translation>
+    </message>
+    <message>
+        <source>%1 could not be enabled, and this was left behind as it was written: %2.</source>
+        <translation>%1 konnte nicht freigegeben werden, und Folgendes blieb so stehen, wie es geschrieben wurde: %2.</translation>
+    </message>
+    <message>
+        <source>no longer waited for</source>
+        <translation>darauf wird nicht mehr gewartet</translation>
+    </message>
+    <message>
+        <source>member %1</source>
+        <translation>Element %1</translation>
+    </message>
+    <message>
+        <source>Reports of %1 are missing; its data set is read whole.</source>
+        <translation>Es fehlen Reports von %1; sein Datensatz wird ganz gelesen.</translation>
+    </message>
+    <message>
+        <source>Parts of a report of %1 are missing; its data set is read whole.</source>
+        <translation>Es fehlen Teile eines Reports von %1; sein Datensatz wird ganz gelesen.</translation>
+    </message>
+    <message>
+        <source>The device does not know the last entry of %1 any more: changes since then may be lost, or come again.</source>
+        <translation>Das Gerät kennt den letzten Eintrag von %1 nicht mehr: Änderungen seitdem können verloren sein oder noch einmal kommen.</translation>
+    </message>
+    <message>
+        <source>A report of %1 is of another data set than the block had when it was enabled.</source>
+        <translation>Ein Report von %1 gehört zu einem anderen Datensatz, als der Block bei seiner Freigabe hatte.</translation>
+    </message>
+    <message>
+        <source>A report of the device may be of %1 or of another block with other data; it was not taken.</source>
+        <translation>Ein Report des Geräts kann von %1 oder von einem anderen Block mit anderen Daten stammen; er wurde nicht übernommen.</translation>
+    </message>
+    <message>
+        <source>The device described %1 in parts only, so what the reports of %2 say of it cannot be understood; it is polled.</source>
+        <translation>Das Gerät hat %1 nur in Teilen beschrieben, daher ist nicht zu verstehen, was die Reports von %2 darüber sagen; der Wert wird abgefragt.</translation>
+    </message>
+    <message>
+        <source>The data set of %1 cannot be read: %2</source>
+        <translation>Der Datensatz von %1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>The data set of %1 has %2 members instead of %3.</source>
+        <translation>Der Datensatz von %1 hat %2 Elemente statt %3.</translation>
+    </message>
+    <message>
+        <source>The data set of %1 has no value for %2: %3.</source>
+        <translation>Der Datensatz von %1 hat keinen Wert für %2: %3.</translation>
+    </message>
+    <message>
+        <source>A value of %1 in the data set of %2 does not have the form of its type.</source>
+        <translation>Ein Wert von %1 im Datensatz von %2 hat nicht die Form seines Typs.</translation>
+    </message>
+    <message>
+        <source>%1 is enabled by another client, which the device does not name.</source>
+        <translation>%1 ist von einem anderen Client freigegeben, den das Gerät nicht nennt.</translation>
+    </message>
+    <message>
+        <source>%1 is reserved by another client, which the device does not name.</source>
+        <translation>%1 ist von einem anderen Client reserviert, den das Gerät nicht nennt.</translation>
+    </message>
+    <message>
+        <source>%1 is enabled by the client %2.</source>
+        <translation>%1 ist vom Client %2 freigegeben.</translation>
+    </message>
+    <message>
+        <source>%1 is reserved by the client %2.</source>
+        <translation>%1 ist vom Client %2 reserviert.</translation>
+    </message>
+    <message>
+        <source>%1 is enabled by another association of this computer (%2).</source>
+        <translation>%1 ist von einer anderen Assoziation dieses Rechners (%2) freigegeben.</translation>
+    </message>
+    <message>
+        <source>%1 is reserved by another association of this computer (%2).</source>
+        <translation>%1 ist von einer anderen Assoziation dieses Rechners (%2) reserviert.</translation>
+    </message>
+    <message>
+        <source>Another client is editing group %1 of %2.</source>
+        <translation>Ein anderer Client ändert gerade Parametersatz %1 von %2.</translation>
+    </message>
+    <message>
+        <source>Group %1 of %2 was chosen for editing in another window: select the group to edit first.</source>
+        <translation>Parametersatz %1 von %2 wurde in einem anderen Fenster zum Ändern gewählt: Wählen Sie zuerst den zu ändernden Parametersatz.</translation>
+    </message>
+    <message>
+        <source>The device has given up the edit of group %1 of %2: select the group to edit again.</source>
+        <translation>Das Gerät hat das Ändern von Parametersatz %1 von %2 aufgegeben: Wählen Sie den zu ändernden Parametersatz erneut.</translation>
+    </message>
+    <message>
+        <source>%1 has no settings that can be edited: the device describes none under SE.</source>
+        <translation>%1 hat keine Parameter, die geändert werden können: Das Gerät beschreibt keine unter SE.</translation>
+    </message>
+    <message>
+        <source>%1 It is not known whether the changes of group %2 were taken over: select the group and look.</source>
+        <translation>%1 Es ist nicht bekannt, ob die Änderungen von Parametersatz %2 übernommen wurden: Wählen Sie den Parametersatz und sehen Sie nach.</translation>
+    </message>
+    <message>
+        <source>These are the settings of the active group; choose the group to edit first.</source>
+        <translation>Dies sind die Parameter des aktiven Parametersatzes; wählen Sie zuerst den zu ändernden Parametersatz.</translation>
+    </message>
+    <message>
+        <source>%1 has accepted group %2, but group %3 is still the active one.</source>
+        <translation>%1 hat Parametersatz %2 angenommen, aber aktiv ist immer noch Parametersatz %3.</translation>
+    </message>
+    <message>
+        <source>%1 Group %2 is the active one.</source>
+        <translation>%1 Aktiv ist Parametersatz %2.</translation>
+    </message>
+    <message>
+        <source>%1 It is not known whether group %2 became active: look at the active group.</source>
+        <translation>%1 Es ist nicht bekannt, ob Parametersatz %2 aktiv geworden ist: Sehen Sie nach, welcher Parametersatz aktiv ist.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 It is not known whether the device is editing group %2: select the group to edit again.</source>
+        <translation>%1 Es ist nicht bekannt, ob auf dem Gerät Parametersatz %2 zum Ändern gewählt ist: Wählen Sie den zu ändernden Parametersatz erneut.</translation>
+    </message>
+    <message>
+        <source>%1; it is not known whether the setting was written.</source>
+        <translation>%1; es ist nicht bekannt, ob der Parameter geschrieben wurde.</translation>
+    </message>
+    <message>
+        <source>Values that are not current since %1: %2. The device does not answer when it is asked for %3.</source>
+        <translation>Nicht aktuelle Werte seit %1: %2. Das Gerät antwortet nicht, wenn es nach %3 gefragt wird.</translation>
+    </message>
+    <message>
+        <source>Values that are not current since %1: %2. The device cannot give %3 for the moment.</source>
+        <translation>Nicht aktuelle Werte seit %1: %2. Das Gerät kann %3 im Moment nicht geben.</translation>
+    </message>
+    <message>
+        <source>Values that the device refuses and that are not asked for again: %1 (%2).</source>
+        <translation>Werte, die das Gerät verweigert und nach denen nicht mehr gefragt wird: %1 (%2).</translation>
     </message>
 </context>
 <context>
@@ -1534,6 +1932,30 @@ Apache License 2.0</translation>
         <source>The SCL file of this device was only compared with the device. Open it as an SCL file to see its findings.</source>
         <translation>Die SCL-Datei dieses Geräts wurde nur mit dem Gerät verglichen. Ihre Befunde zeigt „SCL-Datei öffnen“.</translation>
     </message>
+    <message>
+        <source>&amp;Confirm</source>
+        <translation>Bestäti&amp;gen</translation>
+    </message>
+    <message>
+        <source>&amp;Commands before they are sent</source>
+        <translation>&amp;Befehle vor dem Senden</translation>
+    </message>
+    <message>
+        <source>&amp;Everything that changes a device</source>
+        <translation>&amp;Alles, was auf einem Gerät etwas ändert</translation>
+    </message>
+    <message>
+        <source>&amp;Nothing</source>
+        <translation>&amp;Nichts</translation>
+    </message>
+    <message>
+        <source>%1 is away since %2</source>
+        <translation>%1 ist seit %2 nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>Devices away: %1, the first since %2</source>
+        <translation>Nicht erreichbare Geräte: %1, das erste seit %2</translation>
+    </message>
 </context>
 <context>
     <name>OfflineDriverService</name>
@@ -1734,6 +2156,14 @@ Apache License 2.0</translation>
         <source>A value of type %1 cannot be written as a whole.</source>
         <translation>Ein Wert vom Typ %1 kann nicht als Ganzes geschrieben werden.</translation>
     </message>
+    <message>
+        <source>The text of %1 is longer than can be shown, so it can only be read.</source>
+        <translation>Der Text von %1 ist länger, als angezeigt werden kann; er kann daher nur gelesen werden.</translation>
+    </message>
+    <message>
+        <source>%1 holds octets that are no text, so it can only be read.</source>
+        <translation>%1 enthält Oktette, die kein Text sind, und kann daher nur gelesen werden.</translation>
+    </message>
 </context>
 <context>
     <name>Workbench</name>
@@ -1752,6 +2182,14 @@ Apache License 2.0</translation>
     <message>
         <source>Loading was cancelled.</source>
         <translation>Das Laden wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Another workbench uses the list of devices in &quot;%1&quot;: what is changed in this one is not kept.</source>
+        <translation>Eine andere Workbench verwendet die Geräteliste in „%1“: Was in dieser hier geändert wird, bleibt nicht erhalten.</translation>
+    </message>
+    <message>
+        <source>The list of devices in &quot;%1&quot; cannot be locked: what is changed is not kept.</source>
+        <translation>Die Geräteliste in „%1“ kann nicht gesperrt werden: Was geändert wird, bleibt nicht erhalten.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,153 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es_ES" sourcelanguage="en_US">
 <context>
+    <name>CallConfirmation</name>
+    <message>
+        <source>Select</source>
+        <translation>Seleccionar</translation>
+    </message>
+    <message>
+        <source>Operate</source>
+        <translation>Ejecutar</translation>
+    </message>
+    <message>
+        <source>Write a value</source>
+        <translation>Escribir un valor</translation>
+    </message>
+    <message>
+        <source>Create a data set</source>
+        <translation>Crear un conjunto de datos</translation>
+    </message>
+    <message>
+        <source>Delete a data set</source>
+        <translation>Eliminar un conjunto de datos</translation>
+    </message>
+    <message>
+        <source>Delete a file</source>
+        <translation>Eliminar un archivo</translation>
+    </message>
+    <message>
+        <source>Send a file</source>
+        <translation>Enviar un archivo</translation>
+    </message>
+    <message>
+        <source>Configure a report control block</source>
+        <translation>Configurar un bloque de control de informes</translation>
+    </message>
+    <message>
+        <source>Write settings</source>
+        <translation>Escribir ajustes</translation>
+    </message>
+    <message>
+        <source>Choose a setting group to edit</source>
+        <translation>Elegir un grupo de ajustes para editarlo</translation>
+    </message>
+    <message>
+        <source>Make a setting group the active one</source>
+        <translation>Hacer activo un grupo de ajustes</translation>
+    </message>
+    <message>
+        <source>not supported</source>
+        <translation>no admitida</translation>
+    </message>
+    <message>
+        <source>bay control</source>
+        <translation>mando de bahía</translation>
+    </message>
+    <message>
+        <source>station control</source>
+        <translation>mando de subestación</translation>
+    </message>
+    <message>
+        <source>remote control</source>
+        <translation>mando remoto</translation>
+    </message>
+    <message>
+        <source>automatic bay</source>
+        <translation>automático de bahía</translation>
+    </message>
+    <message>
+        <source>automatic station</source>
+        <translation>automático de subestación</translation>
+    </message>
+    <message>
+        <source>automatic remote</source>
+        <translation>automático remoto</translation>
+    </message>
+    <message>
+        <source>maintenance</source>
+        <translation>mantenimiento</translation>
+    </message>
+    <message>
+        <source>process</source>
+        <translation>proceso</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguna</translation>
+    </message>
+    <message>
+        <source>interlocking</source>
+        <translation>enclavamiento</translation>
+    </message>
+    <message>
+        <source>synchrocheck</source>
+        <translation>comprobación de sincronismo</translation>
+    </message>
+    <message>
+        <source>synchrocheck and interlocking</source>
+        <translation>comprobación de sincronismo y enclavamiento</translation>
+    </message>
+    <message>
+        <source>Device:</source>
+        <translation>Dispositivo:</translation>
+    </message>
+    <message>
+        <source>Logical device:</source>
+        <translation>Dispositivo lógico:</translation>
+    </message>
+    <message>
+        <source>Object:</source>
+        <translation>Objeto:</translation>
+    </message>
+    <message>
+        <source>Value:</source>
+        <translation>Valor:</translation>
+    </message>
+    <message>
+        <source>Current value:</source>
+        <translation>Valor actual:</translation>
+    </message>
+    <message>
+        <source>as selected</source>
+        <translation>como se seleccionó</translation>
+    </message>
+    <message>
+        <source>Originator category:</source>
+        <translation>Categoría del originador:</translation>
+    </message>
+    <message>
+        <source>Checks:</source>
+        <translation>Comprobaciones:</translation>
+    </message>
+    <message>
+        <source>Test:</source>
+        <translation>Prueba:</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sí</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>Nothing was sent, since it was not confirmed.</source>
+        <translation>No se ha enviado nada, porque no se confirmó.</translation>
+    </message>
+</context>
+<context>
     <name>ChangeJournal</name>
     <message>
         <source>The journal &quot;%1&quot; cannot be written: %2</source>
@@ -108,6 +255,17 @@
     </message>
 </context>
 <context>
+    <name>ConfirmationDialog</name>
+    <message>
+        <source>Confirm</source>
+        <translation>Confirmar</translation>
+    </message>
+    <message>
+        <source>&amp;Send to the device</source>
+        <translation>&amp;Enviar al dispositivo</translation>
+    </message>
+</context>
+<context>
     <name>DeviceConfiguration</name>
     <message>
         <source>The %1 has %2 octets; at most %3 are possible.</source>
@@ -146,7 +304,7 @@
         <translation>«%1» tiene una forma incorrecta.</translation>
     </message>
     <message>
-        <source>The device's number must be from 1 to %1.</source>
+        <source>The device&apos;s number must be from 1 to %1.</source>
         <translation>El número del dispositivo debe estar entre 1 y %1.</translation>
     </message>
     <message>
@@ -334,7 +492,7 @@
     </message>
     <message>
         <source>Selectors are octets in hexadecimal, for example 00 01. An AP title is an object identifier, for example 1.1.1.999.1; empty fields are not sent.</source>
-        <translation>Los selectores son octetos en hexadecimal, por ejemplo 00 01. Un título AP es un identificador de objeto, por ejemplo 1.1.1.999.1; los campos vacíos no se envían.</translation>
+        <translation>Los selectores son octetos en hexadecimal, por ejemplo 00&#xa0;01. Un título AP es un identificador de objeto, por ejemplo 1.1.1.999.1; los campos vacíos no se envían.</translation>
     </message>
     <message>
         <source>Security</source>
@@ -615,6 +773,22 @@ Conexiones: %5</translation>
         <source>Connected: %1</source>
         <translation>Conectado: %1</translation>
     </message>
+    <message>
+        <source>Connected, values not current: %1</source>
+        <translation>Conectado, valores no actuales: %1</translation>
+    </message>
+    <message>
+        <source>Away since %1</source>
+        <translation>Sin contacto desde %1</translation>
+    </message>
+    <message>
+        <source>Values that are not current: %1, the oldest of %2</source>
+        <translation>Valores no actuales: %1, el más antiguo de %2</translation>
+    </message>
+    <message>
+        <source>Values that the device denies: %1</source>
+        <translation>Valores que el dispositivo deniega: %1</translation>
+    </message>
 </context>
 <context>
     <name>DeviceStore</name>
@@ -677,7 +851,7 @@ Conexiones: %5</translation>
         <translation>Compruebe que las bibliotecas que necesita están instaladas y son de la misma versión.</translation>
     </message>
     <message>
-        <source>The plug-in's object does not have the promised interface.</source>
+        <source>The plug-in&apos;s object does not have the promised interface.</source>
         <translation>El objeto del complemento no tiene la interfaz prometida.</translation>
     </message>
     <message>
@@ -1021,10 +1195,6 @@ Conexiones: %5</translation>
         <translation>No se ha podido leer un informe del dispositivo: %1</translation>
     </message>
     <message>
-        <source>A report of %1 has %2 members, but its data set has %3.</source>
-        <translation>Un informe de %1 tiene %2 miembros, pero su conjunto de datos tiene %3.</translation>
-    </message>
-    <message>
         <source>The reports of %1 have no value for %2: %3.</source>
         <translation>Los informes de %1 no traen valor para %2: %3.</translation>
     </message>
@@ -1041,7 +1211,7 @@ Conexiones: %5</translation>
         <translation>habilitado</translation>
     </message>
     <message>
-        <source>The member %1 of the data set of %2 is no data of the device's model.</source>
+        <source>The member %1 of the data set of %2 is no data of the device&apos;s model.</source>
         <translation>El miembro %1 del conjunto de datos de %2 no es un dato del modelo del dispositivo.</translation>
     </message>
     <message>
@@ -1117,16 +1287,244 @@ Conexiones: %5</translation>
         <translation>%1 no tiene el ajuste %2.</translation>
     </message>
     <message>
-        <source>The device has not answered.</source>
-        <translation>El dispositivo no ha respondido.</translation>
-    </message>
-    <message>
         <source>%1. The changes are not confirmed.</source>
         <translation>%1. Los cambios no se han confirmado.</translation>
     </message>
     <message>
         <source>%1 has the setting groups 1 to %2; there is no group %3.</source>
         <translation>%1 tiene los grupos de ajustes 1 a %2; no hay grupo %3.</translation>
+    </message>
+    <message>
+        <source>Another window has selected the object since: select it here first.</source>
+        <translation>Otra ventana ha seleccionado el objeto entretanto: selecciónelo primero aquí.</translation>
+    </message>
+    <message>
+        <source>The object was selected for different commands; which one is meant is not known: cancel the selection and select it again.</source>
+        <translation>El objeto se seleccionó para mandos distintos; no se sabe cuál se quiere: cancele la selección y selecciónelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>%1 is no originator category; they go from 0 to 8.</source>
+        <translation>%1 no es una categoría del originador; las categorías van de 0 a 8.</translation>
+    </message>
+    <message>
+        <source>category %1</source>
+        <translation>categoría %1</translation>
+    </message>
+    <message>
+        <source>It is not known whether the object was selected.</source>
+        <translation>No se sabe si el objeto se seleccionó.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the command was carried out; look at the position.</source>
+        <translation>No se sabe si el mando se ejecutó; mire la posición.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the command was cancelled; look at the position.</source>
+        <translation>No se sabe si el mando se canceló; mire la posición.</translation>
+    </message>
+    <message>
+        <source>%1 (told late)</source>
+        <translation>%1 (comunicado con retraso)</translation>
+    </message>
+    <message>
+        <source>%1: the command that was not answered in time was carried out.</source>
+        <translation>%1: el mando que no se respondió a tiempo se ha ejecutado.</translation>
+    </message>
+    <message>
+        <source>An internal error of the driver ended the association.</source>
+        <translation>Un error interno del controlador ha terminado la asociación.</translation>
+    </message>
+    <message>
+        <source>An internal error of the driver ended the association: %1.</source>
+        <translation>Un error interno del controlador ha terminado la asociación: %1.</translation>
+    </message>
+    <message>
+        <source>The device has not answered earlier requests; the question whether it is there waits for a place behind them.</source>
+        <translation>El dispositivo no ha respondido a peticiones anteriores; la pregunta de si está presente espera un lugar detrás de ellas.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has %2 characters; the name of a data set has at most %3.</source>
+        <translation>«%1» tiene %2 caracteres; el nombre de un conjunto de datos tiene como máximo %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no functional constraint, which each member of a data set needs.</source>
+        <translation>«%1» no nombra ninguna restricción funcional, que cada miembro de un conjunto de datos necesita.</translation>
+    </message>
+    <message>
+        <source>This is not the device that the window was opened for: open it again.</source>
+        <translation>Este no es el dispositivo para el que se abrió la ventana: ábrala de nuevo.</translation>
+    </message>
+    <message>
+        <source>The IED %1 of the file has no access point &quot;%2&quot; with a server.</source>
+        <translation>El IED %1 del archivo no tiene ningún punto de acceso «%2» con un servidor.</translation>
+    </message>
+    <message>
+        <source>The device has none of the logical devices that the file describes for %1, such as %2.</source>
+        <translation>El dispositivo no tiene ninguno de los dispositivos lógicos que el archivo describe para %1, por ejemplo %2.</translation>
+    </message>
+    <message>
+        <source>%1 stays open on the device, which has few open files: %2</source>
+        <translation>%1 queda abierto en el dispositivo, que admite pocos archivos abiertos: %2</translation>
+    </message>
+    <message>
+        <source>%1 comes too slowly: %2 octets so far, less than %3 in a second.</source>
+        <translation>%1 llega demasiado despacio: %2 octetos hasta ahora, menos de %3 por segundo.</translation>
+    </message>
+    <message>
+        <source>%1 events of the device were dropped, because they were not taken in time.</source>
+        <translation>Se han descartado %1 eventos del dispositivo, porque no se recogieron a tiempo.</translation>
+    </message>
+    <message>
+        <source>The configuration of the device reserves %1; that cannot be changed.</source>
+        <translation>La configuración del dispositivo reserva %1; eso no se puede cambiar.</translation>
+    </message>
+    <message>
+        <source>%1 was not enabled in time.</source>
+        <translation>%1 no se ha habilitado a tiempo.</translation>
+    </message>
+    <message>
+        <source>%1 It was left alone.</source>
+        <translation>%1 Se ha dejado como estaba.</translation>
+    </message>
+    <message>
+        <source>without sequence numbers lost reports cannot be noticed</source>
+        <translation>sin números de secuencia no se pueden notar los informes perdidos</translation>
+    </message>
+    <message>
+        <source>%1 could not be enabled, and this was left behind as it was written: %2.</source>
+        <translation>%1 no se ha podido habilitar y esto ha quedado tal como se escribió: %2.</translation>
+    </message>
+    <message>
+        <source>no longer waited for</source>
+        <translation>ya no se espera</translation>
+    </message>
+    <message>
+        <source>member %1</source>
+        <translation>miembro %1</translation>
+    </message>
+    <message>
+        <source>Reports of %1 are missing; its data set is read whole.</source>
+        <translation>Faltan informes de %1; su conjunto de datos se lee entero.</translation>
+    </message>
+    <message>
+        <source>Parts of a report of %1 are missing; its data set is read whole.</source>
+        <translation>Faltan partes de un informe de %1; su conjunto de datos se lee entero.</translation>
+    </message>
+    <message>
+        <source>The device does not know the last entry of %1 any more: changes since then may be lost, or come again.</source>
+        <translation>El dispositivo ya no conoce la última entrada de %1: los cambios desde entonces pueden haberse perdido o llegar otra vez.</translation>
+    </message>
+    <message>
+        <source>A report of %1 is of another data set than the block had when it was enabled.</source>
+        <translation>Un informe de %1 es de otro conjunto de datos que el que tenía el bloque al habilitarse.</translation>
+    </message>
+    <message>
+        <source>A report of the device may be of %1 or of another block with other data; it was not taken.</source>
+        <translation>Un informe del dispositivo puede ser de %1 o de otro bloque con otros datos; no se ha tomado.</translation>
+    </message>
+    <message>
+        <source>The device described %1 in parts only, so what the reports of %2 say of it cannot be understood; it is polled.</source>
+        <translation>El dispositivo ha descrito %1 solo en parte, así que no se puede entender lo que dicen de ello los informes de %2; se lee por sondeo.</translation>
+    </message>
+    <message>
+        <source>The data set of %1 cannot be read: %2</source>
+        <translation>No se puede leer el conjunto de datos de %1: %2</translation>
+    </message>
+    <message>
+        <source>The data set of %1 has %2 members instead of %3.</source>
+        <translation>El conjunto de datos de %1 tiene %2 miembros en vez de %3.</translation>
+    </message>
+    <message>
+        <source>The data set of %1 has no value for %2: %3.</source>
+        <translation>El conjunto de datos de %1 no trae valor para %2: %3.</translation>
+    </message>
+    <message>
+        <source>A value of %1 in the data set of %2 does not have the form of its type.</source>
+        <translation>Un valor de %1 en el conjunto de datos de %2 no tiene la forma de su tipo.</translation>
+    </message>
+    <message>
+        <source>%1 is enabled by another client, which the device does not name.</source>
+        <translation>%1 está habilitado por otro cliente, que el dispositivo no nombra.</translation>
+    </message>
+    <message>
+        <source>%1 is reserved by another client, which the device does not name.</source>
+        <translation>%1 está reservado por otro cliente, que el dispositivo no nombra.</translation>
+    </message>
+    <message>
+        <source>%1 is enabled by the client %2.</source>
+        <translation>%1 está habilitado por el cliente %2.</translation>
+    </message>
+    <message>
+        <source>%1 is reserved by the client %2.</source>
+        <translation>%1 está reservado por el cliente %2.</translation>
+    </message>
+    <message>
+        <source>%1 is enabled by another association of this computer (%2).</source>
+        <translation>%1 está habilitado por otra asociación de este equipo (%2).</translation>
+    </message>
+    <message>
+        <source>%1 is reserved by another association of this computer (%2).</source>
+        <translation>%1 está reservado por otra asociación de este equipo (%2).</translation>
+    </message>
+    <message>
+        <source>Another client is editing group %1 of %2.</source>
+        <translation>Otro cliente está editando el grupo %1 de %2.</translation>
+    </message>
+    <message>
+        <source>Group %1 of %2 was chosen for editing in another window: select the group to edit first.</source>
+        <translation>El grupo %1 de %2 se eligió para editarlo en otra ventana: seleccione primero el grupo en edición.</translation>
+    </message>
+    <message>
+        <source>The device has given up the edit of group %1 of %2: select the group to edit again.</source>
+        <translation>El dispositivo ha abandonado la edición del grupo %1 de %2: seleccione de nuevo el grupo en edición.</translation>
+    </message>
+    <message>
+        <source>%1 has no settings that can be edited: the device describes none under SE.</source>
+        <translation>%1 no tiene ajustes que se puedan editar: el dispositivo no describe ninguno bajo SE.</translation>
+    </message>
+    <message>
+        <source>%1 It is not known whether the changes of group %2 were taken over: select the group and look.</source>
+        <translation>%1 No se sabe si los cambios del grupo %2 se han aplicado: seleccione el grupo y compruébelo.</translation>
+    </message>
+    <message>
+        <source>These are the settings of the active group; choose the group to edit first.</source>
+        <translation>Estos son los ajustes del grupo activo; elija primero el grupo en edición.</translation>
+    </message>
+    <message>
+        <source>%1 has accepted group %2, but group %3 is still the active one.</source>
+        <translation>%1 ha aceptado el grupo %2, pero el grupo %3 sigue siendo el activo.</translation>
+    </message>
+    <message>
+        <source>%1 Group %2 is the active one.</source>
+        <translation>%1 El grupo %2 es el activo.</translation>
+    </message>
+    <message>
+        <source>%1 It is not known whether group %2 became active: look at the active group.</source>
+        <translation>%1 No se sabe si el grupo %2 ha pasado a ser el activo: mire el grupo activo.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 It is not known whether the device is editing group %2: select the group to edit again.</source>
+        <translation>%1 No se sabe si el grupo %2 está en edición en el dispositivo: seleccione de nuevo el grupo en edición.</translation>
+    </message>
+    <message>
+        <source>%1; it is not known whether the setting was written.</source>
+        <translation>%1; no se sabe si el ajuste se escribió.</translation>
+    </message>
+    <message>
+        <source>Values that are not current since %1: %2. The device does not answer when it is asked for %3.</source>
+        <translation>Valores no actuales desde %1: %2. El dispositivo no responde cuando se le pide %3.</translation>
+    </message>
+    <message>
+        <source>Values that are not current since %1: %2. The device cannot give %3 for the moment.</source>
+        <translation>Valores no actuales desde %1: %2. El dispositivo no puede dar %3 por el momento.</translation>
+    </message>
+    <message>
+        <source>Values that the device refuses and that are not asked for again: %1 (%2).</source>
+        <translation>Valores que el dispositivo rechaza y que no se vuelven a pedir: %1 (%2).</translation>
     </message>
 </context>
 <context>
@@ -1534,6 +1932,30 @@ Apache License 2.0</translation>
         <source>The SCL file of this device was only compared with the device. Open it as an SCL file to see its findings.</source>
         <translation>El archivo SCL de este dispositivo solo se ha comparado con el dispositivo. Ábralo como archivo SCL para ver sus observaciones.</translation>
     </message>
+    <message>
+        <source>&amp;Confirm</source>
+        <translation>C&amp;onfirmar</translation>
+    </message>
+    <message>
+        <source>&amp;Commands before they are sent</source>
+        <translation>&amp;Mandos antes de enviarlos</translation>
+    </message>
+    <message>
+        <source>&amp;Everything that changes a device</source>
+        <translation>&amp;Todo lo que cambie algo en un dispositivo</translation>
+    </message>
+    <message>
+        <source>&amp;Nothing</source>
+        <translation>&amp;Nada</translation>
+    </message>
+    <message>
+        <source>%1 is away since %2</source>
+        <translation>%1 está sin contacto desde %2</translation>
+    </message>
+    <message>
+        <source>Devices away: %1, the first since %2</source>
+        <translation>Dispositivos sin contacto: %1, el primero desde %2</translation>
+    </message>
 </context>
 <context>
     <name>OfflineDriverService</name>
@@ -1734,6 +2156,14 @@ Apache License 2.0</translation>
         <source>A value of type %1 cannot be written as a whole.</source>
         <translation>Un valor de tipo %1 no se puede escribir entero.</translation>
     </message>
+    <message>
+        <source>The text of %1 is longer than can be shown, so it can only be read.</source>
+        <translation>El texto de %1 es más largo de lo que se puede mostrar, así que solo se puede leer.</translation>
+    </message>
+    <message>
+        <source>%1 holds octets that are no text, so it can only be read.</source>
+        <translation>%1 contiene octetos que no son texto, así que solo se puede leer.</translation>
+    </message>
 </context>
 <context>
     <name>Workbench</name>
@@ -1752,6 +2182,14 @@ Apache License 2.0</translation>
     <message>
         <source>Loading was cancelled.</source>
         <translation>Se ha cancelado la carga.</translation>
+    </message>
+    <message>
+        <source>Another workbench uses the list of devices in &quot;%1&quot;: what is changed in this one is not kept.</source>
+        <translation>Otro banco de trabajo usa la lista de dispositivos en «%1»: lo que se cambie en este no se conserva.</translation>
+    </message>
+    <message>
+        <source>The list of devices in &quot;%1&quot; cannot be locked: what is changed is not kept.</source>
+        <translation>La lista de dispositivos en «%1» no se puede bloquear: lo que se cambie no se conserva.</translation>
     </message>
 </context>
 <context>

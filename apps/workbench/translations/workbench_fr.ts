@@ -2,6 +2,153 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR" sourcelanguage="en_US">
 <context>
+    <name>CallConfirmation</name>
+    <message>
+        <source>Select</source>
+        <translation>Sélectionner</translation>
+    </message>
+    <message>
+        <source>Operate</source>
+        <translation>Exécuter</translation>
+    </message>
+    <message>
+        <source>Write a value</source>
+        <translation>Écrire une valeur</translation>
+    </message>
+    <message>
+        <source>Create a data set</source>
+        <translation>Créer un ensemble de données</translation>
+    </message>
+    <message>
+        <source>Delete a data set</source>
+        <translation>Supprimer un ensemble de données</translation>
+    </message>
+    <message>
+        <source>Delete a file</source>
+        <translation>Supprimer un fichier</translation>
+    </message>
+    <message>
+        <source>Send a file</source>
+        <translation>Envoyer un fichier</translation>
+    </message>
+    <message>
+        <source>Configure a report control block</source>
+        <translation>Configurer un bloc de contrôle de rapport</translation>
+    </message>
+    <message>
+        <source>Write settings</source>
+        <translation>Écrire des réglages</translation>
+    </message>
+    <message>
+        <source>Choose a setting group to edit</source>
+        <translation>Choisir un groupe de réglages à modifier</translation>
+    </message>
+    <message>
+        <source>Make a setting group the active one</source>
+        <translation>Rendre actif un groupe de réglages</translation>
+    </message>
+    <message>
+        <source>not supported</source>
+        <translation>non prise en charge</translation>
+    </message>
+    <message>
+        <source>bay control</source>
+        <translation>commande de travée</translation>
+    </message>
+    <message>
+        <source>station control</source>
+        <translation>commande de poste</translation>
+    </message>
+    <message>
+        <source>remote control</source>
+        <translation>commande à distance</translation>
+    </message>
+    <message>
+        <source>automatic bay</source>
+        <translation>automatisme de travée</translation>
+    </message>
+    <message>
+        <source>automatic station</source>
+        <translation>automatisme de poste</translation>
+    </message>
+    <message>
+        <source>automatic remote</source>
+        <translation>automatisme à distance</translation>
+    </message>
+    <message>
+        <source>maintenance</source>
+        <translation>maintenance</translation>
+    </message>
+    <message>
+        <source>process</source>
+        <translation>processus</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucune</translation>
+    </message>
+    <message>
+        <source>interlocking</source>
+        <translation>interverrouillage</translation>
+    </message>
+    <message>
+        <source>synchrocheck</source>
+        <translation>contrôle de synchronisme</translation>
+    </message>
+    <message>
+        <source>synchrocheck and interlocking</source>
+        <translation>contrôle de synchronisme et interverrouillage</translation>
+    </message>
+    <message>
+        <source>Device:</source>
+        <translation>Équipement :</translation>
+    </message>
+    <message>
+        <source>Logical device:</source>
+        <translation>Dispositif logique :</translation>
+    </message>
+    <message>
+        <source>Object:</source>
+        <translation>Objet :</translation>
+    </message>
+    <message>
+        <source>Value:</source>
+        <translation>Valeur :</translation>
+    </message>
+    <message>
+        <source>Current value:</source>
+        <translation>Valeur actuelle :</translation>
+    </message>
+    <message>
+        <source>as selected</source>
+        <translation>comme à la sélection</translation>
+    </message>
+    <message>
+        <source>Originator category:</source>
+        <translation>Catégorie de l&apos;émetteur :</translation>
+    </message>
+    <message>
+        <source>Checks:</source>
+        <translation>Vérifications :</translation>
+    </message>
+    <message>
+        <source>Test:</source>
+        <translation>Test :</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>oui</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>non</translation>
+    </message>
+    <message>
+        <source>Nothing was sent, since it was not confirmed.</source>
+        <translation>Rien n&apos;a été envoyé, faute de confirmation.</translation>
+    </message>
+</context>
+<context>
     <name>ChangeJournal</name>
     <message>
         <source>The journal &quot;%1&quot; cannot be written: %2</source>
@@ -52,7 +199,7 @@
     <name>CommandLine</name>
     <message>
         <source>Say what is in an SCL file, as JSON, and exit: with 0 when it is without errors, 1 with errors, 2 when it cannot be used. Needs no display.</source>
-        <translation>Dire, en JSON, ce que contient un fichier SCL, puis terminer : avec 0 s'il est sans erreur, 1 s'il a des erreurs, 2 s'il est inutilisable. N'a pas besoin d'écran.</translation>
+        <translation>Dire, en JSON, ce que contient un fichier SCL, puis terminer : avec 0 s&apos;il est sans erreur, 1 s&apos;il a des erreurs, 2 s&apos;il est inutilisable. N&apos;a pas besoin d&apos;écran.</translation>
     </message>
     <message>
         <source>FILE</source>
@@ -60,7 +207,7 @@
     </message>
     <message>
         <source>Take this IED of the file. The default asks when there are several; --check takes all.</source>
-        <translation>Prendre cet IED du fichier. Par défaut, la question est posée s'il y en a plusieurs ; --check les prend tous.</translation>
+        <translation>Prendre cet IED du fichier. Par défaut, la question est posée s&apos;il y en a plusieurs ; --check les prend tous.</translation>
     </message>
     <message>
         <source>NAME</source>
@@ -68,7 +215,7 @@
     </message>
     <message>
         <source>Open each tool on the demonstration device, save a picture of it in DIR, exit.</source>
-        <translation>Ouvrir chaque outil sur l'équipement de démonstration, en enregistrer une image dans DOSSIER, puis terminer.</translation>
+        <translation>Ouvrir chaque outil sur l&apos;équipement de démonstration, en enregistrer une image dans DOSSIER, puis terminer.</translation>
     </message>
     <message>
         <source>DIR</source>
@@ -80,7 +227,7 @@
     </message>
     <message>
         <source>Open the demonstration device.</source>
-        <translation>Ouvrir l'équipement de démonstration.</translation>
+        <translation>Ouvrir l&apos;équipement de démonstration.</translation>
     </message>
     <message>
         <source>A small host for the IEC 61850 tools: opens devices from SCL files.</source>
@@ -92,19 +239,30 @@
     </message>
     <message>
         <source>--check needs the name of a file.</source>
-        <translation>--check demande le nom d'un fichier.</translation>
+        <translation>--check demande le nom d&apos;un fichier.</translation>
     </message>
     <message>
         <source>--tour needs the name of a folder.</source>
-        <translation>--tour demande le nom d'un dossier.</translation>
+        <translation>--tour demande le nom d&apos;un dossier.</translation>
     </message>
     <message>
         <source>--check takes one file, and nothing else can be done at the same time.</source>
-        <translation>--check prend un seul fichier, et rien d'autre ne peut être fait en même temps.</translation>
+        <translation>--check prend un seul fichier, et rien d&apos;autre ne peut être fait en même temps.</translation>
     </message>
     <message>
         <source>--tour shows the demonstration device and opens no other file.</source>
-        <translation>--tour montre l'équipement de démonstration et n'ouvre aucun autre fichier.</translation>
+        <translation>--tour montre l&apos;équipement de démonstration et n&apos;ouvre aucun autre fichier.</translation>
+    </message>
+</context>
+<context>
+    <name>ConfirmationDialog</name>
+    <message>
+        <source>Confirm</source>
+        <translation>Confirmer</translation>
+    </message>
+    <message>
+        <source>&amp;Send to the device</source>
+        <translation>&amp;Envoyer à l&apos;équipement</translation>
     </message>
 </context>
 <context>
@@ -127,7 +285,7 @@
     </message>
     <message>
         <source>The AP title &quot;%1&quot; of the %2 is no object identifier such as 1.1.1.999.1.</source>
-        <translation>Titre AP (%2) : « %1 » n'est pas un identificateur d'objet tel que 1.1.1.999.1.</translation>
+        <translation>Titre AP (%2) : « %1 » n&apos;est pas un identificateur d&apos;objet tel que 1.1.1.999.1.</translation>
     </message>
     <message>
         <source>The AE qualifier of the %1 does not fit 32 bits.</source>
@@ -135,31 +293,31 @@
     </message>
     <message>
         <source>The time-out for %1 must be from %2 to %3 milliseconds.</source>
-        <translation>Le délai d'attente pour %1 doit être compris entre %2 et %3 millisecondes.</translation>
+        <translation>Le délai d&apos;attente pour %1 doit être compris entre %2 et %3 millisecondes.</translation>
     </message>
     <message>
         <source>The %1 &quot;%2&quot; does not exist.</source>
-        <translation>Le %1 « %2 » n'existe pas.</translation>
+        <translation>Le %1 « %2 » n&apos;existe pas.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has the wrong form.</source>
         <translation>« %1 » a une forme incorrecte.</translation>
     </message>
     <message>
-        <source>The device's number must be from 1 to %1.</source>
-        <translation>Le numéro de l'équipement doit être compris entre 1 et %1.</translation>
+        <source>The device&apos;s number must be from 1 to %1.</source>
+        <translation>Le numéro de l&apos;équipement doit être compris entre 1 et %1.</translation>
     </message>
     <message>
         <source>The device needs a name.</source>
-        <translation>L'équipement doit avoir un nom.</translation>
+        <translation>L&apos;équipement doit avoir un nom.</translation>
     </message>
     <message>
         <source>The device needs an address or an SCL file.</source>
-        <translation>L'équipement doit avoir une adresse ou un fichier SCL.</translation>
+        <translation>L&apos;équipement doit avoir une adresse ou un fichier SCL.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no address or host name.</source>
-        <translation>« %1 » n'est ni une adresse ni un nom d'hôte.</translation>
+        <translation>« %1 » n&apos;est ni une adresse ni un nom d&apos;hôte.</translation>
     </message>
     <message>
         <source>The port must be from 1 to 65535.</source>
@@ -191,7 +349,7 @@
     </message>
     <message>
         <source>The time-out for operations must not be shorter than the one for requests.</source>
-        <translation>Le délai d'attente pour les opérations ne doit pas être plus court que celui des requêtes.</translation>
+        <translation>Le délai d&apos;attente pour les opérations ne doit pas être plus court que celui des requêtes.</translation>
     </message>
     <message>
         <source>From 1 to %1 outstanding calls are possible.</source>
@@ -203,7 +361,7 @@
     </message>
     <message>
         <source>The polling interval must be 0 for none, or from %1 to %2 milliseconds.</source>
-        <translation>L'intervalle de scrutation doit être 0 (aucune) ou compris entre %1 et %2 millisecondes.</translation>
+        <translation>L&apos;intervalle de scrutation doit être 0 (aucune) ou compris entre %1 et %2 millisecondes.</translation>
     </message>
     <message>
         <source>From 1 to %1 outstanding file reads are possible.</source>
@@ -211,11 +369,11 @@
     </message>
     <message>
         <source>The originator category must be from 0 to %1.</source>
-        <translation>La catégorie de l'émetteur doit être comprise entre 0 et %1.</translation>
+        <translation>La catégorie de l&apos;émetteur doit être comprise entre 0 et %1.</translation>
     </message>
     <message>
         <source>The originator identification has %1 octets; at most %2 are possible.</source>
-        <translation>L'identification de l'émetteur a %1 octets ; %2 au plus sont possibles.</translation>
+        <translation>L&apos;identification de l&apos;émetteur a %1 octets ; %2 au plus sont possibles.</translation>
     </message>
     <message>
         <source>Device %1 (%2)</source>
@@ -238,7 +396,7 @@
     </message>
     <message>
         <source>Host name, IPv4 or IPv6 address</source>
-        <translation>Nom d'hôte, adresse IPv4 ou IPv6</translation>
+        <translation>Nom d&apos;hôte, adresse IPv4 ou IPv6</translation>
     </message>
     <message>
         <source>&amp;Port:</source>
@@ -266,7 +424,7 @@
     </message>
     <message>
         <source>Time-out for &amp;connecting:</source>
-        <translation>Délai d'attente pour la &amp;connexion :</translation>
+        <translation>Délai d&apos;attente pour la &amp;connexion :</translation>
     </message>
     <message>
         <source> ms</source>
@@ -274,11 +432,11 @@
     </message>
     <message>
         <source>Time-out for &amp;requests:</source>
-        <translation>Délai d'attente pour les &amp;requêtes :</translation>
+        <translation>Délai d&apos;attente pour les &amp;requêtes :</translation>
     </message>
     <message>
         <source>Time-out for &amp;operations:</source>
-        <translation>Délai d'attente pour les &amp;opérations :</translation>
+        <translation>Délai d&apos;attente pour les &amp;opérations :</translation>
     </message>
     <message>
         <source>Re&amp;ad values without reports every:</source>
@@ -334,7 +492,7 @@
     </message>
     <message>
         <source>Selectors are octets in hexadecimal, for example 00 01. An AP title is an object identifier, for example 1.1.1.999.1; empty fields are not sent.</source>
-        <translation>Les sélecteurs sont des octets en hexadécimal, par exemple 00 01. Un titre AP est un identificateur d'objet, par exemple 1.1.1.999.1 ; les champs vides ne sont pas envoyés.</translation>
+        <translation>Les sélecteurs sont des octets en hexadécimal, par exemple 00&#xa0;01. Un titre AP est un identificateur d&apos;objet, par exemple 1.1.1.999.1 ; les champs vides ne sont pas envoyés.</translation>
     </message>
     <message>
         <source>Security</source>
@@ -342,7 +500,7 @@
     </message>
     <message>
         <source>&amp;Password of the association:</source>
-        <translation>Mot de &amp;passe de l'association :</translation>
+        <translation>Mot de &amp;passe de l&apos;association :</translation>
     </message>
     <message>
         <source>&amp;TLS (IEC 62351-3)</source>
@@ -382,11 +540,11 @@
     </message>
     <message>
         <source>Originator &amp;category:</source>
-        <translation>&amp;Catégorie de l'émetteur :</translation>
+        <translation>&amp;Catégorie de l&apos;émetteur :</translation>
     </message>
     <message>
         <source>Originator &amp;identification:</source>
-        <translation>&amp;Identification de l'émetteur :</translation>
+        <translation>&amp;Identification de l&apos;émetteur :</translation>
     </message>
     <message>
         <source>&amp;Test Connection</source>
@@ -398,7 +556,7 @@
     </message>
     <message>
         <source>Edit Device %1</source>
-        <translation>Modifier l'équipement %1</translation>
+        <translation>Modifier l&apos;équipement %1</translation>
     </message>
     <message>
         <source>SCL File</source>
@@ -454,7 +612,7 @@
     </message>
     <message>
         <source>The device has no address.</source>
-        <translation>L'équipement n'a pas d'adresse.</translation>
+        <translation>L&apos;équipement n&apos;a pas d&apos;adresse.</translation>
     </message>
     <message>
         <source>Connecting to %1…</source>
@@ -466,14 +624,14 @@
     </message>
     <message>
         <source>a device that does not say what it is</source>
-        <translation>un équipement qui ne dit pas ce qu'il est</translation>
+        <translation>un équipement qui ne dit pas ce qu&apos;il est</translation>
     </message>
 </context>
 <context>
     <name>DeviceListModel</name>
     <message>
         <source>The demonstration device, a part of the workbench</source>
-        <translation>L'équipement de démonstration, qui fait partie du banc de travail</translation>
+        <translation>L&apos;équipement de démonstration, qui fait partie du banc de travail</translation>
     </message>
     <message>
         <source>Demonstration</source>
@@ -561,7 +719,7 @@
     </message>
     <message>
         <source>Objects that the device did not describe: %1</source>
-        <translation>Objets que l'équipement n'a pas décrits : %1</translation>
+        <translation>Objets que l&apos;équipement n&apos;a pas décrits : %1</translation>
     </message>
     <message>
         <source>Vendor: %1
@@ -615,6 +773,22 @@ Connexions : %5</translation>
         <source>Connected: %1</source>
         <translation>Connecté : %1</translation>
     </message>
+    <message>
+        <source>Connected, values not current: %1</source>
+        <translation>Connecté, valeurs pas à jour : %1</translation>
+    </message>
+    <message>
+        <source>Away since %1</source>
+        <translation>Injoignable depuis %1</translation>
+    </message>
+    <message>
+        <source>Values that are not current: %1, the oldest of %2</source>
+        <translation>Valeurs pas à jour : %1, la plus ancienne de %2</translation>
+    </message>
+    <message>
+        <source>Values that the device denies: %1</source>
+        <translation>Valeurs que l&apos;équipement refuse : %1</translation>
+    </message>
 </context>
 <context>
     <name>DeviceStore</name>
@@ -631,7 +805,7 @@ Connexions : %5</translation>
     <name>EmbeddedDriver</name>
     <message>
         <source>The IED &quot;%1&quot; has no logical devices, so there is nothing to browse.</source>
-        <translation>L'IED « %1 » n'a aucun dispositif logique ; il n'y a rien à parcourir.</translation>
+        <translation>L&apos;IED « %1 » n&apos;a aucun dispositif logique ; il n&apos;y a rien à parcourir.</translation>
     </message>
 </context>
 <context>
@@ -642,7 +816,7 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>The plug-in folder does not exist.</source>
-        <translation>Le dossier du plug-in n'existe pas.</translation>
+        <translation>Le dossier du plug-in n&apos;existe pas.</translation>
     </message>
     <message>
         <source>Install the plug-in there, or start the workbench with --plugin-dir and the folder that holds it.</source>
@@ -650,7 +824,7 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>The file does not exist.</source>
-        <translation>Le fichier n'existe pas.</translation>
+        <translation>Le fichier n&apos;existe pas.</translation>
     </message>
     <message>
         <source>Put the plug-in there, or start the workbench with --plugin-dir and the folder that holds it.</source>
@@ -658,11 +832,11 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>The file is not a plug-in that this Qt can load: %1</source>
-        <translation>Le fichier n'est pas un plug-in que ce Qt peut charger : %1</translation>
+        <translation>Le fichier n&apos;est pas un plug-in que ce Qt peut charger : %1</translation>
     </message>
     <message>
         <source>The plug-in is of another kind: it offers &quot;%1&quot; where &quot;%2&quot; is needed.</source>
-        <translation>Le plug-in est d'un autre type : il offre « %1 » alors que « %2 » est nécessaire.</translation>
+        <translation>Le plug-in est d&apos;un autre type : il offre « %1 » alors que « %2 » est nécessaire.</translation>
     </message>
     <message>
         <source>The plug-in does not carry the key &quot;%1&quot;.</source>
@@ -677,8 +851,8 @@ Connexions : %5</translation>
         <translation>Assurez-vous que les bibliothèques nécessaires sont installées et de la même version.</translation>
     </message>
     <message>
-        <source>The plug-in's object does not have the promised interface.</source>
-        <translation>L'objet du plug-in n'a pas l'interface promise.</translation>
+        <source>The plug-in&apos;s object does not have the promised interface.</source>
+        <translation>L&apos;objet du plug-in n&apos;a pas l&apos;interface promise.</translation>
     </message>
     <message>
         <source>The plug-in does not serve IEC 61850 (protocol %1).</source>
@@ -686,7 +860,7 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>The plug-in says that it is not available.</source>
-        <translation>Le plug-in indique qu'il n'est pas disponible.</translation>
+        <translation>Le plug-in indique qu&apos;il n&apos;est pas disponible.</translation>
     </message>
     <message>
         <source>Try again later, or ask whoever supplied the plug-in.</source>
@@ -694,7 +868,7 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>The plug-in offers no action.</source>
-        <translation>Le plug-in n'offre aucune action.</translation>
+        <translation>Le plug-in n&apos;offre aucune action.</translation>
     </message>
 </context>
 <context>
@@ -771,7 +945,7 @@ Connexions : %5</translation>
     <name>IedChooser</name>
     <message>
         <source>Choose the IED</source>
-        <translation>Choisir l'IED</translation>
+        <translation>Choisir l&apos;IED</translation>
     </message>
     <message>
         <source>IED</source>
@@ -799,7 +973,7 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>This IED has no logical devices, so there is nothing to browse.</source>
-        <translation>Cet IED n'a aucun dispositif logique ; il n'y a rien à parcourir.</translation>
+        <translation>Cet IED n&apos;a aucun dispositif logique ; il n&apos;y a rien à parcourir.</translation>
     </message>
 </context>
 <context>
@@ -814,23 +988,23 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>Aborted by the operator.</source>
-        <translation>Interrompu par l'opérateur.</translation>
+        <translation>Interrompu par l&apos;opérateur.</translation>
     </message>
     <message>
         <source>The operation was cancelled.</source>
-        <translation>L'opération a été annulée.</translation>
+        <translation>L&apos;opération a été annulée.</translation>
     </message>
     <message>
         <source>%1 has not finished the operation within %2 seconds.</source>
-        <translation>%1 n'a pas terminé l'opération en %2 secondes.</translation>
+        <translation>%1 n&apos;a pas terminé l&apos;opération en %2 secondes.</translation>
     </message>
     <message>
         <source>%1 is not connected.</source>
-        <translation>%1 n'est pas connecté.</translation>
+        <translation>%1 n&apos;est pas connecté.</translation>
     </message>
     <message>
         <source>%1 is not connected: %2.</source>
-        <translation>%1 n'est pas connecté : %2.</translation>
+        <translation>%1 n&apos;est pas connecté : %2.</translation>
     </message>
     <message>
         <source>The model of %1 is being read: %2 of %3.</source>
@@ -838,11 +1012,11 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>The device has not answered for %1 seconds.</source>
-        <translation>L'équipement ne répond pas depuis %1 secondes.</translation>
+        <translation>L&apos;équipement ne répond pas depuis %1 secondes.</translation>
     </message>
     <message>
         <source>The SCL file is not used: %1</source>
-        <translation>Le fichier SCL n'est pas utilisé : %1</translation>
+        <translation>Le fichier SCL n&apos;est pas utilisé : %1</translation>
     </message>
     <message>
         <source>Reading the model was cancelled.</source>
@@ -850,11 +1024,11 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>the value does not have the form of its type</source>
-        <translation>la valeur n'a pas la forme de son type</translation>
+        <translation>la valeur n&apos;a pas la forme de son type</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no kind of report control block.</source>
-        <translation>« %1 » n'est pas un type de bloc de contrôle de rapport.</translation>
+        <translation>« %1 » n&apos;est pas un type de bloc de contrôle de rapport.</translation>
     </message>
     <message>
         <source>A data set needs at least one member.</source>
@@ -862,19 +1036,19 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>There is no reference to be listed.</source>
-        <translation>Il n'y a aucune référence à lister.</translation>
+        <translation>Il n&apos;y a aucune référence à lister.</translation>
     </message>
     <message>
         <source>Not connected to the device</source>
-        <translation>Pas de connexion à l'équipement</translation>
+        <translation>Pas de connexion à l&apos;équipement</translation>
     </message>
     <message>
         <source>There is no device %1 on this driver.</source>
-        <translation>Il n'y a pas d'équipement %1 sur ce pilote.</translation>
+        <translation>Il n&apos;y a pas d&apos;équipement %1 sur ce pilote.</translation>
     </message>
     <message>
         <source>The driver is read-only: nothing on %1 was changed.</source>
-        <translation>Le pilote est en lecture seule : rien n'a été modifié sur %1.</translation>
+        <translation>Le pilote est en lecture seule : rien n&apos;a été modifié sur %1.</translation>
     </message>
     <message>
         <source>Device %1</source>
@@ -894,23 +1068,23 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>The device has no address.</source>
-        <translation>L'équipement n'a pas d'adresse.</translation>
+        <translation>L&apos;équipement n&apos;a pas d&apos;adresse.</translation>
     </message>
     <message>
         <source>There is nothing to read.</source>
-        <translation>Il n'y a rien à lire.</translation>
+        <translation>Il n&apos;y a rien à lire.</translation>
     </message>
     <message>
         <source>The data set has %1 members, but %2 values came.</source>
-        <translation>L'ensemble de données a %1 membres, mais %2 valeurs sont arrivées.</translation>
+        <translation>L&apos;ensemble de données a %1 membres, mais %2 valeurs sont arrivées.</translation>
     </message>
     <message>
         <source>%1: the value does not have the form of its type</source>
-        <translation>%1 : la valeur n'a pas la forme de son type</translation>
+        <translation>%1 : la valeur n&apos;a pas la forme de son type</translation>
     </message>
     <message>
         <source>The device has no %1.</source>
-        <translation>L'équipement n'a pas %1.</translation>
+        <translation>L&apos;équipement n&apos;a pas %1.</translation>
     </message>
     <message>
         <source>The value to be written cannot be read.</source>
@@ -918,15 +1092,15 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>Select the object first</source>
-        <translation>Sélectionnez d'abord l'objet</translation>
+        <translation>Sélectionnez d&apos;abord l&apos;objet</translation>
     </message>
     <message>
         <source>%1 has the control model %2, but the command was made for %3: read the model of the device again.</source>
-        <translation>%1 a le modèle de commande %2, mais la commande a été faite pour %3 : relisez le modèle de l'équipement.</translation>
+        <translation>%1 a le modèle de commande %2, mais la commande a été faite pour %3 : relisez le modèle de l&apos;équipement.</translation>
     </message>
     <message>
         <source>The command is not the one that was selected.</source>
-        <translation>La commande n'est pas celle qui a été sélectionnée.</translation>
+        <translation>La commande n&apos;est pas celle qui a été sélectionnée.</translation>
     </message>
     <message>
         <source>The control request cannot be read.</source>
@@ -938,19 +1112,19 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>The control value is no finite number.</source>
-        <translation>La valeur de commande n'est pas un nombre fini.</translation>
+        <translation>La valeur de commande n&apos;est pas un nombre fini.</translation>
     </message>
     <message>
         <source>%1 is no code of the check conditions.</source>
-        <translation>%1 n'est pas un code des conditions de vérification.</translation>
+        <translation>%1 n&apos;est pas un code des conditions de vérification.</translation>
     </message>
     <message>
         <source>The test flag is 0 or 1, not %1.</source>
-        <translation>L'indicateur de test est 0 ou 1, pas %1.</translation>
+        <translation>L&apos;indicateur de test est 0 ou 1, pas %1.</translation>
     </message>
     <message>
         <source>interlock check</source>
-        <translation>vérification de l'interverrouillage</translation>
+        <translation>vérification de l&apos;interverrouillage</translation>
     </message>
     <message>
         <source>synchrocheck</source>
@@ -962,7 +1136,7 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>The driver has not waited for the end of the operation.</source>
-        <translation>Le pilote n'a pas attendu la fin de la manœuvre.</translation>
+        <translation>Le pilote n&apos;a pas attendu la fin de la manœuvre.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not name a report control block.</source>
@@ -970,7 +1144,7 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>The attribute &quot;%1&quot; of a report control block cannot be written.</source>
-        <translation>L'attribut « %1 » d'un bloc de contrôle de rapport ne peut pas être écrit.</translation>
+        <translation>L&apos;attribut « %1 » d&apos;un bloc de contrôle de rapport ne peut pas être écrit.</translation>
     </message>
     <message>
         <source>The value for %1 has %2 bytes instead of %3.</source>
@@ -982,19 +1156,19 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>Buffer time and integrity period cannot be negative.</source>
-        <translation>Le temps de tampon et la période d'intégrité ne peuvent pas être négatifs.</translation>
+        <translation>Le temps de tampon et la période d&apos;intégrité ne peuvent pas être négatifs.</translation>
     </message>
     <message>
         <source>enabled again after the association was lost</source>
-        <translation>réactivation après la perte de l'association</translation>
+        <translation>réactivation après la perte de l&apos;association</translation>
     </message>
     <message>
         <source>The report control block %1 has no data set.</source>
-        <translation>Le bloc de contrôle de rapport %1 n'a pas d'ensemble de données.</translation>
+        <translation>Le bloc de contrôle de rapport %1 n&apos;a pas d&apos;ensemble de données.</translation>
     </message>
     <message>
         <source>The device has not enabled %1 although it said so.</source>
-        <translation>L'équipement n'a pas activé %1 alors qu'il l'a confirmé.</translation>
+        <translation>L&apos;équipement n&apos;a pas activé %1 alors qu&apos;il l&apos;a confirmé.</translation>
     </message>
     <message>
         <source>disabled</source>
@@ -1010,7 +1184,7 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>The device has disabled %1 by itself.</source>
-        <translation>L'équipement a désactivé %1 de lui-même.</translation>
+        <translation>L&apos;équipement a désactivé %1 de lui-même.</translation>
     </message>
     <message>
         <source>enabled again</source>
@@ -1018,19 +1192,15 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>A report of the device could not be read: %1</source>
-        <translation>Un rapport de l'équipement n'a pas pu être lu : %1</translation>
-    </message>
-    <message>
-        <source>A report of %1 has %2 members, but its data set has %3.</source>
-        <translation>Un rapport de %1 a %2 membres, mais son ensemble de données en a %3.</translation>
+        <translation>Un rapport de l&apos;équipement n&apos;a pas pu être lu : %1</translation>
     </message>
     <message>
         <source>The reports of %1 have no value for %2: %3.</source>
-        <translation>Les rapports de %1 n'ont pas de valeur pour %2 : %3.</translation>
+        <translation>Les rapports de %1 n&apos;ont pas de valeur pour %2 : %3.</translation>
     </message>
     <message>
         <source>A value of %1 in the reports of %2 does not have the form of its type.</source>
-        <translation>Une valeur de %1 dans les rapports de %2 n'a pas la forme de son type.</translation>
+        <translation>Une valeur de %1 dans les rapports de %2 n&apos;a pas la forme de son type.</translation>
     </message>
     <message>
         <source>The buffer of %1 has overflown: older changes are lost.</source>
@@ -1041,8 +1211,8 @@ Connexions : %5</translation>
         <translation>activé</translation>
     </message>
     <message>
-        <source>The member %1 of the data set of %2 is no data of the device's model.</source>
-        <translation>Le membre %1 de l'ensemble de données de %2 n'est pas une donnée du modèle de l'équipement.</translation>
+        <source>The member %1 of the data set of %2 is no data of the device&apos;s model.</source>
+        <translation>Le membre %1 de l&apos;ensemble de données de %2 n&apos;est pas une donnée du modèle de l&apos;équipement.</translation>
     </message>
     <message>
         <source>%1 is busy with another file: %2.</source>
@@ -1066,15 +1236,15 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>There is no name of a file.</source>
-        <translation>Il n'y a pas de nom de fichier.</translation>
+        <translation>Il n&apos;y a pas de nom de fichier.</translation>
     </message>
     <message>
         <source>There is no file to send.</source>
-        <translation>Il n'y a pas de fichier à envoyer.</translation>
+        <translation>Il n&apos;y a pas de fichier à envoyer.</translation>
     </message>
     <message>
         <source>There is no file &quot;%1&quot; on this computer.</source>
-        <translation>Il n'y a pas de fichier « %1 » sur cet ordinateur.</translation>
+        <translation>Il n&apos;y a pas de fichier « %1 » sur cet ordinateur.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be read: %2.</source>
@@ -1082,7 +1252,7 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is too large for a file of a device.</source>
-        <translation>« %1 » est trop grand pour un fichier d'équipement.</translation>
+        <translation>« %1 » est trop grand pour un fichier d&apos;équipement.</translation>
     </message>
     <message>
         <source>sending &quot;%1&quot;</source>
@@ -1094,11 +1264,11 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>The device has no logical device &quot;%1&quot;.</source>
-        <translation>L'équipement n'a pas de dispositif logique « %1 ».</translation>
+        <translation>L&apos;équipement n&apos;a pas de dispositif logique « %1 ».</translation>
     </message>
     <message>
         <source>%1 has no setting group control block.</source>
-        <translation>%1 n'a pas de bloc de contrôle de groupe de réglages.</translation>
+        <translation>%1 n&apos;a pas de bloc de contrôle de groupe de réglages.</translation>
     </message>
     <message>
         <source>%1 has more setting groups than can be counted: %2.</source>
@@ -1106,7 +1276,7 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>No setting group of %1 is being edited: select the group to edit first.</source>
-        <translation>Aucun groupe de réglages de %1 n'est en cours de modification : sélectionnez d'abord le groupe à modifier.</translation>
+        <translation>Aucun groupe de réglages de %1 n&apos;est en cours de modification : sélectionnez d&apos;abord le groupe à modifier.</translation>
     </message>
     <message>
         <source>Settings are read under SG or SE, not under &quot;%1&quot;.</source>
@@ -1114,11 +1284,7 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>%1 has no setting %2.</source>
-        <translation>%1 n'a pas de réglage %2.</translation>
-    </message>
-    <message>
-        <source>The device has not answered.</source>
-        <translation>L'équipement n'a pas répondu.</translation>
+        <translation>%1 n&apos;a pas de réglage %2.</translation>
     </message>
     <message>
         <source>%1. The changes are not confirmed.</source>
@@ -1126,7 +1292,239 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>%1 has the setting groups 1 to %2; there is no group %3.</source>
-        <translation>%1 a les groupes de réglages 1 à %2 ; il n'y a pas de groupe %3.</translation>
+        <translation>%1 a les groupes de réglages 1 à %2 ; il n&apos;y a pas de groupe %3.</translation>
+    </message>
+    <message>
+        <source>Another window has selected the object since: select it here first.</source>
+        <translation>Une autre fenêtre a sélectionné l&apos;objet depuis : sélectionnez-le d&apos;abord ici.</translation>
+    </message>
+    <message>
+        <source>The object was selected for different commands; which one is meant is not known: cancel the selection and select it again.</source>
+        <translation>L&apos;objet a été sélectionné pour des commandes différentes ; on ne sait pas laquelle est voulue : annulez la sélection et sélectionnez-le de nouveau.</translation>
+    </message>
+    <message>
+        <source>%1 is no originator category; they go from 0 to 8.</source>
+        <translation>%1 n&apos;est pas une catégorie de l&apos;émetteur ; elles vont de 0 à 8.</translation>
+    </message>
+    <message>
+        <source>category %1</source>
+        <translation>catégorie %1</translation>
+    </message>
+    <message>
+        <source>It is not known whether the object was selected.</source>
+        <translation>On ne sait pas si l&apos;objet a été sélectionné.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the command was carried out; look at the position.</source>
+        <translation>On ne sait pas si la commande a été exécutée ; regardez la position.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the command was cancelled; look at the position.</source>
+        <translation>On ne sait pas si la commande a été annulée ; regardez la position.</translation>
+    </message>
+    <message>
+        <source>%1 (told late)</source>
+        <translation>%1 (annoncé tardivement)</translation>
+    </message>
+    <message>
+        <source>%1: the command that was not answered in time was carried out.</source>
+        <translation>%1 : la commande à laquelle il n&apos;a pas été répondu à temps a été exécutée.</translation>
+    </message>
+    <message>
+        <source>An internal error of the driver ended the association.</source>
+        <translation>Une erreur interne du pilote a mis fin à l&apos;association.</translation>
+    </message>
+    <message>
+        <source>An internal error of the driver ended the association: %1.</source>
+        <translation>Une erreur interne du pilote a mis fin à l&apos;association : %1.</translation>
+    </message>
+    <message>
+        <source>The device has not answered earlier requests; the question whether it is there waits for a place behind them.</source>
+        <translation>L&apos;équipement n&apos;a pas répondu à des demandes antérieures ; la question de savoir s&apos;il est présent attend une place derrière elles.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has %2 characters; the name of a data set has at most %3.</source>
+        <translation>« %1 » a %2 caractères ; le nom d&apos;un jeu de données en a au plus %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no functional constraint, which each member of a data set needs.</source>
+        <translation>« %1 » ne nomme aucune contrainte fonctionnelle, dont chaque membre d&apos;un jeu de données a besoin.</translation>
+    </message>
+    <message>
+        <source>This is not the device that the window was opened for: open it again.</source>
+        <translation>Ce n&apos;est pas l&apos;équipement pour lequel la fenêtre a été ouverte : ouvrez-la de nouveau.</translation>
+    </message>
+    <message>
+        <source>The IED %1 of the file has no access point &quot;%2&quot; with a server.</source>
+        <translation>L&apos;IED %1 du fichier n&apos;a pas de point d&apos;accès « %2 » avec un serveur.</translation>
+    </message>
+    <message>
+        <source>The device has none of the logical devices that the file describes for %1, such as %2.</source>
+        <translation>L&apos;équipement n&apos;a aucun des dispositifs logiques que le fichier décrit pour %1, par exemple %2.</translation>
+    </message>
+    <message>
+        <source>%1 stays open on the device, which has few open files: %2</source>
+        <translation>%1 reste ouvert sur l&apos;équipement, qui n&apos;admet que peu de fichiers ouverts : %2</translation>
+    </message>
+    <message>
+        <source>%1 comes too slowly: %2 octets so far, less than %3 in a second.</source>
+        <translation>%1 arrive trop lentement : %2 octets jusqu&apos;ici, moins de %3 par seconde.</translation>
+    </message>
+    <message>
+        <source>%1 events of the device were dropped, because they were not taken in time.</source>
+        <translation>%1 événements de l&apos;équipement ont été abandonnés, car ils n&apos;ont pas été pris à temps.</translation>
+    </message>
+    <message>
+        <source>The configuration of the device reserves %1; that cannot be changed.</source>
+        <translation>La configuration de l&apos;équipement réserve %1 ; cela ne peut pas être modifié.</translation>
+    </message>
+    <message>
+        <source>%1 was not enabled in time.</source>
+        <translation>%1 n&apos;a pas été activé à temps.</translation>
+    </message>
+    <message>
+        <source>%1 It was left alone.</source>
+        <translation>%1 Rien n&apos;y a été modifié.</translation>
+    </message>
+    <message>
+        <source>without sequence numbers lost reports cannot be noticed</source>
+        <translation>sans numéros de séquence, les rapports perdus ne peuvent pas être remarqués</translation>
+    </message>
+    <message>
+        <source>%1 could not be enabled, and this was left behind as it was written: %2.</source>
+        <translation>%1 n&apos;a pas pu être activé, et ceci est resté tel qu&apos;il a été écrit : %2.</translation>
+    </message>
+    <message>
+        <source>no longer waited for</source>
+        <translation>n&apos;est plus attendu</translation>
+    </message>
+    <message>
+        <source>member %1</source>
+        <translation>membre %1</translation>
+    </message>
+    <message>
+        <source>Reports of %1 are missing; its data set is read whole.</source>
+        <translation>Des rapports de %1 manquent ; son ensemble de données est lu en entier.</translation>
+    </message>
+    <message>
+        <source>Parts of a report of %1 are missing; its data set is read whole.</source>
+        <translation>Des parties d&apos;un rapport de %1 manquent ; son ensemble de données est lu en entier.</translation>
+    </message>
+    <message>
+        <source>The device does not know the last entry of %1 any more: changes since then may be lost, or come again.</source>
+        <translation>L&apos;équipement ne connaît plus la dernière entrée de %1 : les changements depuis lors peuvent être perdus ou revenir.</translation>
+    </message>
+    <message>
+        <source>A report of %1 is of another data set than the block had when it was enabled.</source>
+        <translation>Un rapport de %1 concerne un autre ensemble de données que celui que le bloc avait lors de son activation.</translation>
+    </message>
+    <message>
+        <source>A report of the device may be of %1 or of another block with other data; it was not taken.</source>
+        <translation>Un rapport de l&apos;équipement peut être de %1 ou d&apos;un autre bloc avec d&apos;autres données ; il n&apos;a pas été pris.</translation>
+    </message>
+    <message>
+        <source>The device described %1 in parts only, so what the reports of %2 say of it cannot be understood; it is polled.</source>
+        <translation>L&apos;équipement n&apos;a décrit %1 qu&apos;en partie ; ce que les rapports de %2 en disent ne peut donc pas être compris, et la valeur est lue par scrutation.</translation>
+    </message>
+    <message>
+        <source>The data set of %1 cannot be read: %2</source>
+        <translation>L&apos;ensemble de données de %1 ne peut pas être lu : %2</translation>
+    </message>
+    <message>
+        <source>The data set of %1 has %2 members instead of %3.</source>
+        <translation>L&apos;ensemble de données de %1 a %2 membres au lieu de %3.</translation>
+    </message>
+    <message>
+        <source>The data set of %1 has no value for %2: %3.</source>
+        <translation>L&apos;ensemble de données de %1 n&apos;a pas de valeur pour %2 : %3.</translation>
+    </message>
+    <message>
+        <source>A value of %1 in the data set of %2 does not have the form of its type.</source>
+        <translation>Une valeur de %1 dans l&apos;ensemble de données de %2 n&apos;a pas la forme de son type.</translation>
+    </message>
+    <message>
+        <source>%1 is enabled by another client, which the device does not name.</source>
+        <translation>%1 est activé par un autre client, que l&apos;équipement ne nomme pas.</translation>
+    </message>
+    <message>
+        <source>%1 is reserved by another client, which the device does not name.</source>
+        <translation>%1 est réservé par un autre client, que l&apos;équipement ne nomme pas.</translation>
+    </message>
+    <message>
+        <source>%1 is enabled by the client %2.</source>
+        <translation>%1 est activé par le client %2.</translation>
+    </message>
+    <message>
+        <source>%1 is reserved by the client %2.</source>
+        <translation>%1 est réservé par le client %2.</translation>
+    </message>
+    <message>
+        <source>%1 is enabled by another association of this computer (%2).</source>
+        <translation>%1 est activé par une autre association de cet ordinateur (%2).</translation>
+    </message>
+    <message>
+        <source>%1 is reserved by another association of this computer (%2).</source>
+        <translation>%1 est réservé par une autre association de cet ordinateur (%2).</translation>
+    </message>
+    <message>
+        <source>Another client is editing group %1 of %2.</source>
+        <translation>Un autre client est en train de modifier le groupe %1 de %2.</translation>
+    </message>
+    <message>
+        <source>Group %1 of %2 was chosen for editing in another window: select the group to edit first.</source>
+        <translation>Le groupe %1 de %2 a été choisi pour modification dans une autre fenêtre : sélectionnez d&apos;abord le groupe à modifier.</translation>
+    </message>
+    <message>
+        <source>The device has given up the edit of group %1 of %2: select the group to edit again.</source>
+        <translation>L&apos;équipement a abandonné la modification du groupe %1 de %2 : sélectionnez de nouveau le groupe à modifier.</translation>
+    </message>
+    <message>
+        <source>%1 has no settings that can be edited: the device describes none under SE.</source>
+        <translation>%1 n&apos;a pas de réglages modifiables : l&apos;équipement n&apos;en décrit aucun sous SE.</translation>
+    </message>
+    <message>
+        <source>%1 It is not known whether the changes of group %2 were taken over: select the group and look.</source>
+        <translation>%1 On ne sait pas si les modifications du groupe %2 ont été prises en compte : sélectionnez le groupe et regardez.</translation>
+    </message>
+    <message>
+        <source>These are the settings of the active group; choose the group to edit first.</source>
+        <translation>Ce sont les réglages du groupe actif ; choisissez d&apos;abord le groupe à modifier.</translation>
+    </message>
+    <message>
+        <source>%1 has accepted group %2, but group %3 is still the active one.</source>
+        <translation>%1 a accepté le groupe %2, mais le groupe %3 est toujours le groupe actif.</translation>
+    </message>
+    <message>
+        <source>%1 Group %2 is the active one.</source>
+        <translation>%1 Le groupe %2 est le groupe actif.</translation>
+    </message>
+    <message>
+        <source>%1 It is not known whether group %2 became active: look at the active group.</source>
+        <translation>%1 On ne sait pas si le groupe %2 est devenu actif : regardez le groupe actif.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 It is not known whether the device is editing group %2: select the group to edit again.</source>
+        <translation>%1 On ne sait pas si le groupe %2 est en cours de modification dans l&apos;équipement : sélectionnez de nouveau le groupe à modifier.</translation>
+    </message>
+    <message>
+        <source>%1; it is not known whether the setting was written.</source>
+        <translation>%1 ; on ne sait pas si le réglage a été écrit.</translation>
+    </message>
+    <message>
+        <source>Values that are not current since %1: %2. The device does not answer when it is asked for %3.</source>
+        <translation>Valeurs qui ne sont pas à jour depuis %1 : %2. L&apos;équipement ne répond pas lorsqu&apos;on lui demande %3.</translation>
+    </message>
+    <message>
+        <source>Values that are not current since %1: %2. The device cannot give %3 for the moment.</source>
+        <translation>Valeurs qui ne sont pas à jour depuis %1 : %2. L&apos;équipement ne peut pas donner %3 pour le moment.</translation>
+    </message>
+    <message>
+        <source>Values that the device refuses and that are not asked for again: %1 (%2).</source>
+        <translation>Valeurs que l&apos;équipement refuse et qui ne sont plus demandées : %1 (%2).</translation>
     </message>
 </context>
 <context>
@@ -1188,7 +1586,7 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>Open De&amp;monstration Device</source>
-        <translation>Ouvrir l'équipement de dé&amp;monstration</translation>
+        <translation>Ouvrir l&apos;équipement de dé&amp;monstration</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -1212,7 +1610,7 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>Tool Bar</source>
-        <translation>Barre d'outils</translation>
+        <translation>Barre d&apos;outils</translation>
     </message>
     <message>
         <source>Findings</source>
@@ -1228,7 +1626,7 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>Open &amp;Demonstration Device</source>
-        <translation>Ouvrir l'équipement de &amp;démonstration</translation>
+        <translation>Ouvrir l&apos;équipement de &amp;démonstration</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -1272,7 +1670,7 @@ Connexions : %5</translation>
     </message>
     <message>
         <source>No call to the driver yet. Every request that a tool makes is listed here.</source>
-        <translation>Aucun appel au pilote pour l'instant. Chaque requête d'un outil est notée ici.</translation>
+        <translation>Aucun appel au pilote pour l&apos;instant. Chaque requête d&apos;un outil est notée ici.</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1314,7 +1712,7 @@ Connexions : %5</translation>
         <source>The model cannot be read. %1
 Read it again with %2, or remove the device from the list.</source>
         <translation>Le modèle ne peut pas être lu. %1
-Relisez-le avec %2, ou retirez l'équipement de la liste.</translation>
+Relisez-le avec %2, ou retirez l&apos;équipement de la liste.</translation>
     </message>
     <message>
         <source>Open SCL File</source>
@@ -1366,7 +1764,7 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>Add a device from an SCL file, without a connection</source>
-        <translation>Ajouter un équipement à partir d'un fichier SCL, sans connexion</translation>
+        <translation>Ajouter un équipement à partir d&apos;un fichier SCL, sans connexion</translation>
     </message>
     <message>
         <source>&amp;Start Simulated Device…</source>
@@ -1374,7 +1772,7 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>Simulate a device of an SCL file and connect to it</source>
-        <translation>Simuler un équipement d'un fichier SCL et s'y connecter</translation>
+        <translation>Simuler un équipement d&apos;un fichier SCL et s&apos;y connecter</translation>
     </message>
     <message>
         <source>Add &amp;Device…</source>
@@ -1394,7 +1792,7 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>&amp;Edit Device…</source>
-        <translation>&amp;Modifier l'équipement…</translation>
+        <translation>&amp;Modifier l&apos;équipement…</translation>
     </message>
     <message>
         <source>F2</source>
@@ -1406,11 +1804,11 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>Connect to the selected device, now and at the next start</source>
-        <translation>Se connecter à l'équipement sélectionné, maintenant et au prochain démarrage</translation>
+        <translation>Se connecter à l&apos;équipement sélectionné, maintenant et au prochain démarrage</translation>
     </message>
     <message>
         <source>Leave the selected device, until it is connected again</source>
-        <translation>Quitter l'équipement sélectionné, jusqu'à la prochaine connexion</translation>
+        <translation>Quitter l&apos;équipement sélectionné, jusqu&apos;à la prochaine connexion</translation>
     </message>
     <message>
         <source>&amp;Start Simulation</source>
@@ -1422,7 +1820,7 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>End the simulated device, as if it had lost its power</source>
-        <translation>Arrêter l'équipement simulé, comme s'il avait perdu son alimentation</translation>
+        <translation>Arrêter l&apos;équipement simulé, comme s&apos;il avait perdu son alimentation</translation>
     </message>
     <message>
         <source>&amp;PDU Trace…</source>
@@ -1430,7 +1828,7 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>Show what is exchanged with the selected device</source>
-        <translation>Montrer les échanges avec l'équipement sélectionné</translation>
+        <translation>Montrer les échanges avec l&apos;équipement sélectionné</translation>
     </message>
     <message>
         <source>Sa&amp;ve Capture…</source>
@@ -1438,7 +1836,7 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>Save what was exchanged with the selected device for a protocol analyser</source>
-        <translation>Enregistrer les échanges avec l'équipement sélectionné pour un analyseur de protocole</translation>
+        <translation>Enregistrer les échanges avec l&apos;équipement sélectionné pour un analyseur de protocole</translation>
     </message>
     <message>
         <source>E&amp;xport Values…</source>
@@ -1446,7 +1844,7 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>Save the values of the selected device as a table</source>
-        <translation>Enregistrer les valeurs de l'équipement sélectionné sous forme de tableau</translation>
+        <translation>Enregistrer les valeurs de l&apos;équipement sélectionné sous forme de tableau</translation>
     </message>
     <message>
         <source>Refuse everything that changes something on a device</source>
@@ -1458,7 +1856,7 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>Nothing was changed on a device yet. Every write, command and transfer is listed here%1.</source>
-        <translation>Rien n'a encore été modifié sur un équipement. Tout ce qui est écrit, commandé ou transféré est noté ici%1.</translation>
+        <translation>Rien n&apos;a encore été modifié sur un équipement. Tout ce qui est écrit, commandé ou transféré est noté ici%1.</translation>
     </message>
     <message>
         <source> and kept in
@@ -1468,7 +1866,7 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>Read-only: nothing is changed on devices</source>
-        <translation>Lecture seule : rien n'est modifié sur les équipements</translation>
+        <translation>Lecture seule : rien n&apos;est modifié sur les équipements</translation>
     </message>
     <message>
         <source>Reading the model of %1</source>
@@ -1476,7 +1874,7 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>This device has no SCL file; its model is read from the device itself.</source>
-        <translation>Cet équipement n'a pas de fichier SCL ; son modèle est lu dans l'équipement lui-même.</translation>
+        <translation>Cet équipement n&apos;a pas de fichier SCL ; son modèle est lu dans l&apos;équipement lui-même.</translation>
     </message>
     <message>
         <source>Start Simulated Device</source>
@@ -1532,18 +1930,42 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>The SCL file of this device was only compared with the device. Open it as an SCL file to see its findings.</source>
-        <translation>Le fichier SCL de cet équipement a seulement été comparé avec l'équipement. Ouvrez-le comme fichier SCL pour voir ses constats.</translation>
+        <translation>Le fichier SCL de cet équipement a seulement été comparé avec l&apos;équipement. Ouvrez-le comme fichier SCL pour voir ses constats.</translation>
+    </message>
+    <message>
+        <source>&amp;Confirm</source>
+        <translation>C&amp;onfirmer</translation>
+    </message>
+    <message>
+        <source>&amp;Commands before they are sent</source>
+        <translation>&amp;Commandes avant leur envoi</translation>
+    </message>
+    <message>
+        <source>&amp;Everything that changes a device</source>
+        <translation>&amp;Tout ce qui modifie quelque chose sur un équipement</translation>
+    </message>
+    <message>
+        <source>&amp;Nothing</source>
+        <translation>&amp;Rien</translation>
+    </message>
+    <message>
+        <source>%1 is away since %2</source>
+        <translation>%1 est injoignable depuis %2</translation>
+    </message>
+    <message>
+        <source>Devices away: %1, the first since %2</source>
+        <translation>Équipements injoignables : %1, le premier depuis %2</translation>
     </message>
 </context>
 <context>
     <name>OfflineDriverService</name>
     <message>
         <source>Not connected to the device</source>
-        <translation>Pas de connexion à l'équipement</translation>
+        <translation>Pas de connexion à l&apos;équipement</translation>
     </message>
     <message>
         <source>There is no device %1 on this driver.</source>
-        <translation>Il n'y a pas d'équipement %1 sur ce pilote.</translation>
+        <translation>Il n&apos;y a pas d&apos;équipement %1 sur ce pilote.</translation>
     </message>
 </context>
 <context>
@@ -1562,7 +1984,7 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>There is no IED &quot;%1&quot; in the file.</source>
-        <translation>Il n'y a pas d'IED « %1 » dans le fichier.</translation>
+        <translation>Il n&apos;y a pas d&apos;IED « %1 » dans le fichier.</translation>
     </message>
     <message>
         <source>The file describes several IEDs; one must be chosen.</source>
@@ -1573,11 +1995,11 @@ Apache License 2.0</translation>
     <name>SimulatedDevice</name>
     <message>
         <source>The files of the simulated device cannot be written to &quot;%1&quot;.</source>
-        <translation>Les fichiers de l'équipement simulé ne peuvent pas être écrits dans « %1 ».</translation>
+        <translation>Les fichiers de l&apos;équipement simulé ne peuvent pas être écrits dans « %1 ».</translation>
     </message>
     <message>
         <source>The device cannot be simulated: %1</source>
-        <translation>L'équipement ne peut pas être simulé : %1</translation>
+        <translation>L&apos;équipement ne peut pas être simulé : %1</translation>
     </message>
 </context>
 <context>
@@ -1603,15 +2025,15 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>The plug-in &quot;%1&quot; is not available: %2</source>
-        <translation>Le plug-in « %1 » n'est pas disponible : %2</translation>
+        <translation>Le plug-in « %1 » n&apos;est pas disponible : %2</translation>
     </message>
     <message>
         <source>The demonstration device was not read in time.</source>
-        <translation>L'équipement de démonstration n'a pas été lu à temps.</translation>
+        <translation>L&apos;équipement de démonstration n&apos;a pas été lu à temps.</translation>
     </message>
     <message>
         <source>The demonstration device cannot be read.</source>
-        <translation>L'équipement de démonstration ne peut pas être lu.</translation>
+        <translation>L&apos;équipement de démonstration ne peut pas être lu.</translation>
     </message>
     <message>
         <source>The second device cannot be read.</source>
@@ -1619,7 +2041,7 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>The plug-in offers no tool number %1 for the demonstration device.</source>
-        <translation>Le plug-in n'offre pas d'outil numéro %1 pour l'équipement de démonstration.</translation>
+        <translation>Le plug-in n&apos;offre pas d&apos;outil numéro %1 pour l&apos;équipement de démonstration.</translation>
     </message>
     <message>
         <source>Instead of the IED browser came %1.</source>
@@ -1627,23 +2049,23 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>The IED browser did not appear.</source>
-        <translation>Le navigateur IED n'est pas apparu.</translation>
+        <translation>Le navigateur IED n&apos;est pas apparu.</translation>
     </message>
     <message>
         <source>The IED browser has no tree.</source>
-        <translation>Le navigateur IED n'a pas d'arborescence.</translation>
+        <translation>Le navigateur IED n&apos;a pas d&apos;arborescence.</translation>
     </message>
     <message>
         <source>The demonstration device has no switch.</source>
-        <translation>L'équipement de démonstration n'a pas d'appareil de coupure.</translation>
+        <translation>L&apos;équipement de démonstration n&apos;a pas d&apos;appareil de coupure.</translation>
     </message>
     <message>
         <source>The context menu did not appear.</source>
-        <translation>Le menu contextuel n'est pas apparu.</translation>
+        <translation>Le menu contextuel n&apos;est pas apparu.</translation>
     </message>
     <message>
         <source>The window &quot;%1&quot; did not appear.</source>
-        <translation>La fenêtre « %1 » n'est pas apparue.</translation>
+        <translation>La fenêtre « %1 » n&apos;est pas apparue.</translation>
     </message>
     <message>
         <source>The journal stayed empty.</source>
@@ -1655,15 +2077,15 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>The IED browser has no entry &quot;%1&quot;.</source>
-        <translation>Le navigateur IED n'a pas d'entrée « %1 ».</translation>
+        <translation>Le navigateur IED n&apos;a pas d&apos;entrée « %1 ».</translation>
     </message>
     <message>
         <source>The picture &quot;%1&quot; cannot be saved.</source>
-        <translation>L'image « %1 » ne peut pas être enregistrée.</translation>
+        <translation>L&apos;image « %1 » ne peut pas être enregistrée.</translation>
     </message>
     <message>
         <source>The simulated device was not connected in time.</source>
-        <translation>L'équipement simulé n'a pas été connecté à temps.</translation>
+        <translation>L&apos;équipement simulé n&apos;a pas été connecté à temps.</translation>
     </message>
 </context>
 <context>
@@ -1678,7 +2100,7 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>Nothing was exchanged with this device yet.</source>
-        <translation>Rien n'a encore été échangé avec cet équipement.</translation>
+        <translation>Rien n&apos;a encore été échangé avec cet équipement.</translation>
     </message>
     <message>
         <source>&amp;Save Capture…</source>
@@ -1720,19 +2142,27 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>%1 is no finite number.</source>
-        <translation>%1 n'est pas un nombre fini.</translation>
+        <translation>%1 n&apos;est pas un nombre fini.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; holds characters that %2 does not have.</source>
-        <translation>« %1 » contient des caractères que %2 n'admet pas.</translation>
+        <translation>« %1 » contient des caractères que %2 n&apos;admet pas.</translation>
     </message>
     <message>
         <source>There is no value to write.</source>
-        <translation>Il n'y a pas de valeur à écrire.</translation>
+        <translation>Il n&apos;y a pas de valeur à écrire.</translation>
     </message>
     <message>
         <source>A value of type %1 cannot be written as a whole.</source>
         <translation>Une valeur de type %1 ne peut pas être écrite en entier.</translation>
+    </message>
+    <message>
+        <source>The text of %1 is longer than can be shown, so it can only be read.</source>
+        <translation>Le texte de %1 est trop long pour être affiché en entier ; il peut donc seulement être lu.</translation>
+    </message>
+    <message>
+        <source>%1 holds octets that are no text, so it can only be read.</source>
+        <translation>%1 contient des octets qui ne sont pas du texte ; il peut donc seulement être lu.</translation>
     </message>
 </context>
 <context>
@@ -1753,12 +2183,20 @@ Apache License 2.0</translation>
         <source>Loading was cancelled.</source>
         <translation>Le chargement a été annulé.</translation>
     </message>
+    <message>
+        <source>Another workbench uses the list of devices in &quot;%1&quot;: what is changed in this one is not kept.</source>
+        <translation>Un autre banc de travail utilise la liste des équipements dans « %1 » : ce qui est modifié dans celui-ci n&apos;est pas conservé.</translation>
+    </message>
+    <message>
+        <source>The list of devices in &quot;%1&quot; cannot be locked: what is changed is not kept.</source>
+        <translation>La liste des équipements dans « %1 » ne peut pas être verrouillée : ce qui est modifié n&apos;est pas conservé.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>The standard output cannot be written.</source>
-        <translation>Impossible d'écrire sur la sortie standard.</translation>
+        <translation>Impossible d&apos;écrire sur la sortie standard.</translation>
     </message>
 </context>
 </TS>

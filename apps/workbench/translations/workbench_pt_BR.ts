@@ -2,6 +2,153 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_BR" sourcelanguage="en_US">
 <context>
+    <name>CallConfirmation</name>
+    <message>
+        <source>Select</source>
+        <translation>Selecionar</translation>
+    </message>
+    <message>
+        <source>Operate</source>
+        <translation>Operar</translation>
+    </message>
+    <message>
+        <source>Write a value</source>
+        <translation>Escrever um valor</translation>
+    </message>
+    <message>
+        <source>Create a data set</source>
+        <translation>Criar um conjunto de dados</translation>
+    </message>
+    <message>
+        <source>Delete a data set</source>
+        <translation>Excluir um conjunto de dados</translation>
+    </message>
+    <message>
+        <source>Delete a file</source>
+        <translation>Excluir um arquivo</translation>
+    </message>
+    <message>
+        <source>Send a file</source>
+        <translation>Enviar um arquivo</translation>
+    </message>
+    <message>
+        <source>Configure a report control block</source>
+        <translation>Configurar um bloco de controle de relatório</translation>
+    </message>
+    <message>
+        <source>Write settings</source>
+        <translation>Escrever ajustes</translation>
+    </message>
+    <message>
+        <source>Choose a setting group to edit</source>
+        <translation>Escolher um grupo de ajustes para edição</translation>
+    </message>
+    <message>
+        <source>Make a setting group the active one</source>
+        <translation>Tornar ativo um grupo de ajustes</translation>
+    </message>
+    <message>
+        <source>not supported</source>
+        <translation>não suportada</translation>
+    </message>
+    <message>
+        <source>bay control</source>
+        <translation>comando do vão</translation>
+    </message>
+    <message>
+        <source>station control</source>
+        <translation>comando da subestação</translation>
+    </message>
+    <message>
+        <source>remote control</source>
+        <translation>comando remoto</translation>
+    </message>
+    <message>
+        <source>automatic bay</source>
+        <translation>automático do vão</translation>
+    </message>
+    <message>
+        <source>automatic station</source>
+        <translation>automático da subestação</translation>
+    </message>
+    <message>
+        <source>automatic remote</source>
+        <translation>automático remoto</translation>
+    </message>
+    <message>
+        <source>maintenance</source>
+        <translation>manutenção</translation>
+    </message>
+    <message>
+        <source>process</source>
+        <translation>processo</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nenhuma</translation>
+    </message>
+    <message>
+        <source>interlocking</source>
+        <translation>intertravamento</translation>
+    </message>
+    <message>
+        <source>synchrocheck</source>
+        <translation>verificação de sincronismo</translation>
+    </message>
+    <message>
+        <source>synchrocheck and interlocking</source>
+        <translation>verificação de sincronismo e intertravamento</translation>
+    </message>
+    <message>
+        <source>Device:</source>
+        <translation>Dispositivo:</translation>
+    </message>
+    <message>
+        <source>Logical device:</source>
+        <translation>Dispositivo lógico:</translation>
+    </message>
+    <message>
+        <source>Object:</source>
+        <translation>Objeto:</translation>
+    </message>
+    <message>
+        <source>Value:</source>
+        <translation>Valor:</translation>
+    </message>
+    <message>
+        <source>Current value:</source>
+        <translation>Valor atual:</translation>
+    </message>
+    <message>
+        <source>as selected</source>
+        <translation>como na seleção</translation>
+    </message>
+    <message>
+        <source>Originator category:</source>
+        <translation>Categoria do originador:</translation>
+    </message>
+    <message>
+        <source>Checks:</source>
+        <translation>Verificações:</translation>
+    </message>
+    <message>
+        <source>Test:</source>
+        <translation>Teste:</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sim</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>não</translation>
+    </message>
+    <message>
+        <source>Nothing was sent, since it was not confirmed.</source>
+        <translation>Nada foi enviado, pois não houve confirmação.</translation>
+    </message>
+</context>
+<context>
     <name>ChangeJournal</name>
     <message>
         <source>The journal &quot;%1&quot; cannot be written: %2</source>
@@ -108,6 +255,17 @@
     </message>
 </context>
 <context>
+    <name>ConfirmationDialog</name>
+    <message>
+        <source>Confirm</source>
+        <translation>Confirmar</translation>
+    </message>
+    <message>
+        <source>&amp;Send to the device</source>
+        <translation>&amp;Enviar ao dispositivo</translation>
+    </message>
+</context>
+<context>
     <name>DeviceConfiguration</name>
     <message>
         <source>The %1 has %2 octets; at most %3 are possible.</source>
@@ -146,7 +304,7 @@
         <translation>“%1” tem a forma incorreta.</translation>
     </message>
     <message>
-        <source>The device's number must be from 1 to %1.</source>
+        <source>The device&apos;s number must be from 1 to %1.</source>
         <translation>O número do dispositivo deve estar entre 1 e %1.</translation>
     </message>
     <message>
@@ -334,7 +492,7 @@
     </message>
     <message>
         <source>Selectors are octets in hexadecimal, for example 00 01. An AP title is an object identifier, for example 1.1.1.999.1; empty fields are not sent.</source>
-        <translation>Os seletores são octetos em hexadecimal, por exemplo 00 01. Um título AP é um identificador de objeto, por exemplo 1.1.1.999.1; campos vazios não são enviados.</translation>
+        <translation>Os seletores são octetos em hexadecimal, por exemplo 00&#xa0;01. Um título AP é um identificador de objeto, por exemplo 1.1.1.999.1; campos vazios não são enviados.</translation>
     </message>
     <message>
         <source>Security</source>
@@ -615,6 +773,22 @@ Conexões: %5</translation>
         <source>Connected: %1</source>
         <translation>Conectado: %1</translation>
     </message>
+    <message>
+        <source>Connected, values not current: %1</source>
+        <translation>Conectado, valores desatualizados: %1</translation>
+    </message>
+    <message>
+        <source>Away since %1</source>
+        <translation>Sem conexão desde %1</translation>
+    </message>
+    <message>
+        <source>Values that are not current: %1, the oldest of %2</source>
+        <translation>Valores desatualizados: %1, o mais antigo de %2</translation>
+    </message>
+    <message>
+        <source>Values that the device denies: %1</source>
+        <translation>Valores que o dispositivo recusa: %1</translation>
+    </message>
 </context>
 <context>
     <name>DeviceStore</name>
@@ -677,7 +851,7 @@ Conexões: %5</translation>
         <translation>Verifique se as bibliotecas necessárias estão instaladas e são da mesma versão.</translation>
     </message>
     <message>
-        <source>The plug-in's object does not have the promised interface.</source>
+        <source>The plug-in&apos;s object does not have the promised interface.</source>
         <translation>O objeto do plug-in não tem a interface prometida.</translation>
     </message>
     <message>
@@ -1021,10 +1195,6 @@ Conexões: %5</translation>
         <translation>Não foi possível ler um relatório do dispositivo: %1</translation>
     </message>
     <message>
-        <source>A report of %1 has %2 members, but its data set has %3.</source>
-        <translation>Um relatório de %1 tem %2 membros, mas o seu conjunto de dados tem %3.</translation>
-    </message>
-    <message>
         <source>The reports of %1 have no value for %2: %3.</source>
         <translation>Os relatórios de %1 não têm valor para %2: %3.</translation>
     </message>
@@ -1041,7 +1211,7 @@ Conexões: %5</translation>
         <translation>habilitado</translation>
     </message>
     <message>
-        <source>The member %1 of the data set of %2 is no data of the device's model.</source>
+        <source>The member %1 of the data set of %2 is no data of the device&apos;s model.</source>
         <translation>O membro %1 do conjunto de dados de %2 não é um dado do modelo do dispositivo.</translation>
     </message>
     <message>
@@ -1117,16 +1287,244 @@ Conexões: %5</translation>
         <translation>%1 não tem o ajuste %2.</translation>
     </message>
     <message>
-        <source>The device has not answered.</source>
-        <translation>O dispositivo não respondeu.</translation>
-    </message>
-    <message>
         <source>%1. The changes are not confirmed.</source>
         <translation>%1. As alterações não foram confirmadas.</translation>
     </message>
     <message>
         <source>%1 has the setting groups 1 to %2; there is no group %3.</source>
         <translation>%1 tem os grupos de ajustes 1 a %2; não há grupo %3.</translation>
+    </message>
+    <message>
+        <source>Another window has selected the object since: select it here first.</source>
+        <translation>Outra janela selecionou o objeto nesse meio-tempo: selecione-o primeiro aqui.</translation>
+    </message>
+    <message>
+        <source>The object was selected for different commands; which one is meant is not known: cancel the selection and select it again.</source>
+        <translation>O objeto foi selecionado para comandos diferentes; não se sabe qual deles se pretende: cancele a seleção e selecione-o novamente.</translation>
+    </message>
+    <message>
+        <source>%1 is no originator category; they go from 0 to 8.</source>
+        <translation>%1 não é uma categoria do originador; elas vão de 0 a 8.</translation>
+    </message>
+    <message>
+        <source>category %1</source>
+        <translation>categoria %1</translation>
+    </message>
+    <message>
+        <source>It is not known whether the object was selected.</source>
+        <translation>Não se sabe se o objeto foi selecionado.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the command was carried out; look at the position.</source>
+        <translation>Não se sabe se o comando foi executado; verifique a posição.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the command was cancelled; look at the position.</source>
+        <translation>Não se sabe se o comando foi cancelado; verifique a posição.</translation>
+    </message>
+    <message>
+        <source>%1 (told late)</source>
+        <translation>%1 (informado com atraso)</translation>
+    </message>
+    <message>
+        <source>%1: the command that was not answered in time was carried out.</source>
+        <translation>%1: o comando que não foi respondido a tempo foi executado.</translation>
+    </message>
+    <message>
+        <source>An internal error of the driver ended the association.</source>
+        <translation>Um erro interno do driver encerrou a associação.</translation>
+    </message>
+    <message>
+        <source>An internal error of the driver ended the association: %1.</source>
+        <translation>Um erro interno do driver encerrou a associação: %1.</translation>
+    </message>
+    <message>
+        <source>The device has not answered earlier requests; the question whether it is there waits for a place behind them.</source>
+        <translation>O dispositivo não respondeu a pedidos anteriores; a pergunta se ele está presente espera um lugar atrás deles.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has %2 characters; the name of a data set has at most %3.</source>
+        <translation>&quot;%1&quot; tem %2 caracteres; o nome de um conjunto de dados tem no máximo %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no functional constraint, which each member of a data set needs.</source>
+        <translation>&quot;%1&quot; não nomeia uma restrição funcional, de que cada membro de um conjunto de dados precisa.</translation>
+    </message>
+    <message>
+        <source>This is not the device that the window was opened for: open it again.</source>
+        <translation>Este não é o dispositivo para o qual a janela foi aberta: abra-a novamente.</translation>
+    </message>
+    <message>
+        <source>The IED %1 of the file has no access point &quot;%2&quot; with a server.</source>
+        <translation>O IED %1 do arquivo não tem ponto de acesso “%2” com um servidor.</translation>
+    </message>
+    <message>
+        <source>The device has none of the logical devices that the file describes for %1, such as %2.</source>
+        <translation>O dispositivo não tem nenhum dos dispositivos lógicos que o arquivo descreve para %1, como %2.</translation>
+    </message>
+    <message>
+        <source>%1 stays open on the device, which has few open files: %2</source>
+        <translation>%1 continua aberto no dispositivo, que admite poucos arquivos abertos: %2</translation>
+    </message>
+    <message>
+        <source>%1 comes too slowly: %2 octets so far, less than %3 in a second.</source>
+        <translation>%1 chega devagar demais: %2 octetos até agora, menos de %3 por segundo.</translation>
+    </message>
+    <message>
+        <source>%1 events of the device were dropped, because they were not taken in time.</source>
+        <translation>Eventos do dispositivo descartados: %1, porque não foram retirados a tempo.</translation>
+    </message>
+    <message>
+        <source>The configuration of the device reserves %1; that cannot be changed.</source>
+        <translation>A configuração do dispositivo reserva %1; isso não pode ser alterado.</translation>
+    </message>
+    <message>
+        <source>%1 was not enabled in time.</source>
+        <translation>%1 não foi habilitado a tempo.</translation>
+    </message>
+    <message>
+        <source>%1 It was left alone.</source>
+        <translation>%1 Ele foi deixado como estava.</translation>
+    </message>
+    <message>
+        <source>without sequence numbers lost reports cannot be noticed</source>
+        <translation>sem números de sequência não é possível notar relatórios perdidos</translation>
+    </message>
+    <message>
+        <source>%1 could not be enabled, and this was left behind as it was written: %2.</source>
+        <translation>Não foi possível habilitar %1, e isto ficou como foi escrito: %2.</translation>
+    </message>
+    <message>
+        <source>no longer waited for</source>
+        <translation>não é mais aguardado</translation>
+    </message>
+    <message>
+        <source>member %1</source>
+        <translation>membro %1</translation>
+    </message>
+    <message>
+        <source>Reports of %1 are missing; its data set is read whole.</source>
+        <translation>Faltam relatórios de %1; o seu conjunto de dados é lido inteiro.</translation>
+    </message>
+    <message>
+        <source>Parts of a report of %1 are missing; its data set is read whole.</source>
+        <translation>Faltam partes de um relatório de %1; o seu conjunto de dados é lido inteiro.</translation>
+    </message>
+    <message>
+        <source>The device does not know the last entry of %1 any more: changes since then may be lost, or come again.</source>
+        <translation>O dispositivo não conhece mais a última entrada de %1: as mudanças desde então podem estar perdidas ou chegar novamente.</translation>
+    </message>
+    <message>
+        <source>A report of %1 is of another data set than the block had when it was enabled.</source>
+        <translation>Um relatório de %1 é de um conjunto de dados diferente do que o bloco tinha quando foi habilitado.</translation>
+    </message>
+    <message>
+        <source>A report of the device may be of %1 or of another block with other data; it was not taken.</source>
+        <translation>Um relatório do dispositivo pode ser de %1 ou de outro bloco com outros dados; ele não foi aceito.</translation>
+    </message>
+    <message>
+        <source>The device described %1 in parts only, so what the reports of %2 say of it cannot be understood; it is polled.</source>
+        <translation>O dispositivo descreveu %1 apenas em parte, por isso não é possível compreender o que os relatórios de %2 dizem a respeito; a leitura é feita por varredura.</translation>
+    </message>
+    <message>
+        <source>The data set of %1 cannot be read: %2</source>
+        <translation>O conjunto de dados de %1 não pode ser lido: %2</translation>
+    </message>
+    <message>
+        <source>The data set of %1 has %2 members instead of %3.</source>
+        <translation>O conjunto de dados de %1 tem %2 membros em vez de %3.</translation>
+    </message>
+    <message>
+        <source>The data set of %1 has no value for %2: %3.</source>
+        <translation>O conjunto de dados de %1 não tem valor para %2: %3.</translation>
+    </message>
+    <message>
+        <source>A value of %1 in the data set of %2 does not have the form of its type.</source>
+        <translation>Um valor de %1 no conjunto de dados de %2 não tem a forma do seu tipo.</translation>
+    </message>
+    <message>
+        <source>%1 is enabled by another client, which the device does not name.</source>
+        <translation>%1 está habilitado por outro cliente, que o dispositivo não identifica.</translation>
+    </message>
+    <message>
+        <source>%1 is reserved by another client, which the device does not name.</source>
+        <translation>%1 está reservado por outro cliente, que o dispositivo não identifica.</translation>
+    </message>
+    <message>
+        <source>%1 is enabled by the client %2.</source>
+        <translation>%1 está habilitado pelo cliente %2.</translation>
+    </message>
+    <message>
+        <source>%1 is reserved by the client %2.</source>
+        <translation>%1 está reservado pelo cliente %2.</translation>
+    </message>
+    <message>
+        <source>%1 is enabled by another association of this computer (%2).</source>
+        <translation>%1 está habilitado por outra associação deste computador (%2).</translation>
+    </message>
+    <message>
+        <source>%1 is reserved by another association of this computer (%2).</source>
+        <translation>%1 está reservado por outra associação deste computador (%2).</translation>
+    </message>
+    <message>
+        <source>Another client is editing group %1 of %2.</source>
+        <translation>Outro cliente está editando o grupo %1 de %2.</translation>
+    </message>
+    <message>
+        <source>Group %1 of %2 was chosen for editing in another window: select the group to edit first.</source>
+        <translation>O grupo %1 de %2 foi escolhido para edição em outra janela: selecione primeiro o grupo em edição.</translation>
+    </message>
+    <message>
+        <source>The device has given up the edit of group %1 of %2: select the group to edit again.</source>
+        <translation>O dispositivo abandonou a edição do grupo %1 de %2: selecione novamente o grupo em edição.</translation>
+    </message>
+    <message>
+        <source>%1 has no settings that can be edited: the device describes none under SE.</source>
+        <translation>%1 não tem ajustes que possam ser editados: o dispositivo não descreve nenhum sob SE.</translation>
+    </message>
+    <message>
+        <source>%1 It is not known whether the changes of group %2 were taken over: select the group and look.</source>
+        <translation>%1 Não se sabe se as alterações do grupo %2 foram assumidas: selecione o grupo e verifique.</translation>
+    </message>
+    <message>
+        <source>These are the settings of the active group; choose the group to edit first.</source>
+        <translation>Estes são os ajustes do grupo ativo; escolha primeiro o grupo em edição.</translation>
+    </message>
+    <message>
+        <source>%1 has accepted group %2, but group %3 is still the active one.</source>
+        <translation>%1 aceitou o grupo %2, mas o grupo %3 ainda é o ativo.</translation>
+    </message>
+    <message>
+        <source>%1 Group %2 is the active one.</source>
+        <translation>%1 O grupo %2 é o ativo.</translation>
+    </message>
+    <message>
+        <source>%1 It is not known whether group %2 became active: look at the active group.</source>
+        <translation>%1 Não se sabe se o grupo %2 se tornou ativo: verifique o grupo ativo.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 It is not known whether the device is editing group %2: select the group to edit again.</source>
+        <translation>%1 Não se sabe se o dispositivo está editando o grupo %2: selecione novamente o grupo em edição.</translation>
+    </message>
+    <message>
+        <source>%1; it is not known whether the setting was written.</source>
+        <translation>%1; não se sabe se o ajuste foi escrito.</translation>
+    </message>
+    <message>
+        <source>Values that are not current since %1: %2. The device does not answer when it is asked for %3.</source>
+        <translation>Valores não atuais desde %1: %2. O dispositivo não responde quando lhe é pedido %3.</translation>
+    </message>
+    <message>
+        <source>Values that are not current since %1: %2. The device cannot give %3 for the moment.</source>
+        <translation>Valores não atuais desde %1: %2. O dispositivo não pode dar %3 no momento.</translation>
+    </message>
+    <message>
+        <source>Values that the device refuses and that are not asked for again: %1 (%2).</source>
+        <translation>Valores que o dispositivo recusa e que não são pedidos de novo: %1 (%2).</translation>
     </message>
 </context>
 <context>
@@ -1534,6 +1932,30 @@ Apache License 2.0</translation>
         <source>The SCL file of this device was only compared with the device. Open it as an SCL file to see its findings.</source>
         <translation>O arquivo SCL deste dispositivo foi apenas comparado com o dispositivo. Abra-o como arquivo SCL para ver as suas constatações.</translation>
     </message>
+    <message>
+        <source>&amp;Confirm</source>
+        <translation>Con&amp;firmar</translation>
+    </message>
+    <message>
+        <source>&amp;Commands before they are sent</source>
+        <translation>&amp;Comandos antes do envio</translation>
+    </message>
+    <message>
+        <source>&amp;Everything that changes a device</source>
+        <translation>&amp;Tudo o que altera um dispositivo</translation>
+    </message>
+    <message>
+        <source>&amp;Nothing</source>
+        <translation>&amp;Nada</translation>
+    </message>
+    <message>
+        <source>%1 is away since %2</source>
+        <translation>%1 está sem conexão desde %2</translation>
+    </message>
+    <message>
+        <source>Devices away: %1, the first since %2</source>
+        <translation>Dispositivos sem conexão: %1, o primeiro desde %2</translation>
+    </message>
 </context>
 <context>
     <name>OfflineDriverService</name>
@@ -1734,6 +2156,14 @@ Apache License 2.0</translation>
         <source>A value of type %1 cannot be written as a whole.</source>
         <translation>Um valor do tipo %1 não pode ser escrito inteiro.</translation>
     </message>
+    <message>
+        <source>The text of %1 is longer than can be shown, so it can only be read.</source>
+        <translation>O texto de %1 é mais longo do que se pode mostrar, por isso só pode ser lido.</translation>
+    </message>
+    <message>
+        <source>%1 holds octets that are no text, so it can only be read.</source>
+        <translation>%1 contém octetos que não são texto, por isso só pode ser lido.</translation>
+    </message>
 </context>
 <context>
     <name>Workbench</name>
@@ -1752,6 +2182,14 @@ Apache License 2.0</translation>
     <message>
         <source>Loading was cancelled.</source>
         <translation>O carregamento foi cancelado.</translation>
+    </message>
+    <message>
+        <source>Another workbench uses the list of devices in &quot;%1&quot;: what is changed in this one is not kept.</source>
+        <translation>Outra bancada usa a lista de dispositivos em “%1”: o que for alterado nesta não será mantido.</translation>
+    </message>
+    <message>
+        <source>The list of devices in &quot;%1&quot; cannot be locked: what is changed is not kept.</source>
+        <translation>A lista de dispositivos em “%1” não pode ser bloqueada: o que for alterado não será mantido.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,153 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU" sourcelanguage="en_US">
 <context>
+    <name>CallConfirmation</name>
+    <message>
+        <source>Select</source>
+        <translation>Выбрать</translation>
+    </message>
+    <message>
+        <source>Operate</source>
+        <translation>Исполнить</translation>
+    </message>
+    <message>
+        <source>Write a value</source>
+        <translation>Записать значение</translation>
+    </message>
+    <message>
+        <source>Create a data set</source>
+        <translation>Создать набор данных</translation>
+    </message>
+    <message>
+        <source>Delete a data set</source>
+        <translation>Удалить набор данных</translation>
+    </message>
+    <message>
+        <source>Delete a file</source>
+        <translation>Удалить файл</translation>
+    </message>
+    <message>
+        <source>Send a file</source>
+        <translation>Передать файл</translation>
+    </message>
+    <message>
+        <source>Configure a report control block</source>
+        <translation>Настроить блок управления отчётом</translation>
+    </message>
+    <message>
+        <source>Write settings</source>
+        <translation>Записать уставки</translation>
+    </message>
+    <message>
+        <source>Choose a setting group to edit</source>
+        <translation>Выбрать изменяемую группу уставок</translation>
+    </message>
+    <message>
+        <source>Make a setting group the active one</source>
+        <translation>Сделать группу уставок активной</translation>
+    </message>
+    <message>
+        <source>not supported</source>
+        <translation>не поддерживается</translation>
+    </message>
+    <message>
+        <source>bay control</source>
+        <translation>управление с присоединения</translation>
+    </message>
+    <message>
+        <source>station control</source>
+        <translation>управление с подстанции</translation>
+    </message>
+    <message>
+        <source>remote control</source>
+        <translation>дистанционное управление</translation>
+    </message>
+    <message>
+        <source>automatic bay</source>
+        <translation>автоматика присоединения</translation>
+    </message>
+    <message>
+        <source>automatic station</source>
+        <translation>автоматика подстанции</translation>
+    </message>
+    <message>
+        <source>automatic remote</source>
+        <translation>удалённая автоматика</translation>
+    </message>
+    <message>
+        <source>maintenance</source>
+        <translation>техническое обслуживание</translation>
+    </message>
+    <message>
+        <source>process</source>
+        <translation>процесс</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>нет</translation>
+    </message>
+    <message>
+        <source>interlocking</source>
+        <translation>блокировка</translation>
+    </message>
+    <message>
+        <source>synchrocheck</source>
+        <translation>контроль синхронизма</translation>
+    </message>
+    <message>
+        <source>synchrocheck and interlocking</source>
+        <translation>контроль синхронизма и блокировка</translation>
+    </message>
+    <message>
+        <source>Device:</source>
+        <translation>Устройство:</translation>
+    </message>
+    <message>
+        <source>Logical device:</source>
+        <translation>Логическое устройство:</translation>
+    </message>
+    <message>
+        <source>Object:</source>
+        <translation>Объект:</translation>
+    </message>
+    <message>
+        <source>Value:</source>
+        <translation>Значение:</translation>
+    </message>
+    <message>
+        <source>Current value:</source>
+        <translation>Текущее значение:</translation>
+    </message>
+    <message>
+        <source>as selected</source>
+        <translation>как при выборе</translation>
+    </message>
+    <message>
+        <source>Originator category:</source>
+        <translation>Категория инициатора:</translation>
+    </message>
+    <message>
+        <source>Checks:</source>
+        <translation>Проверки:</translation>
+    </message>
+    <message>
+        <source>Test:</source>
+        <translation>Тест:</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>да</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>нет</translation>
+    </message>
+    <message>
+        <source>Nothing was sent, since it was not confirmed.</source>
+        <translation>Ничего не отправлено, так как подтверждения не было.</translation>
+    </message>
+</context>
+<context>
     <name>ChangeJournal</name>
     <message>
         <source>The journal &quot;%1&quot; cannot be written: %2</source>
@@ -108,6 +255,17 @@
     </message>
 </context>
 <context>
+    <name>ConfirmationDialog</name>
+    <message>
+        <source>Confirm</source>
+        <translation>Подтверждение</translation>
+    </message>
+    <message>
+        <source>&amp;Send to the device</source>
+        <translation>От&amp;править на устройство</translation>
+    </message>
+</context>
+<context>
     <name>DeviceConfiguration</name>
     <message>
         <source>The %1 has %2 octets; at most %3 are possible.</source>
@@ -146,7 +304,7 @@
         <translation>«%1» имеет неверный вид.</translation>
     </message>
     <message>
-        <source>The device's number must be from 1 to %1.</source>
+        <source>The device&apos;s number must be from 1 to %1.</source>
         <translation>Номер устройства должен быть от 1 до %1.</translation>
     </message>
     <message>
@@ -334,7 +492,7 @@
     </message>
     <message>
         <source>Selectors are octets in hexadecimal, for example 00 01. An AP title is an object identifier, for example 1.1.1.999.1; empty fields are not sent.</source>
-        <translation>Селекторы записываются октетами в шестнадцатеричном виде, например 00 01. Заголовок AP — это идентификатор объекта, например 1.1.1.999.1; пустые поля не передаются.</translation>
+        <translation>Селекторы записываются октетами в шестнадцатеричном виде, например 00&#xa0;01. Заголовок AP — это идентификатор объекта, например 1.1.1.999.1; пустые поля не передаются.</translation>
     </message>
     <message>
         <source>Security</source>
@@ -615,6 +773,22 @@ Connections: %5</source>
         <source>Connected: %1</source>
         <translation>На связи: %1</translation>
     </message>
+    <message>
+        <source>Connected, values not current: %1</source>
+        <translation>На связи, неактуальных значений: %1</translation>
+    </message>
+    <message>
+        <source>Away since %1</source>
+        <translation>Нет связи с %1</translation>
+    </message>
+    <message>
+        <source>Values that are not current: %1, the oldest of %2</source>
+        <translation>Неактуальных значений: %1, самое старое от %2</translation>
+    </message>
+    <message>
+        <source>Values that the device denies: %1</source>
+        <translation>Значений, в которых устройство отказывает: %1</translation>
+    </message>
 </context>
 <context>
     <name>DeviceStore</name>
@@ -677,7 +851,7 @@ Connections: %5</source>
         <translation>Убедитесь, что нужные ему библиотеки установлены и относятся к той же версии.</translation>
     </message>
     <message>
-        <source>The plug-in's object does not have the promised interface.</source>
+        <source>The plug-in&apos;s object does not have the promised interface.</source>
         <translation>У объекта модуля нет обещанного интерфейса.</translation>
     </message>
     <message>
@@ -1021,10 +1195,6 @@ Connections: %5</source>
         <translation>Отчёт устройства не удалось прочитать: %1</translation>
     </message>
     <message>
-        <source>A report of %1 has %2 members, but its data set has %3.</source>
-        <translation>Элементов в отчёте %1: %2, а в его наборе данных: %3.</translation>
-    </message>
-    <message>
         <source>The reports of %1 have no value for %2: %3.</source>
         <translation>В отчётах %1 нет значения для %2: %3.</translation>
     </message>
@@ -1041,7 +1211,7 @@ Connections: %5</source>
         <translation>включён</translation>
     </message>
     <message>
-        <source>The member %1 of the data set of %2 is no data of the device's model.</source>
+        <source>The member %1 of the data set of %2 is no data of the device&apos;s model.</source>
         <translation>Элемента %1 набора данных %2 нет в модели устройства.</translation>
     </message>
     <message>
@@ -1117,16 +1287,244 @@ Connections: %5</source>
         <translation>В %1 нет уставки %2.</translation>
     </message>
     <message>
-        <source>The device has not answered.</source>
-        <translation>Устройство не ответило.</translation>
-    </message>
-    <message>
         <source>%1. The changes are not confirmed.</source>
         <translation>%1. Изменения не подтверждены.</translation>
     </message>
     <message>
         <source>%1 has the setting groups 1 to %2; there is no group %3.</source>
         <translation>В %1 группы уставок от 1 до %2; группы %3 нет.</translation>
+    </message>
+    <message>
+        <source>Another window has selected the object since: select it here first.</source>
+        <translation>Тем временем объект выбран в другом окне: сначала выберите его здесь.</translation>
+    </message>
+    <message>
+        <source>The object was selected for different commands; which one is meant is not known: cancel the selection and select it again.</source>
+        <translation>Объект был выбран для разных команд; какая из них имеется в виду, неизвестно: отмените выбор и выберите его снова.</translation>
+    </message>
+    <message>
+        <source>%1 is no originator category; they go from 0 to 8.</source>
+        <translation>%1 не является категорией инициатора; допустимы категории от 0 до 8.</translation>
+    </message>
+    <message>
+        <source>category %1</source>
+        <translation>категория %1</translation>
+    </message>
+    <message>
+        <source>It is not known whether the object was selected.</source>
+        <translation>Неизвестно, был ли выбран объект.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the command was carried out; look at the position.</source>
+        <translation>Неизвестно, была ли исполнена команда; проверьте положение.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the command was cancelled; look at the position.</source>
+        <translation>Неизвестно, была ли отменена команда; проверьте положение.</translation>
+    </message>
+    <message>
+        <source>%1 (told late)</source>
+        <translation>%1 (сообщено с опозданием)</translation>
+    </message>
+    <message>
+        <source>%1: the command that was not answered in time was carried out.</source>
+        <translation>%1: команда, на которую не было ответа вовремя, исполнена.</translation>
+    </message>
+    <message>
+        <source>An internal error of the driver ended the association.</source>
+        <translation>Внутренняя ошибка драйвера завершила ассоциацию.</translation>
+    </message>
+    <message>
+        <source>An internal error of the driver ended the association: %1.</source>
+        <translation>Внутренняя ошибка драйвера завершила ассоциацию: %1.</translation>
+    </message>
+    <message>
+        <source>The device has not answered earlier requests; the question whether it is there waits for a place behind them.</source>
+        <translation>Устройство не ответило на прежние запросы; вопрос о том, доступно ли оно, ждёт места за ними.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has %2 characters; the name of a data set has at most %3.</source>
+        <translation>«%1» содержит %2 символов; имя набора данных содержит не более %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no functional constraint, which each member of a data set needs.</source>
+        <translation>«%1» не называет функциональное ограничение, которое нужно каждому элементу набора данных.</translation>
+    </message>
+    <message>
+        <source>This is not the device that the window was opened for: open it again.</source>
+        <translation>Это не то устройство, для которого было открыто окно: откройте его снова.</translation>
+    </message>
+    <message>
+        <source>The IED %1 of the file has no access point &quot;%2&quot; with a server.</source>
+        <translation>У ИЭУ %1 из файла нет точки доступа «%2» с сервером.</translation>
+    </message>
+    <message>
+        <source>The device has none of the logical devices that the file describes for %1, such as %2.</source>
+        <translation>В устройстве нет ни одного из логических устройств, которые файл описывает для %1, например %2.</translation>
+    </message>
+    <message>
+        <source>%1 stays open on the device, which has few open files: %2</source>
+        <translation>%1 остаётся открытым на устройстве, которое допускает мало открытых файлов: %2</translation>
+    </message>
+    <message>
+        <source>%1 comes too slowly: %2 octets so far, less than %3 in a second.</source>
+        <translation>%1 поступает слишком медленно: пока %2 октетов, меньше %3 в секунду.</translation>
+    </message>
+    <message>
+        <source>%1 events of the device were dropped, because they were not taken in time.</source>
+        <translation>Отброшено событий устройства: %1, так как их не забрали вовремя.</translation>
+    </message>
+    <message>
+        <source>The configuration of the device reserves %1; that cannot be changed.</source>
+        <translation>%1 зарезервирован конфигурацией устройства; изменить это нельзя.</translation>
+    </message>
+    <message>
+        <source>%1 was not enabled in time.</source>
+        <translation>%1 не удалось включить вовремя.</translation>
+    </message>
+    <message>
+        <source>%1 It was left alone.</source>
+        <translation>%1 Он оставлен как есть.</translation>
+    </message>
+    <message>
+        <source>without sequence numbers lost reports cannot be noticed</source>
+        <translation>без порядковых номеров потерю отчётов заметить нельзя</translation>
+    </message>
+    <message>
+        <source>%1 could not be enabled, and this was left behind as it was written: %2.</source>
+        <translation>%1 не удалось включить, и вот что осталось так, как было записано: %2.</translation>
+    </message>
+    <message>
+        <source>no longer waited for</source>
+        <translation>ожидание прекращено</translation>
+    </message>
+    <message>
+        <source>member %1</source>
+        <translation>элемент %1</translation>
+    </message>
+    <message>
+        <source>Reports of %1 are missing; its data set is read whole.</source>
+        <translation>Не хватает отчётов %1; его набор данных читается целиком.</translation>
+    </message>
+    <message>
+        <source>Parts of a report of %1 are missing; its data set is read whole.</source>
+        <translation>Не хватает частей отчёта %1; его набор данных читается целиком.</translation>
+    </message>
+    <message>
+        <source>The device does not know the last entry of %1 any more: changes since then may be lost, or come again.</source>
+        <translation>Устройство больше не помнит последнюю запись %1: изменения с тех пор могут быть потеряны или прийти повторно.</translation>
+    </message>
+    <message>
+        <source>A report of %1 is of another data set than the block had when it was enabled.</source>
+        <translation>Отчёт %1 относится не к тому набору данных, который был у блока при включении.</translation>
+    </message>
+    <message>
+        <source>A report of the device may be of %1 or of another block with other data; it was not taken.</source>
+        <translation>Отчёт устройства может относиться к %1 или к другому блоку с другими данными; он не принят.</translation>
+    </message>
+    <message>
+        <source>The device described %1 in parts only, so what the reports of %2 say of it cannot be understood; it is polled.</source>
+        <translation>Устройство описало %1 лишь частично, поэтому то, что о нём сообщают отчёты %2, понять нельзя; значения читаются опросом.</translation>
+    </message>
+    <message>
+        <source>The data set of %1 cannot be read: %2</source>
+        <translation>Набор данных %1 не читается: %2</translation>
+    </message>
+    <message>
+        <source>The data set of %1 has %2 members instead of %3.</source>
+        <translation>Элементов в наборе данных %1: %2 вместо %3.</translation>
+    </message>
+    <message>
+        <source>The data set of %1 has no value for %2: %3.</source>
+        <translation>В наборе данных %1 нет значения для %2: %3.</translation>
+    </message>
+    <message>
+        <source>A value of %1 in the data set of %2 does not have the form of its type.</source>
+        <translation>Значение %1 в наборе данных %2 не соответствует своему типу.</translation>
+    </message>
+    <message>
+        <source>%1 is enabled by another client, which the device does not name.</source>
+        <translation>%1 включён другим клиентом, которого устройство не называет.</translation>
+    </message>
+    <message>
+        <source>%1 is reserved by another client, which the device does not name.</source>
+        <translation>%1 зарезервирован другим клиентом, которого устройство не называет.</translation>
+    </message>
+    <message>
+        <source>%1 is enabled by the client %2.</source>
+        <translation>%1 включён клиентом %2.</translation>
+    </message>
+    <message>
+        <source>%1 is reserved by the client %2.</source>
+        <translation>%1 зарезервирован клиентом %2.</translation>
+    </message>
+    <message>
+        <source>%1 is enabled by another association of this computer (%2).</source>
+        <translation>%1 включён другой ассоциацией этого компьютера (%2).</translation>
+    </message>
+    <message>
+        <source>%1 is reserved by another association of this computer (%2).</source>
+        <translation>%1 зарезервирован другой ассоциацией этого компьютера (%2).</translation>
+    </message>
+    <message>
+        <source>Another client is editing group %1 of %2.</source>
+        <translation>Другой клиент изменяет группу %1 в %2.</translation>
+    </message>
+    <message>
+        <source>Group %1 of %2 was chosen for editing in another window: select the group to edit first.</source>
+        <translation>Группа %1 в %2 выбрана для изменения в другом окне: сначала выберите изменяемую группу.</translation>
+    </message>
+    <message>
+        <source>The device has given up the edit of group %1 of %2: select the group to edit again.</source>
+        <translation>Устройство прекратило изменение группы %1 в %2: выберите изменяемую группу снова.</translation>
+    </message>
+    <message>
+        <source>%1 has no settings that can be edited: the device describes none under SE.</source>
+        <translation>В %1 нет уставок, которые можно изменять: под SE устройство не описывает ни одной.</translation>
+    </message>
+    <message>
+        <source>%1 It is not known whether the changes of group %2 were taken over: select the group and look.</source>
+        <translation>%1 Неизвестно, были ли приняты изменения группы %2: выберите эту группу и проверьте.</translation>
+    </message>
+    <message>
+        <source>These are the settings of the active group; choose the group to edit first.</source>
+        <translation>Это уставки активной группы; сначала выберите изменяемую группу.</translation>
+    </message>
+    <message>
+        <source>%1 has accepted group %2, but group %3 is still the active one.</source>
+        <translation>%1: группа %2 принята, но активной остаётся группа %3.</translation>
+    </message>
+    <message>
+        <source>%1 Group %2 is the active one.</source>
+        <translation>%1 Активна группа %2.</translation>
+    </message>
+    <message>
+        <source>%1 It is not known whether group %2 became active: look at the active group.</source>
+        <translation>%1 Неизвестно, стала ли активной группа %2: проверьте активную группу.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 It is not known whether the device is editing group %2: select the group to edit again.</source>
+        <translation>%1 Неизвестно, находится ли группа %2 на устройстве в режиме изменения: выберите изменяемую группу снова.</translation>
+    </message>
+    <message>
+        <source>%1; it is not known whether the setting was written.</source>
+        <translation>%1; неизвестно, была ли записана уставка.</translation>
+    </message>
+    <message>
+        <source>Values that are not current since %1: %2. The device does not answer when it is asked for %3.</source>
+        <translation>Неактуальные значения с %1: %2. Устройство не отвечает на запрос %3.</translation>
+    </message>
+    <message>
+        <source>Values that are not current since %1: %2. The device cannot give %3 for the moment.</source>
+        <translation>Неактуальные значения с %1: %2. Устройство сейчас не может дать %3.</translation>
+    </message>
+    <message>
+        <source>Values that the device refuses and that are not asked for again: %1 (%2).</source>
+        <translation>Значения, в которых устройство отказывает и которые больше не запрашиваются: %1 (%2).</translation>
     </message>
 </context>
 <context>
@@ -1534,6 +1932,30 @@ Apache License 2.0</translation>
         <source>The SCL file of this device was only compared with the device. Open it as an SCL file to see its findings.</source>
         <translation>Файл SCL этого устройства только сравнивался с самим устройством. Чтобы увидеть замечания к нему, откройте его как файл SCL.</translation>
     </message>
+    <message>
+        <source>&amp;Confirm</source>
+        <translation>Подт&amp;верждать</translation>
+    </message>
+    <message>
+        <source>&amp;Commands before they are sent</source>
+        <translation>&amp;Команды перед отправкой</translation>
+    </message>
+    <message>
+        <source>&amp;Everything that changes a device</source>
+        <translation>&amp;Всё, что меняет устройство</translation>
+    </message>
+    <message>
+        <source>&amp;Nothing</source>
+        <translation>&amp;Ничего</translation>
+    </message>
+    <message>
+        <source>%1 is away since %2</source>
+        <translation>%1: нет связи с %2</translation>
+    </message>
+    <message>
+        <source>Devices away: %1, the first since %2</source>
+        <translation>Устройств без связи: %1, первое с %2</translation>
+    </message>
 </context>
 <context>
     <name>OfflineDriverService</name>
@@ -1734,6 +2156,14 @@ Apache License 2.0</translation>
         <source>A value of type %1 cannot be written as a whole.</source>
         <translation>Значение типа %1 нельзя записать целиком.</translation>
     </message>
+    <message>
+        <source>The text of %1 is longer than can be shown, so it can only be read.</source>
+        <translation>Текст %1 длиннее, чем можно показать, поэтому его можно только читать.</translation>
+    </message>
+    <message>
+        <source>%1 holds octets that are no text, so it can only be read.</source>
+        <translation>%1 содержит октеты, не являющиеся текстом, поэтому доступно только чтение.</translation>
+    </message>
 </context>
 <context>
     <name>Workbench</name>
@@ -1752,6 +2182,14 @@ Apache License 2.0</translation>
     <message>
         <source>Loading was cancelled.</source>
         <translation>Загрузка отменена.</translation>
+    </message>
+    <message>
+        <source>Another workbench uses the list of devices in &quot;%1&quot;: what is changed in this one is not kept.</source>
+        <translation>Список устройств в «%1» использует другой рабочий стенд: изменения в этом стенде не сохраняются.</translation>
+    </message>
+    <message>
+        <source>The list of devices in &quot;%1&quot; cannot be locked: what is changed is not kept.</source>
+        <translation>Список устройств в «%1» не удаётся заблокировать: изменения не сохраняются.</translation>
     </message>
 </context>
 <context>

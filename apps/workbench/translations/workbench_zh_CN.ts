@@ -2,6 +2,153 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
+    <name>CallConfirmation</name>
+    <message>
+        <source>Select</source>
+        <translation>选择</translation>
+    </message>
+    <message>
+        <source>Operate</source>
+        <translation>执行</translation>
+    </message>
+    <message>
+        <source>Write a value</source>
+        <translation>写入值</translation>
+    </message>
+    <message>
+        <source>Create a data set</source>
+        <translation>创建数据集</translation>
+    </message>
+    <message>
+        <source>Delete a data set</source>
+        <translation>删除数据集</translation>
+    </message>
+    <message>
+        <source>Delete a file</source>
+        <translation>删除文件</translation>
+    </message>
+    <message>
+        <source>Send a file</source>
+        <translation>发送文件</translation>
+    </message>
+    <message>
+        <source>Configure a report control block</source>
+        <translation>配置报告控制块</translation>
+    </message>
+    <message>
+        <source>Write settings</source>
+        <translation>写入定值</translation>
+    </message>
+    <message>
+        <source>Choose a setting group to edit</source>
+        <translation>选择编辑定值组</translation>
+    </message>
+    <message>
+        <source>Make a setting group the active one</source>
+        <translation>将定值组设为当前定值组</translation>
+    </message>
+    <message>
+        <source>not supported</source>
+        <translation>不支持</translation>
+    </message>
+    <message>
+        <source>bay control</source>
+        <translation>间隔控制</translation>
+    </message>
+    <message>
+        <source>station control</source>
+        <translation>站控制</translation>
+    </message>
+    <message>
+        <source>remote control</source>
+        <translation>远方控制</translation>
+    </message>
+    <message>
+        <source>automatic bay</source>
+        <translation>间隔自动</translation>
+    </message>
+    <message>
+        <source>automatic station</source>
+        <translation>站自动</translation>
+    </message>
+    <message>
+        <source>automatic remote</source>
+        <translation>远方自动</translation>
+    </message>
+    <message>
+        <source>maintenance</source>
+        <translation>维护</translation>
+    </message>
+    <message>
+        <source>process</source>
+        <translation>过程</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>interlocking</source>
+        <translation>联锁</translation>
+    </message>
+    <message>
+        <source>synchrocheck</source>
+        <translation>同期检查</translation>
+    </message>
+    <message>
+        <source>synchrocheck and interlocking</source>
+        <translation>同期检查和联锁</translation>
+    </message>
+    <message>
+        <source>Device:</source>
+        <translation>设备：</translation>
+    </message>
+    <message>
+        <source>Logical device:</source>
+        <translation>逻辑设备：</translation>
+    </message>
+    <message>
+        <source>Object:</source>
+        <translation>对象：</translation>
+    </message>
+    <message>
+        <source>Value:</source>
+        <translation>值：</translation>
+    </message>
+    <message>
+        <source>Current value:</source>
+        <translation>当前值：</translation>
+    </message>
+    <message>
+        <source>as selected</source>
+        <translation>与选择时相同</translation>
+    </message>
+    <message>
+        <source>Originator category:</source>
+        <translation>源发者类别：</translation>
+    </message>
+    <message>
+        <source>Checks:</source>
+        <translation>检查：</translation>
+    </message>
+    <message>
+        <source>Test:</source>
+        <translation>测试：</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>Nothing was sent, since it was not confirmed.</source>
+        <translation>未经确认，因此没有发送任何内容。</translation>
+    </message>
+</context>
+<context>
     <name>ChangeJournal</name>
     <message>
         <source>The journal &quot;%1&quot; cannot be written: %2</source>
@@ -108,6 +255,17 @@
     </message>
 </context>
 <context>
+    <name>ConfirmationDialog</name>
+    <message>
+        <source>Confirm</source>
+        <translation>确认</translation>
+    </message>
+    <message>
+        <source>&amp;Send to the device</source>
+        <translation>发送到设备(&amp;S)</translation>
+    </message>
+</context>
+<context>
     <name>DeviceConfiguration</name>
     <message>
         <source>The %1 has %2 octets; at most %3 are possible.</source>
@@ -146,7 +304,7 @@
         <translation>“%1”的形式不正确。</translation>
     </message>
     <message>
-        <source>The device's number must be from 1 to %1.</source>
+        <source>The device&apos;s number must be from 1 to %1.</source>
         <translation>设备编号必须为 1 到 %1。</translation>
     </message>
     <message>
@@ -334,7 +492,7 @@
     </message>
     <message>
         <source>Selectors are octets in hexadecimal, for example 00 01. An AP title is an object identifier, for example 1.1.1.999.1; empty fields are not sent.</source>
-        <translation>选择符以十六进制八位字节书写，例如 00 01。AP 标题是对象标识符，例如 1.1.1.999.1；空字段不发送。</translation>
+        <translation>选择符以十六进制八位字节书写，例如 00&#xa0;01。AP 标题是对象标识符，例如 1.1.1.999.1；空字段不发送。</translation>
     </message>
     <message>
         <source>Security</source>
@@ -615,6 +773,22 @@ Connections: %5</source>
         <source>Connected: %1</source>
         <translation>已连接：%1</translation>
     </message>
+    <message>
+        <source>Connected, values not current: %1</source>
+        <translation>已连接，非最新的值：%1</translation>
+    </message>
+    <message>
+        <source>Away since %1</source>
+        <translation>自 %1 起失去连接</translation>
+    </message>
+    <message>
+        <source>Values that are not current: %1, the oldest of %2</source>
+        <translation>非最新的值：%1，其中最早的为 %2</translation>
+    </message>
+    <message>
+        <source>Values that the device denies: %1</source>
+        <translation>设备拒绝提供的值：%1</translation>
+    </message>
 </context>
 <context>
     <name>DeviceStore</name>
@@ -677,7 +851,7 @@ Connections: %5</source>
         <translation>请确认它所需的库已安装且版本一致。</translation>
     </message>
     <message>
-        <source>The plug-in's object does not have the promised interface.</source>
+        <source>The plug-in&apos;s object does not have the promised interface.</source>
         <translation>插件对象没有所承诺的接口。</translation>
     </message>
     <message>
@@ -1021,10 +1195,6 @@ Connections: %5</source>
         <translation>无法读取设备的一个报告：%1</translation>
     </message>
     <message>
-        <source>A report of %1 has %2 members, but its data set has %3.</source>
-        <translation>%1 的报告有 %2 个成员，而其数据集有 %3 个。</translation>
-    </message>
-    <message>
         <source>The reports of %1 have no value for %2: %3.</source>
         <translation>%1 的报告中没有 %2 的值：%3。</translation>
     </message>
@@ -1041,7 +1211,7 @@ Connections: %5</source>
         <translation>使能</translation>
     </message>
     <message>
-        <source>The member %1 of the data set of %2 is no data of the device's model.</source>
+        <source>The member %1 of the data set of %2 is no data of the device&apos;s model.</source>
         <translation>%2 的数据集成员 %1 不是设备模型中的数据。</translation>
     </message>
     <message>
@@ -1117,16 +1287,244 @@ Connections: %5</source>
         <translation>%1 没有定值 %2。</translation>
     </message>
     <message>
-        <source>The device has not answered.</source>
-        <translation>设备没有应答。</translation>
-    </message>
-    <message>
         <source>%1. The changes are not confirmed.</source>
         <translation>%1。更改未确认。</translation>
     </message>
     <message>
         <source>%1 has the setting groups 1 to %2; there is no group %3.</source>
         <translation>%1 的定值组为 1 到 %2；没有定值组 %3。</translation>
+    </message>
+    <message>
+        <source>Another window has selected the object since: select it here first.</source>
+        <translation>此后另一个窗口已选择该对象：请先在此处选择。</translation>
+    </message>
+    <message>
+        <source>The object was selected for different commands; which one is meant is not known: cancel the selection and select it again.</source>
+        <translation>该对象曾为不同的命令被选择，无法确定指的是哪一个：请取消选择，然后重新选择。</translation>
+    </message>
+    <message>
+        <source>%1 is no originator category; they go from 0 to 8.</source>
+        <translation>%1 不是源发者类别；类别为 0 到 8。</translation>
+    </message>
+    <message>
+        <source>category %1</source>
+        <translation>类别 %1</translation>
+    </message>
+    <message>
+        <source>It is not known whether the object was selected.</source>
+        <translation>无法确定对象是否已被选择。</translation>
+    </message>
+    <message>
+        <source>It is not known whether the command was carried out; look at the position.</source>
+        <translation>无法确定命令是否已执行；请查看位置。</translation>
+    </message>
+    <message>
+        <source>It is not known whether the command was cancelled; look at the position.</source>
+        <translation>无法确定命令是否已取消；请查看位置。</translation>
+    </message>
+    <message>
+        <source>%1 (told late)</source>
+        <translation>%1（延迟告知）</translation>
+    </message>
+    <message>
+        <source>%1: the command that was not answered in time was carried out.</source>
+        <translation>%1：未及时得到应答的命令已执行。</translation>
+    </message>
+    <message>
+        <source>An internal error of the driver ended the association.</source>
+        <translation>驱动程序的内部错误终止了关联。</translation>
+    </message>
+    <message>
+        <source>An internal error of the driver ended the association: %1.</source>
+        <translation>驱动程序的内部错误终止了关联：%1。</translation>
+    </message>
+    <message>
+        <source>The device has not answered earlier requests; the question whether it is there waits for a place behind them.</source>
+        <translation>设备没有应答先前的请求；询问设备是否在线的请求正排在其后等待。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has %2 characters; the name of a data set has at most %3.</source>
+        <translation>“%1”有 %2 个字符；数据集名称最多 %3 个字符。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no functional constraint, which each member of a data set needs.</source>
+        <translation>“%1”没有给出功能约束，而数据集的每个成员都需要功能约束。</translation>
+    </message>
+    <message>
+        <source>This is not the device that the window was opened for: open it again.</source>
+        <translation>这不是打开该窗口时的设备：请重新打开窗口。</translation>
+    </message>
+    <message>
+        <source>The IED %1 of the file has no access point &quot;%2&quot; with a server.</source>
+        <translation>文件中的 IED %1 没有带服务器的访问点“%2”。</translation>
+    </message>
+    <message>
+        <source>The device has none of the logical devices that the file describes for %1, such as %2.</source>
+        <translation>设备没有文件为 %1 描述的任何逻辑设备，例如 %2。</translation>
+    </message>
+    <message>
+        <source>%1 stays open on the device, which has few open files: %2</source>
+        <translation>%1 在设备上仍处于打开状态，而设备可打开的文件很少：%2</translation>
+    </message>
+    <message>
+        <source>%1 comes too slowly: %2 octets so far, less than %3 in a second.</source>
+        <translation>%1 传输太慢：目前 %2 个八位组，每秒少于 %3 个。</translation>
+    </message>
+    <message>
+        <source>%1 events of the device were dropped, because they were not taken in time.</source>
+        <translation>已丢弃设备的 %1 个事件，因为未及时取走。</translation>
+    </message>
+    <message>
+        <source>The configuration of the device reserves %1; that cannot be changed.</source>
+        <translation>设备的配置预留了 %1；无法更改。</translation>
+    </message>
+    <message>
+        <source>%1 was not enabled in time.</source>
+        <translation>未能及时使能 %1。</translation>
+    </message>
+    <message>
+        <source>%1 It was left alone.</source>
+        <translation>%1 未对其做任何改动。</translation>
+    </message>
+    <message>
+        <source>without sequence numbers lost reports cannot be noticed</source>
+        <translation>没有顺序号，无法发现丢失的报告</translation>
+    </message>
+    <message>
+        <source>%1 could not be enabled, and this was left behind as it was written: %2.</source>
+        <translation>未能使能 %1，以下内容保留了写入后的状态：%2。</translation>
+    </message>
+    <message>
+        <source>no longer waited for</source>
+        <translation>不再等待</translation>
+    </message>
+    <message>
+        <source>member %1</source>
+        <translation>成员 %1</translation>
+    </message>
+    <message>
+        <source>Reports of %1 are missing; its data set is read whole.</source>
+        <translation>%1 的报告有缺失；将整体读取其数据集。</translation>
+    </message>
+    <message>
+        <source>Parts of a report of %1 are missing; its data set is read whole.</source>
+        <translation>%1 的一个报告缺少部分内容；将整体读取其数据集。</translation>
+    </message>
+    <message>
+        <source>The device does not know the last entry of %1 any more: changes since then may be lost, or come again.</source>
+        <translation>设备已不再识别 %1 的最后一个条目：此后的变化可能已丢失，或会再次收到。</translation>
+    </message>
+    <message>
+        <source>A report of %1 is of another data set than the block had when it was enabled.</source>
+        <translation>%1 的一个报告所属的数据集与该块使能时的数据集不同。</translation>
+    </message>
+    <message>
+        <source>A report of the device may be of %1 or of another block with other data; it was not taken.</source>
+        <translation>设备的一个报告可能属于 %1，也可能属于数据不同的另一个块；未予采用。</translation>
+    </message>
+    <message>
+        <source>The device described %1 in parts only, so what the reports of %2 say of it cannot be understood; it is polled.</source>
+        <translation>设备只描述了 %1 的一部分，因此无法理解 %2 的报告中与其有关的内容；改为轮询读取。</translation>
+    </message>
+    <message>
+        <source>The data set of %1 cannot be read: %2</source>
+        <translation>无法读取 %1 的数据集：%2</translation>
+    </message>
+    <message>
+        <source>The data set of %1 has %2 members instead of %3.</source>
+        <translation>%1 的数据集有 %2 个成员，而不是 %3 个。</translation>
+    </message>
+    <message>
+        <source>The data set of %1 has no value for %2: %3.</source>
+        <translation>%1 的数据集中没有 %2 的值：%3。</translation>
+    </message>
+    <message>
+        <source>A value of %1 in the data set of %2 does not have the form of its type.</source>
+        <translation>%2 的数据集中 %1 的值的形式与其类型不符。</translation>
+    </message>
+    <message>
+        <source>%1 is enabled by another client, which the device does not name.</source>
+        <translation>%1 已由另一个客户端使能，设备未说明是哪一个。</translation>
+    </message>
+    <message>
+        <source>%1 is reserved by another client, which the device does not name.</source>
+        <translation>%1 已被另一个客户端预留，设备未说明是哪一个。</translation>
+    </message>
+    <message>
+        <source>%1 is enabled by the client %2.</source>
+        <translation>%1 已由客户端 %2 使能。</translation>
+    </message>
+    <message>
+        <source>%1 is reserved by the client %2.</source>
+        <translation>%1 已被客户端 %2 预留。</translation>
+    </message>
+    <message>
+        <source>%1 is enabled by another association of this computer (%2).</source>
+        <translation>%1 已由此计算机的另一个关联（%2）使能。</translation>
+    </message>
+    <message>
+        <source>%1 is reserved by another association of this computer (%2).</source>
+        <translation>%1 已被此计算机的另一个关联（%2）预留。</translation>
+    </message>
+    <message>
+        <source>Another client is editing group %1 of %2.</source>
+        <translation>另一个客户端正在编辑 %2 的定值组 %1。</translation>
+    </message>
+    <message>
+        <source>Group %1 of %2 was chosen for editing in another window: select the group to edit first.</source>
+        <translation>%2 的定值组 %1 是在另一个窗口中选择编辑的：请先选择编辑定值组。</translation>
+    </message>
+    <message>
+        <source>The device has given up the edit of group %1 of %2: select the group to edit again.</source>
+        <translation>设备已放弃对 %2 的定值组 %1 的编辑：请重新选择编辑定值组。</translation>
+    </message>
+    <message>
+        <source>%1 has no settings that can be edited: the device describes none under SE.</source>
+        <translation>%1 没有可编辑的定值：设备在 SE 下未描述任何定值。</translation>
+    </message>
+    <message>
+        <source>%1 It is not known whether the changes of group %2 were taken over: select the group and look.</source>
+        <translation>%1 无法确定定值组 %2 的更改是否已生效：请选择该组并查看。</translation>
+    </message>
+    <message>
+        <source>These are the settings of the active group; choose the group to edit first.</source>
+        <translation>这些是当前定值组的定值；请先选择编辑定值组。</translation>
+    </message>
+    <message>
+        <source>%1 has accepted group %2, but group %3 is still the active one.</source>
+        <translation>%1 已接受定值组 %2，但当前定值组仍为 %3。</translation>
+    </message>
+    <message>
+        <source>%1 Group %2 is the active one.</source>
+        <translation>%1 当前定值组为 %2。</translation>
+    </message>
+    <message>
+        <source>%1 It is not known whether group %2 became active: look at the active group.</source>
+        <translation>%1 无法确定定值组 %2 是否已成为当前定值组：请查看当前定值组。</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 It is not known whether the device is editing group %2: select the group to edit again.</source>
+        <translation>%1 无法确定设备是否正在编辑定值组 %2：请重新选择编辑定值组。</translation>
+    </message>
+    <message>
+        <source>%1; it is not known whether the setting was written.</source>
+        <translation>%1；无法确定定值是否已写入。</translation>
+    </message>
+    <message>
+        <source>Values that are not current since %1: %2. The device does not answer when it is asked for %3.</source>
+        <translation>自 %1 起非当前的值：%2 个。询问 %3 时设备没有应答。</translation>
+    </message>
+    <message>
+        <source>Values that are not current since %1: %2. The device cannot give %3 for the moment.</source>
+        <translation>自 %1 起非当前的值：%2 个。设备目前无法给出 %3。</translation>
+    </message>
+    <message>
+        <source>Values that the device refuses and that are not asked for again: %1 (%2).</source>
+        <translation>设备拒绝且不再询问的值：%1 个（%2）。</translation>
     </message>
 </context>
 <context>
@@ -1534,6 +1932,30 @@ Apache License 2.0</translation>
         <source>The SCL file of this device was only compared with the device. Open it as an SCL file to see its findings.</source>
         <translation>此设备的 SCL 文件仅与设备作了比较。要查看其检查结果，请将其作为 SCL 文件打开。</translation>
     </message>
+    <message>
+        <source>&amp;Confirm</source>
+        <translation>确认(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Commands before they are sent</source>
+        <translation>发送前的命令(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Everything that changes a device</source>
+        <translation>一切会更改设备的操作(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Nothing</source>
+        <translation>无(&amp;N)</translation>
+    </message>
+    <message>
+        <source>%1 is away since %2</source>
+        <translation>%1 自 %2 起失去连接</translation>
+    </message>
+    <message>
+        <source>Devices away: %1, the first since %2</source>
+        <translation>失去连接的设备：%1，最早自 %2 起</translation>
+    </message>
 </context>
 <context>
     <name>OfflineDriverService</name>
@@ -1734,6 +2156,14 @@ Apache License 2.0</translation>
         <source>A value of type %1 cannot be written as a whole.</source>
         <translation>类型为 %1 的值不能整体写入。</translation>
     </message>
+    <message>
+        <source>The text of %1 is longer than can be shown, so it can only be read.</source>
+        <translation>%1 的文本超出可显示的长度，因此只能读取。</translation>
+    </message>
+    <message>
+        <source>%1 holds octets that are no text, so it can only be read.</source>
+        <translation>%1 含有不是文本的八位字节，因此只能读取。</translation>
+    </message>
 </context>
 <context>
     <name>Workbench</name>
@@ -1752,6 +2182,14 @@ Apache License 2.0</translation>
     <message>
         <source>Loading was cancelled.</source>
         <translation>加载已取消。</translation>
+    </message>
+    <message>
+        <source>Another workbench uses the list of devices in &quot;%1&quot;: what is changed in this one is not kept.</source>
+        <translation>另一个工作台正在使用“%1”中的设备列表：在此工作台中所做的更改不会保留。</translation>
+    </message>
+    <message>
+        <source>The list of devices in &quot;%1&quot; cannot be locked: what is changed is not kept.</source>
+        <translation>无法锁定“%1”中的设备列表：所做的更改不会保留。</translation>
     </message>
 </context>
 <context>

@@ -281,6 +281,10 @@ Do you want to replace it?</source>
         <translation>%1 besteht bereits.
 Möchten Sie die Datei ersetzen?</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2</translation>
+    </message>
 </context>
 <context>
     <name>IEC61850TaskExtention</name>
@@ -478,6 +482,22 @@ Möchten Sie die Datei ersetzen?</translation>
     <message>
         <source>False</source>
         <translation>Falsch</translation>
+    </message>
+    <message>
+        <source>The number is too large: the data type ends at %1.</source>
+        <translation>Die Zahl ist zu groß: Der Datentyp endet bei %1.</translation>
+    </message>
+    <message>
+        <source>The number is too small: in this data type it would become 0.</source>
+        <translation>Die Zahl ist zu klein: In diesem Datentyp würde sie zu 0.</translation>
+    </message>
+    <message>
+        <source>Not all that was typed was taken. Press Enter again if %1 is meant.</source>
+        <translation>Nicht alles Eingegebene wurde übernommen. Drücken Sie noch einmal die Eingabetaste, wenn %1 gemeint ist.</translation>
+    </message>
+    <message>
+        <source>The point in %1 is read as the decimal point. Press Enter again if this is meant.</source>
+        <translation>Der Punkt in %1 wird als Dezimalpunkt gelesen. Drücken Sie noch einmal die Eingabetaste, wenn das gemeint ist.</translation>
     </message>
 </context>
 <context>

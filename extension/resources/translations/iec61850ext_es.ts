@@ -281,6 +281,10 @@ Do you want to replace it?</source>
         <translation>%1 ya existe.
 ¿Desea reemplazarlo?</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2</source>
+        <translation>No se puede escribir «%1»: %2</translation>
+    </message>
 </context>
 <context>
     <name>IEC61850TaskExtention</name>
@@ -478,6 +482,22 @@ Do you want to replace it?</source>
     <message>
         <source>False</source>
         <translation>Falso</translation>
+    </message>
+    <message>
+        <source>The number is too large: the data type ends at %1.</source>
+        <translation>El número es demasiado grande: el tipo de datos termina en %1.</translation>
+    </message>
+    <message>
+        <source>The number is too small: in this data type it would become 0.</source>
+        <translation>El número es demasiado pequeño: en este tipo de datos se convertiría en 0.</translation>
+    </message>
+    <message>
+        <source>Not all that was typed was taken. Press Enter again if %1 is meant.</source>
+        <translation>No se ha tomado todo lo que se escribió. Pulse Intro otra vez si quiere decir %1.</translation>
+    </message>
+    <message>
+        <source>The point in %1 is read as the decimal point. Press Enter again if this is meant.</source>
+        <translation>El punto de %1 se lee como punto decimal. Pulse Intro otra vez si es lo que quiere decir.</translation>
     </message>
 </context>
 <context>

@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Originator category</source>
-        <translation>Catégorie de l'émetteur</translation>
+        <translation>Catégorie de l&apos;émetteur</translation>
     </message>
     <message>
         <source>Check :</source>
@@ -68,15 +68,15 @@
     </message>
     <message>
         <source>DataSet Name : </source>
-        <translation>Nom de l'ensemble de données : </translation>
+        <translation>Nom de l&apos;ensemble de données : </translation>
     </message>
     <message>
         <source>Data set name</source>
-        <translation>Nom de l'ensemble de données</translation>
+        <translation>Nom de l&apos;ensemble de données</translation>
     </message>
     <message>
         <source>Data set members</source>
-        <translation>Membres de l'ensemble de données</translation>
+        <translation>Membres de l&apos;ensemble de données</translation>
     </message>
     <message>
         <source>Name</source>
@@ -88,11 +88,11 @@
     </message>
     <message>
         <source>No data selected. can`t create dataset</source>
-        <translation>Aucune donnée sélectionnée. L'ensemble de données ne peut pas être créé.</translation>
+        <translation>Aucune donnée sélectionnée. L&apos;ensemble de données ne peut pas être créé.</translation>
     </message>
     <message>
         <source>Please input dataset name</source>
-        <translation>Veuillez saisir un nom pour l'ensemble de données.</translation>
+        <translation>Veuillez saisir un nom pour l&apos;ensemble de données.</translation>
     </message>
 </context>
 <context>
@@ -157,15 +157,15 @@
     <name>FileServiceDialog</name>
     <message>
         <source>IED File Service</source>
-        <translation>Service de fichiers de l'IED</translation>
+        <translation>Service de fichiers de l&apos;IED</translation>
     </message>
     <message>
         <source>Server Directory : </source>
-        <translation>Répertoire sur l'IED : </translation>
+        <translation>Répertoire sur l&apos;IED : </translation>
     </message>
     <message>
         <source>Server directory</source>
-        <translation>Répertoire sur l'IED</translation>
+        <translation>Répertoire sur l&apos;IED</translation>
     </message>
     <message>
         <source>Refresh</source>
@@ -173,11 +173,11 @@
     </message>
     <message>
         <source>IED Directory</source>
-        <translation>Répertoire de l'IED</translation>
+        <translation>Répertoire de l&apos;IED</translation>
     </message>
     <message>
         <source>IED directory</source>
-        <translation>Répertoire de l'IED</translation>
+        <translation>Répertoire de l&apos;IED</translation>
     </message>
     <message>
         <source>Download</source>
@@ -209,11 +209,11 @@
     </message>
     <message>
         <source>Target File Name :</source>
-        <translation>Nom sur l'IED :</translation>
+        <translation>Nom sur l&apos;IED :</translation>
     </message>
     <message>
         <source>Target file name</source>
-        <translation>Nom sur l'IED</translation>
+        <translation>Nom sur l&apos;IED</translation>
     </message>
     <message>
         <source>Upload</source>
@@ -229,7 +229,7 @@
     </message>
     <message>
         <source>Fail to Read File: %1 error:%2</source>
-        <translation>Le fichier %1 n'a pas pu être lu : %2</translation>
+        <translation>Le fichier %1 n&apos;a pas pu être lu : %2</translation>
     </message>
     <message>
         <source>Success</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Fail to Delete %1 %2</source>
-        <translation>%1 n'a pas pu être supprimé : %2</translation>
+        <translation>%1 n&apos;a pas pu être supprimé : %2</translation>
     </message>
     <message>
         <source>Delete Finished</source>
@@ -249,7 +249,7 @@
     </message>
     <message>
         <source>Fail to Upload File: %1 error:%2</source>
-        <translation>Le fichier %1 n'a pas pu être envoyé : %2</translation>
+        <translation>Le fichier %1 n&apos;a pas pu être envoyé : %2</translation>
     </message>
     <message>
         <source>Upload Finished</source>
@@ -257,7 +257,7 @@
     </message>
     <message>
         <source>Fail to readDirectory: Cannot connect to driver</source>
-        <translation>Le répertoire n'a pas pu être lu : connexion au pilote impossible</translation>
+        <translation>Le répertoire n&apos;a pas pu être lu : connexion au pilote impossible</translation>
     </message>
     <message>
         <source>Cannot connect to driver</source>
@@ -281,6 +281,10 @@ Do you want to replace it?</source>
         <translation>%1 existe déjà.
 Voulez-vous le remplacer ?</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2</source>
+        <translation>« %1 » ne peut pas être écrit : %2</translation>
+    </message>
 </context>
 <context>
     <name>IEC61850TaskExtention</name>
@@ -290,7 +294,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>IED File Service</source>
-        <translation>Service de fichiers de l'IED</translation>
+        <translation>Service de fichiers de l&apos;IED</translation>
     </message>
     <message>
         <source>Abort</source>
@@ -380,7 +384,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Delete DataSet</source>
-        <translation>Supprimer l'ensemble de données</translation>
+        <translation>Supprimer l&apos;ensemble de données</translation>
     </message>
     <message>
         <source>GetDataSet List</source>
@@ -388,7 +392,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>GetDataSet Directory</source>
-        <translation>Répertoire de l'ensemble de données</translation>
+        <translation>Répertoire de l&apos;ensemble de données</translation>
     </message>
     <message>
         <source>Get BRCB</source>
@@ -479,6 +483,22 @@ Voulez-vous le remplacer ?</translation>
         <source>False</source>
         <translation>Faux</translation>
     </message>
+    <message>
+        <source>The number is too large: the data type ends at %1.</source>
+        <translation>Le nombre est trop grand : le type de données s&apos;arrête à %1.</translation>
+    </message>
+    <message>
+        <source>The number is too small: in this data type it would become 0.</source>
+        <translation>Le nombre est trop petit : dans ce type de données, il deviendrait 0.</translation>
+    </message>
+    <message>
+        <source>Not all that was typed was taken. Press Enter again if %1 is meant.</source>
+        <translation>Une partie de la saisie n&apos;a pas été prise en compte. Appuyez de nouveau sur Entrée si c&apos;est bien %1 que vous voulez.</translation>
+    </message>
+    <message>
+        <source>The point in %1 is read as the decimal point. Press Enter again if this is meant.</source>
+        <translation>Le point dans %1 est lu comme point décimal. Appuyez de nouveau sur Entrée si c&apos;est bien ce que vous voulez.</translation>
+    </message>
 </context>
 <context>
     <name>QtTreePropertyBrowser</name>
@@ -535,7 +555,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Change the report id</source>
-        <translation>Modifier l'ID du rapport</translation>
+        <translation>Modifier l&apos;ID du rapport</translation>
     </message>
     <message>
         <source>Change</source>
@@ -555,7 +575,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Change the data set</source>
-        <translation>Modifier l'ensemble de données</translation>
+        <translation>Modifier l&apos;ensemble de données</translation>
     </message>
     <message>
         <source>Trigger Option</source>
@@ -587,7 +607,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Entry ID</source>
-        <translation>Identifiant d'entrée</translation>
+        <translation>Identifiant d&apos;entrée</translation>
     </message>
     <message>
         <source>Configuration Revision</source>
@@ -607,11 +627,11 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Data Set Name</source>
-        <translation>Nom de l'ensemble de données</translation>
+        <translation>Nom de l&apos;ensemble de données</translation>
     </message>
     <message>
         <source>Reason for Inclusion</source>
-        <translation>Raison de l'inclusion</translation>
+        <translation>Raison de l&apos;inclusion</translation>
     </message>
     <message>
         <source>Sub Sequence</source>
@@ -631,7 +651,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Integrity Period:</source>
-        <translation>Période d'intégrité :</translation>
+        <translation>Période d&apos;intégrité :</translation>
     </message>
     <message>
         <source>msec</source>
@@ -639,7 +659,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Change the integrity period</source>
-        <translation>Modifier la période d'intégrité</translation>
+        <translation>Modifier la période d&apos;intégrité</translation>
     </message>
     <message>
         <source>Buffer Time:</source>

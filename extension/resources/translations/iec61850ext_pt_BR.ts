@@ -281,6 +281,10 @@ Do you want to replace it?</source>
         <translation>%1 já existe.
 Deseja substituí-lo?</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2</source>
+        <translation>“%1” não pode ser gravado: %2</translation>
+    </message>
 </context>
 <context>
     <name>IEC61850TaskExtention</name>
@@ -478,6 +482,22 @@ Deseja substituí-lo?</translation>
     <message>
         <source>False</source>
         <translation>Falso</translation>
+    </message>
+    <message>
+        <source>The number is too large: the data type ends at %1.</source>
+        <translation>O número é grande demais: o tipo de dados termina em %1.</translation>
+    </message>
+    <message>
+        <source>The number is too small: in this data type it would become 0.</source>
+        <translation>O número é pequeno demais: neste tipo de dados ele se tornaria 0.</translation>
+    </message>
+    <message>
+        <source>Not all that was typed was taken. Press Enter again if %1 is meant.</source>
+        <translation>Nem tudo o que foi digitado foi aceito. Pressione Enter novamente se a intenção for %1.</translation>
+    </message>
+    <message>
+        <source>The point in %1 is read as the decimal point. Press Enter again if this is meant.</source>
+        <translation>O ponto em %1 é lido como ponto decimal. Pressione Enter novamente se essa for a intenção.</translation>
     </message>
 </context>
 <context>

@@ -281,6 +281,10 @@ Do you want to replace it?</source>
         <translation>%1 уже существует.
 Заменить файл?</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2</source>
+        <translation>«%1» не удаётся записать: %2</translation>
+    </message>
 </context>
 <context>
     <name>IEC61850TaskExtention</name>
@@ -478,6 +482,22 @@ Do you want to replace it?</source>
     <message>
         <source>False</source>
         <translation>Ложь</translation>
+    </message>
+    <message>
+        <source>The number is too large: the data type ends at %1.</source>
+        <translation>Число слишком велико: предел этого типа данных — %1.</translation>
+    </message>
+    <message>
+        <source>The number is too small: in this data type it would become 0.</source>
+        <translation>Число слишком мало: в этом типе данных оно стало бы равным 0.</translation>
+    </message>
+    <message>
+        <source>Not all that was typed was taken. Press Enter again if %1 is meant.</source>
+        <translation>Принято не всё, что было введено. Нажмите Enter ещё раз, если имеется в виду %1.</translation>
+    </message>
+    <message>
+        <source>The point in %1 is read as the decimal point. Press Enter again if this is meant.</source>
+        <translation>Точка в %1 понимается как десятичная. Нажмите Enter ещё раз, если так и задумано.</translation>
     </message>
 </context>
 <context>

@@ -281,6 +281,10 @@ Do you want to replace it?</source>
         <translation>%1 已存在。
 是否替换？</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2</source>
+        <translation>无法写入“%1”：%2</translation>
+    </message>
 </context>
 <context>
     <name>IEC61850TaskExtention</name>
@@ -478,6 +482,22 @@ Do you want to replace it?</source>
     <message>
         <source>False</source>
         <translation>假</translation>
+    </message>
+    <message>
+        <source>The number is too large: the data type ends at %1.</source>
+        <translation>数值过大：该数据类型的上限为 %1。</translation>
+    </message>
+    <message>
+        <source>The number is too small: in this data type it would become 0.</source>
+        <translation>数值过小：在此数据类型中它将变为 0。</translation>
+    </message>
+    <message>
+        <source>Not all that was typed was taken. Press Enter again if %1 is meant.</source>
+        <translation>输入的内容未被全部接受。如果要输入的是 %1，请再按一次 Enter。</translation>
+    </message>
+    <message>
+        <source>The point in %1 is read as the decimal point. Press Enter again if this is meant.</source>
+        <translation>%1 中的点按小数点处理。如果确实如此，请再按一次 Enter。</translation>
     </message>
 </context>
 <context>
