@@ -317,6 +317,9 @@ private:
         const ControlState::Command *selection = m_state.selection(steady_clock::now());
         ControlState::Command command;
         if (control->model() == ControlModel::SelectEnhanced) {
+            // It may have run out since it was looked at.
+            if (!selection)
+                co_return failed(obstacle(ControlState::Obstacle::NotSelected));
             command = *selection;
             command.request.time = ControlOrder::now();
             m_block = command.block;

@@ -205,6 +205,10 @@ void DeviceConnection::connectInStrand()
                        self->m_life.leave();
                        self->m_life.over();
                        self->setState(DeviceState::Disconnected, internalError(exception));
+                       std::vector<std::function<void()>> left;
+                       left.swap(self->m_left);
+                       for (const std::function<void()> &each : left)
+                           each();
                    });
 }
 

@@ -37,9 +37,10 @@ constexpr std::size_t namedOmissions = 3;
 /// Who the device said it was when it was asked; it is not asked again.
 mms::IdentifyResponse identityOf(const DeviceStatus &status)
 {
-    return {status.vendor.toStdString(), status.model.toStdString(), status.revision.toStdString(),
-            {}};
+    return {
+        status.vendor.toStdString(), status.model.toStdString(), status.revision.toStdString(), {}};
 }
+
 /// How long a device may take to say who it is; one that does not is not asked again.
 constexpr milliseconds identifyLimit{2000};
 
@@ -78,8 +79,7 @@ asio::awaitable<void> DeviceConnection::identified(ClientPointer client)
 
 QString DeviceConnection::loadFile(const QStringList &logicalDevices)
 {
-    if (m_configuration.sclFile.isEmpty() ||
-        (m_fileRead && m_fileFor == logicalDevices))
+    if (m_configuration.sclFile.isEmpty() || (m_fileRead && m_fileFor == logicalDevices))
         return {};
     m_fileRead = true;
     m_fileFor = logicalDevices;
@@ -116,13 +116,9 @@ asio::awaitable<QString> DeviceConnection::getReady(ClientPointer client)
     mms::Result<acsi::ServerDescription> description = co_await describe(client);
     const bool wasCancelled = *m_readingCancelled;
     m_readingCancelled.reset();
-    if (wasCancelled) {
-        const QString reason = Texts::tr("Reading the model was cancelled.");
-        // Who disconnects meanwhile has a reason of his own.
-        if (isWanted())
-            leave(reason);
-        co_return reason;
-    }
+    // Who cancelled has withdrawn the wish already; one that stands now is newer.
+    if (wasCancelled)
+        co_return Texts::tr("Reading the model was cancelled.");
     if (!description)
         co_return text(description.error().message);
     QStringList names;

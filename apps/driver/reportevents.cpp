@@ -6,6 +6,7 @@
 #include <QtCore/QCoreApplication>
 
 #include <algorithm>
+#include <exception>
 
 namespace {
 
@@ -76,12 +77,17 @@ void ReportEvents::deliver()
                 return;
             }
         }
-        for (const auto &each : batch) {
-            const Waiting &waiting = each.second;
-            if (waiting.dropped > 0)
-                m_receiver(droppedEvent(waiting.events.front(), waiting.dropped));
-            for (const ReportEvent &event : waiting.events)
-                m_receiver(event);
+        try {
+            for (const auto &each : batch) {
+                const Waiting &waiting = each.second;
+                if (waiting.dropped > 0)
+                    m_receiver(droppedEvent(waiting.events.front(), waiting.dropped));
+                for (const ReportEvent &event : waiting.events)
+                    m_receiver(event);
+            }
+        } catch (const std::exception &exception) {
+            // A host that fails once goes on to get events.
+            qWarning("IedDriver: %s", exception.what());
         }
     }
 }

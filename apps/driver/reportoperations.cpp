@@ -2,6 +2,7 @@
 #include "driverruntime.h"
 
 #include "discoveredmodel.h"
+#include "journalentry.h"
 #include "reportsubscriptions.h"
 
 #include <QtCore/QCoreApplication>
@@ -268,6 +269,8 @@ asio::awaitable<Outcome> writeAttribute(DevicePointer device, QString ldName, QS
             Texts::tr("The configuration of the device reserves %1; that cannot be changed.")
                 .arg(text(acsi::toText(*block))));
     }
+    JournalEntry entry(device, QStringLiteral("writeValue"), text(acsi::toText(place)));
+    entry.setValues(before ? text(mms::toText(*before)) : QString(), text(mms::toText(*value)));
     const mms::Result<void> written =
         co_await acsi::writeReportAttribute(client, *block, onDevice, *value);
     if (written && isTimed)
@@ -282,16 +285,9 @@ asio::awaitable<Outcome> writeAttribute(DevicePointer device, QString ldName, QS
         const QString holder = co_await holderBehind(device, *block);
         refusal = text(written.error().message) + holder;
     }
-
-    DeviceChange change;
-    change.operation = QStringLiteral("writeValue");
-    change.reference = text(acsi::toText(place));
-    if (before)
-        change.oldValue = text(mms::toText(*before));
-    change.newValue = text(mms::toText(*value));
-    change.error = refusal;
-    device->journal(change);
-    co_return written ? Outcome() : Outcome::failed(refusal);
+    const Outcome outcome = written ? Outcome() : Outcome::failed(refusal);
+    entry.setOutcome(outcome);
+    co_return outcome;
 }
 
 mms::Result<acsi::ReportSettings> settingsFrom(const acsi::Reference &reference,

@@ -162,8 +162,14 @@ asio::awaitable<void> ReportSubscriptions::opened()
         wanted.push_back(each.second);
     for (const SubscriptionPointer &each : wanted) {
         const ClientPointer client = m_connection.client();
+        const auto before = steady_clock::now();
         if (client && client->isOpen())
             co_await resume(each, Texts::tr("enabled again after the association was lost"));
+        // Whether a silent device is there is asked once this has ended; watch() does the rest.
+        const bool isLong =
+            steady_clock::now() - before >= m_connection.configuration().callTimeout;
+        if (isLong && m_connection.capture().lastReceived() < before)
+            co_return;
     }
 }
 
@@ -222,6 +228,13 @@ asio::awaitable<Outcome> ReportSubscriptions::enable(acsi::Reference block,
         outcome = co_await start(subscription, Attended::Yes);
     } catch (...) {
         cancelled = std::current_exception();
+    }
+    if (cancelled && isCurrent(subscription) && subscription->life.isTaking()) {
+        // It is enabled; only its first reading was given up, and is made good apart.
+        if (!subscription->isMending)
+            subscription->mending.reset();
+        mend(subscription);
+        std::rethrow_exception(cancelled);
     }
     if ((!outcome || cancelled) && isCurrent(subscription)) {
         stop(*subscription);
@@ -561,7 +574,7 @@ asio::awaitable<void> ReportSubscriptions::resume(SubscriptionPointer subscripti
     Outcome outcome;
     if (m_connection.isReadOnly()) {
         outcome = ended(subscription, Attended::No, SubscriptionLife::Result::Held, {}, {},
-                        Texts::tr("the driver is read-only."));
+                        Texts::tr("The driver is read-only."));
     } else {
         outcome = co_await start(subscription, Attended::No);
         if (!outcome)

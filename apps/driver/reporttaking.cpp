@@ -342,10 +342,12 @@ void ReportSubscriptions::publish(Subscription &subscription, const ReportStream
     const SubscriptionPointer self = find(subscription.reference);
     const auto tellOf = [&](ReportFault kind, const QString &sentence) {
         const bool isNew = !sentence.isEmpty() && subscription.faults[kind] != sentence;
-        if (sentence.isEmpty())
-            subscription.faults.erase(kind);
-        else if (isNew && self)
+        if (sentence.isEmpty()) {
+            if (subscription.faults.erase(kind) != 0)
+                tell(subscription);
+        } else if (isNew && self) {
             fault(self, kind, sentence);
+        }
     };
     tellOf(ReportFault::UnknownMember, unknown);
     tellOf(ReportFault::NoValue, valueless);
@@ -427,9 +429,6 @@ void ReportSubscriptions::trust(Subscription &subscription, bool trusted)
     std::vector<acsi::Reference> members;
     if (trusted && block)
         members = block->members;
-    std::erase_if(members, [this](const acsi::Reference &member) {
-        return isDescribedInParts(m_connection.model(), member);
-    });
     m_connection.setReported(text(subscription.reference), members, subscription.coverage);
 }
 
@@ -524,6 +523,10 @@ ReportSubscriptions::readMembers(SubscriptionPointer subscription, ClientPointer
         co_return mended;
     }
     const std::uint64_t asked = subscription->reports;
+    DeviceConnection::Publication publication;
+    publication.cause = PublishCause::Polled;
+    publication.onlyChanges = true;
+    publication.asOf = steady_clock::now();
     mms::Result<std::vector<mms::AccessResult>> values = co_await client->readList(*name);
     const bool areAllNamed = std::ranges::all_of(
         members, [](const acsi::Reference &member) { return !member.node.empty(); });
@@ -546,9 +549,6 @@ ReportSubscriptions::readMembers(SubscriptionPointer subscription, ClientPointer
     }
     mended.isRead = true;
     std::vector<acsi::Reference> inParts;
-    DeviceConnection::Publication publication;
-    publication.cause = PublishCause::Polled;
-    publication.onlyChanges = true;
     for (std::size_t i = 0; i < values->size(); ++i) {
         // What a report has brought meanwhile is newer.
         const bool isNewer =

@@ -10,6 +10,7 @@
 #include <QtCore/QHash>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <limits>
 
@@ -112,6 +113,8 @@ SettingValues::read(std::shared_ptr<DeviceConnection> device, QString ldName,
     std::vector<mms::VariableAccess> variables;
     for (const acsi::Reference &node : nodes)
         variables.push_back(acsi::accessOf(node));
+    DeviceConnection::Publication publication;
+    publication.asOf = std::chrono::steady_clock::now();
     const mms::Result<std::vector<mms::AccessResult>> values =
         co_await client->read(std::move(variables));
     if (!values)
@@ -126,7 +129,6 @@ SettingValues::read(std::shared_ptr<DeviceConnection> device, QString ldName,
             settings.push_back({leaf.reference, *leaf.data, QString()});
         };
         if (value.ok() && device->model()->forEachLeaf(nodes[i], value.data(), take)) {
-            const DeviceConnection::Publication publication;
             device->publish(nodes[i], value.data(), publication);
             continue;
         }

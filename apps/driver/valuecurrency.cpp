@@ -382,11 +382,17 @@ bool ValueCurrency::divide(Id id)
         return false;
     std::vector<Id> ids;
     for (Part &part : parts) {
-        ids.push_back(static_cast<Id>(m_items.size()));
         Item item;
         item.part = std::move(part);
         item.pace = m_items[id].pace;
-        m_items.push_back(std::move(item));
+        if (m_free.empty()) {
+            ids.push_back(static_cast<Id>(m_items.size()));
+            m_items.push_back(std::move(item));
+        } else {
+            ids.push_back(m_free.back());
+            m_items[m_free.back()] = std::move(item);
+            m_free.pop_back();
+        }
     }
     m_items[id].parts = std::move(ids);
     setState(m_items[id], State::Divided);
@@ -403,8 +409,10 @@ bool ValueCurrency::areAllGood(const std::vector<Id> &parts) const
 void ValueCurrency::join(Id id)
 {
     Item &item = m_items[id];
-    for (const Id part : item.parts)
+    for (const Id part : item.parts) {
         m_items[part].isGone = true;
+        m_free.push_back(part);
+    }
     item.parts.clear();
     item.isForReports = false;
     item.isProvisional = false;

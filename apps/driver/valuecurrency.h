@@ -198,6 +198,7 @@ private:
     Divide m_divide;
     Options m_options;
     std::vector<Item> m_items;
+    std::vector<Id> m_free; ///< items that are gone
     std::vector<Id> m_roots;
     std::deque<Id> m_queue;
     std::vector<OnTheWay> m_onTheWay;

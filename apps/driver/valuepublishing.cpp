@@ -259,6 +259,11 @@ asio::awaitable<void> DeviceConnection::keepShowing(acsi::Reference reference)
         if (isWanted())
             publishKnown(m_model->leafRange(reference), PublishCause::Polled);
     }
+    if (m_client != client || !m_model)
+        co_return;
+    const LeafRange shown = m_model->leafRange(reference);
+    for (std::uint32_t each = shown.first; each < shown.end(); ++each)
+        m_unwritten.erase(each);
 }
 
 std::vector<acsi::Reference>

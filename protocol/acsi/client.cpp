@@ -12,7 +12,6 @@
 #include <asio/use_awaitable.hpp>
 
 #include <algorithm>
-#include <deque>
 #include <utility>
 
 namespace acsi {

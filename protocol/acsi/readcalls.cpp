@@ -44,7 +44,7 @@ ReadAnswer readAnswer(mms::CallOutcome outcome, std::size_t count)
     const auto *failure = std::get_if<mms::CallFailure>(&outcome);
     const auto *error = std::get_if<mms::ServiceError>(&outcome);
     if (failure && failure->kind == mms::CallFailure::Kind::TimedOut)
-        answer.kind = ReadAnswer::Kind::Silent;
+        answer.kind = failure->wasSent ? ReadAnswer::Kind::Silent : ReadAnswer::Kind::NotSent;
     else if (endsAll(outcome))
         answer.kind = ReadAnswer::Kind::Ended;
     else if (error && error->errorClass == mms::ErrorClass::Access)
