@@ -155,7 +155,7 @@ public:
     {
         if (!beforehand().isEmpty())
             co_return;
-        if (const auto looked = co_await look(); !looked)
+        if (const auto looked = co_await look(); !looked || m_device->client() != m_client)
             co_return;
         m_request->control = m_object.control;
         m_request->termination =

@@ -31,6 +31,8 @@ constexpr milliseconds browserStart{1500};
 /// How long, and how often, a value is shown again after another one was refused.
 constexpr std::chrono::seconds showingTime{60};
 constexpr milliseconds showingInterval{500};
+/// Bits of a quality that records carry (IEC 61850-7-3, 6.2).
+constexpr int qualityLength = 13;
 /// Failed references that a sentence names.
 constexpr int namedFailures = 5;
 
@@ -152,7 +154,7 @@ bool DeviceConnection::publish(const acsi::Reference &reference, const mms::Data
         record.value = std::move(value);
         record.reference = leaf.attribute->reference;
         if (quality)
-            record.quality = ValueConversion::qualityText(*quality);
+            record.quality = ValueConversion::qualityText(*quality).left(qualityLength);
         if (const mms::Data *time = leaf.time ? leaf.time : publication.time)
             record.timeStamp = ValueConversion::timeText(*time);
         record.deviceNo = m_configuration.number;
@@ -175,7 +177,7 @@ MMSValue DeviceConnection::knownRecord(const DataAttribute &attribute, std::uint
     record.cause = cause;
     const PhysicalDevice &device = m_model->device();
     if (const auto *quality = companionOf(device, attribute.reference, QStringLiteral("q")))
-        record.quality = quality->value.toString();
+        record.quality = quality->value.toString().left(qualityLength);
     if (const auto *time = companionOf(device, attribute.reference, QStringLiteral("t")))
         record.timeStamp = time->value.toString();
     return record;

@@ -105,7 +105,7 @@ int runWindow(const CommandLine &line)
     options.journalFile =
         folder(QStandardPaths::AppDataLocation).filePath(QStringLiteral("changes.csv"));
     options.cacheFolder =
-        folder(QStandardPaths::CacheLocation).filePath(QStringLiteral("descriptions"));
+        folder(QStandardPaths::CacheLocation).filePath(QStringLiteral("devices"));
     options.import = importFromFile;
     Workbench workbench(options);
     MainWindow window(workbench, pluginFolder(line));

@@ -118,6 +118,8 @@ MainWindow::MainWindow(Workbench &workbench, const QString &pluginFolder, QWidge
     connect(&m_workbench, &Workbench::loadingCancelled, this,
             [this] { statusBar()->showMessage(tr("Loading was cancelled."), messageTime); });
     showSelection();
+    if (const QString problem = m_workbench.storeProblem(); !problem.isEmpty())
+        statusBar()->showMessage(problem);
 }
 
 MainWindow::~MainWindow()

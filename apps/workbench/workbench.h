@@ -35,7 +35,7 @@ public:
     {
         QString settingsFile;
         QString journalFile; ///< of changes; empty for none
-        QString cacheFolder; ///< of the descriptions that devices gave; empty for none
+        QString cacheFolder; ///< of what is remembered of devices between starts; empty for none
         ImportFunction import;
     };
 

@@ -28,10 +28,9 @@ QString pathFromDataObject(const IEDNode *node, QChar separator)
 
 QString fullReference(const IEDNode *node)
 {
-    if (const DataAttribute *attribute = node->dataAttribute())
-        return attribute->reference;
-
     const QString logicalDevice = IEDModel::logicalDeviceName(node);
+    if (node->dataAttribute())
+        return logicalDevice + QLatin1Char('/') + attributeReference(node);
     const QString logicalNode = IEDModel::logicalNodeName(node);
     const QString inLogicalNode = logicalDevice + QLatin1Char('/') + logicalNode;
     switch (node->type) {

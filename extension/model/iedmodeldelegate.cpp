@@ -344,6 +344,7 @@ bool IEDModelDelegate::filterViewport(QWidget *viewport, QEvent *event)
             m_refusedLine.clear();
             return true;
         }
+        sendPending();
         return false;
     }
     if (event->type() != QEvent::MouseButtonPress)
@@ -363,19 +364,25 @@ bool IEDModelDelegate::filterViewport(QWidget *viewport, QEvent *event)
             return true;
         }
         // What the write asks or says must not come in the middle of the click.
-        const QPersistentModelIndex cell =
-            line->property(cellOfLine).value<QPersistentModelIndex>();
-        const QString text = textOf(line);
+        m_pendingCell = line->property(cellOfLine).value<QPersistentModelIndex>();
+        m_pendingText = textOf(line);
         emit closeEditor(line, NoHint);
-        QMetaObject::invokeMethod(
-            this,
-            [cell, text] {
-                if (cell.isValid()) {
-                    const_cast<QAbstractItemModel *>(cell.model())
-                        ->setData(cell, text, Qt::EditRole);
-                }
-            },
-            Qt::QueuedConnection);
     }
     return false;
+}
+
+void IEDModelDelegate::sendPending()
+{
+    const QPersistentModelIndex cell = m_pendingCell;
+    m_pendingCell = QPersistentModelIndex();
+    if (!cell.isValid())
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [cell, text = m_pendingText] {
+            if (cell.isValid()) {
+                const_cast<QAbstractItemModel *>(cell.model())->setData(cell, text, Qt::EditRole);
+            }
+        },
+        Qt::QueuedConnection);
 }

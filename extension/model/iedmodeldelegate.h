@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <QtCore/QPersistentModelIndex>
 #include <QtCore/QPointer>
 #include <QtCore/QString>
 #include <QtWidgets/QItemDelegate>
@@ -51,11 +52,14 @@ private:
     bool filterList(QComboBox *box, QEvent *event);
     bool filterLine(QLineEdit *line, QEvent *event);
     bool filterViewport(QWidget *viewport, QEvent *event);
+    void sendPending();
     void commitList(QComboBox *box);
     void openList(QComboBox *box);
     void closeLater(QComboBox *box);
 
     const SclTemplateStore *m_templates;
     QPointer<QLineEdit> m_refusedLine; ///< between the press and the release of a click
+    QPersistentModelIndex m_pendingCell; ///< likewise, whose text a click elsewhere confirms
+    QString m_pendingText;
     QString m_refusal;
 };

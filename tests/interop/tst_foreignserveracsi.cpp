@@ -336,9 +336,9 @@ TEST_F(ForeignServerAcsiTest, SwitchesAndEditsSettingGroups)
     value = run(m_client->readOne(variable("BAY1CTRL/PTOC1$SE$OpDlTmms$setVal")));
     ASSERT_TRUE(value.ok()) << value.error().message;
     EXPECT_EQ(*value, Data::integer(300));
-    done =
+    const auto written =
         run(m_client->writeOne(variable("BAY1CTRL/PTOC1$SE$OpDlTmms$setVal"), Data::integer(333)));
-    EXPECT_TRUE(done.ok()) << done.error().message;
+    EXPECT_TRUE(written.ok()) << written.error().message;
     done = run(confirmEdit(m_client, block));
     EXPECT_TRUE(done.ok()) << done.error().message;
     done = run(selectActiveGroup(m_client, block, 3));
