@@ -574,7 +574,7 @@ asio::awaitable<void> ReportSubscriptions::resume(SubscriptionPointer subscripti
     Outcome outcome;
     if (m_connection.isReadOnly()) {
         outcome = ended(subscription, Attended::No, SubscriptionLife::Result::Held, {}, {},
-                        Texts::tr("The driver is read-only."));
+                        Texts::tr("the driver is read-only."));
     } else {
         outcome = co_await start(subscription, Attended::No);
         if (!outcome)
