@@ -200,8 +200,6 @@ asio::awaitable<void> DeviceConnection::carryOut(ClientPointer client, bool unti
         asked.erase(found);
         acsi::ReadAnswer answer =
             acsi::readAnswer(std::move(arrival->outcome), answered.question.parts.size());
-        if (answer.kind == acsi::ReadAnswer::Kind::Ended)
-            co_return;
         takeAnswer(*currency, answered.question, std::move(answer), answered.when);
     }
 }
@@ -222,7 +220,8 @@ void DeviceConnection::takeAnswer(ValueCurrency &currency, const ValueCurrency::
     case acsi::ReadAnswer::Kind::NotSent:
         return currency.unsent(question.id, now);
     case acsi::ReadAnswer::Kind::Ended:
-        return;
+        // A device that rejects a read may answer the next one.
+        return currency.refused(question.id, Reply::Unavailable, now);
     }
     Publication publication;
     publication.cause = PublishCause::Polled;

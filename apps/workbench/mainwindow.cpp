@@ -287,7 +287,7 @@ void MainWindow::setUpConfirmation()
         return isConfirmed;
     });
 
-    auto *const menu = new QMenu(tr("&Confirm"), this);
+    auto *const menu = new QMenu(tr("Con&firm"), this);
     menu->setObjectName(QStringLiteral("menuConfirm"));
     auto *const group = new QActionGroup(menu);
     const std::pair<CallConfirmation::Scope, QString> choices[] = {

@@ -94,8 +94,9 @@ public:
             const mms::Result<std::uint16_t> started = m_device->start();
             if (started)
                 return;
+            // Nobody tells when the port is free again that the device had before.
             if (!isFirst)
-                qFatal("%s", started.error().message.c_str());
+                std::this_thread::sleep_for(std::chrono::milliseconds(20));
         }
         qFatal("no port is free");
     }
@@ -204,8 +205,8 @@ public:
     }
     bool waitForValue(const QString &reference, const QVariant &value)
     {
-        return waitForValue(reference,
-                            [&value](const MMSValue &published) { return published.value == value; });
+        return waitForValue(
+            reference, [&value](const MMSValue &published) { return published.value == value; });
     }
 
     bool waitForChanges(int count)

@@ -349,7 +349,7 @@ void tst_OddValues::whatIsUnavailableForAWhileComesBackByItself()
     reads.refuse("GGIO2$ST$Ind1", DataAccessError::TemporarilyUnavailable);
     QVERIFY(m_listener->waitForStatus(
         1, [](const DeviceStatus &status) { return status.staleValues == 3; }));
-    QVERIFY2(m_driver->status(1).reason.contains("ODDLD/GGIO2$ST$Ind1 is not available"),
+    QVERIFY2(m_driver->status(1).reason.contains("cannot give ODDLD/GGIO2$ST$Ind1 "),
              qPrintable(m_driver->status(1).reason));
     QCOMPARE(m_driver->status(1).refusedValues, 0);
     ied.set("ODDLD", "GGIO2$ST$Ind1$stVal", mms::Data::boolean(true));
@@ -590,7 +590,7 @@ void tst_OddValues::anOutageSaysSinceWhenItLasts()
         QVERIFY(listener.waitForState(1, DeviceState::Connecting));
         QVERIFY(listener.waitForState(1, DeviceState::Waiting));
     }
-    QVERIFY(driver.status(1).since > lost);
+    QCOMPARE(driver.status(1).since, lost);
     QCOMPARE(driver.status(1).lostSince, lost);
 
     ied.start();

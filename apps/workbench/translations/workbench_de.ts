@@ -1933,7 +1933,7 @@ Apache License 2.0</translation>
         <translation>Die SCL-Datei dieses Geräts wurde nur mit dem Gerät verglichen. Ihre Befunde zeigt „SCL-Datei öffnen“.</translation>
     </message>
     <message>
-        <source>&amp;Confirm</source>
+        <source>Con&amp;firm</source>
         <translation>Bestäti&amp;gen</translation>
     </message>
     <message>

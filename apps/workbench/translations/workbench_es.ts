@@ -1933,7 +1933,7 @@ Apache License 2.0</translation>
         <translation>El archivo SCL de este dispositivo solo se ha comparado con el dispositivo. Ábralo como archivo SCL para ver sus observaciones.</translation>
     </message>
     <message>
-        <source>&amp;Confirm</source>
+        <source>Con&amp;firm</source>
         <translation>C&amp;onfirmar</translation>
     </message>
     <message>

@@ -1933,7 +1933,7 @@ Apache License 2.0</translation>
         <translation>Le fichier SCL de cet équipement a seulement été comparé avec l&apos;équipement. Ouvrez-le comme fichier SCL pour voir ses constats.</translation>
     </message>
     <message>
-        <source>&amp;Confirm</source>
+        <source>Con&amp;firm</source>
         <translation>C&amp;onfirmer</translation>
     </message>
     <message>

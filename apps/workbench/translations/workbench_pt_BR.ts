@@ -1933,7 +1933,7 @@ Apache License 2.0</translation>
         <translation>O arquivo SCL deste dispositivo foi apenas comparado com o dispositivo. Abra-o como arquivo SCL para ver as suas constatações.</translation>
     </message>
     <message>
-        <source>&amp;Confirm</source>
+        <source>Con&amp;firm</source>
         <translation>Con&amp;firmar</translation>
     </message>
     <message>

@@ -1933,7 +1933,7 @@ Apache License 2.0</translation>
         <translation>Файл SCL этого устройства только сравнивался с самим устройством. Чтобы увидеть замечания к нему, откройте его как файл SCL.</translation>
     </message>
     <message>
-        <source>&amp;Confirm</source>
+        <source>Con&amp;firm</source>
         <translation>Подт&amp;верждать</translation>
     </message>
     <message>

@@ -1933,7 +1933,7 @@ Apache License 2.0</translation>
         <translation>此设备的 SCL 文件仅与设备作了比较。要查看其检查结果，请将其作为 SCL 文件打开。</translation>
     </message>
     <message>
-        <source>&amp;Confirm</source>
+        <source>Con&amp;firm</source>
         <translation>确认(&amp;F)</translation>
     </message>
     <message>
