@@ -77,7 +77,8 @@ ExitStatus getFile(Session &session, const QString &remote, const QString &local
         session.controller().getFile(session.deviceNo(), onDevice(remote), content, error);
     if (result != OperationSucceeded)
         return session.failed(result, error);
-    if (file.write(content) != content.size() || !file.commit()) {
+    // A commit does not tell of what was still to be written.
+    if (file.write(content) != content.size() || !file.flush() || !file.commit()) {
         return session.failed(QStringLiteral("The file \"%1\" cannot be written: %2.")
                                   .arg(target, file.errorString()));
     }
