@@ -258,6 +258,15 @@ void DeviceConnection::abort()
     });
 }
 
+void DeviceConnection::cutOff()
+{
+    asio::post(m_strand, [self = shared_from_this()] {
+        if (self->m_client)
+            self->m_client->abort(Texts::tr("Aborted by the operator.").toStdString());
+        self->wake();
+    });
+}
+
 void DeviceConnection::cancelReading()
 {
     asio::post(m_strand, [self = shared_from_this()] {

@@ -131,6 +131,8 @@ public:
     void disconnect(std::function<void()> left = {});
     /// End the association at once; the next operation makes a new one.
     void abort();
+    /// End the association, if there is one, and whatever waits for it; for the end of the driver.
+    void cutOff();
     /// Stop reading the model; the device is then disconnected.
     void cancelReading();
     /// Ends every operation that is under way, wherever it waits.

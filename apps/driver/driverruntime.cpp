@@ -19,6 +19,8 @@ struct Texts
 
 /// How long the driver waits at its end for devices to be left in an orderly way.
 constexpr milliseconds leavePatience{3000};
+/// Of that, for what has to end after associations were cut off.
+constexpr milliseconds cutOffPatience{500};
 
 /// The operation, refused where another device answers now.
 DeviceConnection::Operation onlyOn(DeviceIdentity opened, DeviceConnection::Operation operation)
@@ -26,8 +28,8 @@ DeviceConnection::Operation onlyOn(DeviceIdentity opened, DeviceConnection::Oper
     return [opened = std::move(opened), operation = std::move(operation)](
                std::shared_ptr<DeviceConnection> device) -> asio::awaitable<Outcome> {
         if (!device->identity().fits(opened)) {
-            co_return Outcome::failed(Texts::tr(
-                "This is not the device that the window was opened for: open it again."));
+            co_return Outcome::failed(
+                Texts::tr("This is not the device that the window was opened for: open it again."));
         }
         co_return co_await operation(device);
     };
@@ -87,8 +89,12 @@ IedDriver::Runtime::~Runtime()
     }
     {
         std::unique_lock<std::mutex> lock(remaining->mutex);
-        remaining->changed.wait_until(lock, end, [&] { return remaining->count == 0; });
+        remaining->changed.wait_until(lock, end - cutOffPatience,
+                                      [&] { return remaining->count == 0; });
     }
+    // What still waits for a device would keep itself alive.
+    for (const auto &each : connections())
+        each->cutOff();
     m_values->flush();
     // Attempts to connect that nobody wants any more have been cancelled, and need a moment to end.
     m_work.reset();
@@ -280,8 +286,8 @@ void IedDriver::Runtime::release(Holder holder)
     const std::lock_guard<std::mutex> lock(m_mutex);
     const std::size_t before = m_claimed.size();
     for (auto each = m_claimed.begin(); each != m_claimed.end();) {
-        each = each->second.connection == holder.connection ? m_claimed.erase(each)
-                                                            : std::next(each);
+        each =
+            each->second.connection == holder.connection ? m_claimed.erase(each) : std::next(each);
     }
     if (m_claimed.size() == before)
         return;
