@@ -16,10 +16,8 @@ QList<SclTemplateStore::Entry> readEntries(const QDomElement &enumeration)
     QList<SclTemplateStore::Entry> entries;
     for (QDomElement value = enumeration.firstChildElement(); !value.isNull();
          value = value.nextSiblingElement()) {
-        bool isNumber = false;
-        const int ordinal = firstAttribute(value).toInt(&isNumber);
-        if (isNumber)
-            entries.append({ordinal, value.text()});
+        // What is no number counts as 0.
+        entries.append({firstAttribute(value).toInt(), value.text()});
     }
     return entries;
 }

@@ -25,7 +25,7 @@ QString enumerationText(const DataAttribute &attribute, const QString &templateI
 
 QString validityText(const QString &bits)
 {
-    const QString validity = bits.left(2);
+    const QString validity = bits.left(2).leftJustified(2, QLatin1Char('0'));
     if (validity == QLatin1String("01"))
         return QStringLiteral("Invalid ");
     if (validity == QLatin1String("11"))
@@ -42,6 +42,15 @@ bool isConvertedToInt(const QString &basicType)
         QLatin1String("Check"), QLatin1String("Tcmd")};
     return basicType.contains(QLatin1String("INT")) ||
            std::find(names.begin(), names.end(), basicType) != names.end();
+}
+
+/// A text beyond the largest number of the type would otherwise become infinity.
+template <typename T>
+T numberOf(const QString &text, T (QString::*convert)(bool *) const)
+{
+    bool isNumber = false;
+    const T number = (text.*convert)(&isNumber);
+    return isNumber ? number : T(0);
 }
 
 template <typename T>
@@ -101,9 +110,9 @@ EditedValue readEditedValue(const DataAttribute &attribute, const QVariant &edit
     const QVariant &stored = attribute.value;
     const QString &type = attribute.basicType;
     if (type == QLatin1String("FLOAT32"))
-        return converted(text.toFloat(), stored.toFloat());
+        return converted(numberOf(text, &QString::toFloat), stored.toFloat());
     if (type == QLatin1String("FLOAT64"))
-        return converted(text.toDouble(), stored.toDouble());
+        return converted(numberOf(text, &QString::toDouble), stored.toDouble());
     if (type == QLatin1String("INT64"))
         return converted(text.toLongLong(), stored.toLongLong());
     if (type == QLatin1String("INT64U"))

@@ -45,7 +45,7 @@ private slots:
     void anEnumerationWithoutAnIdIsPassedOver();
     void theIdDirIsLikeAnyOther();
     void otherElementsAndCommentsAreNotKept();
-    void anEntryWithoutANumberIsPassedOver();
+    void anOrdinalThatIsNoNumberCountsAsZero();
     void anEnumerationWithoutEntriesExists();
     void anotherDocumentElementLeavesAnEmptyStore();
     void aMissingFileLeavesAnEmptyStore();
@@ -167,14 +167,15 @@ void tst_SclTemplateStore::otherElementsAndCommentsAreNotKept()
              QStringList({QStringLiteral("3=three")}));
 }
 
-void tst_SclTemplateStore::anEntryWithoutANumberIsPassedOver()
+void tst_SclTemplateStore::anOrdinalThatIsNoNumberCountsAsZero()
 {
     const TestTemplates store(
         document("<EnumType id=\"Damaged\"><EnumVal>none</EnumVal><EnumVal ord=\"x\">text</EnumVal>"
                  "<EnumVal ord=\"4\">four</EnumVal></EnumType>"));
     QCOMPARE(described(store.entries(QStringLiteral("Damaged"))),
-             QStringList({QStringLiteral("4=four")}));
-    QCOMPARE(store.displayText(QStringLiteral("Damaged"), 0), QStringLiteral("Not Represented"));
+             QStringList(
+                 {QStringLiteral("0=none"), QStringLiteral("0=text"), QStringLiteral("4=four")}));
+    QCOMPARE(store.displayText(QStringLiteral("Damaged"), 0), QStringLiteral("none (0)"));
 }
 
 void tst_SclTemplateStore::anEnumerationWithoutEntriesExists()

@@ -204,8 +204,10 @@ void tst_ValuePresentation::qualitiesAreShownByTheNamesOfTheirBits_data()
                                << "Good Process";
     QTest::newRow("empty") << ""
                            << "Good Process";
-    QTest::newRow("one character") << "1"
-                                   << "Good Process";
+    QTest::newRow("one bit") << "1"
+                             << "Reserved Process";
+    QTest::newRow("one bit, clear") << "0"
+                                    << "Good Process";
     QTest::newRow("validity alone") << "00"
                                     << "Good Process";
     QTest::newRow("invalid") << "0100000000000"
@@ -278,6 +280,16 @@ void tst_ValuePresentation::editedTextsBecomeTypedValues_data()
         << "FLOAT32" << typed(0.1) << text("0.1") << typed(0.1f) << false;
     QTest::newRow("float that is none")
         << "FLOAT32" << typed(1.0f) << text("abc") << typed(0.0f) << true;
+    QTest::newRow("beyond the largest float")
+        << "FLOAT32" << typed(1.0f) << text("1e39") << typed(0.0f) << true;
+    QTest::newRow("beyond the largest float, negative")
+        << "FLOAT32" << typed(0.0f) << text("-3.5e38") << typed(0.0f) << false;
+    QTest::newRow("beyond the largest double as float")
+        << "FLOAT32" << typed(1.0f) << text("1e400") << typed(0.0f) << true;
+    QTest::newRow("infinity as such") << "FLOAT32" << typed(1.0f) << text("inf")
+                                      << typed(std::numeric_limits<float>::infinity()) << true;
+    QTest::newRow("beyond the largest double")
+        << "FLOAT64" << typed(1.0) << text("-1e309") << typed(0.0) << true;
     QTest::newRow("double") << "FLOAT64" << typed(1.0) << text("0.12345678901234567")
                             << typed(0.12345678901234567) << true;
     QTest::newRow("same double") << "FLOAT64" << typed(0.5) << text("5e-1") << typed(0.5) << false;
