@@ -91,6 +91,7 @@ IEDModelView::IEDModelView(int driverNo, int deviceNo, int /*taskParameter*/,
     view->setItemDelegate(m_delegate);
     view->setColumnWidth(valueColumn, valueColumnWidth);
 
+    m_explanations.setLanguage(windowLanguage());
     new ExplanationTips(view, [this](const QModelIndex &index) {
         return nodeExplanation(IEDModel::nodeAt(index), m_explanations);
     });

@@ -99,7 +99,7 @@ private:
 
     std::unique_ptr<Ui::IEDModelView> m_form;
     const SclTemplateStore m_templates;
-    const SclExplanations m_explanations;
+    SclExplanations m_explanations;
     IEDModel *m_model;
     HostTaskContext *m_hostContext;
     IEC61850ControllerInterface m_controller;

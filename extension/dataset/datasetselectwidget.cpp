@@ -146,6 +146,7 @@ DatasetSelectWidget::DatasetSelectWidget(QWidget *parent)
     m_form->setupUi(this);
     connect(m_form->buttonBox, &QDialogButtonBox::accepted, this, &DatasetSelectWidget::slotAccept);
     connect(m_form->buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    m_explanations.setLanguage(windowLanguage());
     new ExplanationTips(m_form->treeWidget, [this](const QModelIndex &item) {
         return explanation(item, m_explanations, m_enumerations);
     });

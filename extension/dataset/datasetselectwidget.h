@@ -48,6 +48,6 @@ private:
     void disconnectItemChange();
 
     std::unique_ptr<Ui::DatasetSelectWidget> m_form;
-    const SclExplanations m_explanations;
+    SclExplanations m_explanations;
     QMap<QString, EnumType> m_enumerations; ///< the device's
 };

@@ -3,6 +3,7 @@
 
 #include "sclexplanations.h"
 
+#include <QtCore/QLocale>
 #include <QtGui/QHelpEvent>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QToolTip>
@@ -133,6 +134,14 @@ QString attributeTip(const SclExplanations &explanations, const AttributePlace &
     if (!place.constraint.isEmpty())
         tip += labelled(ExplanationTips::tr("Functional constraint:"), place.constraint);
     return tip + presenceLine(known) + values;
+}
+
+QString windowLanguage()
+{
+    // A host may lack the catalogue of its locale: tips do not speak another language than the
+    // window around them.
+    const QString english = QStringLiteral("Data type:");
+    return ExplanationTips::tr("Data type:") == english ? QString() : QLocale::system().name();
 }
 
 ExplanationTips::ExplanationTips(QAbstractItemView *view, Text text)

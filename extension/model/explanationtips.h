@@ -43,6 +43,9 @@ QString dataObjectTip(const SclExplanations &explanations, const DataObjectPlace
 QString attributeTip(const SclExplanations &explanations, const AttributePlace &place,
                      const QMap<QString, EnumType> &deviceEnumerations);
 
+/// The locale name of the language that the windows' own texts are in; empty when they are English.
+QString windowLanguage();
+
 /// Shows a tip beside the item under the pointer. A view's model need not know of tips; items
 /// without a text are left to the view. Owned by the view.
 class ExplanationTips : public QObject

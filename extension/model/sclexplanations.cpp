@@ -2,7 +2,9 @@
 #include "sclexplanations.h"
 
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtCore/QHash>
+#include <QtCore/QTranslator>
 #include <QtCore/QXmlStreamReader>
 
 namespace {
@@ -104,11 +106,8 @@ QList<QPair<int, QString>> SclExplanations::Content::readValues(QXmlStreamReader
 {
     QList<QPair<int, QString>> values;
     while (xml.readNextStartElement()) {
-        bool isNumber = false;
-        const int ordinal = valueOf(xml.attributes(), "ord").toInt(&isNumber);
-        const QString text = xml.readElementText(QXmlStreamReader::SkipChildElements);
-        if (isNumber)
-            values.append({ordinal, text});
+        const int ordinal = valueOf(xml.attributes(), "ord").toInt();
+        values.append({ordinal, xml.readElementText(QXmlStreamReader::SkipChildElements)});
     }
     return values;
 }
@@ -124,6 +123,12 @@ SclExplanations::SclExplanations(const QString &path)
 }
 
 SclExplanations::~SclExplanations() = default;
+
+void SclExplanations::setLanguage(const QString &localeName)
+{
+    m_language = localeName;
+    m_catalogue.reset();
+}
 
 const SclExplanations::Content &SclExplanations::content() const
 {
@@ -141,24 +146,46 @@ const SclExplanations::Content &SclExplanations::content() const
     return *m_content;
 }
 
+// The translator stays private: one that is installed would be asked for every text of the host.
+QString SclExplanations::translated(const QString &sentence) const
+{
+    if (sentence.isEmpty() || m_language.isEmpty())
+        return sentence;
+    if (!m_catalogue) {
+        auto catalogue = std::make_unique<QTranslator>();
+        catalogue->load(QStringLiteral("explanations_") + m_language, QFileInfo(m_path).path());
+        m_catalogue = std::move(catalogue);
+    }
+    const QString found = m_catalogue->translate("SclExplanations", sentence.toUtf8().constData());
+    return found.isEmpty() ? sentence : found;
+}
+
+SclExplanations::Member SclExplanations::translated(Member member) const
+{
+    member.text = translated(member.text);
+    return member;
+}
+
 QString SclExplanations::logicalNodeClass(const QString &lnClass) const
 {
-    return content().classes.value(lnClass).text;
+    return translated(content().classes.value(lnClass).text);
 }
 
 QString SclExplanations::commonDataClass(const QString &cdc) const
 {
-    return content().commonClasses.value(cdc).text;
+    return translated(content().commonClasses.value(cdc).text);
 }
 
 QString SclExplanations::attributeType(const QString &type) const
 {
-    return content().attributeTypes.value(type).text;
+    return translated(content().attributeTypes.value(type).text);
 }
 
 SclExplanations::Enumeration SclExplanations::enumeration(const QString &id) const
 {
-    return content().enumerations.value(id);
+    Enumeration enumeration = content().enumerations.value(id);
+    enumeration.text = translated(enumeration.text);
+    return enumeration;
 }
 
 SclExplanations::Member SclExplanations::dataObject(const QString &lnClass,
@@ -169,13 +196,13 @@ SclExplanations::Member SclExplanations::dataObject(const QString &lnClass,
     for (const QString &candidate : {name, plainName}) {
         const auto member = members.constFind(candidate);
         if (member != members.constEnd())
-            return *member;
+            return translated(*member);
     }
     Member elsewhere;
     elsewhere.text = content().dataObjectTexts.value(name);
     if (elsewhere.text.isEmpty())
         elsewhere.text = content().dataObjectTexts.value(plainName);
-    return elsewhere;
+    return translated(elsewhere);
 }
 
 SclExplanations::Member SclExplanations::attribute(const QString &cdc,
@@ -197,9 +224,9 @@ SclExplanations::Member SclExplanations::attribute(const QString &cdc,
         if (found == type.members.constEnd()) {
             Member elsewhere;
             elsewhere.text = known.attributeTexts.value(withoutElementNumber(path.constLast()));
-            return elsewhere;
+            return translated(elsewhere);
         }
         member = *found;
     }
-    return member;
+    return translated(member);
 }

@@ -8,9 +8,11 @@
 
 #include <memory>
 
+class QTranslator;
+
 /// What logical-node classes, common data classes, data objects, attributes and enumerations of
 /// IEC 61850-7-3 and 7-4 mean, in a sentence each, from the compiled-in data type templates. The
-/// sentences are English and end with a full stop.
+/// sentences end with a full stop; they are English unless another language was set.
 ///
 /// Read at the first question, since most windows are never asked; that takes about as long as
 /// painting the tree once. From a missing or malformed resource nothing is taken, and every text is
@@ -40,6 +42,10 @@ public:
     ~SclExplanations();
     Q_DISABLE_COPY(SclExplanations)
 
+    /// Answer from now on in the language of a locale name such as "de_DE", as far as a catalogue
+    /// "explanations_LANGUAGE.qm" beside the template file has the sentences. Empty means English.
+    void setLanguage(const QString &localeName);
+
     QString logicalNodeClass(const QString &lnClass) const;
     QString commonDataClass(const QString &cdc) const;
     QString attributeType(const QString &type) const;
@@ -58,7 +64,11 @@ private:
     struct Content;
 
     const Content &content() const;
+    QString translated(const QString &sentence) const;
+    Member translated(Member member) const;
 
     const QString m_path;
+    QString m_language;
+    mutable std::unique_ptr<const QTranslator> m_catalogue; ///< null until a sentence is asked for
     mutable std::unique_ptr<const Content> m_content;
 };

@@ -2,6 +2,7 @@
 #include "model/explanationtips.h"
 #include "model/sclexplanations.h"
 
+#include <QtCore/QTranslator>
 #include <QtGui/QHelpEvent>
 #include <QtGui/QStandardItemModel>
 #include <QtTest/QtTest>
@@ -20,6 +21,17 @@ QMap<QString, EnumType> deviceEnumerations()
     type.values = {{7, QStringLiteral("standby")}, {3, QStringLiteral("<running>")}};
     return {{type.id, type}};
 }
+
+/// A language in which every text stands in brackets.
+class BracketTranslator : public QTranslator
+{
+public:
+    QString translate(const char *, const char *text, const char *, int) const override
+    {
+        return QStringLiteral("[%1]").arg(QString::fromUtf8(text));
+    }
+    bool isEmpty() const override { return false; }
+};
 
 bool sendTipRequest(QTreeView &view, const QModelIndex &index)
 {
@@ -48,6 +60,7 @@ private slots:
     void aLongEnumerationIsCutOff();
     void whatNobodyKnowsHasNoTip();
     void textFromTheDeviceIsNoMarkup();
+    void tipsSpeakTheLanguageOfTheWindows();
     void theTipAppearsBesideTheItem();
     void anItemWithoutATextIsLeftToTheView();
 
@@ -168,6 +181,16 @@ void tst_ExplanationTips::textFromTheDeviceIsNoMarkup()
     QVERIFY(tip.contains("&lt;i&gt;own"));
     QVERIFY(!tip.contains("<i>"));
     QVERIFY(tip.contains("Functional constraint: &lt;b&gt;"));
+}
+
+void tst_ExplanationTips::tipsSpeakTheLanguageOfTheWindows()
+{
+    QCOMPARE(windowLanguage(), QString());
+    BracketTranslator translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    const QString language = windowLanguage();
+    QCoreApplication::removeTranslator(&translator);
+    QCOMPARE(language, QLocale::system().name());
 }
 
 void tst_ExplanationTips::theTipAppearsBesideTheItem()

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "model/sclexplanations.h"
 
+#include <QtCore/QDir>
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
 #include <QtCore/QTemporaryFile>
 #include <QtTest/QtTest>
 
@@ -38,6 +41,62 @@ private:
     QTemporaryFile m_file;
 };
 
+void writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    if (!QDir().mkpath(QFileInfo(path).path()) || !file.open(QIODevice::WriteOnly) ||
+        file.write(content) != content.size()) {
+        qFatal("A file of the test cannot be written");
+    }
+}
+
+int run(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedChannels);
+    process.start(program, arguments);
+    return process.waitForFinished() ? process.exitCode() : -1;
+}
+
+/// A folder with the template file of the test and a catalogue of another language, made from
+/// tables as the build makes them.
+class TranslatedTemplates
+{
+public:
+    TranslatedTemplates()
+    {
+        writeFile(path(), templates);
+        const QList<QPair<const char *, QPair<QByteArray, QByteArray>>> tables = {
+            {"classes", {"XTST A test.\n", "XTST Ein Test.\n"}},
+            {"data-objects",
+             {"Ind An indication.\nMode The mode.\n",
+              "Ind Eine Meldung.\nMode Die Betriebsart.\n"}},
+            {"common-classes", {"CMV A vector.\nHMV Harmonics.\n", "CMV Ein Zeiger.\n"}},
+            {"attributes",
+             {"cVal Value.\nmag Magnitude.\n", "cVal Wert.\nmag Betrag & \xc2\xbb|Z|\xc2\xab.\n"}},
+            {"attribute-types", {"Vector Magnitude and angle.\n", "Vector Betrag und Winkel.\n"}},
+            {"enumerations", {"Kind Kinds.\n", "Kind Arten.\n"}}};
+        QStringList arguments = {"-B", GENERATOR, file("de.ts"), file("de")};
+        for (const auto &table : tables) {
+            const QString name = QStringLiteral("explanations-%1.txt").arg(table.first);
+            writeFile(file(name), table.second.first);
+            writeFile(file("de/" + name), table.second.second);
+            arguments << file(name);
+        }
+        if (run(PYTHON, arguments) != 0 ||
+            run(LRELEASE, {"-silent", file("de.ts"), "-qm", file("explanations_de.qm")}) != 0) {
+            qFatal("The catalogue of the test cannot be made");
+        }
+    }
+
+    QString path() const { return file("templates.xml"); }
+
+private:
+    QString file(const QString &name) const { return m_folder.filePath(name); }
+
+    QTemporaryDir m_folder;
+};
+
 } // namespace
 
 class tst_SclExplanations : public QObject
@@ -58,6 +117,10 @@ private slots:
     void aDamagedFileExplainsNothing_data();
     void aDamagedFileExplainsNothing();
     void theFileIsReadAtTheFirstQuestionOnly();
+    void sentencesComeInTheLanguageThatWasSet();
+    void aSentenceThatTheLanguageLacksStaysEnglish();
+    void aLanguageWithoutACatalogueStaysEnglish_data();
+    void aLanguageWithoutACatalogueStaysEnglish();
 };
 
 void tst_SclExplanations::theCompiledInTemplatesExplainThemselves()
@@ -222,6 +285,56 @@ void tst_SclExplanations::theFileIsReadAtTheFirstQuestionOnly()
     QCOMPARE(explanations.logicalNodeClass("XTST"), QStringLiteral("A test."));
     QVERIFY(file.resize(0));
     QCOMPARE(explanations.logicalNodeClass("XTST"), QStringLiteral("A test."));
+}
+
+void tst_SclExplanations::sentencesComeInTheLanguageThatWasSet()
+{
+    const TranslatedTemplates files;
+    SclExplanations explanations(files.path());
+    QCOMPARE(explanations.logicalNodeClass("XTST"), QStringLiteral("A test."));
+    explanations.setLanguage(QStringLiteral("de_DE"));
+    QCOMPARE(explanations.logicalNodeClass("XTST"), QStringLiteral("Ein Test."));
+    QCOMPARE(explanations.commonDataClass("CMV"), QStringLiteral("Ein Zeiger."));
+    QCOMPARE(explanations.attributeType("Vector"), QStringLiteral("Betrag und Winkel."));
+    QCOMPARE(explanations.enumeration("Kind").text, QStringLiteral("Arten."));
+    QCOMPARE(explanations.enumeration("Kind").values.size(), 2);
+    QCOMPARE(explanations.dataObject("XTST", "Ind4").text, QStringLiteral("Eine Meldung."));
+    QCOMPARE(explanations.dataObject("VENDOR", "Mode").text, QStringLiteral("Die Betriebsart."));
+    QCOMPARE(explanations.attribute("CMV", {"cVal"}).text, QStringLiteral("Wert."));
+    QCOMPARE(explanations.attribute("QQQ", {"mag"}).text, QString::fromUtf8("Betrag & »|Z|«."));
+    explanations.setLanguage({});
+    QCOMPARE(explanations.logicalNodeClass("XTST"), QStringLiteral("A test."));
+}
+
+void tst_SclExplanations::aSentenceThatTheLanguageLacksStaysEnglish()
+{
+    const TranslatedTemplates files;
+    SclExplanations explanations(files.path());
+    explanations.setLanguage(QStringLiteral("de_DE"));
+    QCOMPARE(explanations.commonDataClass("HMV"), QStringLiteral("Harmonics."));
+    QCOMPARE(explanations.attribute("CMV", {"range"}).text, QStringLiteral("Range."));
+    QVERIFY(explanations.logicalNodeClass("QQQQ").isEmpty());
+}
+
+void tst_SclExplanations::aLanguageWithoutACatalogueStaysEnglish_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::newRow("none") << QString();
+    QTest::newRow("C") << QStringLiteral("C");
+    QTest::newRow("another language") << QStringLiteral("fr_FR");
+    QTest::newRow("a language that begins alike") << QStringLiteral("deu");
+}
+
+void tst_SclExplanations::aLanguageWithoutACatalogueStaysEnglish()
+{
+    QFETCH(QString, language);
+    const TranslatedTemplates files;
+    SclExplanations explanations(files.path());
+    explanations.setLanguage(language);
+    QCOMPARE(explanations.logicalNodeClass("XTST"), QStringLiteral("A test."));
+    SclExplanations compiledIn;
+    compiledIn.setLanguage(language == "fr_FR" ? QStringLiteral("nl_NL") : language);
+    QVERIFY(compiledIn.logicalNodeClass("XCBR").contains("breaker"));
 }
 
 QTEST_GUILESS_MAIN(tst_SclExplanations)

@@ -25,7 +25,8 @@ PRESENCE is a code of the standard, or "-" when none is recorded.
 
 A table named explanations-KIND.txt holds lines "NAME Sentence." instead. Whatever is written must
 have its sentence, data objects and attributes one for each name; an enumeration's stands under the
-first of its ids.
+first of its ids. The sentences in other languages are in tables of the same names, in a folder for
+each language; generate_catalogue.py makes catalogues from them.
 
 The loader takes the first attribute of an element for its id or ordinal, and every child node for a
 value: EnumType is therefore written with an id only, EnumVal with an ord only, and no comments. The
@@ -43,6 +44,7 @@ BASIC_TYPES = frozenset(
     Timestamp TrgOps Unicode255 VisString32 VisString64 VisString129 VisString255""".split())
 CONSTRAINTS = frozenset("ST MX CO SP SG SE SV CF DC EX SR OR BL SDO".split())
 TRIGGERS = ("dchg", "qchg", "dupd")
+FULL_STOPS = (".", "\u3002")
 EXPLAINED = ("classes", "data-objects", "common-classes", "attributes", "attribute-types",
              "enumerations")
 
@@ -196,7 +198,7 @@ def read_explanations(template, kind, lines):
         name, _, sentence = line.text.partition(" ")
         if name in sentences:
             raise TableError(line, f'"{name}" is explained twice')
-        if not sentence.endswith("."):
+        if not sentence.endswith(FULL_STOPS):
             raise TableError(line, f'the sentence of "{name}" has no full stop')
         sentences[name] = sentence
 
