@@ -1,11 +1,37 @@
 // SPDX-License-Identifier: Apache-2.0
-// Writes the PDUs of the tests as files, for libFuzzer to begin with: one folder for fuzz_mmspdu and
-// fuzz_acsireport together.
+// Writes sound inputs as files, for libFuzzer to begin with: a folder for each target, one with the
+// PDUs of the tests for fuzz_mmspdu and fuzz_acsireport together.
+#include "recordings.h"
 #include "samples.h"
 
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+
+namespace {
+
+bool write(const std::filesystem::path &path, const std::vector<std::uint8_t> &octets)
+{
+    std::error_code error;
+    std::filesystem::create_directories(path.parent_path(), error);
+    std::ofstream file(path, std::ios::binary);
+    file.write(reinterpret_cast<const char *>(octets.data()),
+               static_cast<std::streamsize>(octets.size()));
+    if (!file.flush())
+        std::cerr << "fuzz_seeds: " << path << " cannot be written.\n";
+    return file.good();
+}
+
+bool write(const std::filesystem::path &folder,
+           const std::vector<std::vector<std::uint8_t>> &inputs)
+{
+    bool isWritten = true;
+    for (std::size_t i = 0; i < inputs.size(); ++i)
+        isWritten = write(folder / std::to_string(i + 1), inputs[i]) && isWritten;
+    return isWritten;
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {
@@ -14,17 +40,10 @@ int main(int argc, char **argv)
         return 2;
     }
     const std::filesystem::path folder = argv[1];
-    std::error_code error;
-    std::filesystem::create_directories(folder, error);
-    for (const mmstest::Sample &sample : mmstest::samples()) {
-        const auto octets = mms::encode(sample.pdu);
-        std::ofstream file(folder / sample.name, std::ios::binary);
-        file.write(reinterpret_cast<const char *>(octets.data()),
-                   static_cast<std::streamsize>(octets.size()));
-        if (!file.flush()) {
-            std::cerr << "fuzz_seeds: " << (folder / sample.name) << " cannot be written.\n";
-            return 1;
-        }
-    }
-    return 0;
+    bool isWritten = write(folder / "discovery", fuzz::discoveryRecordings());
+    isWritten = write(folder / "reportstream", fuzz::reportRecordings()) && isWritten;
+    isWritten = write(folder / "lastentries", fuzz::lastEntriesFiles()) && isWritten;
+    for (const mmstest::Sample &sample : mmstest::samples())
+        isWritten = write(folder / "pdu" / sample.name, mms::encode(sample.pdu)) && isWritten;
+    return isWritten ? 0 : 1;
 }
