@@ -3,8 +3,9 @@
 
 Usage: generate_standardtypes.py TEMPLATES.xml OUTPUT.inc
 
-Two sorted tables of rows {key, type, name}: data objects by "class/name" with their common data
-class and enumeration, and attributes by "type/name" with their basic type and what it is called.
+Three sorted tables of rows {key, type, name}: data objects by "class/name" with their common data
+class and enumeration, attributes by "type/name" with their basic type and what it is called, and
+entries of enumerations by "enumeration/number" with their text.
 """
 import sys
 import xml.etree.ElementTree as ElementTree
@@ -24,6 +25,12 @@ def rows_of_types(root):
                     basic = "" if member.tag == "SDO" else member.get("bType")
                     yield (f'{block.get("id")}/{member.get("name")}', basic,
                            member.get("type", ""))
+
+
+def rows_of_enumerations(root):
+    for block in root.iter("EnumType"):
+        for entry in block.findall("EnumVal"):
+            yield f'{block.get("id")}/{entry.get("ord")}', (entry.text or "").strip(), ""
 
 
 def table(name, rows):
@@ -48,7 +55,8 @@ def main(arguments):
     try:
         root = ElementTree.parse(source).getroot()
         content = "\n\n".join([table("dataObjects", rows_of_nodes(root)),
-                               table("attributes", rows_of_types(root))])
+                               table("attributes", rows_of_types(root)),
+                               table("enumerations", rows_of_enumerations(root))])
     except (ElementTree.ParseError, OSError, ValueError) as error:
         print(f"generate_standardtypes.py: {error}", file=sys.stderr)
         return 1

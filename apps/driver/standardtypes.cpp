@@ -62,6 +62,21 @@ QString StandardTypes::innerClass(const QString &commonDataClass, const QString 
     return row && row->type.empty() ? text(row->name) : QString();
 }
 
+QMap<int, QString> StandardTypes::enumeration(const QString &enumTypeId)
+{
+    const std::string prefix = (enumTypeId + QLatin1Char('/')).toStdString();
+    auto row = std::lower_bound(
+        enumerations.begin(), enumerations.end(), prefix,
+        [](const Row &left, const std::string &right) { return left.key < right; });
+    QMap<int, QString> entries;
+    for (; row != enumerations.end() && row->key.substr(0, prefix.size()) == prefix; ++row) {
+        const QString ordinal = text(row->key.substr(prefix.size()));
+        entries.insert(ordinal.toInt(),
+                       QString::fromUtf8(row->type.data(), static_cast<int>(row->type.size())));
+    }
+    return entries;
+}
+
 StandardTypes::AttributeType StandardTypes::attribute(const QString &lnClass,
                                                       const QString &dataObject,
                                                       const QString &commonDataClass,

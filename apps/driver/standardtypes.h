@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <QtCore/QMap>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
@@ -28,5 +29,8 @@ QString innerClass(const QString &commonDataClass, const QString &name);
 /// that open.
 AttributeType attribute(const QString &lnClass, const QString &dataObject,
                         const QString &commonDataClass, const QStringList &path);
+
+/// The entries of a standard enumeration by their numbers; empty when there is none of that name.
+QMap<int, QString> enumeration(const QString &enumTypeId);
 
 } // namespace StandardTypes

@@ -8,7 +8,9 @@
 
 #include <QtCore/QFile>
 
+#include <algorithm>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -48,6 +50,7 @@ struct Values
     std::vector<std::string> pins;
     std::vector<std::string> revocations;
     std::string peerName;
+    bool acceptsOtherNames = false;
     std::string keyPasswordFile;
     std::string certificate;
     std::string key;
@@ -72,6 +75,7 @@ struct Values
     bool polls = false;
     bool attributes = false;
     bool edited = false;
+    bool overwrites = false;
     int group = 0;
 
     Command command;
@@ -80,15 +84,102 @@ struct Values
 
 // Data that no report brings is looked at this often.
 constexpr int watchIntervalMs = 1000;
+/// What a device's configuration takes.
+constexpr std::chrono::milliseconds longestOperation{600000};
+
+constexpr std::size_t helpColumn = 34;
+constexpr std::size_t helpWidth = 100;
+
+/// The text with its lines broken between words.
+std::string wrapped(const std::string &source, std::size_t width)
+{
+    std::string result;
+    std::size_t column = 0;
+    std::size_t position = 0;
+    while (position < source.size()) {
+        const std::size_t end = std::min(source.find_first_of(" \n", position + 1), source.size());
+        const std::string word = source.substr(position, end - position);
+        if (word.front() == '\n') {
+            column = word.size() - 1;
+        } else if (column > 0 && column + word.size() > width) {
+            result += '\n' + word.substr(word.front() == ' ' ? 1 : 0);
+            column = word.size();
+            position = end;
+            continue;
+        } else {
+            column += word.size();
+        }
+        result += word;
+        position = end;
+    }
+    return result;
+}
+
+/// Help that fits a terminal.
+class HelpFormatter : public CLI::Formatter
+{
+public:
+    HelpFormatter()
+    {
+        column_width(helpColumn);
+        label("REQUIRED", "(required)");
+        label("Needs", "with");
+        label("Excludes", "without");
+    }
+    std::string make_option_desc(const CLI::Option *option) const override
+    {
+        return wrapped(option->get_description(), helpWidth - helpColumn);
+    }
+    std::string make_subcommand(const CLI::App *command) const override
+    {
+        std::ostringstream out;
+        CLI::detail::format_help(out, command->get_name(),
+                                 wrapped(command->get_description(), helpWidth - helpColumn),
+                                 helpColumn);
+        return out.str();
+    }
+    std::string make_description(const CLI::App *app) const override
+    {
+        return wrapped(CLI::Formatter::make_description(app), helpWidth);
+    }
+    std::string make_footer(const CLI::App *app) const override
+    {
+        return wrapped(CLI::Formatter::make_footer(app), helpWidth);
+    }
+};
 
 constexpr const char *referenceHelp =
     "Data as \"LD/LN.Data.attribute\", with \"[FC]\" behind it for one functional constraint, or as "
-    "\"LD/LN$FC$Data$attribute\"; less than that means all below";
+    "\"LD/LN$FC$Data$attribute\" (in quotes, since a shell takes $ for itself); less than that "
+    "means all below";
 constexpr const char *dataSetHelp =
     "Data set, \"LD/LN$name\", or \"@name\" for one of the association";
 constexpr const char *blockHelp = "Report control block, \"LD/LN$BR$name\" or \"LD/LN$RP$name\"";
 constexpr const char *objectHelp = "Controllable data object, \"LD/LN.Data\"";
-constexpr const char *logicalDeviceHelp = "Logical device";
+constexpr const char *logicalDeviceHelp = "Logical device, whose control block is meant";
+constexpr const char *valueHelp =
+    "Number (also 0x1F), true or false, entry of an enumeration by name or number, text; a quality "
+    "as 13 characters 0 and 1, a time as in 2026-03-04T05:06:07.890Z";
+constexpr const char *settingsHelp =
+    "NAME=VALUE; names as \"group read\" shows them, or as LN.Data.attribute";
+constexpr const char *commandFooter =
+    "Options of the program, such as --connect and --json, may stand before or behind the command; "
+    "\"iedctl --help\" shows them.";
+constexpr const char *programFooter =
+    "Each command has its own help: iedctl report enable --help\n"
+    "\n"
+    "Tables show \"-\" where there is no value, enumerations by name with their number behind it, and "
+    "qualities in words; --json has the raw values, too. Ctrl+C ends a stream in an orderly way and "
+    "cancels anything else that waits for the device; pressed again it ends the program.\n"
+    "\n"
+    "Exit status: 0 done; 1 refused, or a value did not come; 2 the command line cannot be "
+    "understood; 3 no association with the device.\n"
+    "\n"
+    "Examples:\n"
+    "  iedctl --connect 192.0.2.7 read LD0/MMXU1.PhV\n"
+    "  iedctl --connect 192.0.2.7 operate LD0/CSWI1.Pos --value on --interlock\n"
+    "  iedctl --connect 192.0.2.7 report enable 'LD0/LLN0$BR$brcb01' --gi\n"
+    "  iedctl --scl bay.scd --ied Q01 model";
 
 /// A check that does not show in the help: the option's text says the range.
 CLI::Validator unnamed(CLI::Validator check)
@@ -137,7 +228,7 @@ public:
     {
         m_app.require_subcommand(1);
         m_app.fallthrough();
-        m_app.get_formatter()->column_width(34);
+        m_app.formatter(std::make_shared<HelpFormatter>());
         if (!inBatch)
             addProgramOptions();
         addModelCommands();
@@ -150,14 +241,19 @@ public:
         if (!inBatch) {
             CLI::App *batch =
                 m_app.add_subcommand("batch", "Run commands within one association, one a line");
-            batch->add_option("file", m_values.batch, "File with commands; - reads standard input")
-                ->capture_default_str();
+            batch
+                ->add_option("file", m_values.batch,
+                             "File with commands, # begins a comment; standard input unless given, "
+                             "or with -")
+                ->type_name("");
             batch->callback([this] {
                 if (m_values.batch.empty())
                     m_values.batch = "-";
             });
             // Commands would inherit what is there before them.
             m_app.set_help_all_flag("--help-all", "Help of all commands");
+            addFooters(m_app);
+            m_app.footer(programFooter);
         }
     }
 
@@ -183,12 +279,13 @@ public:
                                                      : m_values.sclFile);
         device.connectTimeout = timeout;
         device.callTimeout = timeout;
-        device.operationTimeout = 3 * timeout;
+        device.operationTimeout = std::min(3 * timeout, longestOperation);
         device.tls.enabled = !m_values.authorities.empty() || !m_values.pins.empty();
         device.tls.authorityFiles = texts(m_values.authorities);
         device.tls.pins = texts(m_values.pins);
         device.tls.revocationFiles = texts(m_values.revocations);
         device.tls.peerName = text(m_values.peerName);
+        device.tls.acceptsOtherNames = m_values.acceptsOtherNames;
         device.tls.certificateFile = text(m_values.certificate);
         device.tls.keyFile = text(m_values.key);
         device.pollInterval = std::chrono::milliseconds(m_values.polls ? watchIntervalMs : 0);
@@ -299,11 +396,22 @@ private:
             ->expected(1)
             ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
             ->needs(connect);
+        CLI::Option *peerName =
+            m_app
+                .add_option(
+                    "--tls-name", m_values.peerName,
+                    "Host name or address that the server's certificate is made out to; the "
+                    "host of --connect unless given")
+                ->type_name("NAME")
+                ->needs(connect);
         m_app
-            .add_option("--tls-name", m_values.peerName,
-                        "Host name or address that the server's certificate is made out to")
-            ->type_name("NAME")
-            ->needs(connect);
+            .add_flag(
+                "--tls-accept-other-names", m_values.acceptsOtherNames,
+                "Accept a server's certificate that is made out to another name or address. "
+                "Unsafe: whoever holds the key of any certificate of these issuers can pose as "
+                "the server")
+            ->needs(connect)
+            ->excludes(peerName);
         CLI::Option *certificate =
             m_app.add_option("--tls-cert", m_values.certificate, "Own certificate (PEM)")
                 ->type_name("FILE")
@@ -333,7 +441,7 @@ private:
                 throw CLI::RequiredError("--connect HOST:PORT or --scl FILE");
             const bool trusts = !m_values.authorities.empty() || !m_values.pins.empty();
             const bool needsTrust = !m_values.certificate.empty() || !m_values.peerName.empty() ||
-                                    !m_values.revocations.empty();
+                                    !m_values.revocations.empty() || m_values.acceptsOtherNames;
             if (needsTrust && !trusts)
                 throw CLI::RequiredError("With TLS, --tls-ca FILE or --tls-pin HEX");
         });
@@ -353,21 +461,39 @@ private:
         return added;
     }
 
+    static void addFooters(const CLI::App &app)
+    {
+        const auto any = [](const CLI::App *) { return true; };
+        // What is not const is given out by name only.
+        for (const CLI::App *command : app.get_subcommands(any)) {
+            CLI::App *each = app.get_subcommand(command->get_name());
+            each->footer(each->get_subcommands(any).empty()
+                             ? commandFooter
+                             : "Each has its own help: iedctl " + each->get_name() +
+                                   " COMMAND --help");
+            addFooters(*each);
+        }
+    }
+
     void addModelCommands()
     {
         Values &v = m_values;
         CLI::App *model = command(&m_app, "model", "What the device has", [&v](Session &session) {
             return Commands::model(session, v.attributes);
         });
-        model->add_flag("-a,--attributes", v.attributes, "With every data attribute");
+        model->add_flag("-a,--attributes", v.attributes, "With every data attribute and its type");
 
         CLI::App *directory =
             command(&m_app, "directory", "Ask the device for names", [&v](Session &session) {
                 v.directory.reference = text(v.reference);
                 return Commands::directory(session, v.directory);
             });
-        directory->add_option("reference", v.reference,
-                              "Nothing, a logical device, a logical node or data");
+        directory
+            ->add_option(
+                "reference", v.reference,
+                "Nothing for the logical devices, \"LD\" for its logical nodes, \"LD/LN\" for "
+                "its data, \"LD/LN.Data\" for what is in it")
+            ->type_name("");
         CLI::Option *sets = directory->add_flag("--datasets", v.directory.dataSets,
                                                 "The data sets of a logical device");
         CLI::Option *reports = directory->add_flag("--reports", v.directory.reports,
@@ -380,11 +506,13 @@ private:
         command(&m_app, "abort", "Abort the association", &Commands::abort);
     }
 
-    void addLimits(CLI::App *app)
+    void addLimits(CLI::App *app, const char *what)
     {
-        app->add_option("--count", m_values.limit.count, "End after so many values")
+        app->add_option("--count", m_values.limit.count, what)
+            ->type_name("N")
             ->check(unnamed(CLI::PositiveNumber));
         app->add_option("--seconds", m_values.limit.seconds, "End after so many seconds")
+            ->type_name("N")
             ->check(unnamed(CLI::PositiveNumber));
     }
 
@@ -394,24 +522,27 @@ private:
         CLI::App *read = command(&m_app, "read", "Read values", [&v](Session &session) {
             return Commands::read(session, texts(v.list));
         });
-        read->add_option("references", v.list, referenceHelp)->required();
+        read->add_option("references", v.list, referenceHelp)->type_name("")->required();
 
         CLI::App *write =
             command(&m_app, "write", "Write one value and read it back", [&v](Session &session) {
                 return Commands::write(session, text(v.reference), text(v.value));
             });
-        write->add_option("reference", v.reference, "Data attribute")->required();
         write
-            ->add_option("value", v.value,
-                         "Number, true or false, text, or entry of an enumeration")
+            ->add_option("reference", v.reference,
+                         "One data attribute, \"LD/LN.Data.attribute\" or "
+                         "\"LD/LN$FC$Data$attribute\"")
+            ->type_name("")
             ->required();
+        write->add_option("value", v.value, valueHelp)->type_name("")->required();
 
         CLI::App *watch = command(
             &m_app, "watch", "Show values as they come, until stopped",
             [&v](Session &session) { return Commands::watch(session, texts(v.list), v.limit); });
         watch->preparse_callback([&v](std::size_t) { v.polls = true; });
-        watch->add_option("references", v.list, "Data; all unless given");
-        addLimits(watch);
+        watch->add_option("references", v.list, "Data as in \"read\"; all unless given")
+            ->type_name("");
+        addLimits(watch, "End after so many values");
     }
 
     void addDataSetCommands()
@@ -421,10 +552,11 @@ private:
         CLI::App *list = command(parent, "list", "Names", [&v](Session &session) {
             return Commands::listDataSets(session, text(v.reference));
         });
-        list->add_option("logical-device", v.reference, "Of this logical device only");
+        list->add_option("logical-device", v.reference, "Of this logical device only")
+            ->type_name("");
         const auto add = [&](const char *name, const char *help, Command action) {
             CLI::App *added = command(parent, name, help, std::move(action));
-            added->add_option("dataset", v.dataSet, dataSetHelp)->required();
+            added->add_option("dataset", v.dataSet, dataSetHelp)->type_name("")->required();
             return added;
         };
         add("show", "Members",
@@ -436,6 +568,7 @@ private:
                 return Commands::createDataSet(session, text(v.dataSet), texts(v.list));
             })
             ->add_option("members", v.list, referenceHelp)
+            ->type_name("")
             ->required();
         add("delete", "Delete a data set",
             [&v](Session &session) { return Commands::deleteDataSet(session, text(v.dataSet)); });
@@ -448,7 +581,7 @@ private:
         command(parent, "list", "Names", &Commands::listReports);
         const auto add = [&](const char *name, const char *help, Command action) {
             CLI::App *added = command(parent, name, help, std::move(action));
-            added->add_option("block", v.reference, blockHelp)->required();
+            added->add_option("block", v.reference, blockHelp)->type_name("")->required();
             return added;
         };
         add("show", "Settings and state",
@@ -458,26 +591,42 @@ private:
                 return Commands::setReport(session, text(v.reference), texts(v.list));
             })
             ->add_option("settings", v.list,
-                         "NAME=VALUE with the names RptID, DatSet, TrgOps, OptFlds, IntgPd, BufTm, "
-                         "Resv")
+                         "NAME=VALUE with the names RptID and DatSet (texts), TrgOps and OptFlds "
+                         "(lists as of \"report enable\"), IntgPd and BufTm (milliseconds), Resv "
+                         "(true or false)")
+            ->type_name("")
             ->required();
         CLI::App *enable =
-            add("enable", "Enable a block and show what it reports, until stopped", {});
-        CLI::Option *rptId = enable->add_option("--rptid", v.rptId, "Report identifier");
-        CLI::Option *dataSet = enable->add_option("--dataset", v.dataSet, "Data set");
+            add("enable",
+                "Enable a block, show each report with its arrival, number, values and their "
+                "reasons until stopped, and disable it; what is not given stays as it is",
+                {});
+        CLI::Option *rptId =
+            enable->add_option("--rptid", v.rptId, "Report identifier")->type_name("TEXT");
+        CLI::Option *dataSet =
+            enable->add_option("--dataset", v.dataSet, dataSetHelp)->type_name("NAME");
         CLI::Option *triggers =
-            enable->add_option("--trgops", v.triggers, "Some of dchg,qchg,dupd,period,gi");
-        CLI::Option *fields = enable->add_option(
-            "--optflds", v.optionalFields,
-            "Some of seqNum,timeStamp,reasonCode,dataSet,dataRef,bufOvfl,entryID,configRef");
+            enable
+                ->add_option("--trgops", v.triggers,
+                             "Some of these, with commas between: dchg qchg dupd period gi")
+                ->type_name("LIST");
+        CLI::Option *fields =
+            enable
+                ->add_option(
+                    "--optflds", v.optionalFields,
+                    "Some of these, with commas between: seqNum timeStamp reasonCode dataSet "
+                    "dataRef bufOvfl entryID configRef")
+                ->type_name("LIST");
         CLI::Option *period =
             enable->add_option("--intgpd", v.integrityPeriod, "Integrity period in milliseconds")
+                ->type_name("MS")
                 ->check(unnamed(CLI::NonNegativeNumber));
         CLI::Option *bufferTime =
             enable->add_option("--buftm", v.bufferTime, "Buffer time in milliseconds")
+                ->type_name("MS")
                 ->check(unnamed(CLI::NonNegativeNumber));
         enable->add_flag("--gi", v.report.generalInterrogation, "Ask for all values at first");
-        addLimits(enable);
+        addLimits(enable, "End after so many reports");
         enable->callback([=, this] {
             Values &values = m_values;
             values.report.block = text(values.reference);
@@ -508,14 +657,18 @@ private:
                                 ExitStatus (*action)(Session &, const Commands::ControlRequest &)) {
             Values &v = m_values;
             CLI::App *added = m_app.add_subcommand(name, help);
-            added->add_option("object", v.reference, objectHelp)->required();
-            CLI::Option *value = added->add_option("--value", v.value,
-                                                   "Control value: on, off, a number, or an entry "
-                                                   "of the enumeration");
+            added->add_option("object", v.reference, objectHelp)->type_name("")->required();
+            CLI::Option *value = added
+                                     ->add_option("--value", v.value,
+                                                  "Control value: on, off, a number, or an entry "
+                                                  "of the enumeration")
+                                     ->type_name("VALUE");
             added
                 ->add_option("--orcat", v.control.originatorCategory,
-                             "Originator category, 3 (remote control) unless given")
-                ->check(CLI::Range(0, 8));
+                             "Originator category: 1 bay, 2 station, 3 remote control (unless "
+                             "given), 4 to 6 the same automatic, 7 maintenance, 8 process")
+                ->type_name("N")
+                ->check(unnamed(CLI::Range(0, 8)));
             added->add_flag("--test", v.control.test, "With the test flag");
             added->add_flag("--interlock", v.control.interlock, "With interlock check");
             added->add_flag("--synchro", v.control.synchro, "With synchrocheck");
@@ -544,7 +697,9 @@ private:
         CLI::App *parent = family("group", "Setting groups");
         const auto add = [&](const char *name, const char *help, Command action) {
             CLI::App *added = command(parent, name, help, std::move(action));
-            added->add_option("logical-device", v.reference, logicalDeviceHelp)->required();
+            added->add_option("logical-device", v.reference, logicalDeviceHelp)
+                ->type_name("")
+                ->required();
             return added;
         };
         add("show", "Number of groups, the active one, the one being edited",
@@ -557,42 +712,56 @@ private:
                 return Commands::activateGroup(session, text(v.reference), v.group);
             })
             ->add_option("group", v.group, "Number of the group")
+            ->type_name("")
             ->required();
         add("edit", "Select a group for editing; within a batch, for the commands behind it",
             [&v](Session &session) {
                 return Commands::editGroup(session, text(v.reference), v.group);
             })
             ->add_option("group", v.group, "Number of the group; 0 gives up editing")
+            ->type_name("")
             ->required();
-        CLI::App *write = add("write", "Write settings and confirm them", [&v](Session &session) {
-            return Commands::writeGroup(session, text(v.reference), v.group, texts(v.list));
-        });
-        write->add_option("--group", v.group,
-                          "Number of the group; the one being edited unless given");
-        write->add_option("settings", v.list, "NAME=VALUE with the names that \"group read\" shows")
-            ->required();
+        CLI::App *write =
+            add("write", "Write settings of a group and confirm them; the others stay as they are",
+                [&v](Session &session) {
+                    return Commands::writeGroup(session, text(v.reference), v.group, texts(v.list));
+                });
+        write
+            ->add_option("--group", v.group,
+                         "Number of the group; the one being edited unless given")
+            ->type_name("N");
+        write->add_option("settings", v.list, settingsHelp)->type_name("")->required();
     }
 
     void addFileCommands()
     {
         Values &v = m_values;
         CLI::App *parent = family("file", "Files of the device");
-        command(parent, "ls", "List a directory", [&v](Session &session) {
-            return Commands::listFiles(session, text(v.reference));
-        })->add_option("directory", v.reference, "The root unless given");
-        CLI::App *get = command(parent, "get", "Fetch a file", [&v](Session &session) {
-            return Commands::getFile(session, text(v.reference), text(v.second));
-        });
-        get->add_option("remote", v.reference, "File on the device")->required();
-        get->add_option("local", v.second, "File here; of the same name unless given");
+        command(parent, "ls", "List a directory",
+                [&v](Session &session) { return Commands::listFiles(session, text(v.reference)); })
+            ->add_option("directory", v.reference, "The root unless given; with either slash")
+            ->type_name("");
+        CLI::App *get = command(
+            parent, "get",
+            "Fetch a file; before it replaces one it asks, and refuses where nobody can answer",
+            [&v](Session &session) {
+                return Commands::getFile(session, text(v.reference), text(v.second), v.overwrites);
+            });
+        get->add_option("remote", v.reference, "File on the device")->type_name("")->required();
+        get->add_option("local", v.second, "File or folder here; of the same name unless given")
+            ->type_name("");
+        get->add_flag("-f,--overwrite,--force", v.overwrites,
+                      "Replace a file that is there, without a question");
         CLI::App *put = command(parent, "put", "Send a file", [&v](Session &session) {
             return Commands::putFile(session, text(v.reference), text(v.second));
         });
-        put->add_option("local", v.reference, "File here")->required();
-        put->add_option("remote", v.second, "File on the device; of the same name unless given");
+        put->add_option("local", v.reference, "File here")->type_name("")->required();
+        put->add_option("remote", v.second, "File on the device; of the same name unless given")
+            ->type_name("");
         command(parent, "rm", "Delete a file on the device",
                 [&v](Session &session) { return Commands::removeFile(session, text(v.reference)); })
             ->add_option("remote", v.reference, "File on the device")
+            ->type_name("")
             ->required();
     }
 
@@ -600,11 +769,27 @@ private:
     CLI::App m_app;
 };
 
+/// The help of the program and of every command, those of families included.
+std::string helpOfAll(const CLI::App &app, const std::string &before = {})
+{
+    const auto any = [](const CLI::App *) { return true; };
+    std::string page;
+    const std::vector<const CLI::App *> commands = app.get_subcommands(any);
+    if (commands.empty() || !app.get_parent())
+        page = app.help(before);
+    const std::string name = before.empty() ? app.get_name() : before + ' ' + app.get_name();
+    for (const CLI::App *command : commands)
+        page += '\n' + helpOfAll(*command, name);
+    return page;
+}
+
 std::variant<Invocation, Answer> parse(const std::shared_ptr<Parser> &parser,
                                        const std::function<void(CLI::App &)> &take)
 {
     try {
         take(parser->app());
+    } catch (const CLI::CallForAllHelp &) {
+        return Answer{text(helpOfAll(parser->app())), false, ExitStatus::Done};
     } catch (const CLI::Success &wanted) {
         // Help and version.
         std::ostringstream out;

@@ -93,13 +93,17 @@ ExitStatus readGroup(Session &session, const QString &logicalDevice, bool edited
 ExitStatus activateGroup(Session &session, const QString &logicalDevice, int group);
 ExitStatus editGroup(Session &session, const QString &logicalDevice, int group);
 /// @param group 0: the one being edited
-/// @param settings "reference=value"
+/// @param settings "NAME=VALUE" with names as readGroup() shows them, of either functional
+/// constraint, or as "LN.Data.attribute"
 ExitStatus writeGroup(Session &session, const QString &logicalDevice, int group,
                       const QStringList &settings);
 
 // filecommands.cpp; paths on the device with either slash
 ExitStatus listFiles(Session &session, const QString &directory);
-ExitStatus getFile(Session &session, const QString &remote, const QString &local);
+/// @param local a file or a folder; empty for one of the same name
+/// @param overwrites a file that is there without a question; otherwise the session is asked, and
+/// where nobody answers the file stays
+ExitStatus getFile(Session &session, const QString &remote, const QString &local, bool overwrites);
 ExitStatus putFile(Session &session, const QString &local, const QString &remote);
 ExitStatus removeFile(Session &session, const QString &remote);
 

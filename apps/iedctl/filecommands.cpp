@@ -3,6 +3,7 @@
 #include "session.h"
 
 #include <QtCore/QDateTime>
+#include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QSaveFile>
@@ -62,9 +63,19 @@ ExitStatus listFiles(Session &session, const QString &directory)
     return ExitStatus::Done;
 }
 
-ExitStatus getFile(Session &session, const QString &remote, const QString &local)
+ExitStatus getFile(Session &session, const QString &remote, const QString &local, bool overwrites)
 {
-    const QString target = local.isEmpty() ? lastPart(remote) : local;
+    QString target = local.isEmpty() ? lastPart(remote) : local;
+    if (!local.isEmpty() && QFileInfo(local).isDir())
+        target = QDir(local).filePath(lastPart(remote));
+    if (!overwrites && QFileInfo::exists(target)) {
+        if (!session.question()) {
+            return session.failed(
+                QStringLiteral("\"%1\" exists already; replace it with --overwrite.").arg(target));
+        }
+        if (!session.question()(QStringLiteral("\"%1\" exists already. Replace it?").arg(target)))
+            return session.failed(QStringLiteral("\"%1\" was left as it is.").arg(target));
+    }
     QSaveFile file(target);
     if (target.isEmpty() || !file.open(QIODevice::WriteOnly)) {
         return session.failed(QStringLiteral("The file \"%1\" cannot be written: %2.")

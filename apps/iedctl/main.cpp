@@ -2,6 +2,7 @@
 #include "batch.h"
 #include "commandline.h"
 #include "deviceobserver.h"
+#include "interruption.h"
 #include "output.h"
 #include "session.h"
 
@@ -11,8 +12,8 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 
-#include <csignal>
 #include <memory>
+#include <poll.h>
 #include <unistd.h>
 
 namespace {
@@ -20,12 +21,20 @@ namespace {
 const QString driverAddress = QStringLiteral("iedctl");
 constexpr int deviceNumber = 1;
 
-extern "C" void stopStreams(int)
+/// Asks at the terminal; anything but a yes is a no.
+bool askAtTerminal(Output &output, const QString &sentence)
 {
-    Session::interrupted() = true;
-    // A second signal ends the program where it does not listen to the first.
-    std::signal(SIGINT, SIG_DFL);
-    std::signal(SIGTERM, SIG_DFL);
+    constexpr int lookMs = 100;
+    output.ask(sentence + QStringLiteral(" [y/N] "));
+    pollfd input{STDIN_FILENO, POLLIN, 0};
+    while (!Session::interrupted()) {
+        if (poll(&input, 1, lookMs) <= 0)
+            continue;
+        char line[80] = {};
+        const ssize_t count = read(STDIN_FILENO, line, sizeof line - 1);
+        return count > 0 && (line[0] == 'y' || line[0] == 'Y');
+    }
+    return false;
 }
 
 ExitStatus run(const Invocation &invocation, Output &output)
@@ -42,6 +51,12 @@ ExitStatus run(const Invocation &invocation, Output &output)
         return ExitStatus::Usage;
     }
     driver->setReadOnly(invocation.readOnly);
+    if (invocation.device.tls.acceptsOtherNames) {
+        output.complain(QStringLiteral(
+            "Warning: certificates that are made out to others are accepted; whoever holds the key "
+            "of any of them can pose as this device."));
+    }
+    const Interruption interruption([&driver] { driver->cancelOperations(deviceNumber); });
     if (!invocation.device.host.isEmpty()) {
         driver->connectDevice(deviceNumber);
         QString reason;
@@ -55,6 +70,11 @@ ExitStatus run(const Invocation &invocation, Output &output)
     {
         Session session(driverAddress, deviceNumber, output, &observer);
         session.setEvents(events);
+        const bool isAnswered = isatty(STDIN_FILENO) != 0 && isatty(STDERR_FILENO) != 0;
+        if (isAnswered && invocation.batch != QLatin1String("-")) {
+            session.setQuestion(
+                [&output](const QString &sentence) { return askAtTerminal(output, sentence); });
+        }
         if (invocation.batch.isEmpty()) {
             status = invocation.command(session);
         } else if (invocation.batch == QLatin1String("-")) {
@@ -102,8 +122,6 @@ int main(int argc, char **argv)
         }
         return static_cast<int>(answer->status);
     }
-    std::signal(SIGINT, stopStreams);
-    std::signal(SIGTERM, stopStreams);
     const auto &invocation = std::get<Invocation>(parsed);
     Output output(&standardOutput, &standardError, invocation.json, isatty(STDERR_FILENO) != 0);
     const ExitStatus status = run(invocation, output);

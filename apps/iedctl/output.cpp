@@ -2,11 +2,16 @@
 #include "output.h"
 
 #include <QtCore/QJsonDocument>
+#include <QtCore/QLocale>
 #include <QtCore/QVector>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
+
+constexpr int columnGap = 2;
+const QString noValue = QStringLiteral("-");
 
 /// Whether a character does something else than to be seen.
 bool isSeen(QChar c)
@@ -63,26 +68,26 @@ void Output::rows(const QStringList &columns, const QJsonArray &objects)
         m_results.flush();
         return;
     }
-    QStringList shown;
-    QVector<int> widths;
-    for (const QString &column : columns) {
-        int width = 0;
-        for (const QJsonValue &row : objects)
-            width = std::max(width, printable(plainText(row.toObject().value(column))).size());
-        if (width > 0) {
-            shown.append(column);
-            widths.append(width);
-        }
-    }
+    QVector<QStringList> lines;
+    QVector<int> widths(columns.size(), 0);
+    int shown = 0;
     for (const QJsonValue &row : objects) {
-        QString line;
-        for (int i = 0; i < shown.size(); ++i) {
-            const QString cell = printable(plainText(row.toObject().value(shown.at(i))));
-            line += i + 1 < shown.size() ? cell.leftJustified(widths.at(i) + 2) : cell;
+        QStringList line;
+        for (int i = 0; i < columns.size(); ++i) {
+            const QString cell = printable(plainText(row.toObject().value(columns.at(i))));
+            if (!cell.isEmpty())
+                shown = std::max(shown, i + 1);
+            line.append(cell.isEmpty() ? noValue : cell);
+            widths[i] = std::max(widths.at(i), line.last().size());
         }
-        while (line.endsWith(QLatin1Char(' ')))
-            line.chop(1);
-        m_results << line << '\n';
+        lines.append(line);
+    }
+    for (const QStringList &line : std::as_const(lines)) {
+        for (int i = 0; i < shown; ++i) {
+            m_results << (i + 1 < shown ? line.at(i).leftJustified(widths.at(i) + columnGap)
+                                        : line.at(i));
+        }
+        m_results << '\n';
     }
     m_results.flush();
 }
@@ -107,14 +112,15 @@ void Output::object(const QStringList &names, const QJsonObject &object)
     m_results.flush();
 }
 
-void Output::streamed(const QString &text, const QJsonObject &object)
+void Output::streamed(const QStringList &lines, const QJsonObject &object)
 {
     progress({});
-    if (m_json)
-        m_results << jsonText(QJsonDocument(object), QJsonDocument::Compact);
-    else
-        m_results << printable(text);
-    m_results << '\n';
+    if (m_json) {
+        m_results << jsonText(QJsonDocument(object), QJsonDocument::Compact) << '\n';
+    } else {
+        for (const QString &line : lines)
+            m_results << printable(line) << '\n';
+    }
     m_results.flush();
 }
 
@@ -133,6 +139,13 @@ void Output::complain(const QString &sentence)
     QString line = sentence;
     line.replace(QLatin1Char('\n'), QLatin1Char(' '));
     m_complaints << "iedctl: " << printable(line) << '\n';
+    m_complaints.flush();
+}
+
+void Output::ask(const QString &question)
+{
+    progress({});
+    m_complaints << printable(question);
     m_complaints.flush();
 }
 
@@ -159,13 +172,21 @@ QString printable(const QString &text)
     return result;
 }
 
+QString cells(const QStringList &values)
+{
+    QStringList shown;
+    for (const QString &value : values)
+        shown.append(value.isEmpty() ? noValue : value);
+    return shown.join(QString(columnGap, QLatin1Char(' ')));
+}
+
 QString plainText(const QJsonValue &value)
 {
     switch (value.type()) {
     case QJsonValue::Bool:
         return value.toBool() ? QStringLiteral("true") : QStringLiteral("false");
     case QJsonValue::Double:
-        return QString::number(value.toDouble(), 'g', 15);
+        return QString::number(value.toDouble(), 'g', QLocale::FloatingPointShortest);
     case QJsonValue::String:
         return value.toString();
     case QJsonValue::Array: {

@@ -22,17 +22,20 @@ public:
     /// Whether somebody watches, who wants to see progress.
     bool isTerminal() const { return m_terminal; }
 
-    /// A table with a line for each object. Columns that no object has are left out.
+    /// A table with a line for each object. A cell without a value is "-", so that the columns
+    /// behind it stay in place; columns at the end that no object has are left out.
     void rows(const QStringList &columns, const QJsonArray &objects);
     /// One "name: value" a line, in the order of @p names.
     void object(const QStringList &names, const QJsonObject &object);
-    /// One result of a stream; appears at once.
-    void streamed(const QString &text, const QJsonObject &object);
+    /// One result of a stream, as lines or as one object; appears at once.
+    void streamed(const QStringList &lines, const QJsonObject &object);
     /// What a command did, for people only.
     void note(const QString &sentence);
 
     /// One line on the error stream, "iedctl: " in front.
     void complain(const QString &sentence);
+    /// A question on the error stream, behind which the answer is typed.
+    void ask(const QString &question);
     /// Replaces the line of the progress before; nothing unless isTerminal(). Empty ends it.
     void progress(const QString &text);
 
@@ -47,6 +50,9 @@ private:
 /// The text with everything that does not print, control characters and marks that turn the
 /// direction of writing among them, as "\u" and four hexadecimal digits, as JSON writes it.
 QString printable(const QString &text);
+
+/// Cells side by side, "-" for each that is empty.
+QString cells(const QStringList &values);
 
 /// A JSON value as people read it: "true", "3.5", texts as they are, lists joined by blanks.
 QString plainText(const QJsonValue &value);

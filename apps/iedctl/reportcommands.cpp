@@ -142,49 +142,55 @@ QJsonObject memberRow(const PhysicalDevice &device, const ReportEventMember &mem
 /// A line for the report and one for each member, or an object.
 void showEvent(Session &session, const PhysicalDevice &device, const ReportEvent &event)
 {
-    QJsonObject object{{QStringLiteral("arrival"), event.arrival.toString(Qt::ISODateWithMs)},
+    const QString arrival = event.arrival.toUTC().toString(Qt::ISODateWithMs);
+    QJsonObject object{{QStringLiteral("arrival"), arrival},
                        {QStringLiteral("block"), event.block}};
-    QStringList head{event.arrival.toString(Qt::ISODateWithMs), event.block};
+    QStringList head{arrival, event.block};
     if (!event.missing.isEmpty()) {
         object.insert(QStringLiteral("missing"), event.missing);
         head.append(event.missing);
-        session.output().streamed(head.join(QLatin1String("  ")), object);
+        session.output().streamed({cells(head)}, object);
         return;
     }
     object.insert(QStringLiteral("rptId"), event.rptId);
     if (event.sequenceNumber) {
-        object.insert(QStringLiteral("sequenceNumber"), static_cast<int>(*event.sequenceNumber));
-        head.append(QLatin1Char('#') + QString::number(*event.sequenceNumber));
+        object.insert(QStringLiteral("sequenceNumber"), static_cast<qint64>(*event.sequenceNumber));
+        head.append(QStringLiteral("no. %1").arg(*event.sequenceNumber));
     }
-    if (!event.entryId.isEmpty())
-        object.insert(QStringLiteral("entryId"), QString::fromLatin1(event.entryId.toHex()));
+    if (!event.entryId.isEmpty()) {
+        const QString entry = QString::fromLatin1(event.entryId.toHex());
+        object.insert(QStringLiteral("entryId"), entry);
+        head.append(QStringLiteral("entry %1").arg(entry));
+    }
     if (!event.timeOfEntry.isEmpty()) {
         object.insert(QStringLiteral("timeOfEntry"), event.timeOfEntry);
-        head.append(event.timeOfEntry);
+        head.append(QStringLiteral("of %1").arg(event.timeOfEntry));
     }
     if (event.bufferOverflow) {
         object.insert(QStringLiteral("bufferOverflow"), true);
         head.append(QStringLiteral("buffer overflow"));
     }
-    QStringList lines{head.join(QLatin1String("  "))};
+    QStringList lines{cells(head)};
     QJsonArray members;
     for (const ReportEventMember &member : event.members) {
         const QJsonObject row = memberRow(device, member);
         members.append(row);
-        QStringList parts{
-            member.reference, row.value(QStringLiteral("text")).toString(),   member.quality,
-            member.timeStamp, row.value(QStringLiteral("reason")).toString(), member.error};
-        parts.removeAll(QString());
-        lines.append(QLatin1String("  ") + parts.join(QLatin1String("  ")));
+        QStringList parts{member.reference, row.value(QStringLiteral("text")).toString(),
+                          row.value(QStringLiteral("qualityText")).toString(), member.timeStamp,
+                          row.value(QStringLiteral("reason")).toString()};
+        if (!member.error.isEmpty())
+            parts.append(member.error);
+        lines.append(QLatin1String("  ") + cells(parts));
     }
     object.insert(QStringLiteral("members"), members);
-    session.output().streamed(lines.join(QLatin1Char('\n')), object);
+    session.output().streamed(lines, object);
 }
 
 /// Shows every report of the block until the limit or the operator ends it.
 void streamEvents(Session &session, const PhysicalDevice &device,
                   const Commands::ReportRequest &request)
 {
+    const StreamScope scope;
     QElapsedTimer running;
     running.start();
     int shown = 0;
@@ -196,7 +202,9 @@ void streamEvents(Session &session, const PhysicalDevice &device,
                 return;
             wait = static_cast<int>(std::min<qint64>(left, wait));
         }
-        for (const ReportEvent &event : session.events()->receive(wait)) {
+        const QList<ReportEvent> events = session.events()->receive(wait);
+        showTurns(session);
+        for (const ReportEvent &event : events) {
             showEvent(session, device, event);
             if (event.missing.isEmpty() && request.limit.count > 0 &&
                 ++shown >= request.limit.count)
@@ -320,8 +328,10 @@ ExitStatus enableReport(Session &session, const ReportRequest &request)
         return session.failed(result, error);
     if (request.generalInterrogation) {
         const ExitStatus status = interrogate(session, request.block);
-        if (status != ExitStatus::Done)
+        if (status != ExitStatus::Done) {
+            disableReport(session, request.block);
             return status;
+        }
     }
     if (session.events())
         streamEvents(session, *device, request);

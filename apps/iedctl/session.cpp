@@ -121,6 +121,12 @@ Session::gather(const QStringList &references,
     return values;
 }
 
+std::atomic<bool> &Session::streaming()
+{
+    static std::atomic<bool> flag{false};
+    return flag;
+}
+
 std::atomic<bool> &Session::interrupted()
 {
     static std::atomic<bool> flag{false};

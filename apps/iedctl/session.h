@@ -47,6 +47,12 @@ public:
     /// The status of the last failed().
     ExitStatus lastFailure() const { return m_lastFailure; }
 
+    /// Asks the operator whether something is wanted.
+    using Question = std::function<bool(const QString &sentence)>;
+    /// Empty when nobody is there to answer.
+    void setQuestion(Question question) { m_question = std::move(question); }
+    const Question &question() const { return m_question; }
+
     /// Where the driver's report events go; null when nobody takes them.
     void setEvents(std::shared_ptr<EventReceiver> events) { m_events = std::move(events); }
     EventReceiver *events() const { return m_events.get(); }
@@ -69,8 +75,12 @@ public:
     /// What was selected in this session, by object, as it was asked for.
     QHash<QString, ControlBlock> &selections() { return m_selections; }
 
-    /// True once the operator wants streams to end. Safe to set from a signal handler.
+    /// True once the operator wants the program to end: streams end, and no further command of a
+    /// batch is begun. Safe to set from a signal handler.
     static std::atomic<bool> &interrupted();
+    /// True while a stream runs, which sees by itself that it is to end. Safe to read from a signal
+    /// handler.
+    static std::atomic<bool> &streaming();
 
 private:
     IEC61850ControllerInterface m_controller;
@@ -81,5 +91,6 @@ private:
     std::unique_ptr<ValueReceiver> m_receiver;
     std::shared_ptr<EventReceiver> m_events;
     QHash<QString, ControlBlock> m_selections;
+    Question m_question;
     ExitStatus m_lastFailure = ExitStatus::Done;
 };

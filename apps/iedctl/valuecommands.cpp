@@ -14,7 +14,8 @@ namespace {
 
 constexpr int streamWaitMs = 200;
 
-/// One line for each time that the association was lost or stands again.
+} // namespace
+
 void showTurns(Session &session)
 {
     if (!session.observer())
@@ -28,16 +29,15 @@ void showTurns(Session &session)
         if (turn.isLost)
             row.insert(QStringLiteral("reason"), turn.reason);
         session.output().streamed(
-            turn.isLost ? QStringLiteral(
-                              "The device was lost at %1; what stands above is older than that. %2")
-                              .arg(time, turn.reason)
-                              .trimmed()
-                        : QStringLiteral("The device was back at %1.").arg(time),
+            {turn.isLost
+                 ? QStringLiteral(
+                       "The device was lost at %1; what stands above is older than that. %2")
+                       .arg(time, turn.reason)
+                       .trimmed()
+                 : QStringLiteral("The device was back at %1.").arg(time)},
             row);
     }
 }
-
-} // namespace
 
 QJsonObject valueRow(const PhysicalDevice &device, const MMSValue &value)
 {
@@ -48,8 +48,10 @@ QJsonObject valueRow(const PhysicalDevice &device, const MMSValue &value)
     if (attribute && !attribute->basicType.isEmpty())
         row.insert(QStringLiteral("type"), attribute->basicType);
     row.insert(QStringLiteral("text"), text);
-    if (!value.quality.isEmpty())
+    if (!value.quality.isEmpty()) {
         row.insert(QStringLiteral("quality"), value.quality);
+        row.insert(QStringLiteral("qualityText"), ValueText::quality(value.quality));
+    }
     if (!value.timeStamp.isEmpty())
         row.insert(QStringLiteral("time"), value.timeStamp);
     return row;
@@ -57,7 +59,7 @@ QJsonObject valueRow(const PhysicalDevice &device, const MMSValue &value)
 
 void showValues(Output &output, const QJsonArray &rows)
 {
-    output.rows({QStringLiteral("reference"), QStringLiteral("text"), QStringLiteral("quality"),
+    output.rows({QStringLiteral("reference"), QStringLiteral("text"), QStringLiteral("qualityText"),
                  QStringLiteral("time")},
                 rows);
 }
@@ -66,6 +68,7 @@ ExitStatus streamValues(Session &session, const PhysicalDevice &device,
                         const QStringList &references, Session::Origin origin,
                         Commands::StreamLimit limit)
 {
+    const StreamScope scope;
     const QSet<QString> wanted(references.cbegin(), references.cend());
     QElapsedTimer running;
     running.start();
@@ -84,10 +87,10 @@ ExitStatus streamValues(Session &session, const PhysicalDevice &device,
             if (!wanted.isEmpty() && !wanted.contains(value.reference))
                 continue;
             const QJsonObject row = valueRow(device, value);
-            QStringList parts{value.reference, row.value(QStringLiteral("text")).toString(),
-                              value.quality, value.timeStamp};
-            parts.removeAll(QString());
-            session.output().streamed(parts.join(QLatin1String("  ")), row);
+            session.output().streamed(
+                {cells({value.reference, row.value(QStringLiteral("text")).toString(),
+                        row.value(QStringLiteral("qualityText")).toString(), value.timeStamp})},
+                row);
             if (limit.count > 0 && ++shown >= limit.count)
                 return ExitStatus::Done;
         }

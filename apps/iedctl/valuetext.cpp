@@ -3,6 +3,7 @@
 
 #include "references.h"
 
+#include "driver/standardtypes.h"
 #include "driver/valueconversion.h"
 
 #include <devicemodel/physicaldevice.h>
@@ -45,17 +46,16 @@ bool isCoded(const QString &basicType)
            basicType == QLatin1String("Tcmd") || basicType == QLatin1String("Check");
 }
 
-/// The entries that the standard itself gives a coded type, and the modes of logical nodes.
+/// The entries that the standard itself gives a coded type or an enumeration, whose name may be
+/// that of the data.
 EnumType standardEntries(const QString &basicType, const QString &enumTypeId)
 {
     EnumType entries;
-    if (basicType == QLatin1String("Enum") &&
-        (enumTypeId == QLatin1String("Mod") || enumTypeId == QLatin1String("Beh"))) {
-        entries.values = {{1, QStringLiteral("on")},
-                          {2, QStringLiteral("blocked")},
-                          {3, QStringLiteral("test")},
-                          {4, QStringLiteral("test/blocked")},
-                          {5, QStringLiteral("off")}};
+    if (basicType == QLatin1String("Enum")) {
+        const bool isMode =
+            enumTypeId == QLatin1String("Mod") || enumTypeId == QLatin1String("Beh");
+        entries.values =
+            StandardTypes::enumeration(isMode ? QStringLiteral("BehaviourModeKind") : enumTypeId);
     } else if (basicType == QLatin1String("Dbpos")) {
         entries.values = {{0, QStringLiteral("intermediate-state")},
                           {1, QStringLiteral("off")},
@@ -298,9 +298,39 @@ QString shown(const PhysicalDevice &device, const DataAttribute *attribute, cons
     if (attribute && isCoded(attribute->basicType)) {
         const QString name = entriesOf(device, *attribute).values.value(value.toInt());
         if (!name.isEmpty())
-            return QStringLiteral("%1 (%2)").arg(value.toString(), name);
+            return QStringLiteral("%1 (%2)").arg(name, value.toString());
     }
+    if (attribute && attribute->basicType == QLatin1String("Quality"))
+        return QStringLiteral("%1 (%2)").arg(quality(value.toString()), value.toString());
     return ValueConversion::text(value);
+}
+
+QString quality(const QString &bits)
+{
+    if (bits.isEmpty())
+        return {};
+    const auto isSet = [&bits](int position) {
+        return position < bits.size() && bits.at(position) == QLatin1Char('1');
+    };
+    static const QStringList validities{QStringLiteral("good"), QStringLiteral("invalid"),
+                                        QStringLiteral("reserved"), QStringLiteral("questionable")};
+    // Behind the two bits of the validity, in the order of the bits.
+    static const QStringList names{
+        QStringLiteral("overflow"),        QStringLiteral("out of range"),
+        QStringLiteral("bad reference"),   QStringLiteral("oscillatory"),
+        QStringLiteral("failure"),         QStringLiteral("old data"),
+        QStringLiteral("inconsistent"),    QStringLiteral("inaccurate"),
+        QStringLiteral("substituted"),     QStringLiteral("test"),
+        QStringLiteral("operator blocked")};
+    constexpr int validityBits = 2;
+    QStringList parts{validities.at((isSet(0) ? 2 : 0) + (isSet(1) ? 1 : 0))};
+    for (int i = 0; i < names.size(); ++i) {
+        if (isSet(validityBits + i))
+            parts.append(names.at(i));
+    }
+    if (bits.contains(QLatin1Char('?')))
+        parts.append(QStringLiteral("partly unknown"));
+    return parts.join(QLatin1String(", "));
 }
 
 QJsonValue toJson(const QVariant &value)
@@ -311,10 +341,15 @@ QJsonValue toJson(const QVariant &value)
         return value.toBool();
     case QMetaType::Int:
     case QMetaType::UInt:
-    case QMetaType::Double:
-    case QMetaType::Float: {
+    case QMetaType::Double: {
         const double number = value.toDouble();
         return std::isfinite(number) ? QJsonValue(number) : QJsonValue(value.toString());
+    }
+    case QMetaType::Float: {
+        const float number = value.toFloat();
+        // The double of 12.4F is 12.3999996.
+        return std::isfinite(number) ? QJsonValue(ValueConversion::text(value).toDouble())
+                                     : QJsonValue(value.toString());
     }
     case QMetaType::LongLong: {
         const qlonglong number = value.toLongLong();

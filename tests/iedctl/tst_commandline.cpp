@@ -2,6 +2,7 @@
 #include "iedctl/commandline.h"
 
 #include <QtCore/QProcess>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryFile>
 #include <QtTest/QtTest>
 
@@ -38,8 +39,12 @@ private slots:
     void anUnknownCommandIsNamed();
     void aMissingArgumentIsNamed();
     void helpListsEveryCommand();
+    void theHelpOfAllHasThePartsOfEachFamily();
+    void everyCommandExplainsWhatItTakes_data();
+    void everyCommandExplainsWhatItTakes();
     void optionsReachTheDevice();
     void optionsOfTlsReachTheDevice();
+    void otherNamesAreAcceptedOnlyOnRequest();
     void theAccessPointReachesTheDevice();
     void passwordsComeFromAFileOrADescriptor();
     void batchReadsStandardInputUnlessAFileIsGiven();
@@ -121,6 +126,51 @@ void tst_IedctlCommandLine::helpListsEveryCommand()
         QVERIFY2(answer.text.contains(command), command);
 }
 
+void tst_IedctlCommandLine::theHelpOfAllHasThePartsOfEachFamily()
+{
+    const Answer answer = refused({"--help-all"});
+    QVERIFY(!answer.isError);
+    for (const char *part :
+         {"Usage: iedctl report enable", "--optflds", "Usage: iedctl group write", "--overwrite",
+          "Usage: iedctl operate", "--interlock", "Usage: iedctl batch", "--connect"})
+        QVERIFY2(answer.text.contains(part), part);
+}
+
+void tst_IedctlCommandLine::everyCommandExplainsWhatItTakes_data()
+{
+    QTest::addColumn<QStringList>("command");
+    for (const char *command :
+         {"model",          "directory",    "abort",        "read",           "write",
+          "watch",          "dataset list", "dataset show", "dataset read",   "dataset create",
+          "dataset delete", "report list",  "report show",  "report set",     "report enable",
+          "report disable", "report gi",    "report purge", "select",         "operate",
+          "cancel",         "group show",   "group read",   "group activate", "group edit",
+          "group write",    "file ls",      "file get",     "file put",       "file rm",
+          "batch"})
+        QTest::newRow(command) << QString(command).split(' ');
+}
+
+void tst_IedctlCommandLine::everyCommandExplainsWhatItTakes()
+{
+    QFETCH(QStringList, command);
+    const Answer answer = refused(command + QStringList("--help"));
+    QVERIFY(!answer.isError);
+    QVERIFY2(answer.text.contains("--connect"), "says nothing of the program's options");
+    // A line with a name has a word of explanation, on it or on the next.
+    const QStringList lines = answer.text.split('\n');
+    for (int i = 0; i < lines.size(); ++i) {
+        QVERIFY2(lines.at(i).size() <= 100, qPrintable(lines.at(i)));
+        static const QRegularExpression nameAlone("^  \\S+( \\S+)*$");
+        static const QRegularExpression explanation("^ {20,}\\S");
+        if (!nameAlone.match(lines.at(i)).hasMatch() || lines.at(i).contains("   "))
+            continue;
+        QVERIFY2(i + 1 < lines.size() && explanation.match(lines.at(i + 1)).hasMatch(),
+                 qPrintable(lines.at(i)));
+    }
+    // Types of the parser's own say nothing to an operator.
+    QVERIFY2(!answer.text.contains(" INT"), qPrintable(answer.text));
+}
+
 void tst_IedctlCommandLine::optionsReachTheDevice()
 {
     const Invocation invocation = accepted({"--connect", "bay1", "--timeout", "2.5", "--password",
@@ -130,6 +180,10 @@ void tst_IedctlCommandLine::optionsReachTheDevice()
     QVERIFY(invocation.json);
     QVERIFY(invocation.readOnly);
     QCOMPARE(invocation.device.faults(), QStringList());
+    for (const char *limit : {"0.1", "600"}) {
+        const Invocation extreme = accepted({"--connect", "bay1", "--timeout", limit, "model"});
+        QCOMPARE(extreme.device.faults(), QStringList());
+    }
 }
 
 void tst_IedctlCommandLine::optionsOfTlsReachTheDevice()
@@ -151,6 +205,19 @@ void tst_IedctlCommandLine::optionsOfTlsReachTheDevice()
         const Answer answer = refused({"--connect", "bay1", option, "x", "model"});
         QVERIFY2(answer.isError && answer.text.contains("--tls-ca"), qPrintable(answer.text));
     }
+}
+
+void tst_IedctlCommandLine::otherNamesAreAcceptedOnlyOnRequest()
+{
+    const QStringList connected{"--connect", "bay1", "--tls-ca", "a.pem"};
+    QVERIFY(!accepted(connected + QStringList("model")).device.tls.acceptsOtherNames);
+    const QStringList wanted = connected + QStringList({"--tls-accept-other-names", "model"});
+    QVERIFY(accepted(wanted).device.tls.acceptsOtherNames);
+    // Without TLS, and beside a name that is to be found, it means nothing.
+    QVERIFY(refused({"--connect", "bay1", "--tls-accept-other-names", "model"}).isError);
+    QVERIFY(refused(QStringList({"--tls-name", "bay2"}) + wanted).isError);
+    const QString help = refused({"--help"}).text.simplified();
+    QVERIFY2(help.contains("Unsafe: whoever holds the key"), qPrintable(help));
 }
 
 void tst_IedctlCommandLine::theAccessPointReachesTheDevice()
@@ -245,6 +312,7 @@ void tst_IedctlCommandLine::everyCommandIsUnderstood_data()
                              "group activate LD0 2",
                              "group edit LD0 2",
                              "group write LD0 --group 2 PTOC1$SE$StrVal=3",
+                             "file get a.cfg b.cfg --overwrite",
                              "file ls",
                              "file ls COMTRADE",
                              "file get a.cfg b.cfg",

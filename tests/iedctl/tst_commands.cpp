@@ -57,6 +57,7 @@ private slots:
     void watchEndsAfterItsCount();
     void watchGoesOnWithoutAMisspeltReference();
     void watchTellsWhenTheDeviceIsLostAndBack();
+    void columnsKeepTheirPlaceWithoutAValue();
     void nothingOfADeviceCommandsTheTerminal_data();
     void nothingOfADeviceCommandsTheTerminal();
     void aPersistentDataSetGoesToItsLogicalDevice();
@@ -65,6 +66,7 @@ private slots:
     void reportSettingsBecomeTheBytesOfTheirAttributes();
     void wrongReportSettingsAreRefusedBeforeAnythingIsSent();
     void enableSendsTheBlockAndDisablesItAfterwards();
+    void eachReportIsShownOnceWithEverythingThatItTells();
     void operateSelectsFirstWhereTheModelWantsIt();
     void operatingASelectionRepeatsTheSelect();
     void whatDiffersFromTheSelectIsRefused_data();
@@ -72,9 +74,13 @@ private slots:
     void aSelectionWithoutValueWantsOneWhenItIsOperated();
     void operateOnAStatusOnlyObjectSendsNothing();
     void writingAGroupKeepsTheOtherSettings();
+    void settingsAreWrittenByTheNamesThatAreShown_data();
+    void settingsAreWrittenByTheNamesThatAreShown();
+    void settingsAreShownInWords();
     void fileNamesGoWithBackslashes();
     void aFetchedFileIsWrittenWhole();
     void aFailedFetchLeavesTheLocalFile();
+    void aFileThatIsThereIsReplacedOnlyWhenThatIsWanted();
     void aBatchStopsAtTheFirstFailureAndNamesTheLine();
 
 private:
@@ -167,7 +173,7 @@ void tst_IedctlCommands::readShowsTheValuesThatComeAsEvents()
     QCOMPARE(Commands::read(*m_session, {"LD0/CSWI1.Pos[ST]"}), ExitStatus::Done);
     QCOMPARE(m_service->calls("readVariable").first().arguments,
              QVariantList({"LD0", QStringList{"CSWI1$ST$Pos"}}));
-    QCOMPARE(text(), QString("LD0/CSWI1$ST$Pos$stVal  2 (on)  0000000000000\n"));
+    QCOMPARE(text(), QString("LD0/CSWI1$ST$Pos$stVal  on (2)  good\n"));
     QCOMPARE(complaints(), QString());
 }
 
@@ -176,7 +182,7 @@ void tst_IedctlCommands::readNamesValuesThatDoNotCome()
     m_service->addAnswer("readVariable", OperationFailed, "CSWI1$CF$Pos: refused.");
     answerReads({{"LD0/CSWI1$ST$Pos$stVal", 2}});
     QCOMPARE(Commands::read(*m_session, {"LD0/CSWI1.Pos"}), ExitStatus::Refused);
-    QVERIFY(text().contains("2 (on)"));
+    QVERIFY(text().contains("on (2)"));
     QVERIFY2(complaints().contains("2 of the 3 values"), qPrintable(complaints()));
 }
 
@@ -229,7 +235,7 @@ void tst_IedctlCommands::watchGoesOnWithoutAMisspeltReference()
     QCOMPARE(Commands::watch(*m_session, {"LD0/CSWI1.Gone", "LD0/CSWI1.Pos.stVal"}, {1, 0}),
              ExitStatus::Refused);
     QVERIFY2(complaints().contains("LD0/CSWI1.Gone"), qPrintable(complaints()));
-    QVERIFY2(text().contains("1 (off)"), qPrintable(text()));
+    QVERIFY2(text().contains("off (1)"), qPrintable(text()));
     start();
     QCOMPARE(Commands::watch(*m_session, {"LD0/CSWI1.Gone"}, {0, 0}), ExitStatus::Refused);
     QCOMPARE(text(), QString());
@@ -266,6 +272,16 @@ void tst_IedctlCommands::watchTellsWhenTheDeviceIsLostAndBack()
     m_session.reset();
 }
 
+void tst_IedctlCommands::columnsKeepTheirPlaceWithoutAValue()
+{
+    const QStringList columns{"name", "text", "quality", "time"};
+    m_output->rows(columns,
+                   {QJsonObject{{"name", "a"}, {"quality", "good"}},
+                    QJsonObject{{"name", "long"}, {"text", 12.5}}, QJsonObject{{"name", "c"}}});
+    QCOMPARE(text(), QString("a     -     good\nlong  12.5  -\nc     -     -\n"));
+    QCOMPARE(cells({"a", "", "c"}), QString("a  -  c"));
+}
+
 void tst_IedctlCommands::nothingOfADeviceCommandsTheTerminal_data()
 {
     QTest::addColumn<QString>("sent");
@@ -300,7 +316,7 @@ void tst_IedctlCommands::nothingOfADeviceCommandsTheTerminal()
     };
     m_output->rows({QStringLiteral("name")}, {object});
     m_output->object({QStringLiteral("name")}, object);
-    m_output->streamed(sent, object);
+    m_output->streamed({sent}, object);
     m_output->note(sent);
     m_output->complain(sent);
     QCOMPARE(text(), escaped + "\nname: " + escaped + '\n' + escaped + '\n' + escaped + '\n');
@@ -308,7 +324,7 @@ void tst_IedctlCommands::nothingOfADeviceCommandsTheTerminal()
     start(true);
     m_output->rows({QStringLiteral("name")}, {object});
     m_output->object({QStringLiteral("name")}, object);
-    m_output->streamed(sent, object);
+    m_output->streamed({sent}, object);
     QVERIFY2(isHarmless(), qPrintable(text()));
     // It is still the same text to a reader of JSON.
     const QByteArray last = text().trimmed().split(QLatin1Char('\n')).last().toUtf8();
@@ -319,7 +335,7 @@ void tst_IedctlCommands::watchEndsAfterItsCount()
 {
     answerReads({{"LD0/CSWI1$ST$Pos$stVal", 1}});
     QCOMPARE(Commands::watch(*m_session, {"LD0/CSWI1.Pos.stVal"}, {1, 0}), ExitStatus::Done);
-    QCOMPARE(text(), QString("LD0/CSWI1$ST$Pos$stVal  1 (off)  0000000000000\n"));
+    QCOMPARE(text(), QString("LD0/CSWI1$ST$Pos$stVal  off (1)  good  -\n"));
 }
 
 void tst_IedctlCommands::aPersistentDataSetGoesToItsLogicalDevice()
@@ -399,9 +415,50 @@ void tst_IedctlCommands::enableSendsTheBlockAndDisablesItAfterwards()
     QCOMPARE(block.trgOps, quint8(0x40));
     QCOMPARE(block.optFlds[0], quint8(0x60));
     QCOMPARE(block.datSet, QString("LD0/LLN0$Trips"));
-    QVERIFY(text().contains("3 (bad-state)"));
+    QVERIFY(text().contains("bad-state (3)"));
     QCOMPARE(m_service->calls("writeValue").first().arguments,
              QVariantList({"LD0", "LLN0$BR$b01", "RptEna", QByteArray("\0", 1)}));
+}
+
+void tst_IedctlCommands::eachReportIsShownOnceWithEverythingThatItTells()
+{
+    const auto receiver = std::make_shared<EventReceiver>();
+    m_session->setEvents(receiver);
+    ReportEvent event;
+    event.block = QStringLiteral("LD0/LLN0$BR$b01");
+    event.sequenceNumber = 4294967295U;
+    event.entryId = QByteArray::fromHex("0000000000000007");
+    event.timeOfEntry = QStringLiteral("2026-03-04T05:06:07.000Z");
+    event.arrival =
+        QDateTime::fromString("2026-03-04T05:06:07.500Z", Qt::ISODateWithMs).toLocalTime();
+    ReportEventMember member;
+    member.reference = QStringLiteral("LD0/CSWI1$ST$Pos$stVal");
+    member.reason = 17U;
+    member.value = 2;
+    member.quality = QStringLiteral("0000000000010");
+    event.members = {member};
+    m_service->setOnCall([receiver, event](const RecordingDriverService::Call &call) {
+        // The values of a report come as live values, too.
+        if (call.operation == QLatin1String("enableReportBlock")) {
+            publish({record("LD0/CSWI1$ST$Pos$stVal", 2)});
+            receiver->take(event);
+        }
+    });
+    Commands::ReportRequest request;
+    request.block = event.block;
+    request.generalInterrogation = true;
+    request.limit.count = 1;
+    QCOMPARE(Commands::enableReport(*m_session, request), ExitStatus::Done);
+    QCOMPARE(text(), QString("2026-03-04T05:06:07.500Z  LD0/LLN0$BR$b01  no. 4294967295  entry "
+                             "0000000000000007  of 2026-03-04T05:06:07.000Z\n"
+                             "  LD0/CSWI1$ST$Pos$stVal  on (2)  good, test  -  "
+                             "data-change,general-interrogation\n"));
+    start(true);
+    m_session->setEvents(receiver);
+    QCOMPARE(Commands::enableReport(*m_session, request), ExitStatus::Done);
+    const QJsonObject shown = QJsonDocument::fromJson(m_results.data()).object();
+    QCOMPARE(shown.value("sequenceNumber").toDouble(), 4294967295.0);
+    QCOMPARE(shown.value("members").toArray().size(), 1);
 }
 
 void tst_IedctlCommands::operateSelectsFirstWhereTheModelWantsIt()
@@ -527,13 +584,71 @@ void tst_IedctlCommands::writingAGroupKeepsTheOtherSettings()
     QCOMPARE(m_service->calls("setSGCBValues").size(), 1);
 }
 
+void tst_IedctlCommands::settingsAreWrittenByTheNamesThatAreShown_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name :
+         {"LD0/PTOC1$SG$OpDlTmms$setVal", "LD0/PTOC1$SE$OpDlTmms$setVal",
+          "PTOC1$SG$OpDlTmms$setVal", "PTOC1$SE$OpDlTmms$setVal", "LD0/PTOC1.OpDlTmms.setVal",
+          "PTOC1.OpDlTmms.setVal", "LD0/PTOC1.OpDlTmms.setVal[SG]"})
+        QTest::newRow(name) << QString(name);
+}
+
+void tst_IedctlCommands::settingsAreWrittenByTheNamesThatAreShown()
+{
+    QFETCH(QString, name);
+    m_service->settings["SG"] = {{"LD0/PTOC1$SG$OpDlTmms$setVal", 40}};
+    m_service->settings["SE"] = {{"LD0/PTOC1$SE$OpDlTmms$setVal", 40}};
+    QCOMPARE(Commands::writeGroup(*m_session, "LD0", 2, {name + "=60"}), ExitStatus::Done);
+    const auto sent =
+        m_service->calls("setSGCBValues").first().arguments.at(1).value<QList<SGCBValue>>();
+    QCOMPARE(sent.size(), 1);
+    QCOMPARE(sent.at(0).name, QString("LD0/PTOC1$SE$OpDlTmms$setVal"));
+    QCOMPARE(sent.at(0).value, QVariant(60));
+    QCOMPARE(complaints(), QString());
+
+    // Of a device that does not tell what is being edited.
+    m_service->setAnswer("getSGCBValue", OperationFailed, "Denied.");
+    QCOMPARE(Commands::writeGroup(*m_session, "LD0", 2, {name + "=70"}), ExitStatus::Done);
+    const auto blind =
+        m_service->calls("setSGCBValues").last().arguments.at(1).value<QList<SGCBValue>>();
+    QCOMPARE(blind.size(), 1);
+    QCOMPARE(blind.at(0).name, QString("LD0/PTOC1$SE$OpDlTmms$setVal"));
+}
+
+void tst_IedctlCommands::settingsAreShownInWords()
+{
+    auto *setting = new DAO;
+    setting->attribute = new DataAttribute;
+    setting->attribute->name = QStringLiteral("setVal");
+    setting->attribute->fc = QStringLiteral("SG");
+    setting->attribute->basicType = QStringLiteral("Dbpos");
+    setting->attribute->reference = QStringLiteral("LD0/CSWI1$SG$Pos$setVal");
+    m_device->logicalDevices.first()->logicalNodes.first()->dataObjects.first()->attributes.append(
+        setting);
+    m_device->rebuildIndex();
+    m_service->model = deviceBytes(*m_device);
+    m_service->settings["SG"] = {{"LD0/CSWI1$SG$Pos$setVal", 2}, {"LD0/PTOC1$SG$X$f", 12.4F}};
+    QCOMPARE(Commands::readGroup(*m_session, "LD0", false), ExitStatus::Done);
+    QCOMPARE(text(), QString("LD0/CSWI1$SG$Pos$setVal  on (2)\nLD0/PTOC1$SG$X$f         12.4\n"));
+
+    m_service->settings["SE"] = {{"LD0/CSWI1$SE$Pos$setVal", 2}};
+    QCOMPARE(Commands::writeGroup(*m_session, "LD0", 2, {"CSWI1.Pos.setVal=off"}),
+             ExitStatus::Done);
+    const auto sent =
+        m_service->calls("setSGCBValues").first().arguments.at(1).value<QList<SGCBValue>>();
+    QCOMPARE(sent.at(0).value, QVariant(1));
+    QCOMPARE(Commands::writeGroup(*m_session, "LD0", 2, {"CSWI1.Pos.setVal=open"}),
+             ExitStatus::Refused);
+}
+
 void tst_IedctlCommands::fileNamesGoWithBackslashes()
 {
     m_service->fileEntries = {{"COMTRADE\\", 12, 0, 1600000000, "a.cfg"}, {"", 0, 0, 0, "old\\"}};
     QCOMPARE(Commands::listFiles(*m_session, "COMTRADE"), ExitStatus::Done);
     QCOMPARE(m_service->calls("getFileDirectory").first().arguments,
              QVariantList({"*.*", "COMTRADE\\"}));
-    QCOMPARE(text(), QString("a.cfg  12  2020-09-13T12:26:40Z\nold/\n"));
+    QCOMPARE(text(), QString("a.cfg  12  2020-09-13T12:26:40Z\nold/   -   -\n"));
     QCOMPARE(Commands::removeFile(*m_session, "COMTRADE/a.cfg"), ExitStatus::Done);
     QCOMPARE(m_service->calls("deleteFile").first().arguments, QVariantList({"COMTRADE\\a.cfg"}));
 }
@@ -543,7 +658,7 @@ void tst_IedctlCommands::aFetchedFileIsWrittenWhole()
     QTemporaryDir folder;
     const QString local = folder.filePath("a.cfg");
     m_service->fileContent = QByteArray(100000, 'x');
-    QCOMPARE(Commands::getFile(*m_session, "a.cfg", local), ExitStatus::Done);
+    QCOMPARE(Commands::getFile(*m_session, "a.cfg", local, false), ExitStatus::Done);
     QFile file(local);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), m_service->fileContent);
@@ -557,11 +672,50 @@ void tst_IedctlCommands::aFailedFetchLeavesTheLocalFile()
     file.write("before");
     file.close();
     m_service->setAnswer("getFile", OperationFailed, "No such file.");
-    QCOMPARE(Commands::getFile(*m_session, "a.cfg", file.fileName()), ExitStatus::Refused);
+    QCOMPARE(Commands::getFile(*m_session, "a.cfg", file.fileName(), true), ExitStatus::Refused);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), QByteArray("before"));
     QCOMPARE(Commands::putFile(*m_session, folder.filePath("missing"), ""), ExitStatus::Refused);
     QVERIFY(m_service->calls("writeFile").isEmpty());
+}
+
+void tst_IedctlCommands::aFileThatIsThereIsReplacedOnlyWhenThatIsWanted()
+{
+    QTemporaryDir folder;
+    const QString local = folder.filePath("a.cfg");
+    const auto content = [&local] {
+        QFile file(local);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    m_service->fileContent = "first";
+    // A folder takes the file under its own name.
+    QCOMPARE(Commands::getFile(*m_session, "COMTRADE/a.cfg", folder.path(), false),
+             ExitStatus::Done);
+    QCOMPARE(content(), QByteArray("first"));
+
+    m_service->fileContent = "second";
+    QCOMPARE(Commands::getFile(*m_session, "a.cfg", local, false), ExitStatus::Refused);
+    QVERIFY2(complaints().contains("--overwrite"), qPrintable(complaints()));
+    QCOMPARE(m_service->calls("getFile").size(), 1);
+    QCOMPARE(content(), QByteArray("first"));
+
+    QStringList questions;
+    bool answer = false;
+    m_session->setQuestion([&](const QString &sentence) {
+        questions.append(sentence);
+        return answer;
+    });
+    QCOMPARE(Commands::getFile(*m_session, "a.cfg", local, false), ExitStatus::Refused);
+    QCOMPARE(content(), QByteArray("first"));
+    QCOMPARE(questions.size(), 1);
+    QVERIFY2(questions.first().contains(local), qPrintable(questions.first()));
+    answer = true;
+    QCOMPARE(Commands::getFile(*m_session, "a.cfg", local, false), ExitStatus::Done);
+    QCOMPARE(content(), QByteArray("second"));
+    m_service->fileContent = "third";
+    QCOMPARE(Commands::getFile(*m_session, "a.cfg", local, true), ExitStatus::Done);
+    QCOMPARE(content(), QByteArray("third"));
+    QCOMPARE(questions.size(), 2);
 }
 
 void tst_IedctlCommands::aBatchStopsAtTheFirstFailureAndNamesTheLine()

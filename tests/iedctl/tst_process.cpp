@@ -11,6 +11,7 @@
 #include <QtNetwork/QTcpServer>
 #include <QtTest/QtTest>
 
+#include <atomic>
 #include <csignal>
 #include <memory>
 
@@ -55,6 +56,9 @@ private slots:
     void anEnabledReportShowsItsValues();
     void aSettingGroupIsActivatedAndRead();
     void filesTravelBothWays();
+    void withoutATerminalNoFileIsReplaced();
+    void settingsAreWrittenByTheNamesThatReadShows();
+    void anInterruptCancelsWhatWaitsForTheDevice();
     void nothingIsChangedReadOnly();
     void aDeviceThatIsNotThereEndsWithThree();
     void aSilentDeviceEndsInTime();
@@ -148,7 +152,7 @@ void tst_IedctlProcess::aWrittenValueIsReadBack()
                                        QStringLiteral("3")}));
     QCOMPARE(ended.complaint, QString());
     QCOMPARE(ended.status, 0);
-    QVERIFY2(ended.output.trimmed().endsWith(QLatin1Char('3')), qPrintable(ended.output));
+    QVERIFY2(ended.output.trimmed().endsWith(QLatin1String("k (3)")), qPrintable(ended.output));
     QCOMPARE(m_bay->value("BAY1E1MEAS", "MMXU1$CF$A$phsA$units$multiplier"), mms::Data::integer(3));
 }
 
@@ -324,6 +328,99 @@ void tst_IedctlProcess::filesTravelBothWays()
     QCOMPARE(result.readAll(), content);
     QCOMPARE(file({QStringLiteral("rm"), QStringLiteral("record.txt")}).status, 0);
     QCOMPARE(file({QStringLiteral("get"), QStringLiteral("record.txt"), fetched}).status, 1);
+}
+
+void tst_IedctlProcess::withoutATerminalNoFileIsReplaced()
+{
+    QFile served(m_files.filePath(QStringLiteral("there.txt")));
+    QVERIFY(served.open(QIODevice::WriteOnly));
+    served.write("new");
+    served.close();
+    QTemporaryDir local;
+    QFile kept(local.filePath(QStringLiteral("there.txt")));
+    QVERIFY(kept.open(QIODevice::WriteOnly));
+    kept.write("old");
+    kept.close();
+    const QStringList get = connected(
+        {QStringLiteral("file"), QStringLiteral("get"), QStringLiteral("there.txt"), local.path()});
+    // What stands on the standard input is no answer.
+    const Ended refused = run(get, "y\n");
+    QCOMPARE(refused.status, 1);
+    QVERIFY2(refused.complaint.contains(QLatin1String("--overwrite")),
+             qPrintable(refused.complaint));
+    QVERIFY(kept.open(QIODevice::ReadOnly));
+    QCOMPARE(kept.readAll(), QByteArray("old"));
+    kept.close();
+    const Ended replaced = run(get + QStringList(QStringLiteral("--overwrite")));
+    QCOMPARE(replaced.complaint, QString());
+    QVERIFY(kept.open(QIODevice::ReadOnly));
+    QCOMPARE(kept.readAll(), QByteArray("new"));
+}
+
+void tst_IedctlProcess::settingsAreWrittenByTheNamesThatReadShows()
+{
+    const QString device = QStringLiteral("BAY1E1PROT");
+    const Ended read = run(connected({QStringLiteral("group"), QStringLiteral("read"), device}));
+    QCOMPARE(read.complaint, QString());
+    QString name;
+    const QStringList lines = read.output.split(QLatin1Char('\n'));
+    for (const QString &line : lines) {
+        if (line.contains(QLatin1String("PDIS1$SG$PoRch$")))
+            name = line.section(QLatin1Char(' '), 0, 0);
+    }
+    QVERIFY2(!name.isEmpty(), qPrintable(read.output));
+    const Ended written =
+        run(connected({QStringLiteral("group"), QStringLiteral("write"), device,
+                       QStringLiteral("--group"), QStringLiteral("3"), name + "=12.4"}));
+    QCOMPARE(written.complaint, QString());
+    QCOMPARE(written.status, 0);
+    const Ended edited = run(
+        connected({QStringLiteral("group"), QStringLiteral("edit"), device, QStringLiteral("3")}));
+    QCOMPARE(edited.complaint, QString());
+    const QStringList words = edited.output.simplified().split(QLatin1Char(' '));
+    const int place =
+        words.indexOf(QString(name).replace(QLatin1String("$SG$"), QLatin1String("$SE$")));
+    QVERIFY2(place >= 0, qPrintable(edited.output));
+    QCOMPARE(words.at(place + 1), QStringLiteral("12.4"));
+}
+
+void tst_IedctlProcess::anInterruptCancelsWhatWaitsForTheDevice()
+{
+    QFile served(m_files.filePath(QStringLiteral("slow.txt")));
+    QVERIFY(served.open(QIODevice::WriteOnly));
+    served.write("content");
+    served.close();
+    sim::FileOptions files;
+    files.directory = m_files.path().toStdString();
+    const auto service = sim::DirectoryFiles::create(files);
+    QVERIFY(service.ok());
+    sim::DeviceOptions options;
+    options.files = *service;
+    std::atomic<bool> asked{false};
+    // It never answers a file read.
+    SimulatedIed slow(QStringLiteral(STATION_FILE), QString(), std::string(), options,
+                      [&asked](const std::shared_ptr<mms::Association> &, std::uint32_t,
+                               mms::RequestService &request) {
+                          const bool isRead = std::holds_alternative<mms::FileReadRequest>(request);
+                          asked = asked || isRead;
+                          return isRead;
+                      });
+    QTemporaryDir local;
+    QProcess process;
+    process.start(QStringLiteral(IEDCTL),
+                  {QStringLiteral("--connect"), QStringLiteral("127.0.0.1:%1").arg(slow.port()),
+                   QStringLiteral("--timeout"), QStringLiteral("300"), QStringLiteral("file"),
+                   QStringLiteral("get"), QStringLiteral("slow.txt"),
+                   local.filePath(QStringLiteral("slow.txt"))});
+    QVERIFY(process.waitForStarted());
+    QTRY_VERIFY_WITH_TIMEOUT(asked, 20000);
+    QCOMPARE(kill(static_cast<pid_t>(process.processId()), SIGINT), 0);
+    QVERIFY(process.waitForFinished(20000));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 1);
+    QCOMPARE(QString::fromUtf8(process.readAllStandardError()),
+             QStringLiteral("iedctl: The operation was cancelled.\n"));
+    QVERIFY(QDir(local.path()).isEmpty());
 }
 
 void tst_IedctlProcess::nothingIsChangedReadOnly()

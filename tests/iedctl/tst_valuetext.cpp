@@ -23,6 +23,9 @@ private slots:
     void modesHaveTheirNamesWithoutAFile();
     void aFloatIsShownSoThatItCanBeTyped();
     void enumerationsShowTheirEntries();
+    void qualitiesAreSaidInWords_data();
+    void qualitiesAreSaidInWords();
+    void aFloatStaysTheNumberThatItWas();
     void integersThatJsonCannotHoldBecomeText();
 };
 
@@ -228,7 +231,13 @@ void tst_IedctlValueText::modesHaveTheirNamesWithoutAFile()
     mode.enumTypeId = QStringLiteral("Mod");
     QString error;
     QCOMPARE(ValueText::parse(device, mode, "off", error), QVariant(5));
-    QCOMPARE(ValueText::shown(device, &mode, 4), QString("4 (test/blocked)"));
+    QCOMPARE(ValueText::shown(device, &mode, 4), QString("test/blocked (4)"));
+    mode.enumTypeId = QStringLiteral("HealthKind");
+    QCOMPARE(ValueText::shown(device, &mode, 3), QString("Alarm (3)"));
+    mode.enumTypeId = QStringLiteral("CtlModelKind");
+    QCOMPARE(ValueText::shown(device, &mode, 4), QString("sbo-with-enhanced-security (4)"));
+    mode.enumTypeId = QStringLiteral("MultiplierKind");
+    QCOMPARE(ValueText::shown(device, &mode, -3), QString("m (-3)"));
     mode.enumTypeId = QStringLiteral("OpModKnd");
     QVERIFY(!ValueText::parse(device, mode, "off", error).isValid());
     QVERIFY(error.contains("no known entries"));
@@ -253,10 +262,55 @@ void tst_IedctlValueText::enumerationsShowTheirEntries()
     PhysicalDevice device;
     addEnumeration(device);
     const DataAttribute mode = attributeOfType(QStringLiteral("Enum"));
-    QCOMPARE(ValueText::shown(device, &mode, 2), QString("2 (blocked)"));
+    QCOMPARE(ValueText::shown(device, &mode, 2), QString("blocked (2)"));
     QCOMPARE(ValueText::shown(device, &mode, 9), QString("9"));
     QCOMPARE(ValueText::shown(device, nullptr, 0.1F), QString("0.1"));
     QCOMPARE(ValueText::shown(device, nullptr, QVariant()), QString());
+}
+
+void tst_IedctlValueText::qualitiesAreSaidInWords_data()
+{
+    QTest::addColumn<QString>("bits");
+    QTest::addColumn<QString>("words");
+    QTest::newRow("good") << "0000000000000"
+                          << "good";
+    QTest::newRow("invalid") << "0110000000000"
+                             << "invalid, overflow";
+    QTest::newRow("questionable") << "1100000100000"
+                                  << "questionable, old data";
+    QTest::newRow("reserved") << "1000000000000"
+                              << "reserved";
+    QTest::newRow("details") << "0101111111111"
+                             << "invalid, out of range, bad reference, oscillatory, failure, old "
+                                "data, inconsistent, inaccurate, substituted, test, operator "
+                                "blocked";
+    QTest::newRow("short") << "01"
+                           << "invalid";
+    QTest::newRow("not sent") << "00???????????"
+                              << "good, partly unknown";
+    QTest::newRow("none") << ""
+                          << "";
+}
+
+void tst_IedctlValueText::qualitiesAreSaidInWords()
+{
+    QFETCH(QString, bits);
+    QFETCH(QString, words);
+    QCOMPARE(ValueText::quality(bits), words);
+    PhysicalDevice device;
+    const DataAttribute quality = attributeOfType(QStringLiteral("Quality"));
+    if (!bits.isEmpty()) {
+        QCOMPARE(ValueText::shown(device, &quality, bits),
+                 QStringLiteral("%1 (%2)").arg(words, bits));
+    }
+}
+
+void tst_IedctlValueText::aFloatStaysTheNumberThatItWas()
+{
+    QCOMPARE(ValueText::toJson(12.4F), QJsonValue(12.4));
+    QCOMPARE(ValueText::toJson(0.76F), QJsonValue(0.76));
+    QCOMPARE(ValueText::toJson(std::numeric_limits<float>::infinity()), QJsonValue("inf"));
+    QCOMPARE(ValueText::toJson(12.4), QJsonValue(12.4));
 }
 
 void tst_IedctlValueText::integersThatJsonCannotHoldBecomeText()
