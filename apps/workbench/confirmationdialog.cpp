@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "confirmationdialog.h"
 
+#include <QtCore/QPointer>
 #include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QDialogButtonBox>
@@ -72,6 +73,24 @@ ConfirmationDialog::ConfirmationDialog(const CallConfirmation::Question &questio
     layout->addWidget(buttons);
     m_cancel->setDefault(true);
     setMinimumWidth(narrowest);
+    if (parent)
+        parent->installEventFilter(this);
+}
+
+bool ConfirmationDialog::asks(const CallConfirmation::Question &question, QWidget *parent)
+{
+    // Not on the stack: the parent destroys it when it is destroyed itself.
+    const QPointer<ConfirmationDialog> dialog(new ConfirmationDialog(question, parent));
+    const bool isConfirmed = dialog->exec() == QDialog::Accepted;
+    delete dialog;
+    return isConfirmed;
+}
+
+bool ConfirmationDialog::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == parent() && event->type() == QEvent::Hide && !event->spontaneous())
+        reject();
+    return QDialog::eventFilter(watched, event);
 }
 
 void ConfirmationDialog::showEvent(QShowEvent *event)

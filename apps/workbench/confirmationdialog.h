@@ -11,6 +11,9 @@ class QPushButton;
 ///
 /// The key or the click that closed the window before must not answer: for a moment, until armed(),
 /// only Escape does anything, and Enter never sends.
+///
+/// Its parent is a window of somebody else, which may be closed or destroyed while the question is
+/// open: it is then withdrawn, as with Cancel. Ask with asks().
 class ConfirmationDialog : public QDialog
 {
     Q_OBJECT
@@ -20,6 +23,11 @@ public:
 
     explicit ConfirmationDialog(const CallConfirmation::Question &question,
                                 QWidget *parent = nullptr);
+
+    /// Ask over `parent`. \return whether it was confirmed; `parent` may be gone by then
+    static bool asks(const CallConfirmation::Question &question, QWidget *parent);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 signals:
     /// The buttons can be pressed from now on.

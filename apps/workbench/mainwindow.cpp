@@ -280,9 +280,8 @@ void MainWindow::setUpConfirmation()
 {
     m_workbench.confirmation().setAsk([this](const CallConfirmation::Question &question) {
         QWidget *const asking = QApplication::activeWindow();
-        ConfirmationDialog dialog(question, asking ? asking : this);
         QApplication::setOverrideCursor(Qt::ArrowCursor);
-        const bool isConfirmed = dialog.exec() == QDialog::Accepted;
+        const bool isConfirmed = ConfirmationDialog::asks(question, asking ? asking : this);
         QApplication::restoreOverrideCursor();
         return isConfirmed;
     });

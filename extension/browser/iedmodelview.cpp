@@ -16,6 +16,7 @@
 #include "model/streportcontrolblock.h"
 #include "plugin/busycursor.h"
 #include "plugin/failurereport.h"
+#include "plugin/modallife.h"
 #include "report/reportcontrol.h"
 #include "settinggroup/offlinesgcb.h"
 #include "settinggroup/selectfcdialog.h"
@@ -25,9 +26,12 @@
 #include <remoteclient/driverconsolinterface.h>
 
 #include <QtCore/QDataStream>
+#include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QAction>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QMenu>
+#include <QtWidgets/QStyle>
 
 #include <algorithm>
 #include <functional>
@@ -63,7 +67,11 @@ IEDModelView::IEDModelView(int driverNo, int deviceNo, int /*taskParameter*/,
                            HostTaskContext *context, QWidget *parent)
     : QDialog(parent)
     , m_form(std::make_unique<Ui::IEDModelView>())
+    , m_workings(new BrowserWorkings)
+    , m_templates(m_workings->templates)
     , m_hostContext(context)
+    , m_controller(m_workings->controller)
+    , m_device(m_workings->device)
     , m_deviceNo(deviceNo)
     , m_driverNo(driverNo)
 {
@@ -91,9 +99,10 @@ IEDModelView::IEDModelView(int driverNo, int deviceNo, int /*taskParameter*/,
     view->setItemDelegate(m_delegate);
     view->setColumnWidth(valueColumn, valueColumnWidth);
 
-    m_explanations.setLanguage(windowLanguage());
-    new ExplanationTips(view, [this](const QModelIndex &index) {
-        return nodeExplanation(IEDModel::nodeAt(index), m_explanations);
+    SclExplanations &explanations = m_workings->explanations;
+    explanations.setLanguage(windowLanguage());
+    new ExplanationTips(view, [&explanations](const QModelIndex &index) {
+        return nodeExplanation(IEDModel::nodeAt(index), explanations);
     });
 
     auto *finder = new TreeFinder(view, this);
@@ -108,8 +117,10 @@ IEDModelView::~IEDModelView()
 {
     if (m_listener)
         m_listener->stop();
-    // The model is a child and outlives the device, at whose objects its nodes point.
-    m_model->setDevice(nullptr);
+    // What the view still does, such as to close an editor, is no service any more.
+    m_form->modelView->disconnect(this);
+    m_model->disconnect(this);
+    m_workings->leave(m_form->modelView, m_model, m_delegate);
 }
 
 bool IEDModelView::init()
@@ -123,12 +134,15 @@ bool IEDModelView::init()
     }
     if (result != OperationSucceeded) {
         // Without a model there is nothing to work with, whatever the reason.
+        const BrowserWorkings::Use use(m_workings);
         reportFailure(this, OperationDriverUnreachable, error, failureTexts());
         return false;
     }
 
     QDataStream stream(bytes);
     m_device.fromStream(stream);
+    if (stream.status() != QDataStream::Ok)
+        tellThatTheModelIsNotWhole();
     m_offline = m_device.offline;
     if (!m_offline) {
         connect(m_form->modelView, &QTreeView::customContextMenuRequested, this,
@@ -245,7 +259,9 @@ void IEDModelView::slotContextMenu(QPoint pos)
 {
     const QModelIndex index = m_form->modelView->indexAt(pos);
     IEDNode *node = IEDModel::nodeAt(index);
+    const BrowserWorkings::Use use(m_workings);
     const std::unique_ptr<QMenu> menu(node ? createTaskMenu(node) : new QMenu);
+    const ModalLife life(menu.get(), this);
     menu->exec(m_form->modelView->viewport()->mapToGlobal(pos));
 }
 
@@ -293,11 +309,14 @@ void IEDModelView::readData()
         return;
     }
 
+    const BrowserWorkings::Use use(m_workings);
+    const QPointer<IEDModelView> self(this);
     QStringList references;
     if (const LogicalNode *logicalNode = node->logicalNode()) {
         SelectFCDialog picker(this);
+        ModalLife life(&picker);
         picker.setFCList(logicalNode->posibleFC());
-        if (picker.exec() != QDialog::Accepted)
+        if (life.exec() != QDialog::Accepted || !self)
             return;
         references << logicalNode->name + QLatin1Char('$') + picker.selectedFC();
     } else if (node->type == DataObjectNode || node->type == DataAttributeNode) {
@@ -329,9 +348,11 @@ void IEDModelView::openReport()
     ReportControlBlock *block = node ? node->reportControl() : nullptr;
     if (!block)
         return;
+    const BrowserWorkings::Use use(m_workings);
+    const QPointer<IEDModelView> self(this);
     if (m_offline) {
         ReportControl dialog(offlineReportBlock(*block), this);
-        dialog.exec();
+        ModalLife(&dialog).exec();
         return;
     }
 
@@ -341,10 +362,13 @@ void IEDModelView::openReport()
             dataSetNames << dataSet->name;
     }
     ReportControl dialog(m_deviceNo, 0, &m_controller, this);
+    ModalLife life(&dialog);
     dialog.setReportName(IEDModel::logicalDeviceName(node), block->reference, dataSetNames);
     if (!dialog.init())
         return;
-    dialog.exec();
+    life.exec();
+    if (!self)
+        return;
     block->enabled = dialog.reportEnabled();
     m_form->modelView->update(m_model->indexOf(node));
 }
@@ -374,15 +398,18 @@ void IEDModelView::control(ControlOperation operation, std::initializer_list<qui
     if (!dataObject)
         return;
 
+    const BrowserWorkings::Use use(m_workings);
+    const QPointer<IEDModelView> self(this);
     const quint8 ctlModel = controlModel(*dataObject);
     ControlBlock block;
     if (std::find(modelsAsking.begin(), modelsAsking.end(), ctlModel) != modelsAsking.end()) {
         ControlCo dialog(node, &m_templates, m_templates.entries(QStringLiteral("Check")),
                          m_templates.entries(QStringLiteral("orCat")),
                          check == ControlCheck::Locked, this);
+        ModalLife life(&dialog);
         QString fault;
         do {
-            if (dialog.exec() != QDialog::Accepted)
+            if (life.exec() != QDialog::Accepted || !self)
                 return;
             fault = dialog.faultOfTypedValue();
             if (!fault.isEmpty())
@@ -423,15 +450,17 @@ void IEDModelView::openSGCB()
     const SettingGroupControl *settingGroup = node ? node->settingGroup() : nullptr;
     if (!settingGroup)
         return;
+    const BrowserWorkings::Use use(m_workings);
     if (m_offline) {
         OfflineSGCB dialog(nullptr);
         dialog.setValues(settingGroup->numOfSG, settingGroup->activeGroup);
-        dialog.exec();
+        ModalLife(&dialog, this).exec();
         return;
     }
     SGCBDialog dialog(&m_controller, this);
+    ModalLife life(&dialog);
     if (dialog.initSGCB(m_deviceNo, IEDModel::logicalDeviceName(node)))
-        dialog.exec();
+        life.exec();
 }
 
 void IEDModelView::collapseChild()
@@ -472,9 +501,12 @@ void IEDModelView::createDataSet()
     if (!nonPersistent && node->type != DataSetGroupNode)
         return;
 
+    const BrowserWorkings::Use use(m_workings);
+    const QPointer<IEDModelView> self(this);
     DatasetSelectWidget picker(this);
+    ModalLife life(&picker);
     picker.setDevice(&m_device);
-    if (picker.exec() != QDialog::Accepted)
+    if (life.exec() != QDialog::Accepted || !self)
         return;
 
     const QString name = picker.dataSetName();
@@ -668,14 +700,33 @@ FailureTexts IEDModelView::failureTexts() const
     return {tr("Fail"), tr("Cannot connect to driver")};
 }
 
+void IEDModelView::tellThatTheModelIsNotWhole()
+{
+    auto *const icon = new QLabel;
+    icon->setPixmap(style()
+                        ->standardIcon(QStyle::SP_MessageBoxWarning)
+                        .pixmap(style()->pixelMetric(QStyle::PM_SmallIconSize)));
+    auto *const sentence = new QLabel(tr("The description of this device is not whole: the tree "
+                                         "shows what could be read of it."));
+    sentence->setObjectName(QStringLiteral("modelNotWhole"));
+    sentence->setWordWrap(true);
+    auto *const line = new QHBoxLayout;
+    line->addWidget(icon);
+    line->addWidget(sentence, 1);
+    m_form->verticalLayout->insertLayout(0, line);
+}
+
 template <typename Call>
 bool IEDModelView::request(Call call)
 {
+    // A host may ask somebody before the call goes out; meanwhile the window can come to its end.
+    const BrowserWorkings::Use use(m_workings);
+    const QPointer<IEDModelView> self(this);
     QString error;
     OperationResult result = OperationSucceeded;
     {
         const BusyCursor busy;
         result = call(error);
     }
-    return !reportFailure(this, result, error, failureTexts());
+    return self && !reportFailure(this, result, error, failureTexts()) && self;
 }

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "browserworkings.h"
+
 #include "model/attributenodes.h"
-#include "model/sclexplanations.h"
-#include "model/scltemplatestore.h"
 
 #include <devicemodel/mmsvalue.h>
-#include <devicemodel/physicaldevice.h>
-#include <remoteclient/iec61850controllerinterface.h>
 
 #include <QtWidgets/QDialog>
 
@@ -32,7 +30,8 @@ class IEDModelView;
 ///
 /// Construct it, call init(), and show it only when that returned true. GUI thread; every service
 /// is a controller call that blocks the window until the driver has answered. The host context and
-/// what it points at must outlive the window.
+/// what it points at must outlive the window. The window may be closed and destroyed at any time,
+/// also while a dialog, a box or a menu of it is open: those end as if they were cancelled.
 class IEDModelView : public QDialog
 {
     Q_OBJECT
@@ -91,19 +90,20 @@ private:
                  ControlCheck check);
     IEDNode *currentNode() const;
     FailureTexts failureTexts() const;
+    void tellThatTheModelIsNotWhole();
 
     /// Make a controller call, `call(error)`, under the busy cursor and report its failure.
-    /// \return whether it succeeded
+    /// \return whether it succeeded and the window is still there
     template <typename Call>
     bool request(Call call);
 
     std::unique_ptr<Ui::IEDModelView> m_form;
-    const SclTemplateStore m_templates;
-    SclExplanations m_explanations;
+    BrowserWorkings *const m_workings; ///< leaves when the window goes
+    const SclTemplateStore &m_templates;
     IEDModel *m_model;
     HostTaskContext *m_hostContext;
-    IEC61850ControllerInterface m_controller;
-    PhysicalDevice m_device;
+    IEC61850ControllerInterface &m_controller;
+    PhysicalDevice &m_device;
     AttributeNodes m_attributeIndex;
     IEDModelDelegate *m_delegate;
     MMSListener *m_listener = nullptr;

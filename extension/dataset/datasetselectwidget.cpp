@@ -4,10 +4,9 @@
 #include "ui_datasetselectwidget.h"
 
 #include "model/explanationtips.h"
+#include "plugin/failurereport.h"
 
 #include <devicemodel/physicaldevice.h>
-
-#include <QtWidgets/QMessageBox>
 
 namespace {
 
@@ -205,10 +204,9 @@ void DatasetSelectWidget::slotItemChange(QTreeWidgetItem *item, int column)
 void DatasetSelectWidget::slotAccept()
 {
     if (members().isEmpty()) {
-        QMessageBox::warning(this, tr("Fail"), tr("No data selected. can`t create dataset"),
-                             QMessageBox::Ok);
+        showWarning(this, tr("Fail"), tr("No data selected. can`t create dataset"));
     } else if (dataSetName().isEmpty()) {
-        QMessageBox::warning(this, tr("Fail"), tr("Please input dataset name"), QMessageBox::Ok);
+        showWarning(this, tr("Fail"), tr("Please input dataset name"));
     } else {
         accept();
     }

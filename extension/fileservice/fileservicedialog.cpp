@@ -6,6 +6,7 @@
 
 #include "plugin/busycursor.h"
 #include "plugin/failurereport.h"
+#include "plugin/modallife.h"
 
 #include <host/hosttaskcontext.h>
 #include <remoteclient/driverconsolinterface.h>
@@ -15,7 +16,6 @@
 #include <QtCore/QSaveFile>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QFileDialog>
-#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QShortcut>
 
 namespace {
@@ -36,6 +36,13 @@ QString localFileName(QString name)
     const bool isFolder =
         name.isEmpty() || name == QLatin1String(".") || name == QLatin1String("..");
     return isFolder ? QStringLiteral("_") : name;
+}
+
+/// Run a file dialog. \return the file that was chosen, empty when none was
+QString chosenFile(QFileDialog &chooser)
+{
+    ModalLife life(&chooser);
+    return life.exec() == QDialog::Accepted ? chooser.selectedFiles().value(0) : QString();
 }
 
 } // namespace
@@ -114,8 +121,10 @@ void FileServiceDialog::checkFile(const QModelIndex &index)
 
 void FileServiceDialog::selectFile()
 {
-    const QString file = QFileDialog::getOpenFileName(
-        this, tr("Select file"), QCoreApplication::applicationDirPath(), tr("All Files(*.*)"));
+    QFileDialog chooser(this, tr("Select file"), QCoreApplication::applicationDirPath(),
+                        tr("All Files(*.*)"));
+    chooser.setFileMode(QFileDialog::ExistingFile);
+    const QString file = chosenFile(chooser);
     if (file.isEmpty())
         return;
     m_form->sourceFile->setText(file);
@@ -155,12 +164,8 @@ void FileServiceDialog::download()
         return;
     }
     readDirectory();
-    QMessageBox box(isWritten ? QMessageBox::Information : QMessageBox::Warning, tr("Success"),
-                    tr("Download Finished"), QMessageBox::Ok, this);
-    box.setTextFormat(Qt::PlainText);
-    // The transfer is done, and yet there is no file.
-    box.setInformativeText(problem);
-    box.exec();
+    // The transfer is done, and yet there may be no file.
+    showInformation(this, tr("Success"), tr("Download Finished"), problem);
 }
 
 void FileServiceDialog::deleteFile()
@@ -177,7 +182,7 @@ void FileServiceDialog::deleteFile()
         return;
     }
     readDirectory();
-    QMessageBox::information(this, tr("Success"), tr("Delete Finished"));
+    showInformation(this, tr("Success"), tr("Delete Finished"));
 }
 
 void FileServiceDialog::upload()
@@ -192,7 +197,7 @@ void FileServiceDialog::upload()
         return;
     }
     readDirectory();
-    QMessageBox::information(nullptr, tr("Success"), tr("Upload Finished"));
+    showFreeInformation(this, tr("Success"), tr("Upload Finished"));
 }
 
 bool FileServiceDialog::eventFilter(QObject *watched, QEvent *event)
@@ -257,9 +262,12 @@ QString FileServiceDialog::askLocalFile(const QString &proposal)
 {
     const QString caption = tr("Download File");
     for (;;) {
-        QString name = QFileDialog::getSaveFileName(
-            this, caption, proposal, tr("All Files (*)"), nullptr,
-            QFileDialog::DontConfirmOverwrite | QFileDialog::HideNameFilterDetails);
+        QFileDialog chooser(this, caption, QFileInfo(proposal).path(), tr("All Files (*)"));
+        chooser.setAcceptMode(QFileDialog::AcceptSave);
+        chooser.setFileMode(QFileDialog::AnyFile);
+        chooser.setOptions(QFileDialog::DontConfirmOverwrite | QFileDialog::HideNameFilterDetails);
+        chooser.selectFile(QFileInfo(proposal).fileName());
+        QString name = chosenFile(chooser);
         if (name.isEmpty())
             return {};
         // The default suffix is empty, so only its point is added.
@@ -267,11 +275,10 @@ QString FileServiceDialog::askLocalFile(const QString &proposal)
             name += QLatin1Char('.');
         if (!QFileInfo::exists(name))
             return name;
-        const QMessageBox::StandardButton answer = QMessageBox::warning(
+        const bool replaces = askWarning(
             this, caption,
-            tr("%1 already exists.\nDo you want to replace it?").arg(QFileInfo(name).fileName()),
-            QMessageBox::Yes | QMessageBox::No);
-        if (answer == QMessageBox::Yes)
+            tr("%1 already exists.\nDo you want to replace it?").arg(QFileInfo(name).fileName()));
+        if (replaces)
             return name;
     }
 }

@@ -3,6 +3,7 @@
 
 #include "browser/iedmodelview.h"
 #include "fileservice/fileservicedialog.h"
+#include "modallife.h"
 #include "report/reportcontrol.h"
 
 #include <devicemodel/mmsvalue.h>
@@ -15,14 +16,40 @@
 #include <QtCore/QLocale>
 #include <QtCore/QLoggingCategory>
 #include <QtCore/QMetaType>
+#include <QtCore/QPointer>
 #include <QtCore/QTranslator>
 #include <QtWidgets/QAction>
+#include <QtWidgets/QDialog>
+#include <QtWidgets/QWidget>
 
 namespace {
 
 Q_LOGGING_CATEGORY(lcExtension, "iec61850ext.plugin", QtWarningMsg)
 
 constexpr int iec61850Protocol = 4;
+
+/// The host's window, which may be destroyed while a dialog is prepared or runs.
+class HostWindow
+{
+public:
+    explicit HostWindow(const HostTaskContext &context)
+        : m_isThere(context.mainWindow)
+        , m_window(context.mainWindow)
+    {
+    }
+
+    /// Run a dialog, which ends when the window is destroyed.
+    void run(QDialog &dialog) const
+    {
+        if (m_isThere && !m_window)
+            return;
+        ModalLife(&dialog, m_window, ModalLife::UntilItIsDestroyed).exec();
+    }
+
+private:
+    const bool m_isThere;
+    const QPointer<QWidget> m_window;
+};
 
 } // namespace
 
@@ -92,14 +119,16 @@ bool IEC61850TaskExtention::supportsProtocol(int protocolType)
 
 void IEC61850TaskExtention::openFileService()
 {
+    const HostWindow host(*m_hostContext);
     FileServiceDialog dialog(m_driverNo, m_deviceNo, m_hostContext, nullptr);
-    dialog.exec();
+    host.run(dialog);
 }
 
 void IEC61850TaskExtention::openIEDView()
 {
-    auto *view = new IEDModelView(m_driverNo, m_deviceNo, m_taskParameter, m_hostContext,
-                                  m_hostContext->mainWindow);
+    // A child of the host's window, which may be destroyed while init() shows a box.
+    const QPointer<IEDModelView> view(new IEDModelView(m_driverNo, m_deviceNo, m_taskParameter,
+                                                       m_hostContext, m_hostContext->mainWindow));
     if (!view->init()) {
         delete view;
         return;
@@ -112,8 +141,9 @@ void IEC61850TaskExtention::openReportService()
 {
     IEC61850ControllerInterface controller;
     controller.setLocation(m_hostContext->console->currentAddress(), m_driverNo);
+    const HostWindow host(*m_hostContext);
     ReportControl dialog(m_deviceNo, m_taskParameter, &controller, nullptr);
-    dialog.exec();
+    host.run(dialog);
 }
 
 void IEC61850TaskExtention::abort()

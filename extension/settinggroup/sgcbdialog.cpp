@@ -3,6 +3,7 @@
 
 #include "plugin/busycursor.h"
 #include "plugin/failurereport.h"
+#include "plugin/modallife.h"
 #include "ui_sgcbdialog.h"
 
 #include <propertybrowser/qtvarianteditorfactory.h>
@@ -12,7 +13,6 @@
 
 #include <QtCore/QEvent>
 #include <QtCore/QTimer>
-#include <QtWidgets/QMessageBox>
 
 namespace {
 
@@ -86,6 +86,8 @@ void SGCBDialog::setEditSettingGroup()
 
 void SGCBDialog::refreshSettingValue()
 {
+    if (ModalLife::hasEnded(this))
+        return;
     const auto indexChanged = qOverload<int>(&QComboBox::currentIndexChanged);
     disconnect(m_form->acCombo, indexChanged, this, &SGCBDialog::setActiveSettingGroup);
     disconnect(m_form->edCombo, indexChanged, this, &SGCBDialog::setEditSettingGroup);
@@ -98,6 +100,8 @@ void SGCBDialog::refreshSettingValue()
         block = SGCB();
         disableServices();
         report(result, error);
+        if (ModalLife::hasEnded(this))
+            return;
         reject();
     }
 
@@ -135,7 +139,7 @@ void SGCBDialog::readSGCB(const QString &fc)
         if (!property && type == QMetaType::Float) {
             property = m_manager->addProperty(QMetaType::Double, setting.name);
             if (!property)
-                QMessageBox::warning(this, tr("Fail"), tr("Unsupported Type"), QMessageBox::Ok);
+                showWarning(this, tr("Fail"), tr("Unsupported Type"));
             else
                 property->setSinglePrecision(true);
         }

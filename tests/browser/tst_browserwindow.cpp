@@ -4,6 +4,7 @@
 #include "listener/mmslistener.h"
 #include "model/iedmodel.h"
 #include "model/iedmodeldelegate.h"
+#include "support/generateddevice.h"
 #include "support/modaldriver.h"
 
 #include <tavrix/tavrix.h>
@@ -38,6 +39,8 @@ private slots:
     void liveValueReachesItsCell();
     void twoWindowsListenToBoxesOfTheirOwn();
     void destroyingTheWindowEndsItsListener();
+    void modelThatEndsInTheMiddleIsShownAsFarAsItGoesAndTold_data();
+    void modelThatEndsInTheMiddleIsShownAsFarAsItGoesAndTold();
     void offlineModelHasNoContextMenu();
     void onlineModelHasAContextMenu();
     void doubleClickOnOfflineSettingGroupShowsItsNumbers();
@@ -298,6 +301,38 @@ void tst_BrowserWindow::destroyingTheWindowEndsItsListener()
     view.reset();
     QVERIFY(listener.isNull());
     QCOMPARE(finished.count(), 1);
+}
+
+void tst_BrowserWindow::modelThatEndsInTheMiddleIsShownAsFarAsItGoesAndTold_data()
+{
+    QTest::addColumn<double>("share");
+    QTest::newRow("whole") << 1.0;
+    QTest::newRow("all but the end") << 0.99;
+    QTest::newRow("half") << 0.5;
+    QTest::newRow("nothing") << 0.0;
+}
+
+void tst_BrowserWindow::modelThatEndsInTheMiddleIsShownAsFarAsItGoesAndTold()
+{
+    QFETCH(double, share);
+    BrowserFixture fixture;
+    const QByteArray bytes = deviceBytes(*fixture.device);
+    fixture.service->model = bytes.left(int(bytes.size() * share));
+    IEDModelView view(1, 2, 0, &fixture.context, nullptr);
+    QVERIFY(view.init());
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    const auto *sentence = view.findChild<QLabel *>("modelNotWhole");
+    QCOMPARE(sentence != nullptr, share < 1.0);
+    if (sentence) {
+        QVERIFY(sentence->isVisible());
+        QCOMPARE(sentence->text(), QString("The description of this device is not whole: the tree "
+                                           "shows what could be read of it."));
+    }
+    const QAbstractItemModel *model = BrowserFixture::tree(view)->model();
+    QCOMPARE(model->rowCount(), 1);
+    const bool hasSome = share >= 0.5;
+    QCOMPARE(model->rowCount(model->index(0, 0)) > 0, hasSome);
 }
 
 void tst_BrowserWindow::offlineModelHasNoContextMenu()

@@ -197,6 +197,8 @@ private slots:
     void existingLocalFileIsReplacedAfterYes();
     void noAsksAgainFromTheSameProposal();
     void escapeAtTheReplaceQuestionIsNo();
+    void closedByItsHostEverythingOverItEnds_data();
+    void closedByItsHostEverythingOverItEnds();
     void failedDownloadIsReportedAndWritesNothing_data();
     void failedDownloadIsReportedAndWritesNothing();
     void localFileThatCannotBeWrittenStillCountsAsDownloaded();
@@ -806,6 +808,37 @@ void tst_FileServiceDialog::escapeAtTheReplaceQuestionIsNo()
     QCOMPARE(second.name, "readme.txt");
     QCOMPARE(contentOf(localPath("kept.txt")), "kept");
     QVERIFY(m_store->calls().isEmpty());
+}
+
+void tst_FileServiceDialog::closedByItsHostEverythingOverItEnds_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<bool>("atTheQuestion");
+    QTest::newRow("download, name") << QByteArray("download") << false;
+    QTest::newRow("download, question") << QByteArray("download") << true;
+    QTest::newRow("upload, file") << QByteArray("findFile") << false;
+    QTest::newRow("upload, box") << QByteArray("upload") << false;
+    QTest::newRow("delete, box") << QByteArray("deleteFile") << false;
+}
+
+void tst_FileServiceDialog::closedByItsHostEverythingOverItEnds()
+{
+    QFETCH(QByteArray, button);
+    QFETCH(bool, atTheQuestion);
+    writeLocalFile(localPath("kept.txt"), "kept");
+    open();
+    click("readme.txt");
+    const auto closeAll = [this](QWidget *) { m_dialog->close(); };
+    std::vector<ModalDriver::Step> steps;
+    if (atTheQuestion)
+        steps.push_back(answerFileDialog(localPath("kept.txt")));
+    steps.push_back(closeAll);
+    ModalDriver driver(steps);
+    emit m_dialog->findChild<QAbstractButton *>(button)->released();
+    QVERIFY(driver.finished());
+    QVERIFY(!m_dialog->isVisible());
+    QVERIFY(!QApplication::activeModalWidget());
+    QCOMPARE(contentOf(localPath("kept.txt")), "kept");
 }
 
 void tst_FileServiceDialog::failedDownloadIsReportedAndWritesNothing_data()

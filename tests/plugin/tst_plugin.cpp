@@ -18,6 +18,7 @@
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
+#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 
 namespace {
@@ -60,6 +61,8 @@ private slots:
     void failedModelFetchLeavesNoBrowser();
     void fileServiceOpensForTheSelectedDevice();
     void reportServiceOpensAndCloses();
+    void toolsEndWithTheWindowOfTheHost_data();
+    void toolsEndWithTheWindowOfTheHost();
     void abortReachesTheDriver();
 
 private:
@@ -303,6 +306,40 @@ void tst_Plugin::reportServiceOpensAndCloses()
     QVERIFY(QMetaObject::invokeMethod(m_loader.instance(), "openReportService"));
     QVERIFY(driver.finished());
     QVERIFY(m_service->calls().isEmpty());
+}
+
+void tst_Plugin::toolsEndWithTheWindowOfTheHost_data()
+{
+    QTest::addColumn<QString>("slot");
+    QTest::addColumn<QString>("failing");
+    QTest::newRow("file service") << "openFileService"
+                                  << "";
+    QTest::newRow("box of the file service") << "openFileService"
+                                             << "getFileDirectory";
+    QTest::newRow("report control") << "openReportService"
+                                    << "";
+    QTest::newRow("box of the browser") << "openIEDView"
+                                        << "getIEDModel";
+}
+
+void tst_Plugin::toolsEndWithTheWindowOfTheHost()
+{
+    QFETCH(QString, slot);
+    QFETCH(QString, failing);
+    m_extension->initialize();
+    if (!failing.isEmpty())
+        m_service->setAnswer(failing, OperationFailed, "No.");
+    m_mainWindow->show();
+    ModalDriver driver({[this](QWidget *window) {
+        m_mainWindow.reset();
+        // A box without a window below it is for the operator to close.
+        if (auto *const box = qobject_cast<QMessageBox *>(window); box && box->isVisible())
+            box->button(QMessageBox::Ok)->click();
+    }});
+    QVERIFY(QMetaObject::invokeMethod(m_loader.instance(), qPrintable(slot)));
+    QVERIFY(driver.finished());
+    QVERIFY(!QApplication::activeModalWidget());
+    QVERIFY(browsers().isEmpty());
 }
 
 void tst_Plugin::abortReachesTheDriver()

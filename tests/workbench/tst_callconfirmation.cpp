@@ -70,6 +70,8 @@ private slots:
     void enterNeverSends();
     void theButtonSends();
     void textsAreShownAsTheyAre();
+    void theQuestionIsWithdrawnWithTheWindowBelow_data();
+    void theQuestionIsWithdrawnWithTheWindowBelow();
 
 private:
     CallConfirmation m_confirmation;
@@ -273,6 +275,33 @@ void tst_CallConfirmation::textsAreShownAsTheyAre()
         }
     }
     QCOMPARE(found, 1);
+}
+
+void tst_CallConfirmation::theQuestionIsWithdrawnWithTheWindowBelow_data()
+{
+    QTest::addColumn<bool>("destroyed");
+    QTest::newRow("closed") << false;
+    QTest::newRow("destroyed") << true;
+}
+
+void tst_CallConfirmation::theQuestionIsWithdrawnWithTheWindowBelow()
+{
+    QFETCH(bool, destroyed);
+    QPointer<QWidget> tool = new QWidget;
+    tool->show();
+    bool wasAsked = false;
+    QTimer::singleShot(0, qApp, [&] {
+        wasAsked = qobject_cast<ConfirmationDialog *>(QApplication::activeModalWidget());
+        if (destroyed)
+            delete tool;
+        else
+            tool->close();
+    });
+    QVERIFY(
+        !ConfirmationDialog::asks(m_confirmation.question(command("controlObject", 1, 1)), tool));
+    QVERIFY(wasAsked);
+    QCOMPARE(tool.isNull(), destroyed);
+    delete tool;
 }
 
 QTEST_MAIN(tst_CallConfirmation)
