@@ -34,7 +34,6 @@
 #include <QtWidgets/QStyle>
 
 #include <algorithm>
-#include <functional>
 
 namespace {
 
@@ -265,8 +264,9 @@ void IEDModelView::slotContextMenu(QPoint pos)
     menu->exec(m_form->modelView->viewport()->mapToGlobal(pos));
 }
 
-void IEDModelView::slotExpanded(const QModelIndex & /*index*/)
+void IEDModelView::slotExpanded(const QModelIndex &index)
 {
+    m_form->modelView->makeRoomForTimes(index);
     m_form->modelView->resizeColumnToContents(0);
 }
 
@@ -441,6 +441,7 @@ void IEDModelView::expandChild()
         const QSignalBlocker quiet(view);
         view->expandRecursively(index);
     }
+    m_form->modelView->makeRoomForTimes(index, true);
     slotExpanded(index);
 }
 
@@ -465,15 +466,9 @@ void IEDModelView::openSGCB()
 
 void IEDModelView::collapseChild()
 {
-    QTreeView *view = m_form->modelView;
-    const std::function<void(const QModelIndex &)> collapse = [&](const QModelIndex &index) {
-        for (int row = 0; row < m_model->rowCount(index); ++row)
-            collapse(m_model->index(row, 0, index));
-        view->collapse(index);
-    };
-    const QModelIndex current = view->currentIndex();
+    const QModelIndex current = m_form->modelView->currentIndex();
     if (current.isValid())
-        collapse(current.sibling(current.row(), 0));
+        m_form->modelView->collapseRecursively(current);
 }
 
 void IEDModelView::locate()

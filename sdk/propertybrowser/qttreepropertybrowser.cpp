@@ -14,6 +14,8 @@
 #include <QtWidgets/QTreeWidget>
 #include <QtWidgets/QVBoxLayout>
 
+#include <utility>
+
 namespace {
 
 enum Column { NameColumn, ValueColumn };
@@ -31,6 +33,7 @@ class PropertyTree : public QTreeWidget
 public:
     using QTreeWidget::itemFromIndex;
     using QTreeWidget::QTreeWidget;
+    using QTreeWidget::scheduleDelayedItemsLayout;
 
     void editValue(QTreeWidgetItem *item)
     {
@@ -273,7 +276,13 @@ void QtTreePropertyBrowser::refresh(QtProperty *property)
     const bool marked = m_markWithoutValue && !hasValue;
     QFont font = m_tree->font();
     font.setBold(marked);
-    item->setFirstColumnSpanned(!hasValue);
+    if (item->isFirstColumnSpanned() == hasValue) {
+        if (m_toSpan.isEmpty()) {
+            QMetaObject::invokeMethod(this, &QtTreePropertyBrowser::spanGroups,
+                                      Qt::QueuedConnection);
+        }
+        m_toSpan.insert(property);
+    }
     for (int column : {NameColumn, ValueColumn}) {
         item->setData(column, Qt::FontRole, marked ? QVariant(font) : QVariant());
         item->setData(column, Qt::BackgroundRole,
@@ -281,8 +290,21 @@ void QtTreePropertyBrowser::refresh(QtProperty *property)
     }
 }
 
+void QtTreePropertyBrowser::spanGroups()
+{
+    // Together, since the tree is laid out before each: once, when nothing is added in between.
+    const QSet<QtProperty *> properties = std::move(m_toSpan);
+    m_toSpan.clear();
+    for (QtProperty *property : properties) {
+        if (QTreeWidgetItem *item = m_items.value(property))
+            item->setFirstColumnSpanned(!property->hasValue());
+    }
+}
+
 void QtTreePropertyBrowser::refreshAll()
 {
+    // Rows are looked for one by one as long as there is a layout to keep right.
+    m_tree->scheduleDelayedItemsLayout();
     const QList<QtProperty *> shown = m_items.keys();
     for (QtProperty *property : shown)
         refresh(property);

@@ -6,6 +6,7 @@
 #include <QtCore/QHash>
 #include <QtCore/QList>
 #include <QtCore/QPointer>
+#include <QtCore/QSet>
 #include <QtWidgets/QWidget>
 
 class QLabel;
@@ -93,6 +94,7 @@ private:
     void insertSubProperties(QtProperty *property);
     void forget(QTreeWidgetItem *item);
     void refresh(QtProperty *property);
+    void spanGroups();
     void refreshAll();
     void rebuild(QtProperty *property);
     void dropDestroyed(QtProperty *property);
@@ -107,4 +109,5 @@ private:
     QHash<const QtVariantPropertyManager *, QPointer<QtVariantEditorFactory>> m_factories;
     QHash<QtProperty *, QTreeWidgetItem *> m_items;
     QHash<const QTreeWidgetItem *, QtProperty *> m_properties;
+    QSet<QtProperty *> m_toSpan; ///< may have been deleted since then
 };

@@ -2,6 +2,7 @@
 #include "browserfixture.h"
 
 #include "browser/nodereferences.h"
+#include "model/iedmodel.h"
 
 #include <tavrix/tavrix.h>
 
@@ -28,6 +29,10 @@ private slots:
     void enterGoesOnAndComesRound();
     void shiftEnterGoesBack();
     void referencesAreFoundToo();
+    void dottedReferencesAreFound_data();
+    void dottedReferencesAreFound();
+    void theMatchesAreCounted();
+    void aChangedTreeIsSearchedAnew();
     void missingTextIsSaid();
     void findingSendsNothing();
     void enterInTheTreeDoesNotCloseTheWindow();
@@ -41,6 +46,15 @@ private:
                 return found;
         }
         return nullptr;
+    }
+    /// Whether a label of the window shows a text.
+    bool says(const QString &text) const
+    {
+        for (const QLabel *label : m_view->findChildren<QLabel *>()) {
+            if (label->isVisible() && label->text() == text)
+                return true;
+        }
+        return false;
     }
     QString currentName() const { return tree()->currentIndex().data().toString(); }
 
@@ -160,17 +174,72 @@ void tst_TreeFinder::referencesAreFoundToo()
     QCOMPARE(currentName(), QString("f"));
 }
 
+void tst_TreeFinder::dottedReferencesAreFound_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QStringList>("names");
+    const QString ld = "BAYCTRL";
+    QTest::newRow("attribute") << "XCBR1.Pos.stVal" << QStringList{ld, "XCBR1", "Pos", "stVal"};
+    QTest::newRow("whole") << "BAYCTRL/XCBR1.Pos.stVal" << QStringList{ld, "XCBR1", "Pos", "stVal"};
+    QTest::newRow("structure") << "mmxu1.a.phsa.cval.mag.f"
+                               << QStringList{ld, "MMXU1", "A", "phsA", "cVal", "mag", "f"};
+    QTest::newRow("data object") << "BAYCTRL/XCBR1.Pos" << QStringList{ld, "XCBR1", "Pos"};
+    QTest::newRow("logical node") << "BAYCTRL/MMXU1" << QStringList{ld, "MMXU1"};
+}
+
+void tst_TreeFinder::dottedReferencesAreFound()
+{
+    QFETCH(QString, text);
+    QFETCH(QStringList, names);
+    BrowserFixture::select(*m_view, {});
+    QTest::keySequence(tree(), QKeySequence::Find);
+    line()->setText(text);
+    QTest::keyClick(line(), Qt::Key_Return);
+    const QModelIndex found = BrowserFixture::find(*m_view, names);
+    for (int tries = 0; tree()->currentIndex() != found && tries < 5; ++tries)
+        QTest::keyClick(line(), Qt::Key_Return);
+    QCOMPARE(tree()->currentIndex(), found);
+}
+
+void tst_TreeFinder::theMatchesAreCounted()
+{
+    QTest::keySequence(tree(), QKeySequence::Find);
+    QTest::keyClicks(line(), "XCBR1.Pos.stVal");
+    QVERIFY(says("1 of 1"));
+    QTest::keyClick(line(), Qt::Key_Return);
+    QVERIFY(says("1 of 1"));
+    line()->clear();
+    QTest::keyClicks(line(), "stVal");
+    QVERIFY(says("4 of 4") || says("1 of 4") || says("2 of 4") || says("3 of 4"));
+    BrowserFixture::select(*m_view, {});
+    QTest::keyClick(line(), Qt::Key_Return);
+    for (const char *said : {"1 of 4", "2 of 4", "3 of 4", "4 of 4"}) {
+        QVERIFY2(says(said), said);
+        QTest::keyClick(line(), Qt::Key_Return);
+    }
+    QVERIFY(says("1 of 4"));
+    QTest::keyClick(line(), Qt::Key_Return, Qt::ShiftModifier);
+    QVERIFY(says("4 of 4"));
+}
+
+void tst_TreeFinder::aChangedTreeIsSearchedAnew()
+{
+    QTest::keySequence(tree(), QKeySequence::Find);
+    QTest::keyClicks(line(), "Positions");
+    QVERIFY(says("1 of 1"));
+    auto *model = qobject_cast<IEDModel *>(tree()->model());
+    QVERIFY(model->removeDataSet(IEDModel::nodeAt(
+        BrowserFixture::find(*m_view, {"BAYCTRL", "LLN0", "DataSet", "Positions"}))));
+    QVERIFY(!says("1 of 1"));
+    QTest::keyClick(line(), Qt::Key_Return);
+    QVERIFY(says("Not found"));
+}
+
 void tst_TreeFinder::missingTextIsSaid()
 {
     const QModelIndex before = BrowserFixture::select(*m_view, {"BAYCTRL", "GGIO1"});
     QTest::keySequence(tree(), QKeySequence::Find);
-    const auto isSaid = [this] {
-        for (const QLabel *label : m_view->findChildren<QLabel *>()) {
-            if (label->isVisible() && label->text() == "Not found")
-                return true;
-        }
-        return false;
-    };
+    const auto isSaid = [this] { return says("Not found"); };
     QTest::keyClicks(line(), "zz");
     QVERIFY(isSaid());
     QCOMPARE(tree()->currentIndex(), before);

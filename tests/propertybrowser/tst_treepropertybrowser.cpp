@@ -5,8 +5,10 @@
 #include <propertybrowser/qtvariantpropertymanager.h>
 
 #include <QtGui/QAccessible>
+#include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <QtWidgets/QHeaderView>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QTreeWidget>
 
 #include <memory>
@@ -46,6 +48,9 @@ private slots:
     void subPropertiesAddedAndTakenOutLaterAreFollowed();
     void aDeletedGroupTakesItsRowsAlong();
     void groupsAreMarkedWhenToldSo();
+    void groupsTakeBothColumns();
+    void manyPropertiesAreLaidOutOnce_data();
+    void manyPropertiesAreLaidOutOnce();
     void propertiesAreReadOnlyWithoutAFactory();
     void propertiesAreReadOnlyOnceTheirFactoryIsGone();
     void aDisabledPropertyIsReadOnly();
@@ -294,6 +299,50 @@ void tst_TreePropertyBrowser::groupsAreMarkedWhenToldSo()
 
     browser.setPropertiesWithoutValueMarked(false);
     QVERIFY(!group->font(0).bold());
+}
+
+void tst_TreePropertyBrowser::groupsTakeBothColumns()
+{
+    QtVariantPropertyManager manager;
+    QtTreePropertyBrowser browser;
+    browser.addProperty(manager.addProperty(QMetaType::Int, "plain"));
+    QtProperty *group = manager.addProperty(QtVariantPropertyManager::groupTypeId(), "group");
+    browser.addProperty(group);
+    QtProperty *deleted = manager.addProperty(QtVariantPropertyManager::groupTypeId(), "deleted");
+    browser.addProperty(deleted);
+    delete deleted;
+    QTRY_VERIFY(treeOf(browser)->topLevelItem(1)->isFirstColumnSpanned());
+    QVERIFY(!treeOf(browser)->topLevelItem(0)->isFirstColumnSpanned());
+    browser.removeProperty(group);
+    browser.addProperty(group);
+    QTRY_VERIFY(treeOf(browser)->topLevelItem(1)->isFirstColumnSpanned());
+}
+
+void tst_TreePropertyBrowser::manyPropertiesAreLaidOutOnce_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::newRow("values") << int(QMetaType::Int);
+    QTest::newRow("groups") << QtVariantPropertyManager::groupTypeId();
+}
+
+void tst_TreePropertyBrowser::manyPropertiesAreLaidOutOnce()
+{
+    QFETCH(int, type);
+    QtVariantPropertyManager manager;
+    QtVariantEditorFactory factory;
+    QtTreePropertyBrowser browser;
+    browser.setFactoryForManager(&manager, &factory);
+    browser.resize(300, 200);
+    browser.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&browser));
+
+    // The range of the scroll bar follows each layout.
+    QSignalSpy layouts(treeOf(browser)->verticalScrollBar(), &QScrollBar::rangeChanged);
+    for (int row = 0; row < 200; ++row)
+        browser.addProperty(manager.addProperty(type, QString::number(row)));
+    QTRY_VERIFY(treeOf(browser)->verticalScrollBar()->maximum() > 150);
+    QCoreApplication::processEvents();
+    QVERIFY2(layouts.size() <= 2, qPrintable(QString::number(layouts.size())));
 }
 
 void tst_TreePropertyBrowser::propertiesAreReadOnlyWithoutAFactory()
