@@ -1,10 +1,11 @@
 # SPDX-License-Identifier: Apache-2.0
 # Where `cmake --install` puts things, and the function by which the SDK's folders install theirs.
 #
-# Components: `plugin` is the plug-in with the shared libraries that it and its host need, `sdk` is
-# what a host is built with, `workbench` is the workbench, `tools` are the command-line programs. The
-# plug-in looks for its translations beside the program that loads it and the workbench for the
-# plug-in, hence one folder for the three.
+# Components, each a Debian package: `library` are the shared libraries that the plug-in and its host
+# need, `plugin` is the plug-in, `sdk` is what a host is built with, `workbench` is the workbench,
+# `tools` is the command line and `simulator` the simulated device. The plug-in looks for its
+# translations beside the program that loads it and the workbench for the plug-in, hence one folder
+# for the three.
 
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
@@ -15,9 +16,9 @@ set(IEC61850_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/IEC61850Ext)
 file(RELATIVE_PATH IEC61850_PROGRAM_TO_LIBRARIES
     /prefix/${IEC61850_PROGRAM_DIR} /prefix/${CMAKE_INSTALL_LIBDIR})
 
-# project_install_tool(NAME)
+# project_install_tool(NAME COMPONENT)
 # A command-line program and its manual page, which it prints itself when run with --manual-page.
-function(project_install_tool name)
+function(project_install_tool name component)
     add_custom_command(OUTPUT ${name}.1
         COMMAND ${name} --manual-page > ${name}.1
         DEPENDS ${name} VERBATIM)
@@ -25,9 +26,9 @@ function(project_install_tool name)
     file(RELATIVE_PATH toLibraries
         /prefix/${CMAKE_INSTALL_BINDIR} /prefix/${CMAKE_INSTALL_LIBDIR})
     set_target_properties(${name} PROPERTIES INSTALL_RPATH $ORIGIN/${toLibraries})
-    install(TARGETS ${name} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
+    install(TARGETS ${name} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT ${component})
     install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.1
-        DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
+        DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT ${component})
 endfunction()
 
 # project_install_sdk_library(NAME FILENAME HEADERS file...)
@@ -43,8 +44,8 @@ function(project_install_sdk_library name filename)
     target_compile_features(${name} INTERFACE cxx_std_17)
     install(TARGETS ${name} EXPORT IEC61850ExtTargets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-            COMPONENT plugin NAMELINK_COMPONENT sdk
-        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT plugin
+            COMPONENT library NAMELINK_COMPONENT sdk
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT library
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT sdk
         INCLUDES DESTINATION ${IEC61850_HEADER_DIR})
     install(FILES ${arg_HEADERS} DESTINATION ${IEC61850_HEADER_DIR}/${name} COMPONENT sdk)

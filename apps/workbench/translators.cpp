@@ -3,18 +3,25 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
+#include <QtCore/QLibraryInfo>
 #include <QtCore/QLocale>
 #include <QtCore/QTranslator>
 
 void installTranslators(const QString &folder)
 {
-    for (const QString &catalogue : {QStringLiteral("workbench"), QStringLiteral("qtbase")}) {
+    const auto install = [](const QString &catalogue, const QStringList &folders) {
         auto *translator = new QTranslator(qApp);
-        if (translator->load(QLocale(), catalogue, QStringLiteral("_"), folder))
-            QCoreApplication::installTranslator(translator);
-        else
-            delete translator;
-    }
+        for (const QString &each : folders) {
+            if (translator->load(QLocale(), catalogue, QStringLiteral("_"), each)) {
+                QCoreApplication::installTranslator(translator);
+                return;
+            }
+        }
+        delete translator;
+    };
+    install(QStringLiteral("workbench"), {folder});
+    install(QStringLiteral("qtbase"),
+            {folder, QLibraryInfo::location(QLibraryInfo::TranslationsPath)});
 }
 
 QString translationFolder()
