@@ -2,6 +2,7 @@
 #include "associationlife.h"
 
 #include <algorithm>
+#include <utility>
 
 using std::chrono::milliseconds;
 
@@ -33,6 +34,7 @@ void AssociationLife::want(Time now)
         m_hasAttempted = false;
         m_failures = 0;
         m_awaySince = now;
+        m_isOutlived = m_phase != Phase::Left && m_phase != Phase::Waiting;
     }
     m_isWanted = true;
     // Who asks for it does not want to wait.
@@ -58,6 +60,7 @@ void AssociationLife::connecting()
 {
     m_phase = Phase::Connecting;
     m_isInConflict = false;
+    m_isOutlived = false;
 }
 
 void AssociationLife::associated()
@@ -74,6 +77,12 @@ void AssociationLife::online(Time now)
 
 void AssociationLife::ended(Time now, Ending how)
 {
+    if (std::exchange(m_isOutlived, false)) {
+        m_phase = Phase::Waiting;
+        m_isInConflict = false;
+        m_next = now;
+        return;
+    }
     const bool wasOnline = m_phase == Phase::Online;
     m_hasAttempted = true;
     if (wasOnline && now - m_onlineSince >= settledAfter)

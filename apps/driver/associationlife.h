@@ -83,6 +83,9 @@ private:
     bool m_isDormant = false;
     bool m_hasAttempted = false;
     bool m_isInConflict = false;
+    /// What runs or stands was given up, and an association is wanted again: its end says nothing
+    /// of the new wish.
+    bool m_isOutlived = false;
     int m_failures = 0;
     Time m_next;
     Time m_onlineSince;

@@ -61,6 +61,7 @@ private slots:
     void devicesThatAreLostTogetherComeBackApart();
     void aConflictIsWaitedForLongUnlessNamesAreReleased();
     void wantingAgainEndsAPause();
+    void whatWasGivenUpIsNoAttemptOfANewWish();
     void anOutageBeginsOnceHoweverManyAttemptsThereAre();
     void theFirstAttemptIsWaitedFor();
     void anAbortedDeviceIsDormant();
@@ -148,6 +149,21 @@ void tst_AssociationLife::wantingAgainEndsAPause()
     pauseAfterFailure(life, start, Life::Ending::Conflict);
     life.want(start + 1s);
     QVERIFY(life.next(start + 1s).what == What::Connect);
+}
+
+void tst_AssociationLife::whatWasGivenUpIsNoAttemptOfANewWish()
+{
+    Life life = plainLife();
+    life.want(start);
+    life.connecting();
+    life.leave();
+    life.want(start + 1s);
+    life.ended(start + 2s, Life::Ending::Failed);
+    QVERIFY(life.isFirstAttempt());
+    QVERIFY(life.next(start + 2s).what == What::Connect);
+    // The next one counts, as the first.
+    QCOMPARE(pauseAfterFailure(life, start + 3s), Life::firstPause);
+    QVERIFY(!life.isFirstAttempt());
 }
 
 void tst_AssociationLife::anOutageBeginsOnceHoweverManyAttemptsThereAre()
