@@ -158,8 +158,9 @@ private:
             m_size += block->data.size();
             if (m_size > m_service->m_options.maxFileSize) {
                 closeAndEnd(fileError(mms::serviceerrors::fileInsufficientSpace));
-            } else if (std::fwrite(block->data.data(), 1, block->data.size(), m_file.get()) !=
-                       block->data.size()) {
+            } else if (!block->data.empty() &&
+                       std::fwrite(block->data.data(), 1, block->data.size(), m_file.get()) !=
+                           block->data.size()) {
                 closeAndEnd(fileError(lastError()));
             } else if (block->moreFollows && block->data.empty()) {
                 closeAndEnd(fileError(0, "the file never ends"));
