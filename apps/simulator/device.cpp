@@ -25,8 +25,8 @@ constexpr mms::Service servedAlways[] = {
 };
 
 constexpr mms::Service servedWithFiles[] = {
-    mms::Service::ObtainFile, mms::Service::FileOpen,   mms::Service::FileRead,
-    mms::Service::FileClose,  mms::Service::FileRename, mms::Service::FileDelete,
+    mms::Service::ObtainFile,    mms::Service::FileOpen,   mms::Service::FileRead,
+    mms::Service::FileClose,     mms::Service::FileRename, mms::Service::FileDelete,
     mms::Service::FileDirectory,
 };
 
@@ -47,8 +47,14 @@ public:
     {
     }
 
-    bool operator()(const mms::FileOpenRequest &request) { return call(&FileService::open, request); }
-    bool operator()(const mms::FileReadRequest &request) { return call(&FileService::read, request); }
+    bool operator()(const mms::FileOpenRequest &request)
+    {
+        return call(&FileService::open, request);
+    }
+    bool operator()(const mms::FileReadRequest &request)
+    {
+        return call(&FileService::read, request);
+    }
     bool operator()(const mms::FileCloseRequest &request)
     {
         return call(&FileService::close, request);
@@ -100,7 +106,10 @@ public:
     {
     }
 
-    void report(mms::InformationReport report) override { m_association->report(std::move(report)); }
+    void report(mms::InformationReport report) override
+    {
+        m_association->report(std::move(report));
+    }
     // Associations run inside the device's strand.
     std::size_t queued() const override { return m_association->queued(); }
     void whenQueued(std::size_t octets, std::function<void()> handler) override
@@ -172,7 +181,7 @@ mms::Result<std::uint16_t> Device::start()
     return port;
 }
 
-void Device::stop()
+void Device::stop(std::function<void()> released)
 {
     std::shared_ptr<mms::Server> server;
     {
@@ -180,7 +189,9 @@ void Device::stop()
         server = std::move(m_server);
     }
     if (server)
-        server->stop();
+        server->stop(std::move(released));
+    else if (released)
+        released();
 }
 
 void Device::addEngine(std::unique_ptr<Engine> engine)
@@ -231,15 +242,14 @@ void Device::request(const std::shared_ptr<mms::Association> &association, std::
     if (!client)
         return;
     if (m_options.files) {
-        FileCall files(*m_options.files, *client,
-                       [association, invokeId](
-                           std::variant<mms::ResponseService, mms::ServiceError> answer) {
-                           if (auto *response = std::get_if<mms::ResponseService>(&answer))
-                               association->respond(invokeId, std::move(*response));
-                           else
-                               association->fail(invokeId,
-                                                 std::get<mms::ServiceError>(std::move(answer)));
-                       });
+        FileCall files(
+            *m_options.files, *client,
+            [association, invokeId](std::variant<mms::ResponseService, mms::ServiceError> answer) {
+                if (auto *response = std::get_if<mms::ResponseService>(&answer))
+                    association->respond(invokeId, std::move(*response));
+                else
+                    association->fail(invokeId, std::get<mms::ServiceError>(std::move(answer)));
+            });
         if (std::visit(files, request))
             return;
     }

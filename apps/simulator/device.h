@@ -60,8 +60,9 @@ public:
 
     /// Listen; the port that is used.
     mms::Result<std::uint16_t> start();
-    /// Listen no more and abort all associations.
-    void stop();
+    /// Listen no more and abort all associations. @p released is called, in a strand of the
+    /// server, as soon as the port is free again; at once when it has not listened.
+    void stop(std::function<void()> released = {});
 
     const Strand &strand() const { return m_strand; }
     Model &model() { return m_model; }

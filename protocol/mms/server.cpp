@@ -67,8 +67,8 @@ Result<std::uint16_t> Server::start()
     if (error) {
         asio::error_code ignored;
         m_acceptor.close(ignored);
-        return Error{"Cannot listen on " + m_options.address + " port "
-                         + std::to_string(m_options.port) + ": " + error.message() + ".",
+        return Error{"Cannot listen on " + m_options.address + " port " +
+                         std::to_string(m_options.port) + ": " + error.message() + ".",
                      0};
     }
     asio::co_spawn(
@@ -89,14 +89,16 @@ Result<void> Server::reloadTls()
     return {};
 }
 
-void Server::stop()
+void Server::stop(std::function<void()> released)
 {
-    asio::dispatch(m_strand, [self = shared_from_this()] {
+    asio::dispatch(m_strand, [self = shared_from_this(), released = std::move(released)] {
         self->m_stopped = true;
         asio::error_code ignored;
         self->m_acceptor.close(ignored);
         for (const auto &association : self->m_associations)
             association->abort("The server was stopped.");
+        if (released)
+            released();
     });
 }
 
@@ -120,11 +122,11 @@ asio::awaitable<void> Server::acceptLoop()
         const asio::ip::address peer = socket.remote_endpoint(ignored).address();
         const std::size_t mostHalfOpen = m_options.maxHalfOpenOfPeer;
         if (m_associations.size() >= m_options.maxAssociations) {
-            turnAway("There are " + std::to_string(m_options.maxAssociations)
-                     + " associations already, which is the limit.");
+            turnAway("There are " + std::to_string(m_options.maxAssociations) +
+                     " associations already, which is the limit.");
         } else if (mostHalfOpen > 0 && m_halfOpen[peer] >= mostHalfOpen) {
-            turnAway("The peer " + peer.to_string() + " has " + std::to_string(mostHalfOpen)
-                     + " connections that are no associations yet, which is the limit.");
+            turnAway("The peer " + peer.to_string() + " has " + std::to_string(mostHalfOpen) +
+                     " connections that are no associations yet, which is the limit.");
         } else {
             take(std::move(strand), std::move(socket), peer);
         }
@@ -137,8 +139,7 @@ void Server::turnAway(const std::string &reason)
     m_handler->refused(reason);
 }
 
-void Server::take(Link::Strand strand, asio::ip::tcp::socket socket,
-                  const asio::ip::address &peer)
+void Server::take(Link::Strand strand, asio::ip::tcp::socket socket, const asio::ip::address &peer)
 {
     ++m_halfOpen[peer];
     const auto complete = [self = shared_from_this(), peer] {

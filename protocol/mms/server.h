@@ -6,6 +6,7 @@
 #include <asio/any_io_executor.hpp>
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <set>
@@ -70,8 +71,9 @@ public:
     /// Read the files of TLS again, such as new revocation lists; connections from now on use them.
     /// After an error the old ones stay in use.
     Result<void> reloadTls();
-    /// Listen no more and abort all associations.
-    void stop();
+    /// Listen no more and abort all associations. @p released is called, in a strand of the
+    /// server, as soon as the port is free again.
+    void stop(std::function<void()> released = {});
     /// Connections, opened or not. In no strand; changes at any time.
     std::size_t associations() const { return m_count; }
     /// Connections closed because there were too many, of all or of one peer.

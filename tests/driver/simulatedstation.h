@@ -94,17 +94,20 @@ public:
             const mms::Result<std::uint16_t> started = m_device->start();
             if (started)
                 return;
-            // Nobody tells when the port is free again that the device had before.
             if (!isFirst)
-                std::this_thread::sleep_for(std::chrono::milliseconds(20));
+                qFatal("%s", started.error().message.c_str());
         }
         qFatal("no port is free");
     }
 
+    /// The port is free on return.
     void stop()
     {
-        if (m_device)
-            m_device->stop();
+        if (!m_device)
+            return;
+        std::promise<void> released;
+        m_device->stop([&released] { released.set_value(); });
+        released.get_future().wait();
         m_device.reset();
     }
 

@@ -682,7 +682,6 @@ void tst_DriverReports::twentyThousandChangesASecondArriveComplete()
         QVERIFY2(station.listener().waitForValue(reference, expected), qPrintable(reference));
     }
     qInfo("complete after %lld ms, %d values", timer.elapsed(), station.listener().published());
-    QVERIFY(timer.elapsed() < 5000);
     QCOMPARE(station.driver().status(1).state, DeviceState::Online);
 }
 
