@@ -8,6 +8,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
+#include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 #include <QtWidgets/QCheckBox>
@@ -20,6 +21,7 @@
 #include <QtWidgets/QTreeWidget>
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -131,12 +133,49 @@ private:
     QJsonArray m_results;
 };
 
-/// Names the row of a test, and leaves it where the server has not what the job needs.
+namespace {
+
+/// Set in the process that tries a job which the server is known not to be able to do.
+constexpr char tryingVariable[] = "INTEROP_TRIES_WHAT_IS_LACKING";
+
+bool isTrying()
+{
+    return qEnvironmentVariableIsSet(tryingVariable);
+}
+
+/// Does the job of the running test in a process of its own, whose failure is none of this one's.
+/// Whether it worked; empty when it did neither work nor fail.
+std::optional<bool> worksNow()
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QLatin1String(tryingVariable), QStringLiteral("1"));
+    process.setProcessEnvironment(environment);
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(QCoreApplication::applicationFilePath(),
+                  {QLatin1String(QTest::currentTestFunction())});
+    if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit) {
+        qWarning("%s", process.readAll().constData());
+        return {};
+    }
+    return process.exitCode() == 0;
+}
+
+} // namespace
+
+/// Names the row of a test. What the server is known to lack is tried apart, so that it is noticed
+/// when it has learnt it.
 #define DO_JOB(name)                                                                               \
-    m_row = QLatin1String(name);                                                                   \
-    m_lack = m_bay->lacks(m_row);                                                                  \
-    if (!m_lack.isEmpty())                                                                         \
-    QSKIP(qPrintable(m_lack))
+    do {                                                                                           \
+        m_row = QLatin1String(name);                                                               \
+        m_lack = isTrying() ? QString() : m_bay->lacks(m_row);                                     \
+        if (!m_lack.isEmpty()) {                                                                   \
+            const std::optional<bool> works = worksNow();                                          \
+            QVERIFY2(works.has_value(), "the trial broke down");                                   \
+            QVERIFY2(!*works, qPrintable("it works, but is said to be lacking: " + m_lack));       \
+            return;                                                                                \
+        }                                                                                          \
+    } while (false)
 
 void tst_Operator::initTestCase()
 {
@@ -175,7 +214,7 @@ void tst_Operator::cleanup()
 
 void tst_Operator::cleanupTestCase()
 {
-    if (!m_bay)
+    if (!m_bay || isTrying())
         return;
     const QString folder = QStringLiteral(RESULTS_FOLDER);
     QVERIFY(QDir().mkpath(folder));
@@ -441,6 +480,11 @@ void tst_Operator::filesAreListedFetchedSentAndDeleted()
     QString uploaded;
     QString deleted;
     const auto work = [&](QWidget *window) {
+        // A device that offers no files is told before the dialog is there.
+        if (!window->findChild<QTreeView *>(QStringLiteral("treeView"))) {
+            window->close();
+            return;
+        }
         QVERIFY(select(window, QStringLiteral("record.txt")));
         QTest::mouseClick(child<QPushButton>(window, "download"), Qt::LeftButton);
         QCOMPARE(contentOf(fetched), QByteArray("a disturbance"));
