@@ -658,12 +658,18 @@ class Client:
         return self.seconds(command, self.timed("readNamedVariableListValues", POINTER,
                                                 (TEXT, TEXT, BOOL), arguments, value_delete))
 
-    def do_timetypes(self, command):
-        """One after the other, of each of "items"."""
-        release = function("MmsVariableSpecification_destroy", None, POINTER)
-        calls = [self.timed("getVariableAccessAttributes", POINTER, (TEXT, TEXT),
-                            (domain.encode(), item.encode()), release)
-                 for domain, item in command["items"]]
+    def do_timediscovery(self, command):
+        """All names of the server and the types of "items", one call after the other."""
+        release_list = function("LinkedList_destroy", None, POINTER_LIST)
+        release_type = function("MmsVariableSpecification_destroy", None, POINTER)
+        calls = [self.timed("getDomainNames", POINTER_LIST, (), (), release_list)]
+        for domain in sorted({domain for domain, _item in command["items"]}):
+            calls += [self.timed(names_of, POINTER_LIST, (TEXT,), (domain.encode(),), release_list)
+                      for names_of in ("getDomainVariableNames", "getDomainVariableListNames",
+                                       "getDomainJournals")]
+        calls += [self.timed("getVariableAccessAttributes", POINTER, (TEXT, TEXT),
+                             (domain.encode(), item.encode()), release_type)
+                  for domain, item in command["items"]]
         return self.seconds(command, lambda: [call() for call in calls])
 
     def do_timegetfile(self, command):
