@@ -16,6 +16,8 @@ const char *const iconNames[] = {"PD",   "LD", "LN",       "CDC", "BR", "RP", "B
                                  "RP-d", "DS", "Data-Set", "cf",  "co", "dc", "ex",
                                  "mx",   "sg", "sp",       "st",  "sv"};
 
+const char *const languages[] = {"de", "es", "fr", "pt_BR", "ru", "zh_CN"};
+
 QString iconPath(const char *name, const char *suffix = "")
 {
     return QStringLiteral(":/850Ext/image/%1%2.png")
@@ -83,6 +85,7 @@ private slots:
     void iconsStandOut_data();
     void iconsStandOut();
     void everyCatalogueIsCompiledInAndBesideTheWorkbench();
+    void everyLanguageExplainsTheStandard();
 };
 
 void tst_Resources::everyIconComesInBothScales()
@@ -142,7 +145,7 @@ void tst_Resources::everyCatalogueIsCompiledInAndBesideTheWorkbench()
 {
     const QDir compiledIn(QStringLiteral(":/850Ext/translation"));
     const QStringList names = compiledIn.entryList();
-    for (const char *language : {"de", "es", "fr", "pt_BR", "ru", "zh_CN"})
+    for (const char *language : languages)
         QVERIFY(names.contains(QStringLiteral("iec61850ext_%1.qm").arg(QLatin1String(language))));
     const QDir folder(QStringLiteral(TRANSLATION_FOLDER));
     for (const QString &name : names) {
@@ -151,6 +154,22 @@ void tst_Resources::everyCatalogueIsCompiledInAndBesideTheWorkbench()
         QVERIFY(inside.open(QIODevice::ReadOnly));
         QVERIFY2(beside.open(QIODevice::ReadOnly), qPrintable(beside.fileName()));
         QCOMPARE(beside.readAll(), inside.readAll());
+    }
+}
+
+void tst_Resources::everyLanguageExplainsTheStandard()
+{
+    const char english[] = "Controls voltage, for example by the excitation of a generator.";
+    QStringList sentences;
+    for (const char *language : languages) {
+        QTranslator catalogue;
+        QVERIFY2(catalogue.load(QStringLiteral("explanations_") + QLatin1String(language),
+                                QStringLiteral(":/850Ext/model")),
+                 language);
+        const QString sentence = catalogue.translate("SclExplanations", english);
+        QVERIFY2(!sentence.isEmpty() && sentence != QLatin1String(english), language);
+        QVERIFY2(!sentences.contains(sentence), language);
+        sentences << sentence;
     }
 }
 
