@@ -57,7 +57,21 @@ TypeDescription nodeType(bool isLarge)
     return TypeDescription::structure(std::move(groupsOfData));
 }
 
-mms::ResponseService answerTo(const mms::RequestService &request, bool isLarge)
+/// Names that look like several steps, or that two have, in the order that leads furthest astray.
+TypeDescription forgedType()
+{
+    const TypeDescription flag = TypeDescription::boolean();
+    const TypeDescription steps = TypeDescription::structure({{"b", flag}, {"c", flag}});
+    return TypeDescription::structure(
+        {{"ST", TypeDescription::structure(
+                    {{"a", TypeDescription::structure({{"b", steps}, {"b", flag}})},
+                     {"har", TypeDescription::array(4, steps)},
+                     {"har(3)", flag},
+                     {"a", flag},
+                     {"a$b", flag}})}});
+}
+
+mms::ResponseService answerTo(const mms::RequestService &request, const TypeDescription &node)
 {
     if (const auto *list = std::get_if<mms::GetNameListRequest>(&request)) {
         mms::GetNameListResponse page;
@@ -74,7 +88,7 @@ mms::ResponseService answerTo(const mms::RequestService &request, bool isLarge)
     }
     if (std::holds_alternative<mms::GetVariableAccessAttributesRequest>(request)) {
         mms::GetVariableAccessAttributesResponse response;
-        response.type = nodeType(isLarge);
+        response.type = node;
         return response;
     }
     if (std::holds_alternative<mms::GetNamedVariableListAttributesRequest>(request)) {
@@ -93,7 +107,7 @@ void append(Octets &input, const Octets &chunk)
 }
 
 /// @param refuseEvery an answer in so many; 0 for none
-Octets discoveryRecording(bool isLarge, std::size_t refuseEvery)
+Octets discoveryRecording(const TypeDescription &node, std::size_t refuseEvery)
 {
     Octets input = {0}; // one call at a time
     acsi::DiscoveryPlan plan(1);
@@ -107,7 +121,7 @@ Octets discoveryRecording(bool isLarge, std::size_t refuseEvery)
                           mms::ServiceError{static_cast<mms::ErrorClass>(resource), 0, {}, {}, {}});
             continue;
         }
-        mms::ResponseService answer = answerTo(request->service, isLarge);
+        mms::ResponseService answer = answerTo(request->service, node);
         input.push_back(0); // an answer in octets
         append(input, mms::encode(mms::ConfirmedResponsePdu{1, answer}));
         plan.answered(request->step, std::move(answer));
@@ -141,9 +155,9 @@ acsi::Report reportOf(std::uint32_t number, bool isLast)
 std::vector<Octets> discoveryRecordings()
 {
     std::vector<Octets> recordings;
-    for (const bool isLarge : {false, true}) {
+    for (const TypeDescription &node : {nodeType(false), nodeType(true), forgedType()}) {
         for (const std::size_t refuseEvery : {0U, 3U, 5U, 6U})
-            recordings.push_back(discoveryRecording(isLarge, refuseEvery));
+            recordings.push_back(discoveryRecording(node, refuseEvery));
     }
     return recordings;
 }

@@ -454,6 +454,8 @@ acsi::ClientOptions DeviceConnection::clientOptions() const
     mms::AssociationOptions &association = options.association;
     association.maxPduSize = m_configuration.maxPduSize;
     association.maxOutstandingCalling = static_cast<std::int16_t>(m_configuration.outstandingCalls);
+    // Whoever waits shorter for answers takes a device sooner for one that never answers.
+    association.grace = 2 * m_configuration.callTimeout;
     association.link.establishTimeout = m_configuration.connectTimeout;
     association.link.lookUp = m_environment.lookUp;
     association.link.trace = [capture = m_capture](mms::Direction direction, mms::Bytes pdu) {

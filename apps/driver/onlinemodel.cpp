@@ -21,19 +21,6 @@ QString text(std::string_view utf8)
     return QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
 }
 
-std::string pathText(const acsi::Reference &reference)
-{
-    std::string result;
-    for (const acsi::PathStep &step : reference.path) {
-        if (!result.empty())
-            result += '$';
-        result += step.name;
-        if (step.element)
-            result += '(' + std::to_string(*step.element) + ')';
-    }
-    return result;
-}
-
 /// Elements of an array that may be asked for one by one.
 constexpr std::uint32_t mostElements = 256;
 
@@ -222,14 +209,33 @@ const mms::TypeDescription *OnlineModel::type(const acsi::Reference &reference) 
     return isWholeKnown(reference) ? describedType(reference) : nullptr;
 }
 
-const mms::TypeDescription *OnlineModel::describedType(const acsi::Reference &reference) const
+/// Step by step and not by the text of the reference: what a device calls its data may look like
+/// several steps.
+OnlineModel::Place OnlineModel::placeOf(const acsi::Reference &reference) const
 {
     const acsi::NodeDescription *node = description(reference);
-    if (!node)
-        return nullptr;
-    if (!reference.constraint)
-        return &node->type;
-    return acsi::typeBelow(node->type, acsi::toText(*reference.constraint), pathText(reference));
+    Place place{node ? &node->type : nullptr};
+    if (!place.type || !reference.constraint)
+        return place;
+    place.type = componentOf(*place.type, acsi::toText(*reference.constraint));
+    for (const acsi::PathStep &step : reference.path) {
+        if (place.type)
+            place.type = componentOf(*place.type, step.name);
+        if (!place.type || !step.element)
+            continue;
+        const TypeDescription &array = *place.type;
+        const bool isThere = array.kind == TypeDescription::Kind::Array &&
+                             !array.components.empty() && *step.element < array.elementCount;
+        place.type = isThere ? &array.components.front().type : nullptr;
+        if (place.type)
+            place.skipped += *step.element * leavesBelow(*place.type);
+    }
+    return place;
+}
+
+const mms::TypeDescription *OnlineModel::describedType(const acsi::Reference &reference) const
+{
+    return placeOf(reference).type;
 }
 
 void OnlineModel::numberLeaves()
@@ -269,26 +275,10 @@ std::uint32_t OnlineModel::firstLeafOf(const TypeDescription *type) const
 
 LeafRange OnlineModel::leafRange(const acsi::Reference &reference) const
 {
-    const acsi::NodeDescription *node = description(reference);
-    const TypeDescription *type = node ? &node->type : nullptr;
-    if (type && reference.constraint)
-        type = componentOf(*type, acsi::toText(*reference.constraint));
-    // What comes before the wanted elements in the arrays on the way.
-    std::uint32_t skipped = 0;
-    for (const acsi::PathStep &step : reference.path) {
-        if (type)
-            type = componentOf(*type, step.name);
-        if (!type || !step.element)
-            continue;
-        const bool isThere = type->kind == TypeDescription::Kind::Array &&
-                             !type->components.empty() && *step.element < type->elementCount;
-        type = isThere ? &type->components.front().type : nullptr;
-        if (type)
-            skipped += *step.element * leavesBelow(*type);
-    }
-    if (!type)
+    const Place place = placeOf(reference);
+    if (!place.type)
         return {};
-    return {firstLeafOf(type) + skipped, leavesBelow(*type)};
+    return {firstLeafOf(place.type) + place.skipped, leavesBelow(*place.type)};
 }
 
 std::vector<acsi::Reference> OnlineModel::partsOf(const acsi::Reference &reference) const

@@ -86,6 +86,13 @@ private:
     struct Walk;
 
     const acsi::NodeDescription *description(const acsi::Reference &reference) const;
+    /// Where a type stands among the others.
+    struct Place
+    {
+        const mms::TypeDescription *type = nullptr; ///< null for what was not described
+        std::uint32_t skipped = 0; ///< leaves before the wanted elements in the arrays on the way
+    };
+    Place placeOf(const acsi::Reference &reference) const;
     const mms::TypeDescription *describedType(const acsi::Reference &reference) const;
     void numberLeaves();
     std::uint32_t firstLeafOf(const mms::TypeDescription *type) const;

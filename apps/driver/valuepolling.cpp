@@ -106,6 +106,7 @@ void DeviceConnection::makeCurrency(const ClientPointer &client)
     const std::size_t limit = client->association().pduSize();
     options.room = limit - std::min(limit, acsi::readFrameSize());
     options.places = client->outstanding();
+    options.grace = client->options().association.grace;
     const auto divide = [this](const ValueCurrency::Part &whole) { return partsOf(whole); };
     m_currency = std::make_shared<ValueCurrency>(m_model->leafCount(), divide, options);
     m_reportedChanged = true;

@@ -23,6 +23,8 @@ constexpr std::size_t tolerableSilences = 2;
 /// Counts of values end here; the product of two of them fits 64 bits.
 constexpr std::uint64_t most = 0xFFFFFFFF;
 constexpr const char *excessive = " is larger, or nested deeper, than what is taken; it is left out.";
+constexpr const char *unnameable =
+    " has a name that is none, or that something else has; it is left out.";
 
 /// What the type of a variable holds when all elements of arrays are counted.
 std::uint64_t valuesIn(const mms::TypeDescription &type)
@@ -45,6 +47,39 @@ std::size_t levelsOf(const mms::TypeDescription &type)
     for (const mms::TypeDescription::Component &component : type.components)
         below = std::max(below, levelsOf(component.type));
     return below + (type.components.empty() ? 0 : 1);
+}
+
+/// Whether a reference can name it: nobody could tell such a name from several steps, or an element.
+bool isName(std::string_view name)
+{
+    return !name.empty() && name.find_first_of("$/()") == name.npos;
+}
+
+/// Names that several components of the structure have, sorted.
+std::vector<std::string> repeatedNames(const mms::TypeDescription &type)
+{
+    std::vector<std::string_view> names;
+    names.reserve(type.components.size());
+    for (const mms::TypeDescription::Component &component : type.components)
+        names.push_back(component.name);
+    std::ranges::sort(names);
+    std::vector<std::string> repeated;
+    for (std::size_t i = 1; i < names.size(); ++i) {
+        if (names[i] == names[i - 1] && (repeated.empty() || repeated.back() != names[i]))
+            repeated.emplace_back(names[i]);
+    }
+    return repeated;
+}
+
+/// Whether references can name everything in it.
+bool isNameable(const mms::TypeDescription &type)
+{
+    const bool isStructure = type.kind == mms::TypeDescription::Kind::Structure;
+    if (isStructure && !repeatedNames(type).empty())
+        return false;
+    return std::ranges::all_of(type.components, [isStructure](const auto &component) {
+        return (!isStructure || isName(component.name)) && isNameable(component.type);
+    });
 }
 
 std::size_t octetsOf(const mms::TypeDescription &type)
@@ -448,13 +483,15 @@ void DiscoveryPlan::takeType(const Step &step, mms::TypeDescription type)
     }
     const auto above = std::ranges::count(step.object.item, separator);
     const auto depth = static_cast<std::size_t>(above);
-    const bool isExcessive = type.kind == mms::TypeDescription::Kind::Array
+    const bool isArray = type.kind == mms::TypeDescription::Kind::Array;
+    const bool isExcessive = isArray
         && (valuesIn(type) > m_limits.elements || depth + levelsOf(type) > m_limits.depth);
+    const bool isOdd = isArray && !isNameable(type);
     mms::TypeDescription *const place = typeOf(step);
-    if (isExcessive || !place) {
+    if (isExcessive || isOdd || !place) {
         m_devices[step.device].refusedParts.push_back(step);
-        if (isExcessive)
-            leaveOut(mms::toText(step.object) + excessive);
+        if (isExcessive || isOdd)
+            leaveOut(mms::toText(step.object) + (isExcessive ? excessive : unnameable));
         return;
     }
     withoutExcess(type, step, step.object.item);
@@ -469,8 +506,8 @@ void DiscoveryPlan::takeType(const Step &step, mms::TypeDescription type)
     *place = std::move(type);
 }
 
-/// Takes arrays that are too large, and what is nested too deeply, out of a structure. What is left
-/// of that is read part by part, since the device goes on sending the whole.
+/// Takes arrays that are too large, what is nested too deeply, and what no reference can name out of a
+/// structure. What is left of that is read part by part, since the device goes on sending the whole.
 void DiscoveryPlan::withoutExcess(mms::TypeDescription &type, const Step &step,
                                   const std::string &item)
 {
@@ -480,6 +517,7 @@ void DiscoveryPlan::withoutExcess(mms::TypeDescription &type, const Step &step,
     const auto depth = static_cast<std::size_t>(std::ranges::count(item, separator));
     const std::size_t before = type.components.size();
     const std::size_t marks = inParts.size();
+    const std::vector<std::string> repeated = repeatedNames(type);
     std::erase_if(type.components, [&](mms::TypeDescription::Component &component) {
         const std::string name = item + separator + component.name;
         const bool isArray = component.type.kind == mms::TypeDescription::Kind::Array;
@@ -487,8 +525,11 @@ void DiscoveryPlan::withoutExcess(mms::TypeDescription &type, const Step &step,
         const bool isExcessive = isArray
             ? valuesIn(component.type) > m_limits.elements || levels > m_limits.depth
             : depth + 1 >= m_limits.depth && !component.type.components.empty();
-        if (isExcessive) {
-            leaveOut(step.object.domain + '/' + name + excessive);
+        const bool isOdd = !isName(component.name)
+            || std::ranges::binary_search(repeated, component.name)
+            || (isArray && !isNameable(component.type));
+        if (isExcessive || isOdd) {
+            leaveOut(step.object.domain + '/' + name + (isExcessive ? excessive : unnameable));
             return true;
         }
         withoutExcess(component.type, step, name);
@@ -652,8 +693,8 @@ mms::Result<ServerDescription> DiscoveryPlan::take()
         sort(device.dataSets);
         for (NodeDescription &node : device.nodes) {
             std::ranges::sort(node.inParts);
-            const auto repeated = std::ranges::unique(node.inParts);
-            node.inParts.erase(repeated.begin(), repeated.end());
+            node.inParts.erase(std::unique(node.inParts.begin(), node.inParts.end()),
+                               node.inParts.end());
         }
     }
     return std::move(m_server);

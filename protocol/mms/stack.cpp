@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mms/stack.h"
 
+#include <type_traits>
 #include <utility>
 
 namespace mms {
@@ -16,6 +17,14 @@ struct Overloaded : Handlers...
 };
 template <typename... Handlers>
 Overloaded(Handlers...) -> Overloaded<Handlers...>;
+
+/// What a decoder complains about becomes a sentence; other reasons are sentences already.
+std::string sentence(std::string reason)
+{
+    return reason.empty() || reason.ends_with('.')
+        ? reason
+        : "What the peer sent cannot be read: " + reason + '.';
+}
 
 Octets copyOf(Bytes bytes)
 {
@@ -49,6 +58,8 @@ void Stack::end(Event event, StackOutput &output)
     if (m_closed)
         return;
     m_closed = output.closeNetwork = true;
+    if constexpr (!std::is_same_v<Event, ReleaseConfirm>)
+        event.reason = sentence(std::move(event.reason));
     tell(std::move(event), output);
 }
 

@@ -303,8 +303,8 @@ TEST(DiscoveryPlan, OrderOfPartsIsThatOfTheNamesAndConstraintsHaveTheirOwn)
 /// Types other than those of the table, by item.
 auto typesOf(std::map<std::string, TypeDescription> types)
 {
-    return [types = std::move(types)](const mms::RequestService &request)
-               -> std::optional<CallOutcome> {
+    return [types = std::move(types)](
+               const mms::RequestService &request) -> std::optional<CallOutcome> {
         const auto found = types.find(typeItem(request));
         if (found == types.end())
             return std::nullopt;
@@ -316,7 +316,8 @@ auto typesOf(std::map<std::string, TypeDescription> types)
 
 TEST(DiscoveryPlan, ArraysOfEnormousCountsAreLeftOutAndTheRestIsReadInParts)
 {
-    const TypeDescription plain = TypeDescription::structure({{"stVal", TypeDescription::boolean()}});
+    const TypeDescription plain =
+        TypeDescription::structure({{"stVal", TypeDescription::boolean()}});
     const auto withArray = [&plain](const TypeDescription &array) {
         return TypeDescription::structure(
             {{"ST", TypeDescription::structure(
@@ -331,34 +332,34 @@ TEST(DiscoveryPlan, ArraysOfEnormousCountsAreLeftOutAndTheRestIsReadInParts)
     const TypeDescription usual = TypeDescription::array(16, plain);
     PlanDriver driver(5);
     driver.devices = {"LD0"};
-    driver.instead = typesOf({{"LLN0", withArray(huge)},
-                              {"XCBR1", withArray(inside)},
-                              {"XCBR10", withArray(usual)}});
+    driver.instead = typesOf(
+        {{"LLN0", withArray(huge)}, {"XCBR1", withArray(inside)}, {"XCBR10", withArray(usual)}});
     const auto server = driver.run();
     ASSERT_TRUE(server.ok());
     const TypeDescription left = TypeDescription::structure(
-        {{"ST", TypeDescription::structure(
-                    {{"Pos", plain},
-                     {"Har", TypeDescription::structure({{"before", TypeDescription::boolean()}})}})},
+        {{"ST",
+          TypeDescription::structure(
+              {{"Pos", plain},
+               {"Har", TypeDescription::structure({{"before", TypeDescription::boolean()}})}})},
          {"CF", plain}});
     for (const std::size_t i : {0U, 1U}) {
         const NodeDescription &node = server->devices[0].nodes[i];
         EXPECT_EQ(node.type, left) << mms::toText(node.type);
-        EXPECT_EQ(node.inParts, (std::vector<std::string>{node.name, node.name + "$ST",
-                                                          node.name + "$ST$Har"}));
+        EXPECT_EQ(node.inParts,
+                  (std::vector<std::string>{node.name, node.name + "$ST", node.name + "$ST$Har"}));
         EXPECT_EQ(partsToldWhole(node, node.name + "$ST"),
-                  (std::vector<std::string>{node.name + "$ST$Pos",
-                                            node.name + "$ST$Har$before"}));
+                  (std::vector<std::string>{node.name + "$ST$Pos", node.name + "$ST$Har$before"}));
     }
     EXPECT_EQ(server->devices[0].nodes[2].type, withArray(usual));
     EXPECT_TRUE(server->devices[0].nodes[2].inParts.empty());
     auto leftOut = server->leftOut;
     std::ranges::sort(leftOut);
-    EXPECT_EQ(leftOut, (std::vector<std::string>{
-                           "LD0/LLN0$ST$Har$har is larger, or nested deeper, than what is taken; it "
-                           "is left out.",
-                           "LD0/XCBR1$ST$Har$har is larger, or nested deeper, than what is taken; it "
-                           "is left out."}));
+    EXPECT_EQ(leftOut,
+              (std::vector<std::string>{
+                  "LD0/LLN0$ST$Har$har is larger, or nested deeper, than what is taken; it "
+                  "is left out.",
+                  "LD0/XCBR1$ST$Har$har is larger, or nested deeper, than what is taken; it "
+                  "is left out."}));
 }
 
 TEST(DiscoveryPlan, WhatIsNestedTooDeeplyIsLeftOut)
@@ -404,14 +405,15 @@ TEST(DiscoveryPlan, LimitsEndTheReadingWithASentence)
                   "The device has more than 4 logical nodes; the others are left out."});
     limits = {};
     limits.names = 1000;
-    EXPECT_EQ(leftOut(limits,
-                      [](PlanDriver &driver) {
-                          driver.nodes.clear();
-                          for (int i = 0; i < 1000; ++i)
-                              driver.nodes.push_back("GGIO" + std::to_string(i));
-                      }),
-              std::vector<std::string>{"The device has more names than the 1,000 names and "
-                                       "268,435,456 octets that are taken; the others are left out."});
+    EXPECT_EQ(
+        leftOut(limits,
+                [](PlanDriver &driver) {
+                    driver.nodes.clear();
+                    for (int i = 0; i < 1000; ++i)
+                        driver.nodes.push_back("GGIO" + std::to_string(i));
+                }),
+        std::vector<std::string>{"The device has more names than the 1,000 names and "
+                                 "268,435,456 octets that are taken; the others are left out."});
     limits = {};
     limits.values = 7;
     EXPECT_EQ(leftOut(limits, [](PlanDriver &) {}),
@@ -475,6 +477,45 @@ TEST(DiscoveryPlan, RefusedObjectsAreNamedAndLeftOut)
                                                  "LD1/LLN0$a: Access to the object is denied.",
                                                  "LD1/XCBR10$ST: Access to the object is denied.",
                                                  "LD1/XCBR1: Access to the object is denied."}));
+}
+
+TEST(DiscoveryPlan, NamesThatNoReferenceCanHaveAreLeftOutAndTheRestIsReadInParts)
+{
+    PlanDriver driver(5);
+    driver.devices = {"LD0"};
+    driver.nodes = {"LLN0"};
+    driver.instead = [](const auto &request) -> std::optional<CallOutcome> {
+        if (typeItem(request) != "LLN0")
+            return std::nullopt;
+        const TypeDescription flag = TypeDescription::boolean();
+        const TypeDescription odd = TypeDescription::structure({{"x", flag}, {"x", flag}});
+        mms::GetVariableAccessAttributesResponse response;
+        response.type = TypeDescription::structure(
+            {{"ST", TypeDescription::structure(
+                        {{"Pos$stVal", flag},
+                         {"Pos", TypeDescription::structure({{"stVal", flag}, {"", flag}})},
+                         {"Beh", flag},
+                         {"har(3)", flag},
+                         {"Beh", flag},
+                         {"Arr", TypeDescription::array(2, odd)},
+                         {"Ind", flag}})}});
+        return ResponseService(std::move(response));
+    };
+    const auto server = driver.run();
+    ASSERT_TRUE(server.ok());
+    const NodeDescription &node = server->devices.at(0).nodes.at(0);
+    EXPECT_EQ(node.type, TypeDescription::structure(
+                             {{"ST", TypeDescription::structure(
+                                         {{"Pos", TypeDescription::structure(
+                                                      {{"stVal", TypeDescription::boolean()}})},
+                                          {"Ind", TypeDescription::boolean()}})}}));
+    EXPECT_EQ(node.inParts, (std::vector<std::string>{"LLN0", "LLN0$ST", "LLN0$ST$Pos"}));
+    EXPECT_EQ(server->leftOut.size(), 5U); // the same sentence is said once
+    for (const std::string &sentence : server->leftOut) {
+        EXPECT_TRUE(sentence.ends_with(
+            " has a name that is none, or that something else has; it is left out."))
+            << sentence;
+    }
 }
 
 TEST(DiscoveryPlan, RefusedNamesOfOneDeviceDoNotSpoilTheOthers)

@@ -246,7 +246,8 @@ void tst_OddAssociations::aQuestionWithoutAPlaceIsNoSilence()
     IedDriver driver(listener.options());
     DeviceConfiguration configuration = configurationFor(ied);
     configuration.pollInterval = 0ms;
-    configuration.callTimeout = 500ms;
+    // The place is kept longer than a silent device is left alone.
+    configuration.callTimeout = 2s;
     configuration.outstandingCalls = 1;
     driver.setDevice(configuration);
     driver.connectDevice(1);
