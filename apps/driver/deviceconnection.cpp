@@ -4,6 +4,7 @@
 #include "connectiontext.h"
 #include "discoveredmodel.h"
 #include "settinggroups.h"
+#include "valuewords.h"
 
 #include <asio/bind_cancellation_slot.hpp>
 #include <asio/cancellation_signal.hpp>
@@ -715,6 +716,8 @@ void DeviceConnection::journal(DeviceChange change)
     change.time = QDateTime::currentDateTime();
     change.number = m_configuration.number;
     change.device = m_configuration.name;
+    if (const OnlineModel *known = model())
+        ValueWords::describe(change, known->device());
     if (m_environment.changed)
         m_environment.changed(change);
 }

@@ -230,6 +230,8 @@ public:
     QByteArray modelBytes();
     /// Asks which data sets there are now. Keeps what is known where the device does not tell soon.
     asio::awaitable<void> refreshDataSets();
+    /// Asks which report control blocks are enabled now, by whomever.
+    asio::awaitable<void> refreshReportBlocks();
 
     QString notConnectedSentence() const;
 

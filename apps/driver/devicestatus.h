@@ -70,6 +70,9 @@ struct DeviceChange
     QString reference; ///< logical device "/" ...
     QString oldValue;  ///< empty where it is not known
     QString newValue;
+    /// The same in words with the raw value behind them, "on (2)"; empty where that says no more.
+    QString oldWords;
+    QString newWords;
     QString error;           ///< empty when it was done
     QString additionalCause; ///< of a refused control
 };

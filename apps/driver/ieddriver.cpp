@@ -9,6 +9,8 @@
 #include <QtCore/QIODevice>
 #include <QtCore/QTextStream>
 
+#include <algorithm>
+
 namespace {
 
 struct Texts
@@ -155,6 +157,31 @@ QString IedDriver::exportValues(long deviceNo, QIODevice &out)
     return {};
 }
 
+namespace {
+
+/// What all names begin with; nothing when one of them ends with it.
+QString commonName(const std::vector<std::string> &names)
+{
+    if (names.size() < 2)
+        return {};
+    std::string common = names.front();
+    for (const std::string &name : names) {
+        const auto end = std::mismatch(common.begin(), common.end(), name.begin(), name.end());
+        common.erase(end.first, common.end());
+    }
+    const bool isWhole = std::ranges::any_of(
+        names, [&common](const std::string &name) { return name.size() == common.size(); });
+    QString result = isWhole ? QString() : QString::fromStdString(common);
+    // "Q01LD0" and "Q01LD1" are logical devices of "Q01".
+    if (result.endsWith(QLatin1String("LD")))
+        result.chop(2);
+    while (result.endsWith(QLatin1Char('_')))
+        result.chop(1);
+    return result;
+}
+
+} // namespace
+
 IedDriver::TestResult IedDriver::test(const DeviceConfiguration &configuration)
 {
     TestResult result;
@@ -179,6 +206,7 @@ IedDriver::TestResult IedDriver::test(const DeviceConfiguration &configuration)
             found->roundTrip = std::chrono::duration_cast<std::chrono::microseconds>(
                 std::chrono::steady_clock::now() - before);
             found->logicalDevices = static_cast<int>(devices->size());
+            found->iedName = commonName(*devices);
             // The connection asks who is there by itself.
             co_await self->identified(client);
             const DeviceStatus who = self->status();
@@ -206,6 +234,7 @@ OperationResult IedDriver::getIEDModel(long deviceNo, QByteArray &model, QString
         deviceNo, Runtime::Effect::Reads, error,
         [bytes, identity](std::shared_ptr<DeviceConnection> device) -> asio::awaitable<Outcome> {
             co_await device->refreshDataSets();
+            co_await device->refreshReportBlocks();
             *bytes = device->modelBytes();
             *identity = device->identity();
             co_return Outcome();

@@ -93,6 +93,9 @@ public:
         QString revision;
         std::chrono::microseconds roundTrip{0};
         int logicalDevices = 0;
+        /// What the names of the logical devices begin with, which is the IED's name as a rule;
+        /// empty when there is one only, or when they have nothing in common.
+        QString iedName;
     };
     /// Makes an association apart from the device list, asks who is there, and leaves. Blocks at
     /// most for the time-outs of the configuration.

@@ -214,6 +214,47 @@ asio::awaitable<void> DeviceConnection::refreshDataSets()
         m_model->setDataSets(*read, m_fromFile.get());
 }
 
+asio::awaitable<void> DeviceConnection::refreshReportBlocks()
+{
+    const ClientPointer client = m_client;
+    if (!client || !m_model)
+        co_return;
+    struct Place
+    {
+        QString device;
+        QString reference;
+    };
+    std::vector<Place> places;
+    std::vector<mms::VariableAccess> attributes;
+    for (const LogicalDevice *device : qAsConst(m_model->device().logicalDevices)) {
+        for (const LogicalNode *node : qAsConst(device->logicalNodes)) {
+            for (const ReportControlBlock *block : qAsConst(node->reportControls->blocks)) {
+                if (block->state == 0)
+                    continue;
+                mms::VariableAccess access;
+                access.variable = mms::ObjectName::inDomain(
+                    device->name.toStdString(), block->reference.toStdString() + "$RptEna");
+                attributes.push_back(std::move(access));
+                places.push_back({device->name, block->reference});
+            }
+        }
+    }
+    if (attributes.empty())
+        co_return;
+    const mms::Result<std::vector<mms::AccessResult>> values =
+        co_await client->read(std::move(attributes));
+    if (!values || !m_model || client != m_client)
+        co_return;
+    for (std::size_t i = 0; i < places.size() && i < values->size(); ++i) {
+        const mms::AccessResult &value = (*values)[i];
+        const std::optional<bool> enabled = value.ok() ? value.data().toBoolean() : std::nullopt;
+        ReportControlBlock *const block =
+            m_model->reportBlock(places[i].device, places[i].reference);
+        if (block && enabled)
+            block->enabled = *enabled;
+    }
+}
+
 asio::awaitable<mms::Result<acsi::ServerDescription>>
 DeviceConnection::describe(ClientPointer client)
 {

@@ -3,6 +3,8 @@
 #include "session.h"
 #include "valuetext.h"
 
+#include "driver/valuewords.h"
+
 #include <devicemodel/physicaldevice.h>
 
 namespace {
@@ -114,7 +116,7 @@ ExitStatus readGroup(Session &session, const QString &logicalDevice, bool edited
         rows.append(QJsonObject{
             {QStringLiteral("name"), value.name},
             {QStringLiteral("value"), ValueText::toJson(value.value)},
-            {QStringLiteral("text"), ValueText::shown(*device, attribute, value.value)}});
+            {QStringLiteral("text"), ValueWords::text(*device, attribute, value.value)}});
     }
     session.output().rows({QStringLiteral("name"), QStringLiteral("text")}, rows);
     return ExitStatus::Done;

@@ -6,6 +6,8 @@
 #include "valuelines.h"
 #include "valuetext.h"
 
+#include "driver/valuewords.h"
+
 #include <QtCore/QDataStream>
 
 #include <algorithm>
@@ -44,13 +46,13 @@ QJsonObject valueRow(const PhysicalDevice &device, const MMSValue &value)
     const DataAttribute *attribute = device.findTag(value.reference);
     QJsonObject row{{QStringLiteral("reference"), value.reference},
                     {QStringLiteral("value"), ValueText::toJson(value.value)}};
-    const QString text = ValueText::shown(device, attribute, value.value);
+    const QString text = ValueWords::text(device, attribute, value.value);
     if (attribute && !attribute->basicType.isEmpty())
         row.insert(QStringLiteral("type"), attribute->basicType);
     row.insert(QStringLiteral("text"), text);
     if (!value.quality.isEmpty()) {
         row.insert(QStringLiteral("quality"), value.quality);
-        row.insert(QStringLiteral("qualityText"), ValueText::quality(value.quality));
+        row.insert(QStringLiteral("qualityText"), ValueWords::quality(value.quality));
     }
     if (!value.timeStamp.isEmpty())
         row.insert(QStringLiteral("time"), value.timeStamp);

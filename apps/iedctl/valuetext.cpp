@@ -3,8 +3,8 @@
 
 #include "references.h"
 
-#include "driver/standardtypes.h"
 #include "driver/valueconversion.h"
+#include "driver/valuewords.h"
 
 #include <devicemodel/physicaldevice.h>
 
@@ -46,38 +46,11 @@ bool isCoded(const QString &basicType)
            basicType == QLatin1String("Tcmd") || basicType == QLatin1String("Check");
 }
 
-/// The entries that the standard itself gives a coded type or an enumeration, whose name may be
-/// that of the data.
-EnumType standardEntries(const QString &basicType, const QString &enumTypeId)
-{
-    EnumType entries;
-    if (basicType == QLatin1String("Enum")) {
-        const bool isMode =
-            enumTypeId == QLatin1String("Mod") || enumTypeId == QLatin1String("Beh");
-        entries.values =
-            StandardTypes::enumeration(isMode ? QStringLiteral("BehaviourModeKind") : enumTypeId);
-    } else if (basicType == QLatin1String("Dbpos")) {
-        entries.values = {{0, QStringLiteral("intermediate-state")},
-                          {1, QStringLiteral("off")},
-                          {2, QStringLiteral("on")},
-                          {3, QStringLiteral("bad-state")}};
-    } else if (basicType == QLatin1String("Tcmd")) {
-        entries.values = {{0, QStringLiteral("stop")},
-                          {1, QStringLiteral("lower")},
-                          {2, QStringLiteral("higher")},
-                          {3, QStringLiteral("reserved")}};
-    }
-    return entries;
-}
-
 EnumType entriesOf(const PhysicalDevice &device, const DataAttribute &attribute)
 {
-    if (!attribute.enumTypeId.isEmpty()) {
-        const EnumType entries = device.getEnumType(attribute.enumTypeId);
-        if (!entries.values.isEmpty())
-            return entries;
-    }
-    return standardEntries(attribute.basicType, attribute.enumTypeId);
+    EnumType entries;
+    entries.values = ValueWords::entries(device, attribute);
+    return entries;
 }
 
 std::optional<int> entry(const EnumType &entries, const QString &text)
@@ -289,48 +262,6 @@ double parseControl(const PhysicalDevice &device, const DataObject &object, cons
         return number.toDouble();
     }
     return real(text, QStringLiteral("a control value that is a number"), error).toDouble();
-}
-
-QString shown(const PhysicalDevice &device, const DataAttribute *attribute, const QVariant &value)
-{
-    if (!value.isValid())
-        return {};
-    if (attribute && isCoded(attribute->basicType)) {
-        const QString name = entriesOf(device, *attribute).values.value(value.toInt());
-        if (!name.isEmpty())
-            return QStringLiteral("%1 (%2)").arg(name, value.toString());
-    }
-    if (attribute && attribute->basicType == QLatin1String("Quality"))
-        return QStringLiteral("%1 (%2)").arg(quality(value.toString()), value.toString());
-    return ValueConversion::text(value);
-}
-
-QString quality(const QString &bits)
-{
-    if (bits.isEmpty())
-        return {};
-    const auto isSet = [&bits](int position) {
-        return position < bits.size() && bits.at(position) == QLatin1Char('1');
-    };
-    static const QStringList validities{QStringLiteral("good"), QStringLiteral("invalid"),
-                                        QStringLiteral("reserved"), QStringLiteral("questionable")};
-    // Behind the two bits of the validity, in the order of the bits.
-    static const QStringList names{
-        QStringLiteral("overflow"),        QStringLiteral("out of range"),
-        QStringLiteral("bad reference"),   QStringLiteral("oscillatory"),
-        QStringLiteral("failure"),         QStringLiteral("old data"),
-        QStringLiteral("inconsistent"),    QStringLiteral("inaccurate"),
-        QStringLiteral("substituted"),     QStringLiteral("test"),
-        QStringLiteral("operator blocked")};
-    constexpr int validityBits = 2;
-    QStringList parts{validities.at((isSet(0) ? 2 : 0) + (isSet(1) ? 1 : 0))};
-    for (int i = 0; i < names.size(); ++i) {
-        if (isSet(validityBits + i))
-            parts.append(names.at(i));
-    }
-    if (bits.contains(QLatin1Char('?')))
-        parts.append(QStringLiteral("partly unknown"));
-    return parts.join(QLatin1String(", "));
 }
 
 QJsonValue toJson(const QVariant &value)

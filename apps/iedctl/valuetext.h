@@ -27,11 +27,6 @@ QVariant parseLike(const QVariant &before, const QString &text, QString &error);
 double parseControl(const PhysicalDevice &device, const DataObject &object, const QString &text,
                     QString &error);
 
-/// Entries of an enumeration by name and qualities in words, with what they stand for behind them.
-QString shown(const PhysicalDevice &device, const DataAttribute *attribute, const QVariant &value);
-/// What the 13 characters of a quality say, its validity first; empty for none.
-QString quality(const QString &bits);
-
 /// Numbers and texts as JSON has them; 64-bit integers that JSON numbers cannot hold as text.
 QJsonValue toJson(const QVariant &value);
 

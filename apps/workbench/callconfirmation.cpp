@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "callconfirmation.h"
 
+#include "driver/valueconversion.h"
+
 #include <QtCore/QLocale>
 #include <QtCore/QMetaObject>
 #include <QtCore/QStringList>
@@ -122,7 +124,7 @@ QString valueText(const QVariant &value)
     case QMetaType::Bool:
         return truthText(value.toBool());
     case QMetaType::Float:
-        return QString::number(static_cast<double>(value.toFloat()), 'g', 9);
+        return ValueConversion::text(value);
     case QMetaType::Double:
         return numberText(value.toDouble());
     default:

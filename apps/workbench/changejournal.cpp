@@ -161,9 +161,9 @@ QVariant ChangeJournal::data(const QModelIndex &index, int role) const
     case ReferenceColumn:
         return change.reference;
     case OldValueColumn:
-        return change.oldValue;
+        return change.oldWords.isEmpty() ? change.oldValue : change.oldWords;
     case NewValueColumn:
-        return change.newValue;
+        return change.newWords.isEmpty() ? change.newValue : change.newWords;
     case ResultColumn:
         return change.error.isEmpty() ? tr("OK") : change.error.simplified();
     case CauseColumn:

@@ -9,10 +9,11 @@
 #include <deque>
 #include <mutex>
 
-/// Everything that was changed on devices, or was tried to, as a table, the newest last, and in a
-/// file to which rows are only ever appended: CSV (RFC 4180, UTF-8) with a heading, one row for
-/// each change, written before add() returns. The model belongs to the GUI thread; changes may come
-/// from any thread and appear when the GUI thread next runs its event loop.
+/// Everything that was changed on devices, or was tried to, as a table, the newest last, with
+/// values in words where there are any, the raw ones behind; and with raw values in a file to which
+/// rows are only ever appended: CSV (RFC 4180, UTF-8) with a heading, one row for each change,
+/// written before add() returns. The model belongs to the GUI thread; changes may come from any
+/// thread and appear when the GUI thread next runs its event loop.
 class ChangeJournal : public QAbstractTableModel
 {
     Q_OBJECT

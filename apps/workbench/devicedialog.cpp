@@ -78,7 +78,7 @@ DeviceDialog::DeviceDialog(const DeviceRecord &record, Save save, Test test, Bac
         for (QWidget *fixed :
              {static_cast<QWidget *>(m_ui->host), static_cast<QWidget *>(m_ui->port),
               static_cast<QWidget *>(m_ui->sclFile), static_cast<QWidget *>(m_ui->sclFileBrowse),
-              static_cast<QWidget *>(m_ui->ied)})
+              static_cast<QWidget *>(m_ui->ied), static_cast<QWidget *>(m_ui->accessPoint)})
             fixed->setEnabled(false);
     }
     setUpBrowse(m_ui->sclFile, tr("SCL File"), false);
@@ -87,13 +87,23 @@ DeviceDialog::DeviceDialog(const DeviceRecord &record, Save save, Test test, Bac
     setUpBrowse(m_ui->authorityFiles, tr("Authorities"), true);
     setUpBrowse(m_ui->revocationFiles, tr("Revocation Lists"), true);
     m_ui->ied->setPlaceholderText(tr("the only one"));
-    const auto suggestName = [this] {
-        m_ui->name->setPlaceholderText(m_ui->ied->text().isEmpty() ? m_ui->host->text()
-                                                                   : m_ui->ied->text());
+    m_ui->accessPoint->setPlaceholderText(tr("the one with the device's address"));
+    // What was learnt of the device at one place says nothing of another.
+    const auto place = [this] {
+        m_iedName.clear();
+        suggestName();
     };
-    connect(m_ui->host, &QLineEdit::textChanged, this, suggestName);
-    connect(m_ui->ied, &QLineEdit::textChanged, this, suggestName);
+    connect(m_ui->host, &QLineEdit::textChanged, this, place);
+    connect(m_ui->port, qOverload<int>(&QSpinBox::valueChanged), this, place);
+    connect(m_ui->ied, &QLineEdit::textChanged, this, &DeviceDialog::suggestName);
     suggestName();
+    const auto showWarning = [this](bool accepts) {
+        m_ui->otherNamesWarning->setVisible(accepts);
+        m_ui->peerName->setDisabled(accepts);
+        makeRoom();
+    };
+    connect(m_ui->acceptsOtherNames, &QCheckBox::toggled, this, showWarning);
+    showWarning(m_ui->acceptsOtherNames->isChecked());
 
     const auto follow = [this] {
         if (m_faultsFollow)
@@ -132,6 +142,25 @@ void DeviceDialog::setUpBrowse(QLineEdit *edit, const QString &title, bool sever
     });
 }
 
+void DeviceDialog::suggestName()
+{
+    m_ui->name->setPlaceholderText(!m_ui->ied->text().isEmpty() ? m_ui->ied->text()
+                                   : !m_iedName.isEmpty()       ? m_iedName
+                                                                : placeText());
+}
+
+/// Where the device is, with the port where it is not the usual one.
+QString DeviceDialog::placeText() const
+{
+    const QString host = m_ui->host->text().trimmed();
+    const int port = m_ui->port->value();
+    if (host.isEmpty() || port == DeviceConfiguration().port)
+        return host;
+    return (host.contains(QLatin1Char(':')) ? QStringLiteral("[%1]:%2") : QStringLiteral("%1:%2"))
+        .arg(host)
+        .arg(port);
+}
+
 QLineEdit *DeviceDialog::field(const QString &name) const
 {
     return findChild<QLineEdit *>(name);
@@ -145,6 +174,7 @@ void DeviceDialog::fill()
     m_ui->port->setValue(device.port);
     m_ui->sclFile->setText(QDir::toNativeSeparators(device.sclFile));
     m_ui->ied->setText(device.ied);
+    m_ui->accessPoint->setText(device.accessPoint);
     m_ui->connects->setChecked(m_original.connects);
 
     setTime(m_ui->connectTimeout, device.connectTimeout);
@@ -167,6 +197,7 @@ void DeviceDialog::fill()
     m_ui->revocationFiles->setText(device.tls.revocationFiles.join(separator));
     m_ui->pins->setText(device.tls.pins.join(separator));
     m_ui->peerName->setText(device.tls.peerName);
+    m_ui->acceptsOtherNames->setChecked(device.tls.acceptsOtherNames);
 
     m_ui->originatorCategory->setCurrentIndex(device.originatorCategory);
     m_ui->originatorIdentification->setText(QString::fromUtf8(device.originatorIdentification));
@@ -218,6 +249,7 @@ DeviceRecord DeviceDialog::record(QStringList &faults) const
     device.port = m_ui->port->value();
     device.sclFile = QDir::fromNativeSeparators(m_ui->sclFile->text().trimmed());
     device.ied = m_ui->ied->text().trimmed();
+    device.accessPoint = m_ui->accessPoint->text().trimmed();
     device.name = m_ui->name->text().trimmed();
     if (device.name.isEmpty())
         device.name = m_ui->name->placeholderText().trimmed();
@@ -242,6 +274,7 @@ DeviceRecord DeviceDialog::record(QStringList &faults) const
     device.tls.revocationFiles = listOf(m_ui->revocationFiles->text());
     device.tls.pins = listOf(m_ui->pins->text());
     device.tls.peerName = m_ui->peerName->text().trimmed();
+    device.tls.acceptsOtherNames = m_ui->acceptsOtherNames->isChecked();
 
     device.originatorCategory = m_ui->originatorCategory->currentIndex();
     device.originatorIdentification = m_ui->originatorIdentification->text().toUtf8();
@@ -304,7 +337,7 @@ void DeviceDialog::testConnection()
         return;
     }
     m_ui->test->setEnabled(false);
-    m_ui->testResult->setText(tr("Connecting to %1…").arg(configuration.host));
+    m_ui->testResult->setText(tr("Connecting to %1…").arg(placeText()));
     const auto result = std::make_shared<IedDriver::TestResult>();
     m_jobs.run([result, configuration, test = m_test] { *result = test(configuration); }, this,
                [this, result] { showTestResult(*result); });
@@ -313,6 +346,8 @@ void DeviceDialog::testConnection()
 void DeviceDialog::showTestResult(const IedDriver::TestResult &result)
 {
     m_ui->test->setEnabled(true);
+    m_iedName = result.iedName;
+    suggestName();
     QString text = result.error;
     if (text.isEmpty()) {
         QStringList identity{result.vendor, result.model, result.revision};

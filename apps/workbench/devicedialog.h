@@ -52,6 +52,10 @@ private:
     QStringList currentFaults() const;
     void showFaults(const QStringList &faults);
     void makeRoom();
+    /// What the device is called unless it gets a name: the IED of the file, or what the device
+    /// answered to a test, or where it is.
+    void suggestName();
+    QString placeText() const;
     void testConnection();
     void showTestResult(const IedDriver::TestResult &result);
 
@@ -60,5 +64,6 @@ private:
     const Save m_save;
     const Test m_test;
     BackgroundJobs &m_jobs;
+    QString m_iedName; ///< as the device itself says
     bool m_faultsFollow = false;
 };

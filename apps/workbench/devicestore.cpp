@@ -94,6 +94,12 @@ int DeviceStore::put(DeviceRecord record)
     return record.number();
 }
 
+void DeviceStore::restore(const DeviceRecord &record)
+{
+    m_devices.append(record);
+    put(record);
+}
+
 void DeviceStore::remove(int number)
 {
     const auto last = std::remove_if(m_devices.begin(), m_devices.end(),

@@ -54,6 +54,9 @@ public:
     /// Remember a device as it is now and return its number; a new one, of number 0, gets one.
     int put(DeviceRecord record);
 
+    /// Remember a device again that was forgotten, under its number.
+    void restore(const DeviceRecord &record);
+
     /// Forget a device; nothing happens when there is none of that number.
     void remove(int number);
 

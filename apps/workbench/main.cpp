@@ -15,6 +15,7 @@
 #include <QtCore/QStandardPaths>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTextStream>
+#include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
 
 #include <cstdio>
@@ -104,13 +105,16 @@ int runWindow(const CommandLine &line)
     options.settingsFile = settingsFile;
     options.journalFile =
         folder(QStandardPaths::AppDataLocation).filePath(QStringLiteral("changes.csv"));
-    options.cacheFolder =
-        folder(QStandardPaths::CacheLocation).filePath(QStringLiteral("devices"));
+    options.cacheFolder = folder(QStandardPaths::CacheLocation).filePath(QStringLiteral("devices"));
     options.import = importFromFile;
     Workbench workbench(options);
     MainWindow window(workbench, pluginFolder(line));
     QSettings settings(settingsFile, QSettings::IniFormat);
-    window.restoreGeometry(settings.value(geometryKey).toByteArray());
+    const QRect available = QApplication::primaryScreen()->availableGeometry();
+    const bool isRestored = window.restoreGeometry(settings.value(geometryKey).toByteArray());
+    // A geometry of a larger screen, or of another scale, is none for this one.
+    if (!isRestored || window.width() > available.width() || window.height() > available.height())
+        window.fitInto(available);
     window.restoreState(settings.value(stateKey).toByteArray());
     window.show();
     window.loadExtension();

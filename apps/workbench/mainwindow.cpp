@@ -6,6 +6,7 @@
 #include "guideviewer.h"
 #include "iedchooser.h"
 #include "plaintip.h"
+#include "toolwindows.h"
 #include "tracedialog.h"
 #include "ui_mainwindow.h"
 #include "workbench.h"
@@ -29,6 +30,7 @@
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QProgressBar>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStyledItemDelegate>
 #include <QtWidgets/QToolButton>
@@ -97,11 +99,13 @@ MainWindow::MainWindow(Workbench &workbench, const QString &pluginFolder, QWidge
     , m_workbench(workbench)
     , m_pluginFolder(pluginFolder)
     , m_context(workbench.context())
+    , m_toolWindows(new ToolWindows(this))
     , m_findings(new FindingsModel(this))
     , m_sortedFindings(new QSortFilterProxyModel(this))
 {
     m_ui->setupUi(this);
     m_context.mainWindow = this;
+    m_workbench.waiting().setWindow(this);
     m_ui->extensionPanel->hide();
     m_ui->extensionIcon->setPixmap(style()
                                        ->standardIcon(QStyle::SP_MessageBoxWarning)
@@ -233,6 +237,7 @@ void MainWindow::setUpActions()
     connect(m_ui->actionReload, &QAction::triggered, this,
             [this] { m_workbench.reload(selectedDevice()); });
     connect(m_ui->actionRemove, &QAction::triggered, this, &MainWindow::removeSelected);
+    connect(m_ui->actionUndoRemove, &QAction::triggered, &m_workbench, &Workbench::undoRemove);
     connect(m_ui->actionAdd, &QAction::triggered, this, &MainWindow::addDevice);
     connect(m_ui->emptyAdd, &QPushButton::clicked, this, &MainWindow::addDevice);
     connect(m_ui->actionEdit, &QAction::triggered, this, &MainWindow::editSelected);
@@ -432,9 +437,11 @@ void MainWindow::offerExtensionAction(QAction *action)
     connect(action, &QAction::changed, this, &MainWindow::showSelection);
     connect(action, &QObject::destroyed, offered, [offered] { offered->setEnabled(false); });
     connect(offered, &QAction::triggered, action, [this, action] {
-        m_extension.extension->setTaskContext(EmbeddedConsole::driverNo, selectedDevice(), 0,
-                                              &m_context);
-        action->trigger();
+        const int number = selectedDevice();
+        const DeviceListModel::Device *device = m_workbench.devices().device(number);
+        m_extension.extension->setTaskContext(EmbeddedConsole::driverNo, number, 0, &m_context);
+        m_toolWindows->run(device ? device->record.name() : QString(),
+                           [action] { action->trigger(); });
     });
     constexpr int lastDigit = 9;
     if (m_extensionActions.size() < lastDigit) {
@@ -478,6 +485,7 @@ void MainWindow::showSelection()
     const bool isSimulated = device && device->record.simulated;
 
     m_ui->actionRemove->setEnabled(device != nullptr);
+    showUndo();
     m_ui->actionEdit->setEnabled(device != nullptr);
     m_ui->actionConnect->setEnabled(ready && isReached && !device->isWanted());
     m_ui->actionDisconnect->setEnabled(device && device->isWanted());
@@ -540,6 +548,7 @@ void MainWindow::showDeviceMenu(const QPoint &position)
     menu->addSeparator();
     menu->addActions(m_ui->menuDevice->actions());
     menu->removeAction(m_ui->actionAdd);
+    menu->removeAction(m_ui->actionUndoRemove);
     menu->removeAction(m_ui->actionReadOnly);
     menu->popup(m_ui->deviceView->viewport()->mapToGlobal(position));
 }
@@ -623,12 +632,61 @@ void MainWindow::removeSelected()
     const DeviceListModel::Device *device = m_workbench.devices().device(selectedDevice());
     if (!device)
         return;
-    const QString message = (device->record.file().isEmpty()
-                                 ? tr("%1 was taken off the list.")
-                                 : tr("%1 was taken off the list; its file stays where it is."))
-                                .arg(device->record.name());
-    m_workbench.remove(device->record.number());
+    const int number = device->record.number();
+    auto *box = new QMessageBox(QMessageBox::Question, tr("Remove Device"),
+                                tr("Take %1 off the list?").arg(device->record.name()),
+                                QMessageBox::Cancel, this);
+    box->setObjectName(QStringLiteral("removeQuestion"));
+    box->setTextFormat(Qt::PlainText);
+    box->setInformativeText(device->isWanted()
+                                ? tr("Its connection ends, and windows that are open for it are no "
+                                     "longer served.")
+                                : tr("Windows that are open for it are no longer served."));
+    QPushButton *const remove = box->addButton(tr("&Remove"), QMessageBox::AcceptRole);
+    box->setDefaultButton(QMessageBox::Cancel);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    connect(box, &QMessageBox::buttonClicked, this,
+            [this, remove, number](const QAbstractButton *pressed) {
+                if (pressed == remove)
+                    this->remove(number);
+            });
+    box->open();
+}
+
+void MainWindow::remove(int number)
+{
+    const DeviceListModel::Device *device = m_workbench.devices().device(number);
+    if (!device)
+        return;
+    const QString undo = m_ui->actionUndoRemove->shortcut().toString(QKeySequence::NativeText);
+    const QString message =
+        (device->record.file().isEmpty()
+             ? tr("%1 was taken off the list; %2 puts it back.")
+             : tr("%1 was taken off the list; its file stays where it is, and %2 puts it back."))
+            .arg(device->record.name(), undo);
+    m_workbench.remove(number);
+    showUndo();
     statusBar()->showMessage(message, messageTime);
+}
+
+void MainWindow::showUndo()
+{
+    const DeviceRecord *record = m_workbench.lastRemoved();
+    m_ui->actionUndoRemove->setEnabled(record != nullptr);
+    const QString name =
+        record ? QString(record->name()).replace(QLatin1Char('&'), QLatin1String("&&")) : QString();
+    m_ui->actionUndoRemove->setText(record ? tr("&Undo Remove of %1").arg(name)
+                                           : tr("&Undo Remove"));
+}
+
+void MainWindow::fitInto(const QRect &available)
+{
+    // Room for the frame, which is not there before the window is shown.
+    constexpr int besides = 16;
+    constexpr int above = 40;
+    const QSize room = available.size() - QSize(besides, above);
+    resize(size().boundedTo(room));
+    move(available.center() - QPoint(width() / 2, (height() + above) / 2));
 }
 
 void MainWindow::addDevice()

@@ -24,6 +24,7 @@ class QLabel;
 class QProgressBar;
 class QSortFilterProxyModel;
 class QToolButton;
+class ToolWindows;
 class Workbench;
 struct DeviceRecord;
 
@@ -50,6 +51,9 @@ public:
     /// Number of the selected device, 0 when none is.
     int selectedDevice() const;
     void selectDevice(int number);
+
+    /// Take the usual size, or less where @p available does not have as much, in the middle of it.
+    void fitInto(const QRect &available);
 
 public slots:
     void openFile();
@@ -87,6 +91,8 @@ private:
     void showGuide();
     void showAbout();
     void removeSelected();
+    void remove(int number);
+    void showUndo();
 
     const std::unique_ptr<Ui::MainWindow> m_ui;
     Workbench &m_workbench;
@@ -94,6 +100,7 @@ private:
     HostTaskContext &m_context;
     LoadedExtension m_extension;
     QList<QAction *> m_extensionActions;
+    ToolWindows *m_toolWindows;
     FindingsModel *m_findings;
     QSortFilterProxyModel *m_sortedFindings;
     QPointer<GuideViewer> m_guide;

@@ -176,6 +176,9 @@ Tour::Tour(Workbench &workbench, MainWindow &window, const QString &folder)
     , m_window(window)
     , m_folder(folder)
 {
+    // Nobody is there to wonder, and the window would be taken for a tool's.
+    constexpr std::chrono::hours longest{1};
+    m_workbench.waiting().setPatience(longest);
 }
 
 bool Tour::run()

@@ -62,6 +62,7 @@ Workbench::Workbench(const Options &options, QObject *parent)
     , m_lock(options.settingsFile + QStringLiteral(".in-use"))
     , m_store(options.settingsFile)
     , m_changes(options.journalFile)
+    , m_waiting([this](long deviceNo) { m_driver->cancelOperations(deviceNo); })
     , m_console(m_devices)
     , m_loader(options.import)
 {
@@ -111,16 +112,19 @@ Workbench::Workbench(const Options &options, QObject *parent)
     };
     m_journal.setDeviceNames(deviceName);
     m_confirmation.setDeviceName(deviceName);
+    m_waiting.setDeviceName(deviceName);
     m_confirmation.setLookup([this](long deviceNo, const QStringList &references) {
         return knownValue(deviceNo, references);
     });
     DriverServiceRegistry::add(EmbeddedConsole::address, m_driver);
     ControllerCallObserver::install(&m_journal);
     ControllerCallGuard::install(&m_confirmation);
+    ControllerCallRunner::install(&m_waiting);
 }
 
 Workbench::~Workbench()
 {
+    ControllerCallRunner::install(nullptr);
     ControllerCallGuard::install(nullptr);
     ControllerCallObserver::install(nullptr);
     DriverServiceRegistry::remove(EmbeddedConsole::address);
@@ -236,8 +240,26 @@ void Workbench::loadListed(const DeviceRecord &record)
     m_pending.insert(m_loader.load(request), {request, previous});
 }
 
+const DeviceRecord *Workbench::lastRemoved() const
+{
+    return m_removed.isEmpty() ? nullptr : &m_removed.last();
+}
+
+void Workbench::undoRemove()
+{
+    if (m_removed.isEmpty())
+        return;
+    const DeviceRecord record = m_removed.takeLast();
+    m_store.restore(record);
+    m_devices.append(record);
+    begin(record);
+    emit deviceOpened(record.number());
+}
+
 void Workbench::remove(int number)
 {
+    if (const DeviceListModel::Device *device = m_devices.device(number))
+        m_removed.append(device->record);
     m_store.remove(number);
     m_devices.remove(number);
     m_driver->removeDevice(number);

@@ -8,6 +8,7 @@
 #include "devicestore.h"
 #include "embeddedconsole.h"
 #include "journalmodel.h"
+#include "waitingcalls.h"
 
 #include "driver/ieddriver.h"
 
@@ -78,6 +79,10 @@ public:
 
     /// Take a device off the list; its file stays.
     void remove(int number);
+    /// The device that was taken off last and can be put back; null when there is none.
+    const DeviceRecord *lastRemoved() const;
+    /// Put it back under its number, at the end of the list.
+    void undoRemove();
 
     /// Want an association with the device, now and at the next start, or none.
     void connectDevice(int number);
@@ -93,6 +98,8 @@ public:
 
     /// Who confirms what the tools are about to send; the main window enters its question.
     CallConfirmation &confirmation() { return m_confirmation; }
+    /// What a device is waited for; the main window enters itself.
+    WaitingCalls &waiting() { return m_waiting; }
     /// What is asked for; remembered between starts.
     void setConfirmed(CallConfirmation::Scope scope);
 
@@ -140,6 +147,7 @@ private:
     JournalModel m_journal;
     ChangeJournal m_changes;
     CallConfirmation m_confirmation;
+    WaitingCalls m_waiting;
     EmbeddedConsole m_console;
     HostTaskContext m_context;
     QHash<int, std::shared_ptr<SimulatedDevice>> m_simulations; ///< by device number
@@ -148,6 +156,7 @@ private:
     std::shared_ptr<IedDriver> m_driver;
     QTimer m_statusTimer;
     QHash<int, Pending> m_pending; ///< by ticket
+    QVector<DeviceRecord> m_removed;
     QStringList m_failures;
     bool m_cancelled = false;
     DeviceLoader m_loader; ///< last, so that its thread ends first

@@ -15,6 +15,7 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QSaveFile>
 #include <QtGui/QKeyEvent>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QShortcut>
 
@@ -82,6 +83,12 @@ FileServiceDialog::FileServiceDialog(int location, int handle, HostTaskContext *
     connect(m_form->treeView, &QTreeView::doubleClicked, this, &FileServiceDialog::loadDirectory);
     connect(m_form->findFile, &QToolButton::released, this, &FileServiceDialog::selectFile);
 
+    // Clicks choose by themselves; what keys choose can be downloaded and deleted as well.
+    connect(m_form->treeView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this](const QItemSelection &selected) {
+                if (!selected.isEmpty() && QApplication::mouseButtons() == Qt::NoButton)
+                    checkFile(selected.indexes().first());
+            });
     m_form->treeView->installEventFilter(this);
     auto *refreshKey = new QShortcut(QKeySequence(Qt::Key_F5), this);
     connect(refreshKey, &QShortcut::activated, this, &FileServiceDialog::readDirectory);

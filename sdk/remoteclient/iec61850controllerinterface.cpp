@@ -4,6 +4,7 @@
 #include "callerscope.h"
 #include "controllercallguard.h"
 #include "controllercallobserver.h"
+#include "controllercallrunner.h"
 #include "driverservice.h"
 #include "driverserviceregistry.h"
 #include "guardedcalls.h"
@@ -70,6 +71,38 @@ QString shortText(const QList<SGCBValue> &values)
     for (const SGCBValue &value : values)
         texts << value.name + QLatin1Char('=') + value.value.toString();
     return shortText(texts);
+}
+
+/// A float as it was typed, not as the double that is next to it.
+QString shortText(float number)
+{
+    constexpr int fewest = 6;
+    constexpr int most = 9;
+    QString text;
+    for (int digits = fewest; digits <= most; ++digits) {
+        text = QString::number(static_cast<double>(number), 'g', digits);
+        if (text.toFloat() == number)
+            break;
+    }
+    return text;
+}
+
+/// What the bytes of a request stand for; empty where they say all themselves.
+QString inWords(const GuardedCall &call)
+{
+    if (call.isControl) {
+        const ControlBlock &block = call.control;
+        return QStringLiteral("value %1, category %2, check %3, test %4, model %5")
+            .arg(block.controlValue)
+            .arg(block.orCat)
+            .arg(block.check)
+            .arg(block.test)
+            .arg(block.controlModel);
+    }
+    if (call.operation != QLatin1String("writeVariable"))
+        return {};
+    return cut(call.newValue.userType() == QMetaType::Float ? shortText(call.newValue.toFloat())
+                                                            : call.newValue.toString());
 }
 
 /// Arguments that the driver fills say nothing of the request; only the others are shown.
@@ -142,14 +175,17 @@ OperationResult IEC61850ControllerInterface::perform(Method method, const char *
     call.deviceNo = deviceNo;
     call.operation = QString::fromLatin1(operation);
     call.arguments = texts.join(QLatin1String(", "));
+    CallArguments given;
+    (given.addIn(arguments), ...);
+    std::optional<GuardedCall> asked = guardedCall(operation, given);
+    if (asked) {
+        const QString words = inWords(*asked);
+        if (!words.isEmpty())
+            call.arguments += QLatin1String(" = ") + words;
+    }
     const auto isRefused = [&] {
         ControllerCallGuard *const guard = ControllerCallGuard::installed();
-        if (!guard)
-            return false;
-        CallArguments given;
-        (given.addIn(arguments), ...);
-        std::optional<GuardedCall> asked = guardedCall(operation, given);
-        if (!asked)
+        if (!guard || !asked)
             return false;
         asked->address = call.address;
         asked->driverNo = call.driverNo;
@@ -162,14 +198,23 @@ OperationResult IEC61850ControllerInterface::perform(Method method, const char *
     if (const std::shared_ptr<DriverService> service = DriverServiceRegistry::find(m_address)) {
         const bool refused = isRefused();
         timer.restart(); // an operator takes his time to answer
-        const CallerScope caller(numberOf(this));
-        if (refused)
+        const quint64 number = numberOf(this);
+        const auto work = [&] {
+            const CallerScope caller(number);
+            if constexpr (std::is_invocable_v<Method, DriverService &, long, Arguments &...,
+                                              QString &>)
+                call.result = std::invoke(method, *service, deviceNo, arguments..., error);
+            else
+                call.result = std::invoke(method, *service, deviceNo, arguments...);
+        };
+        if (refused) {
             call.result = OperationFailed;
-        else if constexpr (std::is_invocable_v<Method, DriverService &, long, Arguments &...,
-                                               QString &>)
-            call.result = std::invoke(method, *service, deviceNo, arguments..., error);
-        else
-            call.result = std::invoke(method, *service, deviceNo, arguments...);
+        } else if (ControllerCallRunner *const runner = ControllerCallRunner::installed()) {
+            const ControllerCall begun = call;
+            runner->run(begun, work);
+        } else {
+            work();
+        }
     } else {
         call.result = OperationDriverUnreachable;
         error = QStringLiteral("No driver answers at \"") + m_address + QLatin1Char('"');

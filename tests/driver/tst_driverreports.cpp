@@ -116,6 +116,7 @@ private slots:
     void bytesThatAreNoValueAreNotSent();
     void dataSetsGoByTheNamesOfTheBrowser();
     void reportsBringValuesWithQualityTimeAndReason();
+    void aModelTellsWhichBlocksOthersHaveEnabled();
     void anInterrogationBringsEveryMember();
     void qualitiesOfTheirOwnMembersGoWithTheValues();
     void aReservedBlockNamesItsOwner();
@@ -328,6 +329,35 @@ void tst_DriverReports::reportsBringValuesWithQualityTimeAndReason()
         QVERIFY(!station.block(block).rptEna);
         ied.set("BAY1E1CTRL", "QA1CSWI1$ST$Pos$stVal", position("01"));
     }
+}
+
+void tst_DriverReports::aModelTellsWhichBlocksOthersHaveEnabled()
+{
+    SimulatedIed ied(stationFile);
+    Station looking(ied);
+    QVERIFY(looking.isOnline());
+    const auto isShownEnabled = [&] {
+        QByteArray bytes;
+        QString error;
+        if (looking.driver().getIEDModel(1, bytes, error) != OperationSucceeded)
+            return false;
+        const auto device = deviceFrom(bytes);
+        for (const ReportControlBlock *shown :
+             device->logicalDevices.first()->logicalNodes.first()->reportControls->blocks) {
+            if (shown->reference == unbuffered)
+                return shown->enabled;
+        }
+        return false;
+    };
+    QVERIFY(!isShownEnabled());
+    {
+        Station other(ied);
+        QVERIFY(other.isOnline());
+        QVERIFY2(other.enable(unbuffered, dialogBlock(false)), qPrintable(other.error()));
+        QVERIFY(isShownEnabled());
+        QVERIFY(other.write(unbuffered, "RptEna", QByteArray(1, '\0')));
+    }
+    QVERIFY(!isShownEnabled());
 }
 
 void tst_DriverReports::anInterrogationBringsEveryMember()

@@ -225,6 +225,7 @@ private slots:
     void f5ListsAgain();
     void enterOpensADirectory_data();
     void enterOpensADirectory();
+    void whatKeysChooseIsOffered();
     void spaceOrEnterOnAFileIsLikeAClick_data();
     void spaceOrEnterOnAFileIsLikeAClick();
     void enterTriggersNoButton_data();
@@ -346,8 +347,10 @@ void tst_FileServiceDialog::makeCurrent(const QString &name)
     const QModelIndex index = find(name);
     QVERIFY2(index.isValid(), qPrintable(name));
     tree()->setFocus();
-    while (tree()->currentIndex().row() != index.row())
+    while (tree()->currentIndex().row() < index.row())
         QTest::keyClick(tree(), Qt::Key_Down);
+    while (tree()->currentIndex().row() > index.row())
+        QTest::keyClick(tree(), Qt::Key_Up);
 }
 
 void tst_FileServiceDialog::slotsAreThoseThatHostsKnow()
@@ -1234,7 +1237,8 @@ void tst_FileServiceDialog::spaceOrEnterOnAFileIsLikeAClick()
     open();
     m_store->forgetCalls();
     makeCurrent("readme.txt");
-    QVERIFY(!button("download")->isEnabled());
+    button("download")->setEnabled(false);
+    button("deleteFile")->setEnabled(false);
     QTest::keyClick(tree(), Qt::Key(key));
     QVERIFY(button("download")->isEnabled());
     QVERIFY(button("deleteFile")->isEnabled());
@@ -1243,6 +1247,26 @@ void tst_FileServiceDialog::spaceOrEnterOnAFileIsLikeAClick()
     QTest::keyClick(tree(), Qt::Key_Space);
     QVERIFY(!button("download")->isEnabled());
     QVERIFY(m_store->calls().isEmpty());
+}
+
+void tst_FileServiceDialog::whatKeysChooseIsOffered()
+{
+    open();
+    m_store->forgetCalls();
+    makeCurrent("readme.txt");
+    QVERIFY(button("download")->isEnabled());
+    QVERIFY(button("deleteFile")->isEnabled());
+    makeCurrent("A\\");
+    QVERIFY(!button("download")->isEnabled());
+    QVERIFY(!button("deleteFile")->isEnabled());
+    QVERIFY(m_store->calls().isEmpty());
+    // A listing withdraws it, and the focus alone chooses nothing.
+    makeCurrent("readme.txt");
+    press("refresh");
+    QVERIFY(!button("download")->isEnabled());
+    m_dialog->findChild<QWidget *>("targetFile")->setFocus();
+    tree()->setFocus();
+    QVERIFY(!button("download")->isEnabled());
 }
 
 void tst_FileServiceDialog::enterTriggersNoButton_data()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "iedctl/valuetext.h"
 
+#include "driver/valuewords.h"
+
 #include <devicemodel/physicaldevice.h>
 
 #include <QtTest/QtTest>
@@ -231,13 +233,13 @@ void tst_IedctlValueText::modesHaveTheirNamesWithoutAFile()
     mode.enumTypeId = QStringLiteral("Mod");
     QString error;
     QCOMPARE(ValueText::parse(device, mode, "off", error), QVariant(5));
-    QCOMPARE(ValueText::shown(device, &mode, 4), QString("test/blocked (4)"));
+    QCOMPARE(ValueWords::text(device, &mode, 4), QString("test/blocked (4)"));
     mode.enumTypeId = QStringLiteral("HealthKind");
-    QCOMPARE(ValueText::shown(device, &mode, 3), QString("Alarm (3)"));
+    QCOMPARE(ValueWords::text(device, &mode, 3), QString("Alarm (3)"));
     mode.enumTypeId = QStringLiteral("CtlModelKind");
-    QCOMPARE(ValueText::shown(device, &mode, 4), QString("sbo-with-enhanced-security (4)"));
+    QCOMPARE(ValueWords::text(device, &mode, 4), QString("sbo-with-enhanced-security (4)"));
     mode.enumTypeId = QStringLiteral("MultiplierKind");
-    QCOMPARE(ValueText::shown(device, &mode, -3), QString("m (-3)"));
+    QCOMPARE(ValueWords::text(device, &mode, -3), QString("m (-3)"));
     mode.enumTypeId = QStringLiteral("OpModKnd");
     QVERIFY(!ValueText::parse(device, mode, "off", error).isValid());
     QVERIFY(error.contains("no known entries"));
@@ -250,7 +252,7 @@ void tst_IedctlValueText::aFloatIsShownSoThatItCanBeTyped()
     value.basicType = QStringLiteral("FLOAT32");
     QString error;
     for (const float number : {std::numeric_limits<float>::max(), 0.1F, 16777217.0F, 1e-45F}) {
-        const QString shown = ValueText::shown(device, &value, number);
+        const QString shown = ValueWords::text(device, &value, number);
         const QVariant typed = ValueText::parse(device, value, shown, error);
         QVERIFY2(typed.isValid(), qPrintable(error));
         QCOMPARE(static_cast<float>(qMin(typed.toDouble(), 3.4028234663852886e38)), number);
@@ -262,10 +264,10 @@ void tst_IedctlValueText::enumerationsShowTheirEntries()
     PhysicalDevice device;
     addEnumeration(device);
     const DataAttribute mode = attributeOfType(QStringLiteral("Enum"));
-    QCOMPARE(ValueText::shown(device, &mode, 2), QString("blocked (2)"));
-    QCOMPARE(ValueText::shown(device, &mode, 9), QString("9"));
-    QCOMPARE(ValueText::shown(device, nullptr, 0.1F), QString("0.1"));
-    QCOMPARE(ValueText::shown(device, nullptr, QVariant()), QString());
+    QCOMPARE(ValueWords::text(device, &mode, 2), QString("blocked (2)"));
+    QCOMPARE(ValueWords::text(device, &mode, 9), QString("9"));
+    QCOMPARE(ValueWords::text(device, nullptr, 0.1F), QString("0.1"));
+    QCOMPARE(ValueWords::text(device, nullptr, QVariant()), QString());
 }
 
 void tst_IedctlValueText::qualitiesAreSaidInWords_data()
@@ -296,11 +298,11 @@ void tst_IedctlValueText::qualitiesAreSaidInWords()
 {
     QFETCH(QString, bits);
     QFETCH(QString, words);
-    QCOMPARE(ValueText::quality(bits), words);
+    QCOMPARE(ValueWords::quality(bits), words);
     PhysicalDevice device;
     const DataAttribute quality = attributeOfType(QStringLiteral("Quality"));
     if (!bits.isEmpty()) {
-        QCOMPARE(ValueText::shown(device, &quality, bits),
+        QCOMPARE(ValueWords::text(device, &quality, bits),
                  QStringLiteral("%1 (%2)").arg(words, bits));
     }
 }

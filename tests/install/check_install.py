@@ -1,14 +1,15 @@
 # SPDX-License-Identifier: Apache-2.0
-"""Installs the project into a temporary folder, moves the folder, and builds and runs the example
-host against it there.
+"""Installs the project into a temporary folder, moves the folder, and follows the host integrator's
+guide against it there: what the guide lists is put into files, and its commands are run.
 
-Usage: check_install.py BUILD_DIR EXAMPLE_DIR CMAKE [CMAKE_ARGUMENT...]
+Usage: check_install.py BUILD_DIR GUIDE CMAKE [CMAKE_ARGUMENT...]
 
 The arguments at the end are given to CMake for the example: build type, compiler, flags.
 """
 import os
 import pathlib
 import re
+import shlex
 import subprocess
 import sys
 import tempfile
@@ -37,20 +38,38 @@ def unresolved_includes(headers):
                 yield f"{header.relative_to(headers)} includes {name}, which is not installed"
 
 
+def write_example(guide, folder):
+    """The files of the example as the guide lists them."""
+    folder.mkdir()
+    for name, text in re.findall(r"^<!-- tests/install/(\S+) -->\n```\w+\n(.*?)^```$", guide,
+                                 re.MULTILINE | re.DOTALL):
+        (folder / name).write_text(text, encoding="utf-8")
+
+
+def commands_of(guide):
+    """The lines of the guide's commands, as lists of words."""
+    listing = re.search(r"^```sh\n(.*?)^```$", guide, re.MULTILINE | re.DOTALL)
+    return [shlex.split(line) for line in listing.group(1).splitlines()]
+
+
 def main():
-    build, example, cmake = sys.argv[1:4]
+    build, guide_file, cmake = sys.argv[1:4]
+    guide = pathlib.Path(guide_file).read_text(encoding="utf-8")
     environment = {"QT_QPA_PLATFORM": "offscreen", "LC_ALL": "C.UTF-8"}
     os.environ.update(environment)
     os.environ.pop("LD_LIBRARY_PATH", None)
     with tempfile.TemporaryDirectory() as folder:
-        first, tree, host = (pathlib.Path(folder) / name for name in ("first", "tree", "host"))
+        first, tree = (pathlib.Path(folder) / name for name in ("first", "tree"))
         run(cmake, "--install", build, "--prefix", first)
         first.rename(tree)
 
         faults = list(unresolved_includes(tree / "include/iec61850ext"))
-        run(cmake, "-S", example, "-B", host, f"-DCMAKE_PREFIX_PATH={tree}", *sys.argv[4:])
-        run(cmake, "--build", host)
-        said = run(host / "examplehost", "--try").splitlines()
+        write_example(guide, pathlib.Path(folder) / "examplehost")
+        os.chdir(folder)
+        configure, make, start = commands_of(guide)
+        run(cmake, *(word.replace("=DIR", f"={tree}") for word in configure[1:]), *sys.argv[4:])
+        run(cmake, *make[1:])
+        said = run(*start, "--try").splitlines()
         faults += [f"the example host did not print: {line}" for line in WANTED if line not in said]
         version = run(tree / "bin/iec61850ext-workbench", "--version")
         if not re.fullmatch(r"workbench \d+\.\d+\.\d+\s*", version):

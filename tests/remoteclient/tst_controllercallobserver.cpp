@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/recordingdriverservice.h"
 
+#include <remoteclient/controllercaller.h>
 #include <remoteclient/controllercallobserver.h>
+#include <remoteclient/controllercallrunner.h>
 #include <remoteclient/iec61850controllerinterface.h>
 
+#include <QtCore/QDataStream>
 #include <QtCore/QElapsedTimer>
 #include <QtTest/QtTest>
+
+#include <thread>
 
 namespace {
 
@@ -133,6 +138,68 @@ private slots:
         QVERIFY(journal.calls.at(1).arguments.contains(QStringLiteral("16000 characters")));
         QVERIFY(journal.calls.at(3).arguments.contains(QStringLiteral("StrVal=1.5")));
         QVERIFY(journal.calls.at(4).arguments.contains(QStringLiteral("RptID \"id\"")));
+    }
+
+    void bytesAreSaidInWordsBehindThem()
+    {
+        Journal journal;
+        QString error;
+        QByteArray value;
+        QDataStream stream(&value, QIODevice::WriteOnly);
+        stream << QVariant(12.4F);
+        m_controller.writeVariable(1, QStringLiteral("LD0"), QStringLiteral("X$SP$Y$f"), value,
+                                   error);
+        ControlBlock block;
+        block.controlValue = 1;
+        block.orCat = 3;
+        block.check = 2;
+        block.test = 1;
+        block.controlModel = 4;
+        QByteArray record;
+        QDataStream control(&record, QIODevice::WriteOnly);
+        block.toStream(control);
+        m_controller.controlObject(1, QStringLiteral("LD0"), QStringLiteral("X$CO$Pos"), record,
+                                   error);
+        QVERIFY2(journal.calls.at(0).arguments.endsWith(QLatin1String("> = 12.4")),
+                 qPrintable(journal.calls.at(0).arguments));
+        QVERIFY2(journal.calls.at(1).arguments.endsWith(
+                     QLatin1String("> = value 1, category 3, check 2, test 1, model 4")),
+                 qPrintable(journal.calls.at(1).arguments));
+    }
+
+    void aRunnerDoesTheDriversPartOnly()
+    {
+        struct Runner : ControllerCallRunner
+        {
+            Runner() { install(this); }
+            ~Runner() override { install(nullptr); }
+            void run(const ControllerCall &call, const std::function<void()> &work) override
+            {
+                operations << call.operation;
+                std::thread(work).join();
+            }
+            QStringList operations;
+        };
+        Journal journal;
+        QString error;
+        quint64 inside = 0;
+        quint64 outside = 0;
+        m_service->setOnCall([&](const RecordingDriverService::Call &) {
+            (ControllerCallRunner::installed() ? inside : outside) = ControllerCaller::current();
+        });
+        m_service->setAnswer(QStringLiteral("deleteFile"), OperationFailed, QStringLiteral("No."));
+        m_controller.deleteFile(7, QStringLiteral("f"), error);
+        {
+            const Runner runner;
+            QCOMPARE(m_controller.deleteFile(7, QStringLiteral("f"), error), OperationFailed);
+            QCOMPARE(error, QStringLiteral("No."));
+            QCOMPARE(runner.operations, QStringList(QStringLiteral("deleteFile")));
+        }
+        QCOMPARE(journal.calls.size(), 2);
+        QCOMPARE(journal.calls.last().result, OperationFailed);
+        // It is the same caller in whatever thread.
+        QVERIFY(inside != 0);
+        QCOMPARE(inside, outside);
     }
 
     void withoutAnObserverCallsGoThrough()

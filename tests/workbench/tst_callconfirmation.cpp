@@ -56,6 +56,7 @@ class tst_CallConfirmation : public QObject
     Q_OBJECT
 
 private slots:
+    void aFloatIsAskedForAsItWasTyped();
     void init();
     void aCommandIsToldInWords_data();
     void aCommandIsToldInWords();
@@ -302,6 +303,14 @@ void tst_CallConfirmation::theQuestionIsWithdrawnWithTheWindowBelow()
     QVERIFY(wasAsked);
     QCOMPARE(tool.isNull(), destroyed);
     delete tool;
+}
+
+void tst_CallConfirmation::aFloatIsAskedForAsItWasTyped()
+{
+    GuardedCall call = write();
+    call.newValue = 12.4F;
+    const QString value = rowsOf(m_confirmation.question(call)).last();
+    QVERIFY2(value.endsWith(s("12.4")), qPrintable(value));
 }
 
 QTEST_MAIN(tst_CallConfirmation)

@@ -17,6 +17,7 @@ private slots:
 
     void aChangeIsInTheFileBeforeItIsInTheTable();
     void everyPartOfAChangeHasItsColumn();
+    void valuesAreShownInWordsAndKeptRaw();
     void theFileKeepsWhatEarlierRunsWrote();
     void aRowThatWasCutOffDoesNotSwallowTheNext();
     void commasQuotesAndLineBreaksStayInTheirField();
@@ -99,6 +100,21 @@ void tst_ChangeJournal::everyPartOfAChangeHasItsColumn()
     QCOMPARE(cells, (QStringList{QStringLiteral("BAY1 (3)"), refused.operation, refused.reference,
                                  refused.oldValue, refused.newValue, refused.error,
                                  refused.additionalCause}));
+}
+
+void tst_ChangeJournal::valuesAreShownInWordsAndKeptRaw()
+{
+    ChangeJournal journal(path());
+    DeviceChange switched = change(QStringLiteral("2"));
+    switched.oldWords = QStringLiteral("off (1)");
+    switched.newWords = QStringLiteral("on (2)");
+    journal.add(switched);
+    QTRY_COMPARE(journal.rowCount(), 1);
+    QCOMPARE(journal.index(0, ChangeJournal::OldValueColumn).data().toString(),
+             QStringLiteral("off (1)"));
+    QCOMPARE(journal.index(0, ChangeJournal::NewValueColumn).data().toString(),
+             QStringLiteral("on (2)"));
+    QVERIFY2(lines().last().contains(",1,2,"), lines().last().constData());
 }
 
 void tst_ChangeJournal::theFileKeepsWhatEarlierRunsWrote()

@@ -14,6 +14,7 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSpinBox>
+#include <QtWidgets/QTabWidget>
 
 class tst_DeviceDialog : public QObject
 {
@@ -25,6 +26,8 @@ private slots:
     void whatIsNotTouchedStaysAsItWas();
     void everyFieldEndsInTheConfiguration();
     void aNewDeviceIsNamedByItsAddressUnlessItGetsAName();
+    void aNewDeviceIsNamedByWhatItAnswersToATest();
+    void acceptingOtherNamesSaysWhatThatMeans();
     void faultsAreShownOneForEachAndTheDialogStays();
     void shownFaultsFollowTheFields();
     void octetsThatAreNotHexadecimalAreAFault();
@@ -113,6 +116,8 @@ void tst_DeviceDialog::everyFieldEndsInTheConfiguration()
     enter(*dialog, "name", QStringLiteral("N"));
     enter(*dialog, "host", QStringLiteral(" 10.0.0.4 "));
     enter(*dialog, "ied", QStringLiteral("IED1"));
+    enter(*dialog, "accessPoint", QStringLiteral(" S2 "));
+    child<QCheckBox>(*dialog, "acceptsOtherNames")->setChecked(true);
     enter(*dialog, "localTransportSelector", QStringLiteral("0a"));
     enter(*dialog, "localSessionSelector", QStringLiteral("0b"));
     enter(*dialog, "localPresentationSelector", QStringLiteral("0c"));
@@ -151,6 +156,8 @@ void tst_DeviceDialog::everyFieldEndsInTheConfiguration()
     device.host = QStringLiteral("10.0.0.4");
     device.port = 1;
     device.ied = QStringLiteral("IED1");
+    device.accessPoint = QStringLiteral("S2");
+    device.tls.acceptsOtherNames = true;
     device.local = {"\x0a", "\x0b", "\x0c", QStringLiteral("1.1.1"), 11};
     device.remote = {"\x1a\x1a", "\x1b", "\x1c", QStringLiteral("1.1.2"), 12};
     device.password = QStringLiteral("secret");
@@ -185,8 +192,48 @@ void tst_DeviceDialog::aNewDeviceIsNamedByItsAddressUnlessItGetsAName()
     enter(*dialog, "host", QStringLiteral("10.0.0.4"));
     QStringList faults;
     QCOMPARE(dialog->record(faults).name(), QStringLiteral("10.0.0.4"));
+    // Two devices at one address are told apart.
+    child<QSpinBox>(*dialog, "port")->setValue(10102);
+    QCOMPARE(dialog->record(faults).name(), QStringLiteral("10.0.0.4:10102"));
+    enter(*dialog, "host", QStringLiteral("fe80::1"));
+    QCOMPARE(dialog->record(faults).name(), QStringLiteral("[fe80::1]:10102"));
+    enter(*dialog, "ied", QStringLiteral("IED1"));
+    QCOMPARE(dialog->record(faults).name(), QStringLiteral("IED1"));
     enter(*dialog, "name", QStringLiteral("Bay"));
     QCOMPARE(dialog->record(faults).name(), QStringLiteral("Bay"));
+}
+
+void tst_DeviceDialog::aNewDeviceIsNamedByWhatItAnswersToATest()
+{
+    m_test = [](const DeviceConfiguration &) {
+        IedDriver::TestResult result;
+        result.iedName = QStringLiteral("BAY1E1");
+        return result;
+    };
+    const auto dialog = make({});
+    enter(*dialog, "host", QStringLiteral("10.0.0.4"));
+    QTest::mouseClick(child<QPushButton>(*dialog, "test"), Qt::LeftButton);
+    QStringList faults;
+    QTRY_COMPARE(dialog->record(faults).name(), QStringLiteral("BAY1E1"));
+    // Who answers elsewhere is not known yet.
+    enter(*dialog, "host", QStringLiteral("10.0.0.5"));
+    QCOMPARE(dialog->record(faults).name(), QStringLiteral("10.0.0.5"));
+}
+
+void tst_DeviceDialog::acceptingOtherNamesSaysWhatThatMeans()
+{
+    const auto dialog = make({});
+    child<QTabWidget>(*dialog, "tabs")->setCurrentWidget(child<QWidget>(*dialog, "securityTab"));
+    child<QGroupBox>(*dialog, "tls")->setChecked(true);
+    auto *const warning = child<QLabel>(*dialog, "otherNamesWarning");
+    auto *const name = child<QLineEdit>(*dialog, "peerName");
+    QVERIFY(!warning->isVisible());
+    QVERIFY(name->isEnabled());
+    child<QCheckBox>(*dialog, "acceptsOtherNames")->setChecked(true);
+    QVERIFY(warning->isVisible());
+    QVERIFY2(warning->text().startsWith(QLatin1String("Unsafe:")), qPrintable(warning->text()));
+    QVERIFY(!name->isEnabled());
+    QTRY_VERIFY(warning->height() >= warning->heightForWidth(warning->width()));
 }
 
 void tst_DeviceDialog::faultsAreShownOneForEachAndTheDialogStays()

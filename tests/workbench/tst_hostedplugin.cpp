@@ -93,6 +93,7 @@ void tst_HostedPlugin::theBrowserShowsTheSelectedDevice()
     m_window->extensionActions().first()->trigger();
     QTRY_COMPARE(browsers().size(), 1);
     QCOMPARE(shownDevice(browsers().first()), QStringLiteral("FEEDER2"));
+    QCOMPARE(browsers().first()->windowTitle(), QString::fromUtf8("IED Browser \u2013 FEEDER2"));
 }
 
 void tst_HostedPlugin::aSecondTriggerOpensAnotherBrowser()

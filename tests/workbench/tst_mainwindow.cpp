@@ -9,6 +9,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QMimeData>
+#include <QtCore/QPointer>
 #include <QtCore/QSemaphore>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QThread>
@@ -65,7 +66,10 @@ private slots:
     void anIedWithoutLogicalDevicesCannotBeChosen();
     void findingsOfTheSelectedDeviceAreShown();
     void aSlowLoadShowsProgressAndCanBeCancelled();
-    void deleteTakesTheSelectedDeviceOffTheList();
+    void deleteTakesTheSelectedDeviceOffTheListWhenThatIsConfirmed();
+    void aRemovedDeviceCanBePutBack();
+    void theWindowFitsTheScreen_data();
+    void theWindowFitsTheScreen();
     void droppedFilesAreOpened();
     void theJournalFollowsTheNewestCall();
 
@@ -316,15 +320,84 @@ void tst_MainWindow::aSlowLoadShowsProgressAndCanBeCancelled()
     QCOMPARE(m_workbench->devices().rowCount(), 0);
 }
 
-void tst_MainWindow::deleteTakesTheSelectedDeviceOffTheList()
+void tst_MainWindow::deleteTakesTheSelectedDeviceOffTheListWhenThatIsConfirmed()
 {
     open(QStringLiteral("a.icd"));
     open(QStringLiteral("b.icd"));
     TableView *devices = child<TableView>("deviceView");
-    devices->setFocus();
-    QTest::keyClick(devices, Qt::Key_Delete);
-    QCOMPARE(m_workbench->devices().rowCount(), 1);
+    const auto ask = [&]() -> QMessageBox * {
+        m_window->activateWindow();
+        if (!QTest::qWaitForWindowActive(m_window.get()))
+            return nullptr;
+        devices->setFocus();
+        QTest::keyClick(devices, Qt::Key_Delete);
+        return child<QMessageBox>("removeQuestion");
+    };
+    QPointer<QMessageBox> box = ask();
+    QVERIFY(box);
+    // An Enter too many keeps the device.
+    QTest::keyClick(box, Qt::Key_Return);
+    QTRY_VERIFY(!box);
+    QCOMPARE(m_workbench->devices().rowCount(), 2);
+    box = ask();
+    QVERIFY(box);
+    QVERIFY2(box->text().contains(QLatin1String("Take A off the list?")), qPrintable(box->text()));
+    for (QAbstractButton *button : box->buttons()) {
+        if (box->buttonRole(button) == QMessageBox::AcceptRole)
+            button->click();
+    }
+    QTRY_COMPARE(m_workbench->devices().rowCount(), 1);
     QVERIFY(m_workbench->devices().deviceAt(0)->record.file().endsWith(QLatin1String("a.icd")));
+}
+
+void tst_MainWindow::aRemovedDeviceCanBePutBack()
+{
+    open(QStringLiteral("a.icd"));
+    open(QStringLiteral("b.icd"));
+    auto *const undo = child<QAction>("actionUndoRemove");
+    QVERIFY(!undo->isEnabled());
+    const DeviceRecord second = m_workbench->devices().deviceAt(1)->record;
+    m_workbench->remove(m_workbench->devices().deviceAt(0)->record.number());
+    m_workbench->remove(second.number());
+    QCOMPARE(m_workbench->devices().rowCount(), 0);
+    QVERIFY(undo->isEnabled());
+    undo->trigger();
+    QTRY_COMPARE(m_workbench->devices().rowCount(), 1);
+    const DeviceListModel::Device *back = m_workbench->devices().device(second.number());
+    QVERIFY(back);
+    QCOMPARE(back->record.file(), second.file());
+    QTRY_COMPARE(m_workbench->devices().device(second.number())->state, DeviceListModel::Ready);
+    QVERIFY(undo->isEnabled());
+    undo->trigger();
+    QTRY_COMPARE(m_workbench->devices().rowCount(), 2);
+    QVERIFY(!undo->isEnabled());
+    // It is there at the next start, too.
+    QCOMPARE(DeviceStore(m_folder->filePath(QStringLiteral("workbench.ini"))).devices().size(), 2);
+}
+
+void tst_MainWindow::theWindowFitsTheScreen_data()
+{
+    QTest::addColumn<QRect>("available");
+    QTest::newRow("large") << QRect(0, 0, 1920, 1050);
+    QTest::newRow("notebook") << QRect(0, 27, 1366, 741);
+    QTest::newRow("notebook at 150 %") << QRect(0, 0, 910, 480);
+    QTest::newRow("full HD at 200 %, second screen") << QRect(1920, 0, 960, 510);
+    QTest::newRow("notebook at 200 %") << QRect(0, 0, 683, 364);
+}
+
+void tst_MainWindow::theWindowFitsTheScreen()
+{
+    QFETCH(QRect, available);
+    MainWindow window(*m_workbench, pluginFolder(QStringLiteral("good")));
+    window.fitInto(available);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY2(available.contains(window.geometry()),
+             qPrintable(QStringLiteral("%1 x %2, at least %3 x %4")
+                            .arg(window.width())
+                            .arg(window.height())
+                            .arg(window.minimumSizeHint().width())
+                            .arg(window.minimumSizeHint().height())));
 }
 
 void tst_MainWindow::droppedFilesAreOpened()
