@@ -2,8 +2,8 @@
 // The browser on a connected device, offscreen.
 //
 // Opening: from the request to the shown tree of a device that the driver has discovered, over
-// fromStream() and the building of the tree for the same bytes ("ratio", limit 2). "driver_ms" is the
-// driver's share: its answer.
+// fromStream() and the building of the tree for the same bytes ("ratio", limit 2). "driver_ms" is
+// the driver's share: its answer.
 //
 // Latency: from the change of a value in a simulated IED over a report to the repainted cell, at
 // 2,000 changes a second; a change that was overtaken by a newer one of its value counts until that
@@ -25,6 +25,8 @@
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QThread>
+#include <QtGui/QPaintEvent>
+#include <QtGui/QRegion>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QTreeView>
 
@@ -244,13 +246,12 @@ public:
     {
         m_shown.fill(-1);
         tree.viewport()->installEventFilter(this);
-        QObject::connect(tree.model(), &QAbstractItemModel::dataChanged, this,
-                         [this](const QModelIndex &first) {
-                             const DataAttribute *attribute =
-                                 IEDModel::nodeAt(first)->dataAttribute();
-                             if (attribute && attribute->value.isValid())
-                                 m_waiting.push_back(qRound(attribute->value.toDouble()));
-                         });
+        QObject::connect(
+            tree.model(), &QAbstractItemModel::dataChanged, this, [this](const QModelIndex &first) {
+                const DataAttribute *attribute = IEDModel::nodeAt(first)->dataAttribute();
+                if (attribute && attribute->value.isValid())
+                    m_waiting.push_back({first, qRound(attribute->value.toDouble())});
+            });
     }
 
     bool isComplete() const { return m_latencies.size() == std::size_t(changes - members); }
@@ -266,7 +267,13 @@ private:
         QCoreApplication::sendEvent(m_tree.viewport(), event);
         m_tree.viewport()->installEventFilter(this);
         const auto now = Clock::now();
-        for (const int change : m_waiting) {
+        const QRegion region = static_cast<const QPaintEvent *>(event)->region();
+        const auto left =
+            std::stable_partition(m_waiting.begin(), m_waiting.end(), [&](const Waiting &waiting) {
+                return region.intersects(m_tree.visualRect(waiting.cell));
+            });
+        for (auto waiting = m_waiting.begin(); waiting != left; ++waiting) {
+            const int change = waiting->change;
             int &shown = m_shown[std::size_t(change % members)];
             // The first round sets values that the device may have had before.
             for (int each = std::max(shown + members, change % members + members); each <= change;
@@ -276,13 +283,19 @@ private:
             }
             shown = std::max(shown, change);
         }
-        m_waiting.clear();
+        m_waiting.erase(m_waiting.begin(), left);
         return true;
     }
 
+    struct Waiting
+    {
+        QModelIndex cell;
+        int change;
+    };
+
     QTreeView &m_tree;
     const Changer &m_changer;
-    std::vector<int> m_waiting;
+    std::vector<Waiting> m_waiting;
     std::array<int, members> m_shown{};
     std::vector<double> m_latencies;
 };
@@ -311,9 +324,8 @@ void latency(benchmark::State &state)
             return;
         }
         std::shared_ptr<Changer> changer;
-        host.ied().act([&](sim::Device &simulated) {
-            changer = std::make_shared<Changer>(simulated);
-        });
+        host.ied().act(
+            [&](sim::Device &simulated) { changer = std::make_shared<Changer>(simulated); });
         Painted painted(*tree, *changer);
         host.ied().act([&](sim::Device &) { changer->start(); });
 

@@ -3,56 +3,69 @@
 
 #include <QtCore/QFile>
 #include <QtCore/QXmlStreamReader>
-#include <QtXml/QDomDocument>
 
 namespace {
 
-QString firstAttribute(const QDomElement &element)
+using Enumerations = QHash<QString, QList<SclTemplateStore::Entry>>;
+
+QString firstAttribute(const QXmlStreamAttributes &attributes)
 {
-    return element.attributes().item(0).nodeValue();
+    return attributes.isEmpty() ? QString() : attributes.first().value().toString();
 }
 
-QList<SclTemplateStore::Entry> readEntries(const QDomElement &enumeration)
+QList<SclTemplateStore::Entry> readEntries(QXmlStreamReader &xml)
 {
     QList<SclTemplateStore::Entry> entries;
-    for (QDomElement value = enumeration.firstChildElement(); !value.isNull();
-         value = value.nextSiblingElement()) {
+    while (xml.readNextStartElement()) {
         // What is no number counts as 0.
-        entries.append({firstAttribute(value).toInt(), value.text()});
+        const int ordinal = firstAttribute(xml.attributes()).toInt();
+        const QString text = xml.readElementText(QXmlStreamReader::IncludeChildElements);
+        entries.append({ordinal, text.trimmed().isEmpty() ? QString() : text});
     }
     return entries;
+}
+
+/// Nothing at all from a file that is malformed anywhere. The file describes much more than
+/// enumerations: it is read in passing and not kept as a document.
+Enumerations readFile(const QString &path)
+{
+    Enumerations enumerations;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return enumerations;
+    QXmlStreamReader xml(&file);
+    const bool isTemplate =
+        xml.readNextStartElement() && xml.qualifiedName() == QLatin1String("DataTypeTemplate");
+    while (isTemplate && xml.readNextStartElement()) {
+        const QXmlStreamAttributes attributes = xml.attributes();
+        if (xml.qualifiedName() == QLatin1String("EnumType") &&
+            !attributes.value(QLatin1String("id")).isEmpty()) {
+            const QString id = firstAttribute(attributes);
+            enumerations.insert(id, readEntries(xml));
+        } else {
+            xml.skipCurrentElement();
+        }
+    }
+    while (!xml.atEnd())
+        xml.readNext();
+    return xml.hasError() ? Enumerations() : enumerations;
 }
 
 } // namespace
 
 SclTemplateStore::SclTemplateStore()
 {
-    load(QStringLiteral(":/850Ext/model/61850Details EDITION 2.xml"));
+    // Every browser window has a store, and all of them the same content.
+    static const Enumerations compiledIn =
+        readFile(QStringLiteral(":/850Ext/model/61850Details EDITION 2.xml"));
+    m_enumerations = compiledIn;
 }
 
 SclTemplateStore::~SclTemplateStore() = default;
 
 void SclTemplateStore::load(const QString &path)
 {
-    m_enumerations.clear();
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return;
-    // The same document as from the file itself, in about half the time.
-    QXmlStreamReader reader(file.readAll());
-    QDomDocument document;
-    if (!document.setContent(&reader, true))
-        return;
-    const QDomElement templates = document.firstChildElement(QStringLiteral("DataTypeTemplate"));
-    const QString enumerationTag = QStringLiteral("EnumType");
-    for (QDomElement element = templates.firstChildElement(); !element.isNull();
-         element = element.nextSiblingElement()) {
-        if (element.nodeName() != enumerationTag ||
-            element.attribute(QStringLiteral("id")).isEmpty()) {
-            continue;
-        }
-        m_enumerations.insert(firstAttribute(element), readEntries(element));
-    }
+    m_enumerations = readFile(path);
 }
 
 bool SclTemplateStore::hasEnumeration(const QString &id) const

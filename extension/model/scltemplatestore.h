@@ -6,8 +6,8 @@
 #include <QtCore/QString>
 
 /// Enumerations of IEC 61850-7-3 and 7-4 as the compiled-in data type templates list them, for
-/// devices whose own model does not carry the texts. Read once, at construction; afterwards
-/// constant. Reports nothing: from a missing or malformed resource nothing is taken, and every
+/// devices whose own model does not carry the texts. Read when the first store is made, and shared
+/// by all. Reports nothing: from a missing or malformed resource nothing is taken, and every
 /// enumeration is then unknown.
 class SclTemplateStore
 {
