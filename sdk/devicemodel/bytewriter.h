@@ -10,6 +10,8 @@
 #include <QtCore/QVariant>
 #include <QtCore/QtEndian>
 
+#include <cstddef>
+#include <cstring>
 #include <type_traits>
 
 /// Writes to memory what QDataStream would write (version Qt_5_12, big endian, double precision).
@@ -24,18 +26,16 @@ public:
         m_other.open(QIODevice::WriteOnly);
     }
 
-    const QByteArray &bytes() const { return m_bytes; }
+    const char *data() const { return m_bytes.constData(); }
+    int size() const { return m_size; }
 
     template <typename Number, typename = std::enable_if_t<std::is_arithmetic<Number>::value>>
     ByteWriter &operator<<(Number number)
     {
-        if constexpr (std::is_same<Number, bool>::value) {
-            m_bytes.append(number ? '\1' : '\0');
-        } else {
-            char bytes[sizeof(Number)];
-            qToBigEndian(number, bytes);
-            m_bytes.append(bytes, sizeof bytes);
-        }
+        if constexpr (std::is_same<Number, bool>::value)
+            *take(1) = number ? '\1' : '\0';
+        else
+            qToBigEndian(number, take(sizeof(Number)));
         return *this;
     }
 
@@ -43,11 +43,14 @@ public:
     {
         if (text.isNull())
             return *this << quint32(0xFFFFFFFF);
-        const int size = text.size() * 2;
-        *this << static_cast<quint32>(size);
-        const int begin = m_bytes.size();
-        m_bytes.resize(begin + size);
-        qToBigEndian<quint16>(text.utf16(), text.size(), m_bytes.data() + begin);
+        const int size = text.size();
+        const int bytes = size * int(sizeof(QChar));
+        char *to = take(int(sizeof(quint32)) + bytes);
+        qToBigEndian(static_cast<quint32>(bytes), to);
+        to += sizeof(quint32);
+        const QChar *from = text.constData();
+        for (int i = 0; i < size; ++i)
+            qToBigEndian(from[i].unicode(), to + i * int(sizeof(QChar)));
         return *this;
     }
 
@@ -77,17 +80,30 @@ public:
             const StreamSettings settings(stream);
             stream << value;
         }
-        m_bytes.append(m_otherBytes.constData(), static_cast<int>(m_other.pos()));
+        const int size = static_cast<int>(m_other.pos());
+        std::memcpy(take(size), m_otherBytes.constData(), static_cast<std::size_t>(size));
         return *this;
     }
 
 private:
-    ByteWriter &header(const QVariant &value)
+    /// Room for that many bytes at the end.
+    char *take(int size)
     {
-        return *this << static_cast<quint32>(value.userType()) << static_cast<qint8>(value.isNull());
+        const int begin = m_size;
+        m_size += size;
+        if (m_size > m_bytes.size())
+            m_bytes.resize(qMax(m_size, m_bytes.size() * 2));
+        return m_bytes.data() + begin;
     }
 
-    QByteArray m_bytes;
+    ByteWriter &header(const QVariant &value)
+    {
+        return *this << static_cast<quint32>(value.userType())
+                     << static_cast<qint8>(value.isNull());
+    }
+
+    QByteArray m_bytes; ///< the first m_size of them are written
+    int m_size = 0;
     QByteArray m_otherBytes;
     QBuffer m_other; ///< for what comes seldom
 };

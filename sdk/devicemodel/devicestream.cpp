@@ -276,7 +276,7 @@ private:
 class DeviceWriter
 {
 public:
-    const QByteArray &bytes() const { return m_out.bytes(); }
+    const ByteWriter &out() const { return m_out; }
     /// Whether something is nested too deeply to be written.
     bool hasLeftOut() const { return m_leftOut; }
 
@@ -416,7 +416,7 @@ void DeviceStream::write(QDataStream &stream, const PhysicalDevice &device)
 {
     DeviceWriter writer;
     writer.write(device);
-    stream.writeRawData(writer.bytes().constData(), writer.bytes().size());
+    stream.writeRawData(writer.out().data(), writer.out().size());
     // Not before the end: a stream takes no more bytes once its status is bad.
     if (writer.hasLeftOut())
         stream.setStatus(QDataStream::WriteFailed);
