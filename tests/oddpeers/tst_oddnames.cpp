@@ -285,6 +285,8 @@ public:
         m_server.reset();
         m_work.reset();
         m_thread.join();
+        // They keep the association, which must not outlive the context it runs in.
+        tables.reset();
     }
 
     void serve()
