@@ -5,6 +5,7 @@
 #include "mms/loopback.h"
 
 #include <asio/co_spawn.hpp>
+#include <asio/post.hpp>
 #include <asio/use_future.hpp>
 #include <gtest/gtest.h>
 
@@ -326,6 +327,9 @@ protected:
         // The device may hold associations that hold the loop.
         device.reset();
     }
+
+    /// What the loop has done with members of a test is seen by the end of the test.
+    void TearDown() override { asio::post(executor(), asio::use_future).get(); }
 
     std::uint16_t serve()
     {

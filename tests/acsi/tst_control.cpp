@@ -70,10 +70,10 @@ protected:
 
     void TearDown() override
     {
-        if (!control)
-            return;
         // In the strand, like every use of it.
-        asio::co_spawn(client->strand(), release(), asio::use_future).get();
+        if (control)
+            asio::co_spawn(client->strand(), release(), asio::use_future).get();
+        DeviceTest::TearDown();
     }
 
     ControlRequest request(std::uint8_t ctlNum = 7)

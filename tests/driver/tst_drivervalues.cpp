@@ -84,12 +84,14 @@ void tst_DriverValues::readValuesArePublishedLeafByLeaf()
                mms::Data::bitString(mms::BitString::fromText("10")));
     QCOMPARE(m_driver->readVariable(1, "BAY1E1CTRL", {"QA1XCBR1$ST$Pos"}, m_error),
              OperationSucceeded);
-    QVERIFY(m_listener->waitForValue("BAY1E1CTRL/QA1XCBR1$ST$Pos$stVal", 2));
-    const MMSValue position = m_listener->value("BAY1E1CTRL/QA1XCBR1$ST$Pos$stVal");
+    const QString status = "BAY1E1CTRL/QA1XCBR1$ST$Pos$stVal";
+    // The values that come with the association may hold the same already.
+    QTRY_COMPARE(m_listener->value(status).cause, quint32(PublishCause::Read));
+    const MMSValue position = m_listener->value(status);
+    QCOMPARE(position.value.toInt(), 2);
     QCOMPARE(position.quality.size(), 13);
     QVERIFY(position.timeStamp.contains('T'));
     QCOMPARE(position.deviceNo, 1);
-    QCOMPARE(position.cause, quint32(PublishCause::Read));
     const MMSValue quality = m_listener->value("BAY1E1CTRL/QA1XCBR1$ST$Pos$q");
     QCOMPARE(quality.value.toString(), position.quality);
     QVERIFY(m_listener->value("BAY1E1CTRL/QA1XCBR1$ST$Pos$t").value.toString().endsWith('Z') ||
