@@ -124,6 +124,9 @@ IEDModelView::~IEDModelView()
 
 bool IEDModelView::init()
 {
+    // A service may let the host go on meanwhile, and so may the box.
+    const BrowserWorkings::Use use(m_workings);
+    const QPointer<IEDModelView> self(this);
     QByteArray bytes;
     QString error;
     OperationResult result = OperationSucceeded;
@@ -131,9 +134,10 @@ bool IEDModelView::init()
         const BusyCursor busy;
         result = m_controller.getIEDModel(m_deviceNo, bytes, error);
     }
+    if (!self)
+        return false;
     if (result != OperationSucceeded) {
         // Without a model there is nothing to work with, whatever the reason.
-        const BrowserWorkings::Use use(m_workings);
         reportFailure(this, OperationDriverUnreachable, error, failureTexts());
         return false;
     }

@@ -228,6 +228,8 @@ private slots:
     void destroyedWhileAHostAsks_data();
     void destroyedWhileAHostAsks();
     void destroyedDuringTheBoxOfTheOpening();
+    void destroyedDuringACall_data();
+    void destroyedDuringACall();
     void destroyedWhileNothingIsOpenLeavesNothing();
 
 private:
@@ -342,6 +344,48 @@ void tst_WindowEnds::destroyedDuringTheBoxOfTheOpening()
     QVERIFY(!view->init());
     QVERIFY(driver.finished());
     QVERIFY(!view);
+}
+
+void tst_WindowEnds::destroyedDuringACall_data()
+{
+    QTest::addColumn<QString>("operation");
+    QTest::addColumn<QStringList>("node");
+    QTest::addColumn<QByteArray>("action");
+    QTest::newRow("the model") << "getIEDModel" << QStringList{} << QByteArray();
+    QTest::newRow("a read") << "readVariable" << position << QByteArray("Read");
+    QTest::newRow("a data set is deleted")
+        << "deleteDataSet" << QStringList{"Temporary"} << QByteArray("Delete DataSet");
+    QTest::newRow("a report block")
+        << "getBRCBValues" << block << QByteArray("Open Report Control");
+    QTest::newRow("a setting group block")
+        << "getSGCB" << settingGroups << QByteArray("Open Setting Group Control");
+}
+
+void tst_WindowEnds::destroyedDuringACall()
+{
+    QFETCH(QString, operation);
+    QFETCH(QStringList, node);
+    QFETCH(QByteArray, action);
+    BrowserFixture fixture;
+    QPointer<IEDModelView> view;
+    // A driver that lets the host go on while it waits for its device.
+    fixture.service->setOnCall([&](const RecordingDriverService::Call &call) {
+        if (call.operation == operation)
+            delete view;
+    });
+    if (action.isEmpty()) {
+        fixture.service->model = deviceBytes(*fixture.device);
+        view = new IEDModelView(1, 2, 0, &fixture.context, nullptr);
+        QVERIFY(!view->init());
+    } else {
+        view = fixture.open().release();
+        BrowserFixture::select(*view, node);
+        // A window would block here.
+        trigger(*view, action);
+    }
+    QVERIFY(!view);
+    QCOMPARE(fixture.service->operations().last(), operation);
+    QCOMPARE(shownWindows(), QWidgetList());
 }
 
 void tst_WindowEnds::destroyedWhileNothingIsOpenLeavesNothing()
