@@ -106,18 +106,20 @@ void WaitingCalls::run(const ControllerCall &call, const std::function<void()> &
     });
     if (isDone.wait_for(m_patience) != std::future_status::ready) {
         const QString name = m_deviceName(call.deviceNo);
-        WaitingDialog dialog(
+        // Not on the stack: with the window it goes, however long the call still takes.
+        const QPointer<WaitingDialog> dialog(new WaitingDialog(
             tr("Waiting for %1").arg(name),
             tr("%1 has not answered yet (%2).").arg(name, call.operation),
             tr("Cancelling. What the device was asked before may still be done."),
-            [this, deviceNo = call.deviceNo] { m_cancel(deviceNo); }, m_window);
+            [this, deviceNo = call.deviceNo] { m_cancel(deviceNo); }, m_window));
         QApplication::setOverrideCursor(Qt::ArrowCursor);
-        dialog.show();
+        dialog->show();
         // A program that is about to end runs no loop any more.
         if (isDone.wait_for(std::chrono::seconds(0)) != std::future_status::ready &&
             loop.exec() != 0)
             isDone.wait();
         QApplication::restoreOverrideCursor();
+        delete dialog;
     }
     thread.join();
 }

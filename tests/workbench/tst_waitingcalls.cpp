@@ -36,6 +36,7 @@ private slots:
     void aSlowCallCanBeCancelled_data();
     void aSlowCallCanBeCancelled();
     void theWindowGoesWhenTheDeviceAnswers();
+    void theWindowBelowMayBeDestroyedMeanwhile();
     void callsOfOtherThreadsAreNotTouched();
 
 private:
@@ -166,6 +167,22 @@ void tst_WaitingCalls::theWindowGoesWhenTheDeviceAnswers()
     QVERIFY(m_cancelled.isEmpty());
     QVERIFY(!waitingDialog());
     QVERIFY(m_thread != QThread::currentThread());
+}
+
+void tst_WaitingCalls::theWindowBelowMayBeDestroyedMeanwhile()
+{
+    install(atOnce);
+    QPointer<QWidget> window = new QWidget;
+    m_calls->setWindow(window);
+    whenWaiting([&](QDialog *dialog) {
+        QCOMPARE(dialog->parentWidget(), window.data());
+        delete window;
+        QVERIFY(!waitingDialog());
+        m_mayAnswer.release();
+    });
+    QString error;
+    QCOMPARE(m_controller.deleteFile(7, QStringLiteral("a"), error), OperationSucceeded);
+    QVERIFY(m_cancelled.isEmpty());
 }
 
 void tst_WaitingCalls::callsOfOtherThreadsAreNotTouched()
