@@ -21,7 +21,10 @@ SENTENCES = [
     "sdk/propertybrowser/propertyeditors.cpp",
     "sdk/remoteclient/iec61850controllerinterface.cpp",
 ]
-BOXES = r"QMessageBox::(?:warning|information|critical|question)|show(?:Warning|Failure)|report\w*"
+BOXES = (
+    r"QMessageBox::(?:warning|information|critical|question)"
+    r"|show(?:Warning|Failure|Information|FreeInformation)|askWarning|report\w*"
+)
 LITERAL = r'"((?:[^"\\\n]|\\.)*)"'
 
 
