@@ -253,14 +253,20 @@ Client::readList(mms::ObjectName list)
     co_return co_await read(std::move(members->members));
 }
 
+// One variable needs none of what shares out a list among several calls.
 asio::awaitable<mms::Result<mms::Data>> Client::readOne(mms::VariableAccess variable)
 {
+    const auto self = shared_from_this();
     std::vector<mms::VariableAccess> variables;
     variables.push_back(std::move(variable));
-    auto results = co_await read(std::move(variables));
-    if (!results)
-        co_return results.error();
-    mms::AccessResult &result = results->front();
+    CallOutcome outcome = co_await call(readRequest(std::move(variables)));
+    ReadAnswer answer = readAnswer(std::move(outcome), 1);
+    if (answer.kind != ReadAnswer::Kind::Results) {
+        if (answer.kind == ReadAnswer::Kind::Ended && !m_open && !m_closeReason.empty())
+            answer.reason = m_closeReason;
+        co_return mms::Error{std::move(answer.reason), 0};
+    }
+    mms::AccessResult &result = answer.results.front();
     if (!result.ok())
         co_return mms::Error{mms::describe(result.error()), 0};
     co_return std::move(result).data();

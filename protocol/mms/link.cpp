@@ -18,6 +18,8 @@ namespace {
 
 constexpr auto asTuple = asio::experimental::as_tuple(asio::use_awaitable);
 constexpr std::size_t readPortion = 16 * 1024;
+/// What is sent within it is part of a stream, whose PDUs go out together.
+constexpr std::chrono::milliseconds streamPause{1};
 
 template <typename Event>
 constexpr bool endsAssociation = std::is_same_v<Event, AssociateRefused>
@@ -417,6 +419,25 @@ std::function<void(std::exception_ptr)> Link::ending()
     };
 }
 
+/// The first PDU after a silence goes out without a coroutine and a timer, which cost more than the
+/// sending, with somebody waiting. False when something is left for writeLoop().
+bool Link::sendAtOnce()
+{
+    const auto now = std::chrono::steady_clock::now();
+    const bool wasSilent = now - std::exchange(m_lastSent, now) >= streamPause;
+    if (!wasSilent || m_closeWhenSent || !m_queueWatches.empty())
+        return false;
+    const std::size_t count = m_stream.writeAtOnce(asio::buffer(m_queue));
+    if (count < m_queue.size()) {
+        m_queue.erase(m_queue.begin(), m_queue.begin() + static_cast<std::ptrdiff_t>(count));
+        return false;
+    }
+    m_queue.clear();
+    if (m_queue.capacity() > readPortion)
+        Octets().swap(m_queue);
+    return true;
+}
+
 void Link::startWriting()
 {
     m_isWriting = true;
@@ -433,7 +454,7 @@ void Link::apply(StackOutput output)
     if (output.closeNetwork)
         m_closeWhenSent = true;
     const bool saysGoodbye = m_closeWhenSent && m_stream.isSecure();
-    if ((!m_queue.empty() || saysGoodbye) && !m_isWriting)
+    if ((!m_queue.empty() || saysGoodbye) && !m_isWriting && !sendAtOnce())
         startWriting();
     for (StackEvent &event : output.events)
         deliver(std::move(event));

@@ -124,6 +124,7 @@ private:
     void disarm(Watch watch);
     asio::steady_timer &timerOf(Watch watch);
     void tellQueued();
+    bool sendAtOnce();
     void startWriting();
     std::function<void(std::exception_ptr)> ending();
     void closeSocket();
@@ -145,6 +146,7 @@ private:
     Octets m_queue;
     Octets m_writing;
     std::vector<QueueWatch> m_queueWatches;
+    std::chrono::steady_clock::time_point m_lastSent;
     bool m_isWriting = false;
     bool m_closeWhenSent = false;
     bool m_resetWhenSent = false;

@@ -189,6 +189,18 @@ asio::awaitable<asio::error_code> NetworkStream::write(asio::const_buffer buffer
     co_return error;
 }
 
+std::size_t NetworkStream::writeAtOnce(asio::const_buffer buffer)
+{
+    if (m_tls)
+        return 0;
+    asio::error_code error;
+    // Otherwise the socket would wait for room.
+    if (!m_socket.non_blocking())
+        m_socket.non_blocking(true, error);
+    const std::size_t count = error ? 0 : m_socket.write_some(buffer, error);
+    return error ? 0 : count;
+}
+
 asio::awaitable<void> NetworkStream::shutdown()
 {
     if (m_tls && m_socket.is_open())

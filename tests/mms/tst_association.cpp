@@ -4,9 +4,11 @@
 
 #include <asio/co_spawn.hpp>
 #include <asio/detached.hpp>
+#include <asio/post.hpp>
 
 #include <future>
 #include <stdexcept>
+#include <thread>
 
 using namespace mmstest;
 
@@ -265,6 +267,66 @@ TEST_F(AssociationTest, AServerCutsOffAPeerThatDoesNotReadAnswers)
     }
     peer.send(requests);
     EXPECT_EQ(m_device->end.get(), "The peer does not read what it is sent.");
+}
+
+TEST_F(AssociationTest, TheFirstCallAfterASilenceIsOnItsWayBeforeTheCallerGoesOn)
+{
+    RawPeer peer;
+    Stack stack(Stack::Role::Responder, {});
+    connectToRawPeer(peer, stack);
+    std::this_thread::sleep_for(20ms); // the silence
+    std::promise<void> arrived;
+    Awaited<bool> wasInTime;
+    // While this holds the only thread, nothing but the call itself can send.
+    asio::post(m_loop.executor(),
+               [this, hasArrived = arrived.get_future().share(), set = wasInTime.setter()] {
+                   m_client->call(IdentifyRequest(), 20s, [](const CallOutcome &) {});
+                   set(hasArrived.wait_for(10s) == std::future_status::ready);
+               });
+    std::vector<StackEvent> events;
+    ASSERT_TRUE(peer.feed(stack, events));
+    arrived.set_value();
+    EXPECT_TRUE(wasInTime.get());
+    EXPECT_TRUE(std::holds_alternative<PduIndication>(events.front()));
+}
+
+TEST_F(AssociationTest, WhatTheNetworkDoesNotTakeAtOnceFollowsWhole)
+{
+    // More than the buffers of both ends hold.
+    constexpr std::int32_t pduSize = 14000000;
+    RawPeer peer;
+    StackOptions patient;
+    patient.transport.maxMessage = static_cast<std::size_t>(pduSize);
+    Stack stack(Stack::Role::Responder, patient);
+    AssociationOptions options = quickOptions();
+    options.maxPduSize = pduSize;
+    m_client = Association::create(m_loop.executor(), options, {});
+    Awaited<Result<InitiateParameters>> opened;
+    m_client->connect("127.0.0.1", peer.port(), opened.setter());
+    acceptByHand(peer, stack);
+    ASSERT_TRUE(opened.get().ok());
+    std::this_thread::sleep_for(20ms); // the silence
+    Octets octets(13000000);
+    for (std::size_t i = 0; i < octets.size(); ++i)
+        octets[i] = static_cast<std::uint8_t>(i % 251);
+    const WriteRequest request{variablesOf("LD", {"a"}), {Data::octetString(octets)}};
+    Awaited<CallOutcome> first;
+    Awaited<CallOutcome> second;
+    m_client->call(request, 20s, first.setter());
+    m_client->call(IdentifyRequest(), 20s, second.setter());
+    std::vector<Pdu> arrived;
+    while (arrived.size() < 2) {
+        std::vector<StackEvent> events;
+        ASSERT_TRUE(peer.feed(stack, events));
+        for (const StackEvent &event : events) {
+            auto pdu = decodePdu(std::get<PduIndication>(event).pdu);
+            ASSERT_TRUE(pdu.ok());
+            arrived.push_back(*std::move(pdu));
+        }
+    }
+    EXPECT_EQ(std::get<WriteRequest>(std::get<ConfirmedRequestPdu>(arrived[0]).request), request);
+    EXPECT_TRUE(std::holds_alternative<IdentifyRequest>(
+        std::get<ConfirmedRequestPdu>(arrived[1]).request));
 }
 
 TEST_F(AssociationTest, GarbageInsteadOfAnAssociationIsCutOff)
