@@ -6,6 +6,7 @@
 
 #include <devicemodel/physicaldevice.h>
 
+#include <QtCore/QRegularExpression>
 #include <QtCore/QStringList>
 
 namespace {
@@ -33,6 +34,56 @@ QString wordsOf(const PhysicalDevice &device, const DataAttribute *attribute, co
     const QString name =
         isNumber ? ValueWords::entries(device, *attribute).value(ordinal) : QString();
     return name.isEmpty() ? QString() : withRaw(name, raw);
+}
+
+/// What the bits of a report control block's attribute are called (IEC 61850-6), from the second
+/// on; empty for other attributes.
+QStringList bitNames(const QString &attribute)
+{
+    if (attribute == QLatin1String("TrgOps")) {
+        return {QStringLiteral("dchg"), QStringLiteral("qchg"), QStringLiteral("dupd"),
+                QStringLiteral("period"), QStringLiteral("gi")};
+    }
+    if (attribute == QLatin1String("OptFlds")) {
+        return {QStringLiteral("seqNum"),     QStringLiteral("timeStamp"),
+                QStringLiteral("reasonCode"), QStringLiteral("dataSet"),
+                QStringLiteral("dataRef"),    QStringLiteral("bufOvfl"),
+                QStringLiteral("entryID"),    QStringLiteral("configRef")};
+    }
+    return {};
+}
+
+QString bitWords(const QStringList &names, const QString &bits)
+{
+    QStringList set;
+    for (int i = 0; i < names.size() && i + 1 < bits.size(); ++i) {
+        if (bits.at(i + 1) == QLatin1Char('1'))
+            set.append(names.at(i));
+    }
+    return set.isEmpty() ? QStringLiteral("none") : set.join(QLatin1Char(' '));
+}
+
+/// The words for what a report control block was set to: one attribute, or several as "name=value".
+QString blockWords(const QString &reference, const QString &raw)
+{
+    static const QRegularExpression bits(QStringLiteral("^'?([01]+)(?:'B)?$"));
+    const QStringList names = bitNames(reference.section(QLatin1Char('$'), -1));
+    if (!names.isEmpty())
+        return bits.match(raw).hasMatch()
+                   ? withRaw(bitWords(names, bits.match(raw).captured(1)), raw)
+                   : QString();
+    static const QRegularExpression pairs(QStringLiteral("\\b(TrgOps|OptFlds)=([01]+)"));
+    QString words = raw;
+    auto found = pairs.globalMatch(raw);
+    int moved = 0;
+    while (found.hasNext()) {
+        const QRegularExpressionMatch match = found.next();
+        const QString said =
+            withRaw(bitWords(bitNames(match.captured(1)), match.captured(2)), match.captured(2));
+        words.replace(match.capturedStart(2) + moved, match.capturedLength(2), said);
+        moved += said.size() - match.capturedLength(2);
+    }
+    return moved == 0 ? QString() : words;
 }
 
 /// What tells the state of the object that "LD/LN$CO$Pos" commands.
@@ -127,6 +178,12 @@ void ValueWords::describe(DeviceChange &change, const PhysicalDevice &device)
         const DataAttribute *const status = statusOf(device, change.reference);
         change.oldWords = wordsOf(device, status, change.oldValue);
         change.newWords = commandWords(device, status, change.newValue);
+        return;
+    }
+    if (change.operation == QLatin1String("writeValue") ||
+        change.operation == QLatin1String("enableReportBlock")) {
+        change.oldWords = blockWords(change.reference, change.oldValue);
+        change.newWords = blockWords(change.reference, change.newValue);
         return;
     }
     const DataAttribute *attribute = device.findTag(change.reference);

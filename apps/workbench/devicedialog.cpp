@@ -7,6 +7,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QLocale>
+#include <QtCore/QTimer>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QStyle>
 
@@ -98,9 +99,12 @@ DeviceDialog::DeviceDialog(const DeviceRecord &record, Save save, Test test, Bac
     connect(m_ui->ied, &QLineEdit::textChanged, this, &DeviceDialog::suggestName);
     suggestName();
     const auto showWarning = [this](bool accepts) {
-        m_ui->otherNamesWarning->setVisible(accepts);
+        // No layout above asks a tab how high it is at its width.
+        QLabel *const warning = m_ui->otherNamesWarning;
+        warning->setMinimumHeight(warning->heightForWidth(m_ui->tlsForm->minimumSize().width()));
+        warning->setVisible(accepts);
         m_ui->peerName->setDisabled(accepts);
-        makeRoom();
+        QTimer::singleShot(0, this, &DeviceDialog::makeRoom);
     };
     connect(m_ui->acceptsOtherNames, &QCheckBox::toggled, this, showWarning);
     showWarning(m_ui->acceptsOtherNames->isChecked());
@@ -302,7 +306,8 @@ void DeviceDialog::makeRoom()
     m_ui->faultsLayout->activate();
     m_ui->faultsFrame->updateGeometry();
     layout()->activate();
-    const int needed = layout()->totalHeightForWidth(width());
+    const int needed =
+        qMax(layout()->totalHeightForWidth(width()), layout()->totalMinimumSize().height());
     if (needed > height())
         resize(width(), needed);
 }

@@ -2,6 +2,9 @@
 #include "toolwindows.h"
 
 #include "confirmationdialog.h"
+#include "devicedialog.h"
+#include "iedchooser.h"
+#include "tracedialog.h"
 
 #include <QtCore/QEvent>
 #include <QtCore/QVariant>
@@ -16,12 +19,16 @@ namespace {
 
 constexpr char deviceProperty[] = "deviceOfToolWindow";
 
-/// Whether the window is a tool's own, which shows or changes what is on a device.
+/// Whether the window is a tool's own, which shows or changes what is on a device; the workbench
+/// may have something to ask while a tool runs.
 bool isTool(const QDialog *window)
 {
     return !qobject_cast<const QMessageBox *>(window) &&
            !qobject_cast<const QFileDialog *>(window) &&
            !qobject_cast<const ConfirmationDialog *>(window) &&
+           !qobject_cast<const DeviceDialog *>(window) &&
+           !qobject_cast<const IedChooser *>(window) &&
+           !qobject_cast<const TraceDialog *>(window) &&
            window->objectName() != QLatin1String("WaitingDialog");
 }
 

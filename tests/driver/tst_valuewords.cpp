@@ -91,6 +91,21 @@ void tst_ValueWords::changesAreSaidInWords_data()
     QTest::newRow("setting") << "setSGCBValues"
                              << "LD0/X1$SE$Dir$setVal" << QStringList{"0", "1"}
                              << QStringList{"status-only (0)", "direct-with-normal-security (1)"};
+    QTest::newRow("trigger options")
+        << "writeValue"
+        << "LD0/LLN0$BR$b01$TrgOps" << QStringList{"'000000'B", "010001"}
+        << QStringList{"none ('000000'B)", "dchg gi (010001)"};
+    QTest::newRow("buffer time") << "writeValue"
+                                 << "LD0/LLN0$BR$b01$BufTm" << QStringList{"50", "125"}
+                                 << QStringList{"", ""};
+    QTest::newRow("report block")
+        << "enableReportBlock"
+        << "LD0/LLN0$BR$b01"
+        << QStringList{"",
+                       "enabled, RptID=a, DatSet=b, TrgOps=010001, OptFlds=0111000000, BufTm=0, "
+                       "IntgPd=0"}
+        << QStringList{"", "enabled, RptID=a, DatSet=b, TrgOps=dchg gi (010001), OptFlds=seqNum "
+                           "timeStamp reasonCode (0111000000), BufTm=0, IntgPd=0"};
     QTest::newRow("nothing known")
         << "writeVariable"
         << "LD0/X9$CF$Mod$ctlModel" << QStringList{"0", "4"} << QStringList{"", ""};

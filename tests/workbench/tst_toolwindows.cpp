@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "workbench/iedchooser.h"
 #include "workbench/toolwindows.h"
 
 #include <QtTest/QtTest>
@@ -63,6 +64,11 @@ void tst_ToolWindows::windowsOfTheHostKeepTheirTitles()
     const auto dialog = make();
     dialog->show();
     QCOMPARE(dialog->windowTitle(), QStringLiteral("Tool"));
+    // A file that was opened before may ask while a tool runs.
+    IedChooser chooser(QStringLiteral("several.scd"), {});
+    const QString title = chooser.windowTitle();
+    m_windows.run(QStringLiteral("BAY1"), [&] { chooser.show(); });
+    QCOMPARE(chooser.windowTitle(), title);
 }
 
 QTEST_MAIN(tst_ToolWindows)

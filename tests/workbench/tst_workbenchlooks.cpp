@@ -7,19 +7,28 @@
 #include "workbench/iedchooser.h"
 #include "workbench/mainwindow.h"
 #include "workbench/tracedialog.h"
+#include "workbench/waitingcalls.h"
 #include "workbench/workbench.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QTimer>
 #include <QtCore/QTranslator>
 #include <QtTest/QtTest>
+#include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QDockWidget>
+#include <QtWidgets/QGroupBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTabWidget>
+
+#include <chrono>
+#include <future>
 
 class tst_WorkbenchLooks : public QObject
 {
@@ -36,6 +45,8 @@ private slots:
     void trace();
     void windowWithItsDocks();
     void windowThatIsReadOnly();
+    void questionBeforeARemoval();
+    void deviceThatIsSlowToAnswer();
 
 private:
     void expectNoFlaws(QWidget &window, const QString &state);
@@ -119,6 +130,10 @@ void tst_WorkbenchLooks::deviceForm()
         tabs->setCurrentIndex(tab);
         expectNoFlaws(dialog, QString("small-%1").arg(tab));
     }
+    dialog.findChild<QGroupBox *>("tls")->setChecked(true);
+    dialog.findChild<QCheckBox *>("acceptsOtherNames")->setChecked(true);
+    tabs->setCurrentWidget(dialog.findChild<QWidget *>("securityTab"));
+    expectNoFlaws(dialog, "other names");
 }
 
 void tst_WorkbenchLooks::deviceFormWithFaultsAndATestResult()
@@ -181,6 +196,42 @@ void tst_WorkbenchLooks::windowWithItsDocks()
         QTRY_VERIFY(!dock->visibleRegion().isEmpty());
         expectNoFlaws(*window, dock->objectName());
     }
+}
+
+void tst_WorkbenchLooks::questionBeforeARemoval()
+{
+    const auto window = makeWindow();
+    m_workbench->simulate(":/workbench/unfinished.icd");
+    QTRY_VERIFY(m_workbench->devices().device(1) && m_workbench->devices().device(1)->isUsable());
+    QTRY_COMPARE(window->selectedDevice(), 1);
+    window->findChild<QAction *>("actionRemove")->trigger();
+    auto *const box = window->findChild<QMessageBox *>("removeQuestion");
+    QVERIFY(box);
+    expectNoFlaws(*box, "question");
+}
+
+void tst_WorkbenchLooks::deviceThatIsSlowToAnswer()
+{
+    std::promise<void> answered;
+    std::future<void> isAnswered = answered.get_future();
+    WaitingCalls calls([](long) {}, std::chrono::milliseconds(0));
+    calls.setDeviceName([](long) { return QStringLiteral("BAY1E1 (3)"); });
+    bool wasShown = false;
+    QTimer poll;
+    connect(&poll, &QTimer::timeout, this, [&] {
+        QWidget *const modal = QApplication::activeModalWidget();
+        if (!modal)
+            return;
+        poll.stop();
+        wasShown = true;
+        expectNoFlaws(*modal, "waiting");
+        answered.set_value();
+    });
+    poll.start(10);
+    ControllerCall call;
+    call.operation = QStringLiteral("getFileDirectory");
+    calls.run(call, [&] { isAnswered.wait(); });
+    QVERIFY(wasShown);
 }
 
 void tst_WorkbenchLooks::windowThatIsReadOnly()
