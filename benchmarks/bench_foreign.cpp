@@ -160,7 +160,7 @@ asio::awaitable<mms::Result<void>> readMany(std::shared_ptr<acsi::Client> client
         if (!values)
             co_return values.error();
         if (!std::ranges::all_of(*values, &mms::AccessResult::ok))
-            co_return mms::Error{"a value is missing", 0};
+            co_return mms::Error{mms::verbatim("a value is missing"), 0};
     }
     co_return mms::Result<void>();
 }
@@ -172,7 +172,7 @@ asio::awaitable<mms::Result<void>> readDataSet(std::shared_ptr<acsi::Client> cli
         if (!values)
             co_return values.error();
         if (values->size() != 10 || !std::ranges::all_of(*values, &mms::AccessResult::ok))
-            co_return mms::Error{"a value is missing", 0};
+            co_return mms::Error{mms::verbatim("a value is missing"), 0};
     }
     co_return mms::Result<void>();
 }
@@ -209,7 +209,7 @@ void singleReadsFiveOutstanding(benchmark::State &state)
                     scene.client()->strand(), readOften(scene.client(), readCount / streams)));
             for (auto &stream : running) {
                 if (const auto done = stream.get(); !done)
-                    throw std::runtime_error(done.error().message);
+                    throw std::runtime_error(done.error().message.english());
             }
         },
         [&] { return theirSingleReads(scene); });

@@ -113,7 +113,7 @@ void idle(benchmark::State &state)
             Server::create(loop.executor(), options, std::make_shared<SilentDevice>());
         const auto port = server->start();
         if (!port) {
-            state.SkipWithError(port.error().message.c_str());
+            state.SkipWithError(port.error().message.english().c_str());
             break;
         }
         const auto memory = mallinfo2().uordblks;
@@ -138,7 +138,7 @@ void idle(benchmark::State &state)
         state.counters["percent_of_a_core"] = benchmark::Counter(
             100.0 * static_cast<double>(std::clock() - used) / CLOCKS_PER_SEC / watched);
         for (const auto &client : clients)
-            client->abort("The end.");
+            client->abort(mms::verbatim("The end."));
         server->stop();
     }
 }

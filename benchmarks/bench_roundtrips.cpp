@@ -279,7 +279,7 @@ double inBusyStream(ClientLoop &loop, const std::shared_ptr<acsi::Client> &clien
     for (auto &stream : streams) {
         const auto seconds = stream.get();
         if (!seconds)
-            throw std::runtime_error(seconds.error().message);
+            throw std::runtime_error(seconds.error().message.english());
         together.insert(together.end(), seconds->begin(), seconds->end());
     }
     return median(std::move(together));

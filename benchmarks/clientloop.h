@@ -39,7 +39,7 @@ public:
     {
         mmstest::Awaited<bool> done;
         asio::post(client->strand(), [client, set = done.setter()] {
-            client->abort("The end.");
+            client->abort(mms::verbatim("The end."));
             set(true);
         });
         done.get();
@@ -77,14 +77,14 @@ private:
     static T value(mms::Result<T> result)
     {
         if (!result)
-            throw std::runtime_error(result.error().message);
+            throw std::runtime_error(result.error().message.english());
         return *std::move(result);
     }
 
     static void value(const mms::Result<void> &result)
     {
         if (!result)
-            throw std::runtime_error(result.error().message);
+            throw std::runtime_error(result.error().message.english());
     }
 
     mmstest::Loop m_loop;

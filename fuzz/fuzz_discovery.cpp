@@ -141,9 +141,9 @@ CallOutcome answer(Material &material, const mms::RequestService &request)
     }
 }
 
-bool isSentence(const std::string &text)
+bool isSentence(const mms::Text &text)
 {
-    return !text.empty() && text.back() == '.';
+    return !text.empty() && text.english().back() == '.';
 }
 
 struct Counted
@@ -184,9 +184,9 @@ void checkLimits(const acsi::ServerDescription &server)
     }
     require(nodes <= limits().nodes);
     require(values <= limits().values);
-    for (const std::string &sentence : server.refused)
+    for (const mms::Text &sentence : server.refused)
         require(isSentence(sentence));
-    for (const std::string &sentence : server.leftOut)
+    for (const mms::Text &sentence : server.leftOut)
         require(isSentence(sentence));
 }
 

@@ -15,7 +15,7 @@ inline QString text(std::string_view utf8)
 
 inline QString withoutPeriod(QString sentence)
 {
-    while (sentence.endsWith(QLatin1Char('.')))
+    while (sentence.endsWith(QLatin1Char('.')) || sentence.endsWith(QChar(0x3002)))
         sentence.chop(1);
     return sentence;
 }

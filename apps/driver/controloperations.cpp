@@ -3,6 +3,7 @@
 #include "controlpart.h"
 #include "driverruntime.h"
 #include "journalentry.h"
+#include "sentences.h"
 #include "valueconversion.h"
 
 #include <remoteclient/controllercaller.h>
@@ -45,7 +46,7 @@ bool isEnhanced(quint8 controlModel)
 
 acsi::ControlResult failed(const QString &sentence)
 {
-    return {false, sentence.toStdString(), {}};
+    return {false, mms::verbatim(sentence.toStdString()), {}};
 }
 
 bool isUnknown(acsi::ControlOutcome outcome)
@@ -141,7 +142,9 @@ public:
         }
         m_request->isOnTheWay = false;
         if (isUnknown(result.outcome)) {
-            result.message += ' ' + Controls::unknownSentence(m_service).toStdString();
+            result.message = wording::sentences(
+                result.message,
+                wording::verbatim(Controls::unknownSentence(m_service).toStdString()));
             m_part.setProblem(m_name, text(result.message));
         } else if (!m_state.isInDoubt()) {
             m_part.setProblem(m_name, QString());
@@ -238,7 +241,7 @@ private:
         if (!opened)
             co_return opened.error();
         if (m_device->client() != m_client)
-            co_return mms::Error{m_device->notConnectedSentence().toStdString(), 0};
+            co_return mms::Error{mms::verbatim(m_device->notConnectedSentence().toStdString()), 0};
         // Another call may have opened it meanwhile.
         if (!m_object.control || m_object.control->client() != m_client) {
             m_object.control = *std::move(opened);

@@ -57,7 +57,7 @@ mms::Result<acsi::ControlRequest> ControlOrder::toRequest(const ControlBlock &bl
                                                           std::uint8_t ctlNum)
 {
     const auto error = [](const QString &sentence) {
-        return mms::Error{sentence.toStdString(), 0};
+        return mms::Error{mms::verbatim(sentence.toStdString()), 0};
     };
     if (!std::isfinite(block.controlValue))
         return error(Texts::tr("The control value is no finite number."));

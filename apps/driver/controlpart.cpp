@@ -2,6 +2,7 @@
 #include "controlpart.h"
 
 #include "controlorder.h"
+#include "sentences.h"
 
 #include <asio/co_spawn.hpp>
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "deviceconfiguration.h"
 
+#include "sentences.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
@@ -91,7 +93,7 @@ void checkTls(QStringList &faults, const TlsConfiguration &tls)
         return;
     const mms::Result<void> result = mms::validate(tls.toOptions());
     if (!result)
-        faults.append(QString::fromStdString(result.error().message));
+        faults.append(text(result.error().message));
 }
 
 std::vector<std::string> encodedNames(const QStringList &files)

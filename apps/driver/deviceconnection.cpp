@@ -3,6 +3,7 @@
 
 #include "connectiontext.h"
 #include "discoveredmodel.h"
+#include "sentences.h"
 #include "settinggroups.h"
 #include "valuewords.h"
 
@@ -108,7 +109,7 @@ Outcome Outcome::failed(const QString &sentence)
 
 Outcome Outcome::failed(const mms::Error &error)
 {
-    return {OperationFailed, QString::fromStdString(error.message)};
+    return {OperationFailed, text(error.message)};
 }
 
 AssociationPart::~AssociationPart() = default;
@@ -231,7 +232,7 @@ void DeviceConnection::leave(const QString &reason)
 void DeviceConnection::fail(const ClientPointer &client, const std::exception_ptr &exception)
 {
     if (exception && !isCancellation(exception))
-        client->abort(internalError(exception).toStdString());
+        client->abort(mms::verbatim(internalError(exception).toStdString()));
 }
 
 void DeviceConnection::disconnect(std::function<void()> left)
@@ -254,7 +255,7 @@ void DeviceConnection::abort()
         if (self->m_readingCancelled)
             *self->m_readingCancelled = true;
         if (self->m_client)
-            self->m_client->abort(Texts::tr("Aborted by the operator.").toStdString());
+            self->m_client->abort(mms::verbatim(Texts::tr("Aborted by the operator.").toStdString()));
         self->wake();
     });
 }
@@ -263,7 +264,7 @@ void DeviceConnection::cutOff()
 {
     asio::post(m_strand, [self = shared_from_this()] {
         if (self->m_client)
-            self->m_client->abort(Texts::tr("Aborted by the operator.").toStdString());
+            self->m_client->abort(mms::verbatim(Texts::tr("Aborted by the operator.").toStdString()));
         self->wake();
     });
 }
@@ -481,7 +482,7 @@ acsi::ClientOptions DeviceConnection::clientOptions() const
     return options;
 }
 
-void DeviceConnection::associationEnded(const std::string &reason)
+void DeviceConnection::associationEnded(const mms::Text &reason)
 {
     m_endReason = text(reason);
     wake();
@@ -491,7 +492,7 @@ asio::awaitable<void> DeviceConnection::attempt(std::shared_ptr<DeviceConnection
                                                 std::shared_ptr<Attempt> attempt)
 {
     const std::weak_ptr<DeviceConnection> weak = self;
-    const auto closed = [weak](const std::string &reason) {
+    const auto closed = [weak](const mms::Text &reason) {
         if (const auto connection = weak.lock())
             connection->associationEnded(reason);
     };
@@ -501,7 +502,7 @@ asio::awaitable<void> DeviceConnection::attempt(std::shared_ptr<DeviceConnection
         self->m_strand, std::move(host), port, self->clientOptions(), closed);
     if (attempt->isAbandoned) {
         if (result)
-            (*result)->abort("Nobody wants the association any more.");
+            (*result)->abort(mms::say("Nobody wants the association any more."));
         co_return;
     }
     attempt->result.emplace(std::move(result));
@@ -546,16 +547,16 @@ asio::awaitable<void> DeviceConnection::live()
 asio::awaitable<QString> DeviceConnection::associate()
 {
     const auto state = std::make_shared<Attempt>();
-    asio::co_spawn(
-        m_strand, attempt(shared_from_this(), state),
-        asio::bind_cancellation_slot(
-            state->cancel.slot(),
-            [self = shared_from_this(), state](const std::exception_ptr &exception) {
-                if (!exception || state->result)
-                    return;
-                state->result.emplace(mms::Error{internalError(exception).toStdString(), 0});
-                self->wake();
-            }));
+    asio::co_spawn(m_strand, attempt(shared_from_this(), state),
+                   asio::bind_cancellation_slot(
+                       state->cancel.slot(),
+                       [self = shared_from_this(), state](const std::exception_ptr &exception) {
+                           if (!exception || state->result)
+                               return;
+                           state->result.emplace(mms::Error{
+                               mms::verbatim(internalError(exception).toStdString()), 0});
+                           self->wake();
+                       }));
     while (!state->result && isWanted())
         co_await pause(m_configuration.connectTimeout);
     if (!state->result) {
@@ -588,7 +589,7 @@ void DeviceConnection::dissociate(const QString &reason)
     if (!client)
         return;
     if (client->isOpen())
-        client->abort(reason.toStdString());
+        client->abort(mms::verbatim(reason.toStdString()));
     m_modelReady = false;
     m_identity = {};
     valuesAreLost();
@@ -646,9 +647,10 @@ asio::awaitable<void> DeviceConnection::watchOver(ClientPointer client)
                                             "behind them.")
                                 : QString());
         if (judgement == SignOfLife::Judgement::Silent) {
-            client->abort(Texts::tr("The device has not answered for %1 seconds.")
-                              .arg(seconds(m_configuration.callTimeout))
-                              .toStdString());
+            client->abort(
+                mms::verbatim(Texts::tr("The device has not answered for %1 seconds.")
+                                  .arg(seconds(m_configuration.callTimeout))
+                                  .toStdString()));
         } else if (!failure) {
             const auto time =
                 std::chrono::duration_cast<std::chrono::microseconds>(steady_clock::now() - now);

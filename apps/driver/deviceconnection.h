@@ -300,7 +300,7 @@ private:
     void updateStatus(const std::function<void(DeviceStatus &)> &change);
     void wake();
     acsi::ClientOptions clientOptions() const;
-    void associationEnded(const std::string &reason);
+    void associationEnded(const mms::Text &reason);
 
     const DeviceConfiguration m_configuration;
     const ConnectionEnvironment m_environment;

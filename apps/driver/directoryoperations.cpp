@@ -2,6 +2,7 @@
 #include "driverruntime.h"
 
 #include "discoveredmodel.h"
+#include "sentences.h"
 
 #include "acsi/dataset.h"
 #include "acsi/functionalconstraint.h"
@@ -126,7 +127,7 @@ asio::awaitable<Outcome> listData(DevicePointer device, Entries entries, QString
         if (listed)
             continue;
         const QString reason = text(listed.error().message);
-        failures.append(Texts::tr("%1: %2").arg(each, reason));
+        failures.append(reason.contains(each) ? reason : Texts::tr("%1: %2").arg(each, reason));
         NameVaildValue entry;
         entry.name = each;
         entry.valid = false;
@@ -449,11 +450,10 @@ OperationResult IedDriver::getSGCBBlock(long deviceNo, const QString &ldName,
                                         QList<NameVaildValue> &list, QString &error)
 {
     const auto entries = std::make_shared<QList<NameVaildValue>>();
-    return given(m_runtime->run(
-                     deviceNo, Runtime::Effect::Reads, error,
-                     [entries, ldName](DevicePointer device) {
-                         return listSettingGroups(std::move(device), entries, ldName);
-                     }),
+    return given(m_runtime->run(deviceNo, Runtime::Effect::Reads, error,
+                                [entries, ldName](DevicePointer device) {
+                                    return listSettingGroups(std::move(device), entries, ldName);
+                                }),
                  entries, list);
 }
 

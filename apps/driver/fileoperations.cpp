@@ -2,6 +2,7 @@
 #include "driverruntime.h"
 #include "filenames.h"
 #include "journalentry.h"
+#include "sentences.h"
 #include "transferpace.h"
 
 #include "acsi/files.h"
@@ -181,7 +182,7 @@ asio::awaitable<Outcome> fetch(DevicePointer device, QString name,
         return !isTooLarge && !isTooSlow;
     };
     QString notClosed;
-    const auto keep = [&notClosed](const std::string &reason) { notClosed = text(reason); };
+    const auto keep = [&notClosed](const mms::Text &reason) { notClosed = text(reason); };
     const auto fetched =
         co_await acsi::download(device->client(), FileNames::onDevice(name), take, announced, keep);
     device->setProblem(QStringLiteral("files"),
@@ -229,7 +230,7 @@ asio::awaitable<Outcome> remove(DevicePointer device, QString name)
 mms::Result<acsi::FileSource> sourceOf(const QString &localFile)
 {
     const auto error = [](const QString &sentence) {
-        return mms::Error{sentence.toStdString(), 0};
+        return mms::Error{mms::verbatim(sentence.toStdString()), 0};
     };
     if (localFile.isEmpty())
         return error(Texts::tr("There is no file to send."));

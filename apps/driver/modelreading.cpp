@@ -7,6 +7,7 @@
 #include "discoveredmodel.h"
 #include "filechoice.h"
 #include "sclimport.h"
+#include "sentences.h"
 
 #include "acsi/reportblock.h"
 #include "acsi/settinggroup.h"
@@ -138,7 +139,7 @@ asio::awaitable<QString> DeviceConnection::getReady(ClientPointer client)
         m_triggers.clear();
         m_knowsTriggers.clear();
     }
-    const std::vector<std::string> &leftOut = m_model->description().leftOut;
+    const std::vector<mms::Text> &leftOut = m_model->description().leftOut;
     QStringList sentences;
     for (std::size_t i = 0; i < leftOut.size() && i < namedOmissions; ++i)
         sentences.append(text(leftOut[i]));
@@ -205,9 +206,9 @@ asio::awaitable<void> DeviceConnection::refreshDataSets()
         co_await acsi::discoverDataSets(client, std::move(devices), std::move(options));
     if (!read || !read->leftOut.empty() || !m_model || client != m_client)
         co_return;
-    const std::vector<std::string> &known = m_model->description().refused;
+    const std::vector<mms::Text> &known = m_model->description().refused;
     const bool isRefusalNew =
-        std::ranges::any_of(read->refused, [&known](const std::string &sentence) {
+        std::ranges::any_of(read->refused, [&known](const mms::Text &sentence) {
             return std::ranges::find(known, sentence) == known.end();
         });
     if (!isRefusalNew)
@@ -268,7 +269,7 @@ DeviceConnection::describe(ClientPointer client)
         const QString conflict = m_environment.claim(names);
         if (!conflict.isEmpty())
             m_ending = AssociationLife::Ending::Conflict;
-        return conflict.toStdString();
+        return mms::verbatim(conflict.toStdString());
     };
     const std::weak_ptr<DeviceConnection> weak = weak_from_this();
     options.progress = [weak](std::size_t done, std::size_t total) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "pducapture.h"
 
+#include "sentences.h"
+
 #include "mms/pcapng.h"
 #include "mms/pdu.h"
 
@@ -31,7 +33,7 @@ QString textOf(const std::vector<std::uint8_t> &octets)
 {
     const mms::Result<mms::Pdu> pdu = mms::decodePdu(octets);
     if (!pdu)
-        return QString::fromStdString(pdu.error().message);
+        return text(pdu.error().message);
     std::string text = mms::toText(*pdu);
     if (text.size() > longestText) {
         text.resize(longestText);

@@ -4,6 +4,7 @@
 #include "discoveredmodel.h"
 #include "journalentry.h"
 #include "reportsubscriptions.h"
+#include "sentences.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QtEndian>
@@ -33,7 +34,7 @@ QString text(std::string_view utf8)
 
 mms::Error failure(const QString &sentence)
 {
-    return {sentence.toStdString(), 0};
+    return {mms::verbatim(sentence.toStdString()), 0};
 }
 
 mms::Result<acsi::Reference> blockOf(const QString &ldName, const QString &blockReference)

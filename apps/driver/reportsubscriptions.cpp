@@ -4,7 +4,9 @@
 #include "reportsubscriptions.h"
 
 #include "discoveredmodel.h"
+#include "sentences.h"
 
+#include "acsi/blockvalue.h"
 #include "acsi/dataset.h"
 
 #include <asio/co_spawn.hpp>
@@ -366,7 +368,7 @@ asio::awaitable<Outcome> ReportSubscriptions::start(SubscriptionPointer subscrip
     trace->changes.clear();
     m_leftEnabled.erase(subscription->reference);
     QString newValue = describe(*enabled);
-    for (const std::string &note : enabled->notes)
+    for (const mms::Text &note : enabled->notes)
         newValue += QStringLiteral("; ") + text(note);
     if (!enabled->optFlds.sequenceNumber)
         newValue += QStringLiteral("; ") +
@@ -588,9 +590,13 @@ asio::awaitable<void> ReportSubscriptions::resume(SubscriptionPointer subscripti
     if (!isCurrent(subscription) || subscription->isUnwanted)
         co_return;
     if (!outcome) {
-        m_connection.setProblem(text(reference),
-                                Texts::tr("The report control block %1 could not be %2: %3")
-                                    .arg(text(reference), why, outcome.error));
+        const bool isNamed = outcome.error.contains(
+            text(acsi::blockText(subscription->block)));
+        m_connection.setProblem(
+            text(reference),
+            isNamed ? Texts::tr("A report control block could not be %1: %2").arg(why, outcome.error)
+                    : Texts::tr("The report control block %1 could not be %2: %3")
+                          .arg(text(reference), why, outcome.error));
     } else {
         tell(*subscription);
     }

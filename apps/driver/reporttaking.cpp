@@ -2,6 +2,8 @@
 // ReportSubscriptions: what reports bring, what they lose, and how that is made good.
 #include "reportsubscriptions.h"
 
+#include "connectiontext.h"
+#include "sentences.h"
 #include "valueconversion.h"
 
 #include "acsi/dataset.h"
@@ -316,8 +318,10 @@ void ReportSubscriptions::publish(Subscription &subscription, const ReportStream
             continue;
         }
         if (!member.value.ok()) {
-            valueless = Texts::tr("The reports of %1 have no value for %2: %3.")
-                            .arg(block, text(reference), text(mms::describe(member.value.error())));
+            valueless =
+                Texts::tr("The reports of %1 have no value for %2: %3.")
+                    .arg(block, text(reference),
+                         ConnectionText::withoutPeriod(text(mms::describe(member.value.error()))));
             continue;
         }
         const std::string name = acsi::toText(reference);
@@ -562,7 +566,8 @@ ReportSubscriptions::readMembers(SubscriptionPointer subscription, ClientPointer
         } else if (!value.ok()) {
             mended.disturbance =
                 Texts::tr("The data set of %1 has no value for %2: %3.")
-                    .arg(block, text(members[i]), text(mms::describe(value.error())));
+                    .arg(block, text(members[i]),
+                         ConnectionText::withoutPeriod(text(mms::describe(value.error()))));
         } else if (isDescribedInParts(m_connection.model(), members[i])) {
             inParts.push_back(members[i]);
         } else if (!isNewer && !m_connection.publish(members[i], value.data(), publication)) {

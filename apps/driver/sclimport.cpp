@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "sclimport.h"
 
+#include "sentences.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 
@@ -390,9 +392,8 @@ scl::ReadResult SclImport::readFile(const QString &path, const scl::ReadOptions 
     if (!file.open(QIODevice::ReadOnly)) {
         scl::ReadResult result;
         result.error = scl::ReadError::CannotRead;
-        result.errorText = Texts::tr("The file \"%1\" cannot be opened: %2.")
-                               .arg(path, file.errorString())
-                               .toStdString();
+        result.errorText = wording::say("The file \"%1\" cannot be opened: %2.", path.toStdString(),
+                                        file.errorString().toStdString());
         return result;
     }
     const QByteArray bytes = file.readAll();
@@ -403,7 +404,7 @@ QString SclImport::errorText(const scl::ReadResult &result)
 {
     if (result.error == scl::ReadError::None)
         return {};
-    const QString sentence = QString::fromStdString(result.errorText);
+    const QString sentence = text(result.errorText);
     return result.errorLine == 0
                ? sentence
                : Texts::tr("Line %1: %2").arg(QString::number(result.errorLine), sentence);

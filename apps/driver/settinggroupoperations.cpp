@@ -2,6 +2,7 @@
 #include "connectiontext.h"
 #include "driverruntime.h"
 #include "journalentry.h"
+#include "sentences.h"
 #include "settinggroups.h"
 #include "settingvalues.h"
 

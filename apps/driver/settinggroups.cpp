@@ -173,7 +173,7 @@ const acsi::DeviceDescription *SettingModel::device(const OnlineModel &model, co
 mms::Result<acsi::Reference> SettingModel::block(const OnlineModel &model, const QString &ldName)
 {
     const auto error = [](const QString &sentence) {
-        return mms::Error{sentence.toStdString(), 0};
+        return mms::Error{mms::verbatim(sentence.toStdString()), 0};
     };
     const acsi::DeviceDescription *described = device(model, ldName);
     if (!described)

@@ -3,6 +3,7 @@
 
 #include "connectiontext.h"
 #include "journalentry.h"
+#include "sentences.h"
 #include "settinggroups.h"
 #include "valueconversion.h"
 
@@ -104,7 +105,7 @@ SettingValues::read(std::shared_ptr<DeviceConnection> device, QString ldName,
 {
     const std::shared_ptr<acsi::Client> client = device->client();
     if (!client)
-        co_return mms::Error{device->notConnectedSentence().toStdString(), 0};
+        co_return mms::Error{mms::verbatim(device->notConnectedSentence().toStdString()), 0};
     const std::vector<acsi::Reference> nodes =
         SettingModel::nodes(*device->model(), ldName, constraint);
     std::vector<Setting> settings;
@@ -183,7 +184,7 @@ SettingValues::changes(const OnlineModel &model, const QString &ldName,
                        const QList<SGCBValue> &values, const std::vector<Setting> &known)
 {
     const auto error = [](const QString &sentence) {
-        return mms::Error{sentence.toStdString(), 0};
+        return mms::Error{mms::verbatim(sentence.toStdString()), 0};
     };
     QHash<QString, const Setting *> byReference;
     for (const Setting &setting : known)

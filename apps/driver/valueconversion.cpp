@@ -38,7 +38,7 @@ constexpr QLatin1Char unknownBit('?');
 
 mms::Error error(const QString &sentence)
 {
-    return {sentence.toStdString(), 0};
+    return {mms::verbatim(sentence.toStdString()), 0};
 }
 
 QString bitText(const mms::BitString &bits)

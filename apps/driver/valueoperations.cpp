@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "driverruntime.h"
+#include "sentences.h"
 #include "valueconversion.h"
 
 #include "acsi/dataset.h"
@@ -87,11 +88,10 @@ asio::awaitable<Outcome> readDataSet(DevicePointer device, QString ldName, QStri
         if (!value.ok() && member)
             inParts.push_back(*member);
         else if (!value.ok())
-            failures.append(Texts::tr("%1: %2").arg(
-                reference, QString::fromStdString(mms::describe(value.error()))));
+            failures.append(Texts::tr("%1: %2").arg(reference, text(mms::describe(value.error()))));
         else if (!member || !device->publish(*member, value.data(), publication))
             failures.append(
-                Texts::tr("%1: the value does not have the form of its type").arg(reference));
+                Texts::tr("%1: the value does not have the form of its type.").arg(reference));
     }
     Outcome outcome;
     if (!inParts.empty())

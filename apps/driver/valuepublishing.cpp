@@ -4,6 +4,7 @@
 #include "deviceconnection.h"
 
 #include "connectiontext.h"
+#include "sentences.h"
 #include "valueconversion.h"
 
 #include <asio/co_spawn.hpp>
@@ -327,7 +328,7 @@ asio::awaitable<Outcome> DeviceConnection::readAndPublish(std::vector<acsi::Refe
             if (result.kind != acsi::ReadResult::Kind::Answered) {
                 error = text(result.reason);
             } else if (!result.result.ok()) {
-                error = QString::fromStdString(mms::describe(result.result.error()));
+                error = text(mms::describe(result.result.error()));
             } else if (!publish(reference, result.result.data(), publication)) {
                 error = Texts::tr("the value does not have the form of its type");
             } else {

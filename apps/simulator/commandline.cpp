@@ -78,8 +78,8 @@ std::string manualPage(const CLI::App &app)
     std::string page = ".TH IEDSIM 1 \"\" \"iedsim " IEDSIM_VERSION "\"\n"
                        ".SH NAME\niedsim \\- simulated IEC 61850 devices made from SCL files\n"
                        ".SH SYNOPSIS\n.B iedsim\n\\fIFILE\\fR... [\\fIoptions\\fR]\n"
-                       ".SH DESCRIPTION\n"
-                       + roff(description) + "\n.SH OPTIONS\n";
+                       ".SH DESCRIPTION\n" +
+                       roff(description) + "\n.SH OPTIONS\n";
     for (const CLI::Option *option : app.get_options()) {
         page += ".TP\n.B " + roff(option->get_name(option->get_positional(), true));
         if (option->get_items_expected_max() > 0 && !option->get_positional())
@@ -158,8 +158,7 @@ std::variant<CommandLine, Ending> parseCommandLine(int argc, const char *const *
     CLI::App app(description, "iedsim");
     app.footer(footer());
     app.set_version_flag("--version", "iedsim " IEDSIM_VERSION, "Tell the version, and end");
-    app.add_option("FILE", result.files, "SCL files (ICD, CID, IID, SCD, SED, SSD)")
-        ->type_name("");
+    app.add_option("FILE", result.files, "SCL files (ICD, CID, IID, SCD, SED, SSD)")->type_name("");
     app.add_option("--ied", result.ieds, "An IED to simulate, by name; may be repeated")
         ->type_name("NAME")
         ->expected(1)
@@ -273,7 +272,7 @@ std::variant<CommandLine, Ending> parseCommandLine(int argc, const char *const *
         return mistake("--all and --ied exclude each other.");
     for (const std::string &name : oddities) {
         if (const auto added = sim::addOddity(simulation.oddities, name); !added)
-            return mistake(added.error().message);
+            return mistake(added.error().message.english());
     }
     simulation.port = static_cast<std::uint16_t>(port);
     simulation.idleLimit = std::chrono::seconds(idleLimit);
@@ -287,8 +286,8 @@ std::variant<CommandLine, Ending> parseCommandLine(int argc, const char *const *
     }
     if (tlsOption->count() > 0) {
         const std::vector<std::string> parts = partsOf(tls);
-        if (parts.size() < 2 || (parts.size() < 3 && pins.empty())
-            || std::ranges::find(parts, std::string()) != parts.end()) {
+        if (parts.size() < 2 || (parts.size() < 3 && pins.empty()) ||
+            std::ranges::find(parts, std::string()) != parts.end()) {
             return mistake("--tls needs a certificate, a key and trusted authorities or --tls-pin, "
                            "as in \"--tls own.pem,own.key,ca.pem\".");
         }

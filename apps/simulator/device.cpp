@@ -213,7 +213,7 @@ void Device::opened(const std::shared_ptr<mms::Association> &association)
         engine->opened(*client);
 }
 
-void Device::closed(const std::shared_ptr<mms::Association> &association, const std::string &)
+void Device::closed(const std::shared_ptr<mms::Association> &association, const mms::Text &)
 {
     const auto client = m_clients.extract(association.get());
     if (client.empty())
@@ -225,10 +225,10 @@ void Device::closed(const std::shared_ptr<mms::Association> &association, const 
     m_dataSets.forget(*client.mapped());
 }
 
-void Device::refused(const std::string &reason)
+void Device::refused(const mms::Text &reason)
 {
     if (m_options.refused)
-        m_options.refused(reason);
+        m_options.refused(reason.english());
 }
 
 void Device::request(const std::shared_ptr<mms::Association> &association, std::uint32_t invokeId,

@@ -79,8 +79,8 @@ public:
     void request(const std::shared_ptr<mms::Association> &association, std::uint32_t invokeId,
                  mms::RequestService request) override;
     void closed(const std::shared_ptr<mms::Association> &association,
-                const std::string &reason) override;
-    void refused(const std::string &reason) override;
+                const mms::Text &reason) override;
+    void refused(const mms::Text &reason) override;
 
 private:
     class AssociationClient;

@@ -216,7 +216,7 @@ private:
     {
         if (const auto *error = std::get_if<mms::ServiceError>(&outcome))
             return *error;
-        return fileError(0, mms::failureText(outcome));
+        return fileError(0, mms::failureText(outcome).english());
     }
 
     DirectoryFiles *m_service;
@@ -236,9 +236,10 @@ mms::Result<std::shared_ptr<DirectoryFiles>> DirectoryFiles::create(FileOptions 
     options.directory = fs::canonical(options.directory, error);
     if (error)
         return mms::Error{
-            "The directory \"" + name + "\" cannot be served: " + error.message() + ".", 0};
+            mms::say("The directory \"%1\" cannot be served: %2.", name, wording::ofSystem(error)),
+            0};
     if (!fs::is_directory(options.directory, error))
-        return mms::Error{"\"" + name + "\" is not a directory.", 0};
+        return mms::Error{mms::say("\"%1\" is not a directory.", name), 0};
     return std::shared_ptr<DirectoryFiles>(new DirectoryFiles(std::move(options)));
 }
 

@@ -124,9 +124,9 @@ std::string inQuotes(std::string_view text)
     return quoted;
 }
 
-mms::Error wrong(std::string message)
+mms::Error wrong(std::string_view message)
 {
-    return {std::move(message), 0};
+    return {mms::verbatim(message), 0};
 }
 
 template <typename Number>
@@ -578,7 +578,8 @@ mms::Result<std::shared_ptr<Faults>> Faults::parse(std::string_view script, Hand
     for (std::size_t number = 1; !script.empty(); ++number) {
         const std::size_t size = std::min(script.find('\n'), script.size());
         if (const auto result = reader.readLine(script.substr(0, size), number); !result)
-            return wrong("Line " + std::to_string(number) + ": " + result.error().message);
+            return wrong("Line " + std::to_string(number) + ": " +
+                         result.error().message.english());
         script.remove_prefix(std::min(size + 1, script.size()));
     }
     return faults;
@@ -594,7 +595,7 @@ mms::Result<std::shared_ptr<Faults>> Faults::load(const std::string &path, Handl
     script << file.rdbuf();
     auto result = parse(script.str(), std::move(handlers));
     if (!result)
-        return wrong(path + ": " + result.error().message);
+        return wrong(path + ": " + result.error().message.english());
     return result;
 }
 

@@ -76,15 +76,15 @@ bool read(const CommandLine &commandLine, std::vector<Described> &described)
     for (const std::string &file : commandLine.files) {
         scl::ReadResult result = scl::readFile(file);
         if (!result.document) {
-            complain(result.errorLine > 0
-                         ? file + ":" + std::to_string(result.errorLine) + ": " + result.errorText
-                         : result.errorText);
+            complain(result.errorLine > 0 ? file + ":" + std::to_string(result.errorLine) + ": " +
+                                                result.errorText.english()
+                                          : result.errorText.english());
             return false;
         }
         const auto error = std::ranges::find(result.document->findings, scl::Severity::Error,
                                              &scl::Finding::severity);
         if (error != result.document->findings.end()) {
-            complain(file + ":" + std::to_string(error->line) + ": " + error->text +
+            complain(file + ":" + std::to_string(error->line) + ": " + error->text.english() +
                      " The file is used all the same.");
         }
         described.push_back({file, std::move(result.document)});
@@ -189,7 +189,7 @@ int run(const CommandLine &commandLine)
         }
         const auto simulated = sim::simulate(context.get_executor(), ied, options);
         if (!simulated) {
-            complain(nameOf(ied) + ": " + simulated.error().message);
+            complain(nameOf(ied) + ": " + simulated.error().message.english());
             stop();
             signals.cancel();
             context.run();

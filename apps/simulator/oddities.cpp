@@ -81,7 +81,7 @@ mms::Result<void> addOddity(Oddities &oddities, std::string_view name)
         std::string message = "\"" + std::string(name) + "\" is no oddity; there are";
         for (const OddityCase &each : cases)
             message += (&each == cases.begin() ? " " : ", ") + std::string(each.name);
-        return mms::Error{message + ".", 0};
+        return mms::Error{mms::verbatim(message + "."), 0};
     }
     oddities.*found->flag = true;
     return {};

@@ -3,6 +3,8 @@
 
 #include "plaintip.h"
 
+#include "driver/sentences.h"
+
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QStyle>
 
@@ -101,7 +103,7 @@ QVariant FindingsModel::data(const QModelIndex &index, int role) const
     case ElementColumn:
         return QString::fromStdString(finding.path);
     case TextColumn:
-        return QString::fromStdString(finding.text);
+        return text(finding.text);
     default:
         break;
     }

@@ -56,7 +56,7 @@ QJsonObject describe(const scl::Finding &finding)
     return {{QStringLiteral("severity"), severityName(finding.severity)},
             {QStringLiteral("line"), static_cast<qint64>(finding.line)},
             {QStringLiteral("path"), QString::fromStdString(finding.path)},
-            {QStringLiteral("text"), QString::fromStdString(finding.text)}};
+            {QStringLiteral("text"), QString::fromStdString(finding.text.english())}};
 }
 
 int write(QIODevice &out, const QJsonObject &object, int status)

@@ -6,6 +6,8 @@
 
 #include "demonstrationfiles.h"
 
+#include "driver/sentences.h"
+
 #include <asio/executor_work_guard.hpp>
 #include <asio/io_context.hpp>
 
@@ -73,8 +75,8 @@ std::unique_ptr<SimulatedDevice> SimulatedDevice::start(const scl::Ied &ied, boo
         simulated = sim::simulate(runtime.context.get_executor(), ied, options);
     }
     if (!simulated) {
-        error = Texts::tr("The device cannot be simulated: %1")
-                    .arg(QString::fromStdString(simulated.error().message));
+        error =
+            Texts::tr("The device cannot be simulated: %1").arg(text(simulated.error().message));
         return nullptr;
     }
     runtime.simulated = *simulated;

@@ -7,6 +7,8 @@
 
 namespace acsi {
 
+using wording::say;
+
 BlockValue::BlockValue(const mms::TypeDescription &type, const mms::Data &value)
     : m_type(type)
     , m_value(value)
@@ -15,7 +17,8 @@ BlockValue::BlockValue(const mms::TypeDescription &type, const mms::Data &value)
         value.kind() != mms::Data::Kind::Structure ||
         type.components.size() != value.children().size()) {
         m_error = mms::Error{
-            "The value of the control block does not match its type " + mms::toText(type) + ".", 0};
+            say("The value of the control block does not match its type %1.", mms::toText(type)),
+            0};
     }
 }
 
@@ -65,9 +68,8 @@ void BlockValue::octets(std::string_view attribute,
 void BlockValue::wrong(std::string_view attribute, const mms::Data &data)
 {
     if (!m_error)
-        m_error = mms::Error{std::string(attribute) + " of the control block cannot be " +
-                                 mms::toText(data) + ".",
-                             0};
+        m_error = mms::Error{
+            say("%1 of the control block cannot be %2.", attribute, mms::toText(data)), 0};
 }
 
 asio::awaitable<mms::Result<LiveBlock>> readBlock(std::shared_ptr<Client> client, Reference block)
@@ -76,11 +78,12 @@ asio::awaitable<mms::Result<LiveBlock>> readBlock(std::shared_ptr<Client> client
     auto type = co_await client->type(mms::ObjectName::inDomain(block.device, itemText(block)));
     if (!type)
         co_return mms::Error{
-            "The type of " + blockText(block) + " cannot be read: " + type.error().message, 0};
+            say("The type of %1 cannot be read: %2.", blockText(block), type.error().message), 0};
     live.type = *std::move(type);
     auto value = co_await client->readOne(accessOf(block));
     if (!value)
-        co_return mms::Error{blockText(block) + " cannot be read: " + value.error().message, 0};
+        co_return mms::Error{say("%1 cannot be read: %2.", blockText(block), value.error().message),
+                             0};
     live.value = *std::move(value);
     co_return live;
 }
@@ -92,15 +95,15 @@ asio::awaitable<mms::Result<void>> writeBlock(std::shared_ptr<Client> client, Re
     const std::string name = blockText(block);
     const mms::TypeDescription *component = componentOf(type, attribute);
     if (!component)
-        co_return mms::Error{name + " has no " + attribute + ".", 0};
+        co_return mms::Error{say("%1 has no %2.", name, attribute), 0};
     const auto fitting = valueOfType(*component, value);
     if (!fitting)
-        co_return mms::Error{attribute + " of " + name + ": " + fitting.error().message, 0};
+        co_return mms::Error{say("%1 of %2: %3.", attribute, name, fitting.error().message), 0};
     block.path.push_back({attribute, {}});
     const auto written = co_await client->writeOne(accessOf(block), *fitting);
     if (!written)
         co_return mms::Error{
-            attribute + " of " + name + " cannot be written: " + written.error().message, 0};
+            say("%1 of %2 cannot be written: %3.", attribute, name, written.error().message), 0};
     co_return mms::Result<void>();
 }
 

@@ -16,6 +16,8 @@
 
 namespace acsi {
 
+using wording::say;
+
 namespace {
 
 using mms::CallFailure;
@@ -36,7 +38,7 @@ mms::AssociationOptions withOwnServices(mms::AssociationOptions options)
 
 mms::Error cancelledError()
 {
-    return {"The call was cancelled.", 0};
+    return {say("The call was cancelled."), 0};
 }
 
 mms::RequestService writeRequest(std::vector<mms::VariableAccess> variables,
@@ -52,13 +54,12 @@ mms::RequestService writeRequest(std::vector<mms::VariableAccess> variables,
 
 asio::awaitable<mms::Result<std::shared_ptr<Client>>>
 Client::connect(asio::any_io_executor executor, std::string host, std::uint16_t port,
-                ClientOptions options, std::function<void(const std::string &)> closed)
+                ClientOptions options, std::function<void(const mms::Text &)> closed)
 {
     const auto client = std::make_shared<Client>(Private(), std::move(options));
     client->m_closed = std::move(closed);
-    client->m_association =
-        mms::Association::create(executor, withOwnServices(client->m_options.association),
-                                 client->handlers());
+    client->m_association = mms::Association::create(
+        executor, withOwnServices(client->m_options.association), client->handlers());
     auto opening = open(client, std::move(host), port);
     const mms::Result<void> opened =
         co_await asio::co_spawn(client->strand(), std::move(opening), asio::use_awaitable);
@@ -105,7 +106,7 @@ Client::Client(Private, ClientOptions options)
 Client::~Client()
 {
     if (m_association)
-        m_association->abort("The client is gone.");
+        m_association->abort(say("The client is gone."));
 }
 
 mms::Association::Handlers Client::handlers()
@@ -120,8 +121,7 @@ mms::Association::Handlers Client::handlers()
         // Files are served, though not this one.
         if (std::holds_alternative<mms::FileOpenRequest>(request)) {
             association->fail(
-                invokeId,
-                {mms::ErrorClass::File, mms::serviceerrors::fileNonExistent, {}, {}, {}});
+                invokeId, {mms::ErrorClass::File, mms::serviceerrors::fileNonExistent, {}, {}, {}});
         } else {
             association->reject(invokeId, mms::rejectcodes::requestUnrecognizedService);
         }
@@ -131,14 +131,14 @@ mms::Association::Handlers Client::handlers()
         if (self && !offer(self->m_informationHandlers, report))
             ++self->m_unclaimed;
     };
-    result.closed = [weak](const std::string &reason) {
+    result.closed = [weak](const mms::Text &reason) {
         if (const auto self = weak.lock())
             self->ended(reason);
     };
     return result;
 }
 
-void Client::ended(const std::string &reason)
+void Client::ended(const mms::Text &reason)
 {
     m_open = false;
     m_closeReason = reason;
@@ -169,11 +169,11 @@ asio::awaitable<void> Client::close()
         co_return;
     const mms::Result<void> concluded = co_await m_association->conclude();
     if (!concluded && m_open)
-        m_association->abort("The peer does not conclude the association: "
-                             + concluded.error().message);
+        m_association->abort(
+            say("The peer does not conclude the association: %1.", concluded.error().message));
 }
 
-void Client::abort(const std::string &reason)
+void Client::abort(const mms::Text &reason)
 {
     m_association->abort(reason);
 }
@@ -232,8 +232,7 @@ Client::read(std::vector<mms::VariableAccess> variables)
     co_return results;
 }
 
-asio::awaitable<mms::Result<std::vector<mms::AccessResult>>>
-Client::readList(mms::ObjectName list)
+asio::awaitable<mms::Result<std::vector<mms::AccessResult>>> Client::readList(mms::ObjectName list)
 {
     const auto self = shared_from_this();
     mms::ReadRequest request;
@@ -246,8 +245,7 @@ Client::readList(mms::ObjectName list)
         co_return endError(outcome);
     mms::GetNamedVariableListAttributesRequest directory;
     directory.name = std::move(list);
-    auto members =
-        co_await ask<mms::GetNamedVariableListAttributesResponse>(std::move(directory));
+    auto members = co_await ask<mms::GetNamedVariableListAttributesResponse>(std::move(directory));
     if (!members || members->members.empty())
         co_return endError(outcome);
     co_return co_await read(std::move(members->members));
@@ -277,7 +275,7 @@ Client::write(std::vector<mms::VariableAccess> variables, std::vector<mms::Data>
 {
     const auto self = shared_from_this();
     if (variables.size() != values.size())
-        co_return mms::Error{"Each variable needs one value to write.", 0};
+        co_return mms::Error{say("Each variable needs one value to write."), 0};
     const std::size_t frame = longestSize(writeRequest({}, {}));
     std::vector<std::size_t> sizes;
     if (variables.size() > 1) {
@@ -289,7 +287,7 @@ Client::write(std::vector<mms::VariableAccess> variables, std::vector<mms::Data>
     const std::size_t limit = m_association->pduSize();
     ListCalls calls(listRanges(sizes, limit - std::min(limit, frame)), variables.size());
     std::vector<std::optional<DataAccessError>> results(variables.size());
-    std::string reason;
+    mms::Text reason;
     // One request after the other: what is written keeps its order.
     while (!calls.idle()) {
         const ListRange range = calls.next();
@@ -300,8 +298,8 @@ Client::write(std::vector<mms::VariableAccess> variables, std::vector<mms::Data>
         if (answer && answer->results.size() == range.count) {
             std::ranges::copy(answer->results,
                               results.begin() + static_cast<std::ptrdiff_t>(range.first));
-        } else if (endsAll(outcome) || std::holds_alternative<mms::ResponseService>(outcome)
-                   || (failure && failure->kind == CallFailure::Kind::Malformed)) {
+        } else if (endsAll(outcome) || std::holds_alternative<mms::ResponseService>(outcome) ||
+                   (failure && failure->kind == CallFailure::Kind::Malformed)) {
             // Writing again could do a thing twice.
             co_return endError(outcome);
         } else if (calls.refused(range)) {

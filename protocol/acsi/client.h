@@ -43,14 +43,14 @@ public:
     using InformationHandler = std::function<bool(const mms::InformationReport &report)>;
     using RequestHandler =
         std::function<bool(std::uint32_t invokeId, const mms::RequestService &request)>;
-    using EndHandler = std::function<void(const std::string &reason)>;
+    using EndHandler = std::function<void(const mms::Text &reason)>;
     using Registration = std::uint64_t;
 
     /// Connect and associate. Afterwards @p closed hears once, with one sentence, that the
     /// association has ended; it is not called when connecting fails.
     static asio::awaitable<mms::Result<std::shared_ptr<Client>>>
     connect(asio::any_io_executor executor, std::string host, std::uint16_t port,
-            ClientOptions options, std::function<void(const std::string &reason)> closed = {});
+            ClientOptions options, std::function<void(const mms::Text &reason)> closed = {});
 
     Client(Private, ClientOptions options);
     /// Aborts an association that still stands; nobody hears of it.
@@ -65,11 +65,11 @@ public:
     /// Requests that the peer takes at a time.
     std::size_t outstanding() const;
     /// Why the association ended; empty while it stands.
-    const std::string &closeReason() const { return m_closeReason; }
+    const mms::Text &closeReason() const { return m_closeReason; }
 
     /// Conclude in an orderly way; aborts when the peer does not answer.
     asio::awaitable<void> close();
-    void abort(const std::string &reason);
+    void abort(const mms::Text &reason);
 
     asio::awaitable<mms::CallOutcome> call(mms::RequestService request);
     /// The answer of the service that was called, or one sentence why there is none.
@@ -79,9 +79,9 @@ public:
         mms::CallOutcome outcome = co_await call(std::move(request));
         if (const Response *response = mms::answerOf<Response>(outcome))
             co_return *response;
-        const std::string text = mms::failureText(outcome);
-        co_return mms::Error{
-            text.empty() ? std::string("The device answered another service.") : text, 0};
+        const mms::Text text = mms::failureText(outcome);
+        co_return mms::Error{text.empty() ? mms::say("The device answered another service.") : text,
+                             0};
     }
 
     /// All names of a class in a scope, page after page. Ends with an error when a peer repeats
@@ -141,10 +141,10 @@ private:
     static bool offer(std::shared_ptr<const Entries<Function>> entries,
                       const Arguments &...arguments);
 
-    static asio::awaitable<mms::Result<void>> open(std::shared_ptr<Client> client,
-                                                   std::string host, std::uint16_t port);
+    static asio::awaitable<mms::Result<void>> open(std::shared_ptr<Client> client, std::string host,
+                                                   std::uint16_t port);
     mms::Association::Handlers handlers();
-    void ended(const std::string &reason);
+    void ended(const mms::Text &reason);
     mms::Error endError(const mms::CallOutcome &outcome) const;
 
     ClientOptions m_options;
@@ -152,8 +152,8 @@ private:
     std::shared_ptr<const Entries<InformationHandler>> m_informationHandlers;
     std::shared_ptr<const Entries<RequestHandler>> m_requestHandlers;
     std::shared_ptr<const Entries<EndHandler>> m_endHandlers;
-    std::function<void(const std::string &)> m_closed;
-    std::string m_closeReason;
+    std::function<void(const mms::Text &)> m_closed;
+    mms::Text m_closeReason;
     Registration m_lastRegistration = 0;
     std::uint64_t m_unclaimed = 0;
     bool m_open = false;

@@ -15,6 +15,8 @@
 
 namespace acsi {
 
+using wording::say;
+
 namespace {
 
 using Model = ControlModel;
@@ -36,12 +38,10 @@ bool isNone(const LastApplError &error)
     return error.error == 0 && error.addCause == noCause;
 }
 
-std::string reasonOf(const LastApplError &error)
+mms::Text reasonOf(const LastApplError &error)
 {
-    std::string text = additionalCauseText(error.addCause);
-    if (error.error > 1)
-        text += " (" + controlErrorText(error.error) + ')';
-    return text + '.';
+    const mms::Text cause = additionalCauseText(error.addCause);
+    return error.error > 1 ? say("%1 (%2)", cause, controlErrorText(error.error)) : cause;
 }
 
 /// From now until a moment of the wall clock, none when it has passed.
@@ -103,7 +103,7 @@ struct ControlObject::Call
     asio::steady_timer wake;
     State state = State::Waiting;
     ControlResult result;
-    std::string reason; ///< of a refusal
+    mms::Text reason; ///< of a refusal
     std::optional<LastApplError> applError;
     bool isNamed = false; ///< the error names the service of this call
     std::optional<ControlInformation> termination;
@@ -139,9 +139,8 @@ ControlObject::open(std::shared_ptr<Client> client, Reference object)
     const bool hasElement = std::ranges::any_of(
         object.path, [](const PathStep &step) { return step.element.has_value(); });
     if (object.node.empty() || object.path.empty() || hasElement)
-        co_return mms::Error{toText(object) + " is not the name of a data object that can be "
-                                              "controlled.",
-                             0};
+        co_return mms::Error{
+            say("%1 is not the name of a data object that can be controlled.", toText(object)), 0};
     auto control = std::make_shared<ControlObject>(Private(), client, std::move(object));
     if (auto result = co_await control->refresh(); !result)
         co_return result.error();
@@ -154,7 +153,7 @@ ControlObject::ControlObject(Private, std::shared_ptr<Client> client, Reference 
 {
     m_informationHandler = m_client->addInformationHandler(
         [this](const mms::InformationReport &report) { return handle(report); });
-    m_endHandler = m_client->addEndHandler([this](const std::string &) {
+    m_endHandler = m_client->addEndHandler([this](const mms::Text &) {
         for (const CallPointer &call : m_calls)
             call->wake.cancel();
     });
@@ -184,17 +183,17 @@ asio::awaitable<mms::Result<void>> ControlObject::refresh()
     const auto results = co_await m_client->read(std::move(variables));
     if (!results)
         co_return mms::Error{
-            "The control model of " + name() + " cannot be read: " + results.error().message, 0};
+            say("The control model of %1 cannot be read: %2.", name(), results.error().message), 0};
     const mms::AccessResult &model = results->front();
     if (!model.ok())
-        co_return mms::Error{"The control model of " + name() +
-                                 " cannot be read: " + mms::describe(model.error()),
+        co_return mms::Error{say("The control model of %1 cannot be read: %2.", name(),
+                                 mms::describe(model.error())),
                              0};
     const auto number = model.data().toUnsigned();
     if (!number || *number > static_cast<std::uint64_t>(Model::SelectEnhanced))
-        co_return mms::Error{"The control model of " + name() + " is " + mms::toText(model.data()) +
-                                 ", which is none.",
-                             0};
+        co_return mms::Error{
+            say("The control model of %1 is %2, which is none.", name(), mms::toText(model.data())),
+            0};
     m_model = static_cast<Model>(*number);
     m_selectTimeout = millisecondsFrom((*results)[1]);
     m_operateTimeout = millisecondsFrom((*results)[2]);
@@ -226,8 +225,8 @@ asio::awaitable<mms::Result<void>> ControlObject::readTypes()
     const auto type =
         co_await m_client->type(mms::ObjectName::inDomain(m_object.device, itemText(m_object)));
     if (!type)
-        co_return mms::Error{"The type of " + name() + " cannot be read: " + type.error().message,
-                             0};
+        co_return mms::Error{
+            say("The type of %1 cannot be read: %2.", name(), type.error().message), 0};
     const auto part = [&type](std::string_view component) {
         const mms::TypeDescription *found = componentOf(*type, component);
         return found ? *found : mms::TypeDescription();
@@ -252,8 +251,8 @@ ControlResult ControlObject::refusal(const Call &call) const
     result.outcome = ControlOutcome::Refused;
     result.applError = call.applError;
     const bool saysWhy = call.applError && !isNone(*call.applError);
-    result.message = name() + ": the device refuses " + call.component + ": " +
-                     (saysWhy ? reasonOf(*call.applError) : call.reason);
+    result.message = say("%1: the device refuses %2: %3.", name(), call.component,
+                         saysWhy ? reasonOf(*call.applError) : call.reason);
     return result;
 }
 
@@ -265,9 +264,10 @@ ControlResult ControlObject::ending(const Call &call) const
     if (result.ok)
         return result;
     result.applError = call.termination->applError;
-    result.message = name() + ": the command ended without success: " +
-                     (result.applError ? reasonOf(*result.applError)
-                                       : std::string("the device does not say why."));
+    result.message =
+        result.applError
+            ? say("%1: the command ended without success: %2.", name(), reasonOf(*result.applError))
+            : say("%1: the command ended without success: the device does not say why.", name());
     return result;
 }
 
@@ -298,7 +298,7 @@ void ControlObject::answered(const CallPointer &call, const mms::CallOutcome &ou
 {
     if (call->state == Call::State::Over)
         return;
-    const auto refused = [&](std::string reason) {
+    const auto refused = [&](mms::Text reason) {
         call->reason = std::move(reason);
         call->state = Call::State::Refused;
         if (call->isLeft)
@@ -311,14 +311,14 @@ void ControlObject::answered(const CallPointer &call, const mms::CallOutcome &ou
                               failure->kind == mms::CallFailure::Kind::TooLarge;
         const bool isLost = !m_client->isOpen() && !m_client->closeReason().empty();
         call->result.outcome = isUnsent ? ControlOutcome::NotSent : ControlOutcome::Unknown;
-        call->result.message = name() + ": " + call->component + " got no answer: " +
-                               (isLost ? m_client->closeReason() : failure->message);
+        call->result.message = say("%1: %2 got no answer: %3.", name(), call->component,
+                                   isLost ? m_client->closeReason() : failure->message);
         call->state = Call::State::Silent;
         call->wake.cancel();
         forget(call);
         return;
     }
-    const std::string text = mms::failureText(outcome);
+    const mms::Text text = mms::failureText(outcome);
     if (!text.empty()) {
         refused(text);
         return;
@@ -337,14 +337,14 @@ void ControlObject::answered(const CallPointer &call, const mms::CallOutcome &ou
         if (!result.ok())
             refused(mms::describe(result.error()));
         else if (result.data().text().empty())
-            refused("it gives no reason; another client may have selected the object.");
+            refused(say("it gives no reason; another client may have selected the object."));
         else
             accepted(call);
         return;
     }
     call->result.outcome = ControlOutcome::Unknown;
     call->result.message =
-        name() + ": " + call->component + " got an answer that does not match the question.";
+        say("%1: %2 got an answer that does not match the question.", name(), call->component);
     call->state = Call::State::Silent;
     call->wake.cancel();
     forget(call);
@@ -389,7 +389,7 @@ void ControlObject::accepted(const CallPointer &call)
     result.ok = !terminates;
     result.outcome = terminates ? ControlOutcome::Accepted : ControlOutcome::Done;
     if (terminates)
-        result.message = name() + ": the device accepted the command late.";
+        result.message = say("%1: the device accepted the command late.", name());
     tellLate(call, std::move(result));
 }
 
@@ -436,8 +436,8 @@ asio::awaitable<void> ControlObject::perform(CallPointer call, mms::RequestServi
         call->state = Call::State::Over;
     } else if (call->state == Call::State::Waiting && !call->termination) {
         call->result.outcome = ControlOutcome::Unknown;
-        call->result.message = name() + ": " + call->component + " got no answer within " +
-                               secondsText(m_client->options().callTimeout) + '.';
+        call->result.message = say("%1: %2 got no answer within %3.", name(), call->component,
+                                   secondsText(m_client->options().callTimeout));
     }
 }
 
@@ -446,7 +446,7 @@ asio::awaitable<void> ControlObject::write(CallPointer call, const mms::TypeDesc
 {
     auto value = controlValue(type, request, m_scale);
     if (!value) {
-        call->result.message = name() + ": " + value.error().message;
+        call->result.message = say("%1: %2.", name(), value.error().message);
         call->state = Call::State::Over;
         co_return;
     }
@@ -460,7 +460,8 @@ asio::awaitable<ControlResult> ControlObject::select(ControlRequest request)
 {
     const auto self = shared_from_this();
     if (m_model != Model::SelectEnhanced && m_model != Model::SelectNormal)
-        co_return ControlResult{false, name() + ": its control model knows no selection.", {}};
+        co_return ControlResult{
+            false, say("%1: its control model knows no selection.", name()), {}};
     const bool isRead = m_model == Model::SelectNormal;
     const CallPointer call = isRead ? begin("SBO", std::nullopt) : begin("SBOw", request.ctlNum);
     const Leaving leaving(*this, call);
@@ -483,7 +484,7 @@ asio::awaitable<ControlResult> ControlObject::operate(ControlRequest request,
     const auto self = shared_from_this();
     if (m_model == Model::StatusOnly)
         co_return ControlResult{
-            false, name() + ": it shows its status and cannot be operated.", {}};
+            false, say("%1: it shows its status and cannot be operated.", name()), {}};
     const CallPointer call = begin("Oper", request.ctlNum);
     const Leaving leaving(*this, call);
     co_await write(call, m_operType, request);
@@ -507,11 +508,15 @@ asio::awaitable<ControlResult> ControlObject::operate(ControlRequest request,
         co_return call->result;
     ControlResult result;
     result.outcome = ControlOutcome::Accepted;
-    result.message = name() + ": the device accepted the command, but ";
-    if (!m_client->isOpen())
-        result.message += "the association ended before the command: " + m_client->closeReason();
-    else
-        result.message += "has not told within " + secondsText(patience) + " how it ended.";
+    if (!m_client->isOpen()) {
+        result.message = say(
+            "%1: the device accepted the command, but the association ended before the command: %2.",
+            name(), m_client->closeReason());
+    } else {
+        result.message =
+            say("%1: the device accepted the command, but has not told within %2 how it ended.",
+                name(), secondsText(patience));
+    }
     co_return result;
 }
 
@@ -519,7 +524,7 @@ asio::awaitable<ControlResult> ControlObject::cancel(ControlRequest request)
 {
     const auto self = shared_from_this();
     if (m_cancelType.components.empty())
-        co_return ControlResult{false, name() + ": a command of it cannot be cancelled.", {}};
+        co_return ControlResult{false, say("%1: a command of it cannot be cancelled.", name()), {}};
     request.synchrocheck = false;
     request.interlockCheck = false;
     // What it has no place for keeps nobody from stopping a command.

@@ -61,8 +61,8 @@ struct LastApplError
 
 /// The additional cause in words ("blocked by interlocking"); a number that the standard does not
 /// know is given as such.
-std::string additionalCauseText(std::int32_t addCause);
-std::string controlErrorText(std::int32_t error);
+mms::Text additionalCauseText(std::int32_t addCause);
+mms::Text controlErrorText(std::int32_t error);
 
 /// What is known of a control service that was asked for.
 enum class ControlOutcome : std::uint8_t {
@@ -78,7 +78,7 @@ enum class ControlOutcome : std::uint8_t {
 struct ControlResult
 {
     bool ok = false;
-    std::string message; ///< one sentence when not ok
+    mms::Text message; ///< one sentence when not ok
     std::optional<LastApplError> applError;
     ControlOutcome outcome = ControlOutcome::NotSent; ///< Done when ok
 

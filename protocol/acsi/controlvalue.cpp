@@ -10,6 +10,8 @@
 
 namespace acsi {
 
+using wording::say;
+
 namespace {
 
 using mms::Data;
@@ -22,19 +24,18 @@ constexpr std::int32_t noCause = 25;
 
 mms::Error named(std::string_view component, const mms::Error &error)
 {
-    return {std::string(component) + ": " + error.message, 0};
+    return {say("%1: %2.", component, error.message), 0};
 }
 
 mms::Result<Data> originValue(const TypeDescription &type, const Originator &originator)
 {
     if (originator.identification.size() > maxIdentification)
-        return mms::Error{"The originator identification has " +
-                              std::to_string(originator.identification.size()) +
-                              " octets; at most " + std::to_string(maxIdentification) +
-                              " are allowed.",
-                          0};
+        return mms::Error{
+            say("The originator identification has %1 octets; at most %2 are allowed.",
+                originator.identification.size(), maxIdentification),
+            0};
     if (type.kind != TypeDescription::Kind::Structure)
-        return mms::Error{"The device describes the originator as " + mms::toText(type) + ".", 0};
+        return mms::Error{say("The device describes the originator as %1.", mms::toText(type)), 0};
     std::vector<Data> members;
     for (const TypeDescription::Component &component : type.components) {
         Data value;
@@ -43,8 +44,8 @@ mms::Result<Data> originValue(const TypeDescription &type, const Originator &ori
         else if (component.name == "orIdent")
             value = Data::octetString(originator.identification);
         else
-            return mms::Error{"The device wants an unknown part " + mms::quoted(component.name) +
-                                  " of the originator.",
+            return mms::Error{say("The device wants an unknown part %1 of the originator.",
+                                  mms::quoted(component.name)),
                               0};
         auto member = valueOfType(component.type, value);
         if (!member)
@@ -64,9 +65,10 @@ mms::Result<Data> setPointValue(const TypeDescription &type, const Data &value,
     if (!real)
         return valueOfType(type, value);
     if (!scale && std::trunc(*real) != *real)
-        return mms::Error{"The device wants " + mms::toText(value) +
-                              " also as a whole number, but does not say by which scale (sVC).",
-                          0};
+        return mms::Error{
+            say("The device wants %1 also as a whole number, but does not say by which scale (sVC).",
+                mms::toText(value)),
+            0};
     const double integer = scale ? std::round((*real - scale->offset) / scale->factor) : *real;
     std::vector<Data> members;
     for (const TypeDescription::Component &component : type.components) {
@@ -115,8 +117,8 @@ mms::Result<Data> componentValue(const TypeDescription::Component &component,
         check.set(1, request.interlockCheck);
         value = Data::bitString(check);
     } else {
-        return mms::Error{"The device wants a part " + mms::quoted(name) +
-                              " in the command, which is not known.",
+        return mms::Error{say("The device wants a part %1 in the command, which is not known.",
+                              mms::quoted(name)),
                           0};
     }
     return valueOfType(component.type, value);
@@ -210,74 +212,74 @@ std::optional<Reference> operatedObject(const mms::ObjectName &name)
     return *std::move(reference);
 }
 
-constexpr std::array<std::string_view, 28> additionalCauses = {
-    "unknown cause",
-    "the service is not supported",
-    "blocked because the switching authority lies elsewhere (local or remote)",
-    "the selection failed",
-    "the position is not valid",
-    "the position has been reached already",
-    "a parameter is being changed",
-    "the tap changer is at the end of its range",
-    "blocked by the mode of the logical node",
-    "blocked by an event of the process",
-    "blocked by interlocking",
-    "blocked by synchrocheck",
-    "a command is being executed already",
-    "blocked by the health of the logical node",
-    "another object of the domain is being controlled",
-    "ended by a cancel",
-    "the time for it is over",
-    "ended by a trip",
-    "the object is not selected",
-    "the object is selected already",
-    "the client has no authority for it",
-    "ended beyond the wanted position",
-    "ended because the position deviates from the command",
-    "ended by the loss of the connection with the client that issued it",
-    "blocked by the data object that blocks commands",
-    "no cause",
-    "the parameters of the service contradict those of the selection",
-    "locked by another client",
+constexpr std::array additionalCauses = {
+    wording::pattern("unknown cause"),
+    wording::pattern("the service is not supported"),
+    wording::pattern("blocked because the switching authority lies elsewhere (local or remote)"),
+    wording::pattern("the selection failed"),
+    wording::pattern("the position is not valid"),
+    wording::pattern("the position has been reached already"),
+    wording::pattern("a parameter is being changed"),
+    wording::pattern("the tap changer is at the end of its range"),
+    wording::pattern("blocked by the mode of the logical node"),
+    wording::pattern("blocked by an event of the process"),
+    wording::pattern("blocked by interlocking"),
+    wording::pattern("blocked by synchrocheck"),
+    wording::pattern("a command is being executed already"),
+    wording::pattern("blocked by the health of the logical node"),
+    wording::pattern("another object of the domain is being controlled"),
+    wording::pattern("ended by a cancel"),
+    wording::pattern("the time for it is over"),
+    wording::pattern("ended by a trip"),
+    wording::pattern("the object is not selected"),
+    wording::pattern("the object is selected already"),
+    wording::pattern("the client has no authority for it"),
+    wording::pattern("ended beyond the wanted position"),
+    wording::pattern("ended because the position deviates from the command"),
+    wording::pattern("ended by the loss of the connection with the client that issued it"),
+    wording::pattern("blocked by the data object that blocks commands"),
+    wording::pattern("no cause"),
+    wording::pattern("the parameters of the service contradict those of the selection"),
+    wording::pattern("locked by another client"),
 };
 
-constexpr std::array<std::string_view, 4> controlErrors = {
-    "no error",
-    "unknown error",
-    "the time-out test failed",
-    "the operator test failed",
+constexpr std::array controlErrors = {
+    wording::pattern("no error"),
+    wording::pattern("unknown error"),
+    wording::pattern("the time-out test failed"),
+    wording::pattern("the operator test failed"),
 };
 
 } // namespace
 
-std::string additionalCauseText(std::int32_t addCause)
+mms::Text additionalCauseText(std::int32_t addCause)
 {
     if (addCause >= 0 && static_cast<std::size_t>(addCause) < additionalCauses.size())
-        return std::string(additionalCauses[static_cast<std::size_t>(addCause)]);
-    return "additional cause " + std::to_string(addCause);
+        return say(additionalCauses[static_cast<std::size_t>(addCause)]);
+    return say("additional cause %1", addCause);
 }
 
-std::string controlErrorText(std::int32_t error)
+mms::Text controlErrorText(std::int32_t error)
 {
     if (error >= 0 && static_cast<std::size_t>(error) < controlErrors.size())
-        return std::string(controlErrors[static_cast<std::size_t>(error)]);
-    return "control error " + std::to_string(error);
+        return say(controlErrors[static_cast<std::size_t>(error)]);
+    return say("control error %1", error);
 }
 
 mms::Result<Data> controlValue(const TypeDescription &type, const ControlRequest &request,
                                const std::optional<AnalogueScale> &scale)
 {
     if (type.kind != TypeDescription::Kind::Structure || type.components.empty())
-        return mms::Error{"The device does not say what belongs to the command.", 0};
+        return mms::Error{say("The device does not say what belongs to the command."), 0};
     if (request.operateTime && !componentOf(type, "operTm"))
-        return mms::Error{"The device cannot operate at a given time.", 0};
+        return mms::Error{say("The device cannot operate at a given time."), 0};
     if (request.test && !componentOf(type, "Test"))
-        return mms::Error{"The device cannot test a command.", 0};
+        return mms::Error{say("The device cannot test a command."), 0};
     if (!componentOf(type, "Check")) {
         if (request.interlockCheck)
-            return mms::Error{"The device cannot check interlocking.", 0};
+            return mms::Error{say("The device cannot check interlocking."), 0};
         if (request.synchrocheck)
-            return mms::Error{"The device cannot check synchronism.", 0};
+            return mms::Error{say("The device cannot check synchronism."), 0};
     }
     std::vector<Data> members;
     members.reserve(type.components.size());
@@ -295,14 +297,14 @@ mms::Result<ControlRequest> controlRequestFrom(const TypeDescription &type, cons
     if (auto fits = checkType(type, value); !fits)
         return fits.error();
     if (type.kind != TypeDescription::Kind::Structure)
-        return mms::Error{"A command is a structure, not " + mms::toText(type) + ".", 0};
+        return mms::Error{say("A command is a structure, not %1.", mms::toText(type)), 0};
     ControlRequest request;
     const std::span<const Data> members = value.children();
     for (std::size_t i = 0; i < members.size(); ++i) {
         const std::string &name = type.components[i].name;
         if (!readComponent(name, members[i], request))
-            return mms::Error{"The part " + mms::quoted(name) + " of the command cannot be " +
-                                  mms::toText(members[i]) + ".",
+            return mms::Error{say("The part %1 of the command cannot be %2.", mms::quoted(name),
+                                  mms::toText(members[i])),
                               0};
     }
     return request;
@@ -347,9 +349,10 @@ mms::Result<LastApplError> lastApplErrorFrom(const Data &value)
          members[0].kind() != Data::Kind::MmsString) ||
         !readNumber(members[1], error.error) || !readOrigin(members[2], error.originator) ||
         !readCtlNum(members[3], error.ctlNum) || !readNumber(members[4], error.addCause))
-        return mms::Error{"The device gave a reason for refusing a command that cannot be read: " +
-                              mms::toText(value) + ".",
-                          0};
+        return mms::Error{
+            say("The device gave a reason for refusing a command that cannot be read: %1.",
+                mms::toText(value)),
+            0};
     error.controlObject = members[0].text();
     return error;
 }

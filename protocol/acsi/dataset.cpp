@@ -7,11 +7,13 @@
 
 namespace acsi {
 
+using wording::say;
+
 namespace {
 
 mms::Error wrongName(std::string_view text)
 {
-    return {mms::quoted(text) + " is not the name of a data set.", 0};
+    return {say("%1 is not the name of a data set.", mms::quoted(text)), 0};
 }
 
 } // namespace
@@ -94,8 +96,8 @@ asio::awaitable<mms::Result<void>> deleteDataSet(std::shared_ptr<Client> client,
         co_return answer.error();
     if (answer->deleted == 0) {
         co_return mms::Error{answer->matched == 0
-                                 ? "There is no data set " + text + "."
-                                 : "The device does not let the data set " + text + " be deleted.",
+                                 ? say("There is no data set %1.", text)
+                                 : say("The device does not let the data set %1 be deleted.", text),
                              0};
     }
     co_return mms::Result<void>();

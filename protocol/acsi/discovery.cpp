@@ -13,6 +13,8 @@
 
 namespace acsi {
 
+using wording::say;
+
 namespace {
 
 /// How soon a cancellation from another thread is noticed while the device is silent.
@@ -20,8 +22,7 @@ constexpr std::chrono::milliseconds cancellationPeriod{100};
 
 std::size_t windowOf(Client &client, const DiscoveryOptions &options)
 {
-    const int agreed =
-        std::max<int>(client.association().negotiated().maxOutstandingCalling, 1);
+    const int agreed = std::max<int>(client.association().negotiated().maxOutstandingCalling, 1);
     const int wanted = options.outstanding > 0 ? std::min(options.outstanding, agreed) : agreed;
     return static_cast<std::size_t>(wanted);
 }
@@ -43,8 +44,8 @@ const mms::TypeDescription *component(const mms::TypeDescription &type, std::str
     const auto found =
         std::ranges::find(type.components, name, &mms::TypeDescription::Component::name);
     return type.kind == mms::TypeDescription::Kind::Structure && found != type.components.end()
-        ? &found->type
-        : nullptr;
+               ? &found->type
+               : nullptr;
 }
 
 /// The type of "har" or "har(3)" in a structure.
@@ -57,9 +58,9 @@ const mms::TypeDescription *stepBelow(const mms::TypeDescription &type, std::str
     const char *const end = step.data() + step.size() - 1;
     std::uint32_t index = 0;
     const auto [stopped, error] = std::from_chars(step.data() + open + 1, end, index);
-    if (error != std::errc() || stopped != end || *end != ')'
-        || below->kind != mms::TypeDescription::Kind::Array || below->components.empty()
-        || index >= below->elementCount)
+    if (error != std::errc() || stopped != end || *end != ')' ||
+        below->kind != mms::TypeDescription::Kind::Array || below->components.empty() ||
+        index >= below->elementCount)
         return nullptr;
     return &below->components.front().type;
 }
@@ -75,9 +76,9 @@ carryOut(std::shared_ptr<Client> client, DiscoveryOptions options, DiscoveryPlan
     bool overdue = false;
     while (!plan.finished()) {
         const auto cancellation = co_await asio::this_coro::cancellation_state;
-        if (cancellation.cancelled() != asio::cancellation_type::none
-            || (options.cancelled && *options.cancelled))
-            co_return mms::Error{"The discovery was cancelled.", 0};
+        if (cancellation.cancelled() != asio::cancellation_type::none ||
+            (options.cancelled && *options.cancelled))
+            co_return mms::Error{say("The discovery was cancelled."), 0};
         if (std::chrono::steady_clock::now() >= end)
             plan.timeIsOver();
         while (auto request = plan.next()) {
@@ -95,8 +96,7 @@ carryOut(std::shared_ptr<Client> client, DiscoveryOptions options, DiscoveryPlan
         if (strayAnswers(*client) != strays)
             plan.confused();
         if (options.devicesKnown && plan.areDevicesKnown()) {
-            const std::string objection =
-                std::exchange(options.devicesKnown, {})(plan.deviceNames());
+            const mms::Text objection = std::exchange(options.devicesKnown, {})(plan.deviceNames());
             if (!objection.empty())
                 co_return mms::Error{objection, 0};
         }
@@ -118,9 +118,9 @@ asio::awaitable<mms::Result<ServerDescription>> discover(std::shared_ptr<Client>
     return carryOut(std::move(client), std::move(options), std::move(plan));
 }
 
-asio::awaitable<mms::Result<ServerDescription>>
-discoverDataSets(std::shared_ptr<Client> client, std::vector<std::string> devices,
-                 DiscoveryOptions options)
+asio::awaitable<mms::Result<ServerDescription>> discoverDataSets(std::shared_ptr<Client> client,
+                                                                 std::vector<std::string> devices,
+                                                                 DiscoveryOptions options)
 {
     DiscoveryPlan plan =
         DiscoveryPlan::ofDataSets(windowOf(*client, options), devices, options.limits);

@@ -56,9 +56,9 @@ struct ServerDescription
     std::vector<DeviceDescription> devices;
     std::vector<DataSetDescription> associationDataSets;
     /// What the server refused, one sentence each with the name of the object.
-    std::vector<std::string> refused;
+    std::vector<mms::Text> refused;
     /// What was left out because it is beyond the limits, one sentence each.
-    std::vector<std::string> leftOut;
+    std::vector<mms::Text> leftOut;
 
     friend bool operator==(const ServerDescription &, const ServerDescription &) = default;
 };
@@ -88,7 +88,7 @@ struct DiscoveryOptions
     std::function<void(std::size_t done, std::size_t total)> progress;
     /// Hears the names of the logical devices once, before most is known of them; discovery ends
     /// with the sentence that it returns, if it is not empty.
-    std::function<std::string(const std::vector<std::string> &names)> devicesKnown;
+    std::function<mms::Text(const std::vector<std::string> &names)> devicesKnown;
     /// Set from any thread; discovery then ends with an error soon.
     std::shared_ptr<std::atomic<bool>> cancelled;
 };
@@ -102,9 +102,9 @@ asio::awaitable<mms::Result<ServerDescription>> discover(std::shared_ptr<Client>
                                                          DiscoveryOptions options = {});
 
 /// Asks for the data sets alone: those of the logical devices @p devices and of the association.
-asio::awaitable<mms::Result<ServerDescription>>
-discoverDataSets(std::shared_ptr<Client> client, std::vector<std::string> devices,
-                 DiscoveryOptions options = {});
+asio::awaitable<mms::Result<ServerDescription>> discoverDataSets(std::shared_ptr<Client> client,
+                                                                 std::vector<std::string> devices,
+                                                                 DiscoveryOptions options = {});
 
 /// The type of data below the type of a logical node; null when there is none.
 /// @p constraint and @p path as in the node's type, "ST", "Pos$stVal"; elements of arrays "har(3)".

@@ -10,6 +10,8 @@
 
 namespace acsi {
 
+using wording::say;
+
 namespace {
 
 using mms::CallFailure;
@@ -22,9 +24,6 @@ constexpr char separator = '$';
 constexpr std::size_t tolerableSilences = 2;
 /// Counts of values end here; the product of two of them fits 64 bits.
 constexpr std::uint64_t most = 0xFFFFFFFF;
-constexpr const char *excessive = " is larger, or nested deeper, than what is taken; it is left out.";
-constexpr const char *unnameable =
-    " has a name that is none, or that something else has; it is left out.";
 
 /// What the type of a variable holds when all elements of arrays are counted.
 std::uint64_t valuesIn(const mms::TypeDescription &type)
@@ -49,7 +48,8 @@ std::size_t levelsOf(const mms::TypeDescription &type)
     return below + (type.components.empty() ? 0 : 1);
 }
 
-/// Whether a reference can name it: nobody could tell such a name from several steps, or an element.
+/// Whether a reference can name it: nobody could tell such a name from several steps, or an
+/// element.
 bool isName(std::string_view name)
 {
     return !name.empty() && name.find_first_of("$/()") == name.npos;
@@ -103,16 +103,16 @@ std::string grouped(std::uint64_t number)
 
 bool isRefusal(const mms::RejectPdu &reject)
 {
-    return reject.rejected == mms::RejectedPdu::ConfirmedRequest
-        && reject.code == mms::rejectcodes::requestUnrecognizedService;
+    return reject.rejected == mms::RejectedPdu::ConfirmedRequest &&
+           reject.code == mms::rejectcodes::requestUnrecognizedService;
 }
 
 /// The peer answers, but not the question.
 bool isConfusion(const CallOutcome &outcome)
 {
     if (const auto *failure = std::get_if<CallFailure>(&outcome)) {
-        return failure->kind == CallFailure::Kind::TimedOut
-            || failure->kind == CallFailure::Kind::Malformed;
+        return failure->kind == CallFailure::Kind::TimedOut ||
+               failure->kind == CallFailure::Kind::Malformed;
     }
     if (const auto *reject = std::get_if<mms::RejectPdu>(&outcome))
         return !isRefusal(*reject);
@@ -122,29 +122,35 @@ bool isConfusion(const CallOutcome &outcome)
 bool endsAll(const CallOutcome &outcome)
 {
     const auto *failure = std::get_if<CallFailure>(&outcome);
-    return failure
-        && (failure->kind == CallFailure::Kind::NotOpen || failure->kind == CallFailure::Kind::Lost
-            || failure->kind == CallFailure::Kind::Cancelled);
+    return failure && (failure->kind == CallFailure::Kind::NotOpen ||
+                       failure->kind == CallFailure::Kind::Lost ||
+                       failure->kind == CallFailure::Kind::Cancelled);
 }
 
 /// Whether parts may be had of what is refused as a whole.
 bool mayHaveParts(const CallOutcome &outcome)
 {
     const auto *error = std::get_if<mms::ServiceError>(&outcome);
-    return !error || error->errorClass != mms::ErrorClass::Access
-        || (error->code != mms::serviceerrors::accessNonExistent
-            && error->code != mms::serviceerrors::accessDenied
-            && error->code != mms::serviceerrors::accessInvalidated);
+    return !error || error->errorClass != mms::ErrorClass::Access ||
+           (error->code != mms::serviceerrors::accessNonExistent &&
+            error->code != mms::serviceerrors::accessDenied &&
+            error->code != mms::serviceerrors::accessInvalidated);
 }
 
-/// Sentences end with a point of ours.
-std::string whyNot(std::string text)
+mms::Text whyNot(const CallOutcome &outcome)
 {
-    if (text.empty())
-        text = "The answer does not match the question";
-    while (text.ends_with('.'))
-        text.pop_back();
-    return text;
+    const mms::Text text = mms::failureText(outcome);
+    return text.empty() ? say("The answer does not match the question.") : text;
+}
+
+mms::Text unnameable(const std::string &name)
+{
+    return say("%1 has a name that is none, or that something else has; it is left out.", name);
+}
+
+mms::Text excessive(const std::string &name)
+{
+    return say("%1 is larger, or nested deeper, than what is taken; it is left out.", name);
 }
 
 } // namespace
@@ -192,14 +198,14 @@ void DiscoveryPlan::add(Step step)
         m_devices[step.device].refusedParts.push_back(std::move(step));
 }
 
-void DiscoveryPlan::leaveOut(std::string sentence)
+void DiscoveryPlan::leaveOut(mms::Text sentence)
 {
     if (std::ranges::find(m_server.leftOut, sentence) == m_server.leftOut.end())
         m_server.leftOut.push_back(std::move(sentence));
 }
 
 /// Nothing more is asked; what is on the way is still taken.
-void DiscoveryPlan::stop(std::string sentence)
+void DiscoveryPlan::stop(mms::Text sentence)
 {
     if (std::exchange(m_stopped, true))
         return;
@@ -220,8 +226,9 @@ void DiscoveryPlan::stop(std::string sentence)
 
 void DiscoveryPlan::timeIsOver()
 {
-    stop("The device took longer than " + std::to_string(m_limits.time.count() / 60)
-         + " minutes to describe itself; what it had not told by then is left out.");
+    stop(say(
+        "The device took longer than %1 minutes to describe itself; what it had not told by then is left out.",
+        m_limits.time.count() / 60));
     for (const auto &[number, step] : std::exchange(m_asked, {})) {
         if (step.kind == Kind::Type)
             m_devices[step.device].refusedParts.push_back(step);
@@ -260,17 +267,16 @@ std::deque<DiscoveryPlan::Step> &DiscoveryPlan::queueOf(const Step &step)
 /// What most devices have not: they may reject the question instead of refusing it.
 bool DiscoveryPlan::isOptional(const Step &step) const
 {
-    return step.kind == Kind::Identity
-        || (step.kind == Kind::Names
-            && (m_lists[step.list].objectClass == ObjectClass::Journal
-                || m_lists[step.list].scope == Scope::Association));
+    return step.kind == Kind::Identity ||
+           (step.kind == Kind::Names && (m_lists[step.list].objectClass == ObjectClass::Journal ||
+                                         m_lists[step.list].scope == Scope::Association));
 }
 
 void DiscoveryPlan::addList(ObjectClass objectClass, Scope scope, std::size_t device)
 {
     std::string domain = scope == Scope::Domain ? m_server.devices[device].name : std::string();
-    m_lists.push_back({NamePages(objectClass, scope, std::move(domain)), objectClass, scope,
-                       device});
+    m_lists.push_back(
+        {NamePages(objectClass, scope, std::move(domain)), objectClass, scope, device});
     Step step;
     step.kind = Kind::Names;
     step.list = m_lists.size() - 1;
@@ -348,13 +354,12 @@ void DiscoveryPlan::answered(std::size_t stepId, CallOutcome outcome)
 void DiscoveryPlan::silent(const Step &step)
 {
     const auto isJournals = [this](const Step &each) {
-        return each.kind == Kind::Names
-            && m_lists[each.list].objectClass == ObjectClass::Journal;
+        return each.kind == Kind::Names && m_lists[each.list].objectClass == ObjectClass::Journal;
     };
     if (isJournals(step))
         m_done += std::erase_if(m_others, isJournals);
     else if (++m_silences >= tolerableSilences)
-        m_error = mms::Error{"The device does not answer any more.", 0};
+        m_error = mms::Error{say("The device does not answer any more."), 0};
 }
 
 bool DiscoveryPlan::take(const Step &step, mms::ResponseService &response)
@@ -372,10 +377,9 @@ bool DiscoveryPlan::take(const Step &step, mms::ResponseService &response)
             takeNames(step);
             const NamePages &pages = m_lists[step.list].pages;
             if (!taken)
-                refuse(step, whyNot(taken.error().message));
-            else if (pages.complete() || m_stopped
-                     || (m_hasAllDevices
-                         && m_lists[step.list].objectClass == ObjectClass::Domain))
+                refuse(step, taken.error().message);
+            else if (pages.complete() || m_stopped ||
+                     (m_hasAllDevices && m_lists[step.list].objectClass == ObjectClass::Domain))
                 namesEnded(step.list);
             else
                 add(step);
@@ -405,15 +409,17 @@ void DiscoveryPlan::takeNames(const Step &step)
     for (const std::string &name : list.pages.newNames()) {
         m_octets += name.size();
         if (++m_names > m_limits.names || m_octets > m_limits.octets) {
-            stop("The device has more names than the " + grouped(m_limits.names) + " names and "
-                 + grouped(m_limits.octets) + " octets that are taken; the others are left out.");
+            stop(say(
+                "The device has more names than the %1 names and %2 octets that are taken; the others are left out.",
+                grouped(m_limits.names), grouped(m_limits.octets)));
             return;
         }
         if (list.objectClass == ObjectClass::Domain) {
             if (m_devices.size() >= m_limits.devices) {
                 m_hasAllDevices = true;
-                leaveOut("The device has more than " + grouped(m_limits.devices)
-                         + " logical devices; the others are left out.");
+                leaveOut(
+                    say("The device has more than %1 logical devices; the others are left out.",
+                        grouped(m_limits.devices)));
                 return;
             }
             const std::size_t device = m_server.devices.size();
@@ -428,9 +434,10 @@ void DiscoveryPlan::takeNames(const Step &step)
             Step members;
             members.kind = Kind::DataSetMembers;
             members.device = list.device;
-            members.object = list.scope == Scope::Association
-                ? mms::ObjectName::ofAssociation(name)
-                : mms::ObjectName::inDomain(m_server.devices[list.device].name, name);
+            members.object =
+                list.scope == Scope::Association
+                    ? mms::ObjectName::ofAssociation(name)
+                    : mms::ObjectName::inDomain(m_server.devices[list.device].name, name);
             add(std::move(members));
         } else {
             m_server.devices[list.device].journals.push_back(name);
@@ -445,8 +452,8 @@ void DiscoveryPlan::takeNode(std::size_t device, std::string_view item)
     if (known.contains(item))
         return;
     if (m_nodes >= m_limits.nodes) {
-        leaveOut("The device has more than " + grouped(m_limits.nodes)
-                 + " logical nodes; the others are left out.");
+        leaveOut(say("The device has more than %1 logical nodes; the others are left out.",
+                     grouped(m_limits.nodes)));
         return;
     }
     ++m_nodes;
@@ -478,20 +485,21 @@ void DiscoveryPlan::takeType(const Step &step, mms::TypeDescription type)
 {
     const bool isNode = step.object.item.find(separator) == std::string::npos;
     if (isNode && type.kind != mms::TypeDescription::Kind::Structure) {
-        refuse(step, "It is not a logical node");
+        refuse(step, say("It is not a logical node."));
         return;
     }
     const auto above = std::ranges::count(step.object.item, separator);
     const auto depth = static_cast<std::size_t>(above);
     const bool isArray = type.kind == mms::TypeDescription::Kind::Array;
-    const bool isExcessive = isArray
-        && (valuesIn(type) > m_limits.elements || depth + levelsOf(type) > m_limits.depth);
+    const bool isExcessive =
+        isArray && (valuesIn(type) > m_limits.elements || depth + levelsOf(type) > m_limits.depth);
     const bool isOdd = isArray && !isNameable(type);
     mms::TypeDescription *const place = typeOf(step);
     if (isExcessive || isOdd || !place) {
         m_devices[step.device].refusedParts.push_back(step);
         if (isExcessive || isOdd)
-            leaveOut(mms::toText(step.object) + (isExcessive ? excessive : unnameable));
+            leaveOut(isExcessive ? excessive(mms::toText(step.object))
+                                 : unnameable(mms::toText(step.object)));
         return;
     }
     withoutExcess(type, step, step.object.item);
@@ -499,15 +507,17 @@ void DiscoveryPlan::takeType(const Step &step, mms::TypeDescription type)
     m_values += valuesIn(type);
     if (m_octets > m_limits.octets || m_values > m_limits.values) {
         m_devices[step.device].refusedParts.push_back(step);
-        stop("The device describes more than the " + grouped(m_limits.values) + " values in "
-             + grouped(m_limits.octets) + " octets that are taken; the rest is left out.");
+        stop(say(
+            "The device describes more than the %1 values in %2 octets that are taken; the rest is left out.",
+            grouped(m_limits.values), grouped(m_limits.octets)));
         return;
     }
     *place = std::move(type);
 }
 
-/// Takes arrays that are too large, what is nested too deeply, and what no reference can name out of a
-/// structure. What is left of that is read part by part, since the device goes on sending the whole.
+/// Takes arrays that are too large, what is nested too deeply, and what no reference can name out
+/// of a structure. What is left of that is read part by part, since the device goes on sending the
+/// whole.
 void DiscoveryPlan::withoutExcess(mms::TypeDescription &type, const Step &step,
                                   const std::string &item)
 {
@@ -522,14 +532,15 @@ void DiscoveryPlan::withoutExcess(mms::TypeDescription &type, const Step &step,
         const std::string name = item + separator + component.name;
         const bool isArray = component.type.kind == mms::TypeDescription::Kind::Array;
         const std::size_t levels = depth + 1 + levelsOf(component.type);
-        const bool isExcessive = isArray
-            ? valuesIn(component.type) > m_limits.elements || levels > m_limits.depth
-            : depth + 1 >= m_limits.depth && !component.type.components.empty();
-        const bool isOdd = !isName(component.name)
-            || std::ranges::binary_search(repeated, component.name)
-            || (isArray && !isNameable(component.type));
+        const bool isExcessive =
+            isArray ? valuesIn(component.type) > m_limits.elements || levels > m_limits.depth
+                    : depth + 1 >= m_limits.depth && !component.type.components.empty();
+        const bool isOdd = !isName(component.name) ||
+                           std::ranges::binary_search(repeated, component.name) ||
+                           (isArray && !isNameable(component.type));
         if (isExcessive || isOdd) {
-            leaveOut(step.object.domain + '/' + name + (isExcessive ? excessive : unnameable));
+            leaveOut(isExcessive ? excessive(step.object.domain + '/' + name)
+                                 : unnameable(step.object.domain + '/' + name));
             return true;
         }
         withoutExcess(component.type, step, name);
@@ -551,7 +562,7 @@ void DiscoveryPlan::takeMembers(const Step &step,
 
 void DiscoveryPlan::failed(const Step &step, const CallOutcome &outcome)
 {
-    const std::string why = whyNot(mms::failureText(outcome));
+    const mms::Text why = whyNot(outcome);
     if (step.kind == Kind::Type && mayHaveParts(outcome)) {
         Device &device = m_devices[step.device];
         if (!device.namesKnown && !m_stopped) {
@@ -564,20 +575,20 @@ void DiscoveryPlan::failed(const Step &step, const CallOutcome &outcome)
     refuse(step, why);
 }
 
-void DiscoveryPlan::refuse(const Step &step, const std::string &why)
+void DiscoveryPlan::refuse(const Step &step, const mms::Text &why)
 {
     if (isOptional(step))
         return;
     if (step.kind == Kind::Names) {
         namesEnded(step.list);
         if (m_lists[step.list].objectClass == ObjectClass::Domain && m_server.devices.empty()) {
-            m_error = mms::Error{"The device does not list its logical devices: " + why + ".", 0};
+            m_error = mms::Error{say("The device does not list its logical devices: %1.", why), 0};
             return;
         }
     }
     if (step.kind == Kind::Type)
         m_devices[step.device].refusedParts.push_back(step);
-    m_server.refused.push_back(nameOf(step) + ": " + why + ".");
+    m_server.refused.push_back(say("%1: %2.", nameOf(step), why));
 }
 
 /// Asks for the parts of a type instead of the whole; false when it has none.
@@ -663,17 +674,22 @@ mms::TypeDescription *DiscoveryPlan::typeOf(const Step &step)
     return type;
 }
 
-std::string DiscoveryPlan::nameOf(const Step &step) const
+mms::Text DiscoveryPlan::nameOf(const Step &step) const
 {
     if (step.kind != Kind::Names)
-        return mms::toText(step.object);
+        return mms::verbatim(mms::toText(step.object));
     const NameList &list = m_lists[step.list];
-    std::string what = list.objectClass == ObjectClass::NamedVariable ? "The names of the data"
-        : list.objectClass == ObjectClass::NamedVariableList          ? "The names of the data sets"
-                                                                      : "The names";
-    if (list.scope == Scope::Domain)
-        what += " of " + m_server.devices[list.device].name;
-    return what;
+    const bool isData = list.objectClass == ObjectClass::NamedVariable;
+    const bool isSets = list.objectClass == ObjectClass::NamedVariableList;
+    if (list.scope == Scope::Domain) {
+        const std::string &name = m_server.devices[list.device].name;
+        return isData   ? say("The names of the data of %1", name)
+               : isSets ? say("The names of the data sets of %1", name)
+                        : say("The names of %1", name);
+    }
+    return isData   ? say("The names of the data")
+           : isSets ? say("The names of the data sets")
+                    : say("The names");
 }
 
 mms::Result<ServerDescription> DiscoveryPlan::take()

@@ -62,8 +62,8 @@ public:
 private:
     enum class Kind : std::uint8_t {
         Identity,
-        Names,          ///< a page
-        Type,           ///< of a logical node or a part of it
+        Names, ///< a page
+        Type,  ///< of a logical node or a part of it
         DataSetMembers,
     };
 
@@ -91,10 +91,10 @@ private:
         std::size_t variables = 0; ///< the list of its variables
         /// Positions in that list, sorted by name; once something had to be taken in parts.
         std::vector<std::uint32_t> sorted;
-        bool namesKnown = false;   ///< or as many as can be had
+        bool namesKnown = false; ///< or as many as can be had
         /// Types that cannot be had as a whole, with the reason, until the names of their parts
         /// are known.
-        std::vector<std::pair<Step, std::string>> tooLarge;
+        std::vector<std::pair<Step, mms::Text>> tooLarge;
         /// Items that were refused and stand in the types as empty places.
         std::vector<Step> refusedParts;
     };
@@ -117,18 +117,18 @@ private:
     void namesEnded(std::size_t list);
     void takeType(const Step &step, mms::TypeDescription type);
     void withoutExcess(mms::TypeDescription &type, const Step &step, const std::string &item);
-    void leaveOut(std::string sentence);
-    void stop(std::string sentence);
+    void leaveOut(mms::Text sentence);
+    void stop(mms::Text sentence);
     std::vector<std::string> partsOf(Device &device, const std::string &item) const;
     void takeMembers(const Step &step, mms::GetNamedVariableListAttributesResponse answer);
 
     void silent(const Step &step);
     void failed(const Step &step, const mms::CallOutcome &outcome);
-    void refuse(const Step &step, const std::string &why);
+    void refuse(const Step &step, const mms::Text &why);
     bool descend(const Step &step);
     mms::TypeDescription *typeOf(const Step &step);
     void removeParts(std::vector<Step> steps);
-    std::string nameOf(const Step &step) const;
+    mms::Text nameOf(const Step &step) const;
 
     std::size_t m_window;
     DiscoveryLimits m_limits;

@@ -15,6 +15,8 @@
 
 namespace acsi {
 
+using wording::say;
+
 namespace {
 
 constexpr std::size_t maxEntries = 1000000;
@@ -25,8 +27,8 @@ constexpr std::chrono::seconds latePatience{60};
 
 mms::Error errorOf(const mms::CallOutcome &outcome)
 {
-    std::string text = mms::failureText(outcome);
-    return {text.empty() ? "The device answered another service." : std::move(text), 0};
+    const mms::Text text = mms::failureText(outcome);
+    return {text.empty() ? say("The device answered another service.") : text, 0};
 }
 
 bool isLost(const mms::CallOutcome &outcome)
@@ -65,7 +67,7 @@ asio::awaitable<Listing> listPages(std::shared_ptr<Client> client,
         // A peer that does not get further, or never ends, must not keep anybody busy.
         if (isSame || emptyPages > maxEmptyPages || listing.entries.size() > maxEntries) {
             listing.failure = mms::CallFailure{mms::CallFailure::Kind::Malformed,
-                                               "The device lists its files without an end."};
+                                               say("The device lists its files without an end.")};
             co_return listing;
         }
         if (!listing.entries.empty())
@@ -83,7 +85,7 @@ askBySpelling(std::shared_ptr<Client> client, std::string name,
         co_await callBySpelling(std::move(client), name, std::move(requestFor));
     if (const auto *response = mms::answerOf<Response>(outcome))
         co_return *response;
-    co_return mms::Error{name + ": " + errorOf(outcome).message, 0};
+    co_return mms::Error{say("%1: %2.", name, errorOf(outcome).message), 0};
 }
 
 /// How much a refusal tells: one for another reason than the name more than that there is no such
@@ -119,7 +121,7 @@ public:
             start();
             auto arrival = co_await m_calls.next();
             if (!arrival)
-                co_return mms::Error{"Reading the file was cancelled.", 0};
+                co_return mms::Error{say("Reading the file was cancelled."), 0};
             m_arrived.emplace(arrival->id, std::move(arrival->outcome));
             deliver();
         }
@@ -169,14 +171,14 @@ private:
             m_blockSize = block->data.size();
             m_received += block->data.size();
             if (!m_sink(block->data)) {
-                end(mms::Error{"Reading the file was stopped.", 0});
+                end(mms::Error{say("Reading the file was stopped."), 0});
                 return;
             }
         }
         if (!block->moreFollows)
             m_ended = true;
         else if (m_emptyBlocks > maxEmptyBlocks)
-            end(mms::Error{"The device sends empty blocks of the file without an end.", 0});
+            end(mms::Error{say("The device sends empty blocks of the file without an end."), 0});
     }
 
     void end(mms::Error error)
@@ -283,8 +285,8 @@ asio::awaitable<mms::CallOutcome> openFile(std::shared_ptr<Client> client,
         co_return std::move(*state->outcome);
     state->isWaitedFor = false;
     if (isCancelled)
-        co_return Failure{Failure::Kind::Cancelled, "The call was cancelled."};
-    co_return Failure{Failure::Kind::TimedOut, "The peer did not answer in time."};
+        co_return Failure{Failure::Kind::Cancelled, say("The call was cancelled.")};
+    co_return Failure{Failure::Kind::TimedOut, say("The peer did not answer in time.")};
 }
 
 asio::awaitable<mms::CallOutcome> renameCall(std::shared_ptr<Client> client, std::string from,
@@ -324,7 +326,7 @@ asio::awaitable<mms::Result<std::uint64_t>>
 download(std::shared_ptr<Client> client, std::string name,
          std::function<bool(std::span<const std::uint8_t>)> sink,
          std::function<void(std::uint32_t)> announced,
-         std::function<void(const std::string &)> notClosed)
+         std::function<void(const mms::Text &)> notClosed)
 {
     const auto opened = co_await askBySpelling<mms::FileOpenResponse>(
         client, name, [](const std::string &spelling) {
@@ -343,10 +345,10 @@ download(std::shared_ptr<Client> client, std::string name,
     if (notClosed && !isLost(closed) && !mms::answerOf<mms::FileCloseResponse>(closed))
         notClosed(errorOf(closed).message);
     if (!received)
-        co_return mms::Error{name + ": " + received.error().message, 0};
+        co_return mms::Error{say("%1: %2.", name, received.error().message), 0};
     if (*received < opened->attributes.size) {
-        co_return mms::Error{name + ": The file ended after " + std::to_string(*received) + " of " +
-                                 std::to_string(opened->attributes.size) + " octets.",
+        co_return mms::Error{say("%1: the file ended after %2 of %3 octets.", name, *received,
+                                 opened->attributes.size),
                              0};
     }
     co_return received;
@@ -370,7 +372,7 @@ asio::awaitable<mms::Result<void>> renameFile(std::shared_ptr<Client> client, st
 {
     const mms::CallOutcome renamed = co_await renameCall(std::move(client), from, std::move(to));
     if (!mms::answerOf<mms::FileRenameResponse>(renamed))
-        co_return mms::Error{from + ": " + errorOf(renamed).message, 0};
+        co_return mms::Error{say("%1: %2.", from, errorOf(renamed).message), 0};
     co_return mms::Result<void>();
 }
 

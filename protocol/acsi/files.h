@@ -42,7 +42,7 @@ asio::awaitable<mms::Result<std::uint64_t>>
 download(std::shared_ptr<Client> client, std::string name,
          std::function<bool(std::span<const std::uint8_t> block)> sink,
          std::function<void(std::uint32_t size)> announced = {},
-         std::function<void(const std::string &reason)> notClosed = {});
+         std::function<void(const mms::Text &reason)> notClosed = {});
 
 /// A file that this side offers. read() fills @p block from @p position, never beyond the size, and
 /// answers how many octets it gave, or an error; fewer than asked for are an error as well. It is

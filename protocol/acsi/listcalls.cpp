@@ -5,6 +5,8 @@
 
 namespace acsi {
 
+using wording::say;
+
 using mms::CallFailure;
 using mms::CallOutcome;
 using mms::DataAccessError;
@@ -60,10 +62,10 @@ mms::DataAccessError accessErrorOf(const CallOutcome &outcome)
     }
 }
 
-std::string whyNot(const CallOutcome &outcome)
+mms::Text whyNot(const CallOutcome &outcome)
 {
-    std::string text = mms::failureText(outcome);
-    return text.empty() ? "The device's answer does not match the question." : text;
+    const mms::Text text = mms::failureText(outcome);
+    return text.empty() ? say("The device's answer does not match the question.") : text;
 }
 
 } // namespace acsi

@@ -31,7 +31,7 @@ bool endsAll(const mms::CallOutcome &outcome);
 mms::DataAccessError accessErrorOf(const mms::CallOutcome &outcome);
 
 /// One sentence why there is no answer that fits the question.
-std::string whyNot(const mms::CallOutcome &outcome);
+mms::Text whyNot(const mms::CallOutcome &outcome);
 
 /// A long list on its way in several calls: gives ranges to ask for, takes what became of them.
 class ListCalls

@@ -5,6 +5,8 @@
 
 namespace acsi {
 
+using wording::say;
+
 namespace {
 
 /// More than any device has; a peer that makes up names without end is stopped.
@@ -36,9 +38,9 @@ mms::Result<void> NamePages::take(mms::GetNameListResponse page)
             m_names.push_back(std::move(name));
     }
     if (!m_complete && m_names.size() == m_before)
-        return mms::Error{"The device repeats the same page of names.", 0};
+        return mms::Error{say("The device repeats the same page of names."), 0};
     if (m_names.size() > mostNames)
-        return mms::Error{"The device gives names without end.", 0};
+        return mms::Error{say("The device gives names without end."), 0};
     return {};
 }
 

@@ -9,6 +9,8 @@
 
 namespace acsi {
 
+using wording::say;
+
 namespace {
 
 constexpr std::size_t maxOpen = 5;
@@ -76,7 +78,7 @@ std::optional<OfferedFile::Answer> OfferedFile::answer(const mms::FileReadReques
         if (!count)
             return fail(count.error());
         if (*count != response.data.size())
-            return fail({"The file became shorter while it was read.", 0});
+            return fail({say("The file became shorter while it was read."), 0});
     }
     // What is read behind a gap does not count.
     if (position <= m_given)

@@ -11,6 +11,8 @@
 
 namespace acsi {
 
+using wording::say;
+
 mms::RequestService readRequest(std::vector<mms::VariableAccess> variables)
 {
     mms::ReadRequest request;
@@ -64,7 +66,7 @@ readEach(std::shared_ptr<Client> client, std::vector<mms::VariableAccess> variab
     ListCalls calls(listRanges(sizes, limit - std::min(limit, readFrameSize())), variables.size());
     std::vector<ReadResult> results(variables.size());
     std::map<std::size_t, ListRange> asked;
-    std::string silence;
+    mms::Text silence;
     CallGroup group(client);
     while ((silence.empty() && !calls.idle()) || group.onTheWay() != 0) {
         while (silence.empty() && !calls.idle() && group.onTheWay() < client->outstanding()) {
@@ -75,7 +77,7 @@ readEach(std::shared_ptr<Client> client, std::vector<mms::VariableAccess> variab
         }
         auto arrival = co_await group.next();
         if (!arrival)
-            co_return mms::Error{"The call was cancelled.", 0};
+            co_return mms::Error{say("The call was cancelled."), 0};
         const ListRange range = asked[arrival->id];
         ReadAnswer answer = readAnswer(std::move(arrival->outcome), range.count);
         switch (answer.kind) {

@@ -25,7 +25,7 @@ struct ReadAnswer
     Kind kind = Kind::Ended;
     std::vector<mms::AccessResult> results;
     mms::DataAccessError error = mms::DataAccessError::ObjectAccessUnsupported;
-    std::string reason; ///< one sentence without results
+    mms::Text reason; ///< one sentence without results
 };
 
 mms::RequestService readRequest(std::vector<mms::VariableAccess> variables);
@@ -47,7 +47,7 @@ struct ReadResult
 
     Kind kind = Kind::Missing;
     mms::AccessResult result = mms::DataAccessError::ObjectInvalidated; ///< unless missing
-    std::string reason; ///< one sentence when it was not answered
+    mms::Text reason; ///< one sentence when it was not answered
 };
 
 /// Reads in as few requests as request and answers fit; a list that is refused as a whole, or whose

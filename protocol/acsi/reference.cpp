@@ -9,16 +9,16 @@
 
 namespace acsi {
 
+using wording::say;
+
 namespace {
 
 constexpr char wireSeparator = '$';
 constexpr char referenceSeparator = '.';
 
-mms::Error wrong(std::string_view text, std::string_view why)
+mms::Error wrong(std::string_view text, const mms::Text &why)
 {
-    std::string message = mms::quoted(text) + " is not a reference: ";
-    message += why;
-    return {std::move(message), 0};
+    return {say("%1 is not a reference: %2.", mms::quoted(text), why), 0};
 }
 
 bool isName(std::string_view text, std::string_view forbidden)
@@ -74,13 +74,13 @@ std::optional<PathStep> stepFrom(std::string_view text)
 }
 
 /// Appends what is behind the functional constraint; the error's text when it is wrong.
-std::optional<std::string> appendPath(std::optional<std::string_view> rest, char separator,
-                                      std::vector<PathStep> &path)
+std::optional<mms::Text> appendPath(std::optional<std::string_view> rest, char separator,
+                                    std::vector<PathStep> &path)
 {
     while (const auto part = takePart(rest, separator)) {
         auto step = stepFrom(*part);
         if (!step)
-            return mms::quoted(*part) + " is no name of data.";
+            return say("%1 is no name of data.", mms::quoted(*part));
         path.push_back(std::move(*step));
     }
     return std::nullopt;
@@ -91,16 +91,16 @@ mms::Result<Reference> parseItem(std::string_view whole, std::string_view device
 {
     Reference reference;
     if (!isDeviceName(device))
-        return wrong(whole, "the name of the logical device is missing or wrong.");
+        return wrong(whole, say("the name of the logical device is missing or wrong."));
     reference.device = device;
     std::optional<std::string_view> rest = item;
     reference.node = *takePart(rest, wireSeparator);
     if (!isPartName(reference.node))
-        return wrong(whole, "the name of the logical node is missing or wrong.");
+        return wrong(whole, say("the name of the logical node is missing or wrong."));
     if (const auto constraint = takePart(rest, wireSeparator)) {
         reference.constraint = functionalConstraintFrom(*constraint);
         if (!reference.constraint)
-            return wrong(whole, mms::quoted(*constraint) + " is no functional constraint.");
+            return wrong(whole, say("%1 is no functional constraint.", mms::quoted(*constraint)));
     }
     if (const auto error = appendPath(rest, wireSeparator, reference.path))
         return wrong(whole, *error);
@@ -148,7 +148,7 @@ mms::Result<Reference> parseReference(std::string_view text)
     if (slash != std::string_view::npos)
         return parseItem(text, text.substr(0, slash), text.substr(slash + 1));
     if (!isDeviceName(text))
-        return wrong(text, "the name of the logical device is missing or wrong.");
+        return wrong(text, say("the name of the logical device is missing or wrong."));
     Reference reference;
     reference.device = text;
     return reference;
@@ -165,13 +165,13 @@ mms::Result<Reference> parseObjectReference(std::string_view text, FunctionalCon
     Reference reference;
     reference.device = text.substr(0, slash);
     if (!isDeviceName(reference.device))
-        return wrong(text, "the name of the logical device is missing or wrong.");
+        return wrong(text, say("the name of the logical device is missing or wrong."));
     std::optional<std::string_view> rest;
     if (slash != std::string_view::npos)
         rest = text.substr(slash + 1);
     reference.node = takePart(rest, referenceSeparator).value_or(std::string_view());
     if (!isPartName(reference.node))
-        return wrong(text, "the name of the logical node is missing or wrong.");
+        return wrong(text, say("the name of the logical node is missing or wrong."));
     reference.constraint = constraint;
     if (const auto error = appendPath(rest, referenceSeparator, reference.path))
         return wrong(text, *error);
@@ -180,8 +180,7 @@ mms::Result<Reference> parseObjectReference(std::string_view text, FunctionalCon
 
 std::string toText(const Reference &reference)
 {
-    return reference.node.empty() ? reference.device
-                                  : reference.device + '/' + itemText(reference);
+    return reference.node.empty() ? reference.device : reference.device + '/' + itemText(reference);
 }
 
 std::string itemText(const Reference &reference)
@@ -232,7 +231,7 @@ mms::Result<Reference> referenceOf(const mms::VariableAccess &access)
 {
     const auto *name = std::get_if<mms::ObjectName>(&access.variable);
     if (!name || name->scope != mms::Scope::Domain)
-        return wrong(mms::toText(access), "it is not in a logical device.");
+        return wrong(mms::toText(access), say("it is not in a logical device."));
     auto reference = parseItem(mms::toText(access), name->domain, name->item);
     if (!reference)
         return reference;
@@ -241,18 +240,18 @@ mms::Result<Reference> referenceOf(const mms::VariableAccess &access)
     while (!parts->empty()) {
         const mms::AlternateAccess &part = parts->front();
         if (parts->size() > 1)
-            return wrong(mms::toText(access), "it names several parts.");
+            return wrong(mms::toText(access), say("it names several parts."));
         if (part.kind == mms::AlternateAccess::Kind::Component) {
             if (!reference->constraint)
-                return wrong(mms::toText(access), "the functional constraint is missing.");
+                return wrong(mms::toText(access), say("the functional constraint is missing."));
             // Some peers name a component of a component at once.
             if (const auto error = appendPath(part.component, wireSeparator, path))
                 return wrong(mms::toText(access), *error);
-        } else if (part.kind == mms::AlternateAccess::Kind::Index && !path.empty()
-                   && !path.back().element) {
+        } else if (part.kind == mms::AlternateAccess::Kind::Index && !path.empty() &&
+                   !path.back().element) {
             path.back().element = part.index;
         } else {
-            return wrong(mms::toText(access), "it names more than one element of one array.");
+            return wrong(mms::toText(access), say("it names more than one element of one array."));
         }
         parts = &part.parts;
     }

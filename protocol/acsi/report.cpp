@@ -10,19 +10,21 @@
 
 namespace acsi {
 
+using wording::say;
+
 namespace {
 
 constexpr std::string_view reportList = "RPT";
 constexpr std::size_t maxPending = 256;
 
-mms::Error wrong(std::string_view field, std::string_view expected)
+mms::Error wrong(const mms::Text &field, wording::Pattern<1> words)
 {
-    return {"The report's " + std::string(field) + " is not " + std::string(expected) + ".", 0};
+    return {say(words, field), 0};
 }
 
-std::string memberField(std::string_view field, std::size_t index)
+mms::Text memberField(std::string_view field, std::size_t index)
 {
-    return std::string(field) + " of member " + std::to_string(index + 1);
+    return say("%1 of the member %2", field, index + 1);
 }
 
 bool isText(const mms::Data &data)
@@ -59,14 +61,13 @@ public:
         if (failed())
             return nullptr;
         if (m_next >= m_results.size()) {
-            fail({"The report ends before its " + std::string(field) + ".", 0});
+            fail({say("The report ends before its %1.", field), 0});
             return nullptr;
         }
         mms::AccessResult &result = m_results[m_next++];
         if (result.ok())
             return &result.data();
-        fail({"The report has no value for its " + std::string(field) + ": " +
-                  mms::describe(result.error()),
+        fail({say("The report has no value for its %1: %2.", field, mms::describe(result.error())),
               0});
         return nullptr;
     }
@@ -77,7 +78,8 @@ public:
             if (isText(*data))
                 target = data->text();
             else
-                fail(wrong(field, "a text"));
+                fail(wrong(mms::verbatim(field),
+                           wording::pattern<1>("The report's %1 is not a text.")));
         }
     }
 
@@ -87,7 +89,8 @@ public:
             if (data->kind() == mms::Data::Kind::BitString)
                 target = data->bits();
             else
-                fail(wrong(field, "a bit string"));
+                fail(wrong(mms::verbatim(field),
+                           wording::pattern<1>("The report's %1 is not a bit string.")));
         }
     }
 
@@ -99,7 +102,9 @@ public:
             if (value && *value <= std::numeric_limits<std::uint32_t>::max())
                 target = static_cast<std::uint32_t>(*value);
             else
-                fail(wrong(field, "a number of 32 bits without sign"));
+                fail(wrong(mms::verbatim(field),
+                           wording::pattern<1>(
+                               "The report's %1 is not a number of 32 bits without sign.")));
         }
     }
 
@@ -110,7 +115,8 @@ public:
             if (const auto value = data->toBoolean())
                 target = *value;
             else
-                fail(wrong(field, "true or false"));
+                fail(wrong(mms::verbatim(field),
+                           wording::pattern<1>("The report's %1 is neither true nor false.")));
         }
     }
 
@@ -139,7 +145,8 @@ void readHead(Fields &fields, Report &report, mms::BitString &inclusion)
         if (const mms::Data *data = fields.next("TimeOfEntry")) {
             report.timeOfEntry = data->toBinaryTime();
             if (!report.timeOfEntry)
-                fields.fail(wrong("TimeOfEntry", "a binary time"));
+                fields.fail(wrong(mms::verbatim("TimeOfEntry"),
+                                  wording::pattern<1>("The report's %1 is not a binary time.")));
         }
     }
     if (present.dataSetName)
@@ -156,7 +163,9 @@ void readHead(Fields &fields, Report &report, mms::BitString &inclusion)
             if (data->kind() == mms::Data::Kind::OctetString)
                 report.entryId.assign(data->octets().begin(), data->octets().end());
             else
-                fields.fail(wrong("EntryID", "a string of octets"));
+                fields.fail(
+                    wrong(mms::verbatim("EntryID"),
+                          wording::pattern<1>("The report's %1 is not a string of octets.")));
         }
     }
     if (present.confRevision)
@@ -165,7 +174,7 @@ void readHead(Fields &fields, Report &report, mms::BitString &inclusion)
         fields.number("SubSqNum", report.subSqNum);
         fields.boolean("MoreSegmentsFollow", report.moreSegmentsFollow);
     }
-    fields.bits("inclusion bit string", inclusion);
+    fields.bits("Inclusion", inclusion);
 }
 
 void readMembers(Fields &fields, Report &report, const mms::BitString &inclusion)
@@ -178,10 +187,10 @@ void readMembers(Fields &fields, Report &report, const mms::BitString &inclusion
     const std::size_t each = 1U + (report.optFlds.dataReference ? 1U : 0U) +
                              (report.optFlds.reasonForInclusion ? 1U : 0U);
     if (fields.left() != included * each) {
-        fields.fail({"The report says that it brings " + std::to_string(included) +
-                         " members, which are " + std::to_string(included * each) +
-                         " values, but it has " + std::to_string(fields.left()) + ".",
-                     0});
+        fields.fail(
+            {say("The report says that it brings %1 members, which are %2 values, but it has %3.",
+                 included, included * each, fields.left()),
+             0});
         return;
     }
     report.members.reserve(included);
@@ -194,7 +203,8 @@ void readMembers(Fields &fields, Report &report, const mms::BitString &inclusion
         for (ReportMember &member : report.members) {
             const mms::AccessResult &result = fields.take();
             if (!result.ok() || !isText(result.data())) {
-                fields.fail(wrong(memberField("data reference", member.index), "a text"));
+                fields.fail(wrong(memberField("DataRef", member.index),
+                                  wording::pattern<1>("The report's %1 is not a text.")));
                 return;
             }
             member.reference = result.data().text();
@@ -206,7 +216,8 @@ void readMembers(Fields &fields, Report &report, const mms::BitString &inclusion
         for (ReportMember &member : report.members) {
             const mms::AccessResult &result = fields.take();
             if (!result.ok() || result.data().kind() != mms::Data::Kind::BitString) {
-                fields.fail(wrong(memberField("reason", member.index), "a bit string"));
+                fields.fail(wrong(memberField("ReasonCode", member.index),
+                                  wording::pattern<1>("The report's %1 is not a bit string.")));
                 return;
             }
             member.reason = Triggers::from(result.data());
@@ -300,7 +311,7 @@ std::string reportIdOf(const mms::InformationReport &information)
 mms::Result<Report> decodeReport(mms::InformationReport information)
 {
     if (!isReport(information))
-        return mms::Error{"This is not a report but " + mms::toText(information.variables) + ".",
+        return mms::Error{say("This is not a report but %1.", mms::toText(information.variables)),
                           0};
     Report report;
     Fields fields(information.results);

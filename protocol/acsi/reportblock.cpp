@@ -10,6 +10,9 @@
 
 namespace acsi {
 
+using wording::say;
+using wording::sentences;
+
 namespace {
 
 using mms::Data;
@@ -62,8 +65,8 @@ public:
             const bool wasStopped = m_trace->changes.empty() || !m_hasWritten;
             if (!m_trace->isUncertain || !leavesUncertain)
                 co_await undo(std::chrono::steady_clock::time_point::max());
-            const std::string owner = co_await ownerSentence(wasStopped);
-            co_return mms::Error{done.error().message + owner, 0};
+            const mms::Text owner = co_await ownerSentence(wasStopped);
+            co_return mms::Error{sentences(done.error().message, owner), 0};
         }
         if (settings.generalInterrogation) {
             if (auto asked = co_await write("GI", Data::boolean(true)); !asked)
@@ -84,8 +87,8 @@ public:
             co_return read.error();
         auto disabled = co_await write("RptEna", Data::boolean(false));
         if (!disabled) {
-            const std::string owner = co_await ownerSentence(true);
-            co_return mms::Error{disabled.error().message + owner, 0};
+            const mms::Text owner = co_await ownerSentence(true);
+            co_return mms::Error{sentences(disabled.error().message, owner), 0};
         }
         if (has("Resv"))
             static_cast<void>(co_await write("Resv", Data::boolean(false)));
@@ -121,7 +124,7 @@ private:
             co_return live.error();
         auto block = reportBlockFrom(live->type, live->value);
         if (!block)
-            co_return mms::Error{blockText(m_reference) + ": " + block.error().message, 0};
+            co_return mms::Error{say("%1: %2.", blockText(m_reference), block.error().message), 0};
         m_type = std::move(live->type);
         m_value = std::move(live->value);
         m_block = *std::move(block);
@@ -150,10 +153,10 @@ private:
         const std::string name = blockText(m_reference);
         const mms::TypeDescription *component = componentOf(m_type, attribute);
         if (!component)
-            co_return mms::Error{name + " has no " + attribute + ".", 0};
+            co_return mms::Error{say("%1 has no %2.", name, attribute), 0};
         const auto fitting = valueOfType(*component, value);
         if (!fitting)
-            co_return mms::Error{attribute + " of " + name + ": " + fitting.error().message, 0};
+            co_return mms::Error{say("%1 of %2: %3.", attribute, name, fitting.error().message), 0};
         std::vector<mms::VariableAccess> places{accessOf(attributeOf(attribute))};
         std::vector<Data> values{*fitting};
         m_trace->changes.push_back({attribute, std::move(before)});
@@ -161,12 +164,14 @@ private:
         if (!written) {
             m_trace->isUncertain = true;
             co_return mms::Error{
-                attribute + " of " + name + " cannot be written: " + written.error().message, 0};
+                say("%1 of %2 cannot be written: %3.", attribute, name, written.error().message),
+                0};
         }
         if (const auto &refused = written->front()) {
             m_trace->changes.pop_back();
             co_return mms::Error{
-                attribute + " of " + name + " cannot be written: " + mms::describe(*refused), 0};
+                say("%1 of %2 cannot be written: %3.", attribute, name, mms::describe(*refused)),
+                0};
         }
         m_hasWritten = true;
         co_return mms::Result<void>();
@@ -183,11 +188,13 @@ private:
     asio::awaitable<mms::Result<void>> prepare(const ReportSettings &settings)
     {
         if (m_block.rptEna && !settings.isOwn)
-            co_return mms::Error{blockText(m_reference) + " is enabled already.", 0};
+            co_return mms::Error{say("%1 is enabled already.", blockText(m_reference)), 0};
         if (m_block.rptEna) {
             if (auto disabled = co_await write("RptEna", Data::boolean(false)); !disabled)
                 co_return mms::Error{
-                    blockText(m_reference) + " is enabled already. " + disabled.error().message, 0};
+                    sentences(say("%1 is enabled already.", blockText(m_reference)),
+                              disabled.error().message),
+                    0};
         }
         if (auto reserved = co_await reserve(settings); !reserved)
             co_return reserved;
@@ -223,20 +230,20 @@ private:
     }
 
     /// @param byOthers whether nothing of what this side wrote can have made it the owner
-    asio::awaitable<std::string> ownerSentence(bool byOthers)
+    asio::awaitable<mms::Text> ownerSentence(bool byOthers)
     {
         if (!has("Owner") || !m_client->isOpen())
-            co_return std::string();
+            co_return mms::Text();
         const auto value = co_await m_client->readOne(accessOf(attributeOf("Owner")));
         const std::string owner = value ? ownerText(value->octets()) : std::string();
         if (owner.empty())
-            co_return std::string();
+            co_return mms::Text();
         if (std::ranges::equal(value->octets(), m_client->association().localAddress())) {
             if (!byOthers)
-                co_return std::string();
-            co_return " The block belongs to another association of this computer, " + owner + ".";
+                co_return mms::Text();
+            co_return say("The block belongs to another association of this computer, %1.", owner);
         }
-        co_return " The block belongs to the client " + owner + ".";
+        co_return say("The block belongs to the client %1.", owner);
     }
 
     std::shared_ptr<Client> m_client;
@@ -245,7 +252,7 @@ private:
     mms::TypeDescription m_type;
     Data m_value;
     ReportBlock m_block;
-    std::vector<std::string> m_notes;
+    std::vector<mms::Text> m_notes;
     std::optional<bool> m_resumed;
     bool m_hasWritten = false;
 };
@@ -316,7 +323,7 @@ mms::Result<ReportBlock> reportBlockFrom(const mms::TypeDescription &type, const
     if (from.error())
         return *from.error();
     if (!from.find("RptEna"))
-        return mms::Error{"This is no report control block: it has no RptEna.", 0};
+        return mms::Error{say("This is no report control block: it has no RptEna."), 0};
     block.optFlds = OptFlds::from(optFlds);
     block.trgOps = Triggers::from(trgOps);
     block.buffered = block.purgeBuf || block.entryId || block.resvTms;
@@ -331,7 +338,7 @@ asio::awaitable<mms::Result<ReportBlock>> readReportBlock(std::shared_ptr<Client
         co_return live.error();
     auto result = reportBlockFrom(live->type, live->value);
     if (!result)
-        co_return mms::Error{blockText(block) + ": " + result.error().message, 0};
+        co_return mms::Error{say("%1: %2.", blockText(block), result.error().message), 0};
     result->buffered = block.constraint == FunctionalConstraint::BR;
     co_return result;
 }
@@ -340,11 +347,13 @@ asio::awaitable<mms::Result<void>> writeReportAttribute(std::shared_ptr<Client> 
                                                         Reference block, std::string attribute,
                                                         Data value)
 {
-    const std::string name = attribute + " of " + blockText(block);
+    const std::string name = blockText(block);
+    const std::string part = attribute;
     block.path.push_back({std::move(attribute), {}});
     const auto written = co_await client->writeOne(accessOf(block), std::move(value));
     if (!written)
-        co_return mms::Error{name + " cannot be written: " + written.error().message, 0};
+        co_return mms::Error{
+            say("%1 of %2 cannot be written: %3.", part, name, written.error().message), 0};
     co_return mms::Result<void>();
 }
 

@@ -36,7 +36,7 @@ struct ReportBlock
     std::optional<std::int32_t> resvTms;            ///< seconds; -1 reserved by configuration
     std::optional<std::vector<std::uint8_t>> owner; ///< address of the client; empty when free
     /// What the device refused although the block works, one sentence each.
-    std::vector<std::string> notes;
+    std::vector<mms::Text> notes;
     /// Whether the device took ReportSettings::resumeAfter; empty when it was not asked to.
     std::optional<bool> resumed;
 };

@@ -8,6 +8,8 @@
 
 namespace acsi {
 
+using wording::say;
+
 namespace {
 
 using mms::Data;
@@ -18,9 +20,9 @@ constexpr std::size_t mostAtATime = 20;
 
 SettingWrite refused(const mms::CallOutcome &outcome)
 {
-    const std::string text = mms::failureText(outcome);
+    const mms::Text text = mms::failureText(outcome);
     return {SettingWrite::Kind::Refused,
-            text.empty() ? "The device's answer does not match the request." : text,
+            text.empty() ? say("The device's answer does not match the request.") : text,
             {}};
 }
 
@@ -49,7 +51,7 @@ asio::awaitable<SettingWrite> writeGroup(std::shared_ptr<Client> client, Referen
     }
     SettingWrite &result = written.front();
     if (!result)
-        result.message = attribute + " of " + name + " cannot be written: " + result.message;
+        result.message = say("%1 of %2 cannot be written: %3.", attribute, name, result.message);
     co_return std::move(result);
 }
 
@@ -97,8 +99,8 @@ mms::Result<SettingGroupBlock> settingGroupBlockFrom(const TypeDescription &type
     if (from.error())
         return *from.error();
     if (!from.find("NumOfSG") || !from.find("ActSG"))
-        return mms::Error{"This is no setting group control block: NumOfSG or ActSG is missing.",
-                          0};
+        return mms::Error{
+            say("This is no setting group control block: NumOfSG or ActSG is missing."), 0};
     return block;
 }
 
@@ -110,7 +112,7 @@ readSettingGroupBlock(std::shared_ptr<Client> client, Reference block)
         co_return live.error();
     auto result = settingGroupBlockFrom(live->type, live->value);
     if (!result)
-        co_return mms::Error{blockText(block) + ": " + result.error().message, 0};
+        co_return mms::Error{say("%1: %2.", blockText(block), result.error().message), 0};
     co_return result;
 }
 
@@ -120,7 +122,7 @@ asio::awaitable<SettingWrite> selectActiveGroup(std::shared_ptr<Client> client, 
     if (group == 0) {
         co_return SettingWrite{
             SettingWrite::Kind::Refused,
-            "Setting groups are counted from 1; 0 cannot become the active group.",
+            say("Setting groups are counted from 1; 0 cannot become the active group."),
             {}};
     }
     co_return co_await writeGroup(std::move(client), std::move(block), "ActSG",
@@ -150,7 +152,7 @@ asio::awaitable<std::vector<SettingWrite>> writeSettings(std::shared_ptr<Client>
         std::size_t count = 0;
     };
     std::vector<SettingWrite> results(
-        variables.size(), SettingWrite{SettingWrite::Kind::Refused, "It was not sent.", {}});
+        variables.size(), SettingWrite{SettingWrite::Kind::Refused, say("It was not sent."), {}});
     std::deque<Range> waiting;
     for (std::size_t i = 0; i < variables.size(); i += mostAtATime)
         waiting.push_back({i, std::min(mostAtATime, variables.size() - i)});

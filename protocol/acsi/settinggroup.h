@@ -38,7 +38,7 @@ struct [[nodiscard]] SettingWrite
     };
 
     Kind kind = Kind::Done;
-    std::string message; ///< why it is not done; one sentence
+    mms::Text message; ///< why it is not done; one sentence
     /// Of a refusal by the device.
     std::optional<mms::DataAccessError> refusal;
 

@@ -8,6 +8,8 @@
 
 namespace acsi {
 
+using wording::say;
+
 namespace {
 
 using mms::Data;
@@ -16,8 +18,8 @@ using Kind = TypeDescription::Kind;
 
 mms::Error doesNotFit(const TypeDescription &type, const Data &value)
 {
-    return {"The value " + mms::toText(value) + " does not fit the type " + mms::toText(type) +
-                " of the device.",
+    return {say("The value %1 does not fit the type %2 of the device.", mms::toText(value),
+                mms::toText(type)),
             0};
 }
 

@@ -13,6 +13,8 @@
 
 namespace acsi {
 
+using wording::say;
+
 namespace {
 
 /// Octets of an answer with a block that are not of the block, at most.
@@ -240,14 +242,18 @@ private:
     {
         if (file.error())
             return *file.error();
-        const std::string text = outcome ? mms::failureText(*outcome) : std::string();
+        const mms::Text text = outcome ? mms::failureText(*outcome) : mms::Text();
         if (!text.empty())
             return {text, 0};
-        const std::string progress =
-            std::to_string(file.given()) + " of " + std::to_string(file.size()) + " octets.";
-        if (outcome)
-            return {"The device says that it has the file, but it has fetched only " + progress, 0};
-        return {"The device has stopped fetching the file after " + progress, 0};
+        if (outcome) {
+            return {
+                say("The device says that it has the file, but it has fetched only %1 of %2 octets.",
+                    file.given(), file.size()),
+                0};
+        }
+        return {say("The device has stopped fetching the file after %1 of %2 octets.", file.given(),
+                    file.size()),
+                0};
     }
 
     std::shared_ptr<Client> m_client;

@@ -5,6 +5,9 @@
 
 namespace acsi {
 
+using wording::say;
+using wording::sentences;
+
 namespace {
 
 using Answer = UploadSteps::Answer;
@@ -64,13 +67,13 @@ bool hasNoAnswer(const Answer &answer)
 }
 
 /// What a half file leaves; nothing when it is gone.
-std::string afterDeleting(const Answer &answer, const std::string &name)
+mms::Text afterDeleting(const Answer &answer, const std::string &name)
 {
     if (isGone(answer))
         return {};
     if (hasNoAnswer(answer))
-        return "It is not known whether an incomplete " + name + " is left in the device.";
-    return "An incomplete " + name + " is left in the device.";
+        return say("It is not known whether an incomplete %1 is left in the device.", name);
+    return say("An incomplete %1 is left in the device.", name);
 }
 
 } // namespace
@@ -155,7 +158,7 @@ void UploadSteps::nameFound(const Found &found)
         break;
     case Presence::Silent:
     case Presence::Lost:
-        fail("Nothing was changed on the device.");
+        fail(say("Nothing was changed on the device."));
         break;
     }
 }
@@ -183,11 +186,11 @@ void UploadSteps::newHalfDeleted(const Answer &answer)
 void UploadSteps::newHalfFound(const Found &found)
 {
     if (found.presence == Presence::There)
-        fail(m_name + " is in the device and may be incomplete.");
+        fail(say("%1 is in the device and may be incomplete.", m_name));
     else if (found.presence == Presence::Absent)
-        fail(m_name + " is not in the device.");
+        fail(say("%1 is not in the device.", m_name));
     else
-        fail("It is not known whether the device has a part of the file: look at " + m_name + ".");
+        fail(say("It is not known whether the device has a part of the file: look at %1.", m_name));
 }
 
 // A file that replaces another one
@@ -196,9 +199,9 @@ void UploadSteps::temporaryFound(const Found &found)
 {
     switch (found.presence) {
     case Presence::There:
-        failWith(m_temporary + " is in the device already, perhaps the only whole version that an "
-                               "upload before this one has left: save or delete it first. Nothing "
-                               "was changed on the device.");
+        failWith(say(
+            "%1 is in the device already, perhaps the only whole version that an upload before this one has left: save or delete it first. Nothing was changed on the device.",
+            m_temporary));
         break;
     case Presence::Absent:
     case Presence::Unclear:
@@ -207,7 +210,7 @@ void UploadSteps::temporaryFound(const Found &found)
         break;
     case Presence::Silent:
     case Presence::Lost:
-        fail("Nothing was changed on the device.");
+        fail(say("Nothing was changed on the device."));
         break;
     }
 }
@@ -235,25 +238,27 @@ void UploadSteps::temporaryFetched(const Answer &answer)
         else if (m_temporaryIsOurs)
             ask(Kind::Delete, m_temporary, &UploadSteps::temporaryHalfDeleted);
         else
-            fail(untouched() + ' ' + m_temporary + " may be in the device, incomplete.");
+            fail(sentences(untouched(), say("%1 may be in the device, incomplete.", m_temporary)));
         break;
     }
 }
 
 void UploadSteps::temporaryHalfDeleted(const Answer &answer)
 {
-    const std::string left = afterDeleting(answer, m_temporary);
-    fail(untouched() + (left.empty() ? "" : " ") + left);
+    const mms::Text left = afterDeleting(answer, m_temporary);
+    fail(sentences(untouched(), left));
 }
 
 void UploadSteps::temporaryHalfFound(const Found &found)
 {
     if (found.presence == Presence::There)
-        fail(untouched() + ' ' + m_temporary + " is in the device and may be incomplete.");
+        fail(
+            sentences(untouched(), say("%1 is in the device and may be incomplete.", m_temporary)));
     else if (found.presence == Presence::Absent)
         fail(untouched());
     else
-        fail(untouched() + " It is not known whether " + m_temporary + " is in the device.");
+        fail(sentences(untouched(),
+                       say("It is not known whether %1 is in the device.", m_temporary)));
 }
 
 void UploadSteps::renamed(const Answer &answer)
@@ -276,7 +281,8 @@ void UploadSteps::renamed(const Answer &answer)
         else if (m_oldIsSure)
             ask(Kind::Delete, m_name, &UploadSteps::oldDeleted);
         else
-            fail(newIsTemporary() + " It is not known whether there is an old " + m_name + '.');
+            fail(sentences(newIsTemporary(),
+                           say("It is not known whether there is an old %1.", m_name)));
         break;
     }
 }
@@ -284,13 +290,13 @@ void UploadSteps::renamed(const Answer &answer)
 void UploadSteps::temporaryFoundAfterRename(const Found &found)
 {
     if (found.presence == Presence::There) {
-        fail(newIsTemporary() + ' ' +
-             (m_oldIsGone ? "The old file was deleted before." : untouched()));
+        fail(sentences(newIsTemporary(),
+                       m_oldIsGone ? say("The old file was deleted before.") : untouched()));
     } else if (found.presence == Presence::Absent) {
         look(m_name, &UploadSteps::nameFoundAfterRename);
     } else {
-        fail("It is not known whether the file has its name: look at " + m_name + " and " +
-             m_temporary + '.');
+        fail(say("It is not known whether the file has its name: look at %1 and %2.", m_name,
+                 m_temporary));
     }
 }
 
@@ -299,9 +305,9 @@ void UploadSteps::nameFoundAfterRename(const Found &found)
     if (found.presence == Presence::There && found.size == m_size)
         succeed();
     else if (found.presence == Presence::Absent)
-        fail("The device has neither " + m_name + " nor " + m_temporary + " any more.");
+        fail(say("The device has neither %1 nor %2 any more.", m_name, m_temporary));
     else
-        fail("It is not known whether the file was replaced: look at " + m_name + '.');
+        fail(say("It is not known whether the file was replaced: look at %1.", m_name));
 }
 
 void UploadSteps::oldDeleted(const Answer &answer)
@@ -326,9 +332,10 @@ void UploadSteps::oldFound(const Found &found)
         m_oldIsGone = true;
         ask(Kind::Rename, m_temporary, &UploadSteps::renamed);
     } else if (found.presence == Presence::There) {
-        fail(newIsTemporary() + ' ' + untouched());
+        fail(sentences(newIsTemporary(), untouched()));
     } else {
-        fail(newIsTemporary() + " It is not known whether the old " + m_name + " is still there.");
+        fail(sentences(newIsTemporary(),
+                       say("It is not known whether the old %1 is still there.", m_name)));
     }
 }
 
@@ -338,21 +345,21 @@ void UploadSteps::fetchedAgain(const Answer &answer)
     if (answer.kind == Answer::Kind::Done)
         ask(Kind::Delete, m_temporary, &UploadSteps::copyDeleted);
     else if (hasNoAnswer(answer))
-        fail(newIsTemporary() + ' ' + m_name + " may be incomplete.");
+        fail(sentences(newIsTemporary(), say("%1 may be incomplete.", m_name)));
     else if (answer.begun)
         ask(Kind::Delete, m_name, &UploadSteps::halfDeleted);
     else if (m_oldIsGone)
-        fail(newIsTemporary() + " The old file was deleted before.");
+        fail(sentences(newIsTemporary(), say("The old file was deleted before.")));
     else if (m_temporaryIsOurs)
         ask(Kind::Delete, m_temporary, &UploadSteps::uselessCopyDeleted);
     else
-        fail(newIsTemporary() + ' ' + untouched());
+        fail(sentences(newIsTemporary(), untouched()));
 }
 
 void UploadSteps::halfDeleted(const Answer &answer)
 {
-    const std::string left = afterDeleting(answer, m_name);
-    fail(newIsTemporary() + (left.empty() ? "" : " ") + left);
+    const mms::Text left = afterDeleting(answer, m_name);
+    fail(sentences(newIsTemporary(), left));
 }
 
 void UploadSteps::copyDeleted(const Answer &answer)
@@ -361,14 +368,17 @@ void UploadSteps::copyDeleted(const Answer &answer)
         succeed();
         return;
     }
-    const char *const state = hasNoAnswer(answer) ? " may be in the device still" : " is left";
-    failWith(m_name + " was replaced, but " + m_temporary + ", a second copy of it," + state +
-             ": delete it.");
+    failWith(
+        hasNoAnswer(answer)
+            ? say("%1 was replaced, but %2, a second copy of it, may be in the device still: delete it.",
+                  m_name, m_temporary)
+            : say("%1 was replaced, but %2, a second copy of it, is left: delete it.", m_name,
+                  m_temporary));
 }
 
 void UploadSteps::uselessCopyDeleted(const Answer &answer)
 {
-    fail(isGone(answer) ? untouched() : untouched() + ' ' + newIsTemporary());
+    fail(isGone(answer) ? untouched() : sentences(untouched(), newIsTemporary()));
 }
 
 // Peers that take no other name
@@ -379,9 +389,9 @@ void UploadSteps::fetchedInPlace(const Answer &answer)
     if (answer.kind == Answer::Kind::Done)
         succeed();
     else if (answer.begun)
-        fail("The file in the device may be incomplete: look at " + m_name + '.');
+        fail(say("The file in the device may be incomplete: look at %1.", m_name));
     else if (hasNoAnswer(answer))
-        fail("It is not known whether the old file is still whole: look at " + m_name + '.');
+        fail(say("It is not known whether the old file is still whole: look at %1.", m_name));
     else if (isDuplicate(answer))
         ask(Kind::Delete, m_name, &UploadSteps::oldDeletedInPlace);
     else
@@ -410,7 +420,7 @@ void UploadSteps::oldFoundInPlace(const Found &found)
     else if (found.presence == Presence::There)
         fail(untouched());
     else
-        fail("It is not known whether the old file is still there: look at " + m_name + '.');
+        fail(say("It is not known whether the old file is still there: look at %1.", m_name));
 }
 
 void UploadSteps::fetchedLast(const Answer &answer)
@@ -421,17 +431,17 @@ void UploadSteps::fetchedLast(const Answer &answer)
     } else if (answer.kind == Answer::Kind::Refused && answer.begun) {
         ask(Kind::Delete, m_name, &UploadSteps::lastHalfDeleted);
     } else {
-        std::string sentence = "The old file had to be deleted before and is lost.";
+        mms::Text sentence = say("The old file had to be deleted before and is lost.");
         if (hasNoAnswer(answer))
-            sentence = m_name + " may be incomplete. " + sentence;
+            sentence = sentences(say("%1 may be incomplete.", m_name), sentence);
         fail(sentence);
     }
 }
 
 void UploadSteps::lastHalfDeleted(const Answer &answer)
 {
-    const std::string left = afterDeleting(answer, m_name);
-    fail(left + (left.empty() ? "" : " ") + "The old file had to be deleted before and is lost.");
+    const mms::Text left = afterDeleting(answer, m_name);
+    fail(sentences(left, say("The old file had to be deleted before and is lost.")));
 }
 
 // Endings
@@ -441,27 +451,24 @@ void UploadSteps::succeed()
     m_result = mms::Result<void>();
 }
 
-void UploadSteps::fail(const std::string &whatIsThere)
+void UploadSteps::fail(const mms::Text &whatIsThere)
 {
-    std::string message = m_name + ": " + m_failure;
-    if (!whatIsThere.empty())
-        message += ' ' + whatIsThere;
-    failWith(std::move(message));
+    failWith(sentences(say("%1: %2.", m_name, m_failure), whatIsThere));
 }
 
-void UploadSteps::failWith(std::string message)
+void UploadSteps::failWith(mms::Text message)
 {
     m_result = mms::Error{std::move(message), 0};
 }
 
-std::string UploadSteps::untouched() const
+mms::Text UploadSteps::untouched() const
 {
-    return m_oldIsSure ? "The old file is still there." : m_name + " was not touched.";
+    return m_oldIsSure ? say("The old file is still there.") : say("%1 was not touched.", m_name);
 }
 
-std::string UploadSteps::newIsTemporary() const
+mms::Text UploadSteps::newIsTemporary() const
 {
-    return "The new file is in the device as " + m_temporary + '.';
+    return say("The new file is in the device as %1.", m_temporary);
 }
 
 } // namespace acsi

@@ -47,7 +47,7 @@ public:
         };
 
         Kind kind = Kind::Done;
-        std::string text; ///< why it was not done; one sentence
+        mms::Text text; ///< why it was not done; one sentence
         /// Of a refusal.
         mms::ErrorClass errorClass = mms::ErrorClass::Others;
         std::int32_t code = 0;
@@ -113,15 +113,15 @@ private:
 
     void succeed();
     /// With what has failed, by m_failure, before it.
-    void fail(const std::string &whatIsThere);
-    void failWith(std::string message);
-    std::string untouched() const;
-    std::string newIsTemporary() const;
+    void fail(const mms::Text &whatIsThere);
+    void failWith(mms::Text message);
+    mms::Text untouched() const;
+    mms::Text newIsTemporary() const;
 
     std::string m_name;
     std::string m_temporary;
     std::uint32_t m_size;
-    std::string m_failure; ///< of the step that decided the outcome
+    mms::Text m_failure; ///< of the step that decided the outcome
     std::optional<Request> m_next;
     Continuation m_then = nullptr;
     FoundContinuation m_found = nullptr;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mms/acse.h"
 
+#include "mms/codec.h"
+
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -43,7 +45,7 @@ std::optional<UserInformation> readUserInformation(Reader list)
     std::optional<UserInformation> result;
     Element item;
     while (!list.atEnd()) {
-        Reader fields = list.expectGroup(ber::tags::external, "user information");
+        Reader fields = list.expectGroup(ber::tags::external, "user-information");
         UserInformation information;
         if (fields.takeIf(ber::tags::objectIdentifier, item))
             fields.objectIdentifier(item);
@@ -52,8 +54,8 @@ std::optional<UserInformation> readUserInformation(Reader list)
         if (fields.takeIf(Tag::group(0), item) || fields.takeIf(Tag::context(1), item))
             information.pdu = item.content;
         else
-            fields.fail("User information is in a form that is not supported.");
-        fields.expectEnd("user information");
+            fields.fail(say("User information is in a form that is not supported."));
+        fields.expectEnd("user-information");
         result = information;
     }
     return result;
@@ -89,8 +91,7 @@ void readAeQualifier(Reader inside, Title &title)
 
 ObjectIdentifier readApplicationContext(Reader inside)
 {
-    return inside.objectIdentifier(
-        inside.expect(ber::tags::objectIdentifier, "application context name"));
+    return inside.objectIdentifier(inside.expect(ber::tags::objectIdentifier, "aSO-context-name"));
 }
 
 struct Encoder
@@ -180,7 +181,7 @@ AssociateRequest readRequest(Reader fields)
             Reader value = fields.enter(item);
             if (value.next(item))
                 authentication.value = Octets(item.content.begin(), item.content.end());
-            value.expectEnd("authentication value");
+            value.expectEnd("authentication-value");
             authenticated = true;
         } else if (item.tag == tagUserInformation) {
             unit.userInformation = readUserInformation(fields.enter(item));
@@ -189,7 +190,7 @@ AssociateRequest readRequest(Reader fields)
     if (authenticated)
         unit.authentication = std::move(authentication);
     if (!hasContext)
-        fields.fail("An association request has no application context name.");
+        fields.fail(say("An association request has no application context name."));
     return unit;
 }
 
@@ -204,15 +205,16 @@ AssociateResponse readResponse(Reader fields)
         } else if (item.tag == Tag::group(2)) {
             Reader inside = fields.enter(item);
             unit.result = static_cast<Result>(
-                inside.integer(inside.expect(ber::tags::integer, "association result"), 0, 2));
+                inside.integer(inside.expect(ber::tags::integer, "result"), 0, 2));
             hasResult = true;
         } else if (item.tag == Tag::group(3)) {
             Reader inside = fields.enter(item);
             unit.diagnostic.byProvider = inside.peek() == Tag::group(2);
-            Reader code = inside.expectGroup(
-                unit.diagnostic.byProvider ? Tag::group(2) : Tag::group(1), "result diagnostic");
+            Reader code =
+                inside.expectGroup(unit.diagnostic.byProvider ? Tag::group(2) : Tag::group(1),
+                                   "result-source-diagnostic");
             unit.diagnostic.code =
-                code.integer(code.expect(ber::tags::integer, "result diagnostic"));
+                code.integer(code.expect(ber::tags::integer, "result-source-diagnostic"));
         } else if (item.tag == Tag::group(4)) {
             readApTitle(fields.enter(item), unit.responding);
         } else if (item.tag == Tag::group(5)) {
@@ -222,7 +224,7 @@ AssociateResponse readResponse(Reader fields)
         }
     }
     if (!hasResult)
-        fields.fail("An association response has no result.");
+        fields.fail(say("An association response has no result."));
     return unit;
 }
 
@@ -241,8 +243,7 @@ Abort readAbort(Reader fields)
 {
     Abort unit;
     Element item;
-    unit.byProvider =
-        fields.integer(fields.expect(Tag::context(0), "abort source"), 0, 1) == 1;
+    unit.byProvider = fields.integer(fields.expect(Tag::context(0), "abort-source"), 0, 1) == 1;
     if (fields.takeIf(Tag::context(1), item))
         unit.diagnostic = fields.integer(item);
     return unit;
@@ -310,43 +311,47 @@ mms::Result<Unit> decode(Bytes octets)
     else if (outer.takeIf(tagAbort, item))
         unit = readAbort(outer.enter(item));
     else
-        outer.fail("A unit of association control has an unknown tag.");
-    outer.expectEnd("unit of association control");
+        outer.fail(say("A unit of association control has an unknown tag."));
+    outer.expectEnd("ACSE-apdu");
     return input.finish(std::move(unit));
 }
 
-std::string refusalText(Result result, const Diagnostic &diagnostic)
+Text refusalText(Result result, const Diagnostic &diagnostic)
 {
-    constexpr std::array<const char *, 15> userReasons{
-        "",
-        "no reason given",
-        "the application context is not supported",
-        "the calling AP title is not recognised",
-        "the calling AP invocation identifier is not recognised",
-        "the calling AE qualifier is not recognised",
-        "the calling AE invocation identifier is not recognised",
-        "the called AP title is not recognised",
-        "the called AP invocation identifier is not recognised",
-        "the called AE qualifier is not recognised",
-        "the called AE invocation identifier is not recognised",
-        "the authentication mechanism is not recognised",
-        "an authentication mechanism is required",
-        "the authentication failed",
-        "an authentication is required"};
-    constexpr std::array<const char *, 3> providerReasons{
-        "", "no reason given", "there is no common version of association control"};
-    std::string text = result == Result::RejectedTransiently
-        ? "The peer refuses the association for the time being"
-        : "The peer refuses the association";
+    static constexpr std::array userReasons{
+        wording::pattern("no reason given"),
+        wording::pattern("the application context is not supported"),
+        wording::pattern("the calling AP title is not recognised"),
+        wording::pattern("the calling AP invocation identifier is not recognised"),
+        wording::pattern("the calling AE qualifier is not recognised"),
+        wording::pattern("the calling AE invocation identifier is not recognised"),
+        wording::pattern("the called AP title is not recognised"),
+        wording::pattern("the called AP invocation identifier is not recognised"),
+        wording::pattern("the called AE qualifier is not recognised"),
+        wording::pattern("the called AE invocation identifier is not recognised"),
+        wording::pattern("the authentication mechanism is not recognised"),
+        wording::pattern("an authentication mechanism is required"),
+        wording::pattern("the authentication failed"),
+        wording::pattern("an authentication is required")};
+    static constexpr std::array providerReasons{
+        wording::pattern("no reason given"),
+        wording::pattern("there is no common version of association control")};
     const auto code = static_cast<std::size_t>(diagnostic.code);
-    std::string reason;
-    if (diagnostic.byProvider && code < providerReasons.size())
-        reason = providerReasons[code];
-    else if (!diagnostic.byProvider && code < userReasons.size())
-        reason = userReasons[code];
-    else
-        reason = "reason " + std::to_string(diagnostic.code);
-    return text + (reason.empty() ? "." : ": " + reason + ".");
+    // 0 says that there is nothing to say.
+    Text reason;
+    if (diagnostic.byProvider && code > 0 && code <= providerReasons.size())
+        reason = say(providerReasons[code - 1]);
+    else if (!diagnostic.byProvider && code > 0 && code <= userReasons.size())
+        reason = say(userReasons[code - 1]);
+    else if (code != 0)
+        reason = say("reason %1", diagnostic.code);
+    const bool isTransient = result == Result::RejectedTransiently;
+    if (reason.empty()) {
+        return isTransient ? say("The peer refuses the association for the time being.")
+                           : say("The peer refuses the association.");
+    }
+    return isTransient ? say("The peer refuses the association for the time being: %1.", reason)
+                       : say("The peer refuses the association: %1.", reason);
 }
 
 Association::Association(Options options)
@@ -416,19 +421,19 @@ Actions Association::abort()
     return {Request{Service::UserAbort, encode(Abort())}};
 }
 
-Actions Association::receive(Service service, Bytes octets, const std::string &reason)
+Actions Association::receive(Service service, Bytes octets, const Text &reason)
 {
     if (m_state == State::Closed)
         return {};
-    if (service == Service::UserAbort || service == Service::ProviderAbort
-        || (service == Service::Refuse && octets.empty()))
+    if (service == Service::UserAbort || service == Service::ProviderAbort ||
+        (service == Service::Refuse && octets.empty()))
         return receiveEnd(service, octets, reason);
     if (service == Service::Finish || service == Service::Disconnect) {
         // Some peers end the session without saying it in association control.
         if (!octets.empty()) {
             const auto unit = decode(octets);
             if (!unit)
-                return protocolError(unit.error().message);
+                return protocolError(codec::unreadable(unit.error()));
         }
         if (service == Service::Disconnect) {
             m_state = State::Closed;
@@ -440,15 +445,16 @@ Actions Association::receive(Service service, Bytes octets, const std::string &r
     }
     const auto unit = decode(octets);
     if (!unit)
-        return protocolError(unit.error().message);
+        return protocolError(codec::unreadable(unit.error()));
     const auto *request = std::get_if<AssociateRequest>(&*unit);
     if (request && service == Service::Connect && m_state == State::Idle)
         return receiveRequest(*request);
     const auto *response = std::get_if<AssociateResponse>(&*unit);
-    if (response && m_state == State::Associating
-        && (service == Service::Accept || service == Service::Refuse))
+    if (response && m_state == State::Associating &&
+        (service == Service::Accept || service == Service::Refuse))
         return receiveResponse(*response, service);
-    return protocolError("The peer sent a unit of association control that does not belong here.");
+    return protocolError(
+        say("The peer sent a unit of association control that does not belong here."));
 }
 
 Actions Association::receiveRequest(const AssociateRequest &unit)
@@ -457,18 +463,18 @@ Actions Association::receiveRequest(const AssociateRequest &unit)
     if (unit.userInformation)
         m_contextId = unit.userInformation->contextId;
     std::optional<std::int64_t> diagnostic;
-    std::string reason;
+    Text reason;
     if (unit.applicationContext != mmsApplicationContext) {
         diagnostic = diagnosticApplicationContext;
-        reason = "The peer asked for an application context other than MMS.";
+        reason = say("The peer asked for an application context other than MMS.");
     } else if (m_options.authentication && !unit.authentication) {
         diagnostic = diagnosticAuthenticationRequired;
-        reason = "The peer sent no password.";
-    } else if (m_options.authentication
-               && (unit.authentication->mechanism != m_options.authentication->mechanism
-                   || !sameOctets(unit.authentication->value, m_options.authentication->value))) {
+        reason = say("The peer sent no password.");
+    } else if (m_options.authentication &&
+               (unit.authentication->mechanism != m_options.authentication->mechanism ||
+                !sameOctets(unit.authentication->value, m_options.authentication->value))) {
         diagnostic = diagnosticAuthenticationFailed;
-        reason = "The peer sent a wrong password.";
+        reason = say("The peer sent a wrong password.");
     }
     if (!diagnostic)
         return {AssociateIndication{unit.calling, pduOf(unit.userInformation)}};
@@ -492,7 +498,7 @@ Actions Association::receiveResponse(const AssociateResponse &unit, Service serv
     return actions;
 }
 
-Actions Association::receiveEnd(Service service, Bytes octets, const std::string &reason)
+Actions Association::receiveEnd(Service service, Bytes octets, const Text &reason)
 {
     const bool refused = service == Service::Refuse;
     m_state = State::Closed;
@@ -506,11 +512,12 @@ Actions Association::receiveEnd(Service service, Bytes octets, const std::string
     }
     if (!reason.empty())
         return {Aborted{byUser, reason}};
-    return {Aborted{byUser, byUser ? "The peer aborted the association."
-                                   : "The peer's association control aborted the association."}};
+    return {Aborted{byUser, byUser
+                                ? say("The peer aborted the association.")
+                                : say("The peer's association control aborted the association.")}};
 }
 
-Actions Association::protocolError(const std::string &reason)
+Actions Association::protocolError(const Text &reason)
 {
     Actions actions;
     if (m_state != State::Idle)

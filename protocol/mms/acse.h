@@ -120,7 +120,7 @@ Octets encode(const Unit &unit);
 mms::Result<Unit> decode(Bytes octets);
 
 /// Why an association was refused, as a sentence.
-std::string refusalText(Result result, const Diagnostic &diagnostic);
+Text refusalText(Result result, const Diagnostic &diagnostic);
 
 struct Options
 {
@@ -160,8 +160,8 @@ struct AssociateConfirm
 /// Initiator: refused.
 struct Refused
 {
-    std::string reason; ///< one sentence
-    Bytes pdu;          ///< into the octets given to receive(); empty when there is none
+    Text reason; ///< one sentence
+    Bytes pdu;   ///< into the octets given to receive(); empty when there is none
 
     bool operator==(const Refused &other) const;
 };
@@ -179,7 +179,7 @@ struct ReleaseConfirm
 struct Aborted
 {
     bool byUser = false;
-    std::string reason; ///< one sentence
+    Text reason; ///< one sentence
 
     bool operator==(const Aborted &) const = default;
 };
@@ -209,13 +209,13 @@ public:
     Actions abort();
     /// The presentation connection brought an element with a service; @p reason is its sentence
     /// when the connection ends.
-    Actions receive(Service service, Bytes unit, const std::string &reason);
+    Actions receive(Service service, Bytes unit, const Text &reason);
 
 private:
     Actions receiveRequest(const AssociateRequest &unit);
     Actions receiveResponse(const AssociateResponse &unit, Service service);
-    Actions receiveEnd(Service service, Bytes unit, const std::string &reason);
-    Actions protocolError(const std::string &reason);
+    Actions receiveEnd(Service service, Bytes unit, const Text &reason);
+    Actions protocolError(const Text &reason);
 
     Options m_options;
     State m_state = State::Idle;

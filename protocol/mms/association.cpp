@@ -20,7 +20,7 @@ constexpr std::uint32_t headError = 2;
 constexpr std::uint32_t headReject = 4;
 constexpr std::int32_t unconfirmedInvalidArgument = 2;
 
-CallFailure failure(CallFailure::Kind kind, std::string message)
+CallFailure failure(CallFailure::Kind kind, Text message)
 {
     return {kind, std::move(message)};
 }
@@ -42,7 +42,7 @@ std::function<void(Value)> completing(std::shared_ptr<Handler> handler)
 
 } // namespace
 
-std::string failureText(const CallOutcome &outcome)
+Text failureText(const CallOutcome &outcome)
 {
     if (const auto *error = std::get_if<ServiceError>(&outcome))
         return describe(*error);
@@ -108,9 +108,8 @@ void Association::connect(std::string host, std::uint16_t port, OpenHandler hand
     asio::dispatch(m_strand, [self = shared_from_this(), host = std::move(host), port,
                               handler = std::move(handler)]() mutable {
         self->m_opened = std::move(handler);
-        self->m_link->connect(
-            std::move(host), port, encode(InitiateRequestPdu{self->proposal()}),
-            [self](StackEvent event) { self->handle(std::move(event)); });
+        self->m_link->connect(std::move(host), port, encode(InitiateRequestPdu{self->proposal()}),
+                              [self](StackEvent event) { self->handle(std::move(event)); });
     });
 }
 
@@ -134,11 +133,12 @@ Association::CallId Association::call(RequestService request, std::chrono::milli
     const CallId id = ++m_lastId;
     const auto deadline = CallTable::Clock::now() + timeout;
     asio::dispatch(m_strand, [self = shared_from_this(), id, deadline, givenUp,
-                              request = std::move(request), handler = std::move(handler)]() mutable {
+                              request = std::move(request),
+                              handler = std::move(handler)]() mutable {
         if (!self->m_open || self->m_isConcluding) {
             handler(failure(CallFailure::Kind::NotOpen,
-                            self->m_open ? "The association is being concluded."
-                                         : "There is no association."));
+                            self->m_open ? say("The association is being concluded.")
+                                         : say("There is no association.")));
             return;
         }
         const CallTable::Ticket ticket =
@@ -149,9 +149,8 @@ Association::CallId Association::call(RequestService request, std::chrono::milli
     return id;
 }
 
-asio::awaitable<CallOutcome> Association::call(RequestService request,
-                                               std::chrono::milliseconds timeout,
-                                               GivenUpCall givenUp)
+asio::awaitable<CallOutcome>
+Association::call(RequestService request, std::chrono::milliseconds timeout, GivenUpCall givenUp)
 {
     const auto self = shared_from_this();
     co_return co_await asio::async_initiate<const asio::use_awaitable_t<>, void(CallOutcome)>(
@@ -178,15 +177,15 @@ void Association::cancel(CallId id)
 
 void Association::cancelInStrand(CallId id)
 {
-    const auto found = std::ranges::find_if(
-        m_calls, [id](const auto &entry) { return entry.second.id == id; });
+    const auto found =
+        std::ranges::find_if(m_calls, [id](const auto &entry) { return entry.second.id == id; });
     if (found == m_calls.end())
         return;
-    giveUp(found->first, "The call was cancelled.");
+    giveUp(found->first, say("The call was cancelled."));
     startTimer();
 }
 
-void Association::giveUp(CallTable::Ticket ticket, std::string reason)
+void Association::giveUp(CallTable::Ticket ticket, Text reason)
 {
     m_table.cancel(ticket, CallTable::Clock::now());
     tellCancelled(ticket);
@@ -195,16 +194,16 @@ void Association::giveUp(CallTable::Ticket ticket, std::string reason)
 
 void Association::respond(std::uint32_t invokeId, ResponseService response)
 {
-    asio::dispatch(m_strand, [self = shared_from_this(), invokeId,
-                              response = std::move(response)]() mutable {
-        if (!self->closeRequest(invokeId))
-            return;
-        if (!self->send(ConfirmedResponsePdu{invokeId, std::move(response)})) {
-            ServiceError error{ErrorClass::Resource, serviceerrors::resourceOther, {}, {}, {}};
-            self->send(ConfirmedErrorPdu{invokeId, std::nullopt, std::move(error)});
-        }
-        self->answerConclude();
-    });
+    asio::dispatch(
+        m_strand, [self = shared_from_this(), invokeId, response = std::move(response)]() mutable {
+            if (!self->closeRequest(invokeId))
+                return;
+            if (!self->send(ConfirmedResponsePdu{invokeId, std::move(response)})) {
+                ServiceError error{ErrorClass::Resource, serviceerrors::resourceOther, {}, {}, {}};
+                self->send(ConfirmedErrorPdu{invokeId, std::nullopt, std::move(error)});
+            }
+            self->answerConclude();
+        });
 }
 
 void Association::fail(std::uint32_t invokeId, ServiceError error)
@@ -241,9 +240,10 @@ void Association::report(InformationReport report, std::function<void(ReportFate
 {
     asio::dispatch(m_strand, [self = shared_from_this(), report = std::move(report),
                               handler = std::move(handler)]() mutable {
-        const ReportFate fate = !self->m_open                               ? ReportFate::NotOpen
-            : self->send(UnconfirmedPdu{std::move(report)}) ? ReportFate::Queued
-                                                            : ReportFate::TooLong;
+        const ReportFate fate = !self->m_open ? ReportFate::NotOpen
+                                : self->send(UnconfirmedPdu{std::move(report)})
+                                    ? ReportFate::Queued
+                                    : ReportFate::TooLong;
         if (fate != ReportFate::Queued)
             ++self->m_unsent;
         if (handler)
@@ -263,7 +263,7 @@ void Association::conclude(std::function<void(Result<void>)> handler)
 {
     asio::dispatch(m_strand, [self = shared_from_this(), handler = std::move(handler)]() mutable {
         if (!self->m_open) {
-            handler(Error{"There is no association.", 0});
+            handler(Error{say("There is no association."), 0});
             return;
         }
         if (self->m_isConcluding) {
@@ -280,16 +280,16 @@ void Association::conclude(std::function<void(Result<void>)> handler)
         if (self->m_hasSentConclude)
             return;
         self->m_concludeTimer.expires_after(self->m_options.concludePatience);
-        self->m_concludeTimer.async_wait([weak = self->weak_from_this()](
-                                             const asio::error_code &error) {
-            const auto association = weak.lock();
-            if (error || !association)
-                return;
-            while (association->m_isConcluding && !association->m_calls.empty())
-                association->giveUp(association->m_calls.begin()->first,
-                                    "The association is being concluded.");
-            association->sendConclude();
-        });
+        self->m_concludeTimer.async_wait(
+            [weak = self->weak_from_this()](const asio::error_code &error) {
+                const auto association = weak.lock();
+                if (error || !association)
+                    return;
+                while (association->m_isConcluding && !association->m_calls.empty())
+                    association->giveUp(association->m_calls.begin()->first,
+                                        say("The association is being concluded."));
+                association->sendConclude();
+            });
     });
 }
 
@@ -332,7 +332,7 @@ asio::awaitable<Result<void>> Association::conclude()
         asio::use_awaitable);
 }
 
-void Association::abort(const std::string &reason)
+void Association::abort(const Text &reason)
 {
     asio::dispatch(m_strand, [self = shared_from_this(), reason] { self->m_link->abort(reason); });
 }
@@ -365,16 +365,15 @@ void Association::handle(StackEvent event)
     } else if (const auto *pdu = std::get_if<PduIndication>(&event)) {
         handlePdu(pdu->pdu);
     } else if (const auto *refused = std::get_if<AssociateRefused>(&event)) {
-        std::string reason = refused->reason;
         const auto answer = decodePdu(refused->pdu);
-        if (const auto *error = answer ? std::get_if<InitiateErrorPdu>(&*answer) : nullptr)
-            reason += " " + describe(error->error);
-        close(reason);
+        const auto *error = answer ? std::get_if<InitiateErrorPdu>(&*answer) : nullptr;
+        close(error ? wording::sentences(refused->reason, describe(error->error))
+                    : refused->reason);
     } else if (std::holds_alternative<ReleaseIndication>(event)) {
         m_link->answerRelease();
     } else if (std::holds_alternative<ReleaseConfirm>(event)) {
         concluded({});
-        close("The association was released.");
+        close(say("The association was released."));
     } else if (const auto *lost = std::get_if<AssociationLost>(&event)) {
         close(lost->reason);
     }
@@ -421,24 +420,24 @@ void Association::handleConfirm(const AssociateConfirm &confirm)
     const auto pdu = decodePdu(confirm.pdu);
     if (!pdu) {
         ++m_malformed;
-        m_link->abort("The peer's initiate answer cannot be read: " + pdu.error().message + ".");
+        m_link->abort(say("The peer's initiate answer cannot be read: %1.", pdu.error().message));
         return;
     }
     if (const auto *error = std::get_if<InitiateErrorPdu>(&*pdu)) {
-        m_link->abort("The peer refuses the initiate request. " + describe(error->error));
+        m_link->abort(wording::sentences(say("The peer refuses the initiate request."),
+                                         describe(error->error)));
         return;
     }
     const auto *response = std::get_if<InitiateResponsePdu>(&*pdu);
     if (!response) {
-        m_link->abort("The peer answered the initiate request with something else.");
+        m_link->abort(say("The peer answered the initiate request with something else."));
         return;
     }
     InitiateParameters agreed = response->parameters;
     agreed.maxPduSize =
         std::min(agreed.maxPduSize.value_or(m_options.maxPduSize), m_options.maxPduSize);
     if (*agreed.maxPduSize < uselessPduSize) {
-        m_link->abort("The peer's PDU size of " + std::to_string(*agreed.maxPduSize)
-                      + " octets is too small.");
+        m_link->abort(say("The peer's PDU size of %1 octets is too small.", *agreed.maxPduSize));
         return;
     }
     agreed.maxOutstandingCalling =
@@ -473,8 +472,8 @@ void Association::handlePdu(Bytes octets)
         handleCancel(cancel->invokeId);
     } else if (const auto *refused = std::get_if<CancelErrorPdu>(&*pdu)) {
         // What the peer does not know it will not answer either; else the answer frees the place.
-        if (refused->error.errorClass == ErrorClass::Cancel
-            && refused->error.code == serviceerrors::cancelInvokeIdUnknown) {
+        if (refused->error.errorClass == ErrorClass::Cancel &&
+            refused->error.code == serviceerrors::cancelInvokeIdUnknown) {
             m_table.forget(refused->invokeId);
             sendCalls();
         }
@@ -505,7 +504,7 @@ void Association::handleReject(const RejectPdu &reject, const PduHead &head, Byt
     case RejectedPdu::ConcludeRequest:
         if (m_hasSentConclude) {
             m_link->forgetRelease();
-            concluded(Error{describe(reject) + '.', 0});
+            concluded(Error{describe(reject), 0});
         }
         return;
     default:
@@ -525,10 +524,9 @@ void Association::handleCancel(std::uint32_t invokeId)
     if (!closeRequest(invokeId))
         return refuse(serviceerrors::cancelInvokeIdUnknown);
     send(CancelResponsePdu{invokeId});
-    send(ConfirmedErrorPdu{
-        invokeId,
-        std::nullopt,
-        {ErrorClass::ServicePreempt, serviceerrors::preemptCancel, {}, {}, {}}});
+    send(ConfirmedErrorPdu{invokeId,
+                           std::nullopt,
+                           {ErrorClass::ServicePreempt, serviceerrors::preemptCancel, {}, {}, {}}});
     answerConclude();
 }
 
@@ -537,8 +535,8 @@ void Association::handleRequest(ConfirmedRequestPdu pdu)
     const std::uint32_t invokeId = pdu.invokeId;
     m_openRequests.push_back(invokeId);
     // Some peers use one place more than agreed; twice the number is no mistake in counting.
-    const auto limit = 2 * static_cast<std::size_t>(std::max<std::int16_t>(
-                               m_options.maxOutstandingCalled, 1));
+    const auto limit =
+        2 * static_cast<std::size_t>(std::max<std::int16_t>(m_options.maxOutstandingCalled, 1));
     if (m_openRequests.size() > limit)
         reject(invokeId, rejectcodes::requestMaxOutstandingExceeded);
     else if (!m_handlers.request || std::holds_alternative<UnknownService>(pdu.request))
@@ -567,7 +565,7 @@ void Association::handleAnswer(const PduHead &head, Bytes octets)
                                rejectcodes::responseInvalidResult});
             }
             finish(*ticket, failure(CallFailure::Kind::Malformed,
-                                    "The answer cannot be read: " + pdu.error().message + "."));
+                                    say("The answer cannot be read: %1.", pdu.error().message)));
         } else if (auto *response = std::get_if<ConfirmedResponsePdu>(&*pdu)) {
             finish(*ticket, std::move(response->response));
         } else if (auto *error = std::get_if<ConfirmedErrorPdu>(&*pdu)) {
@@ -601,9 +599,10 @@ void Association::sendCalls()
         if (send(ConfirmedRequestPdu{next->invokeId, std::move(call.request)}))
             continue;
         m_table.answered(next->invokeId);
-        finish(next->ticket, failure(CallFailure::Kind::TooLarge,
-                                     "The request is longer than the negotiated PDU size of "
-                                         + std::to_string(m_pduSize) + " octets."));
+        finish(next->ticket,
+               failure(CallFailure::Kind::TooLarge,
+                       say("The request is longer than the negotiated PDU size of %1 octets.",
+                           m_pduSize.load())));
     }
     startTimer();
 }
@@ -646,17 +645,16 @@ void Association::expireTimer()
     const auto now = CallTable::Clock::now();
     for (const CallTable::Ticket ticket : m_table.expire(now)) {
         CallFailure late =
-            failure(CallFailure::Kind::TimedOut, "The peer did not answer in time.");
+            failure(CallFailure::Kind::TimedOut, say("The peer did not answer in time."));
         late.wasSent = m_table.placeOf(ticket).has_value();
         if (!late.wasSent)
-            late.message = "The request was not sent: it waited for a place behind calls that the "
-                           "peer has not answered.";
+            late.message = say(
+                "The request was not sent: it waited for a place behind calls that the peer has not answered.");
         tellCancelled(ticket);
         finish(ticket, std::move(late));
     }
     if (isIdle(now)) {
-        m_link->abort("The peer said nothing for "
-                      + std::to_string(m_options.idleLimit.count()) + " ms.");
+        m_link->abort(say("The peer said nothing for %1 ms.", m_options.idleLimit.count()));
         return;
     }
     if (m_open && m_options.keepAlive.count() > 0 && !m_isAskingForLife && now >= m_nextLifeCheck)
@@ -667,15 +665,15 @@ void Association::expireTimer()
 void Association::tellCancelled(CallTable::Ticket ticket)
 {
     const auto invokeId = m_table.placeOf(ticket);
-    if (m_open && invokeId && !m_refusesCancel
-        && m_peerServices.test(static_cast<std::size_t>(Service::Cancel)))
+    if (m_open && invokeId && !m_refusesCancel &&
+        m_peerServices.test(static_cast<std::size_t>(Service::Cancel)))
         send(CancelRequestPdu{*invokeId});
 }
 
 bool Association::isIdle(CallTable::Clock::time_point now) const
 {
-    return m_open && m_options.idleLimit.count() > 0
-        && m_link->lastHeard() + m_options.idleLimit <= now;
+    return m_open && m_options.idleLimit.count() > 0 &&
+           m_link->lastHeard() + m_options.idleLimit <= now;
 }
 
 void Association::askForSignOfLife(CallTable::Clock::time_point now)
@@ -696,7 +694,7 @@ void Association::askForSignOfLife(CallTable::Clock::time_point now)
         m_nextLifeCheck = std::max(m_link->lastHeard(), now) + m_options.keepAlive;
         const auto *none = std::get_if<CallFailure>(&outcome);
         if (none && none->kind == CallFailure::Kind::TimedOut && m_link->lastHeard() < now)
-            m_link->abort("The peer gave no sign of life in time.");
+            m_link->abort(say("The peer gave no sign of life in time."));
     };
     const CallTable::Ticket ticket = m_table.add(now + m_options.keepAliveTimeout);
     m_calls.emplace(ticket, Call{++m_lastId, std::move(request), judge});
@@ -723,7 +721,7 @@ void Association::open(const InitiateParameters &parameters)
         opened(parameters);
 }
 
-void Association::close(const std::string &reason)
+void Association::close(const Text &reason)
 {
     if (std::exchange(m_closed, true))
         return;

@@ -32,7 +32,7 @@ struct CallFailure
     };
 
     Kind kind = Kind::NotOpen;
-    std::string message; ///< one sentence
+    Text message; ///< one sentence
     /// False for a call that waited for a place until it ended: the peer was never asked.
     bool wasSent = true;
 };
@@ -56,7 +56,7 @@ const Response *answerOf(const CallOutcome &outcome)
 }
 
 /// Why a call has no answer, as one sentence; empty for an answer.
-std::string failureText(const CallOutcome &outcome);
+Text failureText(const CallOutcome &outcome);
 
 struct AssociationOptions
 {
@@ -125,12 +125,11 @@ public:
         /// The peer does not want the answer to a request any more. True when the request was
         /// given up: it must not be answered then, and the peer is told. Without a handler every
         /// request goes on.
-        std::function<bool(const std::shared_ptr<Association> &association,
-                           std::uint32_t invokeId)>
+        std::function<bool(const std::shared_ptr<Association> &association, std::uint32_t invokeId)>
             cancel;
         std::function<void(InformationReport report)> report;
         /// The association, which had been open, has ended; one sentence says why.
-        std::function<void(const std::string &reason)> closed;
+        std::function<void(const Text &reason)> closed;
     };
 
     /// The side that connects.
@@ -141,8 +140,7 @@ public:
     /// loaded already.
     static std::shared_ptr<Association> serve(Link::Strand strand, asio::ip::tcp::socket socket,
                                               AssociationOptions options, Handlers handlers,
-                                              OpenHandler opened,
-                                              std::weak_ptr<Association> &self,
+                                              OpenHandler opened, std::weak_ptr<Association> &self,
                                               std::shared_ptr<const TlsContext> tls = {});
     Association(Private, Link::Strand strand, AssociationOptions options, Handlers handlers);
     ~Association();
@@ -174,12 +172,12 @@ public:
     void whenQueued(std::size_t octets, std::function<void()> handler);
 
     /// Conclude and release; the handler hears how it went. Calls under way are waited for, but not
-    /// beyond AssociationOptions::concludePatience; new ones are refused. An association that cannot
-    /// be concluded in time is aborted.
+    /// beyond AssociationOptions::concludePatience; new ones are refused. An association that
+    /// cannot be concluded in time is aborted.
     void conclude(std::function<void(Result<void> result)> handler);
     asio::awaitable<Result<void>> conclude();
     /// End at once.
-    void abort(const std::string &reason);
+    void abort(const Text &reason);
 
     /// What was negotiated; meant for handlers, valid in the strand after opening.
     const InitiateParameters &negotiated() const { return m_negotiated; }
@@ -229,9 +227,9 @@ private:
     void askForSignOfLife(CallTable::Clock::time_point now);
     bool send(const Pdu &pdu);
     void open(const InitiateParameters &parameters);
-    void close(const std::string &reason);
+    void close(const Text &reason);
     void cancelInStrand(CallId id);
-    void giveUp(CallTable::Ticket ticket, std::string reason);
+    void giveUp(CallTable::Ticket ticket, Text reason);
 
     Link::Strand m_strand;
     AssociationOptions m_options;

@@ -62,7 +62,7 @@ Input::Input(Bytes bytes, const Limits &limits)
     , m_countLeft(limits.count)
 {
     if (bytes.size() > limits.length)
-        fail("The message is longer than allowed", limits.length);
+        fail(say("The message is longer than allowed."), limits.length);
 }
 
 Reader Input::reader()
@@ -70,10 +70,10 @@ Reader Input::reader()
     return Reader(this, m_bytes.data(), m_bytes.data() + m_bytes.size(), 0);
 }
 
-void Input::fail(std::string_view message, std::size_t offset)
+void Input::fail(Text message, std::size_t offset)
 {
     if (!m_error)
-        m_error = Error{std::string(message), offset};
+        m_error = Error{std::move(message), offset};
 }
 
 bool Reader::readHeader(const std::uint8_t *&position, Tag &tag, std::size_t &length,
@@ -84,7 +84,7 @@ bool Reader::readHeader(const std::uint8_t *&position, Tag &tag, std::size_t &le
     };
     const std::uint8_t *const begin = position;
     const auto truncated = [&] {
-        m_input->fail("The message ends within an element", offsetOf(begin));
+        m_input->fail(say("The message ends within an element."), offsetOf(begin));
         return false;
     };
     const std::uint8_t *p = position;
@@ -101,7 +101,7 @@ bool Reader::readHeader(const std::uint8_t *&position, Tag &tag, std::size_t &le
             octet = *p++;
             number = number << 7 | (octet & 0x7FU);
             if (number > 0x3FFF) {
-                m_input->fail("A tag number is too large", offsetOf(begin));
+                m_input->fail(say("A tag number is too large."), offsetOf(begin));
                 return false;
             }
         } while ((octet & 0x80U) != 0);
@@ -116,7 +116,7 @@ bool Reader::readHeader(const std::uint8_t *&position, Tag &tag, std::size_t &le
         length = lengthOctet;
     } else if (lengthOctet == 0x80) {
         if (!tag.isConstructed()) {
-            m_input->fail("A primitive element has no definite length", offsetOf(begin));
+            m_input->fail(say("A primitive element has no definite length."), offsetOf(begin));
             return false;
         }
         indefinite = true;
@@ -128,14 +128,14 @@ bool Reader::readHeader(const std::uint8_t *&position, Tag &tag, std::size_t &le
         length = 0;
         for (std::size_t i = 0; i < octets; ++i) {
             if (length > 0xFFFFFF) {
-                m_input->fail("The length of an element is too large", offsetOf(begin));
+                m_input->fail(say("The length of an element is too large."), offsetOf(begin));
                 return false;
             }
             length = length << 8 | *p++;
         }
     }
     if (length > static_cast<std::size_t>(m_end - p)) {
-        m_input->fail("An element is longer than the message", offsetOf(begin));
+        m_input->fail(say("An element is longer than the message."), offsetOf(begin));
         return false;
     }
     position = p;
@@ -148,7 +148,7 @@ const std::uint8_t *Reader::findEndOfContents(const std::uint8_t *from, std::siz
     const std::uint8_t *p = from;
     for (;;) {
         if (depth > m_input->m_limits.depth) {
-            m_input->fail("The elements are nested too deeply",
+            m_input->fail(say("The elements are nested too deeply."),
                           static_cast<std::size_t>(from - m_input->m_bytes.data()));
             return nullptr;
         }
@@ -214,8 +214,8 @@ Element Reader::expect(Tag tag, std::string_view what)
 {
     Element element;
     if (!failed() && peek() != tag)
-        fail(std::string(what) +
-             (m_position == m_end ? " is missing" : " is not where it belongs"));
+        fail(m_position == m_end ? say("The element %1 is missing.", what)
+                                 : say("The element %1 is not where it belongs.", what));
     else
         next(element);
     return failed() ? Element() : element;
@@ -224,9 +224,9 @@ Element Reader::expect(Tag tag, std::string_view what)
 Reader Reader::enter(const Element &element)
 {
     if (m_depth + 1 > m_input->m_limits.depth)
-        m_input->fail("The elements are nested too deeply", element.offset);
+        m_input->fail(say("The elements are nested too deeply."), element.offset);
     else if (!failed() && !element.tag.isConstructed())
-        m_input->fail("A primitive element stands where a group belongs", element.offset);
+        m_input->fail(say("A primitive element stands where a group belongs."), element.offset);
     const std::uint8_t *begin = failed() ? m_end : element.content.data();
     const std::uint8_t *end = failed() ? m_end : begin + element.content.size();
     return Reader(m_input, begin, end, m_depth + 1);
@@ -246,7 +246,7 @@ std::size_t Reader::countRest()
 bool Reader::allow(std::size_t count)
 {
     if (count > m_input->m_countLeft)
-        fail("The message holds more elements than allowed");
+        fail(say("The message holds more elements than allowed."));
     else
         m_input->m_countLeft -= count;
     return !failed();
@@ -276,7 +276,7 @@ std::size_t Reader::countAhead()
 void Reader::expectEnd(std::string_view what)
 {
     if (!atEnd())
-        fail("Something stands behind the end of " + std::string(what));
+        fail(say("Something stands behind the end of %1.", what));
 }
 
 bool Reader::boolean(const Element &element)
@@ -284,7 +284,7 @@ bool Reader::boolean(const Element &element)
     if (failed())
         return false;
     if (element.content.size() != 1) {
-        m_input->fail("A boolean has not one octet", element.offset);
+        m_input->fail(say("A boolean has not one octet."), element.offset);
         return false;
     }
     return element.content[0] != 0;
@@ -296,7 +296,7 @@ std::int64_t Reader::integer(const Element &element, std::int64_t minimum, std::
         return 0;
     const Bytes content = element.content;
     if (content.empty() || content.size() > 8) {
-        m_input->fail("An integer has no octet or more than 8", element.offset);
+        m_input->fail(say("An integer has no octet or more than 8."), element.offset);
         return 0;
     }
     std::uint64_t bits = (content[0] & 0x80U) != 0 ? ~std::uint64_t{0} : 0;
@@ -304,7 +304,7 @@ std::int64_t Reader::integer(const Element &element, std::int64_t minimum, std::
         bits = bits << 8 | octet;
     const auto value = static_cast<std::int64_t>(bits);
     if (value < minimum || value > maximum) {
-        m_input->fail("An integer is out of its range", element.offset);
+        m_input->fail(say("An integer is out of its range."), element.offset);
         return 0;
     }
     return value;
@@ -316,14 +316,15 @@ std::uint64_t Reader::unsignedInteger(const Element &element, std::uint64_t maxi
         return 0;
     const Bytes content = element.content;
     if (content.empty() || content.size() > 9 || (content.size() == 9 && content[0] != 0)) {
-        m_input->fail("An unsigned integer has no octet or more than 64 bits", element.offset);
+        m_input->fail(say("An unsigned integer has no octet or more than 64 bits."),
+                      element.offset);
         return 0;
     }
     std::uint64_t value = 0;
     for (const std::uint8_t octet : content)
         value = value << 8 | octet;
     if (value > maximum) {
-        m_input->fail("An unsigned integer is out of its range", element.offset);
+        m_input->fail(say("An unsigned integer is out of its range."), element.offset);
         return 0;
     }
     return value;
@@ -350,7 +351,7 @@ BitString Reader::bitString(const Element &element)
         return {};
     const Bytes content = element.content;
     if (content.empty() || content[0] > 7 || (content.size() == 1 && content[0] != 0)) {
-        m_input->fail("A bit string does not say how many of its bits count", element.offset);
+        m_input->fail(say("A bit string does not say how many of its bits count."), element.offset);
         return {};
     }
     return BitString(content.subspan(1), (content.size() - 1) * 8 - content[0]);
@@ -359,7 +360,7 @@ BitString Reader::bitString(const Element &element)
 void Reader::null(const Element &element)
 {
     if (!failed() && !element.content.empty())
-        m_input->fail("An element that is empty by definition has content", element.offset);
+        m_input->fail(say("An element that is empty by definition has content."), element.offset);
 }
 
 std::vector<std::uint32_t> Reader::objectIdentifier(const Element &element)
@@ -372,7 +373,7 @@ std::vector<std::uint32_t> Reader::objectIdentifier(const Element &element)
     for (const std::uint8_t octet : element.content) {
         number = number << 7 | (octet & 0x7FU);
         if (number > std::numeric_limits<std::uint32_t>::max()) {
-            m_input->fail("A number of an object identifier is too large", element.offset);
+            m_input->fail(say("A number of an object identifier is too large."), element.offset);
             return {};
         }
         complete = (octet & 0x80U) == 0;
@@ -387,7 +388,7 @@ std::vector<std::uint32_t> Reader::objectIdentifier(const Element &element)
         number = 0;
     }
     if (!complete) {
-        m_input->fail("An object identifier ends within a number", element.offset);
+        m_input->fail(say("An object identifier ends within a number."), element.offset);
         return {};
     }
     return result;

@@ -143,7 +143,7 @@ public:
     /// Valid only when failed().
     const Error &error() const noexcept { return *m_error; }
     /// Notes an error; the first one stays.
-    void fail(std::string_view message, std::size_t offset);
+    void fail(Text message, std::size_t offset);
 
     /// @a value when nothing failed, the error otherwise.
     template <typename T>
@@ -177,7 +177,7 @@ public:
     {
         return static_cast<std::size_t>(m_position - m_input->m_bytes.data());
     }
-    void fail(std::string_view message) { m_input->fail(message, offset()); }
+    void fail(Text message) { m_input->fail(std::move(message), offset()); }
 
     /// The tag of the next element; none at the end.
     Tag peek();
@@ -203,7 +203,7 @@ public:
     }
     /// Steps over the next element when it has this tag.
     bool takeIf(Tag tag, Element &element);
-    /// Steps over the next element, which must have this tag; @a what names it in the error.
+    /// Steps over the next element, which must have this tag; @a what is its name in the standard.
     Element expect(Tag tag, std::string_view what);
     /// A reader of what is inside a constructed element.
     Reader enter(const Element &element);
@@ -215,7 +215,7 @@ public:
     std::size_t countAhead();
     /// Takes so many elements from the count that the limits allow; false when it is used up.
     bool allow(std::size_t count);
-    /// Fails when an element is left; @a what names the level in the error.
+    /// Fails when an element is left; @a what is the name of the level in the standard.
     void expectEnd(std::string_view what);
 
     // What a primitive element holds. An element that holds something else fails the input.

@@ -42,6 +42,18 @@ void write(Writer &writer, const VariableAccessSpecification &specification);
 ServiceError readServiceError(Reader reader);
 void write(Writer &writer, const ServiceError &error);
 
+/// Why an association ends with a peer whose octets are no message.
+inline Text unreadable(const Error &error)
+{
+    return say("What the peer sent cannot be read: %1.", error.message);
+}
+
+/// The English of a sentence within the text of a trace.
+inline std::string withoutFullStop(const Text &sentence)
+{
+    return sentence.english().substr(0, sentence.english().find_last_not_of('.') + 1);
+}
+
 /// Elements separated by ", ".
 template <typename Range, typename Function>
 std::string joined(const Range &range, Function function)

@@ -64,7 +64,8 @@ Result<std::vector<Parameter>> parametersOf(Bytes header, std::size_t begin)
     std::size_t at = begin;
     while (at < header.size()) {
         if (header.size() - at < 2 || header.size() - at - 2 < header[at + 1])
-            return Error{"A parameter of a transport unit is longer than the unit's header.", at};
+            return Error{say("A parameter of a transport unit is longer than the unit's header."),
+                         at};
         const std::size_t length = header[at + 1];
         result.push_back({header[at], header.subspan(at + 2, length), at});
         at += 2 + length;
@@ -74,8 +75,7 @@ Result<std::vector<Parameter>> parametersOf(Bytes header, std::size_t begin)
 
 Error tooShort(const char *what)
 {
-    return Error{std::string("The transport unit \"") + what + "\" is shorter than its fixed part.",
-                 0};
+    return Error{say("The transport unit \"%1\" is shorter than its fixed part.", what), 0};
 }
 
 template <typename Connect>
@@ -97,7 +97,7 @@ Result<Unit> decodeConnect(Bytes header, const char *what)
         switch (parameter.code) {
         case parameterSize:
             if (value.size() != 1 || value[0] < smallestExponent || value[0] > largestExponent)
-                return Error{"The size of transport units is not one of 128 to 8,192 octets.",
+                return Error{say("The size of transport units is not one of 128 to 8,192 octets."),
                              parameter.offset};
             unit.sizeExponent = value[0];
             break;
@@ -120,7 +120,7 @@ Result<Unit> decodeConnect(Bytes header, const char *what)
 Result<Unit> decodeDisconnect(Bytes header)
 {
     if (header.size() < 7)
-        return tooShort("disconnect request");
+        return tooShort("DR");
     const auto parameters = parametersOf(header, 7);
     if (!parameters)
         return parameters.error();
@@ -208,26 +208,27 @@ bool DataUnit::operator==(const DataUnit &other) const
 Result<Unit> decode(Bytes packet)
 {
     if (packet.size() < 2)
-        return Error{"A transport unit needs at least two octets.", 0};
+        return Error{say("A transport unit needs at least two octets."), 0};
     const std::size_t headerSize = static_cast<std::size_t>(packet[0]) + 1;
     if (packet[0] == 255 || headerSize > packet.size() || headerSize < 2)
-        return Error{"The header of a transport unit is longer than the packet.", 0};
+        return Error{say("The header of a transport unit is longer than the packet."), 0};
     const Bytes header = packet.first(headerSize);
     const std::uint8_t code = packet[1];
     if (code == codeData) {
         if (headerSize != dataHeaderSize)
-            return Error{"A data unit of transport class 0 has a header of another length than 3.",
-                         0};
+            return Error{
+                say("A data unit of transport class 0 has a header of another length than 3."), 0};
         return Unit(DataUnit{(packet[2] & 0x80) != 0, packet.subspan(dataHeaderSize)});
     }
     const bool mayCarryData = code == codeDisconnectRequest;
     if (headerSize != packet.size() && !mayCarryData)
-        return Error{"A transport unit is followed by octets that belong to nothing.", headerSize};
+        return Error{say("A transport unit is followed by octets that belong to nothing."),
+                     headerSize};
     switch (code & 0xf0) {
     case codeConnectRequest:
-        return decodeConnect<ConnectRequest>(header, "connection request");
+        return decodeConnect<ConnectRequest>(header, "CR");
     case codeConnectConfirm:
-        return decodeConnect<ConnectConfirm>(header, "connection confirm");
+        return decodeConnect<ConnectConfirm>(header, "CC");
     default:
         break;
     }
@@ -237,7 +238,7 @@ Result<Unit> decode(Bytes packet)
     case codeError:
         return decodeError(header);
     default:
-        return Error{"A transport unit has the unknown code " + std::to_string(code) + ".", 1};
+        return Error{say("A transport unit has the unknown code %1.", code), 1};
     }
 }
 
@@ -253,52 +254,51 @@ Octets encode(const Unit &unit)
     return std::move(encoder.out);
 }
 
-std::string reasonText(std::uint8_t reason)
+Text reasonText(std::uint8_t reason)
 {
     switch (reason) {
     case 0:
-        return "The peer ended the transport connection without a reason.";
+        return say("The peer ended the transport connection without a reason.");
     case 1:
-        return "The peer's transport selector is congested.";
+        return say("The peer's transport selector is congested.");
     case 2:
-        return "No session entity is attached to the transport selector.";
+        return say("No session entity is attached to the transport selector.");
     case 3:
-        return "The peer does not know the transport selector.";
+        return say("The peer does not know the transport selector.");
     case 0x80:
-        return "The peer ended the transport connection normally.";
+        return say("The peer ended the transport connection normally.");
     case 0x81:
-        return "The peer's transport layer is congested.";
+        return say("The peer's transport layer is congested.");
     case 0x82:
-        return "The transport classes of both sides do not match.";
+        return say("The transport classes of both sides do not match.");
     case 0x83:
-        return "The peer saw a duplicate transport reference.";
+        return say("The peer saw a duplicate transport reference.");
     case 0x84:
-        return "The peer saw mismatched transport references.";
+        return say("The peer saw mismatched transport references.");
     case 0x85:
-        return "The peer reports an error in the transport protocol.";
+        return say("The peer reports an error in the transport protocol.");
     case 0x87:
-        return "The peer's transport references have overflowed.";
+        return say("The peer's transport references have overflowed.");
     case 0x88:
-        return "The peer refuses the request on this network connection.";
+        return say("The peer refuses the request on this network connection.");
     case 0x8a:
-        return "The peer reports an invalid header or parameter length.";
+        return say("The peer reports an invalid header or parameter length.");
     default:
-        return "The peer ended the transport connection with reason " + std::to_string(reason)
-            + ".";
+        return say("The peer ended the transport connection with reason %1.", reason);
     }
 }
 
-std::string causeText(std::uint8_t cause)
+Text causeText(std::uint8_t cause)
 {
     switch (cause) {
     case 1:
-        return "The peer refuses a parameter code of the transport unit.";
+        return say("The peer refuses a parameter code of the transport unit.");
     case 2:
-        return "The peer refuses the type of the transport unit.";
+        return say("The peer refuses the type of the transport unit.");
     case 3:
-        return "The peer refuses a parameter value of the transport unit.";
+        return say("The peer refuses a parameter value of the transport unit.");
     default:
-        return "The peer refuses a transport unit without a reason.";
+        return say("The peer refuses a transport unit without a reason.");
     }
 }
 
@@ -380,7 +380,7 @@ void Connection::send(Bytes head, Bytes body, Octets &out) const
     } while (left != 0);
 }
 
-Actions Connection::networkClosed(const std::string &reason)
+Actions Connection::networkClosed(const Text &reason)
 {
     Actions actions;
     if (m_state != State::Closed)
@@ -404,7 +404,7 @@ void Connection::handle(const Unit &unit, Bytes packet, Actions &actions)
         close(causeText(error->cause), actions);
     } else {
         protocolError(causeInvalidType, packet,
-                      "The peer sent a transport unit that does not belong here.", actions);
+                      say("The peer sent a transport unit that does not belong here."), actions);
     }
 }
 
@@ -415,12 +415,12 @@ void Connection::handleRequest(const ConnectRequest &request, Actions &actions)
     m_calledSelector = request.calledSelector.value_or(Octets());
     if (!allowsClassZero(request)) {
         sendUnit(DisconnectRequest{m_peerReference, 0, reasonNegotiationFailed}, actions);
-        close("The peer asked for a transport class other than 0.", actions);
+        close(say("The peer asked for a transport class other than 0."), actions);
         return;
     }
     if (m_options.checkSelector && m_calledSelector != m_options.localSelector) {
         sendUnit(DisconnectRequest{m_peerReference, 0, reasonUnknownSelector}, actions);
-        close("The peer asked for an unknown transport selector.", actions);
+        close(say("The peer asked for an unknown transport selector."), actions);
         return;
     }
     ConnectConfirm confirm;
@@ -444,7 +444,7 @@ void Connection::handleConfirm(const ConnectConfirm &confirm, Actions &actions)
     if (confirm.preferredClass != 0) {
         sendUnit(DisconnectRequest{confirm.sourceReference, ownReference, reasonNegotiationFailed},
                  actions);
-        close("The peer confirmed a transport class other than 0.", actions);
+        close(say("The peer confirmed a transport class other than 0."), actions);
         return;
     }
     m_peerReference = confirm.sourceReference;
@@ -457,8 +457,7 @@ void Connection::handleConfirm(const ConnectConfirm &confirm, Actions &actions)
 void Connection::handleData(const DataUnit &data, Actions &actions)
 {
     if (m_message.size() + data.data.size() > m_options.maxMessage) {
-        close("The peer sent a message of more than " + std::to_string(m_options.maxMessage)
-                  + " octets.",
+        close(say("The peer sent a message of more than %1 octets.", m_options.maxMessage),
               actions);
         return;
     }
@@ -468,16 +467,17 @@ void Connection::handleData(const DataUnit &data, Actions &actions)
     actions.emplace_back(Message{std::exchange(m_message, {})});
 }
 
-void Connection::protocolError(std::uint8_t cause, Bytes packet, const std::string &reason,
+void Connection::protocolError(std::uint8_t cause, Bytes packet, const Text &reason,
                                Actions &actions)
 {
     constexpr std::size_t shown = 32;
     const Bytes beginning = packet.first(std::min(packet.size(), shown));
-    sendUnit(ErrorUnit{m_peerReference, cause, Octets(beginning.begin(), beginning.end())}, actions);
+    sendUnit(ErrorUnit{m_peerReference, cause, Octets(beginning.begin(), beginning.end())},
+             actions);
     close(reason, actions);
 }
 
-void Connection::close(std::string reason, Actions &actions)
+void Connection::close(Text reason, Actions &actions)
 {
     m_state = State::Closed;
     actions.emplace_back(Closed{std::move(reason)});

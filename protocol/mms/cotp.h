@@ -71,9 +71,9 @@ Result<Unit> decode(Bytes packet);
 Octets encode(const Unit &unit);
 
 /// What the reason of a disconnect request says, as a sentence.
-std::string reasonText(std::uint8_t reason);
+Text reasonText(std::uint8_t reason);
 /// What the cause of an error unit says, as a sentence.
-std::string causeText(std::uint8_t cause);
+Text causeText(std::uint8_t cause);
 
 struct Options
 {
@@ -116,7 +116,7 @@ struct Message
 /// is sent.
 struct Closed
 {
-    std::string reason; ///< one sentence
+    Text reason; ///< one sentence
 
     bool operator==(const Closed &) const = default;
 };
@@ -154,16 +154,15 @@ public:
     /// A message of two parts.
     void send(Bytes head, Bytes body, Octets &out) const;
     /// The network connection ended or is to be given up.
-    Actions networkClosed(const std::string &reason);
+    Actions networkClosed(const Text &reason);
 
 private:
     void handle(const Unit &unit, Bytes packet, Actions &actions);
     void handleRequest(const ConnectRequest &request, Actions &actions);
     void handleConfirm(const ConnectConfirm &confirm, Actions &actions);
     void handleData(const DataUnit &data, Actions &actions);
-    void protocolError(std::uint8_t cause, Bytes packet, const std::string &reason,
-                       Actions &actions);
-    void close(std::string reason, Actions &actions);
+    void protocolError(std::uint8_t cause, Bytes packet, const Text &reason, Actions &actions);
+    void close(Text reason, Actions &actions);
     static void sendUnit(const Unit &unit, Actions &actions);
     std::uint8_t ownSizeExponent() const;
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mms/data.h"
 
+#include "mms/codec.h"
+
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -20,7 +22,7 @@ namespace {
 constexpr std::uint8_t floatExponentWidth = 8;
 constexpr std::uint8_t doubleExponentWidth = 11;
 
-constexpr std::string_view noValue = "An element that is no value stands where a value belongs";
+constexpr wording::Pattern<0> noValue = "An element that is no value stands where a value belongs.";
 
 std::uint64_t bigEndian(Bytes octets)
 {
@@ -379,8 +381,8 @@ void DataCodec::readInto(Reader &reader, const Element &element, Data &data, Roo
         {
             const Bytes content = element.content;
             const auto kind = static_cast<Data::Kind>(element.tag.number());
-            const auto refuse = [&](std::string_view message) {
-                reader.input().fail(message, element.offset);
+            const auto refuse = [&](Text message) {
+                reader.input().fail(std::move(message), element.offset);
             };
             // The value is a new one, so that nothing is to be released.
             const auto setNumber = [&](std::uint64_t bits) {
@@ -412,13 +414,13 @@ void DataCodec::readInto(Reader &reader, const Element &element, Data &data, Roo
                     setNumber(bigEndian(content.subspan<1, 8>()));
                     data.m_width = 64;
                 } else {
-                    refuse("A floating-point number has neither 32 nor 64 bits");
+                    refuse(say("A floating-point number has neither 32 nor 64 bits."));
                 }
                 return;
             case Data::Kind::BitString:
             case Data::Kind::BooleanArray: {
                 if (content.empty() || content[0] > 7 || (content.size() == 1 && content[0] != 0))
-                    return refuse("A bit string does not say how many of its bits count");
+                    return refuse(say("A bit string does not say how many of its bits count."));
                 const std::size_t octets = content.size() - 1;
                 std::uint8_t *const place = data.makeRoom(kind, octets * 8 - content[0]);
                 if (octets == 0)
@@ -430,11 +432,11 @@ void DataCodec::readInto(Reader &reader, const Element &element, Data &data, Roo
             }
             case Data::Kind::BinaryTime:
                 if (content.size() != 4 && content.size() != 6)
-                    return refuse("A binary time has neither 4 nor 6 octets");
+                    return refuse(say("A binary time has neither 4 nor 6 octets."));
                 return copyOctets();
             case Data::Kind::UtcTime:
                 if (content.size() != 8)
-                    return refuse("A UTC time has not 8 octets");
+                    return refuse(say("A UTC time has not 8 octets."));
                 data.m_kind = kind;
                 data.m_size = 8;
                 std::memcpy(data.m_content.inside, content.data(), 8);
@@ -450,7 +452,7 @@ void DataCodec::readInto(Reader &reader, const Element &element, Data &data, Roo
             case Data::Kind::Structure:
                 break;
             }
-            refuse(noValue);
+            refuse(say(noValue));
         }
 
         [[gnu::noinline]] static void group(Reader &reader, const Element &element, Data &data,
@@ -458,7 +460,7 @@ void DataCodec::readInto(Reader &reader, const Element &element, Data &data, Roo
         {
             const auto kind = static_cast<Data::Kind>(element.tag.number());
             if (kind != Data::Kind::Structure && kind != Data::Kind::Array) {
-                reader.input().fail(noValue, element.offset);
+                reader.input().fail(say(noValue), element.offset);
                 return;
             }
             Reader inner = reader.enter(element);
@@ -482,7 +484,7 @@ void DataCodec::readInto(Reader &reader, const Element &element, Data &data, Roo
             data.m_content.children = place;
             data.m_size = static_cast<std::uint32_t>(std::min(count, left));
             if (count > left) {
-                inner.input().fail("An element is longer than the group that it is in",
+                inner.input().fail(say("An element is longer than the group that it is in."),
                                    element.offset);
                 return;
             }
@@ -490,7 +492,7 @@ void DataCodec::readInto(Reader &reader, const Element &element, Data &data, Roo
             Element child;
             for (; inner.next(child); ++place) {
                 if (!child.tag.isContext())
-                    inner.input().fail(noValue, child.offset);
+                    inner.input().fail(say(noValue), child.offset);
                 else if (child.tag.isConstructed())
                     group(inner, child, *place, room);
                 else
@@ -500,7 +502,7 @@ void DataCodec::readInto(Reader &reader, const Element &element, Data &data, Roo
     };
 
     if (!element.tag.isContext())
-        reader.input().fail(noValue, element.offset);
+        reader.input().fail(say(noValue), element.offset);
     else if (element.tag.isConstructed())
         Parts::group(reader, element, data, room);
     else
@@ -519,7 +521,7 @@ Data DataCodec::readNext(Reader &reader)
 {
     Element element;
     if (!reader.next(element))
-        reader.fail("A value is missing");
+        reader.fail(say("The element %1 is missing.", "Data"));
     return read(reader, element);
 }
 
@@ -605,7 +607,7 @@ Result<Data> decodeData(Bytes bytes, const ber::Limits &limits)
     ber::Input input(bytes, limits);
     Reader reader = input.reader();
     Data data = DataCodec::readNext(reader);
-    reader.expectEnd("the value");
+    reader.expectEnd("Data");
     return input.finish(std::move(data));
 }
 
@@ -616,36 +618,36 @@ std::vector<std::uint8_t> encode(const Data &data)
     return writer.take();
 }
 
-std::string describe(DataAccessError error)
+Text describe(DataAccessError error)
 {
     switch (error) {
     case DataAccessError::ObjectInvalidated:
-        return "The object is no longer valid";
+        return say("The object is no longer valid.");
     case DataAccessError::HardwareFault:
-        return "The device reports a hardware fault";
+        return say("The device reports a hardware fault.");
     case DataAccessError::TemporarilyUnavailable:
-        return "The object is not available at the moment";
+        return say("The object is not available at the moment.");
     case DataAccessError::ObjectAccessDenied:
-        return "Access to the object is denied";
+        return say("Access to the object is denied.");
     case DataAccessError::ObjectUndefined:
-        return "The object is not defined";
+        return say("The object is not defined.");
     case DataAccessError::InvalidAddress:
-        return "The address is not valid";
+        return say("The address is not valid.");
     case DataAccessError::TypeUnsupported:
-        return "The type is not supported";
+        return say("The type is not supported.");
     case DataAccessError::TypeInconsistent:
-        return "The value has not the type of the object";
+        return say("The value has not the type of the object.");
     case DataAccessError::ObjectAttributeInconsistent:
-        return "The attributes of the object contradict each other";
+        return say("The attributes of the object contradict each other.");
     case DataAccessError::ObjectAccessUnsupported:
-        return "The object cannot be accessed in this way";
+        return say("The object cannot be accessed in this way.");
     case DataAccessError::ObjectNonExistent:
-        return "The object does not exist";
+        return say("The object does not exist.");
     case DataAccessError::ObjectValueInvalid:
-        return "The value is not allowed for the object";
+        return say("The value is not allowed for the object.");
     }
-    return "The device reports the unknown data access error " +
-           std::to_string(static_cast<std::int32_t>(error));
+    return say("The device reports the unknown data access error %1.",
+               static_cast<std::int32_t>(error));
 }
 
 std::string quoted(std::string_view text)
@@ -717,7 +719,8 @@ std::string toText(const Data &data)
 
 std::string toText(const AccessResult &result)
 {
-    return result.ok() ? toText(result.data()) : "failure: " + describe(result.error());
+    return result.ok() ? toText(result.data())
+                       : "failure: " + codec::withoutFullStop(describe(result.error()));
 }
 
 } // namespace mms

@@ -218,7 +218,7 @@ enum class DataAccessError : std::int32_t {
 };
 
 /// A sentence for the operator.
-std::string describe(DataAccessError error);
+Text describe(DataAccessError error);
 
 /// What one variable of a read or report gave: a value, or why there is none.
 class AccessResult

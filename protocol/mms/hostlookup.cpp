@@ -23,7 +23,11 @@ HostAddresses askTheSystem(const std::string &name)
     const auto endpoints = resolver.resolve(name, std::string(), error);
     HostAddresses found;
     if (error) {
-        found.error = error.message();
+        found.error = error == asio::error::host_not_found || error == asio::error::no_data
+                          ? say("nobody knows it")
+                      : error == asio::error::host_not_found_try_again
+                          ? say("nobody answers who knows names")
+                          : wording::ofSystem(error);
         return found;
     }
     for (const auto &endpoint : endpoints)
@@ -36,7 +40,7 @@ HostAddresses ask(const HostLookup::Function &function, const std::string &name)
     try {
         return function ? function(name) : askTheSystem(name);
     } catch (const std::exception &exception) {
-        return {{}, exception.what()};
+        return {{}, verbatim(exception.what())};
     }
 }
 
@@ -109,7 +113,7 @@ HostLookup::HostLookup(const std::string &name, const Function &function, Handle
             registry.finish(name, ask(function, name));
         }).detach();
     } catch (const std::system_error &error) {
-        registry.finish(name, {{}, error.code().message()});
+        registry.finish(name, HostAddresses{{}, wording::ofSystem(error.code())});
     }
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "mms/result.h"
+
 #include <asio/ip/address.hpp>
 
 #include <functional>
@@ -15,7 +17,7 @@ namespace mms {
 struct HostAddresses
 {
     std::vector<asio::ip::address> addresses;
-    std::string error; ///< why there are none: a clause without a full stop
+    Text error; ///< why there are none: a clause without a full stop
 };
 
 /// The address that a text is, such as "10.0.0.1", "fe80::1%eth0" or "[::1]"; none for a name.

@@ -22,8 +22,9 @@ constexpr std::size_t readPortion = 16 * 1024;
 constexpr std::chrono::milliseconds streamPause{1};
 
 template <typename Event>
-constexpr bool endsAssociation = std::is_same_v<Event, AssociateRefused>
-    || std::is_same_v<Event, ReleaseConfirm> || std::is_same_v<Event, AssociationLost>;
+constexpr bool endsAssociation =
+    std::is_same_v<Event, AssociateRefused> || std::is_same_v<Event, ReleaseConfirm> ||
+    std::is_same_v<Event, AssociationLost>;
 
 /// Whether a connection begins as those with TLS do: with a handshake or an alert.
 bool isTls(std::uint8_t firstOctet)
@@ -117,8 +118,7 @@ void Link::connect(std::string host, std::uint16_t port, Octets pdu, Handler han
     arm(Watch::Establish);
     asio::co_spawn(
         m_strand,
-        [self = shared_from_this(), host = std::move(host), port,
-         pdu = std::move(pdu)]() mutable {
+        [self = shared_from_this(), host = std::move(host), port, pdu = std::move(pdu)]() mutable {
             return self->live(self->establish(std::move(host), port, std::move(pdu)));
         },
         ending());
@@ -142,7 +142,7 @@ void Link::refuse(acse::Result result, std::int64_t diagnostic, Bytes pdu)
     if (m_options.trace && !pdu.empty())
         m_options.trace(Direction::Sent, pdu);
     apply(m_stack.refuse(result, diagnostic, pdu));
-    deliver(AssociationLost{false, "The association was refused."});
+    deliver(AssociationLost{false, say("The association was refused.")});
 }
 
 void Link::send(Bytes pdu)
@@ -151,7 +151,7 @@ void Link::send(Bytes pdu)
         return;
     pass(pdu, false);
     if (queued() > m_options.maxQueued)
-        lose("The peer does not read what it is sent.");
+        lose(say("The peer does not read what it is sent."));
 }
 
 void Link::pass(Bytes pdu, bool accepts)
@@ -224,7 +224,7 @@ void Link::answerRelease()
         deliver(ReleaseConfirm());
 }
 
-void Link::abort(const std::string &reason)
+void Link::abort(const Text &reason)
 {
     apply(m_stack.abort());
     deliver(AssociationLost{false, reason});
@@ -292,8 +292,8 @@ asio::awaitable<void> Link::establish(std::string host, std::uint16_t port, Octe
     if (m_stack.isClosed())
         co_return;
     if (found.addresses.empty()) {
-        lose("The name \"" + host + "\" cannot be resolved: "
-             + (found.error.empty() ? "it has no address" : found.error) + ".");
+        lose(say("The name \"%1\" cannot be resolved: %2.", host,
+                 found.error.empty() ? say("it has no address") : found.error));
         co_return;
     }
     std::vector<asio::ip::tcp::endpoint> endpoints;
@@ -302,8 +302,7 @@ asio::awaitable<void> Link::establish(std::string host, std::uint16_t port, Octe
     const auto [connectError, endpoint] =
         co_await asio::async_connect(m_stream.socket(), endpoints, asTuple);
     if (connectError) {
-        lose("No connection to " + host + " port " + std::to_string(port) + ": "
-             + connectError.message() + ".");
+        lose(say("No connection to %1 port %2: %3.", host, port, wording::ofSystem(connectError)));
         co_return;
     }
     if (m_stack.isClosed()) {
@@ -363,7 +362,7 @@ asio::awaitable<void> Link::readLoop()
         }
         m_lastHeard = std::chrono::steady_clock::now();
         if (std::exchange(isFirst, false) && !m_stream.isSecure() && isTls(buffer[0])) {
-            lose("The peer speaks TLS, which is not configured here.");
+            lose(say("The peer speaks TLS, which is not configured here."));
             co_return;
         }
         apply(m_stack.receive(Bytes(buffer).first(count)));
@@ -411,10 +410,9 @@ std::function<void(std::exception_ptr)> Link::ending()
         try {
             std::rethrow_exception(thrown);
         } catch (const std::exception &exception) {
-            self->lose(std::string("An internal error ended the association: ") + exception.what()
-                       + ".");
+            self->lose(say("An internal error ended the association: %1.", exception.what()));
         } catch (...) {
-            self->lose("An internal error ended the association.");
+            self->lose(say("An internal error ended the association."));
         }
     };
 }
@@ -479,10 +477,8 @@ void Link::deliver(StackEvent event)
             },
             event);
     }
-    if (const auto *indication = std::get_if<PduIndication>(&event);
-        indication && m_interference) {
-        const Interference::Incoming incoming =
-            m_interference->incoming(indication->pdu);
+    if (const auto *indication = std::get_if<PduIndication>(&event); indication && m_interference) {
+        const Interference::Incoming incoming = m_interference->incoming(indication->pdu);
         if (!incoming.answer.empty() && m_stack.isOpen()) {
             if (m_options.trace)
                 m_options.trace(Direction::Sent, incoming.answer);
@@ -504,7 +500,7 @@ void Link::deliver(StackEvent event)
     handler(std::move(event));
 }
 
-void Link::lose(const std::string &reason)
+void Link::lose(const Text &reason)
 {
     apply(m_stack.networkClosed(reason));
     m_queue.clear();
@@ -516,8 +512,8 @@ void Link::arm(Watch watch)
 {
     asio::steady_timer &timer = timerOf(watch);
     timer.expires_after(watch == Watch::Establish ? m_options.establishTimeout
-                            : watch == Watch::Send ? m_options.sendTimeout
-                                                   : m_options.releaseTimeout);
+                        : watch == Watch::Send    ? m_options.sendTimeout
+                                                  : m_options.releaseTimeout);
     timer.async_wait([weak = weak_from_this(), watch](const asio::error_code &error) {
         const auto self = weak.lock();
         if (error || !self)
@@ -529,15 +525,16 @@ void Link::arm(Watch watch)
         case Watch::Establish:
             self->lose(!self->m_stream.refusal().empty() ? self->m_stream.refusal()
                        : !self->m_lookedUp.empty()
-                           ? "The name \"" + self->m_lookedUp + "\" was not resolved in time."
-                       : self->m_isSecuring ? "The peer did not complete the TLS handshake in time."
-                                            : "The peer did not complete the association in time.");
+                           ? say("The name \"%1\" was not resolved in time.", self->m_lookedUp)
+                       : self->m_isSecuring
+                           ? say("The peer did not complete the TLS handshake in time.")
+                           : say("The peer did not complete the association in time."));
             break;
         case Watch::Send:
-            self->lose("The peer does not read what it is sent.");
+            self->lose(say("The peer does not read what it is sent."));
             break;
         case Watch::Release:
-            self->lose("The peer did not answer the release in time.");
+            self->lose(say("The peer did not answer the release in time."));
             break;
         }
     });
@@ -551,7 +548,7 @@ void Link::disarm(Watch watch)
 asio::steady_timer &Link::timerOf(Watch watch)
 {
     return watch == Watch::Establish ? m_establishTimer
-        : watch == Watch::Send       ? m_sendTimer
+           : watch == Watch::Send    ? m_sendTimer
                                      : m_releaseTimer;
 }
 

@@ -97,7 +97,7 @@ public:
     void forgetRelease();
     void answerRelease();
     /// End at once. The handler hears AssociationLost with @p reason.
-    void abort(const std::string &reason);
+    void abort(const Text &reason);
 
 private:
     enum class Watch : std::uint8_t { Establish, Send, Release };
@@ -119,7 +119,7 @@ private:
     void transmit(const Interference::Outgoing &outgoing, bool accepts);
     void apply(StackOutput output);
     void deliver(StackEvent event);
-    void lose(const std::string &reason);
+    void lose(const Text &reason);
     void arm(Watch watch);
     void disarm(Watch watch);
     asio::steady_timer &timerOf(Watch watch);

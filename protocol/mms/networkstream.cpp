@@ -26,11 +26,11 @@ using SecureStream = asio::ssl::stream<asio::ip::tcp::socket &>;
 /// Errors that only say that nobody trusted has issued a certificate.
 bool isUnknownIssuer(int code)
 {
-    return code == X509_V_ERR_UNABLE_TO_GET_ISSUER_CERT
-        || code == X509_V_ERR_UNABLE_TO_GET_ISSUER_CERT_LOCALLY
-        || code == X509_V_ERR_UNABLE_TO_VERIFY_LEAF_SIGNATURE
-        || code == X509_V_ERR_DEPTH_ZERO_SELF_SIGNED_CERT
-        || code == X509_V_ERR_SELF_SIGNED_CERT_IN_CHAIN;
+    return code == X509_V_ERR_UNABLE_TO_GET_ISSUER_CERT ||
+           code == X509_V_ERR_UNABLE_TO_GET_ISSUER_CERT_LOCALLY ||
+           code == X509_V_ERR_UNABLE_TO_VERIFY_LEAF_SIGNATURE ||
+           code == X509_V_ERR_DEPTH_ZERO_SELF_SIGNED_CERT ||
+           code == X509_V_ERR_SELF_SIGNED_CERT_IN_CHAIN;
 }
 
 OpenSslPointer<SSL, SSL_free> makeConnection(SSL_CTX *context, const std::string &peerName)
@@ -41,8 +41,8 @@ OpenSslPointer<SSL, SSL_free> makeConnection(SSL_CTX *context, const std::string
     X509_VERIFY_PARAM *const parameters = SSL_get0_param(ssl.get());
     if (X509_VERIFY_PARAM_set1_ip_asc(parameters, peerName.c_str()) == 1)
         return ssl;
-    const bool isSet = SSL_set1_host(ssl.get(), peerName.c_str()) == 1
-        && SSL_set_tlsext_host_name(ssl.get(), peerName.c_str()) == 1;
+    const bool isSet = SSL_set1_host(ssl.get(), peerName.c_str()) == 1 &&
+                       SSL_set_tlsext_host_name(ssl.get(), peerName.c_str()) == 1;
     return isSet ? std::move(ssl) : nullptr;
 }
 
@@ -85,14 +85,15 @@ struct NetworkStream::Tls
         const std::string fingerprint = fingerprintOf(certificate);
         pinned = trust.pins.contains(fingerprint);
         if (!pinned)
-            reason = "The peer's certificate \"" + subjectOf(certificate)
-                + "\" is not one of those that are pinned; its fingerprint is " + fingerprint + ".";
+            reason = say(
+                "The peer's certificate \"%1\" is not one of those that are pinned; its fingerprint is %2.",
+                subjectOf(certificate), fingerprint);
         return pinned;
     }
 
     std::shared_ptr<const TlsContext> context;
     SecureStream stream;
-    std::string reason;
+    Text reason;
     bool pinned = false;
 };
 
@@ -110,7 +111,7 @@ asio::awaitable<Result<void>> NetworkStream::handshake(std::shared_ptr<const Tls
     const bool isServer = role == TlsRole::Server;
     auto ssl = makeConnection(trust.context.get(), isServer ? std::string() : trust.peerName);
     if (!ssl) {
-        m_refusal = "\"" + trust.peerName + "\" is not a host name that a certificate can have.";
+        m_refusal = say("\"%1\" is not a host name that a certificate can have.", trust.peerName);
         co_return Error{m_refusal, 0};
     }
     m_tls = std::make_unique<Tls>(m_socket, context, ssl.release());
@@ -141,32 +142,31 @@ asio::awaitable<Result<void>> NetworkStream::handshake(std::shared_ptr<const Tls
     m_socket.shutdown(Socket::shutdown_send, error);
     std::array<std::uint8_t, 512> rest{};
     while (!error) {
-        const auto [ended, count] =
-            co_await m_socket.async_read_some(asio::buffer(rest), asTuple);
+        const auto [ended, count] = co_await m_socket.async_read_some(asio::buffer(rest), asTuple);
         error = ended;
     }
     co_return Error{m_refusal, 0};
 }
 
-std::string NetworkStream::handshakeFailure(const asio::error_code &error, TlsRole role,
-                                            bool isPlainPeer) const
+Text NetworkStream::handshakeFailure(const asio::error_code &error, TlsRole role,
+                                     bool isPlainPeer) const
 {
     if (isPlainPeer)
-        return "The peer does not speak TLS, which is required here.";
+        return say("The peer does not speak TLS, which is required here.");
     if (!m_tls->reason.empty())
         return m_tls->reason;
     if (!error)
-        return "The peer has shown no certificate.";
+        return say("The peer has shown no certificate.");
     if (error.category() == asio::error::get_ssl_category())
         return tlsErrorText(static_cast<unsigned long>(error.value()));
-    if (error == asio::error::eof || error == asio::ssl::error::stream_truncated
-        || error == asio::error::connection_reset) {
+    if (error == asio::error::eof || error == asio::ssl::error::stream_truncated ||
+        error == asio::error::connection_reset) {
         return role == TlsRole::Client
-            ? "The peer closed the network connection instead of a TLS handshake; it may not speak "
-              "TLS on this port."
-            : "The peer closed the network connection instead of a TLS handshake.";
+                   ? say("The peer closed the network connection instead of a TLS handshake; it may not speak TLS on this port.")
+                   : say("The peer closed the network connection instead of a TLS handshake.");
     }
-    return "The network connection broke during the TLS handshake: " + error.message() + ".";
+    return say("The network connection broke during the TLS handshake: %1.",
+               wording::ofSystem(error));
 }
 
 asio::awaitable<NetworkStream::Read> NetworkStream::readSome(asio::mutable_buffer buffer)
@@ -221,13 +221,13 @@ void NetworkStream::reset()
     m_socket.close(ignored);
 }
 
-std::string NetworkStream::describe(const asio::error_code &error) const
+Text NetworkStream::describe(const asio::error_code &error) const
 {
     if (error == asio::error::eof || error == asio::ssl::error::stream_truncated)
-        return "The peer closed the network connection.";
+        return say("The peer closed the network connection.");
     if (error.category() == asio::error::get_ssl_category())
         return tlsErrorText(static_cast<unsigned long>(error.value()));
-    return "The network connection broke: " + error.message() + ".";
+    return say("The network connection broke: %1.", wording::ofSystem(error));
 }
 
 std::optional<TlsPeer> NetworkStream::peer() const

@@ -38,9 +38,10 @@ public:
     /// Secure the connection, which stands; before the first read and write. The error is one
     /// sentence; the connection is of no use then and drained until the peer has closed it, so that
     /// the peer learns the reason.
-    asio::awaitable<Result<void>> handshake(std::shared_ptr<const TlsContext> context, TlsRole role);
+    asio::awaitable<Result<void>> handshake(std::shared_ptr<const TlsContext> context,
+                                            TlsRole role);
     /// What a handshake that has failed said, also while the peer is waited for; empty otherwise.
-    const std::string &refusal() const { return m_refusal; }
+    const Text &refusal() const { return m_refusal; }
 
     asio::awaitable<Read> readSome(asio::mutable_buffer buffer);
     asio::awaitable<asio::error_code> write(asio::const_buffer buffer);
@@ -54,7 +55,7 @@ public:
     void reset();
 
     /// What a failure of readSome() or write() means, as one sentence.
-    std::string describe(const asio::error_code &error) const;
+    Text describe(const asio::error_code &error) const;
     std::optional<TlsPeer> peer() const;
     /// Of the other end, in network order: 4 or 16 octets; empty while there is no connection.
     std::vector<std::uint8_t> peerAddress() const;
@@ -64,12 +65,11 @@ public:
 private:
     struct Tls;
 
-    std::string handshakeFailure(const asio::error_code &error, TlsRole role,
-                                 bool isPlainPeer) const;
+    Text handshakeFailure(const asio::error_code &error, TlsRole role, bool isPlainPeer) const;
 
     Socket m_socket;
     std::unique_ptr<Tls> m_tls;
-    std::string m_refusal;
+    Text m_refusal;
 };
 
 } // namespace mms

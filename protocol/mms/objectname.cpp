@@ -73,14 +73,14 @@ ObjectName readObjectName(Reader &reader)
     } else if (reader.takeIf(Tag::group(1), element)) {
         name.scope = Scope::Domain;
         Reader inner = reader.enter(element);
-        name.domain = inner.text(inner.expect(ber::tags::visibleString, "The name of the domain"));
-        name.item = inner.text(inner.expect(ber::tags::visibleString, "The name of the object"));
-        inner.expectEnd("an object name");
+        name.domain = inner.text(inner.expect(ber::tags::visibleString, "domainId"));
+        name.item = inner.text(inner.expect(ber::tags::visibleString, "itemId"));
+        inner.expectEnd("ObjectName");
     } else if (reader.takeIf(Tag::context(2), element)) {
         name.scope = Scope::Association;
         name.item = reader.text(element);
     } else {
-        reader.fail("An object name is missing or of an unknown kind");
+        reader.fail(say("The element %1 is missing or of an unknown kind.", "ObjectName"));
     }
     return name;
 }
@@ -108,7 +108,7 @@ ObjectName readObjectName(Reader &reader, Tag group, std::string_view what)
 {
     Reader inner = reader.expectGroup(group, what);
     ObjectName name = readObjectName(inner);
-    inner.expectEnd("an object name");
+    inner.expectEnd("ObjectName");
     return name;
 }
 

@@ -44,9 +44,9 @@ Choice readService(Reader &reader, std::string_view what)
 {
     Element element;
     if (!reader.next(element))
-        reader.fail(std::string(what) + " is missing");
+        reader.fail(say("The element %1 is missing.", what));
     else if (!element.tag.isContext())
-        reader.input().fail("An element stands where a service belongs", element.offset);
+        reader.input().fail(say("An element stands where a service belongs."), element.offset);
     return readService<Choice>(reader, element);
 }
 
@@ -102,13 +102,13 @@ std::string_view unconfirmedName(std::uint32_t number)
 void read(Reader &outer, const Element &element, ConfirmedRequestPdu &pdu)
 {
     Reader reader = outer.enter(element);
-    pdu.invokeId = reader.unsigned32(reader.expect(ber::tags::integer, "The invoke id"));
+    pdu.invokeId = reader.unsigned32(reader.expect(ber::tags::integer, "invokeID"));
     if (reader.peek() == ber::tags::sequence)
-        reader.fail("Modifiers of a request are not supported");
-    pdu.request = readService<RequestService>(reader, "The service of the request");
+        reader.fail(say("Modifiers of a request are not supported."));
+    pdu.request = readService<RequestService>(reader, "ConfirmedServiceRequest");
     Element detail;
     reader.takeIf(Tag::group(79), detail);
-    reader.expectEnd("the request");
+    reader.expectEnd("ConfirmedServiceRequest");
 }
 
 void write(Writer &writer, const ConfirmedRequestPdu &pdu)
@@ -126,11 +126,11 @@ std::string text(const ConfirmedRequestPdu &pdu)
 void read(Reader &outer, const Element &element, ConfirmedResponsePdu &pdu)
 {
     Reader reader = outer.enter(element);
-    pdu.invokeId = reader.unsigned32(reader.expect(ber::tags::integer, "The invoke id"));
-    pdu.response = readService<ResponseService>(reader, "The service of the answer");
+    pdu.invokeId = reader.unsigned32(reader.expect(ber::tags::integer, "invokeID"));
+    pdu.response = readService<ResponseService>(reader, "ConfirmedServiceResponse");
     Element detail;
     reader.takeIf(Tag::group(79), detail);
-    reader.expectEnd("the answer");
+    reader.expectEnd("ConfirmedServiceResponse");
 }
 
 void write(Writer &writer, const ConfirmedResponsePdu &pdu)
@@ -148,12 +148,12 @@ std::string text(const ConfirmedResponsePdu &pdu)
 void read(Reader &outer, const Element &element, ConfirmedErrorPdu &pdu)
 {
     Reader reader = outer.enter(element);
-    pdu.invokeId = reader.unsigned32(reader.expect(Tag::context(0), "The invoke id"));
+    pdu.invokeId = reader.unsigned32(reader.expect(Tag::context(0), "invokeID"));
     Element position;
     if (reader.takeIf(Tag::context(1), position))
         pdu.modifierPosition = reader.unsigned32(position);
-    pdu.error = codec::readServiceError(reader.expectGroup(Tag::group(2), "The service error"));
-    reader.expectEnd("the error");
+    pdu.error = codec::readServiceError(reader.expectGroup(Tag::group(2), "serviceError"));
+    reader.expectEnd("confirmed-ErrorPDU");
 }
 
 void write(Writer &writer, const ConfirmedErrorPdu &pdu)
@@ -177,10 +177,10 @@ std::string text(const ConfirmedErrorPdu &pdu)
 void read(Reader &outer, const Element &element, UnconfirmedPdu &pdu)
 {
     Reader reader = outer.enter(element);
-    pdu.service = readService<UnconfirmedService>(reader, "The unconfirmed service");
+    pdu.service = readService<UnconfirmedService>(reader, "UnconfirmedService");
     Element detail;
     reader.takeIf(Tag::group(79), detail);
-    reader.expectEnd("the message");
+    reader.expectEnd("unconfirmed-PDU");
 }
 
 void write(Writer &writer, const UnconfirmedPdu &pdu)
@@ -202,10 +202,10 @@ void read(Reader &outer, const Element &element, RejectPdu &pdu)
     reader.next(next);
     const std::uint32_t number = next.tag.number();
     if (!next.tag.isContext() || next.tag.isConstructed() || number < 1 || number > 11)
-        reader.fail("The reason of a reject is missing or unknown");
+        reader.fail(say("The element %1 is missing or of an unknown kind.", "rejectReason"));
     pdu.rejected = static_cast<RejectedPdu>(number);
     pdu.code = reader.integer32(next);
-    reader.expectEnd("the reject");
+    reader.expectEnd("rejectPDU");
 }
 
 void write(Writer &writer, const RejectPdu &pdu)
@@ -218,7 +218,7 @@ void write(Writer &writer, const RejectPdu &pdu)
 struct RejectReasons
 {
     std::string_view name;
-    std::string_view subject;
+    wording::Pattern<1> sentence;
     std::span<const std::string_view> codes;
 };
 
@@ -251,17 +251,27 @@ constexpr std::string_view concludeErrorCodes[] = {"other", "invalid-serviceErro
 
 /// In the order of RejectedPdu, which begins with 1.
 constexpr RejectReasons rejectReasons[] = {
-    {"confirmed-requestPDU", "a request", requestCodes},
-    {"confirmed-responsePDU", "an answer", responseCodes},
-    {"confirmed-errorPDU", "an error", errorCodes},
-    {"unconfirmedPDU", "an unconfirmed message", unconfirmedCodes},
-    {"pdu-error", "a message that it cannot read", pduCodes},
-    {"cancel-requestPDU", "a cancel", cancelCodes},
-    {"cancel-responsePDU", "the answer to a cancel", cancelCodes},
-    {"cancel-errorPDU", "the refusal of a cancel", cancelErrorCodes},
-    {"conclude-requestPDU", "a conclude", concludeRequestCodes},
-    {"conclude-responsePDU", "the answer to a conclude", concludeResponseCodes},
-    {"conclude-errorPDU", "the refusal of a conclude", concludeErrorCodes}};
+    {"confirmed-requestPDU", wording::pattern<1>("The device rejects a request (%1)."),
+     requestCodes},
+    {"confirmed-responsePDU", wording::pattern<1>("The device rejects an answer (%1)."),
+     responseCodes},
+    {"confirmed-errorPDU", wording::pattern<1>("The device rejects an error (%1)."), errorCodes},
+    {"unconfirmedPDU", wording::pattern<1>("The device rejects an unconfirmed message (%1)."),
+     unconfirmedCodes},
+    {"pdu-error", wording::pattern<1>("The device rejects a message that it cannot read (%1)."),
+     pduCodes},
+    {"cancel-requestPDU", wording::pattern<1>("The device rejects a cancel (%1)."), cancelCodes},
+    {"cancel-responsePDU", wording::pattern<1>("The device rejects the answer to a cancel (%1)."),
+     cancelCodes},
+    {"cancel-errorPDU", wording::pattern<1>("The device rejects the refusal of a cancel (%1)."),
+     cancelErrorCodes},
+    {"conclude-requestPDU", wording::pattern<1>("The device rejects a conclude (%1)."),
+     concludeRequestCodes},
+    {"conclude-responsePDU",
+     wording::pattern<1>("The device rejects the answer to a conclude (%1)."),
+     concludeResponseCodes},
+    {"conclude-errorPDU", wording::pattern<1>("The device rejects the refusal of a conclude (%1)."),
+     concludeErrorCodes}};
 
 const RejectReasons &reasonsOf(const RejectPdu &pdu)
 {
@@ -318,9 +328,9 @@ std::string text(const CancelResponsePdu &pdu)
 void read(Reader &outer, const Element &element, CancelErrorPdu &pdu)
 {
     Reader reader = outer.enter(element);
-    pdu.invokeId = reader.unsigned32(reader.expect(Tag::context(0), "The invoke id"));
-    pdu.error = codec::readServiceError(reader.expectGroup(Tag::group(1), "The service error"));
-    reader.expectEnd("the error");
+    pdu.invokeId = reader.unsigned32(reader.expect(Tag::context(0), "invokeID"));
+    pdu.error = codec::readServiceError(reader.expectGroup(Tag::group(1), "serviceError"));
+    reader.expectEnd("confirmed-ErrorPDU");
 }
 
 void write(Writer &writer, const CancelErrorPdu &pdu)
@@ -351,25 +361,23 @@ InitiateParameters readParameters(Reader &outer, const Element &element)
     if (reader.takeIf(Tag::context(0), optional))
         parameters.maxPduSize = reader.integer32(optional);
     parameters.maxOutstandingCalling =
-        integer16(reader, Tag::context(1), "The number of outstanding calls of the caller");
+        integer16(reader, Tag::context(1), "maxServOutstandingCalling");
     parameters.maxOutstandingCalled =
-        integer16(reader, Tag::context(2), "The number of outstanding calls of the called side");
+        integer16(reader, Tag::context(2), "maxServOutstandingCalled");
     if (reader.takeIf(Tag::context(3), optional))
         parameters.nestingLevel = static_cast<std::int8_t>(
             reader.integer(optional, std::numeric_limits<std::int8_t>::min(),
                            std::numeric_limits<std::int8_t>::max()));
-    Reader detail = reader.expectGroup(Tag::group(4), "The detail of the initiation");
-    parameters.version = integer16(detail, Tag::context(0), "The version of the protocol");
-    parameters.parameters =
-        detail.bitString(detail.expect(Tag::context(1), "The parameters supported"));
-    parameters.services =
-        detail.bitString(detail.expect(Tag::context(2), "The services supported"));
+    Reader detail = reader.expectGroup(Tag::group(4), "initRequestDetail");
+    parameters.version = integer16(detail, Tag::context(0), "versionNumber");
+    parameters.parameters = detail.bitString(detail.expect(Tag::context(1), "parameterCBB"));
+    parameters.services = detail.bitString(detail.expect(Tag::context(2), "servicesSupported"));
     // Later editions append fields that say nothing to IEC 61850.
     while (detail.next(optional)) {
         if (!optional.tag.isContext())
-            detail.fail("Something stands behind the end of the detail of the initiation");
+            detail.fail(say("Something stands behind the end of %1.", "initRequestDetail"));
     }
-    reader.expectEnd("the initiation");
+    reader.expectEnd("initiate-PDU");
     return parameters;
 }
 
@@ -501,7 +509,7 @@ void readPdu(Reader &reader, const Element &element, Pdu &pdu, std::index_sequen
         ((element.tag == pduTags[Index] && (read(reader, element, pdu.emplace<Index>()), true)) ||
          ...);
     if (!known)
-        reader.input().fail("The message is no MMS PDU", 0);
+        reader.input().fail(say("The message is no MMS PDU."), 0);
 }
 
 } // namespace
@@ -515,8 +523,8 @@ Result<Pdu> decodePdu(Bytes bytes, const ber::Limits &limits)
     if (reader.next(element))
         readPdu(reader, element, pdu, std::make_index_sequence<pduCount>());
     else
-        reader.fail("The message is empty");
-    reader.expectEnd("the PDU");
+        reader.fail(say("The message is empty."));
+    reader.expectEnd("MMSpdu");
     return input.finish(std::move(pdu));
 }
 
@@ -632,10 +640,9 @@ std::string toText(const Pdu &pdu)
     return std::visit([](const auto &alternative) { return text(alternative); }, pdu);
 }
 
-std::string describe(const RejectPdu &reject)
+Text describe(const RejectPdu &reject)
 {
-    return "The device rejects " + std::string(reasonsOf(reject).subject) + " (" + codeOf(reject) +
-           ')';
+    return say(reasonsOf(reject).sentence, codeOf(reject));
 }
 
 } // namespace mms

@@ -288,6 +288,6 @@ std::optional<PduHead> peekPdu(Bytes bytes, const ber::Limits &limits = {});
 /// One line for traces: the standard's name of the PDU, the invoke id, the service and its content.
 std::string toText(const Pdu &pdu);
 /// A sentence for the operator.
-std::string describe(const RejectPdu &reject);
+Text describe(const RejectPdu &reject);
 
 } // namespace mms

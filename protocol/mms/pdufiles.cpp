@@ -17,8 +17,7 @@ FileName readFileName(Reader reader)
     FileName name;
     name.reserve(reader.countRest());
     while (!reader.atEnd())
-        name.push_back(
-            reader.text(reader.expect(ber::tags::graphicString, "A part of a file name")));
+        name.push_back(reader.text(reader.expect(ber::tags::graphicString, "FileName")));
     return name;
 }
 
@@ -43,11 +42,11 @@ std::string fileText(const FileName &name)
 FileAttributes readAttributes(Reader reader)
 {
     FileAttributes attributes;
-    attributes.size = reader.unsigned32(reader.expect(Tag::context(0), "The size of the file"));
+    attributes.size = reader.unsigned32(reader.expect(Tag::context(0), "sizeOfFile"));
     Element time;
     if (reader.takeIf(Tag::context(1), time))
         attributes.lastModified = reader.text(time);
-    reader.expectEnd("the attributes of the file");
+    reader.expectEnd("FileAttributes");
     return attributes;
 }
 
@@ -89,33 +88,31 @@ std::string octetsText(const std::vector<std::uint8_t> &octets)
 
 DirectoryEntry readDirectoryEntry(Reader &list)
 {
-    Reader reader = list.expectGroup(ber::tags::sequence, "An entry of the directory");
+    Reader reader = list.expectGroup(ber::tags::sequence, "DirectoryEntry");
     DirectoryEntry entry;
-    entry.name = readFileName(reader.expectGroup(Tag::group(0), "The name of a file"));
-    entry.attributes =
-        readAttributes(reader.expectGroup(Tag::group(1), "The attributes of a file"));
-    reader.expectEnd("an entry of the directory");
+    entry.name = readFileName(reader.expectGroup(Tag::group(0), "filename"));
+    entry.attributes = readAttributes(reader.expectGroup(Tag::group(1), "fileAttributes"));
+    reader.expectEnd("DirectoryEntry");
     return entry;
 }
 
 JournalVariable readJournalVariable(Reader reader)
 {
     JournalVariable variable;
-    variable.tag = reader.text(reader.expect(Tag::context(0), "The tag of a journal variable"));
-    Reader value = reader.expectGroup(Tag::group(1), "The value of a journal variable");
+    variable.tag = reader.text(reader.expect(Tag::context(0), "variableTag"));
+    Reader value = reader.expectGroup(Tag::group(1), "valueSpecification");
     variable.value = DataCodec::readNext(value);
-    value.expectEnd("the value of a journal variable");
-    reader.expectEnd("a journal variable");
+    value.expectEnd("valueSpecification");
+    reader.expectEnd("Journal-Variable");
     return variable;
 }
 
 JournalEvent readJournalEvent(Reader reader)
 {
     JournalEvent event;
-    event.condition =
-        codec::readObjectName(reader, Tag::group(0), "The condition of a journal event");
-    event.state = reader.integer32(reader.expect(Tag::context(1), "The state of a journal event"));
-    reader.expectEnd("a journal event");
+    event.condition = codec::readObjectName(reader, Tag::group(0), "eventConditionName");
+    event.state = reader.integer32(reader.expect(Tag::context(1), "currentState"));
+    reader.expectEnd("event");
     return event;
 }
 
@@ -129,33 +126,32 @@ JournalEntry::Record readJournalRecord(Reader reader)
         Reader list = reader.enter(element);
         record.variables.reserve(list.countRest());
         while (!list.atEnd())
-            record.variables.push_back(readJournalVariable(
-                list.expectGroup(ber::tags::sequence, "A variable of a journal entry")));
+            record.variables.push_back(
+                readJournalVariable(list.expectGroup(ber::tags::sequence, "Journal-Variable")));
     }
-    reader.expectEnd("the data of a journal entry");
+    reader.expectEnd("data");
     return record;
 }
 
 JournalEntry readJournalEntry(Reader reader)
 {
     JournalEntry entry;
-    entry.id = reader.octets(reader.expect(Tag::context(0), "The id of a journal entry"));
-    Reader origin = reader.expectGroup(Tag::group(1), "The origin of a journal entry");
+    entry.id = reader.octets(reader.expect(Tag::context(0), "entryIdentifier"));
+    Reader origin = reader.expectGroup(Tag::group(1), "originatingApplication");
     entry.origin.content =
-        origin.octets(origin.expect(ber::tags::sequence, "The origin of a journal entry"));
-    origin.expectEnd("the origin of a journal entry");
-    Reader content = reader.expectGroup(Tag::group(2), "The content of a journal entry");
-    entry.time = readTime(content, content.expect(Tag::context(0), "The time of a journal entry"));
+        origin.octets(origin.expect(ber::tags::sequence, "originatingApplication"));
+    origin.expectEnd("originatingApplication");
+    Reader content = reader.expectGroup(Tag::group(2), "entryContent");
+    entry.time = readTime(content, content.expect(Tag::context(0), "occurrenceTime"));
     Element element;
     if (content.takeIf(Tag::context(1), element))
         content.null(element);
     if (content.takeIf(Tag::context(3), element))
         entry.content = content.text(element);
     else
-        entry.content =
-            readJournalRecord(content.expectGroup(Tag::group(2), "The data of a journal entry"));
-    content.expectEnd("the content of a journal entry");
-    reader.expectEnd("a journal entry");
+        entry.content = readJournalRecord(content.expectGroup(Tag::group(2), "data"));
+    content.expectEnd("entryContent");
+    reader.expectEnd("JournalEntry");
     return entry;
 }
 
@@ -222,10 +218,9 @@ ObtainFileRequest ObtainFileRequest::read(Reader &outer, const Element &element)
     // Where no server is named, [0] is absent, and the first name has the tag [1].
     if (reader.takeIf(Tag::group(0), server))
         request.sourceServer = ApplicationReference{reader.octets(server)};
-    request.source = readFileName(reader.expectGroup(Tag::group(1), "The file to fetch"));
-    request.destination =
-        readFileName(reader.expectGroup(Tag::group(2), "The name of the copy of the file"));
-    reader.expectEnd("the request");
+    request.source = readFileName(reader.expectGroup(Tag::group(1), "sourceFile"));
+    request.destination = readFileName(reader.expectGroup(Tag::group(2), "destinationFile"));
+    reader.expectEnd("ConfirmedServiceRequest");
     return request;
 }
 
@@ -247,10 +242,9 @@ FileOpenRequest FileOpenRequest::read(Reader &outer, const Element &element)
 {
     Reader reader = outer.enter(element);
     FileOpenRequest request;
-    request.name = readFileName(reader.expectGroup(Tag::group(0), "The name of the file"));
-    request.position =
-        reader.unsigned32(reader.expect(Tag::context(1), "The position in the file"));
-    reader.expectEnd("the request");
+    request.name = readFileName(reader.expectGroup(Tag::group(0), "fileName"));
+    request.position = reader.unsigned32(reader.expect(Tag::context(1), "initialPosition"));
+    reader.expectEnd("ConfirmedServiceRequest");
     return request;
 }
 
@@ -269,10 +263,9 @@ FileOpenResponse FileOpenResponse::read(Reader &outer, const Element &element)
 {
     Reader reader = outer.enter(element);
     FileOpenResponse response;
-    response.frsmId = reader.integer32(reader.expect(Tag::context(0), "The id of the open file"));
-    response.attributes =
-        readAttributes(reader.expectGroup(Tag::group(1), "The attributes of the file"));
-    reader.expectEnd("the answer");
+    response.frsmId = reader.integer32(reader.expect(Tag::context(0), "frsmID"));
+    response.attributes = readAttributes(reader.expectGroup(Tag::group(1), "fileAttributes"));
+    reader.expectEnd("ConfirmedServiceResponse");
     return response;
 }
 
@@ -296,11 +289,11 @@ FileReadResponse FileReadResponse::read(Reader &outer, const Element &element)
 {
     Reader reader = outer.enter(element);
     FileReadResponse response;
-    response.data = reader.octets(reader.expect(Tag::context(0), "The data of the file"));
+    response.data = reader.octets(reader.expect(Tag::context(0), "fileData"));
     Element more;
     if (reader.takeIf(Tag::context(1), more))
         response.moreFollows = reader.boolean(more);
-    reader.expectEnd("the answer");
+    reader.expectEnd("ConfirmedServiceResponse");
     return response;
 }
 
@@ -325,9 +318,9 @@ FileRenameRequest FileRenameRequest::read(Reader &outer, const Element &element)
 {
     Reader reader = outer.enter(element);
     FileRenameRequest request;
-    request.currentName = readFileName(reader.expectGroup(Tag::group(0), "The name of the file"));
-    request.newName = readFileName(reader.expectGroup(Tag::group(1), "The new name of the file"));
-    reader.expectEnd("the request");
+    request.currentName = readFileName(reader.expectGroup(Tag::group(0), "fileName"));
+    request.newName = readFileName(reader.expectGroup(Tag::group(1), "newFileName"));
+    reader.expectEnd("ConfirmedServiceRequest");
     return request;
 }
 
@@ -366,7 +359,7 @@ FileDirectoryRequest FileDirectoryRequest::read(Reader &outer, const Element &el
         request.specification = readFileName(reader.enter(name));
     if (reader.takeIf(Tag::group(1), name))
         request.continueAfter = readFileName(reader.enter(name));
-    reader.expectEnd("the request");
+    reader.expectEnd("ConfirmedServiceRequest");
     return request;
 }
 
@@ -388,14 +381,14 @@ FileDirectoryResponse FileDirectoryResponse::read(Reader &outer, const Element &
 {
     Reader reader = outer.enter(element);
     FileDirectoryResponse response;
-    Reader tagged = reader.expectGroup(Tag::group(0), "The entries of the directory");
+    Reader tagged = reader.expectGroup(Tag::group(0), "listOfDirectoryEntry");
     // Peers disagree on whether the list's own tag stands inside [0]: an entry begins with [0].
     Reader list = tagged;
     Element element0;
     if (list.takeIf(ber::tags::sequence, element0)) {
         Reader inside = tagged.enter(element0);
         if (inside.peek() != Tag::group(0)) {
-            list.expectEnd("the entries of the directory");
+            list.expectEnd("listOfDirectoryEntry");
             list = inside;
         } else {
             list = tagged;
@@ -407,7 +400,7 @@ FileDirectoryResponse FileDirectoryResponse::read(Reader &outer, const Element &
     Element more;
     if (reader.takeIf(Tag::context(1), more))
         response.moreFollows = reader.boolean(more);
-    reader.expectEnd("the answer");
+    reader.expectEnd("ConfirmedServiceResponse");
     return response;
 }
 
@@ -441,7 +434,7 @@ ReadJournalRequest ReadJournalRequest::read(Reader &outer, const Element &elemen
 {
     Reader reader = outer.enter(element);
     ReadJournalRequest request;
-    request.journal = codec::readObjectName(reader, Tag::group(0), "The name of the journal");
+    request.journal = codec::readObjectName(reader, Tag::group(0), "journalName");
     Element optional;
     if (reader.takeIf(Tag::group(1), optional)) {
         Reader choice = reader.enter(optional);
@@ -450,8 +443,8 @@ ReadJournalRequest ReadJournalRequest::read(Reader &outer, const Element &elemen
             request.start = readTime(choice, chosen);
         else
             request.start =
-                choice.octets(choice.expect(Tag::context(1), "The first entry to read"));
-        choice.expectEnd("the first entry to read");
+                choice.octets(choice.expect(Tag::context(1), "rangeStartSpecification"));
+        choice.expectEnd("rangeStartSpecification");
     }
     if (reader.takeIf(Tag::group(2), optional)) {
         Reader choice = reader.enter(optional);
@@ -459,29 +452,25 @@ ReadJournalRequest ReadJournalRequest::read(Reader &outer, const Element &elemen
         if (choice.takeIf(Tag::context(0), chosen))
             request.stop = readTime(choice, chosen);
         else
-            request.stop =
-                choice.integer32(choice.expect(Tag::context(1), "The number of entries"));
-        choice.expectEnd("the last entry to read");
+            request.stop = choice.integer32(choice.expect(Tag::context(1), "numberOfEntries"));
+        choice.expectEnd("rangeStopSpecification");
     }
     if (reader.takeIf(Tag::group(4), optional)) {
         Reader list = reader.enter(optional);
         auto &names = request.variables.emplace();
         names.reserve(list.countRest());
         while (!list.atEnd())
-            names.push_back(
-                list.text(list.expect(ber::tags::visibleString, "The tag of a variable")));
+            names.push_back(list.text(list.expect(ber::tags::visibleString, "listOfVariables")));
     }
     if (reader.takeIf(Tag::group(5), optional)) {
         Reader position = reader.enter(optional);
         JournalPosition after;
-        after.time = readTime(
-            position, position.expect(Tag::context(0), "The time of the entry to start after"));
-        after.entry =
-            position.octets(position.expect(Tag::context(1), "The id of the entry to start after"));
-        position.expectEnd("the entry to start after");
+        after.time = readTime(position, position.expect(Tag::context(0), "timeSpecification"));
+        after.entry = position.octets(position.expect(Tag::context(1), "entrySpecification"));
+        position.expectEnd("entryToStartAfter");
         request.startAfter = std::move(after);
     }
-    reader.expectEnd("the request");
+    reader.expectEnd("ConfirmedServiceRequest");
     return request;
 }
 
@@ -542,15 +531,15 @@ ReadJournalResponse ReadJournalResponse::read(Reader &outer, const Element &elem
 {
     Reader reader = outer.enter(element);
     ReadJournalResponse response;
-    Reader list = reader.expectGroup(Tag::group(0), "The entries of the journal");
+    Reader list = reader.expectGroup(Tag::group(0), "listOfJournalEntry");
     response.entries.reserve(list.countRest());
     while (!list.atEnd())
         response.entries.push_back(
-            readJournalEntry(list.expectGroup(ber::tags::sequence, "A journal entry")));
+            readJournalEntry(list.expectGroup(ber::tags::sequence, "JournalEntry")));
     Element more;
     if (reader.takeIf(Tag::context(1), more))
         response.moreFollows = reader.boolean(more);
-    reader.expectEnd("the answer");
+    reader.expectEnd("ConfirmedServiceResponse");
     return response;
 }
 

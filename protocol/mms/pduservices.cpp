@@ -39,7 +39,7 @@ void writeResults(Writer &writer, Tag tag, const std::vector<AccessResult> &resu
 
 std::vector<AccessResult> readResults(Reader &reader, Tag tag)
 {
-    Reader list = reader.expectGroup(tag, "The list of results");
+    Reader list = reader.expectGroup(tag, "listOfAccessResult");
     return DataCodec::readResults(list);
 }
 
@@ -71,14 +71,12 @@ StatusResponse StatusResponse::read(Reader &outer, const Element &element)
 {
     Reader reader = outer.enter(element);
     StatusResponse response;
-    response.logicalStatus =
-        reader.integer32(reader.expect(Tag::context(0), "The logical status of the device"));
-    response.physicalStatus =
-        reader.integer32(reader.expect(Tag::context(1), "The physical status of the device"));
+    response.logicalStatus = reader.integer32(reader.expect(Tag::context(0), "vmdLogicalStatus"));
+    response.physicalStatus = reader.integer32(reader.expect(Tag::context(1), "vmdPhysicalStatus"));
     Element detail;
     if (reader.takeIf(Tag::context(2), detail))
         response.localDetail = reader.bitString(detail);
-    reader.expectEnd("the status of the device");
+    reader.expectEnd("Status-Response");
     return response;
 }
 
@@ -116,18 +114,18 @@ IdentifyResponse IdentifyResponse::read(Reader &outer, const Element &element)
 {
     Reader reader = outer.enter(element);
     IdentifyResponse response;
-    response.vendor = reader.text(reader.expect(Tag::context(0), "The name of the vendor"));
-    response.model = reader.text(reader.expect(Tag::context(1), "The name of the model"));
-    response.revision = reader.text(reader.expect(Tag::context(2), "The revision"));
+    response.vendor = reader.text(reader.expect(Tag::context(0), "vendorName"));
+    response.model = reader.text(reader.expect(Tag::context(1), "modelName"));
+    response.revision = reader.text(reader.expect(Tag::context(2), "revision"));
     Element syntaxes;
     if (reader.takeIf(Tag::group(3), syntaxes)) {
         Reader list = reader.enter(syntaxes);
         response.abstractSyntaxes.reserve(list.countRest());
         while (!list.atEnd())
             response.abstractSyntaxes.push_back(list.objectIdentifier(
-                list.expect(ber::tags::objectIdentifier, "An abstract syntax")));
+                list.expect(ber::tags::objectIdentifier, "listOfAbstractSyntaxes")));
     }
-    reader.expectEnd("the identification of the device");
+    reader.expectEnd("Identify-Response");
     return response;
 }
 
@@ -157,11 +155,11 @@ GetNameListRequest GetNameListRequest::read(Reader &outer, const Element &elemen
 {
     Reader reader = outer.enter(element);
     GetNameListRequest request;
-    Reader classReader = reader.expectGroup(Tag::group(0), "The class of the objects");
+    Reader classReader = reader.expectGroup(Tag::group(0), "objectClass");
     request.objectClass = static_cast<ObjectClass>(
-        classReader.integer32(classReader.expect(Tag::context(0), "The class of the objects")));
-    classReader.expectEnd("the class of the objects");
-    Reader scopeReader = reader.expectGroup(Tag::group(1), "The scope of the objects");
+        classReader.integer32(classReader.expect(Tag::context(0), "objectClass")));
+    classReader.expectEnd("objectClass");
+    Reader scopeReader = reader.expectGroup(Tag::group(1), "objectScope");
     Element choice;
     if (scopeReader.takeIf(Tag::context(0), choice)) {
         request.scope = Scope::Vmd;
@@ -173,12 +171,12 @@ GetNameListRequest GetNameListRequest::read(Reader &outer, const Element &elemen
         request.scope = Scope::Association;
         scopeReader.null(choice);
     } else {
-        scopeReader.fail("The scope of the objects is missing or unknown");
+        scopeReader.fail(say("The element %1 is missing or of an unknown kind.", "objectScope"));
     }
-    scopeReader.expectEnd("the scope of the objects");
+    scopeReader.expectEnd("objectScope");
     if (reader.takeIf(Tag::context(2), choice))
         request.continueAfter = reader.text(choice);
-    reader.expectEnd("the request");
+    reader.expectEnd("ConfirmedServiceRequest");
     return request;
 }
 
@@ -213,14 +211,14 @@ GetNameListResponse GetNameListResponse::read(Reader &outer, const Element &elem
 {
     Reader reader = outer.enter(element);
     GetNameListResponse response;
-    Reader list = reader.expectGroup(Tag::group(0), "The list of names");
+    Reader list = reader.expectGroup(Tag::group(0), "listOfIdentifier");
     response.names.reserve(list.countRest());
     while (!list.atEnd())
-        response.names.push_back(list.text(list.expect(ber::tags::visibleString, "A name")));
+        response.names.push_back(list.text(list.expect(ber::tags::visibleString, "Identifier")));
     Element more;
     if (reader.takeIf(Tag::context(1), more))
         response.moreFollows = reader.boolean(more);
-    reader.expectEnd("the names");
+    reader.expectEnd("GetNameList-Response");
     return response;
 }
 
@@ -248,11 +246,11 @@ GetVariableAccessAttributesRequest GetVariableAccessAttributesRequest::read(Read
     if (reader.takeIf(Tag::group(1), address)) {
         Reader inner = reader.enter(address);
         request.variable = codec::readAddress(inner);
-        inner.expectEnd("an address");
+        inner.expectEnd("Address");
     } else {
-        request.variable = codec::readObjectName(reader, Tag::group(0), "The name of the variable");
+        request.variable = codec::readObjectName(reader, Tag::group(0), "name");
     }
-    reader.expectEnd("the request");
+    reader.expectEnd("ConfirmedServiceRequest");
     return request;
 }
 
@@ -277,20 +275,19 @@ GetVariableAccessAttributesResponse::read(Reader &outer, const Element &element)
 {
     Reader reader = outer.enter(element);
     GetVariableAccessAttributesResponse response;
-    response.deletable =
-        reader.boolean(reader.expect(Tag::context(0), "Whether the variable can be deleted"));
+    response.deletable = reader.boolean(reader.expect(Tag::context(0), "mmsDeletable"));
     Element optional;
     if (reader.takeIf(Tag::group(1), optional)) {
         Reader inner = reader.enter(optional);
         response.address = codec::readAddress(inner);
-        inner.expectEnd("an address");
+        inner.expectEnd("Address");
     }
-    Reader type = reader.expectGroup(Tag::group(2), "The type of the variable");
+    Reader type = reader.expectGroup(Tag::group(2), "typeDescription");
     response.type = TypeCodec::readNext(type);
-    type.expectEnd("the type of the variable");
+    type.expectEnd("typeDescription");
     // The name of an access control list says nothing to a client of IEC 61850.
     reader.takeIf(Tag::context(3), optional);
-    reader.expectEnd("the attributes of the variable");
+    reader.expectEnd("GetVariableAccessAttributes-Response");
     return response;
 }
 
@@ -320,10 +317,10 @@ ReadRequest ReadRequest::read(Reader &outer, const Element &element)
     Element flag;
     if (reader.takeIf(Tag::context(0), flag))
         request.specificationWithResult = reader.boolean(flag);
-    Reader inner = reader.expectGroup(Tag::group(1), "The variables to read");
+    Reader inner = reader.expectGroup(Tag::group(1), "variableAccessSpecification");
     request.variables = codec::readVariableAccessSpecification(inner);
-    inner.expectEnd("the variables to read");
-    reader.expectEnd("the request");
+    inner.expectEnd("variableAccessSpecification");
+    reader.expectEnd("ConfirmedServiceRequest");
     return request;
 }
 
@@ -349,10 +346,10 @@ ReadResponse ReadResponse::read(Reader &outer, const Element &element)
     if (reader.takeIf(Tag::group(0), specification)) {
         Reader inner = reader.enter(specification);
         response.variables = codec::readVariableAccessSpecification(inner);
-        inner.expectEnd("the variables that were read");
+        inner.expectEnd("variableAccessSpecification");
     }
     response.results = readResults(reader, Tag::group(1));
-    reader.expectEnd("the results");
+    reader.expectEnd("Read-Response");
     return response;
 }
 
@@ -376,9 +373,9 @@ WriteRequest WriteRequest::read(Reader &outer, const Element &element)
     Reader reader = outer.enter(element);
     WriteRequest request;
     request.variables = codec::readVariableAccessSpecification(reader);
-    Reader values = reader.expectGroup(Tag::group(0), "The values to write");
+    Reader values = reader.expectGroup(Tag::group(0), "listOfData");
     request.values = DataCodec::readAll(values);
-    reader.expectEnd("the request");
+    reader.expectEnd("ConfirmedServiceRequest");
     return request;
 }
 
@@ -409,7 +406,7 @@ WriteResponse WriteResponse::read(Reader &outer, const Element &element)
             response.results.emplace_back();
         } else {
             response.results.emplace_back(static_cast<DataAccessError>(
-                reader.integer32(reader.expect(Tag::context(0), "The result of a write"))));
+                reader.integer32(reader.expect(Tag::context(0), "Write-Response"))));
         }
     }
     return response;
@@ -428,7 +425,8 @@ void WriteResponse::write(Writer &writer) const
 std::string WriteResponse::text() const
 {
     return codec::joined(results, [](const std::optional<DataAccessError> &result) {
-        return result ? "failure: " + describe(*result) : std::string("success");
+        return result ? "failure: " + codec::withoutFullStop(describe(*result))
+                      : std::string("success");
     });
 }
 
@@ -438,9 +436,8 @@ DefineNamedVariableListRequest DefineNamedVariableListRequest::read(Reader &oute
     Reader reader = outer.enter(element);
     DefineNamedVariableListRequest request;
     request.name = codec::readObjectName(reader);
-    request.members =
-        codec::readVariableList(reader.expectGroup(Tag::group(0), "The members of the list"));
-    reader.expectEnd("the request");
+    request.members = codec::readVariableList(reader.expectGroup(Tag::group(0), "listOfVariable"));
+    reader.expectEnd("ConfirmedServiceRequest");
     return request;
 }
 
@@ -474,7 +471,7 @@ GetNamedVariableListAttributesRequest::read(Reader &outer, const Element &elemen
 {
     Reader reader = outer.enter(element);
     GetNamedVariableListAttributesRequest request{codec::readObjectName(reader)};
-    reader.expectEnd("the request");
+    reader.expectEnd("ConfirmedServiceRequest");
     return request;
 }
 
@@ -493,14 +490,12 @@ GetNamedVariableListAttributesResponse::read(Reader &outer, const Element &eleme
 {
     Reader reader = outer.enter(element);
     GetNamedVariableListAttributesResponse response;
-    response.deletable =
-        reader.boolean(reader.expect(Tag::context(0), "Whether the list can be deleted"));
-    response.members =
-        codec::readVariableList(reader.expectGroup(Tag::group(1), "The members of the list"));
+    response.deletable = reader.boolean(reader.expect(Tag::context(0), "mmsDeletable"));
+    response.members = codec::readVariableList(reader.expectGroup(Tag::group(1), "listOfVariable"));
     // The name of an access control list says nothing to a client of IEC 61850.
     Element accessControlList;
     reader.takeIf(Tag::context(2), accessControlList);
-    reader.expectEnd("the attributes of the list");
+    reader.expectEnd("GetNamedVariableListAttributes-Response");
     return response;
 }
 
@@ -531,7 +526,7 @@ DeleteNamedVariableListRequest DeleteNamedVariableListRequest::read(Reader &oute
     }
     if (reader.takeIf(Tag::context(2), optional))
         request.domain = reader.text(optional);
-    reader.expectEnd("the request");
+    reader.expectEnd("ConfirmedServiceRequest");
     return request;
 }
 
@@ -564,11 +559,9 @@ DeleteNamedVariableListResponse DeleteNamedVariableListResponse::read(Reader &ou
 {
     Reader reader = outer.enter(element);
     DeleteNamedVariableListResponse response;
-    response.matched =
-        reader.unsigned32(reader.expect(Tag::context(0), "The number of lists that match"));
-    response.deleted =
-        reader.unsigned32(reader.expect(Tag::context(1), "The number of lists deleted"));
-    reader.expectEnd("the answer");
+    response.matched = reader.unsigned32(reader.expect(Tag::context(0), "numberMatched"));
+    response.deleted = reader.unsigned32(reader.expect(Tag::context(1), "numberDeleted"));
+    reader.expectEnd("ConfirmedServiceResponse");
     return response;
 }
 
@@ -589,7 +582,7 @@ InformationReport InformationReport::read(Reader &outer, const Element &element)
     InformationReport report;
     report.variables = codec::readVariableAccessSpecification(reader);
     report.results = readResults(reader, Tag::group(0));
-    reader.expectEnd("the report");
+    reader.expectEnd("InformationReport");
     return report;
 }
 

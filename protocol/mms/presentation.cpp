@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mms/presentation.h"
 
+#include "mms/codec.h"
+
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -27,20 +29,20 @@ std::vector<DataValue> readValues(Reader list)
     std::vector<DataValue> result;
     Element item;
     while (!list.atEnd()) {
-        Reader fields = list.expectGroup(ber::tags::sequence, "presentation data value");
+        Reader fields = list.expectGroup(ber::tags::sequence, "PDV-list");
         DataValue value;
-        if (fields.takeIf(ber::tags::objectIdentifier, item)
-            && fields.objectIdentifier(item) != berSyntax)
-            fields.fail("A presentation value is encoded by rules that were not agreed.");
+        if (fields.takeIf(ber::tags::objectIdentifier, item) &&
+            fields.objectIdentifier(item) != berSyntax)
+            fields.fail(say("A presentation value is encoded by rules that were not agreed."));
         value.contextId =
-            fields.integer(fields.expect(ber::tags::integer, "presentation context identifier"));
+            fields.integer(fields.expect(ber::tags::integer, "presentation-context-identifier"));
         if (fields.takeIf(Tag::group(0), item) || fields.takeIf(Tag::context(1), item))
             value.value = item.content;
         else
-            fields.fail("A presentation value is in a form that is not supported.");
-        fields.expectEnd("presentation data value");
+            fields.fail(say("A presentation value is in a form that is not supported."));
+        fields.expectEnd("PDV-list");
         if (result.size() == maxContexts)
-            fields.fail("A presentation unit has too many values.");
+            fields.fail(say("A presentation unit has too many values."));
         result.push_back(value);
     }
     return result;
@@ -62,21 +64,22 @@ std::vector<Context> readContexts(Reader list)
 {
     std::vector<Context> result;
     while (!list.atEnd()) {
-        Reader fields = list.expectGroup(ber::tags::sequence, "presentation context");
+        Reader fields =
+            list.expectGroup(ber::tags::sequence, "presentation-context-definition-list");
         Context context;
         context.id =
-            fields.integer(fields.expect(ber::tags::integer, "presentation context identifier"));
+            fields.integer(fields.expect(ber::tags::integer, "presentation-context-identifier"));
         context.abstractSyntax = fields.objectIdentifier(
-            fields.expect(ber::tags::objectIdentifier, "abstract syntax name"));
-        Reader syntaxes = fields.expectGroup(ber::tags::sequence, "transfer syntax names");
+            fields.expect(ber::tags::objectIdentifier, "abstract-syntax-name"));
+        Reader syntaxes = fields.expectGroup(ber::tags::sequence, "transfer-syntax-name-list");
         while (!syntaxes.atEnd() && context.transferSyntaxes.size() < maxContexts) {
             context.transferSyntaxes.push_back(syntaxes.objectIdentifier(
-                syntaxes.expect(ber::tags::objectIdentifier, "transfer syntax name")));
+                syntaxes.expect(ber::tags::objectIdentifier, "transfer-syntax-name")));
         }
-        syntaxes.expectEnd("list of transfer syntax names");
-        fields.expectEnd("presentation context");
+        syntaxes.expectEnd("transfer-syntax-name-list");
+        fields.expectEnd("presentation-context-definition-list");
         if (result.size() == maxContexts)
-            list.fail("The peer asks for too many presentation contexts.");
+            list.fail(say("The peer asks for too many presentation contexts."));
         result.push_back(std::move(context));
     }
     return result;
@@ -87,17 +90,18 @@ std::vector<ContextAnswer> readAnswers(Reader list)
     std::vector<ContextAnswer> result;
     Element item;
     while (!list.atEnd()) {
-        Reader fields = list.expectGroup(ber::tags::sequence, "presentation context result");
+        Reader fields =
+            list.expectGroup(ber::tags::sequence, "presentation-context-definition-result-list");
         ContextAnswer answer;
-        answer.result = static_cast<ContextResult>(
-            fields.integer(fields.expect(Tag::context(0), "presentation context result"), 0, 2));
+        answer.result = static_cast<ContextResult>(fields.integer(
+            fields.expect(Tag::context(0), "presentation-context-definition-result-list"), 0, 2));
         if (fields.takeIf(Tag::context(1), item))
             answer.transferSyntax = fields.objectIdentifier(item);
         if (fields.takeIf(Tag::context(2), item))
             answer.reason = fields.integer(item);
-        fields.expectEnd("presentation context result");
+        fields.expectEnd("presentation-context-definition-result-list");
         if (result.size() == maxContexts)
-            list.fail("The peer answers for too many presentation contexts.");
+            list.fail(say("The peer answers for too many presentation contexts."));
         result.push_back(std::move(answer));
     }
     return result;
@@ -157,7 +161,7 @@ NormalMode readNormalMode(Reader fields)
         else if (item.tag == tagUserData)
             result.userData = readValues(fields.enter(item));
         else if (item.tag == tagSimpleUserData)
-            fields.fail("Presentation user data is simply encoded, which is not supported.");
+            fields.fail(say("Presentation user data is simply encoded, which is not supported."));
     }
     return result;
 }
@@ -165,21 +169,21 @@ NormalMode readNormalMode(Reader fields)
 /// The parameters within the set that a connect and an accept unit are.
 NormalMode readSet(Reader outer)
 {
-    Reader set = outer.expectGroup(ber::tags::set, "presentation unit");
-    outer.expectEnd("presentation unit");
+    Reader set = outer.expectGroup(ber::tags::set, "PPDU");
+    outer.expectEnd("PPDU");
     std::optional<NormalMode> result;
     Element item;
     while (set.next(item)) {
         if (item.tag == tagModeSelector) {
             Reader mode = set.enter(item);
-            if (mode.integer(mode.expect(Tag::context(0), "presentation mode")) != normalMode)
-                mode.fail("The peer asks for a presentation mode other than normal mode.");
+            if (mode.integer(mode.expect(Tag::context(0), "mode-selector")) != normalMode)
+                mode.fail(say("The peer asks for a presentation mode other than normal mode."));
         } else if (item.tag == tagNormalMode) {
             result = readNormalMode(set.enter(item));
         }
     }
     if (!result)
-        set.fail("A presentation unit has no parameters of normal mode.");
+        set.fail(say("A presentation unit has no parameters of normal mode."));
     return std::move(result).value_or(NormalMode());
 }
 
@@ -192,8 +196,8 @@ bool DataValue::operator==(const DataValue &other) const
 
 bool Indication::operator==(const Indication &other) const
 {
-    return service == other.service && association == other.association
-        && std::ranges::equal(value, other.value) && reason == other.reason;
+    return service == other.service && association == other.association &&
+           std::ranges::equal(value, other.value) && reason == other.reason;
 }
 
 Octets encode(const Connect &unit)
@@ -306,8 +310,8 @@ Result<Reject> decodeReject(Bytes octets)
 {
     Input input(octets);
     Reader outer = input.reader();
-    NormalMode mode = readNormalMode(outer.expectGroup(ber::tags::sequence, "presentation reject"));
-    outer.expectEnd("presentation reject");
+    NormalMode mode = readNormalMode(outer.expectGroup(ber::tags::sequence, "CPR-PPDU"));
+    outer.expectEnd("CPR-PPDU");
     return input.finish(Reject{std::move(mode.respondingSelector), std::move(mode.answers),
                                mode.reason, std::move(mode.userData)});
 }
@@ -321,16 +325,16 @@ Result<Abort> decodeAbort(Bytes octets)
     if (outer.takeIf(Tag::group(0), item)) {
         result = UserAbort{readNormalMode(outer.enter(item)).userData};
     } else {
-        Reader fields = outer.expectGroup(ber::tags::sequence, "presentation abort");
+        Reader fields = outer.expectGroup(ber::tags::sequence, "ARU-PPDU");
         ProviderAbort abort;
         if (fields.takeIf(Tag::context(0), item))
             abort.reason = fields.integer(item);
         if (fields.takeIf(Tag::context(1), item))
             abort.event = fields.integer(item);
-        fields.expectEnd("presentation abort");
+        fields.expectEnd("ARU-PPDU");
         result = abort;
     }
-    outer.expectEnd("presentation abort");
+    outer.expectEnd("ARU-PPDU");
     return input.finish(std::move(result));
 }
 
@@ -338,44 +342,45 @@ Result<std::vector<DataValue>> decodeData(Bytes octets)
 {
     Input input(octets);
     Reader outer = input.reader();
-    std::vector<DataValue> values =
-        readValues(outer.expectGroup(tagUserData, "presentation user data"));
-    outer.expectEnd("presentation user data");
+    std::vector<DataValue> values = readValues(outer.expectGroup(tagUserData, "User-data"));
+    outer.expectEnd("User-data");
     return input.finish(std::move(values));
 }
 
-std::string rejectionText(std::optional<std::int64_t> reason)
+Text rejectionText(std::optional<std::int64_t> reason)
 {
-    constexpr std::array<const char *, 8> sentences{
-        "The peer's presentation layer refuses the connection without a reason.",
-        "The peer's presentation layer is congested.",
-        "The peer's presentation layer has reached a limit of its own.",
-        "The peer does not know the presentation selector.",
-        "The peer does not support the version of the presentation protocol.",
-        "The peer does not support the default context.",
-        "The peer cannot read the presentation user data.",
-        "Nothing is attached to the peer's presentation selector."};
+    static constexpr std::array sentences{
+        wording::pattern("The peer's presentation layer refuses the connection without a reason."),
+        wording::pattern("The peer's presentation layer is congested."),
+        wording::pattern("The peer's presentation layer has reached a limit of its own."),
+        wording::pattern("The peer does not know the presentation selector."),
+        wording::pattern("The peer does not support the version of the presentation protocol."),
+        wording::pattern("The peer does not support the default context."),
+        wording::pattern("The peer cannot read the presentation user data."),
+        wording::pattern("Nothing is attached to the peer's presentation selector.")};
     if (!reason)
-        return "The peer refuses the presentation connection.";
+        return say("The peer refuses the presentation connection.");
     if (*reason >= 0 && *reason < static_cast<std::int64_t>(sentences.size()))
-        return sentences[static_cast<std::size_t>(*reason)];
-    return "The peer refuses the presentation connection with reason " + std::to_string(*reason)
-        + ".";
+        return say(sentences[static_cast<std::size_t>(*reason)]);
+    return say("The peer refuses the presentation connection with reason %1.", *reason);
 }
 
-std::string abortText(std::optional<std::int64_t> reason)
+Text abortText(std::optional<std::int64_t> reason)
 {
-    constexpr std::array<const char *, 7> sentences{
-        "The peer's presentation layer aborted without a reason.",
-        "The peer's presentation layer does not recognise a unit and aborted.",
-        "The peer's presentation layer did not expect a unit and aborted.",
-        "The peer's presentation layer did not expect a session service and aborted.",
-        "The peer's presentation layer does not recognise a parameter and aborted.",
-        "The peer's presentation layer did not expect a parameter and aborted.",
-        "The peer's presentation layer found an invalid parameter value and aborted."};
+    static constexpr std::array sentences{
+        wording::pattern("The peer's presentation layer aborted without a reason."),
+        wording::pattern("The peer's presentation layer does not recognise a unit and aborted."),
+        wording::pattern("The peer's presentation layer did not expect a unit and aborted."),
+        wording::pattern(
+            "The peer's presentation layer did not expect a session service and aborted."),
+        wording::pattern(
+            "The peer's presentation layer does not recognise a parameter and aborted."),
+        wording::pattern("The peer's presentation layer did not expect a parameter and aborted."),
+        wording::pattern(
+            "The peer's presentation layer found an invalid parameter value and aborted.")};
     if (reason && *reason >= 0 && *reason < static_cast<std::int64_t>(sentences.size()))
-        return sentences[static_cast<std::size_t>(*reason)];
-    return "The peer's presentation layer aborted.";
+        return say(sentences[static_cast<std::size_t>(*reason)]);
+    return say("The peer's presentation layer aborted.");
 }
 
 Connection::Connection(Options options)
@@ -464,10 +469,10 @@ Actions Connection::receiveConnect(Bytes userData)
 {
     const auto unit = decodeConnect(userData);
     if (!unit)
-        return reject(unit.error().message);
+        return reject(codec::unreadable(unit.error()));
     m_askedSelector = unit->calledSelector;
     if (m_options.checkSelector && m_askedSelector != m_options.localSelector)
-        return reject("The peer asked for an unknown presentation selector.");
+        return reject(say("The peer asked for an unknown presentation selector."));
     bool hasAssociation = false;
     bool hasMms = false;
     for (const Context &context : unit->contexts) {
@@ -486,7 +491,7 @@ Actions Connection::receiveConnect(Bytes userData)
         m_answers.push_back(std::move(answer));
     }
     if (!hasAssociation || !hasMms)
-        return reject("The peer did not ask for the presentation contexts of ACSE and MMS.");
+        return reject(say("The peer did not ask for the presentation contexts of ACSE and MMS."));
     return indicate(Service::Connect, unit->userData);
 }
 
@@ -494,12 +499,12 @@ Actions Connection::receiveAccept(Bytes userData)
 {
     const auto unit = decodeAccept(userData);
     if (!unit)
-        return fail(unit.error().message);
+        return fail(codec::unreadable(unit.error()));
     const auto accepted = [](const ContextAnswer &answer) {
         return answer.result == ContextResult::Acceptance;
     };
     if (unit->answers.size() < 2 || !std::ranges::all_of(unit->answers, accepted))
-        return fail("The peer did not accept the presentation contexts of ACSE and MMS.");
+        return fail(say("The peer did not accept the presentation contexts of ACSE and MMS."));
     return indicate(Service::Accept, unit->userData);
 }
 
@@ -509,7 +514,7 @@ Actions Connection::receiveRefuse(Bytes userData)
         return {Indication{Service::Refuse, false, {}, {}}};
     const auto unit = decodeReject(userData);
     if (!unit)
-        return {Indication{Service::Refuse, false, {}, unit.error().message}};
+        return {Indication{Service::Refuse, false, {}, codec::unreadable(unit.error())}};
     Indication indication{Service::Refuse, false, {}, rejectionText(unit->reason)};
     for (const DataValue &value : unit->userData) {
         indication.association = true;
@@ -544,7 +549,7 @@ Actions Connection::receiveData(Service service, Bytes userData)
         return {Indication{service, true, {}, {}}};
     const auto values = decodeData(userData);
     if (!values)
-        return fail(values.error().message);
+        return fail(codec::unreadable(values.error()));
     return indicate(service, *values);
 }
 
@@ -552,27 +557,27 @@ Actions Connection::indicate(Service service, const std::vector<DataValue> &valu
 {
     Actions actions;
     if (values.empty())
-        return fail("A presentation unit has no user data.");
+        return fail(say("A presentation unit has no user data."));
     for (const DataValue &value : values) {
         const bool association = value.contextId == m_associationContext;
         if (!association && value.contextId != m_mmsContext)
-            return fail("A presentation value belongs to a context that was not agreed.");
+            return fail(say("A presentation value belongs to a context that was not agreed."));
         actions.emplace_back(Indication{service, association, value.value, {}});
     }
     return actions;
 }
 
-Actions Connection::fail(std::string reason) const
+Actions Connection::fail(Text reason) const
 {
     return {Request{Service::ProviderAbort, encode(Abort(ProviderAbort{0, std::nullopt}))},
             Indication{Service::ProviderAbort, false, {}, std::move(reason)}};
 }
 
-Actions Connection::reject(std::string reason) const
+Actions Connection::reject(Text reason) const
 {
-    return {Request{Service::Refuse,
-                    encode(Reject{m_askedSelector, m_answers, rejectUserData, {}})},
-            Indication{Service::ProviderAbort, false, {}, std::move(reason)}};
+    return {
+        Request{Service::Refuse, encode(Reject{m_askedSelector, m_answers, rejectUserData, {}})},
+        Indication{Service::ProviderAbort, false, {}, std::move(reason)}};
 }
 
 } // namespace mms::presentation

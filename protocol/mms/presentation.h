@@ -30,7 +30,11 @@ struct Context
     bool operator==(const Context &) const = default;
 };
 
-enum class ContextResult : std::uint8_t { Acceptance = 0, UserRejection = 1, ProviderRejection = 2 };
+enum class ContextResult : std::uint8_t {
+    Acceptance = 0,
+    UserRejection = 1,
+    ProviderRejection = 2
+};
 
 /// The answer to one context that was asked for; answers stand in the order of the questions.
 struct ContextAnswer
@@ -123,8 +127,8 @@ inline constexpr std::int64_t rejectUserData = 6;
 inline constexpr std::int64_t abstractSyntaxNotSupported = 1;
 inline constexpr std::int64_t transferSyntaxNotSupported = 2;
 
-std::string rejectionText(std::optional<std::int64_t> reason);
-std::string abortText(std::optional<std::int64_t> reason);
+Text rejectionText(std::optional<std::int64_t> reason);
+Text abortText(std::optional<std::int64_t> reason);
 
 /// What a layer says to the one below, and the one below to it.
 enum class Service : std::uint8_t {
@@ -162,7 +166,7 @@ struct Indication
     Service service = Service::Data;
     bool association = false; ///< the value belongs to ACSE; otherwise to MMS
     Bytes value;              ///< into the octets given to receive(); empty when there is none
-    std::string reason;       ///< one sentence, when the connection ends
+    Text reason;              ///< one sentence, when the connection ends
 
     bool operator==(const Indication &other) const;
 };
@@ -200,8 +204,8 @@ private:
     Actions receiveAbort(Bytes userData);
     Actions receiveData(Service service, Bytes userData);
     Actions indicate(Service service, const std::vector<DataValue> &values) const;
-    Actions fail(std::string reason) const;
-    Actions reject(std::string reason) const;
+    Actions fail(Text reason) const;
+    Actions reject(Text reason) const;
 
     Options m_options;
     std::int64_t m_associationContext = 1;

@@ -1,19 +1,24 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "wording/text.h"
+
 #include <cstddef>
 #include <optional>
-#include <string>
 #include <utility>
 #include <variant>
 
 namespace mms {
 
+using wording::say;
+using wording::Text;
+using wording::verbatim;
+
 /// Why something could not be done: a sentence for the operator, and for bytes that could not be
 /// read the offset of the first byte that is wrong, counted from the start of the input.
 struct Error
 {
-    std::string message;
+    Text message;
     std::size_t offset = 0;
 
     friend bool operator==(const Error &, const Error &) = default;

@@ -26,9 +26,9 @@ bool ServerHandler::cancel(const std::shared_ptr<Association> &, std::uint32_t)
     return false;
 }
 
-void ServerHandler::refused(const std::string &) {}
+void ServerHandler::refused(const Text &) {}
 
-void ServerHandler::closed(const std::shared_ptr<Association> &, const std::string &) {}
+void ServerHandler::closed(const std::shared_ptr<Association> &, const Text &) {}
 
 std::shared_ptr<Server> Server::create(asio::any_io_executor executor, ServerOptions options,
                                        std::shared_ptr<ServerHandler> handler)
@@ -54,7 +54,7 @@ Result<std::uint16_t> Server::start()
     asio::error_code error;
     const auto address = asio::ip::make_address(m_options.address, error);
     if (error)
-        return Error{"\"" + m_options.address + "\" is not an address of a network interface.", 0};
+        return Error{say("\"%1\" is not an address of a network interface.", m_options.address), 0};
     const asio::ip::tcp::endpoint endpoint(address, m_options.port);
     m_acceptor.open(endpoint.protocol(), error);
     if (!error)
@@ -67,8 +67,8 @@ Result<std::uint16_t> Server::start()
     if (error) {
         asio::error_code ignored;
         m_acceptor.close(ignored);
-        return Error{"Cannot listen on " + m_options.address + " port " +
-                         std::to_string(m_options.port) + ": " + error.message() + ".",
+        return Error{say("Cannot listen on %1 port %2: %3.", m_options.address, m_options.port,
+                         wording::ofSystem(error)),
                      0};
     }
     asio::co_spawn(
@@ -96,7 +96,7 @@ void Server::stop(std::function<void()> released)
         asio::error_code ignored;
         self->m_acceptor.close(ignored);
         for (const auto &association : self->m_associations)
-            association->abort("The server was stopped.");
+            association->abort(say("The server was stopped."));
         if (released)
             released();
     });
@@ -122,18 +122,19 @@ asio::awaitable<void> Server::acceptLoop()
         const asio::ip::address peer = socket.remote_endpoint(ignored).address();
         const std::size_t mostHalfOpen = m_options.maxHalfOpenOfPeer;
         if (m_associations.size() >= m_options.maxAssociations) {
-            turnAway("There are " + std::to_string(m_options.maxAssociations) +
-                     " associations already, which is the limit.");
+            turnAway(say("There are %1 associations already, which is the limit.",
+                         m_options.maxAssociations));
         } else if (mostHalfOpen > 0 && m_halfOpen[peer] >= mostHalfOpen) {
-            turnAway("The peer " + peer.to_string() + " has " + std::to_string(mostHalfOpen) +
-                     " connections that are no associations yet, which is the limit.");
+            turnAway(say(
+                "The peer %1 has %2 connections that are no associations yet, which is the limit.",
+                peer.to_string(), mostHalfOpen));
         } else {
             take(std::move(strand), std::move(socket), peer);
         }
     }
 }
 
-void Server::turnAway(const std::string &reason)
+void Server::turnAway(const Text &reason)
 {
     ++m_turnedAway;
     m_handler->refused(reason);
@@ -166,7 +167,7 @@ void Server::take(Link::Strand strand, asio::ip::tcp::socket socket, const asio:
                                             std::uint32_t invokeId) {
         return handler->cancel(association, invokeId);
     };
-    handlers.closed = [handler = m_handler, place, forget](const std::string &reason) {
+    handlers.closed = [handler = m_handler, place, forget](const Text &reason) {
         handler->closed(place->lock(), reason);
         forget();
     };

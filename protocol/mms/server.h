@@ -45,9 +45,9 @@ public:
     virtual bool cancel(const std::shared_ptr<Association> &association, std::uint32_t invokeId);
     /// A connection has ended before it became an association, for instance because the peer could
     /// not prove who it is or there were too many; one sentence says why.
-    virtual void refused(const std::string &reason);
+    virtual void refused(const Text &reason);
     /// An association that had been opened has ended.
-    virtual void closed(const std::shared_ptr<Association> &association, const std::string &reason);
+    virtual void closed(const std::shared_ptr<Association> &association, const Text &reason);
 };
 
 /// Accepts associations. Peers that do not ask for an association in time, or do not read what they
@@ -82,7 +82,7 @@ public:
 private:
     asio::awaitable<void> acceptLoop();
     void take(Link::Strand strand, asio::ip::tcp::socket socket, const asio::ip::address &peer);
-    void turnAway(const std::string &reason);
+    void turnAway(const Text &reason);
 
     asio::any_io_executor m_executor;
     ServerOptions m_options;

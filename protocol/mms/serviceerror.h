@@ -84,6 +84,6 @@ inline constexpr std::int32_t fileInsufficientSpace = 9;
 /// The standard's name of a code, such as "access: object-non-existent".
 std::string toText(const ServiceError &error);
 /// A sentence for the operator, with what the device adds.
-std::string describe(const ServiceError &error);
+Text describe(const ServiceError &error);
 
 } // namespace mms

@@ -52,17 +52,17 @@ struct Field
 Result<Field> fieldAt(Bytes octets, std::size_t at)
 {
     if (octets.size() - at < 2)
-        return Error{"A session unit ends within a header.", at};
+        return Error{say("A session unit ends within a header."), at};
     std::size_t length = octets[at + 1];
     std::size_t begin = at + 2;
     if (length == 255) {
         if (octets.size() - at < 4)
-            return Error{"A session unit ends within a length.", at};
+            return Error{say("A session unit ends within a length."), at};
         length = static_cast<std::size_t>(octets[at + 2]) << 8 | octets[at + 3];
         begin = at + 4;
     }
     if (octets.size() - begin < length)
-        return Error{"A session parameter is longer than the unit around it.", at};
+        return Error{say("A session parameter is longer than the unit around it."), at};
     return Field{octets[at], octets.subspan(begin, length), begin + length};
 }
 
@@ -98,7 +98,7 @@ std::optional<Error> readParameters(Bytes octets, bool nested, Parameters &into)
         switch (field->code) {
         case groupConnectAccept:
             if (nested)
-                return Error{"A session parameter group holds itself.", at};
+                return Error{say("A session parameter group holds itself."), at};
             if (const auto error = readParameters(value, true, into))
                 return error;
             break;
@@ -138,9 +138,7 @@ std::optional<Error> readParameters(Bytes octets, bool nested, Parameters &into)
             break;
         }
         if (!valid) {
-            return Error{"The session parameter " + std::to_string(field->code) +
-                             " has a wrong length.",
-                         at};
+            return Error{say("The session parameter %1 has a wrong length.", field->code), at};
         }
         at = field->next;
     }
@@ -153,12 +151,12 @@ Result<Unit> decodeData(Bytes message, std::size_t at)
     if (!data)
         return data.error();
     if (data->code != codeGiveTokensOrData)
-        return Error{"A token unit is not followed by a data transfer.", at};
+        return Error{say("A token unit is not followed by a data transfer."), at};
     Parameters parameters;
     if (const auto error = readParameters(data->value, false, parameters))
         return *error;
     if (parameters.enclosure != 3)
-        return Error{"The peer cuts session data into segments, which was not agreed.", at};
+        return Error{say("The peer cuts session data into segments, which was not agreed."), at};
     return Unit(Data{message.subspan(data->next)});
 }
 
@@ -317,7 +315,8 @@ Result<Unit> decode(Bytes message)
     if (unit->code == codeGiveTokensOrData || unit->code == codePleaseTokens)
         return decodeData(message, unit->next);
     if (unit->next != message.size())
-        return Error{"A session unit is followed by octets that belong to nothing.", unit->next};
+        return Error{say("A session unit is followed by octets that belong to nothing."),
+                     unit->next};
     Parameters p;
     if (const auto error = readParameters(unit->value, false, p))
         return *error;
@@ -343,7 +342,7 @@ Result<Unit> decode(Bytes message)
     case codeAbortAccept:
         return Unit(AbortAccept());
     default:
-        return Error{"A session unit has the unknown code " + std::to_string(unit->code) + ".", 0};
+        return Error{say("A session unit has the unknown code %1.", unit->code), 0};
     }
 }
 
@@ -357,29 +356,30 @@ void appendDataHeader(Octets &out)
     out.insert(out.end(), {codeGiveTokensOrData, 0, codeGiveTokensOrData, 0});
 }
 
-std::string refusalText(std::uint8_t reason)
+Text refusalText(std::uint8_t reason)
 {
     switch (reason) {
     case refuseByUser:
-        return "The peer refuses the session without a reason.";
+        return say("The peer refuses the session without a reason.");
     case 1:
-        return "The peer refuses the session because it is busy.";
+        return say("The peer refuses the session because it is busy.");
     case refuseWithData:
-        return "The peer refuses the session.";
+        return say("The peer refuses the session.");
     case refuseSelectorUnknown:
-        return "The peer does not know the session selector.";
+        return say("The peer does not know the session selector.");
     case 0x82:
-        return "Nothing is attached to the peer's session selector.";
+        return say("Nothing is attached to the peer's session selector.");
     case 0x83:
-        return "The peer's session layer is congested.";
+        return say("The peer's session layer is congested.");
     case refuseVersion:
-        return "The peer does not support the proposed version of the session protocol.";
+        return say("The peer does not support the proposed version of the session protocol.");
     case refuseByProvider:
-        return "The peer's session layer refuses the session.";
+        return say("The peer's session layer refuses the session.");
     case 0x86:
-        return "The peer's session layer refuses the session because of a restriction of its own.";
+        return say(
+            "The peer's session layer refuses the session because of a restriction of its own.");
     default:
-        return "The peer refuses the session with reason " + std::to_string(reason) + ".";
+        return say("The peer refuses the session with reason %1.", reason);
     }
 }
 
@@ -468,7 +468,7 @@ Actions Connection::receive(Bytes message)
 Actions Connection::handle(const Connect &unit)
 {
     if (m_role != Role::Responder || m_state != State::Idle)
-        return misplaced("connect");
+        return misplaced("CN");
     std::optional<std::uint8_t> refusal;
     m_askedSelector = unit.calledSelector.value_or(Octets());
     if ((unit.versions & version2) == 0)
@@ -480,7 +480,7 @@ Actions Connection::handle(const Connect &unit)
     if (refusal) {
         m_state = State::Closed;
         return {Send{encode(Refuse{*refusal, {}})},
-                AbortIndication{false, "The peer's session request cannot be accepted.", {}}};
+                AbortIndication{false, say("The peer's session request cannot be accepted."), {}}};
     }
     m_state = State::Connecting;
     return {ConnectIndication{unit.userData}};
@@ -489,9 +489,9 @@ Actions Connection::handle(const Connect &unit)
 Actions Connection::handle(const Accept &unit)
 {
     if (m_role != Role::Initiator || m_state != State::Connecting)
-        return misplaced("accept");
+        return misplaced("AC");
     if ((unit.versions & version2) == 0)
-        return protocolError("The peer accepted the session with an unsuitable version.");
+        return protocolError(say("The peer accepted the session with an unsuitable version."));
     m_state = State::Open;
     return {ConnectConfirm{unit.userData}};
 }
@@ -499,7 +499,7 @@ Actions Connection::handle(const Accept &unit)
 Actions Connection::handle(const Refuse &unit)
 {
     if (m_role != Role::Initiator || m_state != State::Connecting)
-        return misplaced("refuse");
+        return misplaced("RF");
     m_state = State::Closed;
     return {Refused{refusalText(unit.reason), unit.userData}};
 }
@@ -507,7 +507,7 @@ Actions Connection::handle(const Refuse &unit)
 Actions Connection::handle(const Data &unit)
 {
     if (m_state != State::Open && m_state != State::Finishing)
-        return misplaced("data");
+        return misplaced("DT");
     return {DataIndication{unit.userData}};
 }
 
@@ -518,14 +518,14 @@ Actions Connection::handle(const Finish &unit)
     else if (m_state == State::Finishing)
         m_finishCollision = true;
     else
-        return misplaced("finish");
+        return misplaced("FN");
     return {FinishIndication{unit.userData}};
 }
 
 Actions Connection::handle(const Disconnect &unit)
 {
     if (m_state != State::Finishing)
-        return misplaced("disconnect");
+        return misplaced("DN");
     m_state = State::Closed;
     return {FinishConfirm{unit.userData}};
 }
@@ -533,27 +533,28 @@ Actions Connection::handle(const Disconnect &unit)
 Actions Connection::handle(const NotFinished &)
 {
     if (m_state != State::Finishing)
-        return misplaced("not finished");
+        return misplaced("NF");
     // Without the negotiated release unit the peer has no right to refuse the end.
-    return protocolError("The peer refuses to end the session.");
+    return protocolError(say("The peer refuses to end the session."));
 }
 
 Actions Connection::handle(const Abort &unit)
 {
     m_state = State::Closed;
-    const char *reason = unit.byUser          ? "The peer aborted the session."
-                         : unit.protocolError ? "The peer's session layer reports an error in the "
-                                                "protocol and aborted the session."
-                                              : "The peer's session layer aborted the session.";
+    Text reason =
+        unit.byUser ? say("The peer aborted the session.")
+        : unit.protocolError
+            ? say("The peer's session layer reports an error in the protocol and aborted the session.")
+            : say("The peer's session layer aborted the session.");
     return {AbortIndication{unit.byUser, reason, unit.userData}};
 }
 
 Actions Connection::handle(const AbortAccept &)
 {
-    return misplaced("abort accept");
+    return misplaced("AA");
 }
 
-Actions Connection::protocolError(const std::string &reason)
+Actions Connection::protocolError(const Text &reason)
 {
     Actions actions;
     if (m_state != State::Idle)
@@ -565,8 +566,8 @@ Actions Connection::protocolError(const std::string &reason)
 
 Actions Connection::misplaced(const char *unit)
 {
-    return protocolError(std::string("The peer sent the session unit \"") + unit +
-                         "\", which does not belong here.");
+    return protocolError(
+        say("The peer sent the session unit \"%1\", which does not belong here.", unit));
 }
 
 } // namespace mms::session

@@ -107,7 +107,7 @@ Octets encode(const Unit &unit);
 void appendDataHeader(Octets &out);
 
 /// What the reason of a refuse unit says, as a sentence.
-std::string refusalText(std::uint8_t reason);
+Text refusalText(std::uint8_t reason);
 
 struct Options
 {
@@ -144,7 +144,7 @@ struct ConnectConfirm
 /// Initiator: the connection was refused and is over.
 struct Refused
 {
-    std::string reason; ///< one sentence
+    Text reason; ///< one sentence
     Octets userData;
 
     bool operator==(const Refused &) const = default;
@@ -177,7 +177,7 @@ struct FinishConfirm
 struct AbortIndication
 {
     bool byUser = false;
-    std::string reason; ///< one sentence
+    Text reason; ///< one sentence
     Octets userData;
 
     bool operator==(const AbortIndication &) const = default;
@@ -226,7 +226,7 @@ private:
     Actions handle(const NotFinished &unit);
     Actions handle(const Abort &unit);
     Actions handle(const AbortAccept &unit);
-    Actions protocolError(const std::string &reason);
+    Actions protocolError(const Text &reason);
     Actions misplaced(const char *unit);
 
     Role m_role;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mms/stack.h"
 
-#include <type_traits>
 #include <utility>
 
 namespace mms {
@@ -17,14 +16,6 @@ struct Overloaded : Handlers...
 };
 template <typename... Handlers>
 Overloaded(Handlers...) -> Overloaded<Handlers...>;
-
-/// What a decoder complains about becomes a sentence; other reasons are sentences already.
-std::string sentence(std::string reason)
-{
-    return reason.empty() || reason.ends_with('.')
-        ? reason
-        : "What the peer sent cannot be read: " + reason + '.';
-}
 
 Octets copyOf(Bytes bytes)
 {
@@ -58,8 +49,6 @@ void Stack::end(Event event, StackOutput &output)
     if (m_closed)
         return;
     m_closed = output.closeNetwork = true;
-    if constexpr (!std::is_same_v<Event, ReleaseConfirm>)
-        event.reason = sentence(std::move(event.reason));
     tell(std::move(event), output);
 }
 
@@ -143,7 +132,7 @@ StackOutput Stack::abort()
     return output;
 }
 
-StackOutput Stack::networkClosed(const std::string &reason)
+StackOutput Stack::networkClosed(const Text &reason)
 {
     StackOutput output;
     if (!m_closed)
@@ -211,7 +200,7 @@ void Stack::run(const session::Actions &actions, StackOutput &output)
 }
 
 void Stack::run(const presentation::Actions &actions, StackOutput &output,
-                const std::string &sessionReason)
+                const Text &sessionReason)
 {
     for (const presentation::Action &action : actions) {
         if (const auto *down = std::get_if<presentation::Request>(&action)) {
@@ -222,8 +211,7 @@ void Stack::run(const presentation::Actions &actions, StackOutput &output,
         const bool ends = up.service == Service::UserAbort ||
                           up.service == Service::ProviderAbort || up.service == Service::Refuse;
         if (up.association || ends) {
-            const std::string &reason =
-                up.reason.empty() && !up.association ? sessionReason : up.reason;
+            const Text &reason = up.reason.empty() && !up.association ? sessionReason : up.reason;
             run(m_association.receive(up.service, up.value, reason), output);
             if (ends)
                 end(AssociationLost{false, reason}, output);

@@ -33,8 +33,8 @@ struct AssociateConfirm
 /// Initiator: the association was refused.
 struct AssociateRefused
 {
-    std::string reason; ///< one sentence
-    Octets pdu;         ///< what the peer's user said to it, may be empty
+    Text reason; ///< one sentence
+    Octets pdu;  ///< what the peer's user said to it, may be empty
 };
 
 /// A PDU of the peer.
@@ -57,7 +57,7 @@ struct ReleaseConfirm
 struct AssociationLost
 {
     bool byUser = false; ///< the peer's user aborted it
-    std::string reason;  ///< one sentence
+    Text reason;         ///< one sentence
 };
 
 using StackEvent = std::variant<AssociateIndication, AssociateConfirm, AssociateRefused,
@@ -99,13 +99,13 @@ public:
     StackOutput answerRelease();
     StackOutput abort();
     /// The network connection ended by itself.
-    StackOutput networkClosed(const std::string &reason);
+    StackOutput networkClosed(const Text &reason);
 
 private:
     void run(const cotp::Actions &actions, StackOutput &output);
     void run(const session::Actions &actions, StackOutput &output);
     void run(const presentation::Actions &actions, StackOutput &output,
-             const std::string &sessionReason = {});
+             const Text &sessionReason = {});
     void run(const acse::Actions &actions, StackOutput &output);
     void request(const presentation::Request &request, StackOutput &output);
     template <typename Event>

@@ -34,22 +34,17 @@ constexpr const char *suites12 = "ECDHE-ECDSA-AES256-GCM-SHA384:ECDHE-ECDSA-AES1
                                  "DHE-RSA-AES256-GCM-SHA384:DHE-RSA-AES128-GCM-SHA256";
 constexpr const char *suites13 = "TLS_AES_256_GCM_SHA384:TLS_AES_128_GCM_SHA256";
 
-Error failure(std::string message)
+Error failure(Text message)
 {
     ERR_clear_error();
     return {std::move(message), 0};
 }
 
-std::string inQuotes(const std::string &text)
-{
-    return '"' + text + '"';
-}
-
-/// What OpenSSL says of its last error, in parentheses.
+/// What OpenSSL says of its last error.
 std::string detail()
 {
     const char *reason = ERR_reason_error_string(ERR_peek_last_error());
-    return reason ? std::string(" (") + reason + ")" : std::string();
+    return reason ? reason : std::to_string(ERR_peek_last_error());
 }
 
 std::string nameText(const X509_NAME *name)
@@ -59,34 +54,33 @@ std::string nameText(const X509_NAME *name)
                        XN_FLAG_RFC2253 & ~static_cast<unsigned long>(ASN1_STRFLGS_ESC_MSB));
     char *text = nullptr;
     const long size = BIO_get_mem_data(memory.get(), &text);
-    return size > 0 ? std::string(text, static_cast<std::size_t>(size))
-                    : std::string("without a name");
+    return size > 0 ? std::string(text, static_cast<std::size_t>(size)) : std::string();
 }
 
-std::string dateText(const ASN1_TIME *time)
+Text dateText(const ASN1_TIME *time)
 {
     std::tm parts{};
     if (!time || ASN1_TIME_to_tm(time, &parts) != 1)
-        return "an unknown date";
+        return say("an unknown date");
     char buffer[32];
     std::strftime(buffer, sizeof buffer, "%Y-%m-%d %H:%M:%S UTC", &parts);
-    return buffer;
+    return verbatim(buffer);
 }
 
-Result<Bio> openFile(const std::string &file, const std::string &what)
+Result<Bio> openFile(const std::string &file, const Text &what)
 {
     if (file.empty())
-        return failure("No file is given for " + what + ".");
+        return failure(say("No file is given for %1.", what));
     errno = 0;
     Bio bio(BIO_new_file(file.c_str(), "r"));
     if (!bio)
-        return failure("The file " + inQuotes(file) + " with " + what
-                       + " cannot be opened: " + std::strerror(errno) + ".");
+        return failure(say("The file \"%1\" with %2 cannot be opened: %3.", file, what,
+                           wording::ofSystem({errno, std::generic_category()})));
     return bio;
 }
 
 /// Every certificate in a file, at least one.
-Result<std::vector<Certificate>> readCertificates(const std::string &file, const std::string &what)
+Result<std::vector<Certificate>> readCertificates(const std::string &file, const Text &what)
 {
     const auto bio = openFile(file, what);
     if (!bio)
@@ -95,23 +89,23 @@ Result<std::vector<Certificate>> readCertificates(const std::string &file, const
     while (Certificate certificate{PEM_read_bio_X509(bio->get(), nullptr, nullptr, nullptr)})
         certificates.push_back(std::move(certificate));
     if (certificates.empty())
-        return failure("The file " + inQuotes(file) + " holds no certificate in PEM.");
+        return failure(say("The file \"%1\" holds no certificate in PEM.", file));
     if (ERR_GET_REASON(ERR_peek_last_error()) != PEM_R_NO_START_LINE)
-        return failure("A certificate in the file " + inQuotes(file) + " cannot be read.");
+        return failure(say("A certificate in the file \"%1\" cannot be read.", file));
     ERR_clear_error();
     return certificates;
 }
 
 Result<std::vector<RevocationList>> readRevocationLists(const std::string &file)
 {
-    const auto bio = openFile(file, "a revocation list");
+    const auto bio = openFile(file, say("a revocation list"));
     if (!bio)
         return bio.error();
     std::vector<RevocationList> lists;
     while (RevocationList list{PEM_read_bio_X509_CRL(bio->get(), nullptr, nullptr, nullptr)})
         lists.push_back(std::move(list));
     if (lists.empty() || ERR_GET_REASON(ERR_peek_last_error()) != PEM_R_NO_START_LINE)
-        return failure("The file " + inQuotes(file) + " holds no revocation list in PEM.");
+        return failure(say("The file \"%1\" holds no revocation list in PEM.", file));
     ERR_clear_error();
     return lists;
 }
@@ -135,7 +129,7 @@ int givePassword(char *buffer, int size, int, void *data)
 
 Result<PrivateKey> readKey(const TlsOptions &options)
 {
-    const auto bio = openFile(options.keyFile, "the private key");
+    const auto bio = openFile(options.keyFile, say("the private key"));
     if (!bio)
         return bio.error();
     PasswordQuestion question{options.keyPassword};
@@ -143,21 +137,25 @@ Result<PrivateKey> readKey(const TlsOptions &options)
     if (key)
         return key;
     if (!question.asked)
-        return failure("The file " + inQuotes(options.keyFile) + " holds no private key in PEM.");
-    return failure("The private key in the file " + inQuotes(options.keyFile)
-                   + (question.password.empty() ? " is encrypted, and no password is given."
-                                                : " does not open with the password that is given."));
+        return failure(say("The file \"%1\" holds no private key in PEM.", options.keyFile));
+    return failure(question.password.empty()
+                       ? say("The private key in the file \"%1\" is encrypted, and no password is "
+                             "given.",
+                             options.keyFile)
+                       : say("The private key in the file \"%1\" does not open with the password "
+                             "that is given.",
+                             options.keyFile));
 }
 
 Result<void> checkValidity(const X509 *certificate, const std::string &file)
 {
-    const std::string begin = "The certificate " + inQuotes(subjectOf(certificate)) + " in the file "
-        + inQuotes(file);
+    const Text begin =
+        say("The certificate \"%1\" in the file \"%2\"", subjectOf(certificate), file);
     if (X509_cmp_current_time(X509_get0_notBefore(certificate)) > 0)
-        return failure(begin + " is valid only from "
-                       + dateText(X509_get0_notBefore(certificate)) + " on.");
+        return failure(
+            say("%1 is valid only from %2 on.", begin, dateText(X509_get0_notBefore(certificate))));
     if (X509_cmp_current_time(X509_get0_notAfter(certificate)) < 0)
-        return failure(begin + " expired on " + dateText(X509_get0_notAfter(certificate)) + ".");
+        return failure(say("%1 expired on %2.", begin, dateText(X509_get0_notAfter(certificate))));
     return {};
 }
 
@@ -178,31 +176,33 @@ std::optional<std::string> normalizedPin(const std::string &pin)
 
 Result<void> useIdentity(SSL_CTX *context, const TlsOptions &options)
 {
-    const auto chain = readCertificates(options.certificateFile, "the own certificate");
+    const auto chain = readCertificates(options.certificateFile, say("the own certificate"));
     if (!chain)
         return chain.error();
     const auto key = readKey(options);
     if (!key)
         return key.error();
-    const std::string file = inQuotes(options.certificateFile);
+    const std::string &file = options.certificateFile;
     X509 *const own = chain->front().get();
     if (X509_check_private_key(own, key->get()) != 1)
-        return failure("The private key in the file " + inQuotes(options.keyFile)
-                       + " does not fit the certificate in the file " + file + ".");
+        return failure(say(
+            "The private key in the file \"%1\" does not fit the certificate in the file \"%2\".",
+            options.keyFile, file));
     for (const Certificate &certificate : *chain) {
         if (auto valid = checkValidity(certificate.get(), options.certificateFile); !valid)
             return valid;
     }
     if (SSL_CTX_use_certificate(context, own) != 1)
-        return failure("The certificate in the file " + file + " cannot be used" + detail() + ".");
+        return failure(
+            say("The certificate in the file \"%1\" cannot be used (%2).", file, detail()));
     for (std::size_t i = 1; i < chain->size(); ++i) {
         if (SSL_CTX_add1_chain_cert(context, (*chain)[i].get()) != 1)
-            return failure("An issuer's certificate in the file " + file + " cannot be used"
-                           + detail() + ".");
+            return failure(say("An issuer's certificate in the file \"%1\" cannot be used (%2).",
+                               file, detail()));
     }
     if (SSL_CTX_use_PrivateKey(context, key->get()) != 1)
-        return failure("The private key in the file " + inQuotes(options.keyFile)
-                       + " cannot be used" + detail() + ".");
+        return failure(say("The private key in the file \"%1\" cannot be used (%2).",
+                           options.keyFile, detail()));
     return {};
 }
 
@@ -210,14 +210,14 @@ Result<void> useTrust(SSL_CTX *context, const TlsOptions &options)
 {
     X509_STORE *const store = SSL_CTX_get_cert_store(context);
     for (const std::string &file : options.authorityFiles) {
-        const auto authorities = readCertificates(file, "an authority");
+        const auto authorities = readCertificates(file, say("an authority"));
         if (!authorities)
             return authorities.error();
         for (const Certificate &authority : *authorities) {
-            if (X509_STORE_add_cert(store, authority.get()) != 1
-                || SSL_CTX_add_client_CA(context, authority.get()) != 1)
-                return failure("The authority in the file " + inQuotes(file) + " cannot be used"
-                               + detail() + ".");
+            if (X509_STORE_add_cert(store, authority.get()) != 1 ||
+                SSL_CTX_add_client_CA(context, authority.get()) != 1)
+                return failure(
+                    say("The authority in the file \"%1\" cannot be used (%2).", file, detail()));
         }
     }
     for (const std::string &file : options.revocationFiles) {
@@ -226,8 +226,8 @@ Result<void> useTrust(SSL_CTX *context, const TlsOptions &options)
             return lists.error();
         for (const RevocationList &list : *lists) {
             if (X509_STORE_add_crl(store, list.get()) != 1)
-                return failure("The revocation list in the file " + inQuotes(file)
-                               + " cannot be used" + detail() + ".");
+                return failure(say("The revocation list in the file \"%1\" cannot be used (%2).",
+                                   file, detail()));
         }
     }
     unsigned long flags = X509_V_FLAG_X509_STRICT;
@@ -249,29 +249,30 @@ OpenSslPointer<SSL_CTX, SSL_CTX_free> makeContext(const TlsOptions &options)
         return nullptr;
     SSL_CTX *const c = context.get();
     SSL_CTX_set_security_level(c, securityLevel);
-    SSL_CTX_set_options(c, SSL_OP_NO_COMPRESSION | SSL_OP_NO_RENEGOTIATION | SSL_OP_NO_TICKET
-                            | SSL_OP_CIPHER_SERVER_PREFERENCE);
+    SSL_CTX_set_options(c, SSL_OP_NO_COMPRESSION | SSL_OP_NO_RENEGOTIATION | SSL_OP_NO_TICKET |
+                               SSL_OP_CIPHER_SERVER_PREFERENCE);
     SSL_CTX_set_session_cache_mode(c, SSL_SESS_CACHE_OFF);
     SSL_CTX_set_mode(c, SSL_MODE_RELEASE_BUFFERS);
     SSL_CTX_set_verify(c, SSL_VERIFY_PEER | SSL_VERIFY_FAIL_IF_NO_PEER_CERT, nullptr);
-    const bool isSet = SSL_CTX_set_min_proto_version(c, numberOf(options.minimumVersion)) == 1
-        && SSL_CTX_set_max_proto_version(c, numberOf(options.maximumVersion)) == 1
-        && SSL_CTX_set_cipher_list(c, suites12) == 1 && SSL_CTX_set_ciphersuites(c, suites13) == 1
-        && SSL_CTX_set_num_tickets(c, 0) == 1 && SSL_CTX_set_dh_auto(c, 1) == 1;
+    const bool isSet = SSL_CTX_set_min_proto_version(c, numberOf(options.minimumVersion)) == 1 &&
+                       SSL_CTX_set_max_proto_version(c, numberOf(options.maximumVersion)) == 1 &&
+                       SSL_CTX_set_cipher_list(c, suites12) == 1 &&
+                       SSL_CTX_set_ciphersuites(c, suites13) == 1 &&
+                       SSL_CTX_set_num_tickets(c, 0) == 1 && SSL_CTX_set_dh_auto(c, 1) == 1;
     return isSet ? std::move(context) : nullptr;
 }
 
 struct AlertText
 {
     int reason;
-    const char *text;
+    wording::Pattern<0> text;
 };
 
-constexpr const char *noCommonVersion =
-    "The peer and this side have no version of TLS in common.";
-constexpr const char *noCommonSuite =
-    "The peer and this side have no cipher suite in common, or no certificate fits it.";
-constexpr const char *noTls = "The peer does not speak TLS.";
+constexpr auto noCommonVersion =
+    wording::pattern("The peer and this side have no version of TLS in common.");
+constexpr auto noCommonSuite = wording::pattern(
+    "The peer and this side have no cipher suite in common, or no certificate fits it.");
+constexpr auto noTls = wording::pattern("The peer does not speak TLS.");
 
 constexpr AlertText errorTexts[] = {
     {SSL_R_UNSUPPORTED_PROTOCOL, noCommonVersion},
@@ -288,23 +289,31 @@ constexpr AlertText errorTexts[] = {
     {SSL_R_HTTPS_PROXY_REQUEST, noTls},
     {SSL_R_PACKET_LENGTH_TOO_LONG, noTls},
     {SSL_R_RECORD_LENGTH_MISMATCH, noTls},
-    {SSL_R_PEER_DID_NOT_RETURN_A_CERTIFICATE, "The peer has shown no certificate."},
+    {SSL_R_PEER_DID_NOT_RETURN_A_CERTIFICATE,
+     wording::pattern("The peer has shown no certificate.")},
     {SSL_R_TLSV13_ALERT_CERTIFICATE_REQUIRED,
-     "The peer asks for a certificate, and this side has none that it trusts."},
+     wording::pattern("The peer asks for a certificate, and this side has none that it trusts.")},
     {SSL_R_SSLV3_ALERT_CERTIFICATE_EXPIRED,
-     "The peer refuses the certificate of this side because it has expired or is not valid yet."},
+     wording::pattern(
+         "The peer refuses the certificate of this side because it has expired or is not valid yet.")},
     {SSL_R_SSLV3_ALERT_CERTIFICATE_REVOKED,
-     "The peer refuses the certificate of this side because it has been revoked."},
+     wording::pattern(
+         "The peer refuses the certificate of this side because it has been revoked.")},
     {SSL_R_TLSV1_ALERT_UNKNOWN_CA,
-     "The peer refuses the certificate of this side because it does not trust its issuer."},
-    {SSL_R_SSLV3_ALERT_BAD_CERTIFICATE, "The peer refuses the certificate of this side."},
-    {SSL_R_SSLV3_ALERT_CERTIFICATE_UNKNOWN, "The peer refuses the certificate of this side."},
+     wording::pattern(
+         "The peer refuses the certificate of this side because it does not trust its issuer.")},
+    {SSL_R_SSLV3_ALERT_BAD_CERTIFICATE,
+     wording::pattern("The peer refuses the certificate of this side.")},
+    {SSL_R_SSLV3_ALERT_CERTIFICATE_UNKNOWN,
+     wording::pattern("The peer refuses the certificate of this side.")},
     {SSL_R_SSLV3_ALERT_UNSUPPORTED_CERTIFICATE,
-     "The peer refuses the certificate of this side because it is not of a kind that it takes."},
+     wording::pattern(
+         "The peer refuses the certificate of this side because it is not of a kind that it takes.")},
     {SSL_R_TLSV1_ALERT_ACCESS_DENIED,
-     "The peer knows the certificate of this side and denies it access."},
+     wording::pattern("The peer knows the certificate of this side and denies it access.")},
     {SSL_R_TLSV1_ALERT_DECRYPT_ERROR,
-     "The peer refuses the handshake because a signature of this side does not fit."},
+     wording::pattern(
+         "The peer refuses the handshake because a signature of this side does not fit.")},
 };
 
 } // namespace
@@ -329,66 +338,69 @@ std::string subjectOf(const X509 *certificate)
     return nameText(X509_get_subject_name(certificate));
 }
 
-std::string refusalText(X509_STORE_CTX *store)
+Text refusalText(X509_STORE_CTX *store)
 {
     const int code = X509_STORE_CTX_get_error(store);
     const X509 *const certificate = X509_STORE_CTX_get_current_cert(store);
     const std::string issuer =
-        certificate ? inQuotes(nameText(X509_get_issuer_name(certificate))) : std::string("unknown");
+        certificate ? nameText(X509_get_issuer_name(certificate)) : std::string();
     const bool isPeers = X509_STORE_CTX_get_error_depth(store) == 0;
-    const std::string begin = (isPeers ? "The peer's certificate " : "The issuer's certificate ")
-        + inQuotes(certificate ? subjectOf(certificate) : std::string());
+    const std::string subject = certificate ? subjectOf(certificate) : std::string();
+    const Text begin = isPeers ? say("The peer's certificate \"%1\"", subject)
+                               : say("The issuer's certificate \"%1\"", subject);
     switch (code) {
     case X509_V_ERR_CERT_HAS_EXPIRED:
-        return begin + " expired on "
-            + dateText(certificate ? X509_get0_notAfter(certificate) : nullptr) + ".";
+        return say("%1 expired on %2.", begin,
+                   dateText(certificate ? X509_get0_notAfter(certificate) : nullptr));
     case X509_V_ERR_CERT_NOT_YET_VALID:
-        return begin + " is valid only from "
-            + dateText(certificate ? X509_get0_notBefore(certificate) : nullptr) + " on.";
+        return say("%1 is valid only from %2 on.", begin,
+                   dateText(certificate ? X509_get0_notBefore(certificate) : nullptr));
     case X509_V_ERR_UNABLE_TO_GET_ISSUER_CERT:
     case X509_V_ERR_UNABLE_TO_GET_ISSUER_CERT_LOCALLY:
     case X509_V_ERR_UNABLE_TO_VERIFY_LEAF_SIGNATURE:
-        return begin + " was issued by " + issuer + ", which is not trusted here.";
+        return say("%1 was issued by \"%2\", which is not trusted here.", begin, issuer);
     case X509_V_ERR_DEPTH_ZERO_SELF_SIGNED_CERT:
     case X509_V_ERR_SELF_SIGNED_CERT_IN_CHAIN:
-        return begin + " was issued by itself and is not trusted here.";
+        return say("%1 was issued by itself and is not trusted here.", begin);
     case X509_V_ERR_CERT_SIGNATURE_FAILURE:
-        return begin + " bears the name of the issuer " + issuer + ", but not its signature.";
+        return say("%1 bears the name of the issuer \"%2\", but not its signature.", begin, issuer);
     case X509_V_ERR_CERT_REVOKED:
-        return begin + " has been revoked.";
+        return say("%1 has been revoked.", begin);
     case X509_V_ERR_UNABLE_TO_GET_CRL:
-        return begin + " cannot be checked: there is no revocation list of its issuer " + issuer
-            + ".";
+        return say("%1 cannot be checked: there is no revocation list of its issuer \"%2\".", begin,
+                   issuer);
     case X509_V_ERR_CRL_HAS_EXPIRED:
-        return begin + " cannot be checked: the revocation list of its issuer " + issuer
-            + " is out of date.";
+        return say("%1 cannot be checked: the revocation list of its issuer \"%2\" is out of date.",
+                   begin, issuer);
     case X509_V_ERR_CRL_NOT_YET_VALID:
-        return begin + " cannot be checked: the revocation list of its issuer " + issuer
-            + " is not valid yet.";
+        return say(
+            "%1 cannot be checked: the revocation list of its issuer \"%2\" is not valid yet.",
+            begin, issuer);
     case X509_V_ERR_CRL_SIGNATURE_FAILURE:
-        return begin + " cannot be checked: the revocation list of its issuer " + issuer
-            + " does not bear its signature.";
+        return say(
+            "%1 cannot be checked: the revocation list of its issuer \"%2\" does not bear its signature.",
+            begin, issuer);
     case X509_V_ERR_INVALID_PURPOSE:
-        return begin + " is not meant for this side of a TLS connection.";
+        return say("%1 is not meant for this side of a TLS connection.", begin);
     case X509_V_ERR_HOSTNAME_MISMATCH:
     case X509_V_ERR_IP_ADDRESS_MISMATCH:
-        return begin + " is not made out to the host that was asked for.";
+        return say("%1 is not made out to the host that was asked for.", begin);
     case X509_V_ERR_EE_KEY_TOO_SMALL:
     case X509_V_ERR_CA_KEY_TOO_SMALL:
-        return begin + " has a key that is too short to be safe.";
+        return say("%1 has a key that is too short to be safe.", begin);
     default:
-        return begin + " is not accepted: " + X509_verify_cert_error_string(code) + ".";
+        return say("%1 is not accepted: %2.", begin, X509_verify_cert_error_string(code));
     }
 }
 
-std::string tlsErrorText(unsigned long code)
+Text tlsErrorText(unsigned long code)
 {
     for (const AlertText &entry : errorTexts) {
         if (entry.reason == ERR_GET_REASON(code))
-            return entry.text;
+            return say(entry.text);
     }
     const char *reason = ERR_reason_error_string(code);
-    return std::string("TLS failed: ") + (reason ? reason : "for an unknown reason") + ".";
+    return reason ? say("TLS failed: %1.", reason) : say("TLS failed for an unknown reason.");
 }
 
 TlsContext::TlsContext(Key, std::unique_ptr<Private> content)
@@ -401,24 +413,25 @@ TlsContext::~TlsContext() = default;
 Result<std::shared_ptr<const TlsContext>> TlsContext::load(const TlsOptions &options)
 {
     if (options.minimumVersion > options.maximumVersion)
-        return failure("The lowest version of TLS that is allowed is above the highest one.");
+        return failure(say("The lowest version of TLS that is allowed is above the highest one."));
     if (options.authorityFiles.empty() && options.pins.empty())
-        return failure("Neither an authority nor a fingerprint says which peers are trusted.");
+        return failure(say("Neither an authority nor a fingerprint says which peers are trusted."));
     if (options.authorityFiles.empty() && !options.revocationFiles.empty())
-        return failure("Revocation lists are of no use without the authorities that issued them.");
+        return failure(
+            say("Revocation lists are of no use without the authorities that issued them."));
     auto content = std::make_unique<Private>();
     for (const std::string &pin : options.pins) {
         auto digits = normalizedPin(pin);
         if (!digits)
-            return failure(inQuotes(pin)
-                           + " is not a SHA-256 fingerprint of 64 hexadecimal digits.");
+            return failure(
+                say("\"%1\" is not a SHA-256 fingerprint of 64 hexadecimal digits.", pin));
         content->pins.insert(std::move(*digits));
     }
     content->peerName = options.peerName;
     content->onlyPinned = options.authorityFiles.empty();
     content->context = makeContext(options);
     if (!content->context)
-        return failure("TLS cannot be set up" + detail() + ".");
+        return failure(say("TLS cannot be set up (%1).", detail()));
     if (auto used = useIdentity(content->context.get(), options); !used)
         return used.error();
     if (auto used = useTrust(content->context.get(), options); !used)
@@ -437,7 +450,7 @@ Result<void> validate(const TlsOptions &options)
 
 Result<std::string> certificateFingerprint(const std::string &file)
 {
-    const auto certificates = readCertificates(file, "a certificate");
+    const auto certificates = readCertificates(file, say("a certificate"));
     if (!certificates)
         return certificates.error();
     return fingerprintOf(certificates->front().get());

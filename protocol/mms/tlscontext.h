@@ -39,8 +39,8 @@ std::string fingerprintOf(X509 *certificate);
 /// As in "CN=IED1,O=Utility".
 std::string subjectOf(const X509 *certificate);
 /// Why OpenSSL does not accept the certificate that it looks at.
-std::string refusalText(X509_STORE_CTX *store);
+Text refusalText(X509_STORE_CTX *store);
 /// Why a handshake failed or a secured connection broke; @p code is OpenSSL's packed error.
-std::string tlsErrorText(unsigned long code);
+Text tlsErrorText(unsigned long code);
 
 } // namespace mms

@@ -35,17 +35,19 @@ Result<std::optional<Bytes>> TpktReader::next()
 {
     const Bytes rest = Bytes(m_buffer).subspan(m_begin);
     if (!rest.empty() && rest[0] != version) {
-        return Error{"The peer does not speak ISO transport over TCP: a packet begins with "
-                         + std::to_string(rest[0]) + " instead of 3.",
-                     0};
+        return Error{
+            say("The peer does not speak ISO transport over TCP: a packet begins with %1 instead of 3.",
+                rest[0]),
+            0};
     }
     if (rest.size() < tpktHeaderSize)
         return std::optional<Bytes>();
     const std::size_t length = static_cast<std::size_t>(rest[2]) << 8 | rest[3];
     if (length <= tpktHeaderSize)
-        return Error{"A transport packet says that it is " + std::to_string(length)
-                         + " octets long, which leaves no room for its content.",
-                     2};
+        return Error{
+            say("A transport packet says that it is %1 octets long, which leaves no room for its content.",
+                length),
+            2};
     if (rest.size() < length)
         return std::optional<Bytes>();
     m_begin += length;

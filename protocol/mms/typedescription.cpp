@@ -46,7 +46,7 @@ TypeDescription readInside(Reader &reader, Tag group, std::string_view what)
 {
     Reader inner = reader.expectGroup(group, what);
     TypeDescription type = TypeCodec::readNext(inner);
-    inner.expectEnd("a type");
+    inner.expectEnd("TypeSpecification");
     return type;
 }
 
@@ -165,7 +165,7 @@ TypeDescription TypeCodec::read(Reader &reader, const Element &element)
         return type;
     const std::uint32_t number = element.tag.number();
     if (!element.tag.isContext() || element.tag.isConstructed() != isGroup(number)) {
-        reader.input().fail("An element that is no type stands where a type belongs",
+        reader.input().fail(say("An element that is no type stands where a type belongs."),
                             element.offset);
         return type;
     }
@@ -174,35 +174,33 @@ TypeDescription TypeCodec::read(Reader &reader, const Element &element)
     case Kind::TypeName: {
         Reader inner = reader.enter(element);
         type.typeName = std::make_shared<const ObjectName>(codec::readObjectName(inner));
-        inner.expectEnd("the name of a type");
+        inner.expectEnd("typeName");
         return type;
     }
     case Kind::Array: {
         Reader inner = reader.enter(element);
         type.packed = readPacked(inner);
-        type.elementCount =
-            inner.unsigned32(inner.expect(Tag::context(1), "The number of elements of an array"));
-        type.components.push_back(
-            {{}, readInside(inner, Tag::group(2), "The type of the elements of an array")});
-        inner.expectEnd("an array type");
+        type.elementCount = inner.unsigned32(inner.expect(Tag::context(1), "numberOfElements"));
+        type.components.push_back({{}, readInside(inner, Tag::group(2), "elementType")});
+        inner.expectEnd("array");
         return type;
     }
     case Kind::Structure: {
         Reader inner = reader.enter(element);
         type.packed = readPacked(inner);
-        Reader list = inner.expectGroup(Tag::group(1), "The list of components of a structure");
+        Reader list = inner.expectGroup(Tag::group(1), "components");
         type.components.reserve(list.countRest());
         while (!list.atEnd()) {
-            Reader member = list.expectGroup(ber::tags::sequence, "A component of a structure");
+            Reader member = list.expectGroup(ber::tags::sequence, "components");
             TypeDescription::Component component;
             Element name;
             if (member.takeIf(Tag::context(0), name))
                 component.name = member.text(name);
-            component.type = readInside(member, Tag::group(1), "The type of a component");
-            member.expectEnd("a component of a structure");
+            component.type = readInside(member, Tag::group(1), "componentType");
+            member.expectEnd("components");
             type.components.push_back(std::move(component));
         }
-        inner.expectEnd("a structure type");
+        inner.expectEnd("structure");
         return type;
     }
     case Kind::Integer:
@@ -212,11 +210,9 @@ TypeDescription TypeCodec::read(Reader &reader, const Element &element)
         return type;
     case Kind::FloatingPoint: {
         Reader inner = reader.enter(element);
-        type.size = unsigned8(
-            inner, inner.expect(ber::tags::integer, "The width of a floating-point number"));
-        type.exponentWidth = unsigned8(
-            inner, inner.expect(ber::tags::integer, "The exponent of a floating-point number"));
-        inner.expectEnd("a floating-point type");
+        type.size = unsigned8(inner, inner.expect(ber::tags::integer, "format-width"));
+        type.exponentWidth = unsigned8(inner, inner.expect(ber::tags::integer, "exponent-width"));
+        inner.expectEnd("floating-point");
         return type;
     }
     case Kind::BitString:
@@ -235,7 +231,8 @@ TypeDescription TypeCodec::read(Reader &reader, const Element &element)
         reader.null(element);
         return type;
     }
-    reader.input().fail("An element that is no type stands where a type belongs", element.offset);
+    reader.input().fail(say("An element that is no type stands where a type belongs."),
+                        element.offset);
     return type;
 }
 
@@ -243,7 +240,7 @@ TypeDescription TypeCodec::readNext(Reader &reader)
 {
     Element element;
     if (!reader.next(element))
-        reader.fail("A type is missing");
+        reader.fail(say("The element %1 is missing.", "TypeSpecification"));
     return read(reader, element);
 }
 
@@ -309,7 +306,7 @@ Result<TypeDescription> decodeTypeDescription(Bytes bytes, const ber::Limits &li
     ber::Input input(bytes, limits);
     Reader reader = input.reader();
     TypeDescription type = TypeCodec::readNext(reader);
-    reader.expectEnd("the type");
+    reader.expectEnd("TypeSpecification");
     return input.finish(std::move(type));
 }
 

@@ -130,7 +130,7 @@ Address readAddress(Reader &reader)
         address.kind = Address::Kind::Unconstrained;
         address.symbol = reader.text(element);
     } else {
-        reader.fail("An address is missing or of an unknown kind");
+        reader.fail(say("The element %1 is missing or of an unknown kind.", "Address"));
     }
     return address;
 }
@@ -147,18 +147,18 @@ VariableSpecification readVariableSpecification(Reader &reader)
 {
     Element element;
     if (reader.peek() == Tag::group(0))
-        return readObjectName(reader, Tag::group(0), "The name of a variable");
+        return readObjectName(reader, Tag::group(0), "name");
     if (reader.takeIf(Tag::group(1), element)) {
         Reader inner = reader.enter(element);
         Address address = readAddress(inner);
-        inner.expectEnd("an address");
+        inner.expectEnd("Address");
         return address;
     }
     if (reader.takeIf(Tag::context(4), element)) {
         reader.null(element);
         return InvalidatedVariable();
     }
-    reader.fail("A variable is missing or specified in an unsupported way");
+    reader.fail(say("The element %1 is missing or of an unknown kind.", "VariableSpecification"));
     return InvalidatedVariable();
 }
 
@@ -194,14 +194,15 @@ void readSelection(Reader &reader, std::uint32_t offset, AlternateAccess &access
     } else if (reader.takeIf(Tag::group(offset + 2), element)) {
         access.kind = AlternateAccess::Kind::IndexRange;
         Reader range = reader.enter(element);
-        access.index = range.unsigned32(range.expect(Tag::context(0), "The first element"));
-        access.count = range.unsigned32(range.expect(Tag::context(1), "The number of elements"));
-        range.expectEnd("a range of elements");
+        access.index = range.unsigned32(range.expect(Tag::context(0), "lowIndex"));
+        access.count = range.unsigned32(range.expect(Tag::context(1), "numberOfElements"));
+        range.expectEnd("indexRange");
     } else if (reader.takeIf(Tag::context(offset + 3), element)) {
         access.kind = AlternateAccess::Kind::AllElements;
         reader.null(element);
     } else {
-        reader.fail("The part of a variable is missing or of an unknown kind");
+        reader.fail(
+            say("The element %1 is missing or of an unknown kind.", "AlternateAccessSelection"));
     }
 }
 
@@ -212,9 +213,8 @@ void readPart(Reader &reader, AlternateAccess &access)
         return readSelection(reader, wholeOffset, access);
     Reader inner = reader.enter(element);
     readSelection(inner, 0, access);
-    access.parts = readAlternateAccess(
-        inner.expectGroup(ber::tags::sequence, "The parts of what is selected"));
-    inner.expectEnd("an alternate access");
+    access.parts = readAlternateAccess(inner.expectGroup(ber::tags::sequence, "AlternateAccess"));
+    inner.expectEnd("AlternateAccess");
 }
 
 std::vector<AlternateAccess> readAlternateAccess(Reader reader)
@@ -226,9 +226,9 @@ std::vector<AlternateAccess> readAlternateAccess(Reader reader)
         Element element;
         if (reader.takeIf(Tag::group(5), element)) {
             Reader inner = reader.enter(element);
-            access.name = inner.text(inner.expect(Tag::context(0), "The name of a part"));
+            access.name = inner.text(inner.expect(Tag::context(0), "componentName"));
             readPart(inner, access);
-            inner.expectEnd("a named part");
+            inner.expectEnd("named");
         } else {
             readPart(reader, access);
         }
@@ -283,13 +283,13 @@ std::vector<VariableAccess> readVariableList(Reader reader)
     std::vector<VariableAccess> result;
     result.reserve(reader.countRest());
     while (!reader.atEnd()) {
-        Reader member = reader.expectGroup(ber::tags::sequence, "A variable of a list");
+        Reader member = reader.expectGroup(ber::tags::sequence, "listOfVariable");
         VariableAccess &access = result.emplace_back();
         access.variable = readVariableSpecification(member);
         Element element;
         if (member.takeIf(Tag::group(5), element))
             access.parts = readAlternateAccess(member.enter(element));
-        member.expectEnd("a variable of a list");
+        member.expectEnd("listOfVariable");
     }
     return result;
 }
@@ -313,8 +313,9 @@ VariableAccessSpecification readVariableAccessSpecification(Reader &reader)
     if (reader.takeIf(Tag::group(0), element))
         return readVariableList(reader.enter(element));
     if (reader.peek() == Tag::group(1))
-        return readObjectName(reader, Tag::group(1), "The name of a list of variables");
-    reader.fail("The variables are missing");
+        return readObjectName(reader, Tag::group(1), "variableListName");
+    reader.fail(
+        say("The element %1 is missing or of an unknown kind.", "variableAccessSpecification"));
     return std::vector<VariableAccess>();
 }
 

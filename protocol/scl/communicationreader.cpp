@@ -3,6 +3,8 @@
 
 namespace scl {
 
+using wording::say;
+
 void CommunicationReader::readCommunication()
 {
     std::vector<ConnectedAccessPoint> connections;
@@ -35,15 +37,15 @@ void CommunicationReader::checkConnection(
 {
     const auto ied = ieds.find(connection.iedName);
     if (ied == ieds.end()) {
-        info(element, "The IED " + quoted(connection.iedName) + " is not in this file.");
+        info(element, say("The IED \"%1\" is not in this file.", connection.iedName));
         return;
     }
     for (const AccessPoint &point : ied->second->accessPoints) {
         if (point.name == connection.apName)
             return;
     }
-    warn(element, "The IED " + quoted(connection.iedName) + " has no access point " +
-                      quoted(connection.apName) + ".");
+    warn(element,
+         say("The IED \"%1\" has no access point \"%2\".", connection.iedName, connection.apName));
 }
 
 std::span<const AddressPart> CommunicationReader::readAddress(std::uint32_t element)
@@ -91,7 +93,7 @@ std::optional<std::uint32_t> CommunicationReader::readTime(std::uint32_t element
         return std::nullopt;
     const auto time = toNumber<std::uint32_t>(m_tree.at(child).text);
     if (!time)
-        warn(child, quoted(m_tree.at(child).text) + " is not a number of milliseconds.");
+        warn(child, say("\"%1\" is not a number of milliseconds.", m_tree.at(child).text));
     return time;
 }
 

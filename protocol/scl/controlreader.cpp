@@ -6,6 +6,8 @@
 
 namespace scl {
 
+using wording::say;
+
 void ControlReader::readControls(std::uint32_t element, std::string_view deviceInst,
                                  LogicalNode &node)
 {
@@ -19,9 +21,9 @@ void ControlReader::readControls(std::uint32_t element, std::string_view deviceI
         set.name = trimmed(value(child, Attr::Name));
         set.desc = value(child, Attr::Desc);
         if (set.name.empty())
-            error(child, "The data set has no name.");
+            error(child, say("The data set has no name."));
         if (!m_dataSets.emplace(set.name, dataSets.size()).second)
-            error(child, "There is another data set " + quoted(set.name) + ".");
+            error(child, say("There is another data set \"%1\".", set.name));
         std::vector<DataSetMember> members;
         m_tree.forEachChild(child, [&](std::uint32_t entry, Tag entryTag) {
             if (entryTag == Tag::Fcda) {
@@ -31,7 +33,7 @@ void ControlReader::readControls(std::uint32_t element, std::string_view deviceI
             }
         });
         if (members.empty())
-            warn(child, "The data set has no members.");
+            warn(child, say("The data set has no members."));
         const std::span<DataSetMember> kept = keepMutable(members);
         set.members = kept;
         m_pendingSets.push_back({child, kept.data(), deviceInst});
@@ -47,9 +49,9 @@ void ControlReader::readControls(std::uint32_t element, std::string_view deviceI
     std::set<std::pair<Tag, std::string_view>> names; // unique among blocks of their kind
     const auto checkName = [&](std::uint32_t child, std::string_view name) {
         if (name.empty())
-            error(child, "The control block has no name.");
+            error(child, say("The control block has no name."));
         else if (!names.emplace(m_tree.at(child).tag, name).second)
-            error(child, "There is another control block " + quoted(name) + ".");
+            error(child, say("There is another control block \"%1\".", name));
     };
     m_tree.forEachChild(element, [&](std::uint32_t child, Tag tag) {
         switch (tag) {
@@ -93,8 +95,9 @@ const DataSet *ControlReader::dataSetOf(std::uint32_t element, const LogicalNode
         return nullptr;
     if (const auto found = m_dataSets.find(name); found != m_dataSets.end())
         return &node.dataSets[found->second];
-    error(element, "The data set " + quoted(name) +
-                       " of the control block does not exist in its logical node.");
+    error(
+        element,
+        say("The data set \"%1\" of the control block does not exist in its logical node.", name));
     return nullptr;
 }
 
@@ -152,8 +155,8 @@ ReportControl ControlReader::readReport(std::uint32_t element, const LogicalNode
         });
         if (report.maxInstances == 0 || report.maxInstances > maxReportInstances) {
             const std::uint32_t used = report.maxInstances == 0 ? 1 : maxReportInstances;
-            error(child, "The number of instances is " + std::to_string(report.maxInstances) +
-                             "; " + std::to_string(used) + " is used.");
+            error(child,
+                  say("The number of instances is %1; %2 is used.", report.maxInstances, used));
             report.maxInstances = used;
         }
     }
@@ -239,7 +242,8 @@ SampledValueControl ControlReader::readSampledValueControl(std::uint32_t element
 void ControlReader::readSettingControl(std::uint32_t element, LogicalNode &node)
 {
     if (node.settingControl) {
-        error(element, "The logical node has another setting group control; the first is used.");
+        error(element,
+              say("The logical node has another setting group control; the first is used."));
         return;
     }
     SettingControl control;
@@ -249,18 +253,17 @@ void ControlReader::readSettingControl(std::uint32_t element, LogicalNode &node)
     control.activeGroup = number(element, Attr::ActSg, "actSG", 1);
     control.reservationTime = number(element, Attr::ResvTms, "resvTms", 0);
     if (control.groupCount == 0) {
-        error(element, "The number of setting groups is 0; 1 is used.");
+        error(element, say("The number of setting groups is 0; 1 is used."));
         control.groupCount = 1;
     }
     if (control.activeGroup == 0 || control.activeGroup > control.groupCount) {
-        error(element, "The active setting group is " + std::to_string(control.activeGroup) +
-                           ", but there are " + std::to_string(control.groupCount) +
-                           "; group 1 is used.");
+        error(element, say("The active setting group is %1, but there are %2; group 1 is used.",
+                           control.activeGroup, control.groupCount));
         control.activeGroup = 1;
     }
     if (node.lnClass != "LLN0")
         warn(element,
-             "A setting group control stands in " + quoted(node.name) + " instead of the LLN0.");
+             say("A setting group control stands in \"%1\" instead of the LLN0.", node.name));
     node.settingControl = keepOne(control);
 }
 
@@ -310,16 +313,16 @@ void ControlReader::resolveMember(std::uint32_t element, const Ied &ied,
     if (const std::string_view ix = trimmed(value(element, Attr::Ix)); !ix.empty()) {
         arrayIndex = toNumber<std::int32_t>(ix).value_or(-1);
         if (arrayIndex < 0)
-            error(element, quoted(ix) + " is not the number of an array element.");
+            error(element, say("\"%1\" is not the number of an array element.", ix));
     }
 
-    std::string problem;
+    wording::Text problem;
     if (device == devices.end()) {
-        problem = "There is no logical device " + quoted(deviceInst);
+        problem = say("There is no logical device \"%1\"", deviceInst);
     } else {
         const auto node = device->second.nodes.find(nodeName);
         if (node == device->second.nodes.end()) {
-            problem = "There is no logical node " + quoted(nodeName) + " in " + quoted(deviceInst);
+            problem = say("There is no logical node \"%1\" in \"%2\"", nodeName, deviceInst);
         } else {
             problem = walkMember(*node->second, objectParts, parts, arrayIndex, member);
         }
@@ -341,26 +344,26 @@ void ControlReader::resolveMember(std::uint32_t element, const Ied &ied,
     member.reference = keepText(reference);
     member.resolved = problem.empty();
     if (!member.resolved)
-        error(element, problem + ", so the member " + quoted(reference) + " does not exist.");
+        error(element, say("%1, so the member \"%2\" does not exist.", problem, reference));
 }
 
-std::string ControlReader::walkMember(const LogicalNode &node, std::size_t objectParts,
-                                      std::vector<PathPart> &parts, std::int32_t arrayIndex,
-                                      DataSetMember &member)
+wording::Text ControlReader::walkMember(const LogicalNode &node, std::size_t objectParts,
+                                        std::vector<PathPart> &parts, std::int32_t arrayIndex,
+                                        DataSetMember &member)
 {
     if (member.fc.empty())
-        return "There is no functional constraint (attribute fc)";
+        return say("There is no functional constraint (attribute fc)");
     if (parts.empty())
         return {};
     DataNode current;
     for (std::size_t i = 0; i < parts.size(); ++i) {
         PathPart &part = parts[i];
         if (i > 0 && current.isArray())
-            return quoted(current.name()) + " is an array, and no element is given";
+            return say("\"%1\" is an array, and no element is given", current.name());
         const DataNode next = i == 0 ? node.dataObject(part.name) : current.child(part.name);
         // A sub data object belongs into doName, but some tools write it in front of daName.
         if (!next.isValid() || (i < objectParts && next.node().kind == NodeKind::Attribute))
-            return "There is no " + quoted(part.name);
+            return say("There is no \"%1\"", part.name);
         current = next;
         if (current.isArray() && part.index < 0) {
             part.index = arrayIndex;
@@ -369,17 +372,17 @@ std::string ControlReader::walkMember(const LogicalNode &node, std::size_t objec
         if (part.index < 0)
             continue;
         if (!current.isArray())
-            return quoted(part.name) + " is not an array";
+            return say("\"%1\" is not an array", part.name);
         if (static_cast<std::uint32_t>(part.index) >= current.arraySize().value_or(0))
-            return quoted(part.name) + " has no element " + std::to_string(part.index);
+            return say("\"%1\" has no element %2", part.name, part.index);
         current = current.elementAt(static_cast<std::uint32_t>(part.index));
     }
     const bool constraintFits = current.node().kind == NodeKind::Attribute
                                     ? current.fc() == member.fc
                                     : m_types.hasConstraint(current.node().type, member.fc);
     if (!constraintFits) {
-        return "There is nothing of functional constraint " + quoted(member.fc) + " in " +
-               quoted(parts.back().name);
+        return say("There is nothing of functional constraint \"%1\" in \"%2\"", member.fc,
+                   parts.back().name);
     }
     member.node = &current.node();
     return {};

@@ -53,9 +53,9 @@ private:
     void resolveMember(std::uint32_t element, const Ied &ied, const KnownDevices &devices,
                        std::string_view homeDevice, DataSetMember &member);
     /// Empty when the member exists, else what is wrong, as the begin of a sentence.
-    std::string walkMember(const LogicalNode &node, std::size_t objectParts,
-                           std::vector<PathPart> &parts, std::int32_t arrayIndex,
-                           DataSetMember &member);
+    wording::Text walkMember(const LogicalNode &node, std::size_t objectParts,
+                             std::vector<PathPart> &parts, std::int32_t arrayIndex,
+                             DataSetMember &member);
 
     const TypeResolver &m_types;
     std::vector<PendingSet> m_pendingSets;

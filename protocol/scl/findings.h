@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "wording/text.h"
+
 #include <cstdint>
 #include <string>
 
@@ -19,7 +21,7 @@ struct Finding
     Severity severity = Severity::Info;
     std::uint32_t line = 0; ///< line of the element in the file, 1 for the first
     std::string path;       ///< element path, for example "SCL/IED[BAY1]/AccessPoint[S1]"
-    std::string text;       ///< one sentence
+    wording::Text text;     ///< one sentence
 };
 
 } // namespace scl

@@ -7,6 +7,8 @@
 
 namespace scl {
 
+using wording::say;
+
 std::span<const InstanceNode> InstanceReader::readInstances(std::uint32_t element,
                                                             const Template *type)
 {
@@ -29,11 +31,11 @@ std::span<const InstanceNode> InstanceReader::readInstances(std::uint32_t elemen
         node.valueKind = value(child, Attr::ValKind);
         if (bound.isLeaf()) {
             if (tag != Tag::Dai)
-                reportInstance(child, "names an attribute, which takes a DAI");
+                warn(child, say("\"%1\" names an attribute, which takes a DAI.", nameOf(child)));
             node.values = m_values.readValues(child, bound);
         } else {
             if (tag == Tag::Dai && m_tree.firstChild(child, Tag::Val) != noElement)
-                reportInstance(child, "has a value, but it is a structure");
+                warn(child, say("\"%1\" has a value, but it is a structure.", nameOf(child)));
             node.children = readInstances(child, bound.type);
         }
         if (!nodes.empty() && !before(nodes.back(), node))
@@ -64,7 +66,7 @@ void InstanceReader::sortInstances(std::vector<InstanceNode> &nodes,
     sorted.reserve(nodes.size());
     for (const std::size_t i : order) {
         if (!sorted.empty() && !before(sorted.back(), nodes[i])) {
-            error(elements[i], "The instance is given twice; the first is used.");
+            error(elements[i], say("The instance is given twice; the first is used."));
             continue;
         }
         sorted.push_back(nodes[i]);
@@ -72,9 +74,9 @@ void InstanceReader::sortInstances(std::vector<InstanceNode> &nodes,
     nodes = std::move(sorted);
 }
 
-void InstanceReader::reportInstance(std::uint32_t element, std::string_view why)
+std::string_view InstanceReader::nameOf(std::uint32_t element) const
 {
-    warn(element, quoted(value(element, Attr::Name)) + " " + std::string(why) + ".");
+    return value(element, Attr::Name);
 }
 
 std::size_t InstanceReader::positionOf(const Template &type, std::string_view name,
@@ -103,7 +105,7 @@ bool InstanceReader::bind(std::uint32_t element, const Template &type, std::uint
 {
     const std::string_view *written = m_tree.find(element, Attr::Name);
     if (!written) {
-        warn(element, "The instance has no name and is left out.");
+        warn(element, say("The instance has no name and is left out."));
         return false;
     }
     PathPart part{trimmed(*written), -1};
@@ -111,14 +113,14 @@ bool InstanceReader::bind(std::uint32_t element, const Template &type, std::uint
         part = splitIndex(part.name);
     const std::size_t found = positionOf(type, part.name, hint);
     if (found == type.nodes.size()) {
-        reportInstance(element, "does not exist in type " + quoted(type.id) +
-                                    "; what is given for it is left out");
+        warn(element, say("\"%1\" does not exist in type \"%2\"; what is given for it is left out.",
+                          nameOf(element), type.id));
         return false;
     }
     if (const std::string_view *ix = m_tree.find(element, Attr::Ix)) {
         part.index = toNumber<std::int32_t>(*ix).value_or(-1);
         if (part.index < 0) {
-            error(element, quoted(*ix) + " is not the number of an array element.");
+            error(element, say("\"%1\" is not the number of an array element.", *ix));
             return false;
         }
     }
@@ -127,12 +129,13 @@ bool InstanceReader::bind(std::uint32_t element, const Template &type, std::uint
     const TemplateNode &bound = type.nodes[found];
     if (node.index >= 0) {
         if (!bound.array) {
-            reportInstance(element, "is not an array; the element number is ignored");
+            warn(element,
+                 say("\"%1\" is not an array; the element number is ignored.", nameOf(element)));
             node.index = -1;
         } else if (bound.arraySizeAttribute.empty() &&
                    static_cast<std::uint32_t>(node.index) >= bound.arraySize) {
-            reportInstance(element, "has no element " + std::to_string(node.index) +
-                                        "; what is given for it is left out");
+            warn(element, say("\"%1\" has no element %2; what is given for it is left out.",
+                              nameOf(element), node.index));
             return false;
         }
     }

@@ -27,7 +27,7 @@ private:
     static bool before(const InstanceNode &left, const InstanceNode &right);
     void sortInstances(std::vector<InstanceNode> &nodes,
                        const std::vector<std::uint32_t> &elements);
-    void reportInstance(std::uint32_t element, std::string_view why);
+    std::string_view nameOf(std::uint32_t element) const;
     /// Position of a node in its type, or the number of nodes. Instances mostly follow the order of
     /// their type, so the search begins at @p hint.
     std::size_t positionOf(const Template &type, std::string_view name, std::size_t hint);

@@ -13,6 +13,8 @@
 #include <system_error>
 
 namespace scl {
+
+using wording::say;
 namespace {
 
 // Share of the progress that belongs to reading the bytes; the rest is resolving.
@@ -49,7 +51,8 @@ ReadResult read(const ByteSource &source, std::uint64_t totalBytes, const ReadOp
             return failed(std::move(error));
         return result;
     } catch (const std::bad_alloc &) {
-        return failed({ReadError::TooLarge, "There is not enough memory to read the file.", 0});
+        return failed(
+            {ReadError::TooLarge, say("There is not enough memory to read the file."), 0});
     }
 }
 
@@ -60,8 +63,8 @@ ReadResult readFile(const std::string &path, const ReadOptions &options)
     std::FILE *file = std::fopen(path.c_str(), "rbe");
     if (!file) {
         return failed({ReadError::CannotRead,
-                       "The file \"" + path +
-                           "\" cannot be opened: " + std::generic_category().message(errno) + ".",
+                       say("The file \"%1\" cannot be opened: %2.", path,
+                           wording::ofSystem({errno, std::generic_category()})),
                        0});
     }
     const std::unique_ptr<std::FILE, int (*)(std::FILE *)> closer(file, &std::fclose);
@@ -70,14 +73,13 @@ ReadResult readFile(const std::string &path, const ReadOptions &options)
     if (::fstat(::fileno(file), &status) == 0) {
         if (S_ISDIR(status.st_mode)) {
             return failed(
-                {ReadError::CannotRead, "\"" + path + "\" is a directory, not a file.", 0});
+                {ReadError::CannotRead, say("\"%1\" is a directory, not a file.", path), 0});
         }
         size = status.st_size > 0 ? static_cast<std::uint64_t>(status.st_size) : 0;
     }
     if (size > options.maxBytes) {
-        return failed({ReadError::TooLarge,
-                       "The file is larger than " + std::to_string(options.maxBytes) + " bytes.",
-                       0});
+        return failed(
+            {ReadError::TooLarge, say("The file is larger than %1 bytes.", options.maxBytes), 0});
     }
     const ByteSource source = [file](char *buffer, std::size_t capacity) -> std::ptrdiff_t {
         const std::size_t got = std::fread(buffer, 1, capacity, file);

@@ -45,7 +45,7 @@ struct ReadResult
 {
     std::unique_ptr<Document> document;
     ReadError error = ReadError::None;
-    std::string errorText;       ///< one sentence, empty without an error
+    wording::Text errorText;     ///< one sentence, empty without an error
     std::uint32_t errorLine = 0; ///< 0 when the error belongs to no line
 };
 

@@ -10,6 +10,8 @@
 #include <unordered_set>
 
 namespace scl {
+
+using wording::say;
 namespace {
 
 /// Builds the IEDs of a document, from access points down to logical nodes.
@@ -61,7 +63,7 @@ private:
                 return;
             const Ied ied = readIed(element);
             if (!names.insert(ied.name).second)
-                error(element, "There is another IED of the name " + quoted(ied.name) + ".");
+                error(element, say("There is another IED of the name \"%1\".", ied.name));
             ieds.push_back(ied);
             ++done;
             if (m_progress)
@@ -80,7 +82,7 @@ private:
         ied.manufacturer = value(element, Attr::Manufacturer);
         ied.configVersion = value(element, Attr::ConfigVersion);
         if (ied.name.empty())
-            error(element, "The IED has no name.");
+            error(element, say("The IED has no name."));
         m_iedNodes = 0;
         m_iedElement = element;
 
@@ -113,8 +115,9 @@ private:
                 return;
             }
         }
-        error(element, "The access point " + quoted(points[index].serverAt) +
-                           " whose server is shared does not exist or has none.");
+        error(element,
+              say("The access point \"%1\" whose server is shared does not exist or has none.",
+                  points[index].serverAt));
     }
 
     Services readServices(std::uint32_t element)
@@ -156,7 +159,7 @@ private:
             } else if (tag == Tag::ServerAt) {
                 point.serverAt = trimmed(value(child, Attr::ApName));
                 if (point.serverAt.empty())
-                    error(child, "The element does not name an access point.");
+                    error(child, say("The element does not name an access point."));
             } else if (tag == Tag::Services) {
                 point.services = readServices(child);
             } else if (tag == Tag::Ln && !stopped()) {
@@ -180,7 +183,7 @@ private:
                 return;
             const LogicalDevice device = readDevice(child, ied);
             if (!insts.insert(device.inst).second)
-                error(child, "There is another logical device " + quoted(device.inst) + ".");
+                error(child, say("There is another logical device \"%1\".", device.inst));
             devices.push_back(device);
         });
         server.devices = keep(devices);
@@ -196,7 +199,7 @@ private:
         device.desc = value(element, Attr::Desc);
         device.name = device.ldName.empty() ? joined(ied.name, device.inst) : device.ldName;
         if (device.inst.empty())
-            error(element, "The logical device has no instance name (attribute inst).");
+            error(element, say("The logical device has no instance name (attribute inst)."));
         m_currentDevice = device.inst;
         std::vector<LogicalNode> nodes;
         std::unordered_set<std::string_view> names;
@@ -205,14 +208,14 @@ private:
                 return;
             const LogicalNode node = readLogicalNode(child);
             if (!names.insert(node.name).second)
-                error(child, "There is another logical node " + quoted(node.name) + ".");
+                error(child, say("There is another logical node \"%1\".", node.name));
             if (tag == Tag::Ln0)
                 nodes.insert(nodes.begin(), node);
             else
                 nodes.push_back(node);
         });
         if (m_tree.firstChild(element, Tag::Ln0) == noElement)
-            error(element, "The logical device has no LN0.");
+            error(element, say("The logical device has no LN0."));
         device.nodes = keep(nodes);
         m_currentDevice = {};
         return device;
@@ -231,25 +234,24 @@ private:
         if (zero && node.lnClass.empty())
             node.lnClass = "LLN0";
         if (zero && node.lnClass != "LLN0")
-            warn(element,
-                 "The class of an LN0 is " + quoted(node.lnClass) + " instead of \"LLN0\".");
+            warn(element, say("The class of an LN0 is \"%1\" instead of \"LLN0\".", node.lnClass));
         if (node.lnClass.empty())
-            error(element, "The logical node has no class (attribute lnClass).");
+            error(element, say("The logical node has no class (attribute lnClass)."));
         if (!zero && node.inst.empty())
-            error(element, "The logical node has no instance number (attribute inst).");
+            error(element, say("The logical node has no instance number (attribute inst)."));
         node.name = joined(node.prefix, node.lnClass, node.inst);
 
         const std::string_view typeId = trimmed(node.typeId);
         if (typeId.empty()) {
-            error(element, "The logical node has no type (attribute lnType).");
+            error(element, say("The logical node has no type (attribute lnType)."));
         } else if (node.type = m_types.nodeType(typeId); node.type) {
             if (!node.type->lnClass.empty() && node.type->lnClass != node.lnClass) {
-                warn(element, "The class is " + quoted(node.lnClass) + ", but the LNodeType " +
-                                  quoted(typeId) + " is of class " + quoted(node.type->lnClass) +
-                                  ".");
+                warn(element,
+                     say("The class is \"%1\", but the LNodeType \"%2\" is of class \"%3\".",
+                         node.lnClass, typeId, node.type->lnClass));
             }
         } else {
-            error(element, "The LNodeType " + quoted(typeId) + " does not exist.");
+            error(element, say("The LNodeType \"%1\" does not exist.", typeId));
         }
 
         node.instances = m_instances.readInstances(element, node.type);
@@ -261,9 +263,10 @@ private:
     void reportUnknownSizes(std::uint32_t element, const DataNode &data, const std::string &path)
     {
         if (data.isArray() && !data.arraySize()) {
-            warn(element, "The attribute " + quoted(data.node().arraySizeAttribute) +
-                              " that holds the number of elements of " + quoted(path) +
-                              " has no value; the array is empty.");
+            warn(
+                element,
+                say("The attribute \"%1\" that holds the number of elements of \"%2\" has no value; the array is empty.",
+                    data.node().arraySizeAttribute, path));
         }
         if (!data.node().type || !data.node().type->sizeVaries)
             return;
@@ -291,9 +294,8 @@ private:
         }
         if (m_iedNodes > m_options.maxDataNodes && m_state.error.error == ReadError::None) {
             m_state.error = {ReadError::TooLarge,
-                             "The IED " + quoted(value(m_iedElement, Attr::Name)) +
-                                 " has more than " + std::to_string(m_options.maxDataNodes) +
-                                 " nodes of data.",
+                             say("The IED \"%1\" has more than %2 nodes of data.",
+                                 value(m_iedElement, Attr::Name), m_options.maxDataNodes),
                              node.line};
         }
     }

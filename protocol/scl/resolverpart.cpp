@@ -5,13 +5,7 @@
 
 namespace scl {
 
-std::string quoted(std::string_view text)
-{
-    std::string result = "\"";
-    result += text;
-    result += '"';
-    return result;
-}
+using wording::say;
 
 void ResolverPart::addFinding(Finding finding)
 {
@@ -31,7 +25,7 @@ bool ResolverPart::roomForFinding(Severity severity)
     return false;
 }
 
-void ResolverPart::report(Severity severity, std::uint32_t element, std::string text)
+void ResolverPart::report(Severity severity, std::uint32_t element, wording::Text text)
 {
     if (roomForFinding(severity))
         addFinding({severity, m_tree.at(element).line, m_tree.pathOf(element), std::move(text)});
@@ -42,7 +36,7 @@ bool ResolverPart::stopped()
     if (m_state.error.error != ReadError::None)
         return true;
     if (m_options.cancelled && m_options.cancelled->load(std::memory_order_relaxed))
-        m_state.error = {ReadError::Cancelled, "The import was cancelled.", 0};
+        m_state.error = {ReadError::Cancelled, say("The import was cancelled."), 0};
     return m_state.error.error != ReadError::None;
 }
 
@@ -73,8 +67,7 @@ std::uint32_t ResolverPart::number(std::uint32_t element, Attr attribute, std::s
         return fallback;
     if (const auto result = toNumber<std::uint32_t>(*text))
         return *result;
-    error(element, quoted(*text) + " is not a value of " + std::string(name) + "; " +
-                       std::to_string(fallback) + " is used.");
+    error(element, say("\"%1\" is not a value of %2; %3 is used.", *text, name, fallback));
     return fallback;
 }
 
@@ -88,8 +81,8 @@ bool ResolverPart::flag(std::uint32_t element, Attr attribute, bool fallback)
         return true;
     if (equalIgnoringCase(bare, "false") || bare == "0")
         return false;
-    error(element, quoted(*text) + " is neither \"true\" nor \"false\"; " +
-                       (fallback ? "true" : "false") + " is used.");
+    error(element, say("\"%1\" is neither \"true\" nor \"false\"; %2 is used.", *text,
+                       fallback ? "true" : "false"));
     return fallback;
 }
 

@@ -34,8 +34,6 @@ std::optional<Number> toNumber(std::string_view text)
     return number;
 }
 
-std::string quoted(std::string_view text);
-
 /// What every part needs: findings, memory of the document, attributes of elements.
 class ResolverPart
 {
@@ -51,17 +49,17 @@ protected:
     void addFinding(Finding finding);
     /// False, and the finding counted as left out, when there are as many as the options allow.
     bool roomForFinding(Severity severity);
-    void report(Severity severity, std::uint32_t element, std::string text);
+    void report(Severity severity, std::uint32_t element, wording::Text text);
 
-    void info(std::uint32_t element, std::string text)
+    void info(std::uint32_t element, wording::Text text)
     {
         report(Severity::Info, element, std::move(text));
     }
-    void warn(std::uint32_t element, std::string text)
+    void warn(std::uint32_t element, wording::Text text)
     {
         report(Severity::Warning, element, std::move(text));
     }
-    void error(std::uint32_t element, std::string text)
+    void error(std::uint32_t element, wording::Text text)
     {
         report(Severity::Error, element, std::move(text));
     }

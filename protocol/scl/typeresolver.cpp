@@ -8,6 +8,8 @@
 #include <unordered_set>
 
 namespace scl {
+
+using wording::say;
 namespace {
 
 struct BasicTypeName
@@ -119,7 +121,7 @@ bool TypeResolver::isUsableId(std::uint32_t element, std::string_view id, std::s
 {
     if (!id.empty())
         return true;
-    error(element, "The " + std::string(kind) + " has no id and cannot be used.");
+    error(element, say("The %1 has no id and cannot be used.", kind));
     return false;
 }
 
@@ -136,9 +138,8 @@ void TypeResolver::indexType(TypeIndex &index, std::uint32_t element, std::strin
 void TypeResolver::reportDuplicate(std::uint32_t element, std::uint32_t first,
                                    std::string_view kind, std::string_view id)
 {
-    error(element, "The " + std::string(kind) + " " + quoted(id) +
-                       " is defined again; the definition in line " +
-                       std::to_string(m_tree.at(first).line) + " is used.");
+    error(element, say("The %1 \"%2\" is defined again; the definition in line %3 is used.", kind,
+                       id, m_tree.at(first).line));
 }
 
 void TypeResolver::readEnumeration(std::uint32_t element, std::vector<Enumeration> &enumerations)
@@ -158,17 +159,17 @@ void TypeResolver::readEnumeration(std::uint32_t element, std::vector<Enumeratio
         const std::string_view written = value(child, Attr::Ord);
         const auto ordinal = toNumber<std::int32_t>(written);
         if (!ordinal) {
-            error(child, quoted(written) + " is not an ordinal; the literal is left out.");
+            error(child, say("\"%1\" is not an ordinal; the literal is left out.", written));
             return;
         }
         if (!ordinals.insert(*ordinal).second) {
-            error(child, "The ordinal " + std::to_string(*ordinal) +
-                             " is given twice; the first literal is used.");
+            error(child,
+                  say("The ordinal %1 is given twice; the first literal is used.", *ordinal));
             return;
         }
         const std::string_view text = m_tree.at(child).text;
         if (trimmed(text).size() != text.size())
-            info(child, "The literal " + quoted(text) + " begins or ends with a blank.");
+            info(child, say("The literal \"%1\" begins or ends with a blank.", text));
         literals.push_back({*ordinal, text});
     });
     m_enumElements.emplace(id, element);
@@ -188,9 +189,9 @@ const Template *TypeResolver::typeOf(TypeEntry &entry)
     type.desc = value(element, Attr::Desc);
     const Tag tag = m_tree.at(element).tag;
     if (tag == Tag::DoType && type.cdc.empty())
-        warn(element, "The DOType has no common data class (attribute cdc).");
+        warn(element, say("The DOType has no common data class (attribute cdc)."));
     if (tag == Tag::LNodeType && type.lnClass.empty())
-        warn(element, "The LNodeType has no class (attribute lnClass).");
+        warn(element, say("The LNodeType has no class (attribute lnClass)."));
 
     std::vector<TemplateNode> nodes;
     std::vector<std::uint32_t> elements;
@@ -203,11 +204,11 @@ const Template *TypeResolver::typeOf(TypeEntry &entry)
             return;
         const std::string_view name = trimmed(value(child, Attr::Name));
         if (name.empty()) {
-            error(child, "The element has no name and is left out.");
+            error(child, say("The element has no name and is left out."));
             return;
         }
         if (!names.insert(name).second) {
-            error(child, quoted(name) + " is defined twice in its type; the first is used.");
+            error(child, say("\"%1\" is defined twice in its type; the first is used.", name));
             return;
         }
         TemplateNode node;
@@ -283,19 +284,21 @@ void TypeResolver::readCount(std::uint32_t element, TemplateNode &node)
         node.arraySizeAttribute = text;
         return;
     }
-    error(element, quoted(text) + " is not a number of array elements; the element is taken as "
-                                  "a single one.");
+    error(element,
+          say("\"%1\" is not a number of array elements; the element is taken as a single one.",
+              text));
 }
 
 void TypeResolver::readFunctionalConstraint(std::uint32_t element, TemplateNode &node)
 {
     node.fc = trimmed(value(element, Attr::Fc));
     if (node.fc.empty()) {
-        error(element, "The attribute has no functional constraint (attribute fc) and cannot be "
-                       "addressed.");
+        error(
+            element,
+            say("The attribute has no functional constraint (attribute fc) and cannot be addressed."));
     } else if (std::find(functionalConstraints.begin(), functionalConstraints.end(), node.fc) ==
                functionalConstraints.end()) {
-        error(element, quoted(node.fc) + " is not a functional constraint.");
+        error(element, say("\"%1\" is not a functional constraint.", node.fc));
     }
 }
 
@@ -312,8 +315,8 @@ void TypeResolver::readBasicType(std::uint32_t element, TemplateNode &node)
     }
     for (const BasicTypeName &known : basicTypeNames) {
         if (equalIgnoringCase(known.name, name)) {
-            info(element, "The basic type is written " + quoted(written) + " instead of " +
-                              quoted(known.name) + ".");
+            info(element,
+                 say("The basic type is written \"%1\" instead of \"%2\".", written, known.name));
             node.basicType = known.type;
             node.basicTypeName = known.name;
             return;
@@ -330,7 +333,7 @@ void TypeResolver::readBasicType(std::uint32_t element, TemplateNode &node)
         } else {
             node.basicType = BasicType::Other;
         }
-        error(element, "The attribute has no basic type (attribute bType).");
+        error(element, say("The attribute has no basic type (attribute bType)."));
         return;
     }
     node.basicType = BasicType::Other;
@@ -341,8 +344,8 @@ void TypeResolver::readBasicType(std::uint32_t element, TemplateNode &node)
         node.basicType = BasicType::Unicode;
     else if (name.starts_with("Octet"))
         node.basicType = BasicType::Octet;
-    warn(element, quoted(name) + " is not a basic type of the standard; values are kept as "
-                                 "texts.");
+    warn(element,
+         say("\"%1\" is not a basic type of the standard; values are kept as texts.", name));
 }
 
 void TypeResolver::readEnumerationOf(std::uint32_t element, TemplateNode &node)
@@ -360,9 +363,9 @@ void TypeResolver::readEnumerationOf(std::uint32_t element, TemplateNode &node)
     if (!isEnum)
         return;
     if (id.empty())
-        error(element, "The attribute is an enumeration without a type (attribute type).");
+        error(element, say("The attribute is an enumeration without a type (attribute type)."));
     else
-        error(element, "The EnumType " + quoted(id) + " does not exist.");
+        error(element, say("The EnumType \"%1\" does not exist.", id));
 }
 
 bool TypeResolver::takeType(std::uint32_t element, TypeIndex &index, std::string_view kind,
@@ -370,17 +373,16 @@ bool TypeResolver::takeType(std::uint32_t element, TypeIndex &index, std::string
 {
     const std::string_view id = trimmed(node.typeId);
     if (id.empty()) {
-        error(element, "The element has no type (attribute type).");
+        error(element, say("The element has no type (attribute type)."));
         return true;
     }
     const auto found = index.find(id);
     if (found == index.end()) {
-        error(element, "The " + std::string(kind) + " " + quoted(id) + " does not exist.");
+        error(element, say("The %1 \"%2\" does not exist.", kind, id));
         return true;
     }
     if (found->second.state == TypeState::Open) {
-        error(element, "The " + std::string(kind) + " " + quoted(id) +
-                           " contains itself; this element is left out.");
+        error(element, say("The %1 \"%2\" contains itself; this element is left out.", kind, id));
         return false;
     }
     if (++m_typeDepth > m_options.maxDataDepth) {
@@ -399,9 +401,10 @@ bool TypeResolver::takeType(std::uint32_t element, TypeIndex &index, std::string
 
 void TypeResolver::reportTooDeep(std::uint32_t element)
 {
-    error(element, "The data below this element are nested deeper than " +
-                       std::to_string(m_options.maxDataDepth) +
-                       " levels; the element is left out.");
+    error(
+        element,
+        say("The data below this element are nested deeper than %1 levels; the element is left out.",
+            m_options.maxDataDepth));
 }
 
 void TypeResolver::checkArraySizes(std::vector<TemplateNode> &nodes,
@@ -415,9 +418,10 @@ void TypeResolver::checkArraySizes(std::vector<TemplateNode> &nodes,
             return other.name == attribute && other.isLeaf() && !other.array;
         });
         if (!known) {
-            error(elements[i], "The attribute " + quoted(attribute) +
-                                   " that should hold the number of array elements does not "
-                                   "exist; the array is empty.");
+            error(
+                elements[i],
+                say("The attribute \"%1\" that should hold the number of array elements does not exist; the array is empty.",
+                    attribute));
             nodes[i].arraySizeAttribute = {};
         }
     }

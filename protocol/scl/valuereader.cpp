@@ -5,6 +5,8 @@
 
 namespace scl {
 
+using wording::say;
+
 std::span<const ConfiguredValue> ValueReader::readValues(std::uint32_t element,
                                                          const TemplateNode &node)
 {
@@ -44,30 +46,34 @@ ConfiguredValue ValueReader::readValue(std::uint32_t element, const TemplateNode
         break;
     case ValueNote::Empty:
         if (roomForFinding(Severity::Info))
-            info(element, "The value is empty, so the attribute has none.");
+            info(element, say("The value is empty, so the attribute has none."));
         break;
     case ValueNote::OrdinalForText:
         if (roomForFinding(Severity::Info))
-            info(element, "The value is given by its number " + quoted(trimmed(result.text)) +
-                              " instead of its text.");
+            info(element, say("The value is given by its number \"%1\" instead of its text.",
+                              trimmed(result.text)));
         break;
     case ValueNote::Blanks:
         if (roomForFinding(Severity::Info))
-            info(element, "The value " + quoted(result.text) +
-                              " differs in blanks or capitals from what is expected.");
+            info(element,
+                 say("The value \"%1\" differs in blanks or capitals from what is expected.",
+                     result.text));
         break;
     case ValueNote::BooleanSpelling:
         if (roomForFinding(Severity::Info))
-            info(element, "The truth value is written " + quoted(result.text) +
-                              " instead of \"true\" or \"false\".");
+            info(element, say("The truth value is written \"%1\" instead of \"true\" or \"false\".",
+                              result.text));
         break;
     case ValueNote::Unfit: {
-        const std::string_view type = node.basicTypeName.empty() ? "its type" : node.basicTypeName;
-        std::string text = quoted(result.text);
-        text.append(" is not a value of ").append(type);
-        if (node.enumeration)
-            text.append(1, ' ').append(quoted(node.enumeration->id));
-        error(element, text + "; the attribute has no value.");
+        const std::string_view type = node.basicTypeName;
+        error(element, node.enumeration && !type.empty()
+                           ? say("\"%1\" is not a value of %2 \"%3\"; the attribute has no value.",
+                                 result.text, type, node.enumeration->id)
+                       : type.empty()
+                           ? say("\"%1\" is not a value of its type; the attribute has no value.",
+                                 result.text)
+                           : say("\"%1\" is not a value of %2; the attribute has no value.",
+                                 result.text, type));
         break;
     }
     }

@@ -10,6 +10,8 @@
 #include <memory>
 
 namespace scl {
+
+using wording::say;
 namespace {
 
 template <typename Id>
@@ -247,7 +249,7 @@ std::string_view declaredEncoding(std::string_view head)
 struct EncodingChoice
 {
     const char *name = nullptr; // null leaves the choice to the declaration
-    std::string remark;
+    wording::Text remark;
 };
 
 EncodingChoice chooseEncoding(std::string_view head)
@@ -258,20 +260,23 @@ EncodingChoice chooseEncoding(std::string_view head)
     const std::string_view declared = declaredEncoding(head);
     const std::string name = lowered(declared);
     if (name == "utf8" || name == "utf_8") {
-        return {"UTF-8", "The encoding is written \"" + std::string(declared) +
-                             "\" instead of \"UTF-8\"; it is read as UTF-8."};
+        return {"UTF-8",
+                say("The encoding is written \"%1\" instead of \"UTF-8\"; it is read as UTF-8.",
+                    declared)};
     }
     if (name.starts_with("utf-16") || name.starts_with("utf16") || name == "ucs-2" ||
         name == "unicode") {
-        return {"UTF-8", "The encoding is declared as \"" + std::string(declared) +
-                             "\", but the file holds single bytes; it is read as UTF-8."};
+        return {
+            "UTF-8",
+            say("The encoding is declared as \"%1\", but the file holds single bytes; it is read as UTF-8.",
+                declared)};
     }
     if (name == "iso8859-1" || name == "iso_8859-1" || name == "iso-8859-1" || name == "latin1" ||
         name == "latin-1") {
         const bool usual = name == "iso-8859-1";
-        return {"ISO-8859-1", usual ? std::string()
-                                    : "The encoding is written \"" + std::string(declared) +
-                                          "\" instead of \"ISO-8859-1\"."};
+        return {"ISO-8859-1",
+                usual ? wording::Text()
+                      : say("The encoding is written \"%1\" instead of \"ISO-8859-1\".", declared)};
     }
     return {};
 }
@@ -336,7 +341,8 @@ public:
                                                     const XML_Char *, const XML_Char *,
                                                     const XML_Char *) {
             static_cast<Parser *>(self)->fail(
-                ReadError::NotWellFormed, "The file declares an entity, which is not accepted.");
+                ReadError::NotWellFormed,
+                say("The file declares an entity, which is not accepted."));
         });
         XML_SetStartDoctypeDeclHandler(m_parser.get(), [](void *self, const XML_Char *,
                                                           const XML_Char *systemId,
@@ -344,13 +350,12 @@ public:
             if (systemId || publicId) {
                 static_cast<Parser *>(self)->fail(
                     ReadError::NotWellFormed,
-                    "The file refers to an external document type, which is not accepted.");
+                    say("The file refers to an external document type, which is not accepted."));
             }
         });
         XML_SetSkippedEntityHandler(m_parser.get(), [](void *self, const XML_Char *name, int) {
-            static_cast<Parser *>(self)->fail(ReadError::NotWellFormed, "The entity \"" +
-                                                                            std::string(name) +
-                                                                            "\" is not declared.");
+            static_cast<Parser *>(self)->fail(ReadError::NotWellFormed,
+                                              say("The entity \"%1\" is not declared.", name));
         });
         XML_SetUnknownEncodingHandler(m_parser.get(), unknownEncoding, nullptr);
     }
@@ -359,26 +364,27 @@ public:
                  const std::function<void(double)> &progress)
     {
         if (!m_parser)
-            return {ReadError::CannotRead, "There is not enough memory to read the file.", 0};
+            return {ReadError::CannotRead, say("There is not enough memory to read the file."), 0};
 
         std::uint64_t done = 0;
         std::size_t chunk = firstChunk;
         bool atEnd = false;
         while (!atEnd) {
             if (m_options.cancelled && m_options.cancelled->load(std::memory_order_relaxed))
-                return {ReadError::Cancelled, "The import was cancelled.", 0};
+                return {ReadError::Cancelled, say("The import was cancelled."), 0};
             void *buffer = XML_GetBuffer(m_parser.get(), static_cast<int>(chunk));
             if (!buffer)
-                return {ReadError::CannotRead, "There is not enough memory to read the file.", 0};
+                return {ReadError::CannotRead, say("There is not enough memory to read the file."),
+                        0};
             const std::ptrdiff_t got = source(static_cast<char *>(buffer), chunk);
             if (got < 0)
-                return {ReadError::CannotRead, "The file cannot be read to its end.", 0};
+                return {ReadError::CannotRead, say("The file cannot be read to its end."), 0};
             atEnd = got == 0;
             const std::string_view bytes(static_cast<const char *>(buffer),
                                          static_cast<std::size_t>(got));
             if (done == 0) {
                 if (bytes.find_first_not_of(" \t\r\n") == std::string_view::npos)
-                    return {ReadError::NotWellFormed, "The file is empty.", 0};
+                    return {ReadError::NotWellFormed, say("The file is empty."), 0};
                 const EncodingChoice choice = chooseEncoding(bytes);
                 if (choice.name)
                     XML_SetEncoding(m_parser.get(), choice.name);
@@ -388,8 +394,7 @@ public:
             done += bytes.size();
             if (done > m_options.maxBytes) {
                 return {ReadError::TooLarge,
-                        "The file is larger than " + std::to_string(m_options.maxBytes) + " bytes.",
-                        0};
+                        say("The file is larger than %1 bytes.", m_options.maxBytes), 0};
             }
             const std::uint64_t eventsBefore = m_events;
             const XML_Status status =
@@ -430,7 +435,7 @@ private:
         std::uint32_t lastChild;
     };
 
-    void fail(ReadError error, std::string text)
+    void fail(ReadError error, wording::Text text)
     {
         if (m_error.error != ReadError::None)
             return;
@@ -438,29 +443,52 @@ private:
         XML_StopParser(m_parser.get(), XML_FALSE);
     }
 
+    static wording::Text wordsOf(XML_Error code)
+    {
+        switch (code) {
+        case XML_ERROR_SYNTAX:
+            return say("syntax error");
+        case XML_ERROR_UNCLOSED_TOKEN:
+            return say("unclosed token");
+        case XML_ERROR_TAG_MISMATCH:
+            return say("mismatched tag");
+        case XML_ERROR_DUPLICATE_ATTRIBUTE:
+            return say("duplicate attribute");
+        case XML_ERROR_JUNK_AFTER_DOC_ELEMENT:
+            return say("junk after document element");
+        case XML_ERROR_UNCLOSED_CDATA_SECTION:
+            return say("unclosed CDATA section");
+        case XML_ERROR_MISPLACED_XML_PI:
+            return say("XML or text declaration not at start of entity");
+        default:
+            return say("error %1", static_cast<int>(code));
+        }
+    }
+
     XmlError parserError()
     {
         const XML_Error code = XML_GetErrorCode(m_parser.get());
-        std::string text;
+        wording::Text text;
         switch (code) {
         case XML_ERROR_NO_ELEMENTS:
-            text = "The file ends before its root element is complete.";
+            text = say("The file ends before its root element is complete.");
             break;
         case XML_ERROR_INVALID_TOKEN:
-            text = "A character is not allowed here, or does not belong to the file's encoding.";
+            text =
+                say("A character is not allowed here, or does not belong to the file's encoding.");
             break;
         case XML_ERROR_PARTIAL_CHAR:
-            text = "The file ends within a character.";
+            text = say("The file ends within a character.");
             break;
         case XML_ERROR_UNKNOWN_ENCODING:
         case XML_ERROR_INCORRECT_ENCODING:
-            text = "The file's encoding is not the one declared, or it is not known.";
+            text = say("The file's encoding is not the one declared, or it is not known.");
             break;
         case XML_ERROR_NO_MEMORY:
-            text = "There is not enough memory to read the file.";
+            text = say("There is not enough memory to read the file.");
             break;
         default:
-            text = std::string("The file is not well-formed XML: ") + XML_ErrorString(code) + ".";
+            text = say("The file is not well-formed XML: %1.", wordsOf(code));
             break;
         }
         return {ReadError::NotWellFormed, std::move(text), currentLine()};
@@ -487,8 +515,8 @@ private:
         if (m_error.error != ReadError::None)
             return;
         if (++m_depth > m_options.maxElementDepth) {
-            fail(ReadError::TooLarge, "Elements are nested deeper than " +
-                                          std::to_string(m_options.maxElementDepth) + " levels.");
+            fail(ReadError::TooLarge,
+                 say("Elements are nested deeper than %1 levels.", m_options.maxElementDepth));
             return;
         }
         if (m_skipFrom != 0)
@@ -505,7 +533,7 @@ private:
         if (m_depth == 1) {
             if (local != "SCL") {
                 fail(ReadError::NotScl,
-                     "This is not an SCL file: its root element is \"" + std::string(name) + "\".");
+                     say("This is not an SCL file: its root element is \"%1\".", name));
                 return;
             }
             setRootNamespace(prefix);
@@ -537,8 +565,7 @@ private:
             m_namespaceCacheValid = false;
         }
         if (m_bindings.size() > maxNamespaces) {
-            fail(ReadError::TooLarge,
-                 "More than " + std::to_string(maxNamespaces) + " name spaces are declared.");
+            fail(ReadError::TooLarge, say("More than %1 name spaces are declared.", maxNamespaces));
         }
     }
 
@@ -547,14 +574,15 @@ private:
         bool bound = false;
         m_rootNamespace = uriOf(prefix, bound);
         if (m_rootNamespace.empty()) {
-            m_tree.findings.push_back({Severity::Info, currentLine(), "SCL",
-                                       "The root element is in no name space; it should be in \"" +
-                                           std::string(sclNamespace) + "\"."});
+            m_tree.findings.push_back(
+                {Severity::Info, currentLine(), "SCL",
+                 say("The root element is in no name space; it should be in \"%1\".",
+                     sclNamespace)});
         } else if (m_rootNamespace != sclNamespace) {
-            m_tree.findings.push_back({Severity::Info, currentLine(), "SCL",
-                                       "The root element is in the name space \"" +
-                                           m_rootNamespace + "\" instead of \"" +
-                                           std::string(sclNamespace) + "\"."});
+            m_tree.findings.push_back(
+                {Severity::Info, currentLine(), "SCL",
+                 say("The root element is in the name space \"%1\" instead of \"%2\".",
+                     m_rootNamespace, sclNamespace)});
         }
     }
 
@@ -567,9 +595,10 @@ private:
         if (!bound && m_unbound.size() < maxUnboundReported &&
             std::find(m_unbound.begin(), m_unbound.end(), prefix) == m_unbound.end()) {
             m_unbound.emplace_back(prefix);
-            m_tree.findings.push_back({Severity::Warning, currentLine(), "SCL",
-                                       "The name space prefix \"" + std::string(prefix) +
-                                           "\" is not declared; its elements are skipped."});
+            m_tree.findings.push_back(
+                {Severity::Warning, currentLine(), "SCL",
+                 say("The name space prefix \"%1\" is not declared; its elements are skipped.",
+                     prefix)});
         }
         m_cachedPrefix = std::string(prefix);
         m_cachedIsScl = bound && uri == m_rootNamespace;

@@ -197,7 +197,7 @@ using ByteSource = std::function<std::ptrdiff_t(char *buffer, std::size_t size)>
 struct XmlError
 {
     ReadError error = ReadError::None;
-    std::string text;
+    wording::Text text;
     std::uint32_t line = 0;
 };
 

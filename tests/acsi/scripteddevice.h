@@ -161,8 +161,9 @@ private:
             return;
         const mms::TypeDescription *type = typeOf(name);
         if (!type) {
-            association->fail(invokeId, {mms::ErrorClass::Access,
-                                         mms::serviceerrors::accessNonExistent, {}, {}, {}});
+            association->fail(
+                invokeId,
+                {mms::ErrorClass::Access, mms::serviceerrors::accessNonExistent, {}, {}, {}});
             return;
         }
         mms::GetVariableAccessAttributesResponse response;
@@ -177,9 +178,11 @@ private:
             return;
         const List *list = listOf(request.name);
         if (!list) {
-            association->fail(invokeId,
-                              {mms::ErrorClass::Definition,
-                               mms::serviceerrors::definitionObjectUndefined, {}, {}, {}});
+            association->fail(invokeId, {mms::ErrorClass::Definition,
+                                         mms::serviceerrors::definitionObjectUndefined,
+                                         {},
+                                         {},
+                                         {}});
             return;
         }
         mms::GetNamedVariableListAttributesResponse response;
@@ -301,8 +304,8 @@ private:
         const mms::TypeDescription *type = &node->second;
         while (!rest.empty()) {
             const std::string part = take();
-            const auto found = std::ranges::find(type->components, part,
-                                                 &mms::TypeDescription::Component::name);
+            const auto found =
+                std::ranges::find(type->components, part, &mms::TypeDescription::Component::name);
             if (found == type->components.end())
                 return nullptr;
             type = &found->type;
@@ -348,9 +351,8 @@ protected:
 
     mms::Result<std::shared_ptr<acsi::Client>> tryToConnect(std::uint16_t port)
     {
-        return runOn(m_loop.executor(),
-                     acsi::Client::connect(m_loop.executor(), "127.0.0.1", port, clientOptions,
-                                           ended.setter()));
+        return runOn(m_loop.executor(), acsi::Client::connect(m_loop.executor(), "127.0.0.1", port,
+                                                              clientOptions, ended.setter()));
     }
 
     void connect()
@@ -370,8 +372,7 @@ protected:
     /// Hands what a coroutine gives to a function; results that cannot be made empty cannot be
     /// spawned as they are.
     template <typename T>
-    static asio::awaitable<void> deliver(asio::awaitable<T> awaitable,
-                                         std::function<void(T)> taker)
+    static asio::awaitable<void> deliver(asio::awaitable<T> awaitable, std::function<void(T)> taker)
     {
         taker(co_await std::move(awaitable));
     }
@@ -383,7 +384,7 @@ protected:
     mms::AssociationOptions serverOptions;
     acsi::ClientOptions clientOptions;
     std::shared_ptr<acsi::Client> client;
-    mmstest::Awaited<std::string> ended;
+    mmstest::Awaited<mms::Text> ended;
 
 private:
     template <typename T, typename Executor>

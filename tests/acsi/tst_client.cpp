@@ -55,7 +55,8 @@ TEST_F(AcsiClient, FailedConnectionSaysWhyAndClosesNothing)
     const std::uint16_t port = mmstest::RawPeer().port();
     const auto connected = tryToConnect(port);
     ASSERT_FALSE(connected.ok());
-    EXPECT_NE(connected.error().message.find("No connection to 127.0.0.1"), std::string::npos);
+    EXPECT_NE(connected.error().message.english().find("No connection to 127.0.0.1"),
+              std::string::npos);
 }
 
 TEST_F(AcsiClient, ItDeclaresWhatItServes)
@@ -70,7 +71,8 @@ TEST_F(AcsiClient, ItDeclaresWhatItServes)
     ASSERT_TRUE(pdu.ok());
     const auto *request = std::get_if<mms::InitiateRequestPdu>(&*pdu);
     ASSERT_NE(request, nullptr);
-    // ISO 9506-2, ServiceSupportOptions: fileOpen, fileRead, fileClose, informationReport, conclude.
+    // ISO 9506-2, ServiceSupportOptions: fileOpen, fileRead, fileClose, informationReport,
+    // conclude.
     std::vector<std::size_t> declared;
     for (std::size_t bit = 0; bit < request->parameters.services.size(); ++bit) {
         if (request->parameters.services.test(bit))
@@ -93,7 +95,7 @@ TEST_F(AcsiClient, ClosingConcludesAndIsHeardOnce)
 TEST_F(AcsiClient, CallsAfterTheEndFailWithItsReason)
 {
     connect();
-    client->abort("Enough of it.");
+    client->abort(mms::verbatim("Enough of it."));
     EXPECT_EQ(ended.get(), "Enough of it.");
     const auto value = run(client->readOne(variable("GGIO1$MX$AnIn1")));
     ASSERT_FALSE(value.ok());
@@ -105,15 +107,12 @@ TEST_F(AcsiClient, CallsAfterTheEndFailWithItsReason)
 
 TEST_F(AcsiClient, AssociationEndsWithTheClient)
 {
-    Awaited<std::string> gone;
+    Awaited<mms::Text> gone;
     class Watching : public ScriptedDevice
     {
     public:
-        void closed(const AssociationPointer &, const std::string &reason) override
-        {
-            heard(reason);
-        }
-        std::function<void(std::string)> heard;
+        void closed(const AssociationPointer &, const mms::Text &reason) override { heard(reason); }
+        std::function<void(mms::Text)> heard;
     };
     const auto watching = std::make_shared<Watching>();
     watching->heard = gone.setter();
@@ -179,7 +178,7 @@ TEST_F(AcsiClient, TypeIsAskedForByName)
     EXPECT_EQ(*found, type);
     const auto missing = run(client->type(ObjectName::inDomain("LD0", "GGIO2")));
     ASSERT_FALSE(missing.ok());
-    EXPECT_EQ(missing.error().message, "The object does not exist");
+    EXPECT_EQ(missing.error().message, "The object does not exist.");
 }
 
 TEST_F(AcsiClient, LongListsAreReadInSeveralRequestsInOrder)
@@ -218,7 +217,8 @@ TEST_F(AcsiClient, RequestsOfALongListAreOnTheWayTogether)
     serverOptions.maxPduSize = 1000;
     serverOptions.maxOutstandingCalled = 3;
     const auto variables = addNumbers(200);
-    const auto held = std::make_shared<std::vector<std::pair<std::uint32_t, mms::RequestService>>>();
+    const auto held =
+        std::make_shared<std::vector<std::pair<std::uint32_t, mms::RequestService>>>();
     const auto answered = std::make_shared<bool>(false);
     device->intercept = [this, held, answered](const auto &association, std::uint32_t invokeId,
                                                auto &request) {
@@ -331,7 +331,7 @@ TEST_F(AcsiClient, AssociationLostInTheMiddleOfAReadEndsItWithTheReason)
     serverOptions.maxPduSize = 1000;
     const auto variables = addNumbers(200);
     device->intercept = [](const auto &association, std::uint32_t, const auto &) {
-        association->abort("Power failed.");
+        association->abort(mms::verbatim("Power failed."));
         return true;
     };
     connect();
@@ -410,13 +410,12 @@ TEST_F(AcsiClient, VariableThatCannotBeWrittenDoesNotSpoilTheOthers)
     device->refused[toText(variables[3])] = denied;
     device->values.erase(toText(variables[5]));
     connect();
-    const auto results =
-        run(client->write(variables, std::vector<Data>(6, Data::boolean(true))));
+    const auto results = run(client->write(variables, std::vector<Data>(6, Data::boolean(true))));
     ASSERT_TRUE(results.ok());
     for (std::size_t i = 0; i < 6; ++i) {
-        const auto expected = i == 3 ? std::optional(DataAccessError::ObjectAccessDenied)
-            : i == 5                 ? std::optional(DataAccessError::ObjectNonExistent)
-                                     : std::nullopt;
+        const auto expected = i == 3   ? std::optional(DataAccessError::ObjectAccessDenied)
+                              : i == 5 ? std::optional(DataAccessError::ObjectNonExistent)
+                                       : std::nullopt;
         EXPECT_EQ((*results)[i], expected) << i;
     }
 }
@@ -429,7 +428,7 @@ TEST_F(AcsiClient, WriteTooLargeForThePduIsAnErrorAndSendsNothing)
     const auto written = run(
         client->writeOne(variable("GGIO1$DC$Long"), Data::visibleString(std::string(2000, 'y'))));
     ASSERT_FALSE(written.ok());
-    EXPECT_NE(written.error().message.find("1000 octets"), std::string::npos);
+    EXPECT_NE(written.error().message.english().find("1000 octets"), std::string::npos);
     EXPECT_TRUE(device->requests().empty());
 }
 
@@ -488,14 +487,13 @@ TEST_F(AcsiClient, RequestsOfThePeerAreTakenOrRejected)
 {
     connect();
     const auto addHandler = [&]() -> asio::awaitable<Client::Registration> {
-        co_return client->addRequestHandler(
-            [this](std::uint32_t invokeId, const mms::RequestService &request) {
-                if (!std::holds_alternative<mms::IdentifyRequest>(request))
-                    return false;
-                client->association().respond(invokeId,
-                                              mms::IdentifyResponse{"us", "client", "1", {}});
-                return true;
-            });
+        co_return client->addRequestHandler([this](std::uint32_t invokeId,
+                                                   const mms::RequestService &request) {
+            if (!std::holds_alternative<mms::IdentifyRequest>(request))
+                return false;
+            client->association().respond(invokeId, mms::IdentifyResponse{"us", "client", "1", {}});
+            return true;
+        });
     };
     const auto registration = run(addHandler());
     const auto callBack = [this](mms::RequestService request) {
@@ -557,9 +555,8 @@ TEST_F(AcsiClient, CancelledConnectionAttemptEndsAtOnce)
     using Connected = mms::Result<std::shared_ptr<Client>>;
     asio::co_spawn(
         executor(),
-        deliver<Connected>(
-            Client::connect(executor(), "127.0.0.1", peer.port(), clientOptions),
-            [connected](const Connected &result) { *connected = result.ok(); }),
+        deliver<Connected>(Client::connect(executor(), "127.0.0.1", peer.port(), clientOptions),
+                           [connected](const Connected &result) { *connected = result.ok(); }),
         asio::bind_cancellation_slot(
             signal.slot(),
             [done = over.setter(), connected](const std::exception_ptr &) { done(*connected); }));

@@ -129,7 +129,7 @@ private:
         if (reaction.errorAfter)
             association->report(toReport(*reaction.errorAfter));
         if (reaction.aborts)
-            association->abort("The test wants it.");
+            association->abort(mms::verbatim("The test wants it."));
         return true;
     }
 };
@@ -151,8 +151,9 @@ TEST_F(ControlTest, AnObjectWithoutAControlModelCannotBeOpened)
     connect();
     const auto opened = run(ControlObject::open(client, *parseReference("LD/CSWI1$CO$Pos")));
     ASSERT_FALSE(opened.ok());
-    EXPECT_EQ(opened.error().message.find("The control model of LD/CSWI1.Pos cannot be read: "),
-              0U);
+    EXPECT_EQ(
+        opened.error().message.english().find("The control model of LD/CSWI1.Pos cannot be read: "),
+        0U);
 }
 
 TEST_F(ControlTest, NamesThatAreNoDataObjectsCannotBeOpened)
@@ -250,8 +251,9 @@ TEST_F(ControlTest, ARefusalWithoutACauseGivesTheAccessError)
     reaction.refusal = DataAccessError::ObjectAccessDenied;
     const ControlResult result = run(control->operate(request()));
     EXPECT_FALSE(result.applError);
-    EXPECT_NE(result.message.find(mms::describe(DataAccessError::ObjectAccessDenied)),
-              std::string::npos);
+    EXPECT_NE(
+        result.message.english().find(mms::describe(DataAccessError::ObjectAccessDenied).english()),
+        std::string::npos);
 }
 
 TEST_F(ControlTest, CausesOfOtherCommandsAreNotTakenForThisOne)
@@ -337,9 +339,10 @@ TEST_F(ControlTest, TheEndOfTheAssociationEndsTheWaitForATermination)
     reaction.aborts = true;
     const ControlResult result = run(control->operate(request(), 1h));
     EXPECT_FALSE(result.ok);
-    EXPECT_EQ(result.message.find("LD/CSWI1.Pos: the device accepted the command, but the "
-                                  "association ended before the command: "),
-              0U)
+    EXPECT_EQ(
+        result.message.english().find("LD/CSWI1.Pos: the device accepted the command, but the "
+                                      "association ended before the command: "),
+        0U)
         << result.message;
 }
 
@@ -376,7 +379,7 @@ TEST_F(ControlTest, ARefusalWithoutACauseInItsErrorGivesTheAccessError)
     reaction.errorBefore->error = 0;
     EXPECT_EQ(run(control->operate(request())).message,
               "LD/CSWI1.Pos: the device refuses Oper: " +
-                  mms::describe(DataAccessError::TemporarilyUnavailable));
+                  mms::describe(DataAccessError::TemporarilyUnavailable).english());
 }
 
 TEST_F(ControlTest, ARefusalByServiceErrorOrRejectIsARefusal)
@@ -401,7 +404,7 @@ TEST_F(ControlTest, ARefusalByServiceErrorOrRejectIsARefusal)
         rejects = reject;
         const ControlResult result = run(control->operate(request()));
         EXPECT_EQ(result.outcome, ControlOutcome::Refused);
-        EXPECT_EQ(result.message.find("LD/CSWI1.Pos: the device refuses Oper: "), 0U)
+        EXPECT_EQ(result.message.english().find("LD/CSWI1.Pos: the device refuses Oper: "), 0U)
             << result.message;
     }
 }
@@ -470,7 +473,7 @@ TEST_F(ControlTest, TheEndOfTheAssociationLeavesACommandUnknown)
     device->intercept = [](const auto &association, std::uint32_t, mms::RequestService &service) {
         if (!std::holds_alternative<mms::WriteRequest>(service))
             return false;
-        association->abort("The test wants it.");
+        association->abort(mms::verbatim("The test wants it."));
         return true;
     };
     EXPECT_EQ(run(control->operate(request())).outcome, ControlOutcome::Unknown);

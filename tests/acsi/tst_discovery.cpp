@@ -143,7 +143,7 @@ TEST_F(AcsiDiscovery, LostAssociationIsTheReasonOfTheError)
                            const mms::RequestService &request) {
         if (!std::holds_alternative<mms::GetVariableAccessAttributesRequest>(request))
             return false;
-        association->abort("Power failed.");
+        association->abort(mms::verbatim("Power failed."));
         return true;
     };
     connect();

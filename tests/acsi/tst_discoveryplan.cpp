@@ -20,6 +20,14 @@ using mms::ResponseService;
 using mms::Scope;
 using mms::TypeDescription;
 
+std::vector<std::string> english(const std::vector<mms::Text> &texts)
+{
+    std::vector<std::string> result;
+    for (const mms::Text &text : texts)
+        result.push_back(text.english());
+    return result;
+}
+
 const mms::ServiceError tooLarge{
     mms::ErrorClass::Resource, mms::serviceerrors::resourceOther, {}, {}, {}};
 const mms::ServiceError denied{
@@ -352,7 +360,7 @@ TEST(DiscoveryPlan, ArraysOfEnormousCountsAreLeftOutAndTheRestIsReadInParts)
     }
     EXPECT_EQ(server->devices[0].nodes[2].type, withArray(usual));
     EXPECT_TRUE(server->devices[0].nodes[2].inParts.empty());
-    auto leftOut = server->leftOut;
+    auto leftOut = english(server->leftOut);
     std::ranges::sort(leftOut);
     EXPECT_EQ(leftOut,
               (std::vector<std::string>{
@@ -387,7 +395,7 @@ TEST(DiscoveryPlan, LimitsEndTheReadingWithASentence)
         EXPECT_TRUE(server.ok());
         EXPECT_TRUE(driver.plan.finished());
         EXPECT_LT(driver.requests, 200U);
-        return server ? server->leftOut : std::vector<std::string>();
+        return server ? english(server->leftOut) : std::vector<std::string>();
     };
     DiscoveryLimits limits;
     limits.devices = 3;
@@ -429,7 +437,7 @@ TEST(DiscoveryPlan, WhatWasNotToldInTimeIsLeftOut)
     EXPECT_TRUE(plan.finished());
     const auto server = plan.take();
     ASSERT_TRUE(server.ok());
-    EXPECT_EQ(server->leftOut,
+    EXPECT_EQ(english(server->leftOut),
               std::vector<std::string>{"The device took longer than 30 minutes to describe itself; "
                                        "what it had not told by then is left out."});
 }
@@ -469,7 +477,7 @@ TEST(DiscoveryPlan, RefusedObjectsAreNamedAndLeftOut)
     ASSERT_EQ(device.dataSets.size(), 1U);
     EXPECT_EQ(device.dataSets[0].name.item, "LLN0$b");
     EXPECT_TRUE(device.journals.empty());
-    auto refused = server->refused;
+    auto refused = english(server->refused);
     std::ranges::sort(refused);
     EXPECT_EQ(refused, (std::vector<std::string>{"LD0/LLN0$a: Access to the object is denied.",
                                                  "LD0/XCBR10$ST: Access to the object is denied.",
@@ -511,7 +519,7 @@ TEST(DiscoveryPlan, NamesThatNoReferenceCanHaveAreLeftOutAndTheRestIsReadInParts
                                           {"Ind", TypeDescription::boolean()}})}}));
     EXPECT_EQ(node.inParts, (std::vector<std::string>{"LLN0", "LLN0$ST", "LLN0$ST$Pos"}));
     EXPECT_EQ(server->leftOut.size(), 5U); // the same sentence is said once
-    for (const std::string &sentence : server->leftOut) {
+    for (const std::string &sentence : english(server->leftOut)) {
         EXPECT_TRUE(sentence.ends_with(
             " has a name that is none, or that something else has; it is left out."))
             << sentence;
@@ -531,7 +539,7 @@ TEST(DiscoveryPlan, RefusedNamesOfOneDeviceDoNotSpoilTheOthers)
     ASSERT_TRUE(server.ok());
     EXPECT_TRUE(server->devices[0].nodes.empty());
     EXPECT_EQ(server->devices[1].nodes.size(), 3U);
-    EXPECT_EQ(server->refused,
+    EXPECT_EQ(english(server->refused),
               (std::vector<std::string>{
                   "The names of the data sets of LD0: Access to the object is denied.",
                   "The names of the data of LD0: Access to the object is denied."}));
@@ -555,8 +563,8 @@ TEST(DiscoveryPlan, PeerConfusedBySeveralRequestsIsAskedOneByOne)
 {
     const std::vector<CallOutcome> confusions = {
         rejected,
-        CallFailure{CallFailure::Kind::TimedOut, "The peer did not answer in time."},
-        CallFailure{CallFailure::Kind::Malformed, "The answer cannot be read."},
+        CallFailure{CallFailure::Kind::TimedOut, mms::verbatim("The peer did not answer in time.")},
+        CallFailure{CallFailure::Kind::Malformed, mms::verbatim("The answer cannot be read.")},
         ResponseService(mms::StatusResponse()),
     };
     for (const CallOutcome &confusion : confusions) {
@@ -611,7 +619,8 @@ TEST(DiscoveryPlan, SilenceAboutJournalsIsNotTheEnd)
         if (!asksFor(request, ObjectClass::Journal))
             return std::nullopt;
         ++asked;
-        return CallFailure{CallFailure::Kind::TimedOut, "The peer did not answer in time."};
+        return CallFailure{CallFailure::Kind::TimedOut,
+                           mms::verbatim("The peer did not answer in time.")};
     };
     expectWhole(driver.run());
     EXPECT_EQ(asked, 1U);
@@ -625,11 +634,12 @@ TEST(DiscoveryPlan, SilenceAboutOneObjectIsNamed)
         const auto *list = std::get_if<mms::GetNamedVariableListAttributesRequest>(&request);
         if (!list || list->name.item != "LLN0$a")
             return std::nullopt;
-        return CallFailure{CallFailure::Kind::TimedOut, "The peer did not answer in time."};
+        return CallFailure{CallFailure::Kind::TimedOut,
+                           mms::verbatim("The peer did not answer in time.")};
     };
     const auto server = driver.run();
     expectWhole(server);
-    EXPECT_EQ(server->refused,
+    EXPECT_EQ(english(server->refused),
               (std::vector<std::string>{"LD0/LLN0$a: The peer did not answer in time.",
                                         "LD1/LLN0$a: The peer did not answer in time."}));
     EXPECT_EQ(server->devices[1].dataSets.size(), 1U);
@@ -641,7 +651,8 @@ TEST(DiscoveryPlan, DeadDeviceIsGivenUpSoon)
     driver.instead = [&driver](const auto &) -> std::optional<CallOutcome> {
         if (driver.requests < 20)
             return std::nullopt;
-        return CallFailure{CallFailure::Kind::TimedOut, "The peer did not answer in time."};
+        return CallFailure{CallFailure::Kind::TimedOut,
+                           mms::verbatim("The peer did not answer in time.")};
     };
     const auto server = driver.run();
     ASSERT_FALSE(server.ok());
@@ -655,7 +666,8 @@ TEST(DiscoveryPlan, LostAssociationEndsIt)
     driver.instead = [&driver](const auto &) -> std::optional<CallOutcome> {
         if (driver.requests < 10)
             return std::nullopt;
-        return CallFailure{CallFailure::Kind::Lost, "The peer closed the network connection."};
+        return CallFailure{CallFailure::Kind::Lost,
+                           mms::verbatim("The peer closed the network connection.")};
     };
     const auto server = driver.run();
     ASSERT_FALSE(server.ok());

@@ -34,7 +34,7 @@ protected:
         const auto entries = run(listDirectory(client, directory));
         Names names;
         if (!entries)
-            return {"error: " + entries.error().message};
+            return {"error: " + entries.error().message.english()};
         for (const FileEntry &entry : *entries)
             names.push_back(entry.name);
         return names;
@@ -50,7 +50,7 @@ protected:
                 return received.size() < stopAfter;
             },
             [this](std::uint32_t size) { announced = size; },
-            [this](const std::string &reason) { notClosed = reason; }));
+            [this](const mms::Text &reason) { notClosed = reason; }));
     }
 
     mms::Result<void> offer(const std::string &name, const Octets &octets)
@@ -78,8 +78,8 @@ protected:
     Octets received;
     std::size_t stopAfter = SIZE_MAX;
     std::uint32_t announced = 0;
-    std::string notClosed;
-    std::string otherFile;
+    mms::Text notClosed;
+    mms::Text otherFile;
 };
 
 } // namespace
@@ -193,7 +193,7 @@ TEST_F(FilesTest, AFileThatIsNotThereIsNamed)
     start();
     const auto size = fetch("nothing.txt");
     ASSERT_FALSE(size.ok());
-    EXPECT_EQ(size.error().message.find("nothing.txt: "), 0U);
+    EXPECT_EQ(size.error().message.english().find("nothing.txt: "), 0U);
 }
 
 TEST_F(FilesTest, AFileIsClosedWhenReadingItFails)
@@ -204,7 +204,7 @@ TEST_F(FilesTest, AFileIsClosedWhenReadingItFails)
     start();
     const auto size = fetch("f");
     ASSERT_FALSE(size.ok());
-    EXPECT_EQ(size.error().message.find("f: "), 0U);
+    EXPECT_EQ(size.error().message.english().find("f: "), 0U);
     EXPECT_EQ(received.size(), 3000U);
     EXPECT_EQ(peer.openFiles, 0U);
 }
@@ -305,7 +305,8 @@ TEST_F(FilesTest, AnUploadThatFailsLeavesTheOldFileAndNoHalfOne)
     start();
     const auto result = offer("f", content(200000, 2));
     ASSERT_FALSE(result.ok());
-    EXPECT_NE(result.error().message.find("The old file is still there."), std::string::npos);
+    EXPECT_NE(result.error().message.english().find("The old file is still there."),
+              std::string::npos);
     EXPECT_EQ(namesOfPeer(), (Names{"f"}));
     EXPECT_EQ(peer.files["f"], content(100, 1));
 }
@@ -327,7 +328,7 @@ TEST_F(FilesTest, WhatIsLeftIsSaidWhenTheNewFileCannotGetItsName)
     start();
     const auto result = offer("f", content(200000, 2));
     ASSERT_FALSE(result.ok());
-    EXPECT_NE(result.error().message.find("The new file is in the device as f.upload."),
+    EXPECT_NE(result.error().message.english().find("The new file is in the device as f.upload."),
               std::string::npos);
     EXPECT_EQ(namesOfPeer(), (Names{"f.upload"}));
     EXPECT_EQ(peer.files["f.upload"], content(200000, 2));
@@ -342,7 +343,8 @@ TEST_F(FilesTest, AFileThatThePeerKeepsStaysAndSoDoesNothingElse)
     start();
     const auto result = offer("f", content(5000, 2));
     ASSERT_FALSE(result.ok());
-    EXPECT_NE(result.error().message.find("The old file is still there."), std::string::npos);
+    EXPECT_NE(result.error().message.english().find("The old file is still there."),
+              std::string::npos);
     EXPECT_EQ(namesOfPeer(), (Names{"f"}));
     EXPECT_EQ(peer.files["f"], content(100, 1));
 }
@@ -381,7 +383,7 @@ TEST_F(FilesTest, AFileThatCannotBeReadHereSaysWhy)
     FileSource source;
     source.size = 5000;
     source.read = [](std::uint64_t, std::span<std::uint8_t>) -> mms::Result<std::size_t> {
-        return mms::Error{"The disk is gone.", 0};
+        return mms::Error{mms::verbatim("The disk is gone."), 0};
     };
     EXPECT_EQ(run(upload(client, "f", source)).error().message, "f: The disk is gone.");
     source.read = [](std::uint64_t, std::span<std::uint8_t>) -> mms::Result<std::size_t> {
@@ -401,7 +403,7 @@ TEST_F(FilesTest, TheEndOfTheAssociationEndsAnUpload)
     auto uploading = std::async(std::launch::async, [this] { return offer("f", content(200000)); });
     while (device->requestsOf<mms::ObtainFileRequest>().empty())
         std::this_thread::yield();
-    device->association()->abort("The test wants it.");
+    device->association()->abort(mms::verbatim("The test wants it."));
     EXPECT_FALSE(uploading.get().ok());
 }
 
@@ -436,7 +438,8 @@ TEST_F(FilesTest, AFileThatThePeerMayNotOpenIsReplacedByWayOfTheOtherName)
     start();
     const auto result = offer("d/f", content(200000, 2));
     ASSERT_FALSE(result.ok());
-    EXPECT_NE(result.error().message.find("The old file is still there."), std::string::npos)
+    EXPECT_NE(result.error().message.english().find("The old file is still there."),
+              std::string::npos)
         << result.error().message;
     EXPECT_EQ(peer.files["d/f"], content(100, 1));
     peer.habits.fetchLimit = SIZE_MAX;
@@ -499,7 +502,7 @@ TEST_F(FilesTest, AFileThatIsCalledLikeAReplacementIsNotTouched)
     start();
     const auto result = offer("f", content(5000, 2));
     ASSERT_FALSE(result.ok());
-    EXPECT_EQ(result.error().message.find("f.upload is in the device already"), 0U)
+    EXPECT_EQ(result.error().message.english().find("f.upload is in the device already"), 0U)
         << result.error().message;
     EXPECT_EQ(peer.files["f"], content(100, 1));
     EXPECT_EQ(peer.files["f.upload"], content(70, 3));
@@ -521,7 +524,7 @@ TEST_F(FilesTest, ADownloadThatEndsTooEarlyIsAnError)
     peer.files["f"] = content(10000);
     peer.habits.endsAt = 4000;
     start();
-    EXPECT_EQ(fetch("f").error().message, "f: The file ended after 4000 of 10000 octets.");
+    EXPECT_EQ(fetch("f").error().message, "f: the file ended after 4000 of 10000 octets.");
     EXPECT_EQ(peer.openFiles, 0U);
 }
 
@@ -546,7 +549,7 @@ TEST_F(FilesTest, ARefusedCloseIsTold)
     start();
     EXPECT_TRUE(fetch("f").ok());
     EXPECT_FALSE(notClosed.empty());
-    notClosed.clear();
+    notClosed = {};
     peer.habits.refusesClose = false;
     EXPECT_TRUE(fetch("f").ok());
     EXPECT_TRUE(notClosed.empty());
@@ -596,7 +599,7 @@ TEST_F(FilesTest, RefusalsNameTheFile)
     peer.files = {{"a", content(1)}};
     peer.habits.canDelete = false;
     start();
-    EXPECT_EQ(run(deleteFile(client, "a")).error().message.find("a: "), 0U);
-    EXPECT_EQ(run(renameFile(client, "x", "y")).error().message.find("x: "), 0U);
+    EXPECT_EQ(run(deleteFile(client, "a")).error().message.english().find("a: "), 0U);
+    EXPECT_EQ(run(renameFile(client, "x", "y")).error().message.english().find("x: "), 0U);
     EXPECT_EQ(device->requestsOf<mms::FileDeleteRequest>().size(), 1U);
 }

@@ -43,8 +43,8 @@ TEST(FunctionalConstraint, ControlBlocksAreNotData)
 {
     for (const char *text : {"RP", "BR", "LG", "GO", "GS", "MS", "US"})
         EXPECT_FALSE(isOfData(*functionalConstraintFrom(text))) << text;
-    for (const char *text : {"ST", "MX", "CO", "CF", "DC", "SP", "SG", "SE", "SV", "EX", "SR", "OR",
-                             "BL"})
+    for (const char *text :
+         {"ST", "MX", "CO", "CF", "DC", "SP", "SG", "SE", "SV", "EX", "SR", "OR", "BL"})
         EXPECT_TRUE(isOfData(*functionalConstraintFrom(text))) << text;
 }
 
@@ -78,8 +78,8 @@ TEST(Reference, ItemIsReadWithinALogicalDevice)
 
 TEST(Reference, NotationWithDotsIsReadWithItsConstraint)
 {
-    const auto reference = parseObjectReference("E1Q1MEAS/MHAI1.HA.phsAHar(3).cVal.mag",
-                                                FunctionalConstraint::MX);
+    const auto reference =
+        parseObjectReference("E1Q1MEAS/MHAI1.HA.phsAHar(3).cVal.mag", FunctionalConstraint::MX);
     ASSERT_TRUE(reference.ok());
     EXPECT_EQ(*reference, harmonic());
     const auto node = parseObjectReference("LD0/LLN0", FunctionalConstraint::ST);
@@ -89,16 +89,35 @@ TEST(Reference, NotationWithDotsIsReadWithItsConstraint)
 
 TEST(Reference, WrongTextIsRefusedWithASentenceThatQuotesIt)
 {
-    for (const char *text :
-         {"", "/", "LD0/", "/LLN0", "LLN0$ST", "LD0/LLN0$", "LD0/LLN0$XX", "LD0/LLN0$ST$",
-          "LD0/LLN0$ST$$Mod", "LD0/LLN0$ST$Mod$", "LD0/LLN0.Mod", "LD0/LLN0$ST$har()",
-          "LD0/LLN0$ST$har(x)", "LD0/LLN0$ST$har(-1)", "LD0/LLN0$ST$har(3", "LD0/LLN0$ST$har(3)x",
-          "LD0/LLN0$ST$(3)", "LD0/LLN0$ST$har(4294967296)", "LD0/LLN0$ST$har(1)(2)",
-          "LD0/LLN0(1)", "LD 0/LLN0", "LD0/LLN0$ST$Mod/q", "LD0/LLN0$ST$M\x01"}) {
+    for (const char *text : {"",
+                             "/",
+                             "LD0/",
+                             "/LLN0",
+                             "LLN0$ST",
+                             "LD0/LLN0$",
+                             "LD0/LLN0$XX",
+                             "LD0/LLN0$ST$",
+                             "LD0/LLN0$ST$$Mod",
+                             "LD0/LLN0$ST$Mod$",
+                             "LD0/LLN0.Mod",
+                             "LD0/LLN0$ST$har()",
+                             "LD0/LLN0$ST$har(x)",
+                             "LD0/LLN0$ST$har(-1)",
+                             "LD0/LLN0$ST$har(3",
+                             "LD0/LLN0$ST$har(3)x",
+                             "LD0/LLN0$ST$(3)",
+                             "LD0/LLN0$ST$har(4294967296)",
+                             "LD0/LLN0$ST$har(1)(2)",
+                             "LD0/LLN0(1)",
+                             "LD 0/LLN0",
+                             "LD0/LLN0$ST$Mod/q",
+                             "LD0/LLN0$ST$M\x01"}) {
         const auto reference = parseReference(text);
         ASSERT_FALSE(reference.ok()) << text;
-        EXPECT_EQ(reference.error().message.find(mms::quoted(text) + " is not a reference: "), 0U);
-        EXPECT_EQ(reference.error().message.back(), '.');
+        EXPECT_EQ(
+            reference.error().message.english().find(mms::quoted(text) + " is not a reference: "),
+            0U);
+        EXPECT_EQ(reference.error().message.english().back(), '.');
     }
     EXPECT_FALSE(parseReference("LD0", "").ok());
     EXPECT_FALSE(parseReference("", "LLN0").ok());

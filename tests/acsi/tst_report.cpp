@@ -224,10 +224,10 @@ TEST(ReportDecoding, EachFieldOfTheWrongTypeIsNamed)
         {7, "ConfRev"},
         {8, "SubSqNum"},
         {9, "MoreSegmentsFollow"},
-        {10, "inclusion"},
-        {11, "data reference of member 2"},
-        {15, "reason of member 2"},
-        {16, "reason of member 10"}};
+        {10, "Inclusion"},
+        {11, "DataRef of the member 2"},
+        {15, "ReasonCode of the member 2"},
+        {16, "ReasonCode of the member 10"}};
     for (const auto &[index, name] : fields) {
         for (const AccessResult &bad : {AccessResult(Data::float32(1)),
                                         AccessResult(mms::DataAccessError::ObjectAccessDenied)}) {
@@ -235,7 +235,7 @@ TEST(ReportDecoding, EachFieldOfTheWrongTypeIsNamed)
             report.results[index] = bad;
             const auto decoded = decodeReport(report);
             ASSERT_FALSE(decoded.ok()) << name;
-            EXPECT_NE(decoded.error().message.find(name), std::string::npos)
+            EXPECT_NE(decoded.error().message.english().find(name), std::string::npos)
                 << decoded.error().message;
         }
     }
@@ -283,7 +283,7 @@ TEST(ReportDecoding, OtherInformationReportsAreNotReports)
     EXPECT_FALSE(isReport(other));
     const auto decoded = decodeReport(other);
     ASSERT_FALSE(decoded.ok());
-    EXPECT_NE(decoded.error().message.find("LastApplError"), std::string::npos);
+    EXPECT_NE(decoded.error().message.english().find("LastApplError"), std::string::npos);
     EXPECT_FALSE(isReport({mms::ObjectName::inDomain("RPT", "RPT"), {}}));
     EXPECT_TRUE(isReport(information({})));
 }

@@ -180,7 +180,8 @@ TEST(ReportBlockValue, AnAttributeOfTheWrongTypeIsNamed)
         attributes[i].value = Data::float32(1);
         const auto block = reportBlockFrom(typeOf(attributes), valueOf(attributes));
         ASSERT_FALSE(block.ok()) << attributes[i].name;
-        EXPECT_EQ(block.error().message.find(attributes[i].name), 0U) << block.error().message;
+        EXPECT_EQ(block.error().message.english().find(attributes[i].name), 0U)
+            << block.error().message;
     }
 }
 
@@ -246,7 +247,7 @@ TEST_F(ReportBlockTest, ABlockThatDoesNotKnowTheEntryAnyMoreIsEnabledAndSaysSo)
     ASSERT_TRUE(enabled.ok()) << enabled.error().message;
     EXPECT_TRUE(enabled->rptEna);
     ASSERT_EQ(enabled->notes.size(), 1U);
-    EXPECT_EQ(enabled->notes[0].find("EntryID of LD/LLN0.blk cannot be written: "), 0U);
+    EXPECT_EQ(enabled->notes[0].english().find("EntryID of LD/LLN0.blk cannot be written: "), 0U);
 }
 
 TEST_F(ReportBlockTest, ARefusedReservationTimeLetsTheNextWriteDecide)
@@ -299,7 +300,7 @@ TEST_F(ReportBlockTest, ABlockOfAnotherClientNamesIt)
     ASSERT_FALSE(enabled.ok());
     EXPECT_EQ(enabled.error().message,
               "LD/LLN0.blk is enabled already. RptEna of LD/LLN0.blk cannot be written: " +
-                  mms::describe(DataAccessError::TemporarilyUnavailable) +
+                  mms::describe(DataAccessError::TemporarilyUnavailable).english() +
                   " The block belongs to the client 10.0.0.5.");
     EXPECT_EQ(writes, (Writes{"RptEna=false"}));
 }
@@ -311,8 +312,9 @@ TEST_F(ReportBlockTest, AReservedBlockNamesItsOwner)
     refusals = {"Resv"};
     const auto enabled = run(enableReportBlock(client, block, {}));
     ASSERT_FALSE(enabled.ok());
-    EXPECT_EQ(enabled.error().message.find("Resv of LD/LLN0.blk cannot be written: "), 0U);
-    EXPECT_NE(enabled.error().message.find("10.0.0.5"), std::string::npos);
+    EXPECT_EQ(enabled.error().message.english().find("Resv of LD/LLN0.blk cannot be written: "),
+              0U);
+    EXPECT_NE(enabled.error().message.english().find("10.0.0.5"), std::string::npos);
 }
 
 TEST_F(ReportBlockTest, ARefusedAttributeIsNamedAndTheReservationIsGivenUp)
@@ -323,8 +325,9 @@ TEST_F(ReportBlockTest, ARefusedAttributeIsNamedAndTheReservationIsGivenUp)
     settings.datSet = "LD/LLN0$dsB";
     const auto enabled = run(enableReportBlock(client, block, settings));
     ASSERT_FALSE(enabled.ok());
-    EXPECT_EQ(enabled.error().message, "DatSet of LD/LLN0.blk cannot be written: " +
-                                           mms::describe(DataAccessError::TemporarilyUnavailable));
+    EXPECT_EQ(enabled.error().message,
+              "DatSet of LD/LLN0.blk cannot be written: " +
+                  mms::describe(DataAccessError::TemporarilyUnavailable).english());
     EXPECT_EQ(writes, (Writes{"Resv=true", "DatSet=\"LD/LLN0$dsB\"", "Resv=false"}));
     EXPECT_EQ(get("RptEna"), "false");
 }
@@ -433,8 +436,8 @@ TEST_F(ReportBlockTest, ARefusedUndoOfWhatIsAsItWasIsNoRest)
     refusals = {"BufTm"};
     const auto trace = std::make_shared<ReportBlockTrace>();
     trace->changes.push_back({"BufTm", Data::unsignedInteger(100)});
-    EXPECT_TRUE(run(undoReportBlock(client, block, trace,
-                                    std::chrono::steady_clock::time_point::max())));
+    EXPECT_TRUE(
+        run(undoReportBlock(client, block, trace, std::chrono::steady_clock::time_point::max())));
     EXPECT_TRUE(trace->changes.empty());
 }
 
@@ -474,7 +477,8 @@ TEST_F(ReportBlockTest, ABlockThatIsNotThereIsNamed)
     for (const auto &message : {run(readReportBlock(client, other)).error().message,
                                 run(enableReportBlock(client, other, {})).error().message,
                                 run(disableReportBlock(client, other)).error().message}) {
-        EXPECT_EQ(message.find("The type of LD/LLN0.other cannot be read: "), 0U) << message;
+        EXPECT_EQ(message.english().find("The type of LD/LLN0.other cannot be read: "), 0U)
+            << message;
     }
 }
 
@@ -488,5 +492,6 @@ TEST_F(ReportBlockTest, SingleAttributesAreWrittenAsGiven)
     const auto refused =
         run(writeReportAttribute(client, block, "BufTm", Data::unsignedInteger(8)));
     ASSERT_FALSE(refused.ok());
-    EXPECT_EQ(refused.error().message.find("BufTm of LD/LLN0.blk cannot be written: "), 0U);
+    EXPECT_EQ(refused.error().message.english().find("BufTm of LD/LLN0.blk cannot be written: "),
+              0U);
 }

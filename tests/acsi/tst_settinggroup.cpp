@@ -67,7 +67,7 @@ TEST(SettingGroupValue, WhatDoesNotFitIsNamed)
         value.children()[i] = Data::float32(1);
         const auto block = settingGroupBlockFrom(blockType(), value);
         ASSERT_FALSE(block.ok()) << i;
-        EXPECT_EQ(block.error().message.find(blockType().components[i].name), 0U);
+        EXPECT_EQ(block.error().message.english().find(blockType().components[i].name), 0U);
     }
     EXPECT_FALSE(settingGroupBlockFrom(Type::structure({}), Data::structure({})).ok());
     EXPECT_FALSE(settingGroupBlockFrom(blockType(), Data::structure({})).ok());
@@ -106,7 +106,8 @@ TEST_F(SettingGroupTest, TheBlockIsReadFromTheDevice)
     EXPECT_EQ(read->actSG, 2U);
     const auto missing = run(readSettingGroupBlock(client, *parseReference("LD/LLN0$SP$Other")));
     ASSERT_FALSE(missing.ok());
-    EXPECT_EQ(missing.error().message.find("The type of LD/LLN0.Other cannot be read: "), 0U);
+    EXPECT_EQ(missing.error().message.english().find("The type of LD/LLN0.Other cannot be read: "),
+              0U);
 }
 
 TEST_F(SettingGroupTest, SelectingEditingAndConfirmingWriteTheBlock)
@@ -149,6 +150,7 @@ TEST_F(SettingGroupTest, ARefusalNamesTheAttribute)
     device->values.erase("LD/LLN0$SP$SGCB$EditSG");
     const auto refused = run(selectEditGroup(client, block, 9));
     ASSERT_FALSE(refused.ok());
-    EXPECT_EQ(refused.error().message, "EditSG of LD/LLN0.SGCB cannot be written: " +
-                                           mms::describe(mms::DataAccessError::ObjectNonExistent));
+    EXPECT_EQ(refused.error().message,
+              "EditSG of LD/LLN0.SGCB cannot be written: " +
+                  mms::describe(mms::DataAccessError::ObjectNonExistent).english());
 }

@@ -45,7 +45,7 @@ Answer refused(std::int32_t code, bool begun = false)
 {
     Answer answer;
     answer.kind = Kind::Refused;
-    answer.text = "Refused.";
+    answer.text = mms::say("Refused.");
     answer.errorClass = mms::ErrorClass::File;
     answer.code = code;
     answer.begun = begun;
@@ -66,7 +66,7 @@ Answer silent(bool begun = false)
 {
     Answer answer;
     answer.kind = Kind::Silent;
-    answer.text = "Silence.";
+    answer.text = mms::say("Silence.");
     answer.begun = begun;
     return answer;
 }
@@ -75,7 +75,7 @@ Answer lost()
 {
     Answer answer;
     answer.kind = Kind::Lost;
-    answer.text = "Lost.";
+    answer.text = mms::say("Lost.");
     return answer;
 }
 
@@ -100,7 +100,7 @@ std::string ending(const std::vector<Step> &script)
         ADD_FAILURE() << "goes on with " << testing::PrintToString(*steps.next());
         return "not over";
     }
-    return steps.result().ok() ? "ok" : steps.result().error().message;
+    return steps.result().ok() ? "ok" : steps.result().error().message.english();
 }
 
 const std::vector<Step> temporaryStands = {

@@ -70,7 +70,7 @@ public:
     {
         const auto faults = sim::Faults::parse(script);
         if (!faults)
-            qFatal("%s", faults.error().message.c_str());
+            qFatal("%s", faults.error().message.english().c_str());
         m_options.server.association.link.interference = (*faults)->interference();
     }
 
@@ -95,7 +95,7 @@ public:
             if (started)
                 return;
             if (!isFirst)
-                qFatal("%s", started.error().message.c_str());
+                qFatal("%s", started.error().message.english().c_str());
         }
         qFatal("no port is free");
     }

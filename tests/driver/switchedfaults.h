@@ -21,7 +21,7 @@ public:
     {
         const auto faults = sim::Faults::parse(script);
         if (!faults)
-            qFatal("%s", faults.error().message.c_str());
+            qFatal("%s", faults.error().message.english().c_str());
         m_faults = *faults;
     }
 

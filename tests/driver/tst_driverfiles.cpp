@@ -156,7 +156,7 @@ void tst_DriverFiles::start(const std::string &faults, std::chrono::milliseconds
     m_options.directory = m_remote->path().toStdString();
     const auto files = sim::DirectoryFiles::create(m_options);
     if (!files)
-        qFatal("%s", files.error().message.c_str());
+        qFatal("%s", files.error().message.english().c_str());
     sim::DeviceOptions options;
     options.files = *files;
     m_ied =

@@ -60,7 +60,8 @@ void tst_PduCapture::theNewestPdusAreToldAsTextOldestFirst()
     QVERIFY(lines.at(0).text.contains("status"));
     QVERIFY(lines.at(0).time.secsTo(QDateTime::currentDateTime()) < 60);
     QVERIFY(lines.at(1).sent);
-    QCOMPARE(lines.at(1).text, QString::fromStdString(mms::toText(*mms::decodePdu(statusRequest(3)))));
+    QCOMPARE(lines.at(1).text,
+             QString::fromStdString(mms::toText(*mms::decodePdu(statusRequest(3)))));
     QCOMPARE(capture.trace(-1).size(), 0);
     capture.clear();
     QCOMPARE(capture.trace(10).size(), 0);
@@ -84,7 +85,7 @@ void tst_PduCapture::whatIsNoPduIsShownWithItsFault()
     const std::vector<std::uint8_t> octets = {0xFF, 0x01};
     capture.add(mms::Direction::Received, octets);
     QCOMPARE(capture.trace(1).first().text,
-             QString::fromStdString(mms::decodePdu(octets).error().message));
+             QString::fromStdString(mms::decodePdu(octets).error().message.english()));
 }
 
 void tst_PduCapture::aSavedCaptureHoldsEveryPdu()

@@ -31,7 +31,8 @@ mms::UtcTime utc(std::uint32_t seconds, std::uint32_t fraction, std::uint8_t qua
 
 QString failure(const mms::Result<Data> &result)
 {
-    return result ? QStringLiteral("no failure") : QString::fromStdString(result.error().message);
+    return result ? QStringLiteral("no failure")
+                  : QString::fromStdString(result.error().message.english());
 }
 
 QByteArray streamed(const QVariant &value)

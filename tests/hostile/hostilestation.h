@@ -60,7 +60,7 @@ public:
         served.directory = files.path().toStdString();
         const auto service = sim::DirectoryFiles::create(served);
         if (!service)
-            qFatal("%s", service.error().message.c_str());
+            qFatal("%s", service.error().message.english().c_str());
         sim::DeviceOptions options;
         options.files = *service;
         m_ied = std::make_unique<drivertest::SimulatedIed>(path, QString(), std::string(), options);

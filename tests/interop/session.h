@@ -48,7 +48,7 @@ public:
     ~Session()
     {
         if (m_association)
-            m_association->abort("The test is over.");
+            m_association->abort(mms::verbatim("The test is over."));
     }
 
     mms::CallOutcome call(mms::RequestService request)
@@ -99,7 +99,7 @@ public:
 
     mms::Association &association() { return *m_association; }
     /// Waits for the end of the association.
-    std::string closeReason() { return m_closed.get(); }
+    std::string closeReason() { return m_closed.get().english(); }
 
 private:
     struct News
@@ -112,7 +112,7 @@ private:
     RequestHandler m_requestHandler;
     mmstest::Loop m_loop;
     std::shared_ptr<News> m_news = std::make_shared<News>();
-    mmstest::Awaited<std::string> m_closed;
+    mmstest::Awaited<mms::Text> m_closed;
     std::shared_ptr<mms::Association> m_association;
 };
 

@@ -27,7 +27,7 @@ public:
         files.directory = m_folder.path().toStdString();
         auto service = sim::DirectoryFiles::create(files);
         if (!service)
-            qFatal("%s", service.error().message.c_str());
+            qFatal("%s", service.error().message.english().c_str());
         sim::DeviceOptions options;
         options.files = *service;
         m_ied = std::make_unique<drivertest::SimulatedIed>(QStringLiteral(BAY_FILE), QString(),

@@ -670,7 +670,7 @@ TEST_F(ForeignServerTest, IsAborted)
 {
     row("Abort");
     connect();
-    m_session->association().abort("The test has seen enough.");
+    m_session->association().abort(mms::verbatim("The test has seen enough."));
     EXPECT_FALSE(m_session->closeReason().empty());
     int open = 1;
     for (int i = 0; i < 1000 && open != 0; ++i)

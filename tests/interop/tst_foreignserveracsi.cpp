@@ -63,7 +63,7 @@ protected:
     {
         if (m_client)
             asio::post(m_client->strand(),
-                       [client = m_client] { client->abort("The test is over."); });
+                       [client = m_client] { client->abort(mms::verbatim("The test is over.")); });
         MatrixTest::TearDown();
     }
 
@@ -223,7 +223,7 @@ TEST_F(ForeignServerAcsiTest, ReportsOverAnUnbufferedBlock)
     const auto free = run(readReportBlock(m_client, block));
     ASSERT_TRUE(free.ok());
     EXPECT_FALSE(free.value().rptEna);
-    asio::post(other->strand(), [other] { other->abort("The test is over."); });
+    asio::post(other->strand(), [other] { other->abort(mms::verbatim("The test is over.")); });
 }
 
 TEST_F(ForeignServerAcsiTest, ResumesABufferedBlock)

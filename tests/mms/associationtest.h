@@ -38,8 +38,8 @@ public:
                 response.results.emplace_back(Data::unsignedInteger(i));
             association->respond(invokeId, response);
         } else if (std::holds_alternative<FileDeleteRequest>(request)) {
-            association->fail(
-                invokeId, {ErrorClass::File, serviceerrors::fileNonExistent, {}, {}, {}});
+            association->fail(invokeId,
+                              {ErrorClass::File, serviceerrors::fileNonExistent, {}, {}, {}});
         } else if (std::holds_alternative<GetNameListRequest>(request)) {
             association->respond(
                 invokeId, GetNameListResponse{std::vector<std::string>(9000, "LLN0$ST$Mod"), true});
@@ -48,10 +48,10 @@ public:
         }
     }
 
-    void closed(const std::shared_ptr<Association> &, const std::string &reason) override
+    void closed(const std::shared_ptr<Association> &, const mms::Text &reason) override
     {
         if (!m_ended.exchange(true))
-            end.setter()(reason);
+            end.setter()(reason.english());
     }
 
     bool reportOnOpening = false;
@@ -79,7 +79,7 @@ protected:
         if (m_server)
             m_server->stop();
         if (m_client)
-            m_client->abort("The test is over.");
+            m_client->abort(mms::verbatim("The test is over."));
     }
 
     std::uint16_t startServer(ServerOptions options = {})
@@ -97,7 +97,9 @@ protected:
     {
         m_clientEnd = {};
         if (!handlers.closed)
-            handlers.closed = m_clientEnd.setter();
+            handlers.closed = [tell = m_clientEnd.setter()](const mms::Text &reason) {
+                tell(reason.english());
+            };
         m_client = Association::create(m_loop.executor(), std::move(options), std::move(handlers));
         Awaited<Result<InitiateParameters>> opened;
         m_client->connect("127.0.0.1", port, opened.setter());
@@ -130,7 +132,9 @@ protected:
     void connectToRawPeer(RawPeer &peer, Stack &stack)
     {
         Association::Handlers handlers;
-        handlers.closed = m_clientEnd.setter();
+        handlers.closed = [tell = m_clientEnd.setter()](const mms::Text &reason) {
+            tell(reason.english());
+        };
         m_client = Association::create(m_loop.executor(), quickOptions(), std::move(handlers));
         Awaited<Result<InitiateParameters>> opened;
         m_client->connect("127.0.0.1", peer.port(), opened.setter());

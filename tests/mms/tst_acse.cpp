@@ -84,7 +84,8 @@ TEST(Acse, EveryUnitIsRefusedWithOneOctetMoreOrLess)
 
 TEST(Acse, TitlesInOtherFormsAreReadOver)
 {
-    const auto unit = decode(fromHex("6019 a107060528ca220203 a2023000 a3023100 be06 2804 a002 a800"));
+    const auto unit =
+        decode(fromHex("6019 a107060528ca220203 a2023000 a3023100 be06 2804 a002 a800"));
     ASSERT_TRUE(unit.ok()) << unit.error().message;
     EXPECT_EQ(std::get<AssociateRequest>(*unit).called, Title());
 }
@@ -150,10 +151,10 @@ TEST(Acse, AUnitThatDoesNotBelongToTheStateAborts)
         Service service;
         Unit unit;
     };
-    for (const Row &row : {Row{false, Service::Connect, AssociateResponse{}},
-                           Row{true, Service::Accept, AssociateRequest{}},
-                           Row{true, Service::Accept, ReleaseRequest{}},
-                           Row{true, Service::Data, Abort{}}}) {
+    for (const Row &row :
+         {Row{false, Service::Connect, AssociateResponse{}},
+          Row{true, Service::Accept, AssociateRequest{}},
+          Row{true, Service::Accept, ReleaseRequest{}}, Row{true, Service::Data, Abort{}}}) {
         Association association({});
         if (row.associating)
             association.associate(pdu);
@@ -181,7 +182,8 @@ TEST(Acse, EveryRefusalIsASentence)
 {
     for (std::int64_t code = -2; code < 30; ++code) {
         for (const bool byProvider : {false, true})
-            EXPECT_EQ(refusalText(acse::Result::RejectedPermanently, {byProvider, code}).back(),
-                      '.');
+            EXPECT_EQ(
+                refusalText(acse::Result::RejectedPermanently, {byProvider, code}).english().back(),
+                '.');
     }
 }

@@ -44,13 +44,13 @@ TEST_F(AssociationTest, CoroutinesConnectCallAndConclude)
         [client = m_client, port, finish = done.setter()]() -> asio::awaitable<void> {
             const auto opened = co_await client->connect("127.0.0.1", port);
             if (!opened) {
-                finish(opened.error().message);
+                finish(opened.error().message.english());
                 co_return;
             }
             const auto outcome = co_await client->call(IdentifyRequest(), 10s);
             const auto concluded = co_await client->conclude();
             const auto *who = answerOf<IdentifyResponse>(outcome);
-            finish(who && concluded ? who->model : failureText(outcome));
+            finish(who && concluded ? who->model : failureText(outcome).english());
         },
         asio::detached);
     EXPECT_EQ(done.get(), "model");
@@ -76,8 +76,7 @@ TEST_F(AssociationTest, ReportsReachTheClient)
     Association::Handlers handlers;
     handlers.report = report.setter();
     ASSERT_TRUE(connect(startServer(), quickOptions(), std::move(handlers)).ok());
-    EXPECT_EQ(report.get(),
-              (InformationReport{ObjectName::ofVmd("RPT"), {Data::float32(1.5F)}}));
+    EXPECT_EQ(report.get(), (InformationReport{ObjectName::ofVmd("RPT"), {Data::float32(1.5F)}}));
 }
 
 TEST_F(AssociationTest, ThePduSizeIsKeptInBothDirections)
@@ -157,7 +156,7 @@ TEST_F(AssociationTest, AnAbortEndsCallsOnThisSideAndTheAssociationOnTheOther)
     ASSERT_TRUE(connect(startServer(), quickOptions()).ok());
     Awaited<CallOutcome> outcome;
     m_client->call(StatusRequest(), 60s, outcome.setter());
-    m_client->abort("The operator gave up.");
+    m_client->abort(mms::verbatim("The operator gave up."));
     const auto lost = outcome.get();
     EXPECT_EQ(failureOf(lost), CallFailure::Kind::Lost);
     EXPECT_EQ(failureText(lost), "The operator gave up.");
@@ -172,7 +171,8 @@ TEST_F(AssociationTest, OnlyTheRightPasswordOpensAnAssociation)
     const std::uint16_t port = startServer(server);
     const auto without = connect(port, quickOptions());
     ASSERT_FALSE(without.ok());
-    EXPECT_NE(without.error().message.find("an authentication is required"), std::string::npos);
+    EXPECT_NE(without.error().message.english().find("an authentication is required"),
+              std::string::npos);
     AssociationOptions wrong = quickOptions();
     wrong.link.stack.association.authentication =
         acse::Authentication{acse::passwordMechanism, fromHex("00")};
@@ -261,8 +261,7 @@ TEST_F(AssociationTest, AServerCutsOffAPeerThatDoesNotReadAnswers)
     ASSERT_TRUE(peer.feed(stack, events));
     Octets requests;
     for (std::uint32_t i = 0; i < 200; ++i) {
-        const auto octets =
-            stack.send(encode(ConfirmedRequestPdu{i, GetNameListRequest()})).octets;
+        const auto octets = stack.send(encode(ConfirmedRequestPdu{i, GetNameListRequest()})).octets;
         requests.insert(requests.end(), octets.begin(), octets.end());
     }
     peer.send(requests);
@@ -334,9 +333,8 @@ TEST_F(AssociationTest, GarbageInsteadOfAnAssociationIsCutOff)
     ServerOptions server;
     server.association.link.establishTimeout = 200ms;
     const std::uint16_t port = startServer(server);
-    for (const std::string_view garbage :
-         {"474554202f20485454502f312e310d0a0d0a", "0300000702f080", "03000005ff", "030000",
-          "0300000b06e0000000010000"}) {
+    for (const std::string_view garbage : {"474554202f20485454502f312e310d0a0d0a", "0300000702f080",
+                                           "03000005ff", "030000", "0300000b06e0000000010000"}) {
         RawPeer peer;
         peer.connect(port);
         peer.send(fromHex(garbage));
@@ -364,7 +362,7 @@ TEST_F(AssociationTest, ARefusedConnectionIsSaidWithHostAndPort)
     const std::uint16_t port = RawPeer().port();
     const auto opened = connect(port, quickOptions());
     ASSERT_FALSE(opened.ok());
-    EXPECT_NE(opened.error().message.find("127.0.0.1 port " + std::to_string(port)),
+    EXPECT_NE(opened.error().message.english().find("127.0.0.1 port " + std::to_string(port)),
               std::string::npos);
 }
 
@@ -476,8 +474,8 @@ TEST_F(AssociationTest, TheTraceSeesEveryPduInBothDirections)
     AssociationOptions options = quickOptions();
     std::vector<std::string> lines;
     options.link.trace = [&lines](Direction direction, Bytes pdu) {
-        lines.push_back((direction == Direction::Sent ? "> " : "< ")
-                        + std::to_string(peekPdu(pdu)->type));
+        lines.push_back((direction == Direction::Sent ? "> " : "< ") +
+                        std::to_string(peekPdu(pdu)->type));
     };
     ASSERT_TRUE(connect(startServer(), options).ok());
     call(IdentifyRequest());
@@ -561,7 +559,7 @@ TEST_F(AssociationTest, CallsWithoutAnAnswerAreGivenUpWhenTheAssociationIsConclu
     EXPECT_EQ(failureText(given), "The association is being concluded.");
     // The server still works on the call, so it does not conclude; the client does not wait longer
     // than for any release.
-    m_client->abort("Enough.");
+    m_client->abort(mms::verbatim("Enough."));
     EXPECT_FALSE(concluded.get().ok());
 }
 
@@ -645,7 +643,7 @@ TEST_F(AssociationTest, ConnectionsOfOnePeerThatAreNoAssociationsAreLimited)
     EXPECT_EQ(m_server->turnedAway(), 1U);
     // A place is free again once one has gone, or has become an association.
     first.close();
-    Result<InitiateParameters> opened = Error{"not tried", 0};
+    Result<InitiateParameters> opened = Error{mms::verbatim("not tried"), 0};
     for (int attempt = 0; attempt < 100 && !opened; ++attempt)
         opened = connect(port, quickOptions());
     EXPECT_TRUE(opened.ok());
@@ -683,8 +681,7 @@ TEST(HostLookup, ANameIsAskedForOnceAtATime)
     const HostLookup two("twice.example", slow, second.setter());
     {
         // Nobody hears of what was let go.
-        const HostLookup forgotten("twice.example", slow,
-                                   [](const HostAddresses &) { FAIL(); });
+        const HostLookup forgotten("twice.example", slow, [](const HostAddresses &) { FAIL(); });
     }
     gate.set_value();
     EXPECT_EQ(first.get().addresses, second.get().addresses);
@@ -722,8 +719,7 @@ TEST_F(AssociationTest, AnAttemptUnderWayGoesWithItsContext)
     std::weak_ptr<Association> attempt;
     {
         asio::io_context context;
-        const auto association =
-            Association::create(context.get_executor(), quickOptions(), {});
+        const auto association = Association::create(context.get_executor(), quickOptions(), {});
         attempt = association;
         association->connect("127.0.0.1", peer.port(), [](const Result<InitiateParameters> &) {});
         context.run_for(50ms);

@@ -26,7 +26,7 @@ std::string errorOf(const std::vector<std::uint8_t> &bytes, const Limits &limits
         }
     };
     walk(walk, input.reader());
-    return input.failed() ? input.error().message : std::string();
+    return input.failed() ? input.error().message.english() : std::string();
 }
 
 std::string written(void (*write)(Writer &))
@@ -47,7 +47,7 @@ auto converted(std::string_view hex, Function function, std::string *error = nul
     reader.next(element);
     auto result = function(reader, element);
     if (error)
-        *error = input.failed() ? input.error().message : std::string();
+        *error = input.failed() ? input.error().message.english() : std::string();
     return result;
 }
 
@@ -135,20 +135,20 @@ TEST(Ber, NumbersOutOfRangeAreRefused)
     std::string error;
     (void)converted(
         "020500ffffffff", [](Reader &r, const Element &e) { return r.integer32(e); }, &error);
-    EXPECT_EQ(error, "An integer is out of its range");
+    EXPECT_EQ(error, "An integer is out of its range.");
     (void)converted(
         "02050100000000", [](Reader &r, const Element &e) { return r.unsigned32(e); }, &error);
-    EXPECT_EQ(error, "An unsigned integer is out of its range");
+    EXPECT_EQ(error, "An unsigned integer is out of its range.");
     (void)converted(
         "0200", [](Reader &r, const Element &e) { return r.integer(e); }, &error);
-    EXPECT_EQ(error, "An integer has no octet or more than 8");
+    EXPECT_EQ(error, "An integer has no octet or more than 8.");
     (void)converted(
         "02090102030405060708", [](Reader &r, const Element &e) { return r.integer(e); }, &error);
     EXPECT_NE(error, "");
     (void)converted(
         "0209010203040506070809", [](Reader &r, const Element &e) { return r.unsignedInteger(e); },
         &error);
-    EXPECT_EQ(error, "An unsigned integer has no octet or more than 64 bits");
+    EXPECT_EQ(error, "An unsigned integer has no octet or more than 64 bits.");
 }
 
 TEST(Ber, BitStringsKeepTheirLengthAndOrder)
@@ -189,7 +189,7 @@ TEST(Ber, ABitStringThatClaimsMoreUnusedBitsThanItHasIsRefused)
         std::string error;
         (void)converted(
             hex, [](Reader &r, const Element &e) { return r.bitString(e); }, &error);
-        EXPECT_EQ(error, "A bit string does not say how many of its bits count") << hex;
+        EXPECT_EQ(error, "A bit string does not say how many of its bits count.") << hex;
     }
 }
 
@@ -233,20 +233,20 @@ TEST(Ber, IndefiniteLengthsReadLikeDefiniteOnes)
 
 TEST(Ber, AnIndefiniteLengthMustEnd)
 {
-    EXPECT_EQ(errorOf(fromHex("a180 0101ff 00")), "The message ends within an element");
-    EXPECT_EQ(errorOf(fromHex("a180 0101ff")), "The message ends within an element");
-    EXPECT_EQ(errorOf(fromHex("8180 0000")), "A primitive element has no definite length");
+    EXPECT_EQ(errorOf(fromHex("a180 0101ff 00")), "The message ends within an element.");
+    EXPECT_EQ(errorOf(fromHex("a180 0101ff")), "The message ends within an element.");
+    EXPECT_EQ(errorOf(fromHex("8180 0000")), "A primitive element has no definite length.");
 }
 
 TEST(Ber, LongFormsOfLengthsAndTagsAreRead)
 {
-    EXPECT_EQ(errorOf(fromHex("810201")), "An element is longer than the message");
+    EXPECT_EQ(errorOf(fromHex("810201")), "An element is longer than the message.");
     EXPECT_EQ(errorOf(fromHex("8184 00000001 05")), "");
     EXPECT_EQ(errorOf(fromHex("8185 0000000001 05")), "");
-    EXPECT_EQ(errorOf(fromHex("8185 0100000001 05")), "The length of an element is too large");
+    EXPECT_EQ(errorOf(fromHex("8185 0100000001 05")), "The length of an element is too large.");
     EXPECT_EQ(errorOf(fromHex("9f4d 00")), "");
     EXPECT_EQ(errorOf(fromHex("9f ff7f 00")), "");
-    EXPECT_EQ(errorOf(fromHex("9f 818000 00")), "A tag number is too large");
+    EXPECT_EQ(errorOf(fromHex("9f 818000 00")), "A tag number is too large.");
 }
 
 TEST(Ber, EveryTruncationIsAnErrorAndNeverReadBeyond)
@@ -266,8 +266,8 @@ TEST(Ber, NestingIsLimited)
         indefinite.insert(indefinite.begin(), {0x30, 0x80});
         indefinite.insert(indefinite.end(), {0, 0});
     }
-    EXPECT_EQ(errorOf(definite), "The elements are nested too deeply");
-    EXPECT_EQ(errorOf(indefinite), "The elements are nested too deeply");
+    EXPECT_EQ(errorOf(definite), "The elements are nested too deeply.");
+    EXPECT_EQ(errorOf(indefinite), "The elements are nested too deeply.");
     definite.erase(definite.begin(), definite.begin() + 2);
     indefinite.erase(indefinite.begin(), indefinite.begin() + 2);
     indefinite.erase(indefinite.end() - 2, indefinite.end());
@@ -278,13 +278,13 @@ TEST(Ber, NestingIsLimited)
 TEST(Ber, LengthAndCountAreLimited)
 {
     const auto bytes = fromHex("30060101ff0101ff");
-    EXPECT_EQ(errorOf(bytes, Limits{.length = 7}), "The message is longer than allowed");
+    EXPECT_EQ(errorOf(bytes, Limits{.length = 7}), "The message is longer than allowed.");
     Input allowed(bytes, Limits{.length = 8, .count = 2});
     EXPECT_EQ(allowed.reader().expectGroup(tags::sequence, "list").countRest(), 2U);
     Input refused(bytes, Limits{.count = 1});
     EXPECT_EQ(refused.reader().expectGroup(tags::sequence, "list").countRest(), 0U);
     ASSERT_TRUE(refused.failed());
-    EXPECT_EQ(refused.error().message, "The message holds more elements than allowed");
+    EXPECT_EQ(refused.error().message, "The message holds more elements than allowed.");
 }
 
 TEST(Ber, TheFirstErrorIsKeptWithItsPlace)
@@ -297,7 +297,7 @@ TEST(Ber, TheFirstErrorIsKeptWithItsPlace)
     EXPECT_TRUE(reader.expect(tags::boolean, "second flag").tag.isNone());
     reader.expect(tags::integer, "number");
     ASSERT_TRUE(input.failed());
-    EXPECT_EQ(input.error().message, "second flag is not where it belongs");
+    EXPECT_EQ(input.error().message, "The element second flag is not where it belongs.");
     EXPECT_EQ(input.error().offset, 3U);
     EXPECT_TRUE(reader.atEnd());
     const Result<int> result = input.finish(5);
@@ -312,9 +312,9 @@ TEST(Ber, WhatIsMissingOrTooMuchIsSaid)
     Reader reader = missing.reader();
     reader.expect(tags::boolean, "flag");
     reader.expect(tags::integer, "number");
-    EXPECT_EQ(missing.error().message, "number is missing");
+    EXPECT_EQ(missing.error().message, "The element number is missing.");
 
     Input tooMuch(bytes);
     tooMuch.reader().expectEnd("the answer");
-    EXPECT_EQ(tooMuch.error().message, "Something stands behind the end of the answer");
+    EXPECT_EQ(tooMuch.error().message, "Something stands behind the end of the answer.");
 }

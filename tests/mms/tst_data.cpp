@@ -65,7 +65,7 @@ std::vector<Case> cases()
 std::string errorOf(std::string_view hex)
 {
     const auto result = decodeData(fromHex(hex));
-    return result ? std::string() : result.error().message;
+    return result ? std::string() : result.error().message.english();
 }
 
 } // namespace
@@ -195,17 +195,17 @@ TEST(Data, BitsThatDoNotCountAreDropped)
 
 TEST(Data, WhatIsNoValueIsSaid)
 {
-    const std::string noValue = "An element that is no value stands where a value belongs";
+    const std::string noValue = "An element that is no value stands where a value belongs.";
     for (const char *hex : {"020100", "8000", "8800", "9200", "8200", "8100", "a500", "b100"})
         EXPECT_EQ(errorOf(hex), noValue) << hex;
-    EXPECT_EQ(errorOf(""), "A value is missing");
-    EXPECT_EQ(errorOf("87020801"), "A floating-point number has neither 32 nor 64 bits");
-    EXPECT_EQ(errorOf("8705093fc00000"), "A floating-point number has neither 32 nor 64 bits");
-    EXPECT_EQ(errorOf("8c03000000"), "A binary time has neither 4 nor 6 octets");
-    EXPECT_EQ(errorOf("910700000000000000"), "A UTC time has not 8 octets");
-    EXPECT_EQ(errorOf("83020000"), "A boolean has not one octet");
-    EXPECT_EQ(errorOf("8500"), "An integer has no octet or more than 8");
-    EXPECT_EQ(errorOf("8400"), "A bit string does not say how many of its bits count");
+    EXPECT_EQ(errorOf(""), "The element Data is missing.");
+    EXPECT_EQ(errorOf("87020801"), "A floating-point number has neither 32 nor 64 bits.");
+    EXPECT_EQ(errorOf("8705093fc00000"), "A floating-point number has neither 32 nor 64 bits.");
+    EXPECT_EQ(errorOf("8c03000000"), "A binary time has neither 4 nor 6 octets.");
+    EXPECT_EQ(errorOf("910700000000000000"), "A UTC time has not 8 octets.");
+    EXPECT_EQ(errorOf("83020000"), "A boolean has not one octet.");
+    EXPECT_EQ(errorOf("8500"), "An integer has no octet or more than 8.");
+    EXPECT_EQ(errorOf("8400"), "A bit string does not say how many of its bits count.");
 }
 
 TEST(Data, OctetsThatAreNoObjectIdentifierCostNoOtherValue)
@@ -234,7 +234,7 @@ TEST(Data, AFailureInAListOfResultsIsNoValue)
     EXPECT_EQ(results[0].error(), DataAccessError::ObjectNonExistent);
     EXPECT_TRUE(results[1].ok());
     EXPECT_EQ(results[1].data().toInteger(), 5);
-    EXPECT_EQ(describe(results[2].error()), "The device reports the unknown data access error 99");
+    EXPECT_EQ(describe(results[2].error()), "The device reports the unknown data access error 99.");
     EXPECT_EQ(toText(results[0]), "failure: The object does not exist");
 }
 
@@ -298,7 +298,8 @@ TEST(TypeDescription, WhatIsNoTypeIsSaid)
     for (const char *hex : {"020100", "8e00", "8800", "8100", "8700", "a300"}) {
         const auto result = decodeTypeDescription(fromHex(hex));
         ASSERT_FALSE(result) << hex;
-        EXPECT_EQ(result.error().message, "An element that is no type stands where a type belongs");
+        EXPECT_EQ(result.error().message,
+                  "An element that is no type stands where a type belongs.");
     }
 }
 

@@ -23,7 +23,7 @@ class PduSamples : public testing::TestWithParam<Sample>
 std::string errorOf(std::string_view hex)
 {
     const auto result = decodePdu(fromHex(hex));
-    return result ? std::string() : result.error().message;
+    return result ? std::string() : result.error().message.english();
 }
 
 } // namespace
@@ -46,7 +46,7 @@ TEST_P(PduSamples, OneOctetTooManyIsAnError)
     bytes.push_back(0);
     const auto result = decodePdu(bytes);
     ASSERT_FALSE(result);
-    EXPECT_EQ(result.error().message, "Something stands behind the end of the PDU");
+    EXPECT_EQ(result.error().message, "Something stands behind the end of MMSpdu.");
     EXPECT_EQ(result.error().offset, bytes.size() - 1);
 }
 
@@ -196,11 +196,11 @@ TEST(Pdu, AMalformedAnswerCanStillBeMatchedToItsCall)
 
 TEST(Pdu, WhatIsNoPduIsSaid)
 {
-    EXPECT_EQ(errorOf(""), "The message is empty");
-    EXPECT_EQ(errorOf("0101ff"), "The message is no MMS PDU");
-    EXPECT_EQ(errorOf("ae00"), "The message is no MMS PDU");
-    EXPECT_EQ(errorOf("8000"), "The message is no MMS PDU");
-    EXPECT_EQ(errorOf("8b0100"), "An element that is empty by definition has content");
+    EXPECT_EQ(errorOf(""), "The message is empty.");
+    EXPECT_EQ(errorOf("0101ff"), "The message is no MMS PDU.");
+    EXPECT_EQ(errorOf("ae00"), "The message is no MMS PDU.");
+    EXPECT_EQ(errorOf("8000"), "The message is no MMS PDU.");
+    EXPECT_EQ(errorOf("8b0100"), "An element that is empty by definition has content.");
     EXPECT_FALSE(peekPdu(fromHex("0101ff")));
     EXPECT_FALSE(peekPdu(fromHex("ae00")));
     EXPECT_FALSE(peekPdu({}));
@@ -208,17 +208,18 @@ TEST(Pdu, WhatIsNoPduIsSaid)
 
 TEST(Pdu, WhatIsMissingOrUnknownIsNamed)
 {
-    EXPECT_EQ(errorOf("a000"), "The invoke id is missing");
-    EXPECT_EQ(errorOf("a003020105"), "The service of the request is missing");
-    EXPECT_EQ(errorOf("a0060201050101ff"), "An element stands where a service belongs");
-    EXPECT_EQ(errorOf("a0090201053000a4028000"), "Modifiers of a request are not supported");
+    EXPECT_EQ(errorOf("a000"), "The element invokeID is missing.");
+    EXPECT_EQ(errorOf("a003020105"), "The element ConfirmedServiceRequest is missing.");
+    EXPECT_EQ(errorOf("a0060201050101ff"), "An element stands where a service belongs.");
+    EXPECT_EQ(errorOf("a0090201053000a4028000"), "Modifiers of a request are not supported.");
     EXPECT_EQ(errorOf("a0050201058400"), "");
-    EXPECT_EQ(errorOf("a007020105a402a100"), "The variables are missing");
-    EXPECT_EQ(errorOf("a305a003a00100"), "The message ends within an element");
-    EXPECT_EQ(errorOf("a4038c0100"), "The reason of a reject is missing or unknown");
-    EXPECT_EQ(errorOf("a205800105a200"), "The class of a service error is missing");
+    EXPECT_EQ(errorOf("a007020105a402a100"),
+              "The element variableAccessSpecification is missing or of an unknown kind.");
+    EXPECT_EQ(errorOf("a305a003a00100"), "The message ends within an element.");
+    EXPECT_EQ(errorOf("a4038c0100"), "The element rejectReason is missing or of an unknown kind.");
+    EXPECT_EQ(errorOf("a205800105a200"), "The element errorClass is missing.");
     EXPECT_EQ(errorOf("a20a800105a205a0038d0100"),
-              "The class of a service error is missing or unknown");
+              "The element errorClass is missing or of an unknown kind.");
 }
 
 TEST(Pdu, AnErrorNamesTheFirstOctetThatIsWrong)
@@ -226,7 +227,7 @@ TEST(Pdu, AnErrorNamesTheFirstOctetThatIsWrong)
     // The third value of a read answer is a boolean of two octets.
     const auto result = decodePdu(fromHex("a111 020105 a40c a10a 8301ff 850105 8302ffff"));
     ASSERT_FALSE(result);
-    EXPECT_EQ(result.error().message, "A boolean has not one octet");
+    EXPECT_EQ(result.error().message, "A boolean has not one octet.");
     EXPECT_EQ(result.error().offset, 17U);
 }
 
@@ -242,7 +243,7 @@ TEST(Pdu, NestingOfValuesIsLimited)
             EXPECT_TRUE(result);
         } else {
             ASSERT_FALSE(result);
-            EXPECT_EQ(result.error().message, "The elements are nested too deeply");
+            EXPECT_EQ(result.error().message, "The elements are nested too deeply.");
         }
     }
 }
@@ -269,7 +270,7 @@ TEST(Pdu, TheNumberOfElementsIsLimited)
     EXPECT_TRUE(decodePdu(bytes, ber::Limits{.count = 100}));
     const auto refused = decodePdu(bytes, ber::Limits{.count = 99});
     ASSERT_FALSE(refused);
-    EXPECT_EQ(refused.error().message, "The message holds more elements than allowed");
+    EXPECT_EQ(refused.error().message, "The message holds more elements than allowed.");
 }
 
 TEST(Pdu, AnInvokeIdOf32BitsIsKept)
@@ -317,9 +318,9 @@ TEST(Pdu, EmptyAnswersAreTakenInEitherForm)
 TEST(Pdu, RejectsAreExplained)
 {
     EXPECT_EQ(describe(RejectPdu{7, RejectedPdu::ConfirmedRequest, 1}),
-              "The device rejects a request (unrecognized-service)");
+              "The device rejects a request (unrecognized-service).");
     EXPECT_EQ(describe(RejectPdu{{}, RejectedPdu::PduError, 77}),
-              "The device rejects a message that it cannot read (77)");
+              "The device rejects a message that it cannot read (77).");
 }
 
 TEST(ServiceErrors, AreExplainedWithWhatTheDeviceAdds)
@@ -327,13 +328,13 @@ TEST(ServiceErrors, AreExplainedWithWhatTheDeviceAdds)
     ServiceError error;
     error.errorClass = ErrorClass::Access;
     error.code = serviceerrors::accessDenied;
-    EXPECT_EQ(describe(error), "Access to the object is denied");
+    EXPECT_EQ(describe(error), "Access to the object is denied.");
     error.code = 99;
     error.additionalCode = 5;
     error.additionalDescription = "locked";
     EXPECT_EQ(describe(error),
-              "The object cannot be accessed (error 99), additional code 5, \"locked\"");
+              "The object cannot be accessed (error 99, additional code 5, \"locked\").");
     error = {};
     error.errorClass = ErrorClass::Resource;
-    EXPECT_EQ(describe(error), "The device has not the resources for this");
+    EXPECT_EQ(describe(error), "The device has not the resources for this.");
 }

@@ -14,11 +14,10 @@ using mmstest::fromHex;
 using mmstest::packed;
 using mmstest::toHex;
 
-constexpr std::string_view connectOctets =
-    "31 40 a003800101 a239 8102 0001 8202 0001"
-    "a423 300f 020101 0604 52010001 3004 0602 5101"
-    "     3010 020103 0605 28ca220201 3004 0602 5101"
-    "610a 3008 020101 a003 600100";
+constexpr std::string_view connectOctets = "31 40 a003800101 a239 8102 0001 8202 0001"
+                                           "a423 300f 020101 0604 52010001 3004 0602 5101"
+                                           "     3010 020103 0605 28ca220201 3004 0602 5101"
+                                           "610a 3008 020101 a003 600100";
 constexpr std::string_view acceptOctets = "31 2a a003800101 a223 8302 0001"
                                           "a512 3007 800100 8102 5101 3007 800100 8102 5101"
                                           "6109 3007 020101 a002 6100";
@@ -57,7 +56,9 @@ const Octets apdu = fromHex("6000");
 
 Connect connectUnit(Bytes value)
 {
-    return {Octets{0, 1}, Octets{0, 1}, {{1, acseSyntax, {berSyntax}}, {3, mmsSyntax, {berSyntax}}},
+    return {Octets{0, 1},
+            Octets{0, 1},
+            {{1, acseSyntax, {berSyntax}}, {3, mmsSyntax, {berSyntax}}},
             {{1, value}}};
 }
 
@@ -200,7 +201,8 @@ TEST(Presentation, AConnectionWithoutTheContextsOfMmsIsRefused)
         ASSERT_NE(request(actions), nullptr);
         EXPECT_EQ(request(actions)->service, Service::Refuse);
         EXPECT_TRUE(decodeReject(request(actions)->userData).ok());
-        EXPECT_NE(indication(actions)->reason.find("presentation contexts"), std::string::npos);
+        EXPECT_NE(indication(actions)->reason.english().find("presentation contexts"),
+                  std::string::npos);
     }
 }
 
@@ -224,15 +226,15 @@ TEST(Presentation, DataOfAnUnknownContextAborts)
     const Octets octets = encode(std::vector<DataValue>{{99, pdu}});
     const auto actions = connection.receive(Service::Data, octets);
     EXPECT_EQ(request(actions)->service, Service::ProviderAbort);
-    EXPECT_NE(indication(actions)->reason.find("not agreed"), std::string::npos);
+    EXPECT_NE(indication(actions)->reason.english().find("not agreed"), std::string::npos);
 }
 
 TEST(Presentation, EveryReasonIsASentence)
 {
-    EXPECT_EQ(rejectionText(std::nullopt).back(), '.');
-    EXPECT_EQ(abortText(std::nullopt).back(), '.');
+    EXPECT_EQ(rejectionText(std::nullopt).english().back(), '.');
+    EXPECT_EQ(abortText(std::nullopt).english().back(), '.');
     for (std::int64_t i = -2; i < 20; ++i) {
-        EXPECT_EQ(rejectionText(i).back(), '.');
-        EXPECT_EQ(abortText(i).back(), '.');
+        EXPECT_EQ(rejectionText(i).english().back(), '.');
+        EXPECT_EQ(abortText(i).english().back(), '.');
     }
 }

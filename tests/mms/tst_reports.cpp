@@ -112,7 +112,7 @@ TEST_F(Reports, TheServerHearsWhichReportIsTooLong)
     EXPECT_EQ(association->counters().unsent, 1U);
     EXPECT_EQ(send(association, floats(fits)), ReportFate::Queued);
     EXPECT_EQ(received.get(), floats(fits));
-    m_client->abort("The test is over.");
+    m_client->abort(mms::verbatim("The test is over."));
     m_reporter->end.get();
     EXPECT_EQ(send(association, floats(1)), ReportFate::NotOpen);
     EXPECT_EQ(association->counters().unsent, 2U);
@@ -149,7 +149,7 @@ TEST_F(Reports, WhoWaitsForTheQueueHearsNothingAfterTheEnd)
     Awaited<bool> atOnce;
     association->whenQueued(0, [done = atOnce.setter()] { done(true); });
     EXPECT_TRUE(atOnce.get());
-    m_client->abort("The test is over.");
+    m_client->abort(mms::verbatim("The test is over."));
     m_reporter->end.get();
     std::atomic<bool> called{false};
     association->whenQueued(0, [&called] { called = true; });

@@ -119,7 +119,8 @@ TEST(Session, AbsentParametersMeanVersionOneAndTheirDefaultRequirements)
 TEST(Session, AConnectionIsOpenedUsedAndFinished)
 {
     Pair pair;
-    const auto indication = pair.responder.receive(find<Send>(pair.initiator.connect({1}))->message);
+    const auto indication =
+        pair.responder.receive(find<Send>(pair.initiator.connect({1}))->message);
     ASSERT_NE(find<ConnectIndication>(indication), nullptr);
     EXPECT_EQ(find<ConnectIndication>(indication)->userData, Octets{1});
     const auto confirm = pair.initiator.receive(find<Send>(pair.responder.accept({2}))->message);
@@ -161,10 +162,9 @@ TEST(Session, RequestsThatCannotBeServedAreRefused)
         Connect request;
         std::uint8_t reason;
     };
-    for (const Row &row :
-         {Row{{0, 1, duplex, Octets{1}, Octets{0, 1}, {}}, refuseVersion},
-          Row{{0, 2, 0x0001, Octets{1}, Octets{0, 1}, {}}, refuseByProvider},
-          Row{{0, 2, duplex, Octets{1}, Octets{9}, {}}, refuseSelectorUnknown}}) {
+    for (const Row &row : {Row{{0, 1, duplex, Octets{1}, Octets{0, 1}, {}}, refuseVersion},
+                           Row{{0, 2, 0x0001, Octets{1}, Octets{0, 1}, {}}, refuseByProvider},
+                           Row{{0, 2, duplex, Octets{1}, Octets{9}, {}}, refuseSelectorUnknown}}) {
         session::Connection responder(Role::Responder, {.checkSelector = true});
         const auto actions = responder.receive(encode(row.request));
         EXPECT_EQ(toHex(find<Send>(actions)->message), toHex(encode(Refuse{row.reason, {}})));
@@ -222,5 +222,5 @@ TEST(Session, AUnitThatDoesNotBelongToTheStateAbortsTheConnection)
 TEST(Session, EveryRefusalIsASentence)
 {
     for (unsigned i = 0; i < 256; ++i)
-        EXPECT_EQ(refusalText(static_cast<std::uint8_t>(i)).back(), '.');
+        EXPECT_EQ(refusalText(static_cast<std::uint8_t>(i)).english().back(), '.');
 }

@@ -16,7 +16,8 @@ namespace {
 using Generator = std::mt19937;
 
 constexpr int connections = 1500;
-/// What a warmed-up process may still grow by: pools of the allocator, not something per connection.
+/// What a warmed-up process may still grow by: pools of the allocator, not something per
+/// connection.
 constexpr std::size_t allowedGrowth = 4 * 1024 * 1024;
 
 std::size_t below(Generator &generator, std::size_t limit)
@@ -115,8 +116,8 @@ protected:
         peer.trySend(first);
         if (kind > 1) {
             std::vector<StackEvent> events;
-            const bool opened = peer.feed(stack, events)
-                && std::holds_alternative<AssociateConfirm>(events.front());
+            const bool opened = peer.feed(stack, events) &&
+                                std::holds_alternative<AssociateConfirm>(events.front());
             if (opened)
                 peer.trySend(traffic(generator, stack));
         }
@@ -128,8 +129,7 @@ protected:
     {
         Association::Handlers handlers;
         handlers.report = [](const InformationReport &) {};
-        m_client =
-            Association::create(m_loop.executor(), quickOptions(), std::move(handlers));
+        m_client = Association::create(m_loop.executor(), quickOptions(), std::move(handlers));
         Awaited<Result<InitiateParameters>> opened;
         m_client->connect("127.0.0.1", peer.port(), opened.setter());
         peer.accept();
@@ -138,12 +138,13 @@ protected:
         std::vector<StackEvent> events;
         if (kind == 0) {
             peer.trySend(randomOctets(generator));
-        } else if (peer.feed(stack, events)
-                   && std::holds_alternative<AssociateIndication>(events.front())) {
+        } else if (peer.feed(stack, events) &&
+                   std::holds_alternative<AssociateIndication>(events.front())) {
             const auto pdu = decodePdu(std::get<AssociateIndication>(events.front()).pdu);
             Octets answer =
-                stack.accept(encode(InitiateResponsePdu{
-                                 std::get<InitiateRequestPdu>(*pdu).parameters}))
+                stack
+                    .accept(
+                        encode(InitiateResponsePdu{std::get<InitiateRequestPdu>(*pdu).parameters}))
                     .octets;
             if (kind == 1)
                 mutate(generator, answer);
@@ -157,7 +158,7 @@ protected:
         Awaited<CallOutcome> outcome;
         m_client->call(IdentifyRequest(), 30s, outcome.setter());
         EXPECT_TRUE(std::holds_alternative<CallFailure>(outcome.get()));
-        m_client->abort("The next one.");
+        m_client->abort(mms::verbatim("The next one."));
     }
 };
 

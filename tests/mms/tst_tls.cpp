@@ -30,10 +30,10 @@ public:
         peer = association->tlsPeer();
     }
 
-    void refused(const std::string &reason) override
+    void refused(const mms::Text &reason) override
     {
         const std::lock_guard lock(m_mutex);
-        m_refusals.push_back(reason);
+        m_refusals.push_back(reason.english());
         m_changed.notify_all();
     }
 
@@ -143,7 +143,7 @@ protected:
         std::string theirs = m_tlsDevice->refusal();
         EXPECT_EQ(m_tlsDevice->openings, 0);
         m_server->stop();
-        return {opened.ok() ? std::string() : opened.error().message, std::move(theirs)};
+        return {opened.ok() ? std::string() : opened.error().message.english(), std::move(theirs)};
     }
 
     void expectMutualProof(TlsVersion version, const std::string &name)
@@ -179,8 +179,9 @@ protected:
     {
         const auto valid = validate(options);
         ASSERT_FALSE(valid.ok()) << part;
-        EXPECT_NE(valid.error().message.find(part), std::string::npos) << valid.error().message;
-        EXPECT_EQ(valid.error().message.back(), '.');
+        EXPECT_NE(valid.error().message.english().find(part), std::string::npos)
+            << valid.error().message;
+        EXPECT_EQ(valid.error().message.english().back(), '.');
     }
 
     static std::unique_ptr<TestCertificates> s_certificates;
@@ -240,16 +241,16 @@ TEST_F(Tls, AnIntermediateAuthorityIsFollowedToTheTrustedOne)
 {
     const Identity intermediate = s_certificates->authority("Region", &s_authority);
     const Identity device = s_certificates->issue(intermediate, "Remote");
-    const auto opened = connectSecure(
-        startSecure(TestCertificates::options(device, s_authority)), operatorOptions());
+    const auto opened = connectSecure(startSecure(TestCertificates::options(device, s_authority)),
+                                      operatorOptions());
     EXPECT_TRUE(opened.ok()) << opened.error().message;
 }
 
 TEST_F(Tls, AnUnknownIssuerIsRefusedAndNamed)
 {
     const Identity stranger = s_certificates->authority("Stranger");
-    TlsOptions server = TestCertificates::options(s_certificates->issue(stranger, "Impostor"),
-                                                  s_authority);
+    TlsOptions server =
+        TestCertificates::options(s_certificates->issue(stranger, "Impostor"), s_authority);
     const auto [client, theirs] = refusals(server, operatorOptions());
     EXPECT_TRUE(contains(client, "\"CN=Impostor\" was issued by \"CN=Stranger\", which is not "
                                  "trusted here"))
@@ -260,13 +261,13 @@ TEST_F(Tls, AnUnknownIssuerIsRefusedAndNamed)
 TEST_F(Tls, AClientOfAnUnknownIssuerIsRefusedAndToldSoInBothVersions)
 {
     const Identity stranger = s_certificates->authority("Stranger");
-    TlsOptions tls = TestCertificates::options(s_certificates->issue(stranger, "Intruder"),
-                                               s_authority);
+    TlsOptions tls =
+        TestCertificates::options(s_certificates->issue(stranger, "Intruder"), s_authority);
     for (const TlsVersion version : {TlsVersion::Tls12, TlsVersion::Tls13}) {
         tls.minimumVersion = tls.maximumVersion = version;
         const auto [client, theirs] = refusals(deviceOptions(), tls);
-        EXPECT_TRUE(contains(client, "does not trust its issuer")
-                    || contains(client, "has none that it trusts"))
+        EXPECT_TRUE(contains(client, "does not trust its issuer") ||
+                    contains(client, "has none that it trusts"))
             << client;
         EXPECT_TRUE(contains(theirs, "Intruder") || contains(theirs, "has shown no certificate"))
             << theirs;
@@ -315,7 +316,7 @@ TEST_F(Tls, ARevocationListThatIsLoadedAgainCountsFromThenOn)
     ASSERT_TRUE(reloaded.ok()) << reloaded.error().message;
     const auto opened = connectSecure(port, operatorOptions());
     ASSERT_FALSE(opened.ok());
-    EXPECT_TRUE(contains(opened.error().message, "because it has been revoked"))
+    EXPECT_TRUE(contains(opened.error().message.english(), "because it has been revoked"))
         << opened.error().message;
     std::rename(s_certificates->file("broken.pem", "nothing").c_str(), list.c_str());
     EXPECT_FALSE(m_server->reloadTls().ok());
@@ -336,7 +337,7 @@ TEST_F(Tls, AnExpiredCertificateIsRefusedAndNamed)
         EXPECT_FALSE(peer.accept());
         const auto result = opened.get();
         ASSERT_FALSE(result.ok());
-        EXPECT_TRUE(contains(result.error().message, text)) << result.error().message;
+        EXPECT_TRUE(contains(result.error().message.english(), text)) << result.error().message;
     }
 }
 
@@ -356,8 +357,8 @@ TEST_F(Tls, OnlyAPinnedPeerIsAccepted)
     tls.pins = {*otherMark};
     const auto [client, theirs] = refusals(deviceOptions(), tls);
     EXPECT_TRUE(contains(client, "\"CN=Device\" is not one of those that are pinned; its "
-                                 "fingerprint is "
-                             + *mark))
+                                 "fingerprint is " +
+                                     *mark))
         << client;
     EXPECT_FALSE(theirs.empty());
     std::string withColons;
@@ -380,7 +381,7 @@ TEST_F(Tls, APinnedCertificateNeedsNoAuthorityAndAnotherIsRefused)
     const TlsOptions server = TestCertificates::options(device, s_authority);
     const auto opened = connectSecure(startSecure(server), tls);
     EXPECT_TRUE(opened.ok()) << opened.error().message;
-    m_client->abort("The test is over.");
+    m_client->abort(mms::verbatim("The test is over."));
     m_server->stop();
     m_tlsDevice->openings = 0;
     EXPECT_TRUE(contains(refusals(deviceOptions(), tls).first, "is not one of those"));
@@ -388,15 +389,15 @@ TEST_F(Tls, APinnedCertificateNeedsNoAuthorityAndAnotherIsRefused)
 
 TEST_F(Tls, TheNameOfTheServerIsCheckedWhereOneIsAskedFor)
 {
-    const Identity named = s_certificates->issue(s_authority, "Named", {},
-                                                 "DNS:bay1.example,IP:127.0.0.1");
+    const Identity named =
+        s_certificates->issue(s_authority, "Named", {}, "DNS:bay1.example,IP:127.0.0.1");
     const TlsOptions server = TestCertificates::options(named, s_authority);
     TlsOptions tls = operatorOptions();
     for (const char *right : {"bay1.example", "127.0.0.1"}) {
         tls.peerName = right;
         const auto opened = connectSecure(startSecure(server), tls);
         EXPECT_TRUE(opened.ok()) << opened.error().message;
-        m_client->abort("Next.");
+        m_client->abort(mms::verbatim("Next."));
         m_server->stop();
     }
     m_tlsDevice->openings = 0;
@@ -413,14 +414,14 @@ TEST_F(Tls, TheCertificateOfAnotherHostIsRefusedUnlessToldOtherwise)
     const TlsOptions server = TestCertificates::options(other, s_authority);
     TlsOptions tls = operatorOptions();
     m_tlsDevice->openings = 0;
-    EXPECT_TRUE(contains(refusals(server, tls).first,
-                         "is not made out to the host that was asked for"));
+    EXPECT_TRUE(
+        contains(refusals(server, tls).first, "is not made out to the host that was asked for"));
     EXPECT_EQ(m_tlsDevice->openings, 0);
     m_server->stop();
     tls.acceptsOtherNames = true;
     const auto accepted = connectSecure(startSecure(server), tls);
     EXPECT_TRUE(accepted.ok()) << accepted.error().message;
-    m_client->abort("Next.");
+    m_client->abort(mms::verbatim("Next."));
     m_server->stop();
     // A certificate that is pinned says itself whose it is.
     tls.acceptsOtherNames = false;
@@ -453,7 +454,7 @@ TEST_F(Tls, ASecureClientIsRefusedByAPlainServerAndBothSaySo)
 {
     const auto opened = connectSecure(startServer(), operatorOptions());
     ASSERT_FALSE(opened.ok());
-    EXPECT_TRUE(contains(opened.error().message, "it may not speak TLS on this port"))
+    EXPECT_TRUE(contains(opened.error().message.english(), "it may not speak TLS on this port"))
         << opened.error().message;
     EXPECT_EQ(m_tlsDevice->refusal(), "The peer speaks TLS, which is not configured here.");
 }
@@ -539,7 +540,7 @@ TEST_F(Tls, OptionsThatDoNotFitEachOtherAreSaid)
     expectInvalid(tls, "does not fit the certificate");
     tls = operatorOptions();
     tls.authorityFiles.clear();
-    expectInvalid(tls, "Neither an authority nor a fingerprint says which peers are trusted");
+    expectInvalid(tls, "Neither an authority nor a fingerprint says which peers are trusted.");
     tls = operatorOptions();
     tls.pins = {"12:34"};
     expectInvalid(tls, "\"12:34\" is not a SHA-256 fingerprint");
@@ -570,12 +571,12 @@ TEST_F(Tls, BadOptionsEndTheAttemptBeforeAnythingIsSent)
     tls.certificateFile = "/nowhere/own.pem";
     const auto opened = connectSecure(startServer(), tls);
     ASSERT_FALSE(opened.ok());
-    EXPECT_TRUE(contains(opened.error().message, "cannot be opened"));
+    EXPECT_TRUE(contains(opened.error().message.english(), "cannot be opened"));
     ServerOptions server;
     server.address = "127.0.0.1";
     server.port = 0;
     server.association.link.tls = tls;
     const auto started = Server::create(m_loop.executor(), server, m_device)->start();
     ASSERT_FALSE(started.ok());
-    EXPECT_TRUE(contains(started.error().message, "cannot be opened"));
+    EXPECT_TRUE(contains(started.error().message.english(), "cannot be opened"));
 }

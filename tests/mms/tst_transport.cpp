@@ -26,7 +26,7 @@ T decoded(std::string_view hex)
 {
     const auto octets = fromHex(hex);
     const auto unit = cotp::decode(octets);
-    EXPECT_TRUE(unit.ok()) << (unit.ok() ? "" : unit.error().message);
+    EXPECT_TRUE(unit.ok()) << (unit.ok() ? "" : unit.error().message.english());
     const T *value = unit.ok() ? std::get_if<T>(&*unit) : nullptr;
     EXPECT_NE(value, nullptr);
     return value ? *value : T();
@@ -88,7 +88,8 @@ TEST(Tpkt, AStreamOfAnotherProtocolIsRefusedAtItsFirstOctet)
     reader.append(fromHex("47"));
     const auto packet = reader.next();
     ASSERT_FALSE(packet.ok());
-    EXPECT_NE(packet.error().message.find("does not speak ISO transport"), std::string::npos);
+    EXPECT_NE(packet.error().message.english().find("does not speak ISO transport"),
+              std::string::npos);
     EXPECT_FALSE(reader.next().ok());
 }
 
@@ -198,7 +199,8 @@ TEST(Cotp, AMessageBeyondTheLimitEndsTheConnection)
     EXPECT_TRUE(responder.receive(fromHex("0300000f02f000 0102030405060708")).empty());
     const auto actions = responder.receive(fromHex("0300000a02f000 010203"));
     ASSERT_NE(find<cotp::Closed>(actions), nullptr);
-    EXPECT_NE(find<cotp::Closed>(actions)->reason.find("more than 10 octets"), std::string::npos);
+    EXPECT_NE(find<cotp::Closed>(actions)->reason.english().find("more than 10 octets"),
+              std::string::npos);
     EXPECT_TRUE(responder.receive(fromHex("0300000802f08001")).empty());
 }
 
@@ -226,8 +228,8 @@ TEST(Cotp, AnUnknownSelectorIsRefusedWithItsReason)
     const auto answer = responder.receive(find<cotp::Send>(initiator.connect())->octets);
     const auto ended = initiator.receive(find<cotp::Send>(answer)->octets);
     ASSERT_EQ(ended.size(), 1U);
-    EXPECT_EQ(ended.front(),
-              cotp::Action(cotp::Closed{"The peer does not know the transport selector."}));
+    EXPECT_EQ(ended.front(), cotp::Action(cotp::Closed{
+                                 mms::say("The peer does not know the transport selector.")}));
 }
 
 TEST(Cotp, AUnitThatDoesNotBelongToTheStateEndsTheConnectionWithAnErrorUnit)
@@ -256,16 +258,16 @@ TEST(Cotp, AUnitThatDoesNotBelongToTheStateEndsTheConnectionWithAnErrorUnit)
         const auto actions = end.receive(stream);
         EXPECT_EQ(find<cotp::Send>(actions) != nullptr, row.answered) << row.unit;
         ASSERT_NE(find<cotp::Closed>(actions), nullptr) << row.unit;
-        EXPECT_EQ(find<cotp::Closed>(actions)->reason.back(), '.');
+        EXPECT_EQ(find<cotp::Closed>(actions)->reason.english().back(), '.');
         EXPECT_EQ(end.state(), cotp::Connection::State::Closed);
-        EXPECT_TRUE(end.networkClosed("late").empty());
+        EXPECT_TRUE(end.networkClosed(mms::verbatim("late")).empty());
     }
 }
 
 TEST(Cotp, EveryReasonIsASentence)
 {
     for (unsigned i = 0; i < 256; ++i) {
-        EXPECT_EQ(cotp::reasonText(static_cast<std::uint8_t>(i)).back(), '.');
-        EXPECT_EQ(cotp::causeText(static_cast<std::uint8_t>(i)).back(), '.');
+        EXPECT_EQ(cotp::reasonText(static_cast<std::uint8_t>(i)).english().back(), '.');
+        EXPECT_EQ(cotp::causeText(static_cast<std::uint8_t>(i)).english().back(), '.');
     }
 }

@@ -95,7 +95,7 @@ void tst_OddFiles::start(bool sim::Oddities::*oddity, const std::string &faults)
         files.oddities.*oddity = true;
     const auto service = sim::DirectoryFiles::create(files);
     if (!service)
-        qFatal("%s", service.error().message.c_str());
+        qFatal("%s", service.error().message.english().c_str());
     sim::DeviceOptions options;
     options.files = *service;
     m_ied =
@@ -179,7 +179,7 @@ void tst_OddFiles::aFileThatEndsTooEarlyIsToldAndNotKept()
     start(&sim::Oddities::cutFiles);
     QByteArray content = "as it was";
     QCOMPARE(m_driver->getFile(1, "readme.txt", content, m_error), OperationFailed);
-    QCOMPARE(m_error, QString("readme.txt: The file ended after 5 of 10 octets."));
+    QCOMPARE(m_error, QString("readme.txt: the file ended after 5 of 10 octets."));
     QCOMPARE(content, QByteArray("as it was"));
 }
 

@@ -120,13 +120,13 @@ asio::awaitable<void> compare(std::uint16_t port, int pduSize,
     const auto connected = co_await acsi::Client::connect(co_await asio::this_coro::executor,
                                                           "127.0.0.1", port, options);
     if (!connected) {
-        result.wrong.append(text(connected.error().message));
+        result.wrong.append(text(connected.error().message.english()));
         co_return;
     }
     const std::shared_ptr<acsi::Client> client = *connected;
     auto description = co_await acsi::discover(client);
     if (!description) {
-        result.wrong.append(text(description.error().message));
+        result.wrong.append(text(description.error().message.english()));
         co_return;
     }
     const OnlineModel model(std::move(*description), "IED", nullptr);
@@ -152,7 +152,7 @@ asio::awaitable<void> compare(std::uint16_t port, int pduSize,
             variables.push_back(acsi::accessOf(reference));
         const auto values = co_await client->read(std::move(variables));
         if (!values) {
-            result.wrong.append(text(values.error().message));
+            result.wrong.append(text(values.error().message.english()));
             co_return;
         }
         for (std::size_t i = 0; i < references.size(); ++i) {
@@ -297,7 +297,7 @@ public:
         m_server = mms::Server::create(m_context.get_executor(), options, tables);
         const auto port = m_server->start();
         if (!port)
-            qFatal("%s", port.error().message.c_str());
+            qFatal("%s", port.error().message.english().c_str());
         configuration.number = 1;
         configuration.name = "TABLES";
         configuration.host = "127.0.0.1";

@@ -31,13 +31,14 @@ ALLOWED = {
         "extension/settinggroup"},
     "extension/plugin": TOOL | {
         "extension/browser", "extension/fileservice", "extension/report", "sdk/tavrix"},
-    "protocol/scl": set(),
-    "protocol/mms": set(),
-    "protocol/acsi": {"protocol/mms"},
-    "apps/driver": SDK | {"protocol/scl", "protocol/acsi", "protocol/mms"},
-    "apps/simulator": {"protocol/scl", "protocol/acsi", "protocol/mms"},
+    "protocol/wording": set(),
+    "protocol/scl": {"protocol/wording"},
+    "protocol/mms": {"protocol/wording"},
+    "protocol/acsi": {"protocol/mms", "protocol/wording"},
+    "apps/driver": SDK | {"protocol/scl", "protocol/acsi", "protocol/mms", "protocol/wording"},
+    "apps/simulator": {"protocol/scl", "protocol/acsi", "protocol/mms", "protocol/wording"},
     "apps/iedctl": SDK | {"apps/driver"},
-    "apps/workbench": SDK | {"apps/driver", "apps/simulator", "protocol/scl"},
+    "apps/workbench": SDK | {"apps/driver", "apps/simulator", "protocol/scl", "protocol/wording"},
 }
 
 INCLUDE = re.compile(r'^\s*#\s*include\s+[<"]([^>"]+)[>"]', re.MULTILINE)

@@ -4,15 +4,23 @@
 Usage: check_messages.py ROOT
 
 A message is looked for by its fixed parts: the literals of its text, without what is put in at run
-time. For the tools of the plug-in these are the texts of message boxes; for the sources in SENTENCES
-every literal of three words or more.
+time. Messages are
+
+- the texts of message boxes, of two words or more;
+- sentences, that is what ends in a full stop, a question mark or an exclamation mark and has three
+  words or more: everything that is translated in SENTENCES_OF, and every literal of the programs in
+  LITERALS_OF, which are not translated;
+- every literal of three words or more in ALL_OF, where parts of sentences are put together.
+
+What a program's --help says is no message.
 """
 import pathlib
 import re
 import sys
 
-SENTENCES = [
-    "protocol/scl/*.cpp",
+SENTENCES_OF = ["extension", "sdk", "apps"]
+LITERALS_OF = ["apps/iedctl"]
+ALL_OF = [
     "apps/driver/*.cpp",
     "apps/workbench/devicestore.cpp",
     "apps/workbench/embeddeddriver.cpp",
@@ -21,10 +29,9 @@ SENTENCES = [
     "sdk/propertybrowser/propertyeditors.cpp",
     "sdk/remoteclient/iec61850controllerinterface.cpp",
 ]
-BOXES = (
-    r"QMessageBox::(?:warning|information|critical|question)"
-    r"|show(?:Warning|Failure|Information|FreeInformation)|askWarning|report\w*"
-)
+BOXES = r"QMessageBox::(?:warning|information|critical|question)|show\w+|askWarning|report\w*"
+HELP = r"QCommandLineOption|m_app|addPositionalArgument|setApplicationDescription"
+TRANSLATED = r"tr|translate|QT_TR_NOOP|QT_TRANSLATE_NOOP"
 LITERAL = r'"((?:[^"\\\n]|\\.)*)"'
 
 
@@ -34,18 +41,28 @@ def literals(code):
         yield "".join(re.findall(LITERAL, match.group(0)))
 
 
-def arguments(code, name):
-    """What stands between the parentheses of each call of a function."""
-    for match in re.finditer(rf"(?:{name})\s*\(", code):
+def calls(code, name):
+    """Begin and end of what stands between the parentheses of each call of a function."""
+    for match in re.finditer(rf"\b(?:{name})\s*(?:\w+\s*)?[({{]", code):
         depth, position = 1, match.end()
         while depth and position < len(code):
             literal = re.compile(LITERAL).match(code, position)
             if literal:
                 position = literal.end()
                 continue
-            depth += {"(": 1, ")": -1}.get(code[position], 0)
+            depth += {"(": 1, "{": 1, ")": -1, "}": -1}.get(code[position], 0)
             position += 1
-        yield code[match.end():position]
+        yield match.end(), position
+
+
+def arguments(code, name):
+    return [code[begin:end] for begin, end in calls(code, name)]
+
+
+def without_help(code):
+    for begin, end in reversed(list(calls(code, HELP))):
+        code = code[:begin] + code[end:]
+    return code
 
 
 def parts(text, least_words):
@@ -57,37 +74,70 @@ def parts(text, least_words):
             yield part
 
 
+def is_sentence(text):
+    if "--help" in text or not re.search(r"[.?!]$", text.rstrip()):
+        return False
+    return len(re.findall(r"[A-Za-z]{2,}", text)) >= 3
+
+
+def sentence_parts(text):
+    """A short sentence is looked for by what words it has."""
+    return list(parts(text, 3)) or list(parts(text, 2))
+
+
 def code_of(path):
     return re.sub(r"^\s*(//|#).*$", "", path.read_text(encoding="utf-8"), flags=re.MULTILINE)
 
 
-def main():
-    root = pathlib.Path(sys.argv[1])
-    page = " ".join((root / "docs/messages.md").read_text(encoding="utf-8").split())
-    found = {}
-    for pattern in SENTENCES:
+def sources(root, top):
+    return sorted(path for path in (root / top).rglob("*") if path.suffix in {".cpp", ".h"})
+
+
+def collect(root):
+    """Each part of a message with its source, and how many there are of each kind."""
+    found, counts = {}, {"boxes": 0, "translated": 0, "literals": 0, "all": 0}
+
+    def note(each, path, kind):
+        for part in each:
+            counts[kind] += 1
+            found.setdefault(part, path.relative_to(root))
+
+    for pattern in ALL_OF:
         paths = sorted(root.glob(pattern))
         if not paths:
             sys.exit(f"there is no source {pattern}")
         for path in paths:
-            for literal in literals(code_of(path)):
-                for part in parts(literal, 3):
-                    found.setdefault(part, path.relative_to(root))
-    in_boxes = 0
-    for path in sorted((root / "extension").rglob("*.cpp")):
+            for text in literals(code_of(path)):
+                note(parts(text, 3), path, "all")
+    for top in SENTENCES_OF:
+        for path in sources(root, top):
+            for call in arguments(without_help(code_of(path)), TRANSLATED):
+                for text in filter(is_sentence, literals(call)):
+                    note(sentence_parts(text), path, "translated")
+    for top in LITERALS_OF:
+        for path in sources(root, top):
+            for text in filter(is_sentence, literals(without_help(code_of(path)))):
+                note(sentence_parts(text), path, "literals")
+    for path in sources(root, "extension"):
         code = code_of(path)
         texts = [text for call in arguments(code, BOXES) for text in literals(call)]
         texts += re.findall(r'tr\("Fail"\), tr\("([^"]+)"\)', code)
         texts += re.findall(r'error = tr\("([^"]+)"\)', code)
         for text in texts:
-            for part in parts(text, 2):
-                in_boxes += 1
-                found.setdefault(part, path.relative_to(root))
+            note(parts(text, 2), path, "boxes")
+    return found, counts
+
+
+def main():
+    root = pathlib.Path(sys.argv[1])
+    page = " ".join((root / "docs/messages.md").read_text(encoding="utf-8").split())
+    found, counts = collect(root)
     missing = sorted((str(path), part) for part, path in found.items() if part not in page)
     for path, part in missing:
         print(f'docs/messages.md lacks "{part}" of {path}')
-    print(f"{len(found)} texts, {in_boxes} in message boxes, {len(missing)} missing")
-    return 1 if missing or in_boxes == 0 else 0
+    print(f"{len(found)} texts, {counts}, {len(missing)} missing")
+    return 1 if missing or min(counts.values()) == 0 else 0
 
 
-sys.exit(main())
+if __name__ == "__main__":
+    sys.exit(main())

@@ -19,9 +19,10 @@ inline scl::ReadResult readFixture(const std::string &name, const scl::ReadOptio
 /// The first finding whose text holds @p part; null when there is none.
 inline const scl::Finding *findingWith(const scl::Document &document, const std::string &part)
 {
-    const auto found = std::find_if(
-        document.findings.begin(), document.findings.end(),
-        [&part](const scl::Finding &f) { return f.text.find(part) != std::string::npos; });
+    const auto found = std::find_if(document.findings.begin(), document.findings.end(),
+                                    [&part](const scl::Finding &f) {
+                                        return f.text.english().find(part) != std::string::npos;
+                                    });
     return found == document.findings.end() ? nullptr : &*found;
 }
 

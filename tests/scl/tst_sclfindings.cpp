@@ -25,14 +25,14 @@ protected:
     {
         const scl::Finding *finding = nullptr;
         for (const scl::Finding &candidate : document().findings) {
-            if (candidate.line == line && candidate.text.find(part) != std::string::npos)
+            if (candidate.line == line && candidate.text.english().find(part) != std::string::npos)
                 finding = &candidate;
         }
         ASSERT_NE(finding, nullptr) << "nothing in line " << line << " says " << part;
         EXPECT_EQ(finding->severity, severity) << finding->text;
         EXPECT_TRUE(finding->path.ends_with(pathEnd)) << finding->path;
         EXPECT_TRUE(finding->path.starts_with("SCL")) << finding->path;
-        EXPECT_TRUE(finding->text.ends_with('.')) << finding->text;
+        EXPECT_TRUE(finding->text.english().ends_with('.')) << finding->text;
     }
 
     template <typename Expected>

@@ -12,7 +12,7 @@ std::string descriptionOf(const std::string &fixture)
 {
     const scl::ReadResult result = readFixture(fixture);
     if (!result.document)
-        return "error: " + result.errorText;
+        return "error: " + result.errorText.english();
     const scl::LogicalNode *node = nodeNamed(*result.document, "GGIO1");
     return node ? std::string(node->desc) : "no such node";
 }
@@ -24,7 +24,7 @@ void expectRefused(const std::string &fixture, scl::ReadError error, std::uint32
     EXPECT_EQ(result.document, nullptr) << fixture;
     EXPECT_EQ(result.error, error) << fixture;
     EXPECT_EQ(result.errorLine, line) << fixture;
-    EXPECT_NE(result.errorText.find(part), std::string::npos) << result.errorText;
+    EXPECT_NE(result.errorText.english().find(part), std::string::npos) << result.errorText;
 }
 
 std::string nested(const std::string &open, const std::string &close, int times)
@@ -146,7 +146,7 @@ TEST(SclReader, RefusesFilesWithoutContentOrThatCannotBeOpened)
     EXPECT_EQ(scl::readBytes(std::string(100, '\0')).error, scl::ReadError::NotWellFormed);
     const scl::ReadResult missing = readFixture("no such file.icd");
     EXPECT_EQ(missing.error, scl::ReadError::CannotRead);
-    EXPECT_NE(missing.errorText.find("no such file.icd"), std::string::npos);
+    EXPECT_NE(missing.errorText.english().find("no such file.icd"), std::string::npos);
     EXPECT_EQ(readFixture(".").error, scl::ReadError::CannotRead);
 }
 
@@ -165,7 +165,7 @@ TEST(SclReader, EndsAtTheByteLimit)
     const scl::ReadResult result = readFixture("device.icd", options);
     EXPECT_EQ(result.document, nullptr);
     EXPECT_EQ(result.error, scl::ReadError::TooLarge);
-    EXPECT_NE(result.errorText.find("1000 bytes"), std::string::npos);
+    EXPECT_NE(result.errorText.english().find("1000 bytes"), std::string::npos);
     EXPECT_EQ(scl::readBytes("<SCL>" + std::string(2000, ' ') + "</SCL>", options).error,
               scl::ReadError::TooLarge);
 }
@@ -186,7 +186,7 @@ TEST(SclReader, RefusesTypesThatMultiplyBeyondTheLimit)
     const scl::ReadResult result = scl::readBytes(deviceWithTypes(typeBomb(25)));
     EXPECT_EQ(result.document, nullptr);
     EXPECT_EQ(result.error, scl::ReadError::TooLarge);
-    EXPECT_NE(result.errorText.find("\"A\""), std::string::npos);
+    EXPECT_NE(result.errorText.english().find("\"A\""), std::string::npos);
     EXPECT_EQ(scl::readBytes(deviceWithTypes(typeBomb(4))).error, scl::ReadError::None);
 }
 

@@ -30,7 +30,7 @@ public:
     }
     ~Caller()
     {
-        m_association->abort("The test is over.");
+        m_association->abort(mms::verbatim("The test is over."));
         if (isOpen())
             m_closed.get();
     }
@@ -61,10 +61,8 @@ public:
     {
         std::vector<std::string> names;
         for (bool more = true; more;) {
-            mms::GetNameListRequest request{objectClass,
-                                            domain.empty() ? mms::Scope::Vmd : mms::Scope::Domain,
-                                            domain,
-                                            {}};
+            mms::GetNameListRequest request{
+                objectClass, domain.empty() ? mms::Scope::Vmd : mms::Scope::Domain, domain, {}};
             if (!names.empty())
                 request.continueAfter = names.back();
             auto page = answer<mms::GetNameListResponse>(request);
@@ -75,9 +73,9 @@ public:
     }
 
 private:
-    mmstest::Awaited<std::string> m_closed;
+    mmstest::Awaited<mms::Text> m_closed;
     std::shared_ptr<mms::Association> m_association;
-    mms::Result<mms::InitiateParameters> m_opened = mms::Error{"not yet", 0};
+    mms::Result<mms::InitiateParameters> m_opened = mms::Error{mms::verbatim("not yet"), 0};
 };
 
 inline sim::DeviceOptions localOptions()

@@ -57,14 +57,14 @@ TEST_F(DeviceTest, namesOfEveryClassAreListed)
 
 TEST_F(DeviceTest, nameListsOfWhatDoesNotExistAreErrors)
 {
-    EXPECT_EQ(errorOf(caller.call(GetNameListRequest{ObjectClass::NamedVariable, Scope::Domain,
-                                                     "OTHER", {}})),
+    EXPECT_EQ(errorOf(caller.call(
+                  GetNameListRequest{ObjectClass::NamedVariable, Scope::Domain, "OTHER", {}})),
               ErrorClass::Access);
     for (const ObjectClass objectClass :
          {ObjectClass::NamedVariable, ObjectClass::NamedVariableList, ObjectClass::Journal}) {
-        EXPECT_EQ(errorOf(caller.call(
-                      GetNameListRequest{objectClass, Scope::Domain, domain, "Nothing"})),
-                  ErrorClass::Access);
+        EXPECT_EQ(
+            errorOf(caller.call(GetNameListRequest{objectClass, Scope::Domain, domain, "Nothing"})),
+            ErrorClass::Access);
     }
     EXPECT_EQ(errorOf(caller.call(GetNameListRequest{ObjectClass::Semaphore, Scope::Vmd, {}, {}})),
               ErrorClass::Access);
@@ -110,8 +110,8 @@ TEST_F(DeviceTest, typesAndValuesTooLargeForThePduAreErrorsAndTheirPartsCanBeAsk
     const auto part = small.answer<GetVariableAccessAttributesResponse>(
         GetVariableAccessAttributesRequest{ObjectName::inDomain(domain, "LLN0$ST")});
     EXPECT_EQ(part.type.components.size(), 1U);
-    EXPECT_EQ(errorOf(small.call(ReadRequest{
-                  false, variablesOf(domain, std::vector<std::string>(40, "XCBR1"))})),
+    EXPECT_EQ(errorOf(small.call(
+                  ReadRequest{false, variablesOf(domain, std::vector<std::string>(40, "XCBR1"))})),
               ErrorClass::Resource);
     EXPECT_TRUE(small.answer<ReadResponse>(ReadRequest{false, variablesOf(domain, {"XCBR1$ST"})})
                     .results.front()
@@ -188,10 +188,11 @@ TEST_F(DeviceTest, dataSetsAreMadeTellTheirMembersAndAreDeleted)
     EXPECT_EQ(told.members, members);
     EXPECT_EQ(caller.names(ObjectClass::NamedVariableList, domain),
               (std::vector<std::string>{"LLN0$Made", "LLN0$Positions"}));
-    EXPECT_EQ(caller.answer<DeleteNamedVariableListResponse>(
-                        DeleteNamedVariableListRequest{0, {name}, {}})
-                  .deleted,
-              1U);
+    EXPECT_EQ(
+        caller
+            .answer<DeleteNamedVariableListResponse>(DeleteNamedVariableListRequest{0, {name}, {}})
+            .deleted,
+        1U);
     EXPECT_EQ(errorOf(caller.call(GetNamedVariableListAttributesRequest{name})),
               ErrorClass::Access);
 }
@@ -203,11 +204,11 @@ TEST_F(DeviceTest, dataSetsOfAnAssociationAreGoneAfterIt)
         Caller first(loop.executor(), running.port);
         first.answer<DefineNamedVariableListResponse>(DefineNamedVariableListRequest{
             name, {{ObjectName::inDomain(domain, "XCBR1$ST$Pos"), {}}}});
-        EXPECT_EQ(
-            first.answer<GetNameListResponse>(
-                     GetNameListRequest{ObjectClass::NamedVariableList, Scope::Association, {}, {}})
-                .names,
-            std::vector<std::string>{"Own"});
+        EXPECT_EQ(first
+                      .answer<GetNameListResponse>(GetNameListRequest{
+                          ObjectClass::NamedVariableList, Scope::Association, {}, {}})
+                      .names,
+                  std::vector<std::string>{"Own"});
         EXPECT_EQ(errorOf(caller.call(GetNamedVariableListAttributesRequest{name})),
                   ErrorClass::Access);
     }
@@ -330,7 +331,7 @@ TEST_F(DeviceTest, aRequestFilterMayTakeRequests)
 
 TEST_F(DeviceTest, stoppingEndsTheAssociations)
 {
-    mmstest::Awaited<std::string> closed;
+    mmstest::Awaited<mms::Text> closed;
     Association::Handlers handlers;
     handlers.closed = closed.setter();
     const auto association = Association::create(loop.executor(), {}, handlers);

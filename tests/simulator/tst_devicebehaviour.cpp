@@ -70,7 +70,7 @@ protected:
         const auto answer = caller.answer<mms::WriteResponse>(std::move(request));
         if (answer.results.size() != 1)
             return "no result";
-        return answer.results[0] ? mms::describe(*answer.results[0]) : std::string();
+        return answer.results[0] ? mms::describe(*answer.results[0]).english() : std::string();
     }
 
     static Data read(Caller &caller, const std::string &item)
@@ -88,11 +88,10 @@ protected:
     void inDevice(Action action)
     {
         mmstest::Awaited<bool> done;
-        asio::dispatch(m_running.device->strand(),
-                       [&, finished = done.setter()] {
-                           action(*m_running.device);
-                           finished(true);
-                       });
+        asio::dispatch(m_running.device->strand(), [&, finished = done.setter()] {
+            action(*m_running.device);
+            finished(true);
+        });
         done.get();
     }
 
@@ -107,16 +106,16 @@ protected:
     /// that was refused with the additional cause.
     std::string operate(const std::string &object)
     {
-        const auto connected = await(
-            m_loop.executor(),
-            acsi::Client::connect(m_loop.executor(), "127.0.0.1", m_running.port, {}));
+        const auto connected =
+            await(m_loop.executor(),
+                  acsi::Client::connect(m_loop.executor(), "127.0.0.1", m_running.port, {}));
         if (!connected)
-            return connected.error().message;
+            return connected.error().message.english();
         const auto strand = (*connected)->strand();
         std::string result = "no such object";
         if (const auto reference = acsi::parseReference(object)) {
             auto opened = await(strand, acsi::ControlObject::open(*connected, *reference));
-            result = opened ? operate(strand, **opened) : opened.error().message;
+            result = opened ? operate(strand, **opened) : opened.error().message.english();
             // It is destroyed where it lived.
             asio::dispatch(strand, [control = std::move(opened)] {});
         }
@@ -135,8 +134,7 @@ protected:
 
 private:
     template <typename T>
-    static asio::awaitable<void> deliver(asio::awaitable<T> awaitable,
-                                         std::function<void(T)> taker)
+    static asio::awaitable<void> deliver(asio::awaitable<T> awaitable, std::function<void(T)> taker)
     {
         taker(co_await std::move(awaitable));
     }
@@ -161,8 +159,8 @@ private:
         request.originator = {2, {1}};
         request.ctlNum = 3;
         request.interlockCheck = true;
-        if (control.model() == acsi::ControlModel::SelectNormal
-            || control.model() == acsi::ControlModel::SelectEnhanced) {
+        if (control.model() == acsi::ControlModel::SelectNormal ||
+            control.model() == acsi::ControlModel::SelectEnhanced) {
             const acsi::ControlResult selected = await(strand, control.select(request));
             if (!selected)
                 return "select " + causeOf(selected);

@@ -489,8 +489,8 @@ TEST_F(DirectoryFilesTest, AFetchedFileReplacesTheOldOneOnlyWhenItIsComplete)
     EXPECT_EQ(codeOf(remove({"config.txt"})), serviceerrors::fileBusy);
     m_client.answer<FileReadRequest>(ResponseService(FileReadResponse{{}, false}));
     EXPECT_EQ(contentOf(m_root / "config.txt"), "new");
-    m_client.answer<FileCloseRequest>(
-        CallFailure{CallFailure::Kind::TimedOut, "The peer did not answer in time."});
+    m_client.answer<FileCloseRequest>(CallFailure{
+        CallFailure::Kind::TimedOut, mms::verbatim("The peer did not answer in time.")});
     ASSERT_TRUE(result.has_value());
     EXPECT_TRUE(answers<ObtainFileResponse>(*result));
 }
@@ -528,7 +528,7 @@ TEST_F(DirectoryFilesTest, AFetchThatFailsLeavesNoHalfFile)
     files().closed(m_client);
     EXPECT_EQ(everything(), before);
     m_client.answer<FileReadRequest>(
-        CallFailure{CallFailure::Kind::Lost, "The association ended."});
+        CallFailure{CallFailure::Kind::Lost, mms::verbatim("The association ended.")});
     EXPECT_FALSE(m_obtained.has_value());
 
     beginFetch();

@@ -84,7 +84,7 @@ protected:
     {
         const std::string item = object + '$' + service;
         const auto value = acsi::controlValue(part(item).type(), request);
-        EXPECT_TRUE(value.ok()) << (value ? "" : value.error().message);
+        EXPECT_TRUE(value.ok()) << (value ? "" : value.error().message.english());
         if (!value)
             return "?";
         const std::size_t before = client.reports.size();
@@ -307,8 +307,7 @@ TEST_F(EnginesTest, ASwitchIsSelectedAndGoesThroughItsIntermediatePosition)
     EXPECT_EQ(read("CSWI1$ST$Pos$stSeld"), off());
     EXPECT_EQ(read("CSWI1$ST$Pos$t"), Data::utcTime(m_clock.utcTime()));
     EXPECT_EQ(read("CSWI1$ST$Pos$origin$orCat"), Data::integer(2));
-    EXPECT_EQ(read("CSWI1$ST$Pos$origin$orIdent"),
-              Data::octetString(std::vector<std::uint8_t>{7}));
+    EXPECT_EQ(read("CSWI1$ST$Pos$origin$orIdent"), Data::octetString(std::vector<std::uint8_t>{7}));
     EXPECT_EQ(read("CSWI1$ST$Pos$ctlNum"), Data::unsignedInteger(9));
     ASSERT_EQ(m_client.reports.size(), 1U);
     const auto end = acsi::controlInformationFrom(m_client.reports[0]);

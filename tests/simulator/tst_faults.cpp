@@ -15,7 +15,7 @@ namespace {
 std::string errorOf(std::string_view script)
 {
     const auto faults = Faults::parse(script);
-    return faults ? std::string() : faults.error().message;
+    return faults ? std::string() : faults.error().message.english();
 }
 
 class FaultsTest : public AssociationTest
@@ -129,7 +129,7 @@ TEST_F(FaultsTest, DelaysThatAreUnderWayEndWithTheAssociation)
     Awaited<CallOutcome> late;
     m_client->call(ReadRequest{false, variablesOf("LD", {"a"})}, 10s, late.setter());
     EXPECT_TRUE(isAnswered());
-    m_client->abort("Enough.");
+    m_client->abort(mms::verbatim("Enough."));
     EXPECT_EQ(failureOf(late.get()), CallFailure::Kind::Lost);
 }
 
@@ -287,7 +287,7 @@ TEST_F(FaultsTest, TheSameSeedGivesTheSameFaults)
         for (int i = 0; i < 64; ++i)
             pattern += isAnswered() ? '.' : 'x';
         m_server->stop();
-        m_client->abort("Next.");
+        m_client->abort(mms::verbatim("Next."));
         m_clientEnd.get();
         m_clientEnd = {};
         m_device = std::make_shared<TestDevice>();

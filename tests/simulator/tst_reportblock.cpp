@@ -95,12 +95,9 @@ protected:
     {
         const auto refused = m_block->write(client, attribute, data);
         run();
-        return refused ? mms::describe(*refused) : std::string();
+        return refused ? mms::describe(*refused).english() : std::string();
     }
-    std::string enable(sim::Client &client)
-    {
-        return write(client, "RptEna", Data::boolean(true));
-    }
+    std::string enable(sim::Client &client) { return write(client, "RptEna", Data::boolean(true)); }
     std::string disable(sim::Client &client)
     {
         return write(client, "RptEna", Data::boolean(false));
@@ -137,8 +134,8 @@ protected:
                 text += "overflow ";
             text += "#" + std::to_string(report.sqNum.value_or(0));
             for (const acsi::ReportMember &member : report.members) {
-                text += " " + std::to_string(member.index) + "="
-                    + std::to_string(member.value.data().toInteger().value_or(-1));
+                text += " " + std::to_string(member.index) + "=" +
+                        std::to_string(member.value.data().toInteger().value_or(-1));
                 text += member.reason->dataChange ? "d" : "";
                 text += member.reason->qualityChange ? "q" : "";
                 text += member.reason->dataUpdate ? "u" : "";
@@ -150,12 +147,21 @@ protected:
         return text;
     }
 
-    std::string denied() const { return mms::describe(DataAccessError::ObjectAccessDenied); }
-    std::string busy() const { return mms::describe(DataAccessError::TemporarilyUnavailable); }
-    std::string invalid() const { return mms::describe(DataAccessError::ObjectValueInvalid); }
+    std::string denied() const
+    {
+        return mms::describe(DataAccessError::ObjectAccessDenied).english();
+    }
+    std::string busy() const
+    {
+        return mms::describe(DataAccessError::TemporarilyUnavailable).english();
+    }
+    std::string invalid() const
+    {
+        return mms::describe(DataAccessError::ObjectValueInvalid).english();
+    }
     std::string inconsistent() const
     {
-        return mms::describe(DataAccessError::ObjectAttributeInconsistent);
+        return mms::describe(DataAccessError::ObjectAttributeInconsistent).english();
     }
     Data value(std::string_view attribute) const { return m_block->value(attribute).value(); }
 
@@ -659,5 +665,6 @@ TEST(ReportSegments, SizesOfValuesAreThoseOnTheWire)
           Data::binaryTime({1, std::uint16_t(1)}), Data::octetString({}),
           Data::structure({Data::boolean(true), Data::structure({Data::float32(1)})}),
           Data::array(std::vector<Data>(70, Data::integer(1)))})
-        EXPECT_EQ(sim::reportedSize(data), mms::encodedSize(mms::AccessResult(data))) << mms::toText(data);
+        EXPECT_EQ(sim::reportedSize(data), mms::encodedSize(mms::AccessResult(data)))
+            << mms::toText(data);
 }
