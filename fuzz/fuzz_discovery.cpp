@@ -69,7 +69,7 @@ CallOutcome fromOctets(mms::Bytes octets)
         if (auto *reject = std::get_if<mms::RejectPdu>(&*pdu))
             return *reject;
     }
-    return CallFailure{CallFailure::Kind::Malformed, "The answer cannot be read."};
+    return CallFailure{CallFailure::Kind::Malformed, mms::verbatim("The answer cannot be read.")};
 }
 
 mms::VariableAccess memberFrom(Material &material)
@@ -135,7 +135,7 @@ CallOutcome answer(Material &material, const mms::RequestService &request)
                               static_cast<std::int32_t>(material.below(16))};
     case 3:
         return CallFailure{static_cast<CallFailure::Kind>(material.below(6)),
-                           "The device did not answer."};
+                           mms::verbatim("The device did not answer.")};
     default:
         return fittingAnswer(material, request);
     }

@@ -78,7 +78,7 @@ protected:
     {
         const CallOutcome outcome = m_session->call(std::move(request));
         EXPECT_FALSE(std::holds_alternative<ResponseService>(outcome));
-        return failureText(outcome);
+        return failureText(outcome).english();
     }
 
     /// All names, page after page.
@@ -232,7 +232,7 @@ TEST_F(ForeignServerTest, ListsTheVariablesOfTheDevice)
         worksBut("it has none");
     } else {
         EXPECT_TRUE(std::holds_alternative<ServiceError>(outcome));
-        peerLacksIt(failureText(outcome));
+        peerLacksIt(failureText(outcome).english());
     }
 }
 
@@ -367,7 +367,7 @@ TEST_F(ForeignServerTest, ReadsAComponent)
     if (value.ok()) {
         EXPECT_EQ(value, AccessResult(Data::float32(1.5F)));
     } else {
-        peerLacksIt(describe(value.error()));
+        peerLacksIt(describe(value.error()).english());
     }
 }
 
@@ -590,7 +590,7 @@ TEST_F(ForeignServerTest, RenamesAFile)
     } else {
         EXPECT_TRUE(std::holds_alternative<RejectPdu>(outcome));
         EXPECT_EQ(contentOf("old.txt"), "x");
-        peerLacksIt(failureText(outcome));
+        peerLacksIt(failureText(outcome).english());
     }
 }
 
@@ -606,7 +606,7 @@ TEST_F(ForeignServerTest, RefusesJournals)
                                            {}});
     ASSERT_TRUE(std::holds_alternative<ServiceError>(outcome));
     EXPECT_EQ(std::get<ServiceError>(outcome).errorClass, ErrorClass::Access);
-    peerLacksIt("the wheel has no storage for logs; " + failureText(outcome));
+    peerLacksIt("the wheel has no storage for logs; " + failureText(outcome).english());
 }
 
 TEST_F(ForeignServerTest, ManyCallsAreOnTheWay)

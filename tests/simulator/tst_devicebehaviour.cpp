@@ -152,7 +152,8 @@ private:
     static std::string operate(const Executor &strand, acsi::ControlObject &control)
     {
         const auto causeOf = [](const acsi::ControlResult &result) {
-            return result.applError ? std::to_string(result.applError->addCause) : result.message;
+            return result.applError ? std::to_string(result.applError->addCause)
+                                    : result.message.english();
         };
         acsi::ControlRequest request;
         request.value = Data::boolean(true);
