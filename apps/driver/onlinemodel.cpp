@@ -65,6 +65,21 @@ std::uint32_t number(const TypeDescription &type, std::uint32_t first,
     return first;
 }
 
+/// The same device as it comes out of its bytes: its texts shared and side by side. As it was put
+/// together they lie all over the memory, which is most of the time that writing it takes.
+std::unique_ptr<PhysicalDevice> compacted(std::unique_ptr<PhysicalDevice> device)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    device->toStream(out);
+    auto compact = std::make_unique<PhysicalDevice>();
+    QDataStream in(bytes);
+    compact->fromStream(in);
+    const bool isWhole =
+        out.status() == QDataStream::Ok && in.status() == QDataStream::Ok && in.atEnd();
+    return isWhole ? std::move(compact) : std::move(device);
+}
+
 } // namespace
 
 /// The way through type and data to the leaves.
@@ -167,7 +182,7 @@ struct OnlineModel::Walk
 OnlineModel::OnlineModel(acsi::ServerDescription description, const QString &name,
                          const PhysicalDevice *fromFile)
     : m_description(std::make_unique<acsi::ServerDescription>(std::move(description)))
-    , m_device(DiscoveredModel::makeDevice(*m_description, name, fromFile))
+    , m_device(compacted(DiscoveredModel::makeDevice(*m_description, name, fromFile)))
 {
     for (const acsi::DeviceDescription &device : m_description->devices) {
         for (const acsi::NodeDescription &node : device.nodes)
