@@ -10,6 +10,8 @@
 #include <QtCore/QJsonObject>
 #include <QtCore/QSaveFile>
 
+#include <limits>
+
 namespace {
 
 /// Devices that are remembered; those used longest ago give way.
@@ -25,6 +27,15 @@ QString hex(const QByteArray &bytes)
 QByteArray bytesOf(const QJsonValue &value)
 {
     return QByteArray::fromHex(value.toString().toLatin1());
+}
+
+/// None for what no block's time can be.
+std::optional<std::uint32_t> timeOf(const QJsonValue &value)
+{
+    const double number = value.toDouble(-1);
+    if (!(number >= 0 && number <= std::numeric_limits<std::uint32_t>::max()))
+        return std::nullopt;
+    return static_cast<std::uint32_t>(number);
 }
 
 } // namespace
@@ -61,10 +72,12 @@ void LastEntries::load()
         known.terms.dataSet = bytesOf(object.value(QLatin1String("dataSet")));
         known.terms.rptId = bytesOf(object.value(QLatin1String("rptId")));
         known.terms.triggers = bytesOf(object.value(QLatin1String("triggers")));
-        known.terms.bufferTime =
-            static_cast<std::uint32_t>(object.value(QLatin1String("bufferTime")).toDouble());
-        known.terms.integrityPeriod =
-            static_cast<std::uint32_t>(object.value(QLatin1String("integrityPeriod")).toDouble());
+        const auto bufferTime = timeOf(object.value(QLatin1String("bufferTime")));
+        const auto integrityPeriod = timeOf(object.value(QLatin1String("integrityPeriod")));
+        if (!bufferTime || !integrityPeriod)
+            continue;
+        known.terms.bufferTime = *bufferTime;
+        known.terms.integrityPeriod = *integrityPeriod;
         const QByteArray entry = bytesOf(object.value(QLatin1String("entry")));
         known.entry.assign(entry.begin(), entry.end());
         const QString block = object.value(QLatin1String("block")).toString();
