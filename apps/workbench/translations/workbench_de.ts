@@ -626,6 +626,26 @@
         <source>a device that does not say what it is</source>
         <translation>einem Gerät, das nicht sagt, was es ist</translation>
     </message>
+    <message>
+        <source>Acc&amp;ess point of the IED:</source>
+        <translation>&amp;Zugangspunkt des IED:</translation>
+    </message>
+    <message>
+        <source>Which of the IED&apos;s access points the device is, where the file describes several</source>
+        <translation>Welcher Zugangspunkt des IED das Gerät ist, wenn die Datei mehrere beschreibt</translation>
+    </message>
+    <message>
+        <source>Accept certificates that are made out to &amp;others</source>
+        <translation>Auch Zertifikate annehmen, die auf an&amp;dere ausgestellt sind</translation>
+    </message>
+    <message>
+        <source>Unsafe: whoever holds the key of any certificate of these authorities can pose as this device. Better enter the name that its certificate has, or its fingerprint.</source>
+        <translation>Unsicher: Wer den Schlüssel irgendeines Zertifikats dieser Zertifizierungsstellen besitzt, kann sich als dieses Gerät ausgeben. Geben Sie besser den Namen, der in seinem Zertifikat steht, oder seinen Fingerabdruck ein.</translation>
+    </message>
+    <message>
+        <source>the one with the device&apos;s address</source>
+        <translation>der mit der Adresse des Geräts</translation>
+    </message>
 </context>
 <context>
     <name>DeviceListModel</name>
@@ -1079,10 +1099,6 @@ Verbindungen: %5</translation>
         <translation>Der Datensatz hat %1 Elemente, es kamen aber %2 Werte.</translation>
     </message>
     <message>
-        <source>%1: the value does not have the form of its type</source>
-        <translation>%1: der Wert hat nicht die Form seines Typs</translation>
-    </message>
-    <message>
         <source>The device has no %1.</source>
         <translation>Das Gerät hat kein %1.</translation>
     </message>
@@ -1526,6 +1542,2526 @@ Verbindungen: %5</translation>
         <source>Values that the device refuses and that are not asked for again: %1 (%2).</source>
         <translation>Werte, die das Gerät verweigert und nach denen nicht mehr gefragt wird: %1 (%2).</translation>
     </message>
+    <message>
+        <source>A report control block could not be %1: %2</source>
+        <translation>Report-Steuerblock: %1 nicht gelungen: %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 (%2).</source>
+        <translation>%1 (%2).</translation>
+    </message>
+    <message>
+        <source>%1 (%2, %3).</source>
+        <translation>%1 (%2, %3).</translation>
+    </message>
+    <message>
+        <source>%1 (%2, %3, %4).</source>
+        <translation>%1 (%2, %3, %4).</translation>
+    </message>
+    <message>
+        <source>%1 bears the name of the issuer &quot;%2&quot;, but not its signature.</source>
+        <translation>%1 trägt den Namen des Ausstellers „%2“, aber nicht dessen Signatur.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be checked: the revocation list of its issuer &quot;%2&quot; does not bear its signature.</source>
+        <translation>%1 kann nicht geprüft werden: Die Sperrliste des Ausstellers „%2“ trägt nicht dessen Signatur.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be checked: the revocation list of its issuer &quot;%2&quot; is not valid yet.</source>
+        <translation>%1 kann nicht geprüft werden: Die Sperrliste des Ausstellers „%2“ ist noch nicht gültig.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be checked: the revocation list of its issuer &quot;%2&quot; is out of date.</source>
+        <translation>%1 kann nicht geprüft werden: Die Sperrliste des Ausstellers „%2“ ist veraltet.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be checked: there is no revocation list of its issuer &quot;%2&quot;.</source>
+        <translation>%1 kann nicht geprüft werden: Vom Aussteller „%2“ gibt es keine Sperrliste.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 expired on %2.</source>
+        <translation>%1 ist seit %2 abgelaufen.</translation>
+    </message>
+    <message>
+        <source>%1 has a key that is too short to be safe.</source>
+        <translation>%1 hat einen Schlüssel, der zu kurz ist, um sicher zu sein.</translation>
+    </message>
+    <message>
+        <source>%1 has a name that is none, or that something else has; it is left out.</source>
+        <translation>%1 hat einen Namen, der keiner ist oder den etwas anderes schon hat; es wird ausgelassen.</translation>
+    </message>
+    <message>
+        <source>%1 has been revoked.</source>
+        <translation>%1 wurde gesperrt.</translation>
+    </message>
+    <message>
+        <source>%1 has no %2.</source>
+        <translation>%1 hat kein Attribut %2.</translation>
+    </message>
+    <message>
+        <source>%1 is enabled already.</source>
+        <translation>%1 ist bereits freigegeben.</translation>
+    </message>
+    <message>
+        <source>%1 is in the device already, perhaps the only whole version that an upload before this one has left: save or delete it first. Nothing was changed on the device.</source>
+        <translation>%1 ist bereits auf dem Gerät, vielleicht als einzige vollständige Fassung, die ein früheres Hochladen hinterlassen hat: Speichern oder löschen Sie diese Datei zuerst. Auf dem Gerät wurde nichts geändert.</translation>
+    </message>
+    <message>
+        <source>%1 is in the device and may be incomplete.</source>
+        <translation>%1 ist auf dem Gerät und kann unvollständig sein.</translation>
+    </message>
+    <message>
+        <source>%1 is larger, or nested deeper, than what is taken; it is left out.</source>
+        <translation>%1 ist größer oder tiefer geschachtelt als zugelassen und wird weggelassen.</translation>
+    </message>
+    <message>
+        <source>%1 is no functional constraint.</source>
+        <translation>%1 ist kein Functional Constraint.</translation>
+    </message>
+    <message>
+        <source>%1 is no name of data.</source>
+        <translation>%1 ist kein Name von Daten.</translation>
+    </message>
+    <message>
+        <source>%1 is not a reference: %2.</source>
+        <translation>%1 ist keine Referenz: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not accepted: %2.</source>
+        <translation>%1 wird nicht angenommen: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not in the device.</source>
+        <translation>%1 ist nicht auf dem Gerät.</translation>
+    </message>
+    <message>
+        <source>%1 is not made out to the host that was asked for.</source>
+        <translation>%1 ist nicht auf den Rechner ausgestellt, nach dem gefragt wurde.</translation>
+    </message>
+    <message>
+        <source>%1 is not meant for this side of a TLS connection.</source>
+        <translation>%1 ist nicht für diese Seite einer TLS-Verbindung bestimmt.</translation>
+    </message>
+    <message>
+        <source>%1 is not the name of a data object that can be controlled.</source>
+        <translation>%1 ist nicht der Name eines Datenobjekts, das gesteuert werden kann.</translation>
+    </message>
+    <message>
+        <source>%1 is not the name of a data set.</source>
+        <translation>%1 ist nicht der Name eines Datensatzes.</translation>
+    </message>
+    <message>
+        <source>%1 is valid only from %2 on.</source>
+        <translation>%1 ist erst ab %2 gültig.</translation>
+    </message>
+    <message>
+        <source>%1 may be in the device, incomplete.</source>
+        <translation>%1 ist vielleicht auf dem Gerät, aber unvollständig.</translation>
+    </message>
+    <message>
+        <source>%1 may be incomplete.</source>
+        <translation>%1 kann unvollständig sein.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cannot be written: %3.</source>
+        <translation>%1 von %2 kann nicht geschrieben werden: %3.</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3.</source>
+        <translation>%1 von %2: %3.</translation>
+    </message>
+    <message>
+        <source>%1 of the control block cannot be %2.</source>
+        <translation>Attribut %1 des Steuerblocks: %2 ist nicht möglich.</translation>
+    </message>
+    <message>
+        <source>%1 of the member %2</source>
+        <translation>%1 von Element %2</translation>
+    </message>
+    <message>
+        <source>%1 was issued by &quot;%2&quot;, which is not trusted here.</source>
+        <translation>%1 wurde von „%2“ ausgestellt; diesem Aussteller wird hier nicht vertraut.</translation>
+    </message>
+    <message>
+        <source>%1 was issued by itself and is not trusted here.</source>
+        <translation>%1 ist selbst ausgestellt, und ihm wird hier nicht vertraut.</translation>
+    </message>
+    <message>
+        <source>%1 was not touched.</source>
+        <translation>%1 wurde nicht angetastet.</translation>
+    </message>
+    <message>
+        <source>%1 was replaced, but %2, a second copy of it, is left: delete it.</source>
+        <translation>%1 wurde ersetzt, aber eine zweite Kopie bleibt als %2 zurück: Löschen Sie diese.</translation>
+    </message>
+    <message>
+        <source>%1 was replaced, but %2, a second copy of it, may be in the device still: delete it.</source>
+        <translation>%1 wurde ersetzt, aber eine zweite Kopie ist vielleicht noch als %2 auf dem Gerät: Löschen Sie diese.</translation>
+    </message>
+    <message>
+        <source>%1, so the member &quot;%2&quot; does not exist.</source>
+        <translation>%1, daher existiert das Element „%2“ nicht.</translation>
+    </message>
+    <message>
+        <source>%1: %2 got an answer that does not match the question.</source>
+        <translation>%1: Die Antwort auf %2 passt nicht zur Frage.</translation>
+    </message>
+    <message>
+        <source>%1: %2 got no answer within %3.</source>
+        <translation>%1: Keine Antwort auf %2 innerhalb von %3.</translation>
+    </message>
+    <message>
+        <source>%1: %2 got no answer: %3.</source>
+        <translation>%1: Keine Antwort auf %2: %3.</translation>
+    </message>
+    <message>
+        <source>%1: %2.</source>
+        <translation>%1: %2.</translation>
+    </message>
+    <message>
+        <source>%1: a command of it cannot be cancelled.</source>
+        <translation>%1: Ein Befehl kann hier nicht abgebrochen werden.</translation>
+    </message>
+    <message>
+        <source>%1: it shows its status and cannot be operated.</source>
+        <translation>%1: Zeigt nur seinen Zustand und kann nicht gesteuert werden.</translation>
+    </message>
+    <message>
+        <source>%1: its control model knows no selection.</source>
+        <translation>%1: Das Steuermodell kennt keine Anwahl.</translation>
+    </message>
+    <message>
+        <source>%1: the command ended without success: %2.</source>
+        <translation>%1: Der Befehl endete ohne Erfolg: %2.</translation>
+    </message>
+    <message>
+        <source>%1: the command ended without success: the device does not say why.</source>
+        <translation>%1: Der Befehl endete ohne Erfolg; das Gerät sagt nicht, warum.</translation>
+    </message>
+    <message>
+        <source>%1: the device accepted the command late.</source>
+        <translation>%1: Das Gerät hat den Befehl verspätet angenommen.</translation>
+    </message>
+    <message>
+        <source>%1: the device accepted the command, but has not told within %2 how it ended.</source>
+        <translation>%1: Das Gerät hat den Befehl angenommen, aber innerhalb von %2 nicht gemeldet, wie er endete.</translation>
+    </message>
+    <message>
+        <source>%1: the device accepted the command, but the association ended before the command: %2.</source>
+        <translation>%1: Das Gerät hat den Befehl angenommen, aber die Assoziation endete vor dem Befehl: %2.</translation>
+    </message>
+    <message>
+        <source>%1: the device refuses %2: %3.</source>
+        <translation>%1: Das Gerät lehnt %2 ab: %3.</translation>
+    </message>
+    <message>
+        <source>%1: the file ended after %2 of %3 octets.</source>
+        <translation>%1: Die Datei endete nach %2 von %3 Oktetten.</translation>
+    </message>
+    <message>
+        <source>A UTC time has not 8 octets.</source>
+        <translation>Eine UTC-Zeit hat nicht 8 Oktette.</translation>
+    </message>
+    <message>
+        <source>A binary time has neither 4 nor 6 octets.</source>
+        <translation>Eine Binärzeit hat weder 4 noch 6 Oktette.</translation>
+    </message>
+    <message>
+        <source>A bit string does not say how many of its bits count.</source>
+        <translation>Eine Bitfolge sagt nicht, wie viele ihrer Bits zählen.</translation>
+    </message>
+    <message>
+        <source>A boolean has not one octet.</source>
+        <translation>Ein boolescher Wert hat nicht genau ein Oktett.</translation>
+    </message>
+    <message>
+        <source>A certificate in the file &quot;%1&quot; cannot be read.</source>
+        <translation>Ein Zertifikat in der Datei „%1“ kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>A character is not allowed here, or does not belong to the file&apos;s encoding.</source>
+        <translation>Ein Zeichen ist hier nicht erlaubt oder gehört nicht zur Kodierung der Datei.</translation>
+    </message>
+    <message>
+        <source>A command is a structure, not %1.</source>
+        <translation>Ein Befehl ist eine Struktur, nicht vom Typ %1.</translation>
+    </message>
+    <message>
+        <source>A constraint of the object does not allow this.</source>
+        <translation>Eine Einschränkung des Objekts lässt dies nicht zu.</translation>
+    </message>
+    <message>
+        <source>A data unit of transport class 0 has a header of another length than 3.</source>
+        <translation>Eine Dateneinheit der Transportklasse 0 hat einen Kopf, dessen Länge nicht 3 ist.</translation>
+    </message>
+    <message>
+        <source>A file of this name exists already.</source>
+        <translation>Eine Datei dieses Namens existiert bereits.</translation>
+    </message>
+    <message>
+        <source>A floating-point number has neither 32 nor 64 bits.</source>
+        <translation>Eine Gleitkommazahl hat weder 32 noch 64 Bit.</translation>
+    </message>
+    <message>
+        <source>A number of an object identifier is too large.</source>
+        <translation>Eine Zahl eines Objektbezeichners ist zu groß.</translation>
+    </message>
+    <message>
+        <source>A parameter of a transport unit is longer than the unit&apos;s header.</source>
+        <translation>Ein Parameter einer Transporteinheit ist länger als der Kopf der Einheit.</translation>
+    </message>
+    <message>
+        <source>A presentation unit has no parameters of normal mode.</source>
+        <translation>Eine Presentation-Einheit hat keine Parameter des Normalmodus.</translation>
+    </message>
+    <message>
+        <source>A presentation unit has no user data.</source>
+        <translation>Eine Presentation-Einheit hat keine Nutzdaten.</translation>
+    </message>
+    <message>
+        <source>A presentation unit has too many values.</source>
+        <translation>Eine Presentation-Einheit hat zu viele Werte.</translation>
+    </message>
+    <message>
+        <source>A presentation value belongs to a context that was not agreed.</source>
+        <translation>Ein Presentation-Wert gehört zu einem Kontext, der nicht vereinbart wurde.</translation>
+    </message>
+    <message>
+        <source>A presentation value is encoded by rules that were not agreed.</source>
+        <translation>Ein Presentation-Wert ist nach Regeln kodiert, die nicht vereinbart wurden.</translation>
+    </message>
+    <message>
+        <source>A presentation value is in a form that is not supported.</source>
+        <translation>Ein Presentation-Wert hat eine Form, die nicht unterstützt wird.</translation>
+    </message>
+    <message>
+        <source>A primitive element has no definite length.</source>
+        <translation>Ein einfaches Element hat keine bestimmte Länge.</translation>
+    </message>
+    <message>
+        <source>A primitive element stands where a group belongs.</source>
+        <translation>Ein einfaches Element steht, wo eine Gruppe hingehört.</translation>
+    </message>
+    <message>
+        <source>A session parameter group holds itself.</source>
+        <translation>Eine Session-Parametergruppe enthält sich selbst.</translation>
+    </message>
+    <message>
+        <source>A session parameter is longer than the unit around it.</source>
+        <translation>Ein Session-Parameter ist länger als die Einheit, in der er steht.</translation>
+    </message>
+    <message>
+        <source>A session unit ends within a header.</source>
+        <translation>Eine Session-Einheit endet innerhalb eines Kopfes.</translation>
+    </message>
+    <message>
+        <source>A session unit ends within a length.</source>
+        <translation>Eine Session-Einheit endet innerhalb einer Länge.</translation>
+    </message>
+    <message>
+        <source>A session unit has the unknown code %1.</source>
+        <translation>Eine Session-Einheit hat den unbekannten Code %1.</translation>
+    </message>
+    <message>
+        <source>A session unit is followed by octets that belong to nothing.</source>
+        <translation>Auf eine Session-Einheit folgen Oktette, die zu nichts gehören.</translation>
+    </message>
+    <message>
+        <source>A setting group control stands in &quot;%1&quot; instead of the LLN0.</source>
+        <translation>Eine Parametersatz-Steuerung steht in „%1“ statt im LLN0.</translation>
+    </message>
+    <message>
+        <source>A tag number is too large.</source>
+        <translation>Eine Tag-Nummer ist zu groß.</translation>
+    </message>
+    <message>
+        <source>A token unit is not followed by a data transfer.</source>
+        <translation>Auf eine Token-Einheit folgt keine Datenübertragung.</translation>
+    </message>
+    <message>
+        <source>A transport packet says that it is %1 octets long, which leaves no room for its content.</source>
+        <translation>Ein Transportpaket gibt als Länge %1 Oktette an; das lässt keinen Platz für seinen Inhalt.</translation>
+    </message>
+    <message>
+        <source>A transport unit has the unknown code %1.</source>
+        <translation>Eine Transporteinheit hat den unbekannten Code %1.</translation>
+    </message>
+    <message>
+        <source>A transport unit is followed by octets that belong to nothing.</source>
+        <translation>Auf eine Transporteinheit folgen Oktette, die zu nichts gehören.</translation>
+    </message>
+    <message>
+        <source>A transport unit needs at least two octets.</source>
+        <translation>Eine Transporteinheit braucht mindestens zwei Oktette.</translation>
+    </message>
+    <message>
+        <source>A unit of association control has an unknown tag.</source>
+        <translation>Eine Einheit der Assoziationssteuerung hat einen unbekannten Tag.</translation>
+    </message>
+    <message>
+        <source>Access to the file is denied.</source>
+        <translation>Der Zugriff auf die Datei wird verweigert.</translation>
+    </message>
+    <message>
+        <source>Access to the object is denied.</source>
+        <translation>Der Zugriff auf das Objekt wird verweigert.</translation>
+    </message>
+    <message>
+        <source>Address already in use</source>
+        <translation>Adresse wird bereits verwendet</translation>
+    </message>
+    <message>
+        <source>An association request has no application context name.</source>
+        <translation>Eine Assoziationsanforderung hat keinen Namen des Anwendungskontexts.</translation>
+    </message>
+    <message>
+        <source>An association response has no result.</source>
+        <translation>Eine Assoziationsantwort hat kein Ergebnis.</translation>
+    </message>
+    <message>
+        <source>An element is longer than the group that it is in.</source>
+        <translation>Ein Element ist länger als die Gruppe, in der es steht.</translation>
+    </message>
+    <message>
+        <source>An element is longer than the message.</source>
+        <translation>Ein Element ist länger als die Nachricht.</translation>
+    </message>
+    <message>
+        <source>An element stands where a service belongs.</source>
+        <translation>Ein Element steht, wo ein Dienst hingehört.</translation>
+    </message>
+    <message>
+        <source>An element that is empty by definition has content.</source>
+        <translation>Ein Element, das leer sein muss, hat einen Inhalt.</translation>
+    </message>
+    <message>
+        <source>An element that is no type stands where a type belongs.</source>
+        <translation>Ein Element, das kein Typ ist, steht, wo ein Typ hingehört.</translation>
+    </message>
+    <message>
+        <source>An element that is no value stands where a value belongs.</source>
+        <translation>Ein Element, das kein Wert ist, steht, wo ein Wert hingehört.</translation>
+    </message>
+    <message>
+        <source>An incomplete %1 is left in the device.</source>
+        <translation>%1 bleibt unvollständig auf dem Gerät zurück.</translation>
+    </message>
+    <message>
+        <source>An integer has no octet or more than 8.</source>
+        <translation>Eine Ganzzahl hat kein Oktett oder mehr als 8.</translation>
+    </message>
+    <message>
+        <source>An integer is out of its range.</source>
+        <translation>Eine Ganzzahl liegt außerhalb ihres Bereichs.</translation>
+    </message>
+    <message>
+        <source>An internal error ended the association.</source>
+        <translation>Ein interner Fehler hat die Assoziation beendet.</translation>
+    </message>
+    <message>
+        <source>An internal error ended the association: %1.</source>
+        <translation>Ein interner Fehler hat die Assoziation beendet: %1.</translation>
+    </message>
+    <message>
+        <source>An issuer&apos;s certificate in the file &quot;%1&quot; cannot be used (%2).</source>
+        <translation>Das Zertifikat eines Ausstellers in der Datei „%1“ kann nicht verwendet werden (%2).</translation>
+    </message>
+    <message>
+        <source>An object identifier ends within a number.</source>
+        <translation>Ein Objektbezeichner endet innerhalb einer Zahl.</translation>
+    </message>
+    <message>
+        <source>An object of this name exists already.</source>
+        <translation>Ein Objekt dieses Namens existiert bereits.</translation>
+    </message>
+    <message>
+        <source>An unsigned integer has no octet or more than 64 bits.</source>
+        <translation>Eine vorzeichenlose Ganzzahl hat kein Oktett oder mehr als 64 Bit.</translation>
+    </message>
+    <message>
+        <source>An unsigned integer is out of its range.</source>
+        <translation>Eine vorzeichenlose Ganzzahl liegt außerhalb ihres Bereichs.</translation>
+    </message>
+    <message>
+        <source>Broken pipe</source>
+        <translation>Verbindung unterbrochen (Broken pipe)</translation>
+    </message>
+    <message>
+        <source>Cannot allocate memory</source>
+        <translation>Kein Speicher verfügbar</translation>
+    </message>
+    <message>
+        <source>Cannot assign requested address</source>
+        <translation>Die angeforderte Adresse kann nicht zugewiesen werden</translation>
+    </message>
+    <message>
+        <source>Cannot listen on %1 port %2: %3.</source>
+        <translation>Auf %1, Port %2, kann nicht auf Verbindungen gewartet werden: %3.</translation>
+    </message>
+    <message>
+        <source>Connection refused</source>
+        <translation>Verbindung abgelehnt</translation>
+    </message>
+    <message>
+        <source>Connection reset by peer</source>
+        <translation>Verbindung von der Gegenstelle zurückgesetzt</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>Zeitüberschreitung der Verbindung</translation>
+    </message>
+    <message>
+        <source>Each variable needs one value to write.</source>
+        <translation>Jede Variable braucht einen Wert, der geschrieben werden soll.</translation>
+    </message>
+    <message>
+        <source>Elements are nested deeper than %1 levels.</source>
+        <translation>Elemente sind tiefer als %1 Ebenen geschachtelt.</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Eingabe-/Ausgabefehler</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>Ist ein Verzeichnis</translation>
+    </message>
+    <message>
+        <source>It is not a logical node.</source>
+        <translation>Dies ist kein logischer Knoten.</translation>
+    </message>
+    <message>
+        <source>It is not known whether %1 is in the device.</source>
+        <translation>Es ist nicht bekannt, ob %1 auf dem Gerät ist.</translation>
+    </message>
+    <message>
+        <source>It is not known whether an incomplete %1 is left in the device.</source>
+        <translation>Es ist nicht bekannt, ob %1 unvollständig auf dem Gerät zurückbleibt.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the device has a part of the file: look at %1.</source>
+        <translation>Es ist nicht bekannt, ob das Gerät einen Teil der Datei hat: Prüfen Sie %1.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the file has its name: look at %1 and %2.</source>
+        <translation>Es ist nicht bekannt, ob die Datei ihren Namen hat: Prüfen Sie %1 und %2.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the file was replaced: look at %1.</source>
+        <translation>Es ist nicht bekannt, ob die Datei ersetzt wurde: Prüfen Sie %1.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the old %1 is still there.</source>
+        <translation>Es ist nicht bekannt, ob die alte Datei %1 noch da ist.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the old file is still there: look at %1.</source>
+        <translation>Es ist nicht bekannt, ob die alte Datei noch da ist: Prüfen Sie %1.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the old file is still whole: look at %1.</source>
+        <translation>Es ist nicht bekannt, ob die alte Datei noch vollständig ist: Prüfen Sie %1.</translation>
+    </message>
+    <message>
+        <source>It is not known whether there is an old %1.</source>
+        <translation>Es ist nicht bekannt, ob es eine alte Datei %1 gibt.</translation>
+    </message>
+    <message>
+        <source>It was not sent.</source>
+        <translation>Nicht gesendet.</translation>
+    </message>
+    <message>
+        <source>Modifiers of a request are not supported.</source>
+        <translation>Modifikatoren einer Anfrage werden nicht unterstützt.</translation>
+    </message>
+    <message>
+        <source>More than %1 name spaces are declared.</source>
+        <translation>Es sind mehr als %1 Namensräume deklariert.</translation>
+    </message>
+    <message>
+        <source>Neither an authority nor a fingerprint says which peers are trusted.</source>
+        <translation>Weder eine Zertifizierungsstelle noch ein Fingerabdruck sagt, welchen Gegenstellen vertraut wird.</translation>
+    </message>
+    <message>
+        <source>Network is down</source>
+        <translation>Netzwerk ist nicht aktiv</translation>
+    </message>
+    <message>
+        <source>Network is unreachable</source>
+        <translation>Netzwerk ist nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>No connection to %1 port %2: %3.</source>
+        <translation>Keine Verbindung zu %1, Port %2: %3.</translation>
+    </message>
+    <message>
+        <source>No file is given for %1.</source>
+        <translation>Keine Datei angegeben für: %1.</translation>
+    </message>
+    <message>
+        <source>No route to host</source>
+        <translation>Kein Weg zum Zielrechner</translation>
+    </message>
+    <message>
+        <source>No session entity is attached to the transport selector.</source>
+        <translation>Am Transport-Selektor hängt keine Session-Instanz.</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>Kein Speicherplatz mehr auf dem Datenträger</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Datei oder Verzeichnis existiert nicht</translation>
+    </message>
+    <message>
+        <source>Nobody wants the association any more.</source>
+        <translation>Die Assoziation wird nicht mehr gebraucht.</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>Ist kein Verzeichnis</translation>
+    </message>
+    <message>
+        <source>Nothing is attached to the peer&apos;s presentation selector.</source>
+        <translation>Am Presentation-Selektor der Gegenstelle hängt nichts.</translation>
+    </message>
+    <message>
+        <source>Nothing is attached to the peer&apos;s session selector.</source>
+        <translation>Am Session-Selektor der Gegenstelle hängt nichts.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed on the device.</source>
+        <translation>Auf dem Gerät wurde nichts geändert.</translation>
+    </message>
+    <message>
+        <source>Operation canceled</source>
+        <translation>Vorgang abgebrochen</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>Vorgang nicht erlaubt</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Keine Berechtigung</translation>
+    </message>
+    <message>
+        <source>Presentation user data is simply encoded, which is not supported.</source>
+        <translation>Presentation-Nutzdaten sind einfach kodiert; das wird nicht unterstützt.</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>Dateisystem ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>Reading the file was cancelled.</source>
+        <translation>Das Lesen der Datei wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Reading the file was stopped.</source>
+        <translation>Das Lesen der Datei wurde angehalten.</translation>
+    </message>
+    <message>
+        <source>Revocation lists are of no use without the authorities that issued them.</source>
+        <translation>Sperrlisten nützen nichts ohne die Zertifizierungsstellen, die sie ausgestellt haben.</translation>
+    </message>
+    <message>
+        <source>Setting groups are counted from 1; 0 cannot become the active group.</source>
+        <translation>Parametersätze werden ab 1 gezählt; 0 kann nicht zum aktiven Parametersatz werden.</translation>
+    </message>
+    <message>
+        <source>Software caused connection abort</source>
+        <translation>Die eigene Software hat die Verbindung abgebrochen</translation>
+    </message>
+    <message>
+        <source>Something stands behind the end of %1.</source>
+        <translation>Hinter dem Ende von %1 steht noch etwas.</translation>
+    </message>
+    <message>
+        <source>TLS cannot be set up (%1).</source>
+        <translation>TLS kann nicht eingerichtet werden (%1).</translation>
+    </message>
+    <message>
+        <source>TLS failed for an unknown reason.</source>
+        <translation>TLS ist aus unbekanntem Grund gescheitert.</translation>
+    </message>
+    <message>
+        <source>TLS failed: %1.</source>
+        <translation>TLS ist gescheitert: %1.</translation>
+    </message>
+    <message>
+        <source>The %1 &quot;%2&quot; contains itself; this element is left out.</source>
+        <translation>%1 „%2“ enthält sich selbst; dieses Element wird weggelassen.</translation>
+    </message>
+    <message>
+        <source>The %1 &quot;%2&quot; does not exist.</source>
+        <translation>%1 „%2“ existiert nicht.</translation>
+    </message>
+    <message>
+        <source>The %1 &quot;%2&quot; is defined again; the definition in line %3 is used.</source>
+        <translation>%1 „%2“ ist noch einmal definiert; verwendet wird die Definition in Zeile %3.</translation>
+    </message>
+    <message>
+        <source>The %1 has no id and cannot be used.</source>
+        <translation>%1 hat keine id und kann nicht verwendet werden.</translation>
+    </message>
+    <message>
+        <source>The DOType has no common data class (attribute cdc).</source>
+        <translation>Der DOType hat keine Common Data Class (Attribut cdc).</translation>
+    </message>
+    <message>
+        <source>The EnumType &quot;%1&quot; does not exist.</source>
+        <translation>Der EnumType „%1“ existiert nicht.</translation>
+    </message>
+    <message>
+        <source>The IED &quot;%1&quot; has more than %2 nodes of data.</source>
+        <translation>Das IED „%1“ hat mehr als %2 Datenknoten.</translation>
+    </message>
+    <message>
+        <source>The IED &quot;%1&quot; has no access point &quot;%2&quot;.</source>
+        <translation>Das IED „%1“ hat keinen Zugangspunkt „%2“.</translation>
+    </message>
+    <message>
+        <source>The IED &quot;%1&quot; is not in this file.</source>
+        <translation>Das IED „%1“ ist nicht in dieser Datei.</translation>
+    </message>
+    <message>
+        <source>The IED has no name.</source>
+        <translation>Das IED hat keinen Namen.</translation>
+    </message>
+    <message>
+        <source>The LNodeType &quot;%1&quot; does not exist.</source>
+        <translation>Der LNodeType „%1“ existiert nicht.</translation>
+    </message>
+    <message>
+        <source>The LNodeType has no class (attribute lnClass).</source>
+        <translation>Der LNodeType hat keine Klasse (Attribut lnClass).</translation>
+    </message>
+    <message>
+        <source>The access point &quot;%1&quot; whose server is shared does not exist or has none.</source>
+        <translation>Der Zugangspunkt „%1“, dessen Server mitbenutzt wird, existiert nicht oder hat keinen Server.</translation>
+    </message>
+    <message>
+        <source>The active setting group is %1, but there are %2; group 1 is used.</source>
+        <translation>Als aktiver Parametersatz ist %1 angegeben, die Anzahl ist aber %2; verwendet wird Parametersatz 1.</translation>
+    </message>
+    <message>
+        <source>The address is not valid.</source>
+        <translation>Die Adresse ist nicht gültig.</translation>
+    </message>
+    <message>
+        <source>The answer cannot be read: %1.</source>
+        <translation>Die Antwort kann nicht gelesen werden: %1.</translation>
+    </message>
+    <message>
+        <source>The answer does not fit a message.</source>
+        <translation>Die Antwort passt nicht in eine Nachricht.</translation>
+    </message>
+    <message>
+        <source>The answer does not match the question.</source>
+        <translation>Die Antwort passt nicht zur Frage.</translation>
+    </message>
+    <message>
+        <source>The association is being concluded.</source>
+        <translation>Die Assoziation wird gerade beendet.</translation>
+    </message>
+    <message>
+        <source>The association was refused.</source>
+        <translation>Die Assoziation wurde abgelehnt.</translation>
+    </message>
+    <message>
+        <source>The association was released.</source>
+        <translation>Die Assoziation wurde abgebaut.</translation>
+    </message>
+    <message>
+        <source>The attribute &quot;%1&quot; that holds the number of elements of &quot;%2&quot; has no value; the array is empty.</source>
+        <translation>Das Attribut „%1“ mit der Anzahl der Elemente von „%2“ hat keinen Wert; das Array ist leer.</translation>
+    </message>
+    <message>
+        <source>The attribute &quot;%1&quot; that should hold the number of array elements does not exist; the array is empty.</source>
+        <translation>Das Attribut „%1“, das die Anzahl der Array-Elemente enthalten soll, existiert nicht; das Array ist leer.</translation>
+    </message>
+    <message>
+        <source>The attribute has no basic type (attribute bType).</source>
+        <translation>Das Attribut hat keinen Basistyp (Attribut bType).</translation>
+    </message>
+    <message>
+        <source>The attribute has no functional constraint (attribute fc) and cannot be addressed.</source>
+        <translation>Das Attribut hat keinen Functional Constraint (Attribut fc) und kann nicht adressiert werden.</translation>
+    </message>
+    <message>
+        <source>The attribute is an enumeration without a type (attribute type).</source>
+        <translation>Das Attribut ist eine Aufzählung ohne Typ (Attribut type).</translation>
+    </message>
+    <message>
+        <source>The attributes of the object contradict each other.</source>
+        <translation>Die Attribute des Objekts widersprechen einander.</translation>
+    </message>
+    <message>
+        <source>The authority in the file &quot;%1&quot; cannot be used (%2).</source>
+        <translation>Die Zertifizierungsstelle in der Datei „%1“ kann nicht verwendet werden (%2).</translation>
+    </message>
+    <message>
+        <source>The basic type is written &quot;%1&quot; instead of &quot;%2&quot;.</source>
+        <translation>Der Basistyp ist „%1“ statt „%2“ geschrieben.</translation>
+    </message>
+    <message>
+        <source>The block belongs to another association of this computer, %1.</source>
+        <translation>Der Block gehört einer anderen Assoziation dieses Rechners, %1.</translation>
+    </message>
+    <message>
+        <source>The block belongs to the client %1.</source>
+        <translation>Der Block gehört dem Client %1.</translation>
+    </message>
+    <message>
+        <source>The call can no longer be cancelled.</source>
+        <translation>Die Anfrage kann nicht mehr abgebrochen werden.</translation>
+    </message>
+    <message>
+        <source>The call cannot be cancelled.</source>
+        <translation>Die Anfrage kann nicht abgebrochen werden.</translation>
+    </message>
+    <message>
+        <source>The call was cancelled.</source>
+        <translation>Die Anfrage wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The certificate &quot;%1&quot; in the file &quot;%2&quot;</source>
+        <translation>Das Zertifikat „%1“ in der Datei „%2“</translation>
+    </message>
+    <message>
+        <source>The certificate in the file &quot;%1&quot; cannot be used (%2).</source>
+        <translation>Das Zertifikat in der Datei „%1“ kann nicht verwendet werden (%2).</translation>
+    </message>
+    <message>
+        <source>The class is &quot;%1&quot;, but the LNodeType &quot;%2&quot; is of class &quot;%3&quot;.</source>
+        <translation>Die Klasse ist „%1“, der LNodeType „%2“ hat aber die Klasse „%3“.</translation>
+    </message>
+    <message>
+        <source>The class of an LN0 is &quot;%1&quot; instead of &quot;LLN0&quot;.</source>
+        <translation>Die Klasse eines LN0 ist „%1“ statt „LLN0“.</translation>
+    </message>
+    <message>
+        <source>The client is gone.</source>
+        <translation>Der Client ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>The connection to the other application is lost.</source>
+        <translation>Die Verbindung zur anderen Anwendung ist verloren.</translation>
+    </message>
+    <message>
+        <source>The content type of the file is not valid.</source>
+        <translation>Die Art des Inhalts der Datei ist nicht gültig.</translation>
+    </message>
+    <message>
+        <source>The control block has no name.</source>
+        <translation>Der Steuerblock hat keinen Namen.</translation>
+    </message>
+    <message>
+        <source>The control model of %1 cannot be read: %2.</source>
+        <translation>Das Steuermodell von %1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>The control model of %1 is %2, which is none.</source>
+        <translation>Das Steuermodell von %1 ist %2; ein solches gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>The data below this element are nested deeper than %1 levels; the element is left out.</source>
+        <translation>Die Daten unter diesem Element sind tiefer als %1 Ebenen geschachtelt; das Element wird weggelassen.</translation>
+    </message>
+    <message>
+        <source>The data set &quot;%1&quot; of the control block does not exist in its logical node.</source>
+        <translation>Der Datensatz „%1“ des Steuerblocks existiert nicht in dessen logischem Knoten.</translation>
+    </message>
+    <message>
+        <source>The data set has no members.</source>
+        <translation>Der Datensatz hat keine Elemente.</translation>
+    </message>
+    <message>
+        <source>The data set has no name.</source>
+        <translation>Der Datensatz hat keinen Namen.</translation>
+    </message>
+    <message>
+        <source>The definition of the object does not allow this.</source>
+        <translation>Die Definition des Objekts lässt dies nicht zu.</translation>
+    </message>
+    <message>
+        <source>The device answered another service.</source>
+        <translation>Das Gerät hat auf einen anderen Dienst geantwortet.</translation>
+    </message>
+    <message>
+        <source>The device cannot carry out the service.</source>
+        <translation>Das Gerät kann den Dienst nicht ausführen.</translation>
+    </message>
+    <message>
+        <source>The device cannot check interlocking.</source>
+        <translation>Das Gerät kann die Verriegelung nicht prüfen.</translation>
+    </message>
+    <message>
+        <source>The device cannot check synchronism.</source>
+        <translation>Das Gerät kann den Synchronismus nicht prüfen.</translation>
+    </message>
+    <message>
+        <source>The device cannot operate at a given time.</source>
+        <translation>Das Gerät kann nicht zu einer vorgegebenen Zeit schalten.</translation>
+    </message>
+    <message>
+        <source>The device cannot test a command.</source>
+        <translation>Das Gerät unterstützt keine Befehle im Testbetrieb.</translation>
+    </message>
+    <message>
+        <source>The device cannot transfer the domain.</source>
+        <translation>Das Gerät kann die Domain nicht übertragen.</translation>
+    </message>
+    <message>
+        <source>The device describes more than the %1 values in %2 octets that are taken; the rest is left out.</source>
+        <translation>Das Gerät beschreibt mehr als die zugelassenen %1 Werte in %2 Oktetten; der Rest wird weggelassen.</translation>
+    </message>
+    <message>
+        <source>The device describes the originator as %1.</source>
+        <translation>Das Gerät beschreibt den Auslöser des Befehls als %1.</translation>
+    </message>
+    <message>
+        <source>The device does not accept the syntax of the file name.</source>
+        <translation>Das Gerät nimmt die Syntax des Dateinamens nicht an.</translation>
+    </message>
+    <message>
+        <source>The device does not answer any more.</source>
+        <translation>Das Gerät antwortet nicht mehr.</translation>
+    </message>
+    <message>
+        <source>The device does not know the call to cancel.</source>
+        <translation>Das Gerät kennt die Anfrage nicht, die abgebrochen werden soll.</translation>
+    </message>
+    <message>
+        <source>The device does not know the capability.</source>
+        <translation>Das Gerät kennt die Fähigkeit (Capability) nicht.</translation>
+    </message>
+    <message>
+        <source>The device does not know the state machine.</source>
+        <translation>Das Gerät kennt den Zustandsautomaten nicht.</translation>
+    </message>
+    <message>
+        <source>The device does not let the data set %1 be deleted.</source>
+        <translation>Das Gerät lässt nicht zu, dass der Datensatz %1 gelöscht wird.</translation>
+    </message>
+    <message>
+        <source>The device does not list its logical devices: %1.</source>
+        <translation>Das Gerät führt seine logischen Geräte nicht auf: %1.</translation>
+    </message>
+    <message>
+        <source>The device does not say what belongs to the command.</source>
+        <translation>Das Gerät sagt nicht, was zum Befehl gehört.</translation>
+    </message>
+    <message>
+        <source>The device does not support the time resolution.</source>
+        <translation>Das Gerät unterstützt die Zeitauflösung nicht.</translation>
+    </message>
+    <message>
+        <source>The device gave a reason for refusing a command that cannot be read: %1.</source>
+        <translation>Das Gerät hat einen Befehl mit einem Grund abgelehnt, der nicht lesbar ist: %1.</translation>
+    </message>
+    <message>
+        <source>The device gave up after its own time limit.</source>
+        <translation>Das Gerät hat nach seiner eigenen Zeitgrenze aufgegeben.</translation>
+    </message>
+    <message>
+        <source>The device gave up because of a deadlock.</source>
+        <translation>Das Gerät hat wegen einer gegenseitigen Blockierung (Deadlock) aufgegeben.</translation>
+    </message>
+    <message>
+        <source>The device gave up the call.</source>
+        <translation>Das Gerät hat die Anfrage aufgegeben.</translation>
+    </message>
+    <message>
+        <source>The device gives names without end.</source>
+        <translation>Das Gerät liefert Namen ohne Ende.</translation>
+    </message>
+    <message>
+        <source>The device has an operational problem.</source>
+        <translation>Das Gerät hat ein Betriebsproblem.</translation>
+    </message>
+    <message>
+        <source>The device has more names than the %1 names and %2 octets that are taken; the others are left out.</source>
+        <translation>Das Gerät hat mehr Namen als die zugelassenen %1 Namen in %2 Oktetten; die übrigen werden weggelassen.</translation>
+    </message>
+    <message>
+        <source>The device has more than %1 logical devices; the others are left out.</source>
+        <translation>Das Gerät hat mehr als %1 logische Geräte; die übrigen werden weggelassen.</translation>
+    </message>
+    <message>
+        <source>The device has more than %1 logical nodes; the others are left out.</source>
+        <translation>Das Gerät hat mehr als %1 logische Knoten; die übrigen werden weggelassen.</translation>
+    </message>
+    <message>
+        <source>The device has neither %1 nor %2 any more.</source>
+        <translation>Das Gerät hat %1 nicht mehr, und auch %2 nicht mehr.</translation>
+    </message>
+    <message>
+        <source>The device has no free capability for this.</source>
+        <translation>Das Gerät hat dafür keine Fähigkeit (Capability) mehr frei.</translation>
+    </message>
+    <message>
+        <source>The device has not enough computing time.</source>
+        <translation>Das Gerät hat nicht genug Rechenzeit.</translation>
+    </message>
+    <message>
+        <source>The device has not enough memory.</source>
+        <translation>Das Gerät hat nicht genug Arbeitsspeicher.</translation>
+    </message>
+    <message>
+        <source>The device has not enough storage.</source>
+        <translation>Das Gerät hat nicht genug Speicherplatz.</translation>
+    </message>
+    <message>
+        <source>The device has not the resources for this.</source>
+        <translation>Das Gerät hat nicht die Mittel dafür.</translation>
+    </message>
+    <message>
+        <source>The device has something to finish first.</source>
+        <translation>Das Gerät muss zuerst etwas anderes beenden.</translation>
+    </message>
+    <message>
+        <source>The device has stopped fetching the file after %1 of %2 octets.</source>
+        <translation>Das Gerät hat nach %1 von %2 Oktetten aufgehört, die Datei abzuholen.</translation>
+    </message>
+    <message>
+        <source>The device is in a state that does not allow this.</source>
+        <translation>Das Gerät ist in einem Zustand, der dies nicht zulässt.</translation>
+    </message>
+    <message>
+        <source>The device lists its files without an end.</source>
+        <translation>Das Gerät führt seine Dateien ohne Ende auf.</translation>
+    </message>
+    <message>
+        <source>The device refuses the association.</source>
+        <translation>Das Gerät lehnt die Assoziation ab.</translation>
+    </message>
+    <message>
+        <source>The device refuses the file operation.</source>
+        <translation>Das Gerät lehnt den Dateivorgang ab.</translation>
+    </message>
+    <message>
+        <source>The device refuses to conclude the association.</source>
+        <translation>Das Gerät lehnt es ab, die Assoziation zu beenden.</translation>
+    </message>
+    <message>
+        <source>The device refuses without giving a reason.</source>
+        <translation>Das Gerät lehnt ab, ohne einen Grund zu nennen.</translation>
+    </message>
+    <message>
+        <source>The device rejects a cancel (%1).</source>
+        <translation>Das Gerät weist einen Abbruch (Cancel) zurück (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects a conclude (%1).</source>
+        <translation>Das Gerät weist ein Beenden (Conclude) zurück (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects a message that it cannot read (%1).</source>
+        <translation>Das Gerät weist eine Nachricht zurück, die es nicht lesen kann (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects a request (%1).</source>
+        <translation>Das Gerät weist eine Anfrage zurück (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects an answer (%1).</source>
+        <translation>Das Gerät weist eine Antwort zurück (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects an error (%1).</source>
+        <translation>Das Gerät weist eine Fehlermeldung zurück (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects an unconfirmed message (%1).</source>
+        <translation>Das Gerät weist eine unbestätigte Nachricht zurück (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects the answer to a cancel (%1).</source>
+        <translation>Das Gerät weist die Antwort auf einen Abbruch (Cancel) zurück (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects the answer to a conclude (%1).</source>
+        <translation>Das Gerät weist die Antwort auf ein Beenden (Conclude) zurück (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects the refusal of a cancel (%1).</source>
+        <translation>Das Gerät weist die Ablehnung eines Abbruchs (Cancel) zurück (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects the refusal of a conclude (%1).</source>
+        <translation>Das Gerät weist die Ablehnung eines Beendens (Conclude) zurück (%1).</translation>
+    </message>
+    <message>
+        <source>The device repeats the same page of names.</source>
+        <translation>Das Gerät wiederholt dieselbe Seite mit Namen.</translation>
+    </message>
+    <message>
+        <source>The device reports a hardware fault.</source>
+        <translation>Das Gerät meldet einen Hardwarefehler.</translation>
+    </message>
+    <message>
+        <source>The device reports the unknown data access error %1.</source>
+        <translation>Das Gerät meldet den unbekannten Datenzugriffsfehler %1.</translation>
+    </message>
+    <message>
+        <source>The device says that it has the file, but it has fetched only %1 of %2 octets.</source>
+        <translation>Das Gerät sagt, dass es die Datei hat, hat aber nur %1 von %2 Oktetten abgeholt.</translation>
+    </message>
+    <message>
+        <source>The device sends empty blocks of the file without an end.</source>
+        <translation>Das Gerät sendet ohne Ende leere Blöcke der Datei.</translation>
+    </message>
+    <message>
+        <source>The device took longer than %1 minutes to describe itself; what it had not told by then is left out.</source>
+        <translation>Das Gerät hat länger als %1 Minuten gebraucht, um sich zu beschreiben; was es bis dahin nicht mitgeteilt hat, wird weggelassen.</translation>
+    </message>
+    <message>
+        <source>The device uses another version of the protocol.</source>
+        <translation>Das Gerät verwendet eine andere Version des Protokolls.</translation>
+    </message>
+    <message>
+        <source>The device wants %1 also as a whole number, but does not say by which scale (sVC).</source>
+        <translation>Das Gerät verlangt den Wert %1 auch als ganze Zahl, sagt aber nicht, mit welcher Skalierung (sVC).</translation>
+    </message>
+    <message>
+        <source>The device wants a part %1 in the command, which is not known.</source>
+        <translation>Das Gerät verlangt im Befehl den Teil %1, der nicht bekannt ist.</translation>
+    </message>
+    <message>
+        <source>The device wants an unknown part %1 of the originator.</source>
+        <translation>Das Gerät verlangt beim Auslöser des Befehls den unbekannten Teil %1.</translation>
+    </message>
+    <message>
+        <source>The device&apos;s answer does not match the question.</source>
+        <translation>Die Antwort des Geräts passt nicht zur Frage.</translation>
+    </message>
+    <message>
+        <source>The device&apos;s answer does not match the request.</source>
+        <translation>Die Antwort des Geräts passt nicht zur Anfrage.</translation>
+    </message>
+    <message>
+        <source>The directory &quot;%1&quot; cannot be served: %2.</source>
+        <translation>Das Verzeichnis „%1“ kann nicht bereitgestellt werden: %2.</translation>
+    </message>
+    <message>
+        <source>The discovery was cancelled.</source>
+        <translation>Das Lesen des Modells wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The element %1 is missing or of an unknown kind.</source>
+        <translation>Das Element %1 fehlt oder ist von unbekannter Art.</translation>
+    </message>
+    <message>
+        <source>The element %1 is missing.</source>
+        <translation>Das Element %1 fehlt.</translation>
+    </message>
+    <message>
+        <source>The element %1 is not where it belongs.</source>
+        <translation>Das Element %1 steht nicht an seinem Platz.</translation>
+    </message>
+    <message>
+        <source>The element does not name an access point.</source>
+        <translation>Das Element benennt keinen Zugangspunkt.</translation>
+    </message>
+    <message>
+        <source>The element has no name and is left out.</source>
+        <translation>Das Element hat keinen Namen und wird weggelassen.</translation>
+    </message>
+    <message>
+        <source>The element has no type (attribute type).</source>
+        <translation>Das Element hat keinen Typ (Attribut type).</translation>
+    </message>
+    <message>
+        <source>The elements are nested too deeply.</source>
+        <translation>Die Elemente sind zu tief geschachtelt.</translation>
+    </message>
+    <message>
+        <source>The encoding is declared as &quot;%1&quot;, but the file holds single bytes; it is read as UTF-8.</source>
+        <translation>Als Kodierung ist „%1“ deklariert, die Datei enthält aber einzelne Bytes; sie wird als UTF-8 gelesen.</translation>
+    </message>
+    <message>
+        <source>The encoding is written &quot;%1&quot; instead of &quot;ISO-8859-1&quot;.</source>
+        <translation>Die Kodierung ist „%1“ statt „ISO-8859-1“ geschrieben.</translation>
+    </message>
+    <message>
+        <source>The encoding is written &quot;%1&quot; instead of &quot;UTF-8&quot;; it is read as UTF-8.</source>
+        <translation>Die Kodierung ist „%1“ statt „UTF-8“ geschrieben; die Datei wird als UTF-8 gelesen.</translation>
+    </message>
+    <message>
+        <source>The entity &quot;%1&quot; is not declared.</source>
+        <translation>Die Entität „%1“ ist nicht deklariert.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be opened: %2.</source>
+        <translation>Die Datei „%1“ kann nicht geöffnet werden: %2.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; holds no certificate in PEM.</source>
+        <translation>Die Datei „%1“ enthält kein Zertifikat im Format PEM.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; holds no private key in PEM.</source>
+        <translation>Die Datei „%1“ enthält keinen privaten Schlüssel im Format PEM.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; holds no revocation list in PEM.</source>
+        <translation>Die Datei „%1“ enthält keine Sperrliste im Format PEM.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; with %2 cannot be opened: %3.</source>
+        <translation>Die Datei „%1“ (%2) kann nicht geöffnet werden: %3.</translation>
+    </message>
+    <message>
+        <source>The file became shorter while it was read.</source>
+        <translation>Die Datei wurde kürzer, während sie gelesen wurde.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read to its end.</source>
+        <translation>Die Datei kann nicht bis zum Ende gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The file declares an entity, which is not accepted.</source>
+        <translation>Die Datei deklariert eine Entität; das wird nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>Die Datei existiert nicht.</translation>
+    </message>
+    <message>
+        <source>The file ends before its root element is complete.</source>
+        <translation>Die Datei endet, bevor ihr Wurzelelement vollständig ist.</translation>
+    </message>
+    <message>
+        <source>The file ends within a character.</source>
+        <translation>Die Datei endet innerhalb eines Zeichens.</translation>
+    </message>
+    <message>
+        <source>The file in the device may be incomplete: look at %1.</source>
+        <translation>Die Datei auf dem Gerät kann unvollständig sein: Prüfen Sie %1.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Die Datei ist leer.</translation>
+    </message>
+    <message>
+        <source>The file is in use.</source>
+        <translation>Die Datei wird gerade verwendet.</translation>
+    </message>
+    <message>
+        <source>The file is larger than %1 bytes.</source>
+        <translation>Die Datei ist größer als %1 Byte.</translation>
+    </message>
+    <message>
+        <source>The file is not well-formed XML: %1.</source>
+        <translation>Die Datei ist kein wohlgeformtes XML: %1.</translation>
+    </message>
+    <message>
+        <source>The file name is ambiguous.</source>
+        <translation>Der Dateiname ist mehrdeutig.</translation>
+    </message>
+    <message>
+        <source>The file refers to an external document type, which is not accepted.</source>
+        <translation>Die Datei verweist auf einen externen Dokumenttyp; das wird nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s encoding is not the one declared, or it is not known.</source>
+        <translation>Die Kodierung der Datei ist nicht die deklarierte, oder sie ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>The header of a transport unit is longer than the packet.</source>
+        <translation>Der Kopf einer Transporteinheit ist länger als das Paket.</translation>
+    </message>
+    <message>
+        <source>The import was cancelled.</source>
+        <translation>Der Import wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The instance has no name and is left out.</source>
+        <translation>Die Instanz hat keinen Namen und wird weggelassen.</translation>
+    </message>
+    <message>
+        <source>The instance is given twice; the first is used.</source>
+        <translation>Die Instanz ist zweimal angegeben; verwendet wird die erste.</translation>
+    </message>
+    <message>
+        <source>The issuer&apos;s certificate &quot;%1&quot;</source>
+        <translation>Das Ausstellerzertifikat „%1“</translation>
+    </message>
+    <message>
+        <source>The length of an element is too large.</source>
+        <translation>Die Länge eines Elements ist zu groß.</translation>
+    </message>
+    <message>
+        <source>The list cannot be continued after the given name.</source>
+        <translation>Die Liste kann nach dem angegebenen Namen nicht fortgesetzt werden.</translation>
+    </message>
+    <message>
+        <source>The literal &quot;%1&quot; begins or ends with a blank.</source>
+        <translation>Das Literal „%1“ beginnt oder endet mit einem Leerzeichen.</translation>
+    </message>
+    <message>
+        <source>The logical device has no LN0.</source>
+        <translation>Das logische Gerät hat keinen LN0.</translation>
+    </message>
+    <message>
+        <source>The logical device has no instance name (attribute inst).</source>
+        <translation>Das logische Gerät hat keinen Instanznamen (Attribut inst).</translation>
+    </message>
+    <message>
+        <source>The logical node has another setting group control; the first is used.</source>
+        <translation>Der logische Knoten hat eine weitere Parametersatz-Steuerung; verwendet wird die erste.</translation>
+    </message>
+    <message>
+        <source>The logical node has no class (attribute lnClass).</source>
+        <translation>Der logische Knoten hat keine Klasse (Attribut lnClass).</translation>
+    </message>
+    <message>
+        <source>The logical node has no instance number (attribute inst).</source>
+        <translation>Der logische Knoten hat keine Instanznummer (Attribut inst).</translation>
+    </message>
+    <message>
+        <source>The logical node has no type (attribute lnType).</source>
+        <translation>Der logische Knoten hat keinen Typ (Attribut lnType).</translation>
+    </message>
+    <message>
+        <source>The lowest version of TLS that is allowed is above the highest one.</source>
+        <translation>Die niedrigste zugelassene TLS-Version liegt über der höchsten.</translation>
+    </message>
+    <message>
+        <source>The message ends within an element.</source>
+        <translation>Die Nachricht endet innerhalb eines Elements.</translation>
+    </message>
+    <message>
+        <source>The message holds more elements than allowed.</source>
+        <translation>Die Nachricht enthält mehr Elemente als zugelassen.</translation>
+    </message>
+    <message>
+        <source>The message is empty.</source>
+        <translation>Die Nachricht ist leer.</translation>
+    </message>
+    <message>
+        <source>The message is longer than allowed.</source>
+        <translation>Die Nachricht ist länger als zugelassen.</translation>
+    </message>
+    <message>
+        <source>The message is no MMS PDU.</source>
+        <translation>Die Nachricht ist keine MMS-PDU.</translation>
+    </message>
+    <message>
+        <source>The message size is too small for the device.</source>
+        <translation>Die Nachrichtengröße ist für das Gerät zu klein.</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; cannot be resolved: %2.</source>
+        <translation>Der Name „%1“ kann nicht aufgelöst werden: %2.</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; was not resolved in time.</source>
+        <translation>Der Name „%1“ wurde nicht rechtzeitig aufgelöst.</translation>
+    </message>
+    <message>
+        <source>The name of the other application is not valid.</source>
+        <translation>Der Name der anderen Anwendung ist nicht gültig.</translation>
+    </message>
+    <message>
+        <source>The name space prefix &quot;%1&quot; is not declared; its elements are skipped.</source>
+        <translation>Das Namensraumpräfix „%1“ ist nicht deklariert; seine Elemente werden übergangen.</translation>
+    </message>
+    <message>
+        <source>The names</source>
+        <translation>Die Namen</translation>
+    </message>
+    <message>
+        <source>The names of %1</source>
+        <translation>Die Namen von %1</translation>
+    </message>
+    <message>
+        <source>The names of the data</source>
+        <translation>Die Namen der Daten</translation>
+    </message>
+    <message>
+        <source>The names of the data of %1</source>
+        <translation>Die Namen der Daten von %1</translation>
+    </message>
+    <message>
+        <source>The names of the data sets</source>
+        <translation>Die Namen der Datensätze</translation>
+    </message>
+    <message>
+        <source>The names of the data sets of %1</source>
+        <translation>Die Namen der Datensätze von %1</translation>
+    </message>
+    <message>
+        <source>The nesting level does not suit the device.</source>
+        <translation>Die Schachtelungstiefe ist für das Gerät nicht annehmbar.</translation>
+    </message>
+    <message>
+        <source>The network connection broke during the TLS handshake: %1.</source>
+        <translation>Die Netzwerkverbindung brach beim TLS-Handshake ab: %1.</translation>
+    </message>
+    <message>
+        <source>The network connection broke: %1.</source>
+        <translation>Die Netzwerkverbindung brach ab: %1.</translation>
+    </message>
+    <message>
+        <source>The new file is in the device as %1.</source>
+        <translation>Die neue Datei ist als %1 auf dem Gerät.</translation>
+    </message>
+    <message>
+        <source>The number of instances is %1; %2 is used.</source>
+        <translation>Die Anzahl der Instanzen ist %1; verwendet wird %2.</translation>
+    </message>
+    <message>
+        <source>The number of outstanding calls does not suit the device.</source>
+        <translation>Die Anzahl der ausstehenden Anfragen ist für das Gerät nicht annehmbar.</translation>
+    </message>
+    <message>
+        <source>The number of outstanding calls of the device does not suit it.</source>
+        <translation>Die Anzahl der ausstehenden Anfragen des Geräts selbst ist für das Gerät nicht annehmbar.</translation>
+    </message>
+    <message>
+        <source>The number of setting groups is 0; 1 is used.</source>
+        <translation>Die Anzahl der Parametersätze ist 0; verwendet wird 1.</translation>
+    </message>
+    <message>
+        <source>The object cannot be accessed in this way.</source>
+        <translation>Auf das Objekt kann auf diese Weise nicht zugegriffen werden.</translation>
+    </message>
+    <message>
+        <source>The object cannot be accessed.</source>
+        <translation>Auf das Objekt kann nicht zugegriffen werden.</translation>
+    </message>
+    <message>
+        <source>The object does not exist.</source>
+        <translation>Das Objekt existiert nicht.</translation>
+    </message>
+    <message>
+        <source>The object is in a state that does not allow this.</source>
+        <translation>Das Objekt ist in einem Zustand, der dies nicht zulässt.</translation>
+    </message>
+    <message>
+        <source>The object is no longer valid.</source>
+        <translation>Das Objekt ist nicht mehr gültig.</translation>
+    </message>
+    <message>
+        <source>The object is not available at the moment.</source>
+        <translation>Das Objekt ist zurzeit nicht verfügbar.</translation>
+    </message>
+    <message>
+        <source>The object is not defined.</source>
+        <translation>Das Objekt ist nicht definiert.</translation>
+    </message>
+    <message>
+        <source>The old file had to be deleted before and is lost.</source>
+        <translation>Die alte Datei musste vorher gelöscht werden und ist verloren.</translation>
+    </message>
+    <message>
+        <source>The old file is still there.</source>
+        <translation>Die alte Datei ist noch da.</translation>
+    </message>
+    <message>
+        <source>The old file was deleted before.</source>
+        <translation>Die alte Datei wurde vorher gelöscht.</translation>
+    </message>
+    <message>
+        <source>The options offered do not suit the device.</source>
+        <translation>Die angebotenen Optionen sind für das Gerät nicht annehmbar.</translation>
+    </message>
+    <message>
+        <source>The ordinal %1 is given twice; the first literal is used.</source>
+        <translation>Die Ordnungszahl %1 ist zweimal angegeben; verwendet wird das erste Literal.</translation>
+    </message>
+    <message>
+        <source>The originator identification has %1 octets; at most %2 are allowed.</source>
+        <translation>Die Kennung des Auslösers hat %1 Oktette; zugelassen sind höchstens %2.</translation>
+    </message>
+    <message>
+        <source>The other application cannot be reached.</source>
+        <translation>Die andere Anwendung ist nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>The other application does not support the context.</source>
+        <translation>Die andere Anwendung unterstützt den Kontext nicht.</translation>
+    </message>
+    <message>
+        <source>The part %1 of the command cannot be %2.</source>
+        <translation>Teil %1 des Befehls: %2 ist nicht möglich.</translation>
+    </message>
+    <message>
+        <source>The peer %1 has %2 connections that are no associations yet, which is the limit.</source>
+        <translation>Die Gegenstelle %1 hat bereits %2 Verbindungen, die noch keine Assoziationen sind; mehr sind nicht zugelassen.</translation>
+    </message>
+    <message>
+        <source>The peer aborted the association.</source>
+        <translation>Die Gegenstelle hat die Assoziation abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The peer aborted the session.</source>
+        <translation>Die Gegenstelle hat die Session abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The peer accepted the session with an unsuitable version.</source>
+        <translation>Die Gegenstelle hat die Session mit einer unpassenden Version angenommen.</translation>
+    </message>
+    <message>
+        <source>The peer and this side have no cipher suite in common, or no certificate fits it.</source>
+        <translation>Die Gegenstelle und diese Seite haben keine gemeinsame Cipher-Suite, oder kein Zertifikat passt dazu.</translation>
+    </message>
+    <message>
+        <source>The peer and this side have no version of TLS in common.</source>
+        <translation>Die Gegenstelle und diese Seite haben keine gemeinsame TLS-Version.</translation>
+    </message>
+    <message>
+        <source>The peer answered the initiate request with something else.</source>
+        <translation>Die Gegenstelle hat die Initiate-Anfrage mit etwas anderem beantwortet.</translation>
+    </message>
+    <message>
+        <source>The peer answers for too many presentation contexts.</source>
+        <translation>Die Gegenstelle antwortet für zu viele Presentation-Kontexte.</translation>
+    </message>
+    <message>
+        <source>The peer asked for a transport class other than 0.</source>
+        <translation>Die Gegenstelle hat eine andere Transportklasse als 0 verlangt.</translation>
+    </message>
+    <message>
+        <source>The peer asked for an application context other than MMS.</source>
+        <translation>Die Gegenstelle hat einen anderen Anwendungskontext als MMS verlangt.</translation>
+    </message>
+    <message>
+        <source>The peer asked for an unknown presentation selector.</source>
+        <translation>Die Gegenstelle hat einen unbekannten Presentation-Selektor verlangt.</translation>
+    </message>
+    <message>
+        <source>The peer asked for an unknown transport selector.</source>
+        <translation>Die Gegenstelle hat einen unbekannten Transport-Selektor verlangt.</translation>
+    </message>
+    <message>
+        <source>The peer asks for a certificate, and this side has none that it trusts.</source>
+        <translation>Die Gegenstelle verlangt ein Zertifikat, und diese Seite hat keines, dem die Gegenstelle vertraut.</translation>
+    </message>
+    <message>
+        <source>The peer asks for a presentation mode other than normal mode.</source>
+        <translation>Die Gegenstelle verlangt einen anderen Presentation-Modus als den Normalmodus.</translation>
+    </message>
+    <message>
+        <source>The peer asks for too many presentation contexts.</source>
+        <translation>Die Gegenstelle verlangt zu viele Presentation-Kontexte.</translation>
+    </message>
+    <message>
+        <source>The peer cannot read the presentation user data.</source>
+        <translation>Die Gegenstelle kann die Presentation-Nutzdaten nicht lesen.</translation>
+    </message>
+    <message>
+        <source>The peer closed the network connection instead of a TLS handshake.</source>
+        <translation>Die Gegenstelle hat die Netzwerkverbindung geschlossen, statt den TLS-Handshake zu beginnen.</translation>
+    </message>
+    <message>
+        <source>The peer closed the network connection instead of a TLS handshake; it may not speak TLS on this port.</source>
+        <translation>Die Gegenstelle hat die Netzwerkverbindung geschlossen, statt den TLS-Handshake zu beginnen; vielleicht spricht sie auf diesem Port kein TLS.</translation>
+    </message>
+    <message>
+        <source>The peer closed the network connection.</source>
+        <translation>Die Gegenstelle hat die Netzwerkverbindung geschlossen.</translation>
+    </message>
+    <message>
+        <source>The peer confirmed a transport class other than 0.</source>
+        <translation>Die Gegenstelle hat eine andere Transportklasse als 0 bestätigt.</translation>
+    </message>
+    <message>
+        <source>The peer cuts session data into segments, which was not agreed.</source>
+        <translation>Die Gegenstelle zerlegt Session-Daten in Segmente; das wurde nicht vereinbart.</translation>
+    </message>
+    <message>
+        <source>The peer did not accept the presentation contexts of ACSE and MMS.</source>
+        <translation>Die Gegenstelle hat die Presentation-Kontexte von ACSE und MMS nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>The peer did not answer in time.</source>
+        <translation>Die Gegenstelle hat nicht rechtzeitig geantwortet.</translation>
+    </message>
+    <message>
+        <source>The peer did not answer the release in time.</source>
+        <translation>Die Gegenstelle hat auf den Abbau der Assoziation nicht rechtzeitig geantwortet.</translation>
+    </message>
+    <message>
+        <source>The peer did not ask for the presentation contexts of ACSE and MMS.</source>
+        <translation>Die Gegenstelle hat die Presentation-Kontexte von ACSE und MMS nicht verlangt.</translation>
+    </message>
+    <message>
+        <source>The peer did not complete the TLS handshake in time.</source>
+        <translation>Die Gegenstelle hat den TLS-Handshake nicht rechtzeitig abgeschlossen.</translation>
+    </message>
+    <message>
+        <source>The peer did not complete the association in time.</source>
+        <translation>Die Gegenstelle hat den Aufbau der Assoziation nicht rechtzeitig abgeschlossen.</translation>
+    </message>
+    <message>
+        <source>The peer does not conclude the association: %1.</source>
+        <translation>Die Gegenstelle beendet die Assoziation nicht: %1.</translation>
+    </message>
+    <message>
+        <source>The peer does not know the presentation selector.</source>
+        <translation>Die Gegenstelle kennt den Presentation-Selektor nicht.</translation>
+    </message>
+    <message>
+        <source>The peer does not know the session selector.</source>
+        <translation>Die Gegenstelle kennt den Session-Selektor nicht.</translation>
+    </message>
+    <message>
+        <source>The peer does not know the transport selector.</source>
+        <translation>Die Gegenstelle kennt den Transport-Selektor nicht.</translation>
+    </message>
+    <message>
+        <source>The peer does not read what it is sent.</source>
+        <translation>Die Gegenstelle liest nicht, was ihr gesendet wird.</translation>
+    </message>
+    <message>
+        <source>The peer does not speak ISO transport over TCP: a packet begins with %1 instead of 3.</source>
+        <translation>Die Gegenstelle spricht kein ISO-Transport über TCP: Ein Paket beginnt mit %1 statt 3.</translation>
+    </message>
+    <message>
+        <source>The peer does not speak TLS, which is required here.</source>
+        <translation>Die Gegenstelle spricht kein TLS; hier ist es vorgeschrieben.</translation>
+    </message>
+    <message>
+        <source>The peer does not speak TLS.</source>
+        <translation>Die Gegenstelle spricht kein TLS.</translation>
+    </message>
+    <message>
+        <source>The peer does not support the default context.</source>
+        <translation>Die Gegenstelle unterstützt den Standardkontext nicht.</translation>
+    </message>
+    <message>
+        <source>The peer does not support the proposed version of the session protocol.</source>
+        <translation>Die Gegenstelle unterstützt die vorgeschlagene Version des Session-Protokolls nicht.</translation>
+    </message>
+    <message>
+        <source>The peer does not support the version of the presentation protocol.</source>
+        <translation>Die Gegenstelle unterstützt die Version des Presentation-Protokolls nicht.</translation>
+    </message>
+    <message>
+        <source>The peer ended the transport connection normally.</source>
+        <translation>Die Gegenstelle hat die Transportverbindung normal beendet.</translation>
+    </message>
+    <message>
+        <source>The peer ended the transport connection with reason %1.</source>
+        <translation>Die Gegenstelle hat die Transportverbindung mit Grund %1 beendet.</translation>
+    </message>
+    <message>
+        <source>The peer ended the transport connection without a reason.</source>
+        <translation>Die Gegenstelle hat die Transportverbindung ohne Grund beendet.</translation>
+    </message>
+    <message>
+        <source>The peer gave no sign of life in time.</source>
+        <translation>Die Gegenstelle hat nicht rechtzeitig ein Lebenszeichen gegeben.</translation>
+    </message>
+    <message>
+        <source>The peer has shown no certificate.</source>
+        <translation>Die Gegenstelle hat kein Zertifikat vorgelegt.</translation>
+    </message>
+    <message>
+        <source>The peer knows the certificate of this side and denies it access.</source>
+        <translation>Die Gegenstelle kennt das Zertifikat dieser Seite und verweigert ihr den Zugang.</translation>
+    </message>
+    <message>
+        <source>The peer refuses a parameter code of the transport unit.</source>
+        <translation>Die Gegenstelle lehnt einen Parametercode der Transporteinheit ab.</translation>
+    </message>
+    <message>
+        <source>The peer refuses a parameter value of the transport unit.</source>
+        <translation>Die Gegenstelle lehnt einen Parameterwert der Transporteinheit ab.</translation>
+    </message>
+    <message>
+        <source>The peer refuses a transport unit without a reason.</source>
+        <translation>Die Gegenstelle lehnt eine Transporteinheit ohne Grund ab.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the association for the time being.</source>
+        <translation>Die Gegenstelle lehnt die Assoziation vorerst ab.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the association for the time being: %1.</source>
+        <translation>Die Gegenstelle lehnt die Assoziation vorerst ab: %1.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the association.</source>
+        <translation>Die Gegenstelle lehnt die Assoziation ab.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the association: %1.</source>
+        <translation>Die Gegenstelle lehnt die Assoziation ab: %1.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the certificate of this side because it does not trust its issuer.</source>
+        <translation>Die Gegenstelle lehnt das Zertifikat dieser Seite ab, weil sie dessen Aussteller nicht vertraut.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the certificate of this side because it has been revoked.</source>
+        <translation>Die Gegenstelle lehnt das Zertifikat dieser Seite ab, weil es gesperrt wurde.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the certificate of this side because it has expired or is not valid yet.</source>
+        <translation>Die Gegenstelle lehnt das Zertifikat dieser Seite ab, weil es abgelaufen oder noch nicht gültig ist.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the certificate of this side because it is not of a kind that it takes.</source>
+        <translation>Die Gegenstelle lehnt das Zertifikat dieser Seite ab, weil sie Zertifikate dieser Art nicht annimmt.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the certificate of this side.</source>
+        <translation>Die Gegenstelle lehnt das Zertifikat dieser Seite ab.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the handshake because a signature of this side does not fit.</source>
+        <translation>Die Gegenstelle lehnt den Handshake ab, weil eine Signatur dieser Seite nicht passt.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the initiate request.</source>
+        <translation>Die Gegenstelle lehnt die Initiate-Anfrage ab.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the presentation connection with reason %1.</source>
+        <translation>Die Gegenstelle lehnt die Presentation-Verbindung mit Grund %1 ab.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the presentation connection.</source>
+        <translation>Die Gegenstelle lehnt die Presentation-Verbindung ab.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the request on this network connection.</source>
+        <translation>Die Gegenstelle lehnt die Anfrage auf dieser Netzwerkverbindung ab.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the session because it is busy.</source>
+        <translation>Die Gegenstelle lehnt die Session ab, weil sie ausgelastet ist.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the session with reason %1.</source>
+        <translation>Die Gegenstelle lehnt die Session mit Grund %1 ab.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the session without a reason.</source>
+        <translation>Die Gegenstelle lehnt die Session ohne Grund ab.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the session.</source>
+        <translation>Die Gegenstelle lehnt die Session ab.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the type of the transport unit.</source>
+        <translation>Die Gegenstelle lehnt die Art der Transporteinheit ab.</translation>
+    </message>
+    <message>
+        <source>The peer refuses to end the session.</source>
+        <translation>Die Gegenstelle lehnt es ab, die Session zu beenden.</translation>
+    </message>
+    <message>
+        <source>The peer reports an error in the transport protocol.</source>
+        <translation>Die Gegenstelle meldet einen Fehler im Transportprotokoll.</translation>
+    </message>
+    <message>
+        <source>The peer reports an invalid header or parameter length.</source>
+        <translation>Die Gegenstelle meldet eine ungültige Länge des Kopfes oder eines Parameters.</translation>
+    </message>
+    <message>
+        <source>The peer said nothing for %1 ms.</source>
+        <translation>Die Gegenstelle hat %1 ms lang nichts gesendet.</translation>
+    </message>
+    <message>
+        <source>The peer saw a duplicate transport reference.</source>
+        <translation>Die Gegenstelle hat eine doppelte Transportreferenz festgestellt.</translation>
+    </message>
+    <message>
+        <source>The peer saw mismatched transport references.</source>
+        <translation>Die Gegenstelle hat Transportreferenzen festgestellt, die nicht zueinander passen.</translation>
+    </message>
+    <message>
+        <source>The peer sent a message of more than %1 octets.</source>
+        <translation>Die Gegenstelle hat eine Nachricht von mehr als %1 Oktetten gesendet.</translation>
+    </message>
+    <message>
+        <source>The peer sent a transport unit that does not belong here.</source>
+        <translation>Die Gegenstelle hat eine Transporteinheit gesendet, die nicht hierher gehört.</translation>
+    </message>
+    <message>
+        <source>The peer sent a unit of association control that does not belong here.</source>
+        <translation>Die Gegenstelle hat eine Einheit der Assoziationssteuerung gesendet, die nicht hierher gehört.</translation>
+    </message>
+    <message>
+        <source>The peer sent a wrong password.</source>
+        <translation>Die Gegenstelle hat ein falsches Passwort gesendet.</translation>
+    </message>
+    <message>
+        <source>The peer sent no password.</source>
+        <translation>Die Gegenstelle hat kein Passwort gesendet.</translation>
+    </message>
+    <message>
+        <source>The peer sent the session unit &quot;%1&quot;, which does not belong here.</source>
+        <translation>Die Gegenstelle hat die Session-Einheit „%1“ gesendet, die nicht hierher gehört.</translation>
+    </message>
+    <message>
+        <source>The peer speaks TLS, which is not configured here.</source>
+        <translation>Die Gegenstelle spricht TLS; hier ist es nicht eingerichtet.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s PDU size of %1 octets is too small.</source>
+        <translation>Die PDU-Größe der Gegenstelle von %1 Oktetten ist zu klein.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s association control aborted the association.</source>
+        <translation>Die Assoziationssteuerung der Gegenstelle hat die Assoziation abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s certificate &quot;%1&quot;</source>
+        <translation>Das Zertifikat „%1“ der Gegenstelle</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s certificate &quot;%1&quot; is not one of those that are pinned; its fingerprint is %2.</source>
+        <translation>Das Zertifikat „%1“ der Gegenstelle ist keines der festgelegten; sein Fingerabdruck ist %2.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s initiate answer cannot be read: %1.</source>
+        <translation>Die Initiate-Antwort der Gegenstelle kann nicht gelesen werden: %1.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer aborted without a reason.</source>
+        <translation>Die Presentation-Schicht der Gegenstelle hat ohne Grund abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer aborted.</source>
+        <translation>Die Presentation-Schicht der Gegenstelle hat abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer did not expect a parameter and aborted.</source>
+        <translation>Die Presentation-Schicht der Gegenstelle hat einen Parameter nicht erwartet und abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer did not expect a session service and aborted.</source>
+        <translation>Die Presentation-Schicht der Gegenstelle hat einen Session-Dienst nicht erwartet und abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer did not expect a unit and aborted.</source>
+        <translation>Die Presentation-Schicht der Gegenstelle hat eine Einheit nicht erwartet und abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer does not recognise a parameter and aborted.</source>
+        <translation>Die Presentation-Schicht der Gegenstelle erkennt einen Parameter nicht und hat abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer does not recognise a unit and aborted.</source>
+        <translation>Die Presentation-Schicht der Gegenstelle erkennt eine Einheit nicht und hat abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer found an invalid parameter value and aborted.</source>
+        <translation>Die Presentation-Schicht der Gegenstelle hat einen ungültigen Parameterwert gefunden und abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer has reached a limit of its own.</source>
+        <translation>Die Presentation-Schicht der Gegenstelle hat eine eigene Grenze erreicht.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer is congested.</source>
+        <translation>Die Presentation-Schicht der Gegenstelle ist überlastet.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer refuses the connection without a reason.</source>
+        <translation>Die Presentation-Schicht der Gegenstelle lehnt die Verbindung ohne Grund ab.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s session layer aborted the session.</source>
+        <translation>Die Session-Schicht der Gegenstelle hat die Session abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s session layer is congested.</source>
+        <translation>Die Session-Schicht der Gegenstelle ist überlastet.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s session layer refuses the session because of a restriction of its own.</source>
+        <translation>Die Session-Schicht der Gegenstelle lehnt die Session wegen einer eigenen Beschränkung ab.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s session layer refuses the session.</source>
+        <translation>Die Session-Schicht der Gegenstelle lehnt die Session ab.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s session layer reports an error in the protocol and aborted the session.</source>
+        <translation>Die Session-Schicht der Gegenstelle meldet einen Protokollfehler und hat die Session abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s session request cannot be accepted.</source>
+        <translation>Die Session-Anforderung der Gegenstelle kann nicht angenommen werden.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s transport layer is congested.</source>
+        <translation>Die Transportschicht der Gegenstelle ist überlastet.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s transport references have overflowed.</source>
+        <translation>Der Gegenstelle sind die Transportreferenzen ausgegangen.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s transport selector is congested.</source>
+        <translation>Der Transport-Selektor der Gegenstelle ist überlastet.</translation>
+    </message>
+    <message>
+        <source>The position is not within the file.</source>
+        <translation>Die Position liegt nicht innerhalb der Datei.</translation>
+    </message>
+    <message>
+        <source>The private key in the file &quot;%1&quot; cannot be used (%2).</source>
+        <translation>Der private Schlüssel in der Datei „%1“ kann nicht verwendet werden (%2).</translation>
+    </message>
+    <message>
+        <source>The private key in the file &quot;%1&quot; does not fit the certificate in the file &quot;%2&quot;.</source>
+        <translation>Der private Schlüssel in der Datei „%1“ passt nicht zum Zertifikat in der Datei „%2“.</translation>
+    </message>
+    <message>
+        <source>The private key in the file &quot;%1&quot; does not open with the password that is given.</source>
+        <translation>Der private Schlüssel in der Datei „%1“ lässt sich mit dem angegebenen Passwort nicht öffnen.</translation>
+    </message>
+    <message>
+        <source>The private key in the file &quot;%1&quot; is encrypted, and no password is given.</source>
+        <translation>Der private Schlüssel in der Datei „%1“ ist verschlüsselt, und es ist kein Passwort angegeben.</translation>
+    </message>
+    <message>
+        <source>The report ends before its %1.</source>
+        <translation>Der Report endet vor dem Feld %1.</translation>
+    </message>
+    <message>
+        <source>The report has no value for its %1: %2.</source>
+        <translation>Der Report hat keinen Wert für das Feld %1: %2.</translation>
+    </message>
+    <message>
+        <source>The report says that it brings %1 members, which are %2 values, but it has %3.</source>
+        <translation>Der Report gibt an, %1 Elemente zu bringen, also %2 Werte, hat aber %3.</translation>
+    </message>
+    <message>
+        <source>The report&apos;s %1 is neither true nor false.</source>
+        <translation>Das Feld %1 des Reports ist weder wahr noch falsch.</translation>
+    </message>
+    <message>
+        <source>The report&apos;s %1 is not a binary time.</source>
+        <translation>Das Feld %1 des Reports ist keine Binärzeit.</translation>
+    </message>
+    <message>
+        <source>The report&apos;s %1 is not a bit string.</source>
+        <translation>Das Feld %1 des Reports ist keine Bitfolge.</translation>
+    </message>
+    <message>
+        <source>The report&apos;s %1 is not a number of 32 bits without sign.</source>
+        <translation>Das Feld %1 des Reports ist keine vorzeichenlose Zahl mit 32 Bit.</translation>
+    </message>
+    <message>
+        <source>The report&apos;s %1 is not a string of octets.</source>
+        <translation>Das Feld %1 des Reports ist keine Oktettfolge.</translation>
+    </message>
+    <message>
+        <source>The report&apos;s %1 is not a text.</source>
+        <translation>Das Feld %1 des Reports ist kein Text.</translation>
+    </message>
+    <message>
+        <source>The request is longer than the negotiated PDU size of %1 octets.</source>
+        <translation>Die Anfrage ist länger als die vereinbarte PDU-Größe von %1 Oktetten.</translation>
+    </message>
+    <message>
+        <source>The request was not sent: it waited for a place behind calls that the peer has not answered.</source>
+        <translation>Die Anfrage wurde nicht gesendet: Sie wartete auf einen Platz hinter Anfragen, die die Gegenstelle nicht beantwortet hat.</translation>
+    </message>
+    <message>
+        <source>The revocation list in the file &quot;%1&quot; cannot be used (%2).</source>
+        <translation>Die Sperrliste in der Datei „%1“ kann nicht verwendet werden (%2).</translation>
+    </message>
+    <message>
+        <source>The root element is in no name space; it should be in &quot;%1&quot;.</source>
+        <translation>Das Wurzelelement ist in keinem Namensraum; es sollte in „%1“ sein.</translation>
+    </message>
+    <message>
+        <source>The root element is in the name space &quot;%1&quot; instead of &quot;%2&quot;.</source>
+        <translation>Das Wurzelelement ist im Namensraum „%1“ statt „%2“.</translation>
+    </message>
+    <message>
+        <source>The server was stopped.</source>
+        <translation>Der Server wurde angehalten.</translation>
+    </message>
+    <message>
+        <source>The service was called out of sequence.</source>
+        <translation>Der Dienst wurde außer der Reihe aufgerufen.</translation>
+    </message>
+    <message>
+        <source>The services offered do not suit the device.</source>
+        <translation>Die angebotenen Dienste sind für das Gerät nicht annehmbar.</translation>
+    </message>
+    <message>
+        <source>The session parameter %1 has a wrong length.</source>
+        <translation>Der Session-Parameter %1 hat eine falsche Länge.</translation>
+    </message>
+    <message>
+        <source>The size of transport units is not one of 128 to 8,192 octets.</source>
+        <translation>Die Größe der Transporteinheiten ist keine der Größen von 128 bis 8.192 Oktetten.</translation>
+    </message>
+    <message>
+        <source>The state of the device does not allow this.</source>
+        <translation>Der Zustand des Geräts lässt dies nicht zu.</translation>
+    </message>
+    <message>
+        <source>The transport classes of both sides do not match.</source>
+        <translation>Die Transportklassen beider Seiten passen nicht zueinander.</translation>
+    </message>
+    <message>
+        <source>The transport unit &quot;%1&quot; is shorter than its fixed part.</source>
+        <translation>Die Transporteinheit „%1“ ist kürzer als ihr fester Teil.</translation>
+    </message>
+    <message>
+        <source>The truth value is written &quot;%1&quot; instead of &quot;true&quot; or &quot;false&quot;.</source>
+        <translation>Der Wahrheitswert ist „%1“ statt „true“ oder „false“ geschrieben.</translation>
+    </message>
+    <message>
+        <source>The type is not supported.</source>
+        <translation>Der Typ wird nicht unterstützt.</translation>
+    </message>
+    <message>
+        <source>The type of %1 cannot be read: %2.</source>
+        <translation>Der Typ von %1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>The types do not agree.</source>
+        <translation>Die Typen stimmen nicht überein.</translation>
+    </message>
+    <message>
+        <source>The value %1 does not fit the type %2 of the device.</source>
+        <translation>Der Wert %1 passt nicht in den Typ %2 des Geräts.</translation>
+    </message>
+    <message>
+        <source>The value &quot;%1&quot; differs in blanks or capitals from what is expected.</source>
+        <translation>Der Wert „%1“ weicht in Leerzeichen oder Großschreibung vom erwarteten ab.</translation>
+    </message>
+    <message>
+        <source>The value has not the type of the object.</source>
+        <translation>Der Wert hat nicht den Typ des Objekts.</translation>
+    </message>
+    <message>
+        <source>The value is empty, so the attribute has none.</source>
+        <translation>Der Wert ist leer; das Attribut hat daher keinen Wert.</translation>
+    </message>
+    <message>
+        <source>The value is given by its number &quot;%1&quot; instead of its text.</source>
+        <translation>Der Wert ist durch seine Nummer „%1“ statt durch seinen Text angegeben.</translation>
+    </message>
+    <message>
+        <source>The value is not allowed for the object.</source>
+        <translation>Der Wert ist für das Objekt nicht zugelassen.</translation>
+    </message>
+    <message>
+        <source>The value of the control block does not match its type %1.</source>
+        <translation>Der Wert des Steuerblocks passt nicht zu dessen Typ %1.</translation>
+    </message>
+    <message>
+        <source>There are %1 associations already, which is the limit.</source>
+        <translation>Es gibt bereits %1 Assoziationen; mehr sind nicht zugelassen.</translation>
+    </message>
+    <message>
+        <source>There is a problem with the other application.</source>
+        <translation>Es gibt ein Problem mit der anderen Anwendung.</translation>
+    </message>
+    <message>
+        <source>There is another IED of the name &quot;%1&quot;.</source>
+        <translation>Es gibt ein weiteres IED mit dem Namen „%1“.</translation>
+    </message>
+    <message>
+        <source>There is another control block &quot;%1&quot;.</source>
+        <translation>Es gibt einen weiteren Steuerblock „%1“.</translation>
+    </message>
+    <message>
+        <source>There is another data set &quot;%1&quot;.</source>
+        <translation>Es gibt einen weiteren Datensatz „%1“.</translation>
+    </message>
+    <message>
+        <source>There is another logical device &quot;%1&quot;.</source>
+        <translation>Es gibt ein weiteres logisches Gerät „%1“.</translation>
+    </message>
+    <message>
+        <source>There is another logical node &quot;%1&quot;.</source>
+        <translation>Es gibt einen weiteren logischen Knoten „%1“.</translation>
+    </message>
+    <message>
+        <source>There is no &quot;%1&quot;</source>
+        <translation>Es gibt kein „%1“</translation>
+    </message>
+    <message>
+        <source>There is no association.</source>
+        <translation>Es besteht keine Assoziation.</translation>
+    </message>
+    <message>
+        <source>There is no data set %1.</source>
+        <translation>Es gibt keinen Datensatz %1.</translation>
+    </message>
+    <message>
+        <source>There is no functional constraint (attribute fc)</source>
+        <translation>Es fehlt der Functional Constraint (Attribut fc)</translation>
+    </message>
+    <message>
+        <source>There is no logical device &quot;%1&quot;</source>
+        <translation>Es gibt kein logisches Gerät „%1“</translation>
+    </message>
+    <message>
+        <source>There is no logical node &quot;%1&quot; in &quot;%2&quot;</source>
+        <translation>Es gibt keinen logischen Knoten „%1“ in „%2“</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to read the file.</source>
+        <translation>Der Arbeitsspeicher reicht nicht, um die Datei zu lesen.</translation>
+    </message>
+    <message>
+        <source>There is not enough room for the file.</source>
+        <translation>Es ist nicht genug Platz für die Datei.</translation>
+    </message>
+    <message>
+        <source>There is nothing of functional constraint &quot;%1&quot; in &quot;%2&quot;</source>
+        <translation>Zum Functional Constraint „%1“ gibt es nichts in „%2“</translation>
+    </message>
+    <message>
+        <source>This is no report control block: it has no RptEna.</source>
+        <translation>Dies ist kein Report-Steuerblock: Er hat kein RptEna.</translation>
+    </message>
+    <message>
+        <source>This is no setting group control block: NumOfSG or ActSG is missing.</source>
+        <translation>Dies ist kein Parametersatz-Steuerblock: NumOfSG oder ActSG fehlt.</translation>
+    </message>
+    <message>
+        <source>This is not a report but %1.</source>
+        <translation>Dies ist kein Report, sondern %1.</translation>
+    </message>
+    <message>
+        <source>This is not an SCL file: its root element is &quot;%1&quot;.</source>
+        <translation>Dies ist keine SCL-Datei: Ihr Wurzelelement ist „%1“.</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Zu viele offene Dateien</translation>
+    </message>
+    <message>
+        <source>User information is in a form that is not supported.</source>
+        <translation>Benutzerinformationen haben eine Form, die nicht unterstützt wird.</translation>
+    </message>
+    <message>
+        <source>What the peer sent cannot be read: %1.</source>
+        <translation>Was die Gegenstelle gesendet hat, kann nicht gelesen werden: %1.</translation>
+    </message>
+    <message>
+        <source>XML or text declaration not at start of entity</source>
+        <translation>XML- oder Textdeklaration nicht am Anfang der Entität</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not exist in type &quot;%2&quot;; what is given for it is left out.</source>
+        <translation>„%1“ existiert nicht im Typ „%2“; was dafür angegeben ist, wird weggelassen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a value, but it is a structure.</source>
+        <translation>„%1“ hat einen Wert, ist aber eine Struktur.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no element %2</source>
+        <translation>„%1“ hat kein Element %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no element %2; what is given for it is left out.</source>
+        <translation>„%1“ hat kein Element %2; was dafür angegeben ist, wird weggelassen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a directory, not a file.</source>
+        <translation>„%1“ ist ein Verzeichnis, keine Datei.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is an array, and no element is given</source>
+        <translation>„%1“ ist ein Array, und es ist kein Element angegeben</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is defined twice in its type; the first is used.</source>
+        <translation>„%1“ ist in seinem Typ zweimal definiert; verwendet wird das erste.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither &quot;true&quot; nor &quot;false&quot;; %2 is used.</source>
+        <translation>„%1“ ist weder „true“ noch „false“; verwendet wird %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a SHA-256 fingerprint of 64 hexadecimal digits.</source>
+        <translation>„%1“ ist kein SHA-256-Fingerabdruck aus 64 Hexadezimalziffern.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a basic type of the standard; values are kept as texts.</source>
+        <translation>„%1“ ist kein Basistyp der Norm; Werte werden als Text behalten.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a directory.</source>
+        <translation>„%1“ ist kein Verzeichnis.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a functional constraint.</source>
+        <translation>„%1“ ist kein Functional Constraint.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a host name that a certificate can have.</source>
+        <translation>„%1“ ist kein Rechnername, den ein Zertifikat haben kann.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number of array elements; the element is taken as a single one.</source>
+        <translation>„%1“ ist keine Anzahl von Array-Elementen; das Element gilt als ein einzelnes.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number of milliseconds.</source>
+        <translation>„%1“ ist keine Anzahl von Millisekunden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a value of %2 &quot;%3&quot;; the attribute has no value.</source>
+        <translation>„%1“ ist kein Wert von %2 „%3“; das Attribut hat keinen Wert.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a value of %2; %3 is used.</source>
+        <translation>„%1“ ist kein Wert von %2; verwendet wird %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a value of %2; the attribute has no value.</source>
+        <translation>„%1“ ist kein Wert von %2; das Attribut hat keinen Wert.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a value of its type; the attribute has no value.</source>
+        <translation>„%1“ ist kein Wert des Typs; das Attribut hat keinen Wert.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address of a network interface.</source>
+        <translation>„%1“ ist keine Adresse einer Netzwerkschnittstelle.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an array</source>
+        <translation>„%1“ ist kein Array</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an array; the element number is ignored.</source>
+        <translation>„%1“ ist kein Array; die Elementnummer wird nicht beachtet.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an ordinal; the literal is left out.</source>
+        <translation>„%1“ ist keine Ordnungszahl; das Literal wird weggelassen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the number of an array element.</source>
+        <translation>„%1“ ist keine Nummer eines Array-Elements.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names an attribute, which takes a DAI.</source>
+        <translation>„%1“ benennt ein Attribut; dafür ist ein DAI nötig.</translation>
+    </message>
+    <message>
+        <source>a certificate</source>
+        <translation>Zertifikat</translation>
+    </message>
+    <message>
+        <source>a command is being executed already</source>
+        <translation>ein Befehl wird bereits ausgeführt</translation>
+    </message>
+    <message>
+        <source>a parameter is being changed</source>
+        <translation>ein Parameter wird gerade geändert</translation>
+    </message>
+    <message>
+        <source>a revocation list</source>
+        <translation>Sperrliste</translation>
+    </message>
+    <message>
+        <source>additional cause %1</source>
+        <translation>Zusatzursache %1</translation>
+    </message>
+    <message>
+        <source>additional code %1</source>
+        <translation>Zusatzcode %1</translation>
+    </message>
+    <message>
+        <source>an authentication is required</source>
+        <translation>eine Authentifizierung ist erforderlich</translation>
+    </message>
+    <message>
+        <source>an authentication mechanism is required</source>
+        <translation>ein Authentifizierungsverfahren ist erforderlich</translation>
+    </message>
+    <message>
+        <source>an authority</source>
+        <translation>Zertifizierungsstelle</translation>
+    </message>
+    <message>
+        <source>an unknown date</source>
+        <translation>unbekanntem Datum</translation>
+    </message>
+    <message>
+        <source>another object of the domain is being controlled</source>
+        <translation>ein anderes Objekt desselben Schaltbereichs wird gerade gesteuert</translation>
+    </message>
+    <message>
+        <source>blocked because the switching authority lies elsewhere (local or remote)</source>
+        <translation>gesperrt, weil die Schalthoheit woanders liegt (Ort oder Fern)</translation>
+    </message>
+    <message>
+        <source>blocked by an event of the process</source>
+        <translation>gesperrt durch ein Prozessereignis</translation>
+    </message>
+    <message>
+        <source>blocked by interlocking</source>
+        <translation>gesperrt durch Verriegelung</translation>
+    </message>
+    <message>
+        <source>blocked by synchrocheck</source>
+        <translation>gesperrt durch Synchrocheck</translation>
+    </message>
+    <message>
+        <source>blocked by the data object that blocks commands</source>
+        <translation>gesperrt durch das Datenobjekt für die Befehlssperre</translation>
+    </message>
+    <message>
+        <source>blocked by the health of the logical node</source>
+        <translation>gesperrt durch den Zustand (Health) des logischen Knotens</translation>
+    </message>
+    <message>
+        <source>blocked by the mode of the logical node</source>
+        <translation>gesperrt durch die Betriebsart (Mode) des logischen Knotens</translation>
+    </message>
+    <message>
+        <source>control error %1</source>
+        <translation>Steuerfehler %1</translation>
+    </message>
+    <message>
+        <source>duplicate attribute</source>
+        <translation>doppeltes Attribut</translation>
+    </message>
+    <message>
+        <source>ended because the position deviates from the command</source>
+        <translation>beendet, weil die Stellung vom Befehl abweicht</translation>
+    </message>
+    <message>
+        <source>ended beyond the wanted position</source>
+        <translation>beendet, weil die gewünschte Stellung überfahren wurde</translation>
+    </message>
+    <message>
+        <source>ended by a cancel</source>
+        <translation>durch einen Abbruch (Cancel) beendet</translation>
+    </message>
+    <message>
+        <source>ended by a trip</source>
+        <translation>durch eine Auslösung beendet</translation>
+    </message>
+    <message>
+        <source>ended by the loss of the connection with the client that issued it</source>
+        <translation>beendet, weil die Verbindung zum Client verloren ging, der den Befehl gab</translation>
+    </message>
+    <message>
+        <source>error %1</source>
+        <translation>Fehler %1</translation>
+    </message>
+    <message>
+        <source>it gives no reason; another client may have selected the object.</source>
+        <translation>es nennt keinen Grund; vielleicht hat ein anderer Client das Objekt angewählt.</translation>
+    </message>
+    <message>
+        <source>it has no address</source>
+        <translation>er hat keine Adresse</translation>
+    </message>
+    <message>
+        <source>it is not in a logical device.</source>
+        <translation>sie liegt nicht in einem logischen Gerät.</translation>
+    </message>
+    <message>
+        <source>it names more than one element of one array.</source>
+        <translation>sie nennt mehr als ein Element eines Arrays.</translation>
+    </message>
+    <message>
+        <source>it names several parts.</source>
+        <translation>sie nennt mehrere Teile.</translation>
+    </message>
+    <message>
+        <source>junk after document element</source>
+        <translation>überflüssiger Inhalt nach dem Wurzelelement</translation>
+    </message>
+    <message>
+        <source>locked by another client</source>
+        <translation>von einem anderen Client gesperrt</translation>
+    </message>
+    <message>
+        <source>mismatched tag</source>
+        <translation>Anfangs- und Endtag passen nicht zusammen</translation>
+    </message>
+    <message>
+        <source>no cause</source>
+        <translation>keine Ursache</translation>
+    </message>
+    <message>
+        <source>no error</source>
+        <translation>kein Fehler</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>kein Grund angegeben</translation>
+    </message>
+    <message>
+        <source>nobody answers who knows names</source>
+        <translation>kein Namensdienst antwortet</translation>
+    </message>
+    <message>
+        <source>nobody knows it</source>
+        <translation>niemand kennt ihn</translation>
+    </message>
+    <message>
+        <source>reason %1</source>
+        <translation>Grund %1</translation>
+    </message>
+    <message>
+        <source>syntax error</source>
+        <translation>Syntaxfehler</translation>
+    </message>
+    <message>
+        <source>the application context is not supported</source>
+        <translation>der Anwendungskontext wird nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>the authentication failed</source>
+        <translation>die Authentifizierung ist gescheitert</translation>
+    </message>
+    <message>
+        <source>the authentication mechanism is not recognised</source>
+        <translation>das Authentifizierungsverfahren ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>the called AE invocation identifier is not recognised</source>
+        <translation>der gerufene AE-Invocation-Identifier ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>the called AE qualifier is not recognised</source>
+        <translation>der gerufene AE-Qualifier ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>the called AP invocation identifier is not recognised</source>
+        <translation>der gerufene AP-Invocation-Identifier ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>the called AP title is not recognised</source>
+        <translation>der gerufene AP-Titel ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>the calling AE invocation identifier is not recognised</source>
+        <translation>der rufende AE-Invocation-Identifier ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>the calling AE qualifier is not recognised</source>
+        <translation>der rufende AE-Qualifier ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>the calling AP invocation identifier is not recognised</source>
+        <translation>der rufende AP-Invocation-Identifier ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>the calling AP title is not recognised</source>
+        <translation>der rufende AP-Titel ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>the client has no authority for it</source>
+        <translation>der Client hat keine Berechtigung dafür</translation>
+    </message>
+    <message>
+        <source>the functional constraint is missing.</source>
+        <translation>der Functional Constraint fehlt.</translation>
+    </message>
+    <message>
+        <source>the name of the logical device is missing or wrong.</source>
+        <translation>der Name des logischen Geräts fehlt oder ist falsch.</translation>
+    </message>
+    <message>
+        <source>the name of the logical node is missing or wrong.</source>
+        <translation>der Name des logischen Knotens fehlt oder ist falsch.</translation>
+    </message>
+    <message>
+        <source>the object is not selected</source>
+        <translation>das Objekt ist nicht angewählt</translation>
+    </message>
+    <message>
+        <source>the object is selected already</source>
+        <translation>das Objekt ist bereits angewählt</translation>
+    </message>
+    <message>
+        <source>the operator test failed</source>
+        <translation>die Prüfung des Bedieners ist gescheitert</translation>
+    </message>
+    <message>
+        <source>the own certificate</source>
+        <translation>eigenes Zertifikat</translation>
+    </message>
+    <message>
+        <source>the parameters of the service contradict those of the selection</source>
+        <translation>die Parameter des Dienstes widersprechen denen der Anwahl</translation>
+    </message>
+    <message>
+        <source>the position has been reached already</source>
+        <translation>die Stellung ist bereits erreicht</translation>
+    </message>
+    <message>
+        <source>the position is not valid</source>
+        <translation>die Stellung ist nicht gültig</translation>
+    </message>
+    <message>
+        <source>the private key</source>
+        <translation>privater Schlüssel</translation>
+    </message>
+    <message>
+        <source>the selection failed</source>
+        <translation>die Anwahl ist gescheitert</translation>
+    </message>
+    <message>
+        <source>the service is not supported</source>
+        <translation>der Dienst wird nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>the tap changer is at the end of its range</source>
+        <translation>der Stufenschalter ist am Ende seines Bereichs</translation>
+    </message>
+    <message>
+        <source>the time for it is over</source>
+        <translation>die Zeit dafür ist abgelaufen</translation>
+    </message>
+    <message>
+        <source>the time-out test failed</source>
+        <translation>die Prüfung der Zeitgrenze ist gescheitert</translation>
+    </message>
+    <message>
+        <source>there is no common version of association control</source>
+        <translation>es gibt keine gemeinsame Version der Assoziationssteuerung</translation>
+    </message>
+    <message>
+        <source>unclosed CDATA section</source>
+        <translation>nicht geschlossener CDATA-Abschnitt</translation>
+    </message>
+    <message>
+        <source>unclosed token</source>
+        <translation>nicht geschlossenes Token</translation>
+    </message>
+    <message>
+        <source>unknown cause</source>
+        <translation>unbekannte Ursache</translation>
+    </message>
+    <message>
+        <source>unknown error</source>
+        <translation>unbekannter Fehler</translation>
+    </message>
+    <message>
+        <source>%1: the value does not have the form of its type.</source>
+        <translation>%1: Der Wert hat nicht die Form seines Typs.</translation>
+    </message>
 </context>
 <context>
     <name>JournalModel</name>
@@ -1731,10 +4267,6 @@ Lesen Sie es mit %2 erneut, oder entfernen Sie das Gerät aus der Liste.</transl
         <translation>Weitere Dateien, die nicht zu verwenden sind: %1</translation>
     </message>
     <message>
-        <source>%1 was taken off the list; its file stays where it is.</source>
-        <translation>%1 wurde aus der Liste genommen; die Datei bleibt, wo sie ist.</translation>
-    </message>
-    <message>
         <source>About</source>
         <translation>Info</translation>
     </message>
@@ -1881,10 +4413,6 @@ Apache License 2.0</translation>
         <translation>Simuliertes Gerät starten</translation>
     </message>
     <message>
-        <source>%1 was taken off the list.</source>
-        <translation>%1 wurde aus der Liste genommen.</translation>
-    </message>
-    <message>
         <source>Disco&amp;nnect</source>
         <translation>&amp;Trennen</translation>
     </message>
@@ -1956,6 +4484,46 @@ Apache License 2.0</translation>
         <source>Devices away: %1, the first since %2</source>
         <translation>Nicht erreichbare Geräte: %1, das erste seit %2</translation>
     </message>
+    <message>
+        <source>&amp;Undo Remove</source>
+        <translation>Entfernen &amp;rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Z</source>
+        <translation>Ctrl+Z</translation>
+    </message>
+    <message>
+        <source>Remove Device</source>
+        <translation>Gerät entfernen</translation>
+    </message>
+    <message>
+        <source>Take %1 off the list?</source>
+        <translation>%1 aus der Liste nehmen?</translation>
+    </message>
+    <message>
+        <source>Its connection ends, and windows that are open for it are no longer served.</source>
+        <translation>Die Verbindung wird beendet, und die dafür geöffneten Fenster werden nicht mehr bedient.</translation>
+    </message>
+    <message>
+        <source>Windows that are open for it are no longer served.</source>
+        <translation>Die dafür geöffneten Fenster werden nicht mehr bedient.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>%1 was taken off the list; %2 puts it back.</source>
+        <translation>%1 wurde aus der Liste genommen; %2 macht es rückgängig.</translation>
+    </message>
+    <message>
+        <source>%1 was taken off the list; its file stays where it is, and %2 puts it back.</source>
+        <translation>%1 wurde aus der Liste genommen; die Datei bleibt, wo sie ist, und %2 macht es rückgängig.</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Remove of %1</source>
+        <translation>Entfernen von %1 &amp;rückgängig machen</translation>
+    </message>
 </context>
 <context>
     <name>OfflineDriverService</name>
@@ -1970,10 +4538,6 @@ Apache License 2.0</translation>
 </context>
 <context>
     <name>SclImport</name>
-    <message>
-        <source>The file &quot;%1&quot; cannot be opened: %2.</source>
-        <translation>Die Datei „%1“ kann nicht geöffnet werden: %2.</translation>
-    </message>
     <message>
         <source>Line %1: %2</source>
         <translation>Zeile %1: %2</translation>
@@ -2007,6 +4571,13 @@ Apache License 2.0</translation>
     <message>
         <source>&amp;Copy</source>
         <translation>&amp;Kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>ToolWindows</name>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
     </message>
 </context>
 <context>
@@ -2163,6 +4734,21 @@ Apache License 2.0</translation>
     <message>
         <source>%1 holds octets that are no text, so it can only be read.</source>
         <translation>%1 enthält Oktette, die kein Text sind, und kann daher nur gelesen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>WaitingCalls</name>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>Warten auf %1</translation>
+    </message>
+    <message>
+        <source>%1 has not answered yet (%2).</source>
+        <translation>%1 hat noch nicht geantwortet (%2).</translation>
+    </message>
+    <message>
+        <source>Cancelling. What the device was asked before may still be done.</source>
+        <translation>Es wird abgebrochen. Was vom Gerät schon verlangt wurde, kann noch ausgeführt werden.</translation>
     </message>
 </context>
 <context>

@@ -626,6 +626,26 @@
         <source>a device that does not say what it is</source>
         <translation>un dispositivo que no dice qué es</translation>
     </message>
+    <message>
+        <source>Acc&amp;ess point of the IED:</source>
+        <translation>P&amp;unto de acceso del IED:</translation>
+    </message>
+    <message>
+        <source>Which of the IED&apos;s access points the device is, where the file describes several</source>
+        <translation>Cuál de los puntos de acceso del IED es el dispositivo, si el archivo describe varios</translation>
+    </message>
+    <message>
+        <source>Accept certificates that are made out to &amp;others</source>
+        <translation>Aceptar certificados emitidos para &amp;otros</translation>
+    </message>
+    <message>
+        <source>Unsafe: whoever holds the key of any certificate of these authorities can pose as this device. Better enter the name that its certificate has, or its fingerprint.</source>
+        <translation>Inseguro: quien tenga la clave de cualquier certificado de estas autoridades puede hacerse pasar por este dispositivo. Es mejor indicar el nombre que figura en su certificado, o su huella.</translation>
+    </message>
+    <message>
+        <source>the one with the device&apos;s address</source>
+        <translation>el que tiene la dirección del dispositivo</translation>
+    </message>
 </context>
 <context>
     <name>DeviceListModel</name>
@@ -1079,10 +1099,6 @@ Conexiones: %5</translation>
         <translation>El conjunto de datos tiene %1 miembros, pero han llegado %2 valores.</translation>
     </message>
     <message>
-        <source>%1: the value does not have the form of its type</source>
-        <translation>%1: el valor no tiene la forma de su tipo</translation>
-    </message>
-    <message>
         <source>The device has no %1.</source>
         <translation>El dispositivo no tiene %1.</translation>
     </message>
@@ -1526,6 +1542,2526 @@ Conexiones: %5</translation>
         <source>Values that the device refuses and that are not asked for again: %1 (%2).</source>
         <translation>Valores que el dispositivo rechaza y que no se vuelven a pedir: %1 (%2).</translation>
     </message>
+    <message>
+        <source>A report control block could not be %1: %2</source>
+        <translation>Un bloque de control de informes: no fue posible la %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 (%2).</source>
+        <translation>%1 (%2).</translation>
+    </message>
+    <message>
+        <source>%1 (%2, %3).</source>
+        <translation>%1 (%2, %3).</translation>
+    </message>
+    <message>
+        <source>%1 (%2, %3, %4).</source>
+        <translation>%1 (%2, %3, %4).</translation>
+    </message>
+    <message>
+        <source>%1 bears the name of the issuer &quot;%2&quot;, but not its signature.</source>
+        <translation>%1 lleva el nombre del emisor «%2», pero no su firma.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be checked: the revocation list of its issuer &quot;%2&quot; does not bear its signature.</source>
+        <translation>%1 no se puede comprobar: la lista de revocación de su emisor «%2» no lleva la firma de ese emisor.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be checked: the revocation list of its issuer &quot;%2&quot; is not valid yet.</source>
+        <translation>%1 no se puede comprobar: la lista de revocación de su emisor «%2» todavía no es válida.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be checked: the revocation list of its issuer &quot;%2&quot; is out of date.</source>
+        <translation>%1 no se puede comprobar: la lista de revocación de su emisor «%2» está caducada.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be checked: there is no revocation list of its issuer &quot;%2&quot;.</source>
+        <translation>%1 no se puede comprobar: no hay lista de revocación de su emisor «%2».</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 no se puede leer: %2.</translation>
+    </message>
+    <message>
+        <source>%1 expired on %2.</source>
+        <translation>%1 caducó el %2.</translation>
+    </message>
+    <message>
+        <source>%1 has a key that is too short to be safe.</source>
+        <translation>%1 tiene una clave demasiado corta para ser segura.</translation>
+    </message>
+    <message>
+        <source>%1 has a name that is none, or that something else has; it is left out.</source>
+        <translation>%1 tiene un nombre no válido o que ya tiene otro elemento; se omite.</translation>
+    </message>
+    <message>
+        <source>%1 has been revoked.</source>
+        <translation>%1 ha sido revocado.</translation>
+    </message>
+    <message>
+        <source>%1 has no %2.</source>
+        <translation>%1 no tiene el atributo %2.</translation>
+    </message>
+    <message>
+        <source>%1 is enabled already.</source>
+        <translation>%1 ya está habilitado.</translation>
+    </message>
+    <message>
+        <source>%1 is in the device already, perhaps the only whole version that an upload before this one has left: save or delete it first. Nothing was changed on the device.</source>
+        <translation>%1 ya está en el dispositivo; quizá sea la única versión completa que dejó un envío anterior: guarde o elimine primero ese archivo. No se ha cambiado nada en el dispositivo.</translation>
+    </message>
+    <message>
+        <source>%1 is in the device and may be incomplete.</source>
+        <translation>%1 está en el dispositivo y puede estar incompleto.</translation>
+    </message>
+    <message>
+        <source>%1 is larger, or nested deeper, than what is taken; it is left out.</source>
+        <translation>%1 es más grande, o está anidado a más profundidad, de lo que se admite; se omite.</translation>
+    </message>
+    <message>
+        <source>%1 is no functional constraint.</source>
+        <translation>%1 no es una restricción funcional.</translation>
+    </message>
+    <message>
+        <source>%1 is no name of data.</source>
+        <translation>%1 no es un nombre de datos.</translation>
+    </message>
+    <message>
+        <source>%1 is not a reference: %2.</source>
+        <translation>%1 no es una referencia: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not accepted: %2.</source>
+        <translation>%1 no se acepta: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not in the device.</source>
+        <translation>%1 no está en el dispositivo.</translation>
+    </message>
+    <message>
+        <source>%1 is not made out to the host that was asked for.</source>
+        <translation>%1 no está emitido para el equipo solicitado.</translation>
+    </message>
+    <message>
+        <source>%1 is not meant for this side of a TLS connection.</source>
+        <translation>%1 no está previsto para este lado de una conexión TLS.</translation>
+    </message>
+    <message>
+        <source>%1 is not the name of a data object that can be controlled.</source>
+        <translation>%1 no es el nombre de un objeto de datos que admita mando.</translation>
+    </message>
+    <message>
+        <source>%1 is not the name of a data set.</source>
+        <translation>%1 no es el nombre de un conjunto de datos.</translation>
+    </message>
+    <message>
+        <source>%1 is valid only from %2 on.</source>
+        <translation>%1 solo es válido a partir del %2.</translation>
+    </message>
+    <message>
+        <source>%1 may be in the device, incomplete.</source>
+        <translation>%1 puede estar en el dispositivo, incompleto.</translation>
+    </message>
+    <message>
+        <source>%1 may be incomplete.</source>
+        <translation>%1 puede estar incompleto.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cannot be written: %3.</source>
+        <translation>%1 de %2 no se puede escribir: %3.</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3.</source>
+        <translation>%1 de %2: %3.</translation>
+    </message>
+    <message>
+        <source>%1 of the control block cannot be %2.</source>
+        <translation>%1 del bloque de control no puede valer %2.</translation>
+    </message>
+    <message>
+        <source>%1 of the member %2</source>
+        <translation>%1 del miembro %2</translation>
+    </message>
+    <message>
+        <source>%1 was issued by &quot;%2&quot;, which is not trusted here.</source>
+        <translation>%1 fue emitido por «%2», en el que aquí no se confía.</translation>
+    </message>
+    <message>
+        <source>%1 was issued by itself and is not trusted here.</source>
+        <translation>%1 fue emitido por sí mismo y aquí no se confía en él.</translation>
+    </message>
+    <message>
+        <source>%1 was not touched.</source>
+        <translation>%1 no se ha modificado.</translation>
+    </message>
+    <message>
+        <source>%1 was replaced, but %2, a second copy of it, is left: delete it.</source>
+        <translation>%1 se ha sustituido, pero queda una segunda copia, %2: elimínela.</translation>
+    </message>
+    <message>
+        <source>%1 was replaced, but %2, a second copy of it, may be in the device still: delete it.</source>
+        <translation>%1 se ha sustituido, pero puede que siga en el dispositivo una segunda copia, %2: elimínela.</translation>
+    </message>
+    <message>
+        <source>%1, so the member &quot;%2&quot; does not exist.</source>
+        <translation>%1, así que el miembro «%2» no existe.</translation>
+    </message>
+    <message>
+        <source>%1: %2 got an answer that does not match the question.</source>
+        <translation>%1: la respuesta a %2 no corresponde a la pregunta.</translation>
+    </message>
+    <message>
+        <source>%1: %2 got no answer within %3.</source>
+        <translation>%1: sin respuesta a %2 en %3.</translation>
+    </message>
+    <message>
+        <source>%1: %2 got no answer: %3.</source>
+        <translation>%1: sin respuesta a %2: %3.</translation>
+    </message>
+    <message>
+        <source>%1: %2.</source>
+        <translation>%1: %2.</translation>
+    </message>
+    <message>
+        <source>%1: a command of it cannot be cancelled.</source>
+        <translation>%1: un mando de este objeto no se puede cancelar.</translation>
+    </message>
+    <message>
+        <source>%1: it shows its status and cannot be operated.</source>
+        <translation>%1: este objeto muestra su estado y no admite mando.</translation>
+    </message>
+    <message>
+        <source>%1: its control model knows no selection.</source>
+        <translation>%1: su modelo de control no conoce la selección.</translation>
+    </message>
+    <message>
+        <source>%1: the command ended without success: %2.</source>
+        <translation>%1: el mando terminó sin éxito: %2.</translation>
+    </message>
+    <message>
+        <source>%1: the command ended without success: the device does not say why.</source>
+        <translation>%1: el mando terminó sin éxito: el dispositivo no dice por qué.</translation>
+    </message>
+    <message>
+        <source>%1: the device accepted the command late.</source>
+        <translation>%1: el dispositivo aceptó el mando tarde.</translation>
+    </message>
+    <message>
+        <source>%1: the device accepted the command, but has not told within %2 how it ended.</source>
+        <translation>%1: el dispositivo aceptó el mando, pero no ha comunicado en %2 cómo terminó.</translation>
+    </message>
+    <message>
+        <source>%1: the device accepted the command, but the association ended before the command: %2.</source>
+        <translation>%1: el dispositivo aceptó el mando, pero la asociación terminó antes que el mando: %2.</translation>
+    </message>
+    <message>
+        <source>%1: the device refuses %2: %3.</source>
+        <translation>%1: el dispositivo rechaza %2: %3.</translation>
+    </message>
+    <message>
+        <source>%1: the file ended after %2 of %3 octets.</source>
+        <translation>%1: el archivo terminó tras %2 de %3 octetos.</translation>
+    </message>
+    <message>
+        <source>A UTC time has not 8 octets.</source>
+        <translation>Una hora UTC no tiene 8 octetos.</translation>
+    </message>
+    <message>
+        <source>A binary time has neither 4 nor 6 octets.</source>
+        <translation>Un tiempo binario no tiene ni 4 ni 6 octetos.</translation>
+    </message>
+    <message>
+        <source>A bit string does not say how many of its bits count.</source>
+        <translation>Una cadena de bits no dice cuántos de sus bits cuentan.</translation>
+    </message>
+    <message>
+        <source>A boolean has not one octet.</source>
+        <translation>Un booleano no tiene exactamente un octeto.</translation>
+    </message>
+    <message>
+        <source>A certificate in the file &quot;%1&quot; cannot be read.</source>
+        <translation>No se puede leer un certificado del archivo «%1».</translation>
+    </message>
+    <message>
+        <source>A character is not allowed here, or does not belong to the file&apos;s encoding.</source>
+        <translation>Un carácter no está permitido aquí, o no pertenece a la codificación del archivo.</translation>
+    </message>
+    <message>
+        <source>A command is a structure, not %1.</source>
+        <translation>Un mando es una estructura, no %1.</translation>
+    </message>
+    <message>
+        <source>A constraint of the object does not allow this.</source>
+        <translation>Una restricción del objeto no lo permite.</translation>
+    </message>
+    <message>
+        <source>A data unit of transport class 0 has a header of another length than 3.</source>
+        <translation>Una unidad de datos de la clase de transporte 0 tiene una cabecera de longitud distinta de 3.</translation>
+    </message>
+    <message>
+        <source>A file of this name exists already.</source>
+        <translation>Ya existe un archivo con este nombre.</translation>
+    </message>
+    <message>
+        <source>A floating-point number has neither 32 nor 64 bits.</source>
+        <translation>Un número de coma flotante no tiene ni 32 ni 64 bits.</translation>
+    </message>
+    <message>
+        <source>A number of an object identifier is too large.</source>
+        <translation>Un número de un identificador de objeto es demasiado grande.</translation>
+    </message>
+    <message>
+        <source>A parameter of a transport unit is longer than the unit&apos;s header.</source>
+        <translation>Un parámetro de una unidad de transporte es más largo que la cabecera de la unidad.</translation>
+    </message>
+    <message>
+        <source>A presentation unit has no parameters of normal mode.</source>
+        <translation>Una unidad de presentación no tiene parámetros del modo normal.</translation>
+    </message>
+    <message>
+        <source>A presentation unit has no user data.</source>
+        <translation>Una unidad de presentación no tiene datos de usuario.</translation>
+    </message>
+    <message>
+        <source>A presentation unit has too many values.</source>
+        <translation>Una unidad de presentación tiene demasiados valores.</translation>
+    </message>
+    <message>
+        <source>A presentation value belongs to a context that was not agreed.</source>
+        <translation>Un valor de presentación pertenece a un contexto que no se acordó.</translation>
+    </message>
+    <message>
+        <source>A presentation value is encoded by rules that were not agreed.</source>
+        <translation>Un valor de presentación está codificado con reglas que no se acordaron.</translation>
+    </message>
+    <message>
+        <source>A presentation value is in a form that is not supported.</source>
+        <translation>Un valor de presentación tiene una forma que no se admite.</translation>
+    </message>
+    <message>
+        <source>A primitive element has no definite length.</source>
+        <translation>Un elemento primitivo no tiene longitud definida.</translation>
+    </message>
+    <message>
+        <source>A primitive element stands where a group belongs.</source>
+        <translation>Hay un elemento primitivo donde se espera un grupo.</translation>
+    </message>
+    <message>
+        <source>A session parameter group holds itself.</source>
+        <translation>Un grupo de parámetros de sesión se contiene a sí mismo.</translation>
+    </message>
+    <message>
+        <source>A session parameter is longer than the unit around it.</source>
+        <translation>Un parámetro de sesión es más largo que la unidad que lo contiene.</translation>
+    </message>
+    <message>
+        <source>A session unit ends within a header.</source>
+        <translation>Una unidad de sesión termina dentro de una cabecera.</translation>
+    </message>
+    <message>
+        <source>A session unit ends within a length.</source>
+        <translation>Una unidad de sesión termina dentro de una longitud.</translation>
+    </message>
+    <message>
+        <source>A session unit has the unknown code %1.</source>
+        <translation>Una unidad de sesión tiene el código desconocido %1.</translation>
+    </message>
+    <message>
+        <source>A session unit is followed by octets that belong to nothing.</source>
+        <translation>A una unidad de sesión le siguen octetos que no pertenecen a nada.</translation>
+    </message>
+    <message>
+        <source>A setting group control stands in &quot;%1&quot; instead of the LLN0.</source>
+        <translation>Hay un control de grupos de ajustes en «%1» en vez de en el LLN0.</translation>
+    </message>
+    <message>
+        <source>A tag number is too large.</source>
+        <translation>Un número de etiqueta es demasiado grande.</translation>
+    </message>
+    <message>
+        <source>A token unit is not followed by a data transfer.</source>
+        <translation>A una unidad de testigos no le sigue una transferencia de datos.</translation>
+    </message>
+    <message>
+        <source>A transport packet says that it is %1 octets long, which leaves no room for its content.</source>
+        <translation>Un paquete de transporte indica una longitud de %1 octetos, que no deja lugar para su contenido.</translation>
+    </message>
+    <message>
+        <source>A transport unit has the unknown code %1.</source>
+        <translation>Una unidad de transporte tiene el código desconocido %1.</translation>
+    </message>
+    <message>
+        <source>A transport unit is followed by octets that belong to nothing.</source>
+        <translation>A una unidad de transporte le siguen octetos que no pertenecen a nada.</translation>
+    </message>
+    <message>
+        <source>A transport unit needs at least two octets.</source>
+        <translation>Una unidad de transporte necesita al menos dos octetos.</translation>
+    </message>
+    <message>
+        <source>A unit of association control has an unknown tag.</source>
+        <translation>Una unidad del control de asociación tiene una etiqueta desconocida.</translation>
+    </message>
+    <message>
+        <source>Access to the file is denied.</source>
+        <translation>El acceso al archivo está denegado.</translation>
+    </message>
+    <message>
+        <source>Access to the object is denied.</source>
+        <translation>El acceso al objeto está denegado.</translation>
+    </message>
+    <message>
+        <source>Address already in use</source>
+        <translation>La dirección ya está en uso</translation>
+    </message>
+    <message>
+        <source>An association request has no application context name.</source>
+        <translation>Una petición de asociación no tiene nombre de contexto de aplicación.</translation>
+    </message>
+    <message>
+        <source>An association response has no result.</source>
+        <translation>Una respuesta de asociación no tiene resultado.</translation>
+    </message>
+    <message>
+        <source>An element is longer than the group that it is in.</source>
+        <translation>Un elemento es más largo que el grupo que lo contiene.</translation>
+    </message>
+    <message>
+        <source>An element is longer than the message.</source>
+        <translation>Un elemento es más largo que el mensaje.</translation>
+    </message>
+    <message>
+        <source>An element stands where a service belongs.</source>
+        <translation>Hay un elemento donde se espera un servicio.</translation>
+    </message>
+    <message>
+        <source>An element that is empty by definition has content.</source>
+        <translation>Un elemento que es vacío por definición tiene contenido.</translation>
+    </message>
+    <message>
+        <source>An element that is no type stands where a type belongs.</source>
+        <translation>Hay un elemento que no es un tipo donde se espera un tipo.</translation>
+    </message>
+    <message>
+        <source>An element that is no value stands where a value belongs.</source>
+        <translation>Hay un elemento que no es un valor donde se espera un valor.</translation>
+    </message>
+    <message>
+        <source>An incomplete %1 is left in the device.</source>
+        <translation>Queda un archivo %1 incompleto en el dispositivo.</translation>
+    </message>
+    <message>
+        <source>An integer has no octet or more than 8.</source>
+        <translation>Un entero no tiene ningún octeto o tiene más de 8.</translation>
+    </message>
+    <message>
+        <source>An integer is out of its range.</source>
+        <translation>Un entero está fuera de su rango.</translation>
+    </message>
+    <message>
+        <source>An internal error ended the association.</source>
+        <translation>Un error interno ha terminado la asociación.</translation>
+    </message>
+    <message>
+        <source>An internal error ended the association: %1.</source>
+        <translation>Un error interno ha terminado la asociación: %1.</translation>
+    </message>
+    <message>
+        <source>An issuer&apos;s certificate in the file &quot;%1&quot; cannot be used (%2).</source>
+        <translation>Un certificado de emisor del archivo «%1» no se puede usar (%2).</translation>
+    </message>
+    <message>
+        <source>An object identifier ends within a number.</source>
+        <translation>Un identificador de objeto termina dentro de un número.</translation>
+    </message>
+    <message>
+        <source>An object of this name exists already.</source>
+        <translation>Ya existe un objeto con este nombre.</translation>
+    </message>
+    <message>
+        <source>An unsigned integer has no octet or more than 64 bits.</source>
+        <translation>Un entero sin signo no tiene ningún octeto o tiene más de 64 bits.</translation>
+    </message>
+    <message>
+        <source>An unsigned integer is out of its range.</source>
+        <translation>Un entero sin signo está fuera de su rango.</translation>
+    </message>
+    <message>
+        <source>Broken pipe</source>
+        <translation>Tubería rota</translation>
+    </message>
+    <message>
+        <source>Cannot allocate memory</source>
+        <translation>Memoria insuficiente</translation>
+    </message>
+    <message>
+        <source>Cannot assign requested address</source>
+        <translation>La dirección solicitada no está disponible</translation>
+    </message>
+    <message>
+        <source>Cannot listen on %1 port %2: %3.</source>
+        <translation>No se puede escuchar en %1, puerto %2: %3.</translation>
+    </message>
+    <message>
+        <source>Connection refused</source>
+        <translation>Conexión rechazada</translation>
+    </message>
+    <message>
+        <source>Connection reset by peer</source>
+        <translation>Conexión reiniciada por el sistema remoto</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>Tiempo de espera de la conexión agotado</translation>
+    </message>
+    <message>
+        <source>Each variable needs one value to write.</source>
+        <translation>Cada variable necesita un valor que escribir.</translation>
+    </message>
+    <message>
+        <source>Elements are nested deeper than %1 levels.</source>
+        <translation>Los elementos están anidados en más de %1 niveles.</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Error de entrada/salida</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>Es un directorio</translation>
+    </message>
+    <message>
+        <source>It is not a logical node.</source>
+        <translation>No es un nodo lógico.</translation>
+    </message>
+    <message>
+        <source>It is not known whether %1 is in the device.</source>
+        <translation>No se sabe si %1 está en el dispositivo.</translation>
+    </message>
+    <message>
+        <source>It is not known whether an incomplete %1 is left in the device.</source>
+        <translation>No se sabe si queda un archivo %1 incompleto en el dispositivo.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the device has a part of the file: look at %1.</source>
+        <translation>No se sabe si el dispositivo tiene una parte del archivo: mire %1.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the file has its name: look at %1 and %2.</source>
+        <translation>No se sabe si el archivo ha recibido su nombre: mire %1 y %2.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the file was replaced: look at %1.</source>
+        <translation>No se sabe si el archivo se ha sustituido: mire %1.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the old %1 is still there.</source>
+        <translation>No se sabe si el archivo anterior %1 sigue allí.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the old file is still there: look at %1.</source>
+        <translation>No se sabe si el archivo anterior sigue allí: mire %1.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the old file is still whole: look at %1.</source>
+        <translation>No se sabe si el archivo anterior sigue completo: mire %1.</translation>
+    </message>
+    <message>
+        <source>It is not known whether there is an old %1.</source>
+        <translation>No se sabe si hay un archivo anterior %1.</translation>
+    </message>
+    <message>
+        <source>It was not sent.</source>
+        <translation>No se ha enviado.</translation>
+    </message>
+    <message>
+        <source>Modifiers of a request are not supported.</source>
+        <translation>No se admiten modificadores de una petición.</translation>
+    </message>
+    <message>
+        <source>More than %1 name spaces are declared.</source>
+        <translation>Se declaran más de %1 espacios de nombres.</translation>
+    </message>
+    <message>
+        <source>Neither an authority nor a fingerprint says which peers are trusted.</source>
+        <translation>Ni una autoridad de certificación ni una huella indica en qué sistemas remotos se confía.</translation>
+    </message>
+    <message>
+        <source>Network is down</source>
+        <translation>La red está caída</translation>
+    </message>
+    <message>
+        <source>Network is unreachable</source>
+        <translation>La red es inaccesible</translation>
+    </message>
+    <message>
+        <source>No connection to %1 port %2: %3.</source>
+        <translation>No hay conexión con %1, puerto %2: %3.</translation>
+    </message>
+    <message>
+        <source>No file is given for %1.</source>
+        <translation>No se indica ningún archivo para %1.</translation>
+    </message>
+    <message>
+        <source>No route to host</source>
+        <translation>No hay ruta hasta el equipo</translation>
+    </message>
+    <message>
+        <source>No session entity is attached to the transport selector.</source>
+        <translation>No hay ninguna entidad de sesión unida al selector de transporte.</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>No queda espacio de almacenamiento</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>No existe el archivo o el directorio</translation>
+    </message>
+    <message>
+        <source>Nobody wants the association any more.</source>
+        <translation>Ya nadie necesita la asociación.</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>No es un directorio</translation>
+    </message>
+    <message>
+        <source>Nothing is attached to the peer&apos;s presentation selector.</source>
+        <translation>No hay nada unido al selector de presentación del sistema remoto.</translation>
+    </message>
+    <message>
+        <source>Nothing is attached to the peer&apos;s session selector.</source>
+        <translation>No hay nada unido al selector de sesión del sistema remoto.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed on the device.</source>
+        <translation>No se ha cambiado nada en el dispositivo.</translation>
+    </message>
+    <message>
+        <source>Operation canceled</source>
+        <translation>Operación cancelada</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>Operación no permitida</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Permiso denegado</translation>
+    </message>
+    <message>
+        <source>Presentation user data is simply encoded, which is not supported.</source>
+        <translation>Los datos de usuario de presentación están codificados en la forma simple, que no se admite.</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>Sistema de archivos de solo lectura</translation>
+    </message>
+    <message>
+        <source>Reading the file was cancelled.</source>
+        <translation>Se ha cancelado la lectura del archivo.</translation>
+    </message>
+    <message>
+        <source>Reading the file was stopped.</source>
+        <translation>Se ha detenido la lectura del archivo.</translation>
+    </message>
+    <message>
+        <source>Revocation lists are of no use without the authorities that issued them.</source>
+        <translation>Las listas de revocación no sirven sin las autoridades que las emitieron.</translation>
+    </message>
+    <message>
+        <source>Setting groups are counted from 1; 0 cannot become the active group.</source>
+        <translation>Los grupos de ajustes se cuentan a partir de 1; 0 no puede pasar a ser el grupo activo.</translation>
+    </message>
+    <message>
+        <source>Software caused connection abort</source>
+        <translation>Conexión interrumpida por el software</translation>
+    </message>
+    <message>
+        <source>Something stands behind the end of %1.</source>
+        <translation>Hay algo después del final de %1.</translation>
+    </message>
+    <message>
+        <source>TLS cannot be set up (%1).</source>
+        <translation>No se puede establecer TLS (%1).</translation>
+    </message>
+    <message>
+        <source>TLS failed for an unknown reason.</source>
+        <translation>TLS ha fallado por una razón desconocida.</translation>
+    </message>
+    <message>
+        <source>TLS failed: %1.</source>
+        <translation>TLS ha fallado: %1.</translation>
+    </message>
+    <message>
+        <source>The %1 &quot;%2&quot; contains itself; this element is left out.</source>
+        <translation>El %1 «%2» se contiene a sí mismo; este elemento se omite.</translation>
+    </message>
+    <message>
+        <source>The %1 &quot;%2&quot; does not exist.</source>
+        <translation>El %1 «%2» no existe.</translation>
+    </message>
+    <message>
+        <source>The %1 &quot;%2&quot; is defined again; the definition in line %3 is used.</source>
+        <translation>El %1 «%2» se define otra vez; se usa la definición de la línea %3.</translation>
+    </message>
+    <message>
+        <source>The %1 has no id and cannot be used.</source>
+        <translation>El %1 no tiene id y no se puede usar.</translation>
+    </message>
+    <message>
+        <source>The DOType has no common data class (attribute cdc).</source>
+        <translation>El DOType no tiene clase de datos común (atributo cdc).</translation>
+    </message>
+    <message>
+        <source>The EnumType &quot;%1&quot; does not exist.</source>
+        <translation>El EnumType «%1» no existe.</translation>
+    </message>
+    <message>
+        <source>The IED &quot;%1&quot; has more than %2 nodes of data.</source>
+        <translation>El IED «%1» tiene más de %2 nodos de datos.</translation>
+    </message>
+    <message>
+        <source>The IED &quot;%1&quot; has no access point &quot;%2&quot;.</source>
+        <translation>El IED «%1» no tiene ningún punto de acceso «%2».</translation>
+    </message>
+    <message>
+        <source>The IED &quot;%1&quot; is not in this file.</source>
+        <translation>El IED «%1» no está en este archivo.</translation>
+    </message>
+    <message>
+        <source>The IED has no name.</source>
+        <translation>El IED no tiene nombre.</translation>
+    </message>
+    <message>
+        <source>The LNodeType &quot;%1&quot; does not exist.</source>
+        <translation>El LNodeType «%1» no existe.</translation>
+    </message>
+    <message>
+        <source>The LNodeType has no class (attribute lnClass).</source>
+        <translation>El LNodeType no tiene clase (atributo lnClass).</translation>
+    </message>
+    <message>
+        <source>The access point &quot;%1&quot; whose server is shared does not exist or has none.</source>
+        <translation>El punto de acceso «%1», cuyo servidor se comparte, no existe o no tiene servidor.</translation>
+    </message>
+    <message>
+        <source>The active setting group is %1, but there are %2; group 1 is used.</source>
+        <translation>El grupo de ajustes activo es %1, pero solo hay %2; se usa el grupo 1.</translation>
+    </message>
+    <message>
+        <source>The address is not valid.</source>
+        <translation>La dirección no es válida.</translation>
+    </message>
+    <message>
+        <source>The answer cannot be read: %1.</source>
+        <translation>No se puede leer la respuesta: %1.</translation>
+    </message>
+    <message>
+        <source>The answer does not fit a message.</source>
+        <translation>La respuesta no cabe en un mensaje.</translation>
+    </message>
+    <message>
+        <source>The answer does not match the question.</source>
+        <translation>La respuesta no corresponde a la pregunta.</translation>
+    </message>
+    <message>
+        <source>The association is being concluded.</source>
+        <translation>La asociación se está cerrando.</translation>
+    </message>
+    <message>
+        <source>The association was refused.</source>
+        <translation>La asociación fue rechazada.</translation>
+    </message>
+    <message>
+        <source>The association was released.</source>
+        <translation>La asociación fue liberada.</translation>
+    </message>
+    <message>
+        <source>The attribute &quot;%1&quot; that holds the number of elements of &quot;%2&quot; has no value; the array is empty.</source>
+        <translation>El atributo «%1», que contiene el número de elementos de «%2», no tiene valor; la matriz está vacía.</translation>
+    </message>
+    <message>
+        <source>The attribute &quot;%1&quot; that should hold the number of array elements does not exist; the array is empty.</source>
+        <translation>El atributo «%1», que debería contener el número de elementos de la matriz, no existe; la matriz está vacía.</translation>
+    </message>
+    <message>
+        <source>The attribute has no basic type (attribute bType).</source>
+        <translation>El atributo no tiene tipo básico (atributo bType).</translation>
+    </message>
+    <message>
+        <source>The attribute has no functional constraint (attribute fc) and cannot be addressed.</source>
+        <translation>El atributo no tiene restricción funcional (atributo fc) y no se puede direccionar.</translation>
+    </message>
+    <message>
+        <source>The attribute is an enumeration without a type (attribute type).</source>
+        <translation>El atributo es una enumeración sin tipo (atributo type).</translation>
+    </message>
+    <message>
+        <source>The attributes of the object contradict each other.</source>
+        <translation>Los atributos del objeto se contradicen.</translation>
+    </message>
+    <message>
+        <source>The authority in the file &quot;%1&quot; cannot be used (%2).</source>
+        <translation>La autoridad de certificación del archivo «%1» no se puede usar (%2).</translation>
+    </message>
+    <message>
+        <source>The basic type is written &quot;%1&quot; instead of &quot;%2&quot;.</source>
+        <translation>El tipo básico está escrito «%1» en vez de «%2».</translation>
+    </message>
+    <message>
+        <source>The block belongs to another association of this computer, %1.</source>
+        <translation>El bloque pertenece a otra asociación de este equipo, %1.</translation>
+    </message>
+    <message>
+        <source>The block belongs to the client %1.</source>
+        <translation>El bloque pertenece al cliente %1.</translation>
+    </message>
+    <message>
+        <source>The call can no longer be cancelled.</source>
+        <translation>La petición ya no se puede cancelar.</translation>
+    </message>
+    <message>
+        <source>The call cannot be cancelled.</source>
+        <translation>La petición no se puede cancelar.</translation>
+    </message>
+    <message>
+        <source>The call was cancelled.</source>
+        <translation>Se ha cancelado la petición.</translation>
+    </message>
+    <message>
+        <source>The certificate &quot;%1&quot; in the file &quot;%2&quot;</source>
+        <translation>El certificado «%1» del archivo «%2»</translation>
+    </message>
+    <message>
+        <source>The certificate in the file &quot;%1&quot; cannot be used (%2).</source>
+        <translation>El certificado del archivo «%1» no se puede usar (%2).</translation>
+    </message>
+    <message>
+        <source>The class is &quot;%1&quot;, but the LNodeType &quot;%2&quot; is of class &quot;%3&quot;.</source>
+        <translation>La clase es «%1», pero el LNodeType «%2» es de la clase «%3».</translation>
+    </message>
+    <message>
+        <source>The class of an LN0 is &quot;%1&quot; instead of &quot;LLN0&quot;.</source>
+        <translation>La clase de un LN0 es «%1» en vez de «LLN0».</translation>
+    </message>
+    <message>
+        <source>The client is gone.</source>
+        <translation>El cliente ya no está.</translation>
+    </message>
+    <message>
+        <source>The connection to the other application is lost.</source>
+        <translation>Se ha perdido la conexión con la otra aplicación.</translation>
+    </message>
+    <message>
+        <source>The content type of the file is not valid.</source>
+        <translation>El tipo de contenido del archivo no es válido.</translation>
+    </message>
+    <message>
+        <source>The control block has no name.</source>
+        <translation>El bloque de control no tiene nombre.</translation>
+    </message>
+    <message>
+        <source>The control model of %1 cannot be read: %2.</source>
+        <translation>No se puede leer el modelo de control de %1: %2.</translation>
+    </message>
+    <message>
+        <source>The control model of %1 is %2, which is none.</source>
+        <translation>El modelo de control de %1 es %2, un valor que no existe.</translation>
+    </message>
+    <message>
+        <source>The data below this element are nested deeper than %1 levels; the element is left out.</source>
+        <translation>Los datos bajo este elemento están anidados en más de %1 niveles; el elemento se omite.</translation>
+    </message>
+    <message>
+        <source>The data set &quot;%1&quot; of the control block does not exist in its logical node.</source>
+        <translation>El conjunto de datos «%1» del bloque de control no existe en su nodo lógico.</translation>
+    </message>
+    <message>
+        <source>The data set has no members.</source>
+        <translation>El conjunto de datos no tiene miembros.</translation>
+    </message>
+    <message>
+        <source>The data set has no name.</source>
+        <translation>El conjunto de datos no tiene nombre.</translation>
+    </message>
+    <message>
+        <source>The definition of the object does not allow this.</source>
+        <translation>La definición del objeto no lo permite.</translation>
+    </message>
+    <message>
+        <source>The device answered another service.</source>
+        <translation>El dispositivo ha respondido a otro servicio.</translation>
+    </message>
+    <message>
+        <source>The device cannot carry out the service.</source>
+        <translation>El dispositivo no puede ejecutar el servicio.</translation>
+    </message>
+    <message>
+        <source>The device cannot check interlocking.</source>
+        <translation>El dispositivo no puede comprobar el enclavamiento.</translation>
+    </message>
+    <message>
+        <source>The device cannot check synchronism.</source>
+        <translation>El dispositivo no puede comprobar el sincronismo.</translation>
+    </message>
+    <message>
+        <source>The device cannot operate at a given time.</source>
+        <translation>El dispositivo no puede ejecutar un mando a una hora dada.</translation>
+    </message>
+    <message>
+        <source>The device cannot test a command.</source>
+        <translation>El dispositivo no puede probar un mando.</translation>
+    </message>
+    <message>
+        <source>The device cannot transfer the domain.</source>
+        <translation>El dispositivo no puede transferir el dominio.</translation>
+    </message>
+    <message>
+        <source>The device describes more than the %1 values in %2 octets that are taken; the rest is left out.</source>
+        <translation>El dispositivo describe más de lo que se admite (%1 valores en %2 octetos); el resto se omite.</translation>
+    </message>
+    <message>
+        <source>The device describes the originator as %1.</source>
+        <translation>El dispositivo describe el originador como %1.</translation>
+    </message>
+    <message>
+        <source>The device does not accept the syntax of the file name.</source>
+        <translation>El dispositivo no acepta la sintaxis del nombre de archivo.</translation>
+    </message>
+    <message>
+        <source>The device does not answer any more.</source>
+        <translation>El dispositivo ya no responde.</translation>
+    </message>
+    <message>
+        <source>The device does not know the call to cancel.</source>
+        <translation>El dispositivo no conoce la petición que se quiere cancelar.</translation>
+    </message>
+    <message>
+        <source>The device does not know the capability.</source>
+        <translation>El dispositivo no conoce la capacidad.</translation>
+    </message>
+    <message>
+        <source>The device does not know the state machine.</source>
+        <translation>El dispositivo no conoce la máquina de estados.</translation>
+    </message>
+    <message>
+        <source>The device does not let the data set %1 be deleted.</source>
+        <translation>El dispositivo no permite eliminar el conjunto de datos %1.</translation>
+    </message>
+    <message>
+        <source>The device does not list its logical devices: %1.</source>
+        <translation>El dispositivo no da la lista de sus dispositivos lógicos: %1.</translation>
+    </message>
+    <message>
+        <source>The device does not say what belongs to the command.</source>
+        <translation>El dispositivo no dice qué forma parte del mando.</translation>
+    </message>
+    <message>
+        <source>The device does not support the time resolution.</source>
+        <translation>El dispositivo no admite la resolución de tiempo.</translation>
+    </message>
+    <message>
+        <source>The device gave a reason for refusing a command that cannot be read: %1.</source>
+        <translation>El dispositivo dio una razón para rechazar un mando, pero no se puede leer: %1.</translation>
+    </message>
+    <message>
+        <source>The device gave up after its own time limit.</source>
+        <translation>El dispositivo abandonó la petición tras su propio límite de tiempo.</translation>
+    </message>
+    <message>
+        <source>The device gave up because of a deadlock.</source>
+        <translation>El dispositivo abandonó la petición a causa de un bloqueo mutuo.</translation>
+    </message>
+    <message>
+        <source>The device gave up the call.</source>
+        <translation>El dispositivo abandonó la petición.</translation>
+    </message>
+    <message>
+        <source>The device gives names without end.</source>
+        <translation>El dispositivo da nombres sin fin.</translation>
+    </message>
+    <message>
+        <source>The device has an operational problem.</source>
+        <translation>El dispositivo tiene un problema de funcionamiento.</translation>
+    </message>
+    <message>
+        <source>The device has more names than the %1 names and %2 octets that are taken; the others are left out.</source>
+        <translation>El dispositivo tiene más nombres de los que se admiten (%1 nombres y %2 octetos); los demás se omiten.</translation>
+    </message>
+    <message>
+        <source>The device has more than %1 logical devices; the others are left out.</source>
+        <translation>El dispositivo tiene más de %1 dispositivos lógicos; los demás se omiten.</translation>
+    </message>
+    <message>
+        <source>The device has more than %1 logical nodes; the others are left out.</source>
+        <translation>El dispositivo tiene más de %1 nodos lógicos; los demás se omiten.</translation>
+    </message>
+    <message>
+        <source>The device has neither %1 nor %2 any more.</source>
+        <translation>El dispositivo ya no tiene ni %1 ni %2.</translation>
+    </message>
+    <message>
+        <source>The device has no free capability for this.</source>
+        <translation>El dispositivo no tiene ninguna capacidad libre para esto.</translation>
+    </message>
+    <message>
+        <source>The device has not enough computing time.</source>
+        <translation>El dispositivo no tiene suficiente tiempo de cálculo.</translation>
+    </message>
+    <message>
+        <source>The device has not enough memory.</source>
+        <translation>El dispositivo no tiene suficiente memoria.</translation>
+    </message>
+    <message>
+        <source>The device has not enough storage.</source>
+        <translation>El dispositivo no tiene suficiente espacio de almacenamiento.</translation>
+    </message>
+    <message>
+        <source>The device has not the resources for this.</source>
+        <translation>El dispositivo no tiene los recursos para esto.</translation>
+    </message>
+    <message>
+        <source>The device has something to finish first.</source>
+        <translation>El dispositivo tiene que terminar algo primero.</translation>
+    </message>
+    <message>
+        <source>The device has stopped fetching the file after %1 of %2 octets.</source>
+        <translation>El dispositivo ha dejado de leer el archivo tras %1 de %2 octetos.</translation>
+    </message>
+    <message>
+        <source>The device is in a state that does not allow this.</source>
+        <translation>El dispositivo está en un estado que no lo permite.</translation>
+    </message>
+    <message>
+        <source>The device lists its files without an end.</source>
+        <translation>El dispositivo da una lista de archivos sin fin.</translation>
+    </message>
+    <message>
+        <source>The device refuses the association.</source>
+        <translation>El dispositivo rechaza la asociación.</translation>
+    </message>
+    <message>
+        <source>The device refuses the file operation.</source>
+        <translation>El dispositivo rechaza la operación con el archivo.</translation>
+    </message>
+    <message>
+        <source>The device refuses to conclude the association.</source>
+        <translation>El dispositivo se niega a cerrar la asociación.</translation>
+    </message>
+    <message>
+        <source>The device refuses without giving a reason.</source>
+        <translation>El dispositivo rechaza la petición sin dar una razón.</translation>
+    </message>
+    <message>
+        <source>The device rejects a cancel (%1).</source>
+        <translation>El dispositivo rechaza una cancelación (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects a conclude (%1).</source>
+        <translation>El dispositivo rechaza un cierre (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects a message that it cannot read (%1).</source>
+        <translation>El dispositivo rechaza un mensaje que no puede leer (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects a request (%1).</source>
+        <translation>El dispositivo rechaza una petición (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects an answer (%1).</source>
+        <translation>El dispositivo rechaza una respuesta (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects an error (%1).</source>
+        <translation>El dispositivo rechaza un error (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects an unconfirmed message (%1).</source>
+        <translation>El dispositivo rechaza un mensaje no confirmado (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects the answer to a cancel (%1).</source>
+        <translation>El dispositivo rechaza la respuesta a una cancelación (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects the answer to a conclude (%1).</source>
+        <translation>El dispositivo rechaza la respuesta a un cierre (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects the refusal of a cancel (%1).</source>
+        <translation>El dispositivo rechaza la negativa a una cancelación (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects the refusal of a conclude (%1).</source>
+        <translation>El dispositivo rechaza la negativa a un cierre (%1).</translation>
+    </message>
+    <message>
+        <source>The device repeats the same page of names.</source>
+        <translation>El dispositivo repite la misma página de nombres.</translation>
+    </message>
+    <message>
+        <source>The device reports a hardware fault.</source>
+        <translation>El dispositivo comunica un fallo de hardware.</translation>
+    </message>
+    <message>
+        <source>The device reports the unknown data access error %1.</source>
+        <translation>El dispositivo comunica el error desconocido de acceso a datos %1.</translation>
+    </message>
+    <message>
+        <source>The device says that it has the file, but it has fetched only %1 of %2 octets.</source>
+        <translation>El dispositivo dice que tiene el archivo, pero solo ha leído %1 de %2 octetos.</translation>
+    </message>
+    <message>
+        <source>The device sends empty blocks of the file without an end.</source>
+        <translation>El dispositivo envía sin fin bloques vacíos del archivo.</translation>
+    </message>
+    <message>
+        <source>The device took longer than %1 minutes to describe itself; what it had not told by then is left out.</source>
+        <translation>El dispositivo ha tardado más de %1 minutos en describirse; lo que no había comunicado hasta entonces se omite.</translation>
+    </message>
+    <message>
+        <source>The device uses another version of the protocol.</source>
+        <translation>El dispositivo usa otra versión del protocolo.</translation>
+    </message>
+    <message>
+        <source>The device wants %1 also as a whole number, but does not say by which scale (sVC).</source>
+        <translation>El dispositivo quiere %1 también como número entero, pero no dice con qué escala (sVC).</translation>
+    </message>
+    <message>
+        <source>The device wants a part %1 in the command, which is not known.</source>
+        <translation>El dispositivo quiere en el mando una parte %1 que no se conoce.</translation>
+    </message>
+    <message>
+        <source>The device wants an unknown part %1 of the originator.</source>
+        <translation>El dispositivo quiere una parte desconocida %1 del originador.</translation>
+    </message>
+    <message>
+        <source>The device&apos;s answer does not match the question.</source>
+        <translation>La respuesta del dispositivo no corresponde a la pregunta.</translation>
+    </message>
+    <message>
+        <source>The device&apos;s answer does not match the request.</source>
+        <translation>La respuesta del dispositivo no corresponde a la petición.</translation>
+    </message>
+    <message>
+        <source>The directory &quot;%1&quot; cannot be served: %2.</source>
+        <translation>El directorio «%1» no se puede poner a disposición: %2.</translation>
+    </message>
+    <message>
+        <source>The discovery was cancelled.</source>
+        <translation>Se ha cancelado la exploración del dispositivo.</translation>
+    </message>
+    <message>
+        <source>The element %1 is missing or of an unknown kind.</source>
+        <translation>El elemento %1 falta o es de un tipo desconocido.</translation>
+    </message>
+    <message>
+        <source>The element %1 is missing.</source>
+        <translation>Falta el elemento %1.</translation>
+    </message>
+    <message>
+        <source>The element %1 is not where it belongs.</source>
+        <translation>El elemento %1 no está en su lugar.</translation>
+    </message>
+    <message>
+        <source>The element does not name an access point.</source>
+        <translation>El elemento no nombra ningún punto de acceso.</translation>
+    </message>
+    <message>
+        <source>The element has no name and is left out.</source>
+        <translation>El elemento no tiene nombre y se omite.</translation>
+    </message>
+    <message>
+        <source>The element has no type (attribute type).</source>
+        <translation>El elemento no tiene tipo (atributo type).</translation>
+    </message>
+    <message>
+        <source>The elements are nested too deeply.</source>
+        <translation>Los elementos están anidados a demasiada profundidad.</translation>
+    </message>
+    <message>
+        <source>The encoding is declared as &quot;%1&quot;, but the file holds single bytes; it is read as UTF-8.</source>
+        <translation>La codificación se declara como «%1», pero el archivo contiene bytes simples; se lee como UTF-8.</translation>
+    </message>
+    <message>
+        <source>The encoding is written &quot;%1&quot; instead of &quot;ISO-8859-1&quot;.</source>
+        <translation>La codificación está escrita «%1» en vez de «ISO-8859-1».</translation>
+    </message>
+    <message>
+        <source>The encoding is written &quot;%1&quot; instead of &quot;UTF-8&quot;; it is read as UTF-8.</source>
+        <translation>La codificación está escrita «%1» en vez de «UTF-8»; el archivo se lee como UTF-8.</translation>
+    </message>
+    <message>
+        <source>The entity &quot;%1&quot; is not declared.</source>
+        <translation>La entidad «%1» no está declarada.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be opened: %2.</source>
+        <translation>No se puede abrir el archivo «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; holds no certificate in PEM.</source>
+        <translation>El archivo «%1» no contiene ningún certificado en formato PEM.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; holds no private key in PEM.</source>
+        <translation>El archivo «%1» no contiene ninguna clave privada en formato PEM.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; holds no revocation list in PEM.</source>
+        <translation>El archivo «%1» no contiene ninguna lista de revocación en formato PEM.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; with %2 cannot be opened: %3.</source>
+        <translation>No se puede abrir el archivo «%1» (%2): %3.</translation>
+    </message>
+    <message>
+        <source>The file became shorter while it was read.</source>
+        <translation>El archivo se ha acortado mientras se leía.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read to its end.</source>
+        <translation>El archivo no se puede leer hasta el final.</translation>
+    </message>
+    <message>
+        <source>The file declares an entity, which is not accepted.</source>
+        <translation>El archivo declara una entidad, lo que no se acepta.</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>El archivo no existe.</translation>
+    </message>
+    <message>
+        <source>The file ends before its root element is complete.</source>
+        <translation>El archivo termina antes de que su elemento raíz esté completo.</translation>
+    </message>
+    <message>
+        <source>The file ends within a character.</source>
+        <translation>El archivo termina dentro de un carácter.</translation>
+    </message>
+    <message>
+        <source>The file in the device may be incomplete: look at %1.</source>
+        <translation>El archivo del dispositivo puede estar incompleto: mire %1.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>El archivo está vacío.</translation>
+    </message>
+    <message>
+        <source>The file is in use.</source>
+        <translation>El archivo está en uso.</translation>
+    </message>
+    <message>
+        <source>The file is larger than %1 bytes.</source>
+        <translation>El archivo tiene más de %1 bytes.</translation>
+    </message>
+    <message>
+        <source>The file is not well-formed XML: %1.</source>
+        <translation>El archivo no es XML bien formado: %1.</translation>
+    </message>
+    <message>
+        <source>The file name is ambiguous.</source>
+        <translation>El nombre del archivo es ambiguo.</translation>
+    </message>
+    <message>
+        <source>The file refers to an external document type, which is not accepted.</source>
+        <translation>El archivo remite a un tipo de documento externo, lo que no se acepta.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s encoding is not the one declared, or it is not known.</source>
+        <translation>La codificación del archivo no es la declarada, o no se conoce.</translation>
+    </message>
+    <message>
+        <source>The header of a transport unit is longer than the packet.</source>
+        <translation>La cabecera de una unidad de transporte es más larga que el paquete.</translation>
+    </message>
+    <message>
+        <source>The import was cancelled.</source>
+        <translation>Se ha cancelado la importación.</translation>
+    </message>
+    <message>
+        <source>The instance has no name and is left out.</source>
+        <translation>La instancia no tiene nombre y se omite.</translation>
+    </message>
+    <message>
+        <source>The instance is given twice; the first is used.</source>
+        <translation>La instancia está indicada dos veces; se usa la primera.</translation>
+    </message>
+    <message>
+        <source>The issuer&apos;s certificate &quot;%1&quot;</source>
+        <translation>El certificado del emisor «%1»</translation>
+    </message>
+    <message>
+        <source>The length of an element is too large.</source>
+        <translation>La longitud de un elemento es demasiado grande.</translation>
+    </message>
+    <message>
+        <source>The list cannot be continued after the given name.</source>
+        <translation>La lista no puede continuar después del nombre indicado.</translation>
+    </message>
+    <message>
+        <source>The literal &quot;%1&quot; begins or ends with a blank.</source>
+        <translation>El literal «%1» empieza o termina con un espacio.</translation>
+    </message>
+    <message>
+        <source>The logical device has no LN0.</source>
+        <translation>El dispositivo lógico no tiene LN0.</translation>
+    </message>
+    <message>
+        <source>The logical device has no instance name (attribute inst).</source>
+        <translation>El dispositivo lógico no tiene nombre de instancia (atributo inst).</translation>
+    </message>
+    <message>
+        <source>The logical node has another setting group control; the first is used.</source>
+        <translation>El nodo lógico tiene otro control de grupos de ajustes; se usa el primero.</translation>
+    </message>
+    <message>
+        <source>The logical node has no class (attribute lnClass).</source>
+        <translation>El nodo lógico no tiene clase (atributo lnClass).</translation>
+    </message>
+    <message>
+        <source>The logical node has no instance number (attribute inst).</source>
+        <translation>El nodo lógico no tiene número de instancia (atributo inst).</translation>
+    </message>
+    <message>
+        <source>The logical node has no type (attribute lnType).</source>
+        <translation>El nodo lógico no tiene tipo (atributo lnType).</translation>
+    </message>
+    <message>
+        <source>The lowest version of TLS that is allowed is above the highest one.</source>
+        <translation>La versión mínima permitida de TLS es superior a la máxima.</translation>
+    </message>
+    <message>
+        <source>The message ends within an element.</source>
+        <translation>El mensaje termina dentro de un elemento.</translation>
+    </message>
+    <message>
+        <source>The message holds more elements than allowed.</source>
+        <translation>El mensaje contiene más elementos de los permitidos.</translation>
+    </message>
+    <message>
+        <source>The message is empty.</source>
+        <translation>El mensaje está vacío.</translation>
+    </message>
+    <message>
+        <source>The message is longer than allowed.</source>
+        <translation>El mensaje es más largo de lo permitido.</translation>
+    </message>
+    <message>
+        <source>The message is no MMS PDU.</source>
+        <translation>El mensaje no es una PDU de MMS.</translation>
+    </message>
+    <message>
+        <source>The message size is too small for the device.</source>
+        <translation>El tamaño de los mensajes es demasiado pequeño para el dispositivo.</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; cannot be resolved: %2.</source>
+        <translation>No se puede resolver el nombre «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; was not resolved in time.</source>
+        <translation>El nombre «%1» no se ha resuelto a tiempo.</translation>
+    </message>
+    <message>
+        <source>The name of the other application is not valid.</source>
+        <translation>El nombre de la otra aplicación no es válido.</translation>
+    </message>
+    <message>
+        <source>The name space prefix &quot;%1&quot; is not declared; its elements are skipped.</source>
+        <translation>El prefijo de espacio de nombres «%1» no está declarado; sus elementos se omiten.</translation>
+    </message>
+    <message>
+        <source>The names</source>
+        <translation>Los nombres</translation>
+    </message>
+    <message>
+        <source>The names of %1</source>
+        <translation>Los nombres de %1</translation>
+    </message>
+    <message>
+        <source>The names of the data</source>
+        <translation>Los nombres de los datos</translation>
+    </message>
+    <message>
+        <source>The names of the data of %1</source>
+        <translation>Los nombres de los datos de %1</translation>
+    </message>
+    <message>
+        <source>The names of the data sets</source>
+        <translation>Los nombres de los conjuntos de datos</translation>
+    </message>
+    <message>
+        <source>The names of the data sets of %1</source>
+        <translation>Los nombres de los conjuntos de datos de %1</translation>
+    </message>
+    <message>
+        <source>The nesting level does not suit the device.</source>
+        <translation>El nivel de anidamiento no es adecuado para el dispositivo.</translation>
+    </message>
+    <message>
+        <source>The network connection broke during the TLS handshake: %1.</source>
+        <translation>La conexión de red se ha interrumpido durante el establecimiento de TLS: %1.</translation>
+    </message>
+    <message>
+        <source>The network connection broke: %1.</source>
+        <translation>La conexión de red se ha interrumpido: %1.</translation>
+    </message>
+    <message>
+        <source>The new file is in the device as %1.</source>
+        <translation>El archivo nuevo está en el dispositivo con el nombre %1.</translation>
+    </message>
+    <message>
+        <source>The number of instances is %1; %2 is used.</source>
+        <translation>El número de instancias es %1; se usa %2.</translation>
+    </message>
+    <message>
+        <source>The number of outstanding calls does not suit the device.</source>
+        <translation>El número de peticiones pendientes no es adecuado para el dispositivo.</translation>
+    </message>
+    <message>
+        <source>The number of outstanding calls of the device does not suit it.</source>
+        <translation>El número de peticiones pendientes del dispositivo no es adecuado para él.</translation>
+    </message>
+    <message>
+        <source>The number of setting groups is 0; 1 is used.</source>
+        <translation>El número de grupos de ajustes es 0; se usa 1.</translation>
+    </message>
+    <message>
+        <source>The object cannot be accessed in this way.</source>
+        <translation>No se puede acceder al objeto de esta manera.</translation>
+    </message>
+    <message>
+        <source>The object cannot be accessed.</source>
+        <translation>No se puede acceder al objeto.</translation>
+    </message>
+    <message>
+        <source>The object does not exist.</source>
+        <translation>El objeto no existe.</translation>
+    </message>
+    <message>
+        <source>The object is in a state that does not allow this.</source>
+        <translation>El objeto está en un estado que no lo permite.</translation>
+    </message>
+    <message>
+        <source>The object is no longer valid.</source>
+        <translation>El objeto ya no es válido.</translation>
+    </message>
+    <message>
+        <source>The object is not available at the moment.</source>
+        <translation>El objeto no está disponible en este momento.</translation>
+    </message>
+    <message>
+        <source>The object is not defined.</source>
+        <translation>El objeto no está definido.</translation>
+    </message>
+    <message>
+        <source>The old file had to be deleted before and is lost.</source>
+        <translation>El archivo anterior tuvo que eliminarse antes y se ha perdido.</translation>
+    </message>
+    <message>
+        <source>The old file is still there.</source>
+        <translation>El archivo anterior sigue allí.</translation>
+    </message>
+    <message>
+        <source>The old file was deleted before.</source>
+        <translation>El archivo anterior se eliminó antes.</translation>
+    </message>
+    <message>
+        <source>The options offered do not suit the device.</source>
+        <translation>Las opciones ofrecidas no son adecuadas para el dispositivo.</translation>
+    </message>
+    <message>
+        <source>The ordinal %1 is given twice; the first literal is used.</source>
+        <translation>El ordinal %1 está indicado dos veces; se usa el primer literal.</translation>
+    </message>
+    <message>
+        <source>The originator identification has %1 octets; at most %2 are allowed.</source>
+        <translation>La identificación del originador tiene %1 octetos; se permiten %2 como máximo.</translation>
+    </message>
+    <message>
+        <source>The other application cannot be reached.</source>
+        <translation>No se puede llegar a la otra aplicación.</translation>
+    </message>
+    <message>
+        <source>The other application does not support the context.</source>
+        <translation>La otra aplicación no admite el contexto.</translation>
+    </message>
+    <message>
+        <source>The part %1 of the command cannot be %2.</source>
+        <translation>La parte %1 del mando no puede valer %2.</translation>
+    </message>
+    <message>
+        <source>The peer %1 has %2 connections that are no associations yet, which is the limit.</source>
+        <translation>El sistema remoto %1 tiene %2 conexiones que todavía no son asociaciones; es el límite.</translation>
+    </message>
+    <message>
+        <source>The peer aborted the association.</source>
+        <translation>El sistema remoto ha interrumpido la asociación.</translation>
+    </message>
+    <message>
+        <source>The peer aborted the session.</source>
+        <translation>El sistema remoto ha interrumpido la sesión.</translation>
+    </message>
+    <message>
+        <source>The peer accepted the session with an unsuitable version.</source>
+        <translation>El sistema remoto aceptó la sesión con una versión inadecuada.</translation>
+    </message>
+    <message>
+        <source>The peer and this side have no cipher suite in common, or no certificate fits it.</source>
+        <translation>El sistema remoto y este lado no tienen ningún conjunto de cifrado en común, o ningún certificado le corresponde.</translation>
+    </message>
+    <message>
+        <source>The peer and this side have no version of TLS in common.</source>
+        <translation>El sistema remoto y este lado no tienen ninguna versión de TLS en común.</translation>
+    </message>
+    <message>
+        <source>The peer answered the initiate request with something else.</source>
+        <translation>El sistema remoto respondió otra cosa a la petición initiate.</translation>
+    </message>
+    <message>
+        <source>The peer answers for too many presentation contexts.</source>
+        <translation>El sistema remoto responde por demasiados contextos de presentación.</translation>
+    </message>
+    <message>
+        <source>The peer asked for a transport class other than 0.</source>
+        <translation>El sistema remoto pidió una clase de transporte distinta de 0.</translation>
+    </message>
+    <message>
+        <source>The peer asked for an application context other than MMS.</source>
+        <translation>El sistema remoto pidió un contexto de aplicación distinto de MMS.</translation>
+    </message>
+    <message>
+        <source>The peer asked for an unknown presentation selector.</source>
+        <translation>El sistema remoto pidió un selector de presentación desconocido.</translation>
+    </message>
+    <message>
+        <source>The peer asked for an unknown transport selector.</source>
+        <translation>El sistema remoto pidió un selector de transporte desconocido.</translation>
+    </message>
+    <message>
+        <source>The peer asks for a certificate, and this side has none that it trusts.</source>
+        <translation>El sistema remoto pide un certificado en el que confíe, y este lado no tiene ninguno.</translation>
+    </message>
+    <message>
+        <source>The peer asks for a presentation mode other than normal mode.</source>
+        <translation>El sistema remoto pide un modo de presentación distinto del modo normal.</translation>
+    </message>
+    <message>
+        <source>The peer asks for too many presentation contexts.</source>
+        <translation>El sistema remoto pide demasiados contextos de presentación.</translation>
+    </message>
+    <message>
+        <source>The peer cannot read the presentation user data.</source>
+        <translation>El sistema remoto no puede leer los datos de usuario de presentación.</translation>
+    </message>
+    <message>
+        <source>The peer closed the network connection instead of a TLS handshake.</source>
+        <translation>El sistema remoto cerró la conexión de red en vez de establecer TLS.</translation>
+    </message>
+    <message>
+        <source>The peer closed the network connection instead of a TLS handshake; it may not speak TLS on this port.</source>
+        <translation>El sistema remoto cerró la conexión de red en vez de establecer TLS; quizá no use TLS en este puerto.</translation>
+    </message>
+    <message>
+        <source>The peer closed the network connection.</source>
+        <translation>El sistema remoto cerró la conexión de red.</translation>
+    </message>
+    <message>
+        <source>The peer confirmed a transport class other than 0.</source>
+        <translation>El sistema remoto confirmó una clase de transporte distinta de 0.</translation>
+    </message>
+    <message>
+        <source>The peer cuts session data into segments, which was not agreed.</source>
+        <translation>El sistema remoto divide los datos de sesión en segmentos, lo que no se acordó.</translation>
+    </message>
+    <message>
+        <source>The peer did not accept the presentation contexts of ACSE and MMS.</source>
+        <translation>El sistema remoto no aceptó los contextos de presentación de ACSE y MMS.</translation>
+    </message>
+    <message>
+        <source>The peer did not answer in time.</source>
+        <translation>El sistema remoto no respondió a tiempo.</translation>
+    </message>
+    <message>
+        <source>The peer did not answer the release in time.</source>
+        <translation>El sistema remoto no respondió a tiempo a la liberación.</translation>
+    </message>
+    <message>
+        <source>The peer did not ask for the presentation contexts of ACSE and MMS.</source>
+        <translation>El sistema remoto no pidió los contextos de presentación de ACSE y MMS.</translation>
+    </message>
+    <message>
+        <source>The peer did not complete the TLS handshake in time.</source>
+        <translation>El sistema remoto no completó a tiempo el establecimiento de TLS.</translation>
+    </message>
+    <message>
+        <source>The peer did not complete the association in time.</source>
+        <translation>El sistema remoto no completó a tiempo la asociación.</translation>
+    </message>
+    <message>
+        <source>The peer does not conclude the association: %1.</source>
+        <translation>El sistema remoto no cierra la asociación: %1.</translation>
+    </message>
+    <message>
+        <source>The peer does not know the presentation selector.</source>
+        <translation>El sistema remoto no conoce el selector de presentación.</translation>
+    </message>
+    <message>
+        <source>The peer does not know the session selector.</source>
+        <translation>El sistema remoto no conoce el selector de sesión.</translation>
+    </message>
+    <message>
+        <source>The peer does not know the transport selector.</source>
+        <translation>El sistema remoto no conoce el selector de transporte.</translation>
+    </message>
+    <message>
+        <source>The peer does not read what it is sent.</source>
+        <translation>El sistema remoto no lee lo que se le envía.</translation>
+    </message>
+    <message>
+        <source>The peer does not speak ISO transport over TCP: a packet begins with %1 instead of 3.</source>
+        <translation>El sistema remoto no usa el transporte ISO sobre TCP: un paquete empieza con %1 en vez de 3.</translation>
+    </message>
+    <message>
+        <source>The peer does not speak TLS, which is required here.</source>
+        <translation>El sistema remoto no usa TLS, que aquí se exige.</translation>
+    </message>
+    <message>
+        <source>The peer does not speak TLS.</source>
+        <translation>El sistema remoto no usa TLS.</translation>
+    </message>
+    <message>
+        <source>The peer does not support the default context.</source>
+        <translation>El sistema remoto no admite el contexto predeterminado.</translation>
+    </message>
+    <message>
+        <source>The peer does not support the proposed version of the session protocol.</source>
+        <translation>El sistema remoto no admite la versión propuesta del protocolo de sesión.</translation>
+    </message>
+    <message>
+        <source>The peer does not support the version of the presentation protocol.</source>
+        <translation>El sistema remoto no admite la versión del protocolo de presentación.</translation>
+    </message>
+    <message>
+        <source>The peer ended the transport connection normally.</source>
+        <translation>El sistema remoto terminó la conexión de transporte normalmente.</translation>
+    </message>
+    <message>
+        <source>The peer ended the transport connection with reason %1.</source>
+        <translation>El sistema remoto terminó la conexión de transporte con la razón %1.</translation>
+    </message>
+    <message>
+        <source>The peer ended the transport connection without a reason.</source>
+        <translation>El sistema remoto terminó la conexión de transporte sin dar una razón.</translation>
+    </message>
+    <message>
+        <source>The peer gave no sign of life in time.</source>
+        <translation>El sistema remoto no dio señales de vida a tiempo.</translation>
+    </message>
+    <message>
+        <source>The peer has shown no certificate.</source>
+        <translation>El sistema remoto no ha mostrado ningún certificado.</translation>
+    </message>
+    <message>
+        <source>The peer knows the certificate of this side and denies it access.</source>
+        <translation>El sistema remoto conoce el certificado de este lado y le deniega el acceso.</translation>
+    </message>
+    <message>
+        <source>The peer refuses a parameter code of the transport unit.</source>
+        <translation>El sistema remoto rechaza un código de parámetro de la unidad de transporte.</translation>
+    </message>
+    <message>
+        <source>The peer refuses a parameter value of the transport unit.</source>
+        <translation>El sistema remoto rechaza un valor de parámetro de la unidad de transporte.</translation>
+    </message>
+    <message>
+        <source>The peer refuses a transport unit without a reason.</source>
+        <translation>El sistema remoto rechaza una unidad de transporte sin dar una razón.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the association for the time being.</source>
+        <translation>El sistema remoto rechaza la asociación por el momento.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the association for the time being: %1.</source>
+        <translation>El sistema remoto rechaza la asociación por el momento: %1.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the association.</source>
+        <translation>El sistema remoto rechaza la asociación.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the association: %1.</source>
+        <translation>El sistema remoto rechaza la asociación: %1.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the certificate of this side because it does not trust its issuer.</source>
+        <translation>El sistema remoto rechaza el certificado de este lado porque no confía en su emisor.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the certificate of this side because it has been revoked.</source>
+        <translation>El sistema remoto rechaza el certificado de este lado porque ha sido revocado.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the certificate of this side because it has expired or is not valid yet.</source>
+        <translation>El sistema remoto rechaza el certificado de este lado porque ha caducado o todavía no es válido.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the certificate of this side because it is not of a kind that it takes.</source>
+        <translation>El sistema remoto rechaza el certificado de este lado porque no acepta esa clase de certificado.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the certificate of this side.</source>
+        <translation>El sistema remoto rechaza el certificado de este lado.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the handshake because a signature of this side does not fit.</source>
+        <translation>El sistema remoto rechaza el establecimiento de TLS porque una firma de este lado no es correcta.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the initiate request.</source>
+        <translation>El sistema remoto rechaza la petición initiate.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the presentation connection with reason %1.</source>
+        <translation>El sistema remoto rechaza la conexión de presentación con la razón %1.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the presentation connection.</source>
+        <translation>El sistema remoto rechaza la conexión de presentación.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the request on this network connection.</source>
+        <translation>El sistema remoto rechaza la petición en esta conexión de red.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the session because it is busy.</source>
+        <translation>El sistema remoto rechaza la sesión porque está ocupado.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the session with reason %1.</source>
+        <translation>El sistema remoto rechaza la sesión con la razón %1.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the session without a reason.</source>
+        <translation>El sistema remoto rechaza la sesión sin dar una razón.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the session.</source>
+        <translation>El sistema remoto rechaza la sesión.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the type of the transport unit.</source>
+        <translation>El sistema remoto rechaza el tipo de la unidad de transporte.</translation>
+    </message>
+    <message>
+        <source>The peer refuses to end the session.</source>
+        <translation>El sistema remoto se niega a terminar la sesión.</translation>
+    </message>
+    <message>
+        <source>The peer reports an error in the transport protocol.</source>
+        <translation>El sistema remoto comunica un error en el protocolo de transporte.</translation>
+    </message>
+    <message>
+        <source>The peer reports an invalid header or parameter length.</source>
+        <translation>El sistema remoto comunica una longitud de cabecera o de parámetro no válida.</translation>
+    </message>
+    <message>
+        <source>The peer said nothing for %1 ms.</source>
+        <translation>El sistema remoto no ha enviado nada durante %1 ms.</translation>
+    </message>
+    <message>
+        <source>The peer saw a duplicate transport reference.</source>
+        <translation>El sistema remoto encontró una referencia de transporte duplicada.</translation>
+    </message>
+    <message>
+        <source>The peer saw mismatched transport references.</source>
+        <translation>El sistema remoto encontró referencias de transporte que no concuerdan.</translation>
+    </message>
+    <message>
+        <source>The peer sent a message of more than %1 octets.</source>
+        <translation>El sistema remoto envió un mensaje de más de %1 octetos.</translation>
+    </message>
+    <message>
+        <source>The peer sent a transport unit that does not belong here.</source>
+        <translation>El sistema remoto envió una unidad de transporte que no corresponde aquí.</translation>
+    </message>
+    <message>
+        <source>The peer sent a unit of association control that does not belong here.</source>
+        <translation>El sistema remoto envió una unidad del control de asociación que no corresponde aquí.</translation>
+    </message>
+    <message>
+        <source>The peer sent a wrong password.</source>
+        <translation>El sistema remoto envió una contraseña incorrecta.</translation>
+    </message>
+    <message>
+        <source>The peer sent no password.</source>
+        <translation>El sistema remoto no envió ninguna contraseña.</translation>
+    </message>
+    <message>
+        <source>The peer sent the session unit &quot;%1&quot;, which does not belong here.</source>
+        <translation>El sistema remoto envió la unidad de sesión «%1», que no corresponde aquí.</translation>
+    </message>
+    <message>
+        <source>The peer speaks TLS, which is not configured here.</source>
+        <translation>El sistema remoto usa TLS, que aquí no está configurado.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s PDU size of %1 octets is too small.</source>
+        <translation>El tamaño de PDU del sistema remoto, %1 octetos, es demasiado pequeño.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s association control aborted the association.</source>
+        <translation>El control de asociación del sistema remoto interrumpió la asociación.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s certificate &quot;%1&quot;</source>
+        <translation>El certificado del sistema remoto «%1»</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s certificate &quot;%1&quot; is not one of those that are pinned; its fingerprint is %2.</source>
+        <translation>El certificado del sistema remoto «%1» no es uno de aquellos cuya huella está registrada; su huella es %2.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s initiate answer cannot be read: %1.</source>
+        <translation>No se puede leer la respuesta initiate del sistema remoto: %1.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer aborted without a reason.</source>
+        <translation>La capa de presentación del sistema remoto interrumpió la conexión sin dar una razón.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer aborted.</source>
+        <translation>La capa de presentación del sistema remoto interrumpió la conexión.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer did not expect a parameter and aborted.</source>
+        <translation>La capa de presentación del sistema remoto no esperaba un parámetro e interrumpió la conexión.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer did not expect a session service and aborted.</source>
+        <translation>La capa de presentación del sistema remoto no esperaba un servicio de sesión e interrumpió la conexión.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer did not expect a unit and aborted.</source>
+        <translation>La capa de presentación del sistema remoto no esperaba una unidad e interrumpió la conexión.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer does not recognise a parameter and aborted.</source>
+        <translation>La capa de presentación del sistema remoto no reconoce un parámetro e interrumpió la conexión.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer does not recognise a unit and aborted.</source>
+        <translation>La capa de presentación del sistema remoto no reconoce una unidad e interrumpió la conexión.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer found an invalid parameter value and aborted.</source>
+        <translation>La capa de presentación del sistema remoto encontró un valor de parámetro no válido e interrumpió la conexión.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer has reached a limit of its own.</source>
+        <translation>La capa de presentación del sistema remoto ha alcanzado un límite propio.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer is congested.</source>
+        <translation>La capa de presentación del sistema remoto está saturada.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer refuses the connection without a reason.</source>
+        <translation>La capa de presentación del sistema remoto rechaza la conexión sin dar una razón.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s session layer aborted the session.</source>
+        <translation>La capa de sesión del sistema remoto interrumpió la sesión.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s session layer is congested.</source>
+        <translation>La capa de sesión del sistema remoto está saturada.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s session layer refuses the session because of a restriction of its own.</source>
+        <translation>La capa de sesión del sistema remoto rechaza la sesión por una restricción propia.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s session layer refuses the session.</source>
+        <translation>La capa de sesión del sistema remoto rechaza la sesión.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s session layer reports an error in the protocol and aborted the session.</source>
+        <translation>La capa de sesión del sistema remoto comunica un error de protocolo e interrumpió la sesión.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s session request cannot be accepted.</source>
+        <translation>La petición de sesión del sistema remoto no se puede aceptar.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s transport layer is congested.</source>
+        <translation>La capa de transporte del sistema remoto está saturada.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s transport references have overflowed.</source>
+        <translation>Las referencias de transporte del sistema remoto se han desbordado.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s transport selector is congested.</source>
+        <translation>El selector de transporte del sistema remoto está saturado.</translation>
+    </message>
+    <message>
+        <source>The position is not within the file.</source>
+        <translation>La posición no está dentro del archivo.</translation>
+    </message>
+    <message>
+        <source>The private key in the file &quot;%1&quot; cannot be used (%2).</source>
+        <translation>La clave privada del archivo «%1» no se puede usar (%2).</translation>
+    </message>
+    <message>
+        <source>The private key in the file &quot;%1&quot; does not fit the certificate in the file &quot;%2&quot;.</source>
+        <translation>La clave privada del archivo «%1» no corresponde al certificado del archivo «%2».</translation>
+    </message>
+    <message>
+        <source>The private key in the file &quot;%1&quot; does not open with the password that is given.</source>
+        <translation>La clave privada del archivo «%1» no se abre con la contraseña indicada.</translation>
+    </message>
+    <message>
+        <source>The private key in the file &quot;%1&quot; is encrypted, and no password is given.</source>
+        <translation>La clave privada del archivo «%1» está cifrada, y no se indica ninguna contraseña.</translation>
+    </message>
+    <message>
+        <source>The report ends before its %1.</source>
+        <translation>El informe termina antes de su campo %1.</translation>
+    </message>
+    <message>
+        <source>The report has no value for its %1: %2.</source>
+        <translation>El informe no trae valor para su campo %1: %2.</translation>
+    </message>
+    <message>
+        <source>The report says that it brings %1 members, which are %2 values, but it has %3.</source>
+        <translation>El informe anuncia %1 miembros, que son %2 valores, pero tiene %3.</translation>
+    </message>
+    <message>
+        <source>The report&apos;s %1 is neither true nor false.</source>
+        <translation>El campo %1 del informe no es ni verdadero ni falso.</translation>
+    </message>
+    <message>
+        <source>The report&apos;s %1 is not a binary time.</source>
+        <translation>El campo %1 del informe no es un tiempo binario.</translation>
+    </message>
+    <message>
+        <source>The report&apos;s %1 is not a bit string.</source>
+        <translation>El campo %1 del informe no es una cadena de bits.</translation>
+    </message>
+    <message>
+        <source>The report&apos;s %1 is not a number of 32 bits without sign.</source>
+        <translation>El campo %1 del informe no es un número de 32 bits sin signo.</translation>
+    </message>
+    <message>
+        <source>The report&apos;s %1 is not a string of octets.</source>
+        <translation>El campo %1 del informe no es una cadena de octetos.</translation>
+    </message>
+    <message>
+        <source>The report&apos;s %1 is not a text.</source>
+        <translation>El campo %1 del informe no es un texto.</translation>
+    </message>
+    <message>
+        <source>The request is longer than the negotiated PDU size of %1 octets.</source>
+        <translation>La petición es más larga que el tamaño de PDU negociado de %1 octetos.</translation>
+    </message>
+    <message>
+        <source>The request was not sent: it waited for a place behind calls that the peer has not answered.</source>
+        <translation>La petición no se ha enviado: esperaba un lugar detrás de peticiones que el sistema remoto no ha respondido.</translation>
+    </message>
+    <message>
+        <source>The revocation list in the file &quot;%1&quot; cannot be used (%2).</source>
+        <translation>La lista de revocación del archivo «%1» no se puede usar (%2).</translation>
+    </message>
+    <message>
+        <source>The root element is in no name space; it should be in &quot;%1&quot;.</source>
+        <translation>El elemento raíz no está en ningún espacio de nombres; debería estar en «%1».</translation>
+    </message>
+    <message>
+        <source>The root element is in the name space &quot;%1&quot; instead of &quot;%2&quot;.</source>
+        <translation>El elemento raíz está en el espacio de nombres «%1» en vez de en «%2».</translation>
+    </message>
+    <message>
+        <source>The server was stopped.</source>
+        <translation>El servidor se ha detenido.</translation>
+    </message>
+    <message>
+        <source>The service was called out of sequence.</source>
+        <translation>El servicio se ha llamado fuera de secuencia.</translation>
+    </message>
+    <message>
+        <source>The services offered do not suit the device.</source>
+        <translation>Los servicios ofrecidos no son adecuados para el dispositivo.</translation>
+    </message>
+    <message>
+        <source>The session parameter %1 has a wrong length.</source>
+        <translation>El parámetro de sesión %1 tiene una longitud incorrecta.</translation>
+    </message>
+    <message>
+        <source>The size of transport units is not one of 128 to 8,192 octets.</source>
+        <translation>El tamaño de las unidades de transporte no es uno de los tamaños de 128 a 8192 octetos.</translation>
+    </message>
+    <message>
+        <source>The state of the device does not allow this.</source>
+        <translation>El estado del dispositivo no lo permite.</translation>
+    </message>
+    <message>
+        <source>The transport classes of both sides do not match.</source>
+        <translation>Las clases de transporte de los dos lados no concuerdan.</translation>
+    </message>
+    <message>
+        <source>The transport unit &quot;%1&quot; is shorter than its fixed part.</source>
+        <translation>La unidad de transporte «%1» es más corta que su parte fija.</translation>
+    </message>
+    <message>
+        <source>The truth value is written &quot;%1&quot; instead of &quot;true&quot; or &quot;false&quot;.</source>
+        <translation>El valor lógico está escrito «%1» en vez de «true» o «false».</translation>
+    </message>
+    <message>
+        <source>The type is not supported.</source>
+        <translation>El tipo no se admite.</translation>
+    </message>
+    <message>
+        <source>The type of %1 cannot be read: %2.</source>
+        <translation>No se puede leer el tipo de %1: %2.</translation>
+    </message>
+    <message>
+        <source>The types do not agree.</source>
+        <translation>Los tipos no concuerdan.</translation>
+    </message>
+    <message>
+        <source>The value %1 does not fit the type %2 of the device.</source>
+        <translation>El valor %1 no corresponde al tipo %2 del dispositivo.</translation>
+    </message>
+    <message>
+        <source>The value &quot;%1&quot; differs in blanks or capitals from what is expected.</source>
+        <translation>El valor «%1» difiere de lo esperado en espacios o mayúsculas.</translation>
+    </message>
+    <message>
+        <source>The value has not the type of the object.</source>
+        <translation>El valor no tiene el tipo del objeto.</translation>
+    </message>
+    <message>
+        <source>The value is empty, so the attribute has none.</source>
+        <translation>El valor está vacío, así que el atributo no tiene valor.</translation>
+    </message>
+    <message>
+        <source>The value is given by its number &quot;%1&quot; instead of its text.</source>
+        <translation>El valor está indicado por su número «%1» en vez de por su texto.</translation>
+    </message>
+    <message>
+        <source>The value is not allowed for the object.</source>
+        <translation>El valor no está permitido para el objeto.</translation>
+    </message>
+    <message>
+        <source>The value of the control block does not match its type %1.</source>
+        <translation>El valor del bloque de control no corresponde a su tipo %1.</translation>
+    </message>
+    <message>
+        <source>There are %1 associations already, which is the limit.</source>
+        <translation>Ya hay %1 asociaciones; es el límite.</translation>
+    </message>
+    <message>
+        <source>There is a problem with the other application.</source>
+        <translation>Hay un problema con la otra aplicación.</translation>
+    </message>
+    <message>
+        <source>There is another IED of the name &quot;%1&quot;.</source>
+        <translation>Hay otro IED con el nombre «%1».</translation>
+    </message>
+    <message>
+        <source>There is another control block &quot;%1&quot;.</source>
+        <translation>Hay otro bloque de control «%1».</translation>
+    </message>
+    <message>
+        <source>There is another data set &quot;%1&quot;.</source>
+        <translation>Hay otro conjunto de datos «%1».</translation>
+    </message>
+    <message>
+        <source>There is another logical device &quot;%1&quot;.</source>
+        <translation>Hay otro dispositivo lógico «%1».</translation>
+    </message>
+    <message>
+        <source>There is another logical node &quot;%1&quot;.</source>
+        <translation>Hay otro nodo lógico «%1».</translation>
+    </message>
+    <message>
+        <source>There is no &quot;%1&quot;</source>
+        <translation>No existe «%1»</translation>
+    </message>
+    <message>
+        <source>There is no association.</source>
+        <translation>No hay ninguna asociación.</translation>
+    </message>
+    <message>
+        <source>There is no data set %1.</source>
+        <translation>No hay ningún conjunto de datos %1.</translation>
+    </message>
+    <message>
+        <source>There is no functional constraint (attribute fc)</source>
+        <translation>No hay restricción funcional (atributo fc)</translation>
+    </message>
+    <message>
+        <source>There is no logical device &quot;%1&quot;</source>
+        <translation>No hay ningún dispositivo lógico «%1»</translation>
+    </message>
+    <message>
+        <source>There is no logical node &quot;%1&quot; in &quot;%2&quot;</source>
+        <translation>No hay ningún nodo lógico «%1» en «%2»</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to read the file.</source>
+        <translation>No hay suficiente memoria para leer el archivo.</translation>
+    </message>
+    <message>
+        <source>There is not enough room for the file.</source>
+        <translation>No hay suficiente espacio para el archivo.</translation>
+    </message>
+    <message>
+        <source>There is nothing of functional constraint &quot;%1&quot; in &quot;%2&quot;</source>
+        <translation>No hay nada de la restricción funcional «%1» en «%2»</translation>
+    </message>
+    <message>
+        <source>This is no report control block: it has no RptEna.</source>
+        <translation>Este no es un bloque de control de informes: no tiene RptEna.</translation>
+    </message>
+    <message>
+        <source>This is no setting group control block: NumOfSG or ActSG is missing.</source>
+        <translation>Este no es un bloque de control de grupos de ajustes: falta NumOfSG o ActSG.</translation>
+    </message>
+    <message>
+        <source>This is not a report but %1.</source>
+        <translation>Esto no es un informe, sino %1.</translation>
+    </message>
+    <message>
+        <source>This is not an SCL file: its root element is &quot;%1&quot;.</source>
+        <translation>Este no es un archivo SCL: su elemento raíz es «%1».</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Demasiados archivos abiertos</translation>
+    </message>
+    <message>
+        <source>User information is in a form that is not supported.</source>
+        <translation>La información de usuario tiene una forma que no se admite.</translation>
+    </message>
+    <message>
+        <source>What the peer sent cannot be read: %1.</source>
+        <translation>No se puede leer lo que envió el sistema remoto: %1.</translation>
+    </message>
+    <message>
+        <source>XML or text declaration not at start of entity</source>
+        <translation>Declaración XML o de texto que no está al principio de la entidad</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not exist in type &quot;%2&quot;; what is given for it is left out.</source>
+        <translation>«%1» no existe en el tipo «%2»; lo que se indica para este elemento se omite.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a value, but it is a structure.</source>
+        <translation>«%1» tiene un valor, pero es una estructura.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no element %2</source>
+        <translation>«%1» no tiene el elemento %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no element %2; what is given for it is left out.</source>
+        <translation>«%1» no tiene el elemento %2; lo que se indica para él se omite.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a directory, not a file.</source>
+        <translation>«%1» es un directorio, no un archivo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is an array, and no element is given</source>
+        <translation>«%1» es una matriz, y no se indica ningún elemento</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is defined twice in its type; the first is used.</source>
+        <translation>«%1» está definido dos veces en su tipo; se usa la primera definición.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither &quot;true&quot; nor &quot;false&quot;; %2 is used.</source>
+        <translation>«%1» no es ni «true» ni «false»; se usa %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a SHA-256 fingerprint of 64 hexadecimal digits.</source>
+        <translation>«%1» no es una huella SHA-256 de 64 cifras hexadecimales.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a basic type of the standard; values are kept as texts.</source>
+        <translation>«%1» no es un tipo básico de la norma; los valores se conservan como textos.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a directory.</source>
+        <translation>«%1» no es un directorio.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a functional constraint.</source>
+        <translation>«%1» no es una restricción funcional.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a host name that a certificate can have.</source>
+        <translation>«%1» no es un nombre de equipo que un certificado pueda tener.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number of array elements; the element is taken as a single one.</source>
+        <translation>«%1» no es un número de elementos de matriz; el elemento se trata como un elemento simple.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number of milliseconds.</source>
+        <translation>«%1» no es un número de milisegundos.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a value of %2 &quot;%3&quot;; the attribute has no value.</source>
+        <translation>«%1» no es un valor de %2 «%3»; el atributo no tiene valor.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a value of %2; %3 is used.</source>
+        <translation>«%1» no es un valor de %2; se usa %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a value of %2; the attribute has no value.</source>
+        <translation>«%1» no es un valor de %2; el atributo no tiene valor.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a value of its type; the attribute has no value.</source>
+        <translation>«%1» no es un valor de su tipo; el atributo no tiene valor.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address of a network interface.</source>
+        <translation>«%1» no es una dirección de una interfaz de red.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an array</source>
+        <translation>«%1» no es una matriz</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an array; the element number is ignored.</source>
+        <translation>«%1» no es una matriz; el número de elemento se ignora.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an ordinal; the literal is left out.</source>
+        <translation>«%1» no es un ordinal; el literal se omite.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the number of an array element.</source>
+        <translation>«%1» no es el número de un elemento de matriz.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names an attribute, which takes a DAI.</source>
+        <translation>«%1» nombra un atributo, que necesita un DAI.</translation>
+    </message>
+    <message>
+        <source>a certificate</source>
+        <translation>un certificado</translation>
+    </message>
+    <message>
+        <source>a command is being executed already</source>
+        <translation>ya se está ejecutando un mando</translation>
+    </message>
+    <message>
+        <source>a parameter is being changed</source>
+        <translation>se está cambiando un parámetro</translation>
+    </message>
+    <message>
+        <source>a revocation list</source>
+        <translation>una lista de revocación</translation>
+    </message>
+    <message>
+        <source>additional cause %1</source>
+        <translation>causa adicional %1</translation>
+    </message>
+    <message>
+        <source>additional code %1</source>
+        <translation>código adicional %1</translation>
+    </message>
+    <message>
+        <source>an authentication is required</source>
+        <translation>se exige una autenticación</translation>
+    </message>
+    <message>
+        <source>an authentication mechanism is required</source>
+        <translation>se exige un mecanismo de autenticación</translation>
+    </message>
+    <message>
+        <source>an authority</source>
+        <translation>una autoridad de certificación</translation>
+    </message>
+    <message>
+        <source>an unknown date</source>
+        <translation>una fecha desconocida</translation>
+    </message>
+    <message>
+        <source>another object of the domain is being controlled</source>
+        <translation>otro objeto del dominio tiene un mando en curso</translation>
+    </message>
+    <message>
+        <source>blocked because the switching authority lies elsewhere (local or remote)</source>
+        <translation>bloqueo porque la autoridad de mando está en otro lugar (local o remoto)</translation>
+    </message>
+    <message>
+        <source>blocked by an event of the process</source>
+        <translation>bloqueo por un evento del proceso</translation>
+    </message>
+    <message>
+        <source>blocked by interlocking</source>
+        <translation>bloqueo por enclavamiento</translation>
+    </message>
+    <message>
+        <source>blocked by synchrocheck</source>
+        <translation>bloqueo por comprobación de sincronismo</translation>
+    </message>
+    <message>
+        <source>blocked by the data object that blocks commands</source>
+        <translation>bloqueo por el objeto de datos que bloquea los mandos</translation>
+    </message>
+    <message>
+        <source>blocked by the health of the logical node</source>
+        <translation>bloqueo por el estado de salud del nodo lógico</translation>
+    </message>
+    <message>
+        <source>blocked by the mode of the logical node</source>
+        <translation>bloqueo por el modo del nodo lógico</translation>
+    </message>
+    <message>
+        <source>control error %1</source>
+        <translation>error de mando %1</translation>
+    </message>
+    <message>
+        <source>duplicate attribute</source>
+        <translation>atributo duplicado</translation>
+    </message>
+    <message>
+        <source>ended because the position deviates from the command</source>
+        <translation>terminado porque la posición se desvía del mando</translation>
+    </message>
+    <message>
+        <source>ended beyond the wanted position</source>
+        <translation>terminado más allá de la posición deseada</translation>
+    </message>
+    <message>
+        <source>ended by a cancel</source>
+        <translation>terminado por una cancelación</translation>
+    </message>
+    <message>
+        <source>ended by a trip</source>
+        <translation>terminado por un disparo</translation>
+    </message>
+    <message>
+        <source>ended by the loss of the connection with the client that issued it</source>
+        <translation>terminado por la pérdida de la conexión con el cliente que dio el mando</translation>
+    </message>
+    <message>
+        <source>error %1</source>
+        <translation>error %1</translation>
+    </message>
+    <message>
+        <source>it gives no reason; another client may have selected the object.</source>
+        <translation>no da ninguna razón; puede que otro cliente haya seleccionado el objeto.</translation>
+    </message>
+    <message>
+        <source>it has no address</source>
+        <translation>no tiene dirección</translation>
+    </message>
+    <message>
+        <source>it is not in a logical device.</source>
+        <translation>no está en un dispositivo lógico.</translation>
+    </message>
+    <message>
+        <source>it names more than one element of one array.</source>
+        <translation>nombra más de un elemento de una misma matriz.</translation>
+    </message>
+    <message>
+        <source>it names several parts.</source>
+        <translation>nombra varias partes.</translation>
+    </message>
+    <message>
+        <source>junk after document element</source>
+        <translation>contenido sobrante después del elemento raíz del documento</translation>
+    </message>
+    <message>
+        <source>locked by another client</source>
+        <translation>bloqueo por otro cliente</translation>
+    </message>
+    <message>
+        <source>mismatched tag</source>
+        <translation>la etiqueta de cierre no corresponde a la de apertura</translation>
+    </message>
+    <message>
+        <source>no cause</source>
+        <translation>ninguna causa</translation>
+    </message>
+    <message>
+        <source>no error</source>
+        <translation>ningún error</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>no se da ninguna razón</translation>
+    </message>
+    <message>
+        <source>nobody answers who knows names</source>
+        <translation>ningún servidor de nombres responde</translation>
+    </message>
+    <message>
+        <source>nobody knows it</source>
+        <translation>nadie lo conoce</translation>
+    </message>
+    <message>
+        <source>reason %1</source>
+        <translation>razón %1</translation>
+    </message>
+    <message>
+        <source>syntax error</source>
+        <translation>error de sintaxis</translation>
+    </message>
+    <message>
+        <source>the application context is not supported</source>
+        <translation>el contexto de aplicación no se admite</translation>
+    </message>
+    <message>
+        <source>the authentication failed</source>
+        <translation>la autenticación ha fallado</translation>
+    </message>
+    <message>
+        <source>the authentication mechanism is not recognised</source>
+        <translation>el mecanismo de autenticación no se reconoce</translation>
+    </message>
+    <message>
+        <source>the called AE invocation identifier is not recognised</source>
+        <translation>el identificador de invocación AE llamado no se reconoce</translation>
+    </message>
+    <message>
+        <source>the called AE qualifier is not recognised</source>
+        <translation>el calificador AE llamado no se reconoce</translation>
+    </message>
+    <message>
+        <source>the called AP invocation identifier is not recognised</source>
+        <translation>el identificador de invocación AP llamado no se reconoce</translation>
+    </message>
+    <message>
+        <source>the called AP title is not recognised</source>
+        <translation>el título AP llamado no se reconoce</translation>
+    </message>
+    <message>
+        <source>the calling AE invocation identifier is not recognised</source>
+        <translation>el identificador de invocación AE llamante no se reconoce</translation>
+    </message>
+    <message>
+        <source>the calling AE qualifier is not recognised</source>
+        <translation>el calificador AE llamante no se reconoce</translation>
+    </message>
+    <message>
+        <source>the calling AP invocation identifier is not recognised</source>
+        <translation>el identificador de invocación AP llamante no se reconoce</translation>
+    </message>
+    <message>
+        <source>the calling AP title is not recognised</source>
+        <translation>el título AP llamante no se reconoce</translation>
+    </message>
+    <message>
+        <source>the client has no authority for it</source>
+        <translation>el cliente no está autorizado para ello</translation>
+    </message>
+    <message>
+        <source>the functional constraint is missing.</source>
+        <translation>falta la restricción funcional.</translation>
+    </message>
+    <message>
+        <source>the name of the logical device is missing or wrong.</source>
+        <translation>el nombre del dispositivo lógico falta o es incorrecto.</translation>
+    </message>
+    <message>
+        <source>the name of the logical node is missing or wrong.</source>
+        <translation>el nombre del nodo lógico falta o es incorrecto.</translation>
+    </message>
+    <message>
+        <source>the object is not selected</source>
+        <translation>el objeto no está seleccionado</translation>
+    </message>
+    <message>
+        <source>the object is selected already</source>
+        <translation>el objeto ya está seleccionado</translation>
+    </message>
+    <message>
+        <source>the operator test failed</source>
+        <translation>la comprobación del operador ha fallado</translation>
+    </message>
+    <message>
+        <source>the own certificate</source>
+        <translation>el certificado de este lado</translation>
+    </message>
+    <message>
+        <source>the parameters of the service contradict those of the selection</source>
+        <translation>los parámetros del servicio contradicen los de la selección</translation>
+    </message>
+    <message>
+        <source>the position has been reached already</source>
+        <translation>la posición ya se ha alcanzado</translation>
+    </message>
+    <message>
+        <source>the position is not valid</source>
+        <translation>la posición no es válida</translation>
+    </message>
+    <message>
+        <source>the private key</source>
+        <translation>la clave privada</translation>
+    </message>
+    <message>
+        <source>the selection failed</source>
+        <translation>la selección ha fallado</translation>
+    </message>
+    <message>
+        <source>the service is not supported</source>
+        <translation>el servicio no se admite</translation>
+    </message>
+    <message>
+        <source>the tap changer is at the end of its range</source>
+        <translation>el cambiador de tomas está en el final de su recorrido</translation>
+    </message>
+    <message>
+        <source>the time for it is over</source>
+        <translation>el tiempo para ello ha transcurrido</translation>
+    </message>
+    <message>
+        <source>the time-out test failed</source>
+        <translation>la comprobación del tiempo de espera ha fallado</translation>
+    </message>
+    <message>
+        <source>there is no common version of association control</source>
+        <translation>no hay ninguna versión común del control de asociación</translation>
+    </message>
+    <message>
+        <source>unclosed CDATA section</source>
+        <translation>sección CDATA sin cerrar</translation>
+    </message>
+    <message>
+        <source>unclosed token</source>
+        <translation>elemento léxico sin terminar</translation>
+    </message>
+    <message>
+        <source>unknown cause</source>
+        <translation>causa desconocida</translation>
+    </message>
+    <message>
+        <source>unknown error</source>
+        <translation>error desconocido</translation>
+    </message>
+    <message>
+        <source>%1: the value does not have the form of its type.</source>
+        <translation>%1: el valor no tiene la forma de su tipo.</translation>
+    </message>
 </context>
 <context>
     <name>JournalModel</name>
@@ -1731,10 +4267,6 @@ Léalo de nuevo con %2 o quite el dispositivo de la lista.</translation>
         <translation>Otros archivos que no se pueden usar: %1</translation>
     </message>
     <message>
-        <source>%1 was taken off the list; its file stays where it is.</source>
-        <translation>%1 se ha quitado de la lista; su archivo permanece donde está.</translation>
-    </message>
-    <message>
         <source>About</source>
         <translation>Acerca de</translation>
     </message>
@@ -1881,10 +4413,6 @@ Apache License 2.0</translation>
         <translation>Iniciar dispositivo simulado</translation>
     </message>
     <message>
-        <source>%1 was taken off the list.</source>
-        <translation>%1 se ha quitado de la lista.</translation>
-    </message>
-    <message>
         <source>Disco&amp;nnect</source>
         <translation>&amp;Desconectar</translation>
     </message>
@@ -1956,6 +4484,46 @@ Apache License 2.0</translation>
         <source>Devices away: %1, the first since %2</source>
         <translation>Dispositivos sin contacto: %1, el primero desde %2</translation>
     </message>
+    <message>
+        <source>&amp;Undo Remove</source>
+        <translation>Des&amp;hacer la retirada</translation>
+    </message>
+    <message>
+        <source>Ctrl+Z</source>
+        <translation>Ctrl+Z</translation>
+    </message>
+    <message>
+        <source>Remove Device</source>
+        <translation>Quitar dispositivo</translation>
+    </message>
+    <message>
+        <source>Take %1 off the list?</source>
+        <translation>¿Quitar %1 de la lista?</translation>
+    </message>
+    <message>
+        <source>Its connection ends, and windows that are open for it are no longer served.</source>
+        <translation>Su conexión termina, y las ventanas abiertas para él dejan de funcionar.</translation>
+    </message>
+    <message>
+        <source>Windows that are open for it are no longer served.</source>
+        <translation>Las ventanas abiertas para él dejan de funcionar.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>%1 was taken off the list; %2 puts it back.</source>
+        <translation>%1 se ha quitado de la lista; %2 lo devuelve a ella.</translation>
+    </message>
+    <message>
+        <source>%1 was taken off the list; its file stays where it is, and %2 puts it back.</source>
+        <translation>%1 se ha quitado de la lista; su archivo permanece donde está, y %2 devuelve el dispositivo a la lista.</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Remove of %1</source>
+        <translation>Des&amp;hacer la retirada de %1</translation>
+    </message>
 </context>
 <context>
     <name>OfflineDriverService</name>
@@ -1970,10 +4538,6 @@ Apache License 2.0</translation>
 </context>
 <context>
     <name>SclImport</name>
-    <message>
-        <source>The file &quot;%1&quot; cannot be opened: %2.</source>
-        <translation>No se puede abrir el archivo «%1»: %2.</translation>
-    </message>
     <message>
         <source>Line %1: %2</source>
         <translation>Línea %1: %2</translation>
@@ -2007,6 +4571,13 @@ Apache License 2.0</translation>
     <message>
         <source>&amp;Copy</source>
         <translation>&amp;Copiar</translation>
+    </message>
+</context>
+<context>
+    <name>ToolWindows</name>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
     </message>
 </context>
 <context>
@@ -2163,6 +4734,21 @@ Apache License 2.0</translation>
     <message>
         <source>%1 holds octets that are no text, so it can only be read.</source>
         <translation>%1 contiene octetos que no son texto, así que solo se puede leer.</translation>
+    </message>
+</context>
+<context>
+    <name>WaitingCalls</name>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>Esperando a %1</translation>
+    </message>
+    <message>
+        <source>%1 has not answered yet (%2).</source>
+        <translation>%1 no ha respondido todavía (%2).</translation>
+    </message>
+    <message>
+        <source>Cancelling. What the device was asked before may still be done.</source>
+        <translation>Cancelando. Lo que se pidió antes al dispositivo puede ejecutarse todavía.</translation>
     </message>
 </context>
 <context>

@@ -626,6 +626,26 @@
         <source>a device that does not say what it is</source>
         <translation>устройство, которое себя не назвало</translation>
     </message>
+    <message>
+        <source>Acc&amp;ess point of the IED:</source>
+        <translation>&amp;Точка доступа ИЭУ:</translation>
+    </message>
+    <message>
+        <source>Which of the IED&apos;s access points the device is, where the file describes several</source>
+        <translation>Какая из точек доступа ИЭУ соответствует устройству, если в файле их описано несколько</translation>
+    </message>
+    <message>
+        <source>Accept certificates that are made out to &amp;others</source>
+        <translation>Принимать сертификаты, выданные на &amp;другие имена</translation>
+    </message>
+    <message>
+        <source>Unsafe: whoever holds the key of any certificate of these authorities can pose as this device. Better enter the name that its certificate has, or its fingerprint.</source>
+        <translation>Небезопасно: тот, у кого есть ключ любого сертификата этих удостоверяющих центров, может выдать себя за это устройство. Лучше укажите имя из сертификата устройства или отпечаток этого сертификата.</translation>
+    </message>
+    <message>
+        <source>the one with the device&apos;s address</source>
+        <translation>с адресом устройства</translation>
+    </message>
 </context>
 <context>
     <name>DeviceListModel</name>
@@ -1079,10 +1099,6 @@ Connections: %5</source>
         <translation>Элементов в наборе данных: %1, а значений получено: %2.</translation>
     </message>
     <message>
-        <source>%1: the value does not have the form of its type</source>
-        <translation>%1: значение не соответствует своему типу</translation>
-    </message>
-    <message>
         <source>The device has no %1.</source>
         <translation>В устройстве нет %1.</translation>
     </message>
@@ -1348,7 +1364,7 @@ Connections: %5</source>
     </message>
     <message>
         <source>&quot;%1&quot; names no functional constraint, which each member of a data set needs.</source>
-        <translation>«%1» не называет функциональное ограничение, которое нужно каждому элементу набора данных.</translation>
+        <translation>«%1» не называет функциональную связь, которая нужна каждому элементу набора данных.</translation>
     </message>
     <message>
         <source>This is not the device that the window was opened for: open it again.</source>
@@ -1525,6 +1541,2526 @@ Connections: %5</source>
     <message>
         <source>Values that the device refuses and that are not asked for again: %1 (%2).</source>
         <translation>Значения, в которых устройство отказывает и которые больше не запрашиваются: %1 (%2).</translation>
+    </message>
+    <message>
+        <source>A report control block could not be %1: %2</source>
+        <translation>Блок управления отчётом: не удалось %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 (%2).</source>
+        <translation>%1 (%2).</translation>
+    </message>
+    <message>
+        <source>%1 (%2, %3).</source>
+        <translation>%1 (%2, %3).</translation>
+    </message>
+    <message>
+        <source>%1 (%2, %3, %4).</source>
+        <translation>%1 (%2, %3, %4).</translation>
+    </message>
+    <message>
+        <source>%1 bears the name of the issuer &quot;%2&quot;, but not its signature.</source>
+        <translation>%1 содержит имя издателя «%2», но не его подпись.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be checked: the revocation list of its issuer &quot;%2&quot; does not bear its signature.</source>
+        <translation>%1 не удаётся проверить: список отзыва издателя «%2» не содержит его подписи.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be checked: the revocation list of its issuer &quot;%2&quot; is not valid yet.</source>
+        <translation>%1 не удаётся проверить: список отзыва издателя «%2» ещё не действует.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be checked: the revocation list of its issuer &quot;%2&quot; is out of date.</source>
+        <translation>%1 не удаётся проверить: список отзыва издателя «%2» устарел.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be checked: there is no revocation list of its issuer &quot;%2&quot;.</source>
+        <translation>%1 не удаётся проверить: нет списка отзыва издателя «%2».</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 не удаётся прочитать: %2.</translation>
+    </message>
+    <message>
+        <source>%1 expired on %2.</source>
+        <translation>%1: срок действия истёк (%2).</translation>
+    </message>
+    <message>
+        <source>%1 has a key that is too short to be safe.</source>
+        <translation>%1: ключ слишком короткий и потому ненадёжен.</translation>
+    </message>
+    <message>
+        <source>%1 has a name that is none, or that something else has; it is left out.</source>
+        <translation>%1: имя недопустимо или уже занято; элемент пропущен.</translation>
+    </message>
+    <message>
+        <source>%1 has been revoked.</source>
+        <translation>%1 отозван.</translation>
+    </message>
+    <message>
+        <source>%1 has no %2.</source>
+        <translation>%1: нет атрибута %2.</translation>
+    </message>
+    <message>
+        <source>%1 is enabled already.</source>
+        <translation>%1 уже включён.</translation>
+    </message>
+    <message>
+        <source>%1 is in the device already, perhaps the only whole version that an upload before this one has left: save or delete it first. Nothing was changed on the device.</source>
+        <translation>Файл %1 уже есть на устройстве; возможно, это единственная целая версия, оставшаяся от прежней передачи: сначала сохраните или удалите его. На устройстве ничего не изменено.</translation>
+    </message>
+    <message>
+        <source>%1 is in the device and may be incomplete.</source>
+        <translation>Файл %1 находится на устройстве и может быть неполным.</translation>
+    </message>
+    <message>
+        <source>%1 is larger, or nested deeper, than what is taken; it is left out.</source>
+        <translation>%1: размер или вложенность больше допустимого; пропущено.</translation>
+    </message>
+    <message>
+        <source>%1 is no functional constraint.</source>
+        <translation>%1 не является функциональной связью.</translation>
+    </message>
+    <message>
+        <source>%1 is no name of data.</source>
+        <translation>%1 не является именем данных.</translation>
+    </message>
+    <message>
+        <source>%1 is not a reference: %2.</source>
+        <translation>%1 не является ссылкой: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not accepted: %2.</source>
+        <translation>%1 не принимается: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not in the device.</source>
+        <translation>Файла %1 нет на устройстве.</translation>
+    </message>
+    <message>
+        <source>%1 is not made out to the host that was asked for.</source>
+        <translation>%1 выдан не на тот узел, к которому шло обращение.</translation>
+    </message>
+    <message>
+        <source>%1 is not meant for this side of a TLS connection.</source>
+        <translation>%1 не предназначен для этой стороны соединения TLS.</translation>
+    </message>
+    <message>
+        <source>%1 is not the name of a data object that can be controlled.</source>
+        <translation>%1 не является именем объекта данных, которым можно управлять.</translation>
+    </message>
+    <message>
+        <source>%1 is not the name of a data set.</source>
+        <translation>%1 не является именем набора данных.</translation>
+    </message>
+    <message>
+        <source>%1 is valid only from %2 on.</source>
+        <translation>%1 ещё не действителен (начало срока: %2).</translation>
+    </message>
+    <message>
+        <source>%1 may be in the device, incomplete.</source>
+        <translation>Файл %1, возможно, есть на устройстве, но неполный.</translation>
+    </message>
+    <message>
+        <source>%1 may be incomplete.</source>
+        <translation>Файл %1 может быть неполным.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cannot be written: %3.</source>
+        <translation>%1 в %2 не удаётся записать: %3.</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3.</source>
+        <translation>%1 в %2: %3.</translation>
+    </message>
+    <message>
+        <source>%1 of the control block cannot be %2.</source>
+        <translation>Атрибут %1 блока управления: значение %2 недопустимо.</translation>
+    </message>
+    <message>
+        <source>%1 of the member %2</source>
+        <translation>%1 элемента %2</translation>
+    </message>
+    <message>
+        <source>%1 was issued by &quot;%2&quot;, which is not trusted here.</source>
+        <translation>%1 выдан издателем «%2», которому здесь не доверяют.</translation>
+    </message>
+    <message>
+        <source>%1 was issued by itself and is not trusted here.</source>
+        <translation>%1 является самоподписанным, и ему здесь не доверяют.</translation>
+    </message>
+    <message>
+        <source>%1 was not touched.</source>
+        <translation>Файл %1 не затронут.</translation>
+    </message>
+    <message>
+        <source>%1 was replaced, but %2, a second copy of it, is left: delete it.</source>
+        <translation>Файл %1 заменён, но осталась его вторая копия %2: удалите её.</translation>
+    </message>
+    <message>
+        <source>%1 was replaced, but %2, a second copy of it, may be in the device still: delete it.</source>
+        <translation>Файл %1 заменён, но на устройстве, возможно, ещё есть его вторая копия %2: удалите её.</translation>
+    </message>
+    <message>
+        <source>%1, so the member &quot;%2&quot; does not exist.</source>
+        <translation>%1, поэтому элемент «%2» не существует.</translation>
+    </message>
+    <message>
+        <source>%1: %2 got an answer that does not match the question.</source>
+        <translation>%1: ответ на %2 не соответствует запросу.</translation>
+    </message>
+    <message>
+        <source>%1: %2 got no answer within %3.</source>
+        <translation>%1: нет ответа на %2 в течение %3.</translation>
+    </message>
+    <message>
+        <source>%1: %2 got no answer: %3.</source>
+        <translation>%1: нет ответа на %2: %3.</translation>
+    </message>
+    <message>
+        <source>%1: %2.</source>
+        <translation>%1: %2.</translation>
+    </message>
+    <message>
+        <source>%1: a command of it cannot be cancelled.</source>
+        <translation>%1: отмена команды невозможна.</translation>
+    </message>
+    <message>
+        <source>%1: it shows its status and cannot be operated.</source>
+        <translation>%1: показывает только состояние, управление невозможно.</translation>
+    </message>
+    <message>
+        <source>%1: its control model knows no selection.</source>
+        <translation>%1: модель управления не предусматривает выбора.</translation>
+    </message>
+    <message>
+        <source>%1: the command ended without success: %2.</source>
+        <translation>%1: команда завершилась неуспешно: %2.</translation>
+    </message>
+    <message>
+        <source>%1: the command ended without success: the device does not say why.</source>
+        <translation>%1: команда завершилась неуспешно; устройство не сообщает причину.</translation>
+    </message>
+    <message>
+        <source>%1: the device accepted the command late.</source>
+        <translation>%1: устройство приняло команду с опозданием.</translation>
+    </message>
+    <message>
+        <source>%1: the device accepted the command, but has not told within %2 how it ended.</source>
+        <translation>%1: устройство приняло команду, но в течение %2 не сообщило, чем она завершилась.</translation>
+    </message>
+    <message>
+        <source>%1: the device accepted the command, but the association ended before the command: %2.</source>
+        <translation>%1: устройство приняло команду, но ассоциация завершилась раньше команды: %2.</translation>
+    </message>
+    <message>
+        <source>%1: the device refuses %2: %3.</source>
+        <translation>%1: устройство отклоняет %2: %3.</translation>
+    </message>
+    <message>
+        <source>%1: the file ended after %2 of %3 octets.</source>
+        <translation>%1: файл закончился после %2 из %3 октетов.</translation>
+    </message>
+    <message>
+        <source>A UTC time has not 8 octets.</source>
+        <translation>Длина времени UTC не равна 8 октетам.</translation>
+    </message>
+    <message>
+        <source>A binary time has neither 4 nor 6 octets.</source>
+        <translation>Длина двоичного времени не равна ни 4, ни 6 октетам.</translation>
+    </message>
+    <message>
+        <source>A bit string does not say how many of its bits count.</source>
+        <translation>В битовой строке не указано, сколько битов значимы.</translation>
+    </message>
+    <message>
+        <source>A boolean has not one octet.</source>
+        <translation>Длина логического значения не равна одному октету.</translation>
+    </message>
+    <message>
+        <source>A certificate in the file &quot;%1&quot; cannot be read.</source>
+        <translation>Сертификат в файле «%1» не удаётся прочитать.</translation>
+    </message>
+    <message>
+        <source>A character is not allowed here, or does not belong to the file&apos;s encoding.</source>
+        <translation>Символ здесь недопустим или не относится к кодировке файла.</translation>
+    </message>
+    <message>
+        <source>A command is a structure, not %1.</source>
+        <translation>Команда должна быть структурой, а не %1.</translation>
+    </message>
+    <message>
+        <source>A constraint of the object does not allow this.</source>
+        <translation>Ограничение объекта не допускает этого.</translation>
+    </message>
+    <message>
+        <source>A data unit of transport class 0 has a header of another length than 3.</source>
+        <translation>В блоке данных транспортного класса 0 длина заголовка не равна 3.</translation>
+    </message>
+    <message>
+        <source>A file of this name exists already.</source>
+        <translation>Файл с таким именем уже существует.</translation>
+    </message>
+    <message>
+        <source>A floating-point number has neither 32 nor 64 bits.</source>
+        <translation>Длина числа с плавающей запятой не равна ни 32, ни 64 битам.</translation>
+    </message>
+    <message>
+        <source>A number of an object identifier is too large.</source>
+        <translation>Число в идентификаторе объекта слишком велико.</translation>
+    </message>
+    <message>
+        <source>A parameter of a transport unit is longer than the unit&apos;s header.</source>
+        <translation>Параметр транспортного блока длиннее заголовка этого блока.</translation>
+    </message>
+    <message>
+        <source>A presentation unit has no parameters of normal mode.</source>
+        <translation>В блоке уровня представления нет параметров нормального режима.</translation>
+    </message>
+    <message>
+        <source>A presentation unit has no user data.</source>
+        <translation>В блоке уровня представления нет данных пользователя.</translation>
+    </message>
+    <message>
+        <source>A presentation unit has too many values.</source>
+        <translation>В блоке уровня представления слишком много значений.</translation>
+    </message>
+    <message>
+        <source>A presentation value belongs to a context that was not agreed.</source>
+        <translation>Значение уровня представления относится к несогласованному контексту.</translation>
+    </message>
+    <message>
+        <source>A presentation value is encoded by rules that were not agreed.</source>
+        <translation>Значение уровня представления закодировано по несогласованным правилам.</translation>
+    </message>
+    <message>
+        <source>A presentation value is in a form that is not supported.</source>
+        <translation>Значение уровня представления имеет неподдерживаемый вид.</translation>
+    </message>
+    <message>
+        <source>A primitive element has no definite length.</source>
+        <translation>У простого элемента нет определённой длины.</translation>
+    </message>
+    <message>
+        <source>A primitive element stands where a group belongs.</source>
+        <translation>На месте группы стоит простой элемент.</translation>
+    </message>
+    <message>
+        <source>A session parameter group holds itself.</source>
+        <translation>Группа параметров сеанса содержит сама себя.</translation>
+    </message>
+    <message>
+        <source>A session parameter is longer than the unit around it.</source>
+        <translation>Параметр сеанса длиннее блока, в котором он находится.</translation>
+    </message>
+    <message>
+        <source>A session unit ends within a header.</source>
+        <translation>Сеансовый блок обрывается внутри заголовка.</translation>
+    </message>
+    <message>
+        <source>A session unit ends within a length.</source>
+        <translation>Сеансовый блок обрывается внутри поля длины.</translation>
+    </message>
+    <message>
+        <source>A session unit has the unknown code %1.</source>
+        <translation>У сеансового блока неизвестный код %1.</translation>
+    </message>
+    <message>
+        <source>A session unit is followed by octets that belong to nothing.</source>
+        <translation>За сеансовым блоком следуют лишние октеты.</translation>
+    </message>
+    <message>
+        <source>A setting group control stands in &quot;%1&quot; instead of the LLN0.</source>
+        <translation>Управление группами уставок находится в «%1», а не в LLN0.</translation>
+    </message>
+    <message>
+        <source>A tag number is too large.</source>
+        <translation>Номер тега слишком велик.</translation>
+    </message>
+    <message>
+        <source>A token unit is not followed by a data transfer.</source>
+        <translation>За блоком маркера не следует передача данных.</translation>
+    </message>
+    <message>
+        <source>A transport packet says that it is %1 octets long, which leaves no room for its content.</source>
+        <translation>Длина транспортного пакета указана как %1 октетов: для содержимого не остаётся места.</translation>
+    </message>
+    <message>
+        <source>A transport unit has the unknown code %1.</source>
+        <translation>У транспортного блока неизвестный код %1.</translation>
+    </message>
+    <message>
+        <source>A transport unit is followed by octets that belong to nothing.</source>
+        <translation>За транспортным блоком следуют лишние октеты.</translation>
+    </message>
+    <message>
+        <source>A transport unit needs at least two octets.</source>
+        <translation>В транспортном блоке должно быть не менее двух октетов.</translation>
+    </message>
+    <message>
+        <source>A unit of association control has an unknown tag.</source>
+        <translation>У блока управления ассоциацией неизвестный тег.</translation>
+    </message>
+    <message>
+        <source>Access to the file is denied.</source>
+        <translation>В доступе к файлу отказано.</translation>
+    </message>
+    <message>
+        <source>Access to the object is denied.</source>
+        <translation>В доступе к объекту отказано.</translation>
+    </message>
+    <message>
+        <source>Address already in use</source>
+        <translation>Адрес уже используется</translation>
+    </message>
+    <message>
+        <source>An association request has no application context name.</source>
+        <translation>В запросе ассоциации нет имени прикладного контекста.</translation>
+    </message>
+    <message>
+        <source>An association response has no result.</source>
+        <translation>В ответе на запрос ассоциации нет результата.</translation>
+    </message>
+    <message>
+        <source>An element is longer than the group that it is in.</source>
+        <translation>Элемент длиннее группы, в которой он находится.</translation>
+    </message>
+    <message>
+        <source>An element is longer than the message.</source>
+        <translation>Элемент длиннее сообщения.</translation>
+    </message>
+    <message>
+        <source>An element stands where a service belongs.</source>
+        <translation>На месте службы стоит другой элемент.</translation>
+    </message>
+    <message>
+        <source>An element that is empty by definition has content.</source>
+        <translation>Элемент, который должен быть пустым, имеет содержимое.</translation>
+    </message>
+    <message>
+        <source>An element that is no type stands where a type belongs.</source>
+        <translation>На месте типа стоит другой элемент.</translation>
+    </message>
+    <message>
+        <source>An element that is no value stands where a value belongs.</source>
+        <translation>На месте значения стоит другой элемент.</translation>
+    </message>
+    <message>
+        <source>An incomplete %1 is left in the device.</source>
+        <translation>На устройстве остался неполный файл %1.</translation>
+    </message>
+    <message>
+        <source>An integer has no octet or more than 8.</source>
+        <translation>В целом числе нет октетов или их больше 8.</translation>
+    </message>
+    <message>
+        <source>An integer is out of its range.</source>
+        <translation>Целое число выходит за пределы диапазона.</translation>
+    </message>
+    <message>
+        <source>An internal error ended the association.</source>
+        <translation>Внутренняя ошибка завершила ассоциацию.</translation>
+    </message>
+    <message>
+        <source>An internal error ended the association: %1.</source>
+        <translation>Внутренняя ошибка завершила ассоциацию: %1.</translation>
+    </message>
+    <message>
+        <source>An issuer&apos;s certificate in the file &quot;%1&quot; cannot be used (%2).</source>
+        <translation>Сертификат издателя в файле «%1» непригоден (%2).</translation>
+    </message>
+    <message>
+        <source>An object identifier ends within a number.</source>
+        <translation>Идентификатор объекта обрывается внутри числа.</translation>
+    </message>
+    <message>
+        <source>An object of this name exists already.</source>
+        <translation>Объект с таким именем уже существует.</translation>
+    </message>
+    <message>
+        <source>An unsigned integer has no octet or more than 64 bits.</source>
+        <translation>В целом числе без знака нет октетов или больше 64 битов.</translation>
+    </message>
+    <message>
+        <source>An unsigned integer is out of its range.</source>
+        <translation>Целое число без знака выходит за пределы диапазона.</translation>
+    </message>
+    <message>
+        <source>Broken pipe</source>
+        <translation>Соединение оборвано (Broken pipe)</translation>
+    </message>
+    <message>
+        <source>Cannot allocate memory</source>
+        <translation>Недостаточно памяти</translation>
+    </message>
+    <message>
+        <source>Cannot assign requested address</source>
+        <translation>Не удаётся назначить запрошенный адрес</translation>
+    </message>
+    <message>
+        <source>Cannot listen on %1 port %2: %3.</source>
+        <translation>Не удаётся принимать подключения на %1, порт %2: %3.</translation>
+    </message>
+    <message>
+        <source>Connection refused</source>
+        <translation>В соединении отказано</translation>
+    </message>
+    <message>
+        <source>Connection reset by peer</source>
+        <translation>Соединение сброшено другой стороной</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>Время ожидания соединения истекло</translation>
+    </message>
+    <message>
+        <source>Each variable needs one value to write.</source>
+        <translation>Для каждой переменной нужно одно записываемое значение.</translation>
+    </message>
+    <message>
+        <source>Elements are nested deeper than %1 levels.</source>
+        <translation>Элементы вложены глубже допустимого (уровней: %1).</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Ошибка ввода-вывода</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>Это каталог</translation>
+    </message>
+    <message>
+        <source>It is not a logical node.</source>
+        <translation>Это не логический узел.</translation>
+    </message>
+    <message>
+        <source>It is not known whether %1 is in the device.</source>
+        <translation>Неизвестно, есть ли на устройстве файл %1.</translation>
+    </message>
+    <message>
+        <source>It is not known whether an incomplete %1 is left in the device.</source>
+        <translation>Неизвестно, остался ли на устройстве неполный файл %1.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the device has a part of the file: look at %1.</source>
+        <translation>Неизвестно, есть ли на устройстве часть файла: проверьте %1.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the file has its name: look at %1 and %2.</source>
+        <translation>Неизвестно, получил ли файл своё имя: проверьте %1 и %2.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the file was replaced: look at %1.</source>
+        <translation>Неизвестно, заменён ли файл: проверьте %1.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the old %1 is still there.</source>
+        <translation>Неизвестно, сохранился ли старый файл %1.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the old file is still there: look at %1.</source>
+        <translation>Неизвестно, сохранился ли старый файл: проверьте %1.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the old file is still whole: look at %1.</source>
+        <translation>Неизвестно, цел ли ещё старый файл: проверьте %1.</translation>
+    </message>
+    <message>
+        <source>It is not known whether there is an old %1.</source>
+        <translation>Неизвестно, есть ли старый файл %1.</translation>
+    </message>
+    <message>
+        <source>It was not sent.</source>
+        <translation>Не отправлено.</translation>
+    </message>
+    <message>
+        <source>Modifiers of a request are not supported.</source>
+        <translation>Модификаторы запроса не поддерживаются.</translation>
+    </message>
+    <message>
+        <source>More than %1 name spaces are declared.</source>
+        <translation>Объявленных пространств имён больше %1.</translation>
+    </message>
+    <message>
+        <source>Neither an authority nor a fingerprint says which peers are trusted.</source>
+        <translation>Ни удостоверяющий центр, ни отпечаток не указывает, каким удалённым сторонам доверять.</translation>
+    </message>
+    <message>
+        <source>Network is down</source>
+        <translation>Сеть не работает</translation>
+    </message>
+    <message>
+        <source>Network is unreachable</source>
+        <translation>Сеть недоступна</translation>
+    </message>
+    <message>
+        <source>No connection to %1 port %2: %3.</source>
+        <translation>Нет соединения с %1, порт %2: %3.</translation>
+    </message>
+    <message>
+        <source>No file is given for %1.</source>
+        <translation>Не указан файл: %1.</translation>
+    </message>
+    <message>
+        <source>No route to host</source>
+        <translation>Нет маршрута к узлу</translation>
+    </message>
+    <message>
+        <source>No session entity is attached to the transport selector.</source>
+        <translation>К селектору транспортного уровня не присоединён сеансовый объект.</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>На носителе нет свободного места</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Нет такого файла или каталога</translation>
+    </message>
+    <message>
+        <source>Nobody wants the association any more.</source>
+        <translation>Ассоциация больше не нужна.</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>Это не каталог</translation>
+    </message>
+    <message>
+        <source>Nothing is attached to the peer&apos;s presentation selector.</source>
+        <translation>К селектору уровня представления удалённой стороны ничего не присоединено.</translation>
+    </message>
+    <message>
+        <source>Nothing is attached to the peer&apos;s session selector.</source>
+        <translation>К селектору сеансового уровня удалённой стороны ничего не присоединено.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed on the device.</source>
+        <translation>На устройстве ничего не изменено.</translation>
+    </message>
+    <message>
+        <source>Operation canceled</source>
+        <translation>Операция отменена</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>Операция не разрешена</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Отказано в доступе</translation>
+    </message>
+    <message>
+        <source>Presentation user data is simply encoded, which is not supported.</source>
+        <translation>Данные пользователя уровня представления закодированы простым способом, который не поддерживается.</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>Файловая система доступна только для чтения</translation>
+    </message>
+    <message>
+        <source>Reading the file was cancelled.</source>
+        <translation>Чтение файла отменено.</translation>
+    </message>
+    <message>
+        <source>Reading the file was stopped.</source>
+        <translation>Чтение файла остановлено.</translation>
+    </message>
+    <message>
+        <source>Revocation lists are of no use without the authorities that issued them.</source>
+        <translation>Списки отзыва бесполезны без удостоверяющих центров, которые их выпустили.</translation>
+    </message>
+    <message>
+        <source>Setting groups are counted from 1; 0 cannot become the active group.</source>
+        <translation>Группы уставок нумеруются с 1; группа 0 не может стать активной.</translation>
+    </message>
+    <message>
+        <source>Software caused connection abort</source>
+        <translation>Соединение разорвано программой</translation>
+    </message>
+    <message>
+        <source>Something stands behind the end of %1.</source>
+        <translation>За концом %1 есть лишние данные.</translation>
+    </message>
+    <message>
+        <source>TLS cannot be set up (%1).</source>
+        <translation>TLS не удаётся настроить (%1).</translation>
+    </message>
+    <message>
+        <source>TLS failed for an unknown reason.</source>
+        <translation>Сбой TLS по неизвестной причине.</translation>
+    </message>
+    <message>
+        <source>TLS failed: %1.</source>
+        <translation>Сбой TLS: %1.</translation>
+    </message>
+    <message>
+        <source>The %1 &quot;%2&quot; contains itself; this element is left out.</source>
+        <translation>%1 «%2» содержит сам себя; этот элемент пропущен.</translation>
+    </message>
+    <message>
+        <source>The %1 &quot;%2&quot; does not exist.</source>
+        <translation>%1 «%2» не существует.</translation>
+    </message>
+    <message>
+        <source>The %1 &quot;%2&quot; is defined again; the definition in line %3 is used.</source>
+        <translation>%1 «%2» определён повторно; используется определение в строке %3.</translation>
+    </message>
+    <message>
+        <source>The %1 has no id and cannot be used.</source>
+        <translation>%1 не имеет id и не может использоваться.</translation>
+    </message>
+    <message>
+        <source>The DOType has no common data class (attribute cdc).</source>
+        <translation>У DOType не указан общий класс данных (атрибут cdc).</translation>
+    </message>
+    <message>
+        <source>The EnumType &quot;%1&quot; does not exist.</source>
+        <translation>EnumType «%1» не существует.</translation>
+    </message>
+    <message>
+        <source>The IED &quot;%1&quot; has more than %2 nodes of data.</source>
+        <translation>В ИЭУ «%1» узлов данных больше %2.</translation>
+    </message>
+    <message>
+        <source>The IED &quot;%1&quot; has no access point &quot;%2&quot;.</source>
+        <translation>У ИЭУ «%1» нет точки доступа «%2».</translation>
+    </message>
+    <message>
+        <source>The IED &quot;%1&quot; is not in this file.</source>
+        <translation>ИЭУ «%1» нет в этом файле.</translation>
+    </message>
+    <message>
+        <source>The IED has no name.</source>
+        <translation>У ИЭУ нет имени.</translation>
+    </message>
+    <message>
+        <source>The LNodeType &quot;%1&quot; does not exist.</source>
+        <translation>LNodeType «%1» не существует.</translation>
+    </message>
+    <message>
+        <source>The LNodeType has no class (attribute lnClass).</source>
+        <translation>У LNodeType не указан класс (атрибут lnClass).</translation>
+    </message>
+    <message>
+        <source>The access point &quot;%1&quot; whose server is shared does not exist or has none.</source>
+        <translation>Точка доступа «%1», сервер которой используется совместно, не существует или не имеет сервера.</translation>
+    </message>
+    <message>
+        <source>The active setting group is %1, but there are %2; group 1 is used.</source>
+        <translation>Активной указана группа уставок %1, а всего групп %2; используется группа 1.</translation>
+    </message>
+    <message>
+        <source>The address is not valid.</source>
+        <translation>Адрес недействителен.</translation>
+    </message>
+    <message>
+        <source>The answer cannot be read: %1.</source>
+        <translation>Ответ не удаётся прочитать: %1.</translation>
+    </message>
+    <message>
+        <source>The answer does not fit a message.</source>
+        <translation>Ответ не помещается в сообщение.</translation>
+    </message>
+    <message>
+        <source>The answer does not match the question.</source>
+        <translation>Ответ не соответствует запросу.</translation>
+    </message>
+    <message>
+        <source>The association is being concluded.</source>
+        <translation>Ассоциация завершается.</translation>
+    </message>
+    <message>
+        <source>The association was refused.</source>
+        <translation>В ассоциации отказано.</translation>
+    </message>
+    <message>
+        <source>The association was released.</source>
+        <translation>Ассоциация завершена.</translation>
+    </message>
+    <message>
+        <source>The attribute &quot;%1&quot; that holds the number of elements of &quot;%2&quot; has no value; the array is empty.</source>
+        <translation>Атрибут «%1», задающий число элементов «%2», не имеет значения; массив пуст.</translation>
+    </message>
+    <message>
+        <source>The attribute &quot;%1&quot; that should hold the number of array elements does not exist; the array is empty.</source>
+        <translation>Атрибут «%1», который должен задавать число элементов массива, не существует; массив пуст.</translation>
+    </message>
+    <message>
+        <source>The attribute has no basic type (attribute bType).</source>
+        <translation>У атрибута нет базового типа (атрибут bType).</translation>
+    </message>
+    <message>
+        <source>The attribute has no functional constraint (attribute fc) and cannot be addressed.</source>
+        <translation>У атрибута нет функциональной связи (атрибут fc), поэтому к нему нельзя обратиться.</translation>
+    </message>
+    <message>
+        <source>The attribute is an enumeration without a type (attribute type).</source>
+        <translation>Атрибут является перечислением без типа (атрибут type).</translation>
+    </message>
+    <message>
+        <source>The attributes of the object contradict each other.</source>
+        <translation>Атрибуты объекта противоречат друг другу.</translation>
+    </message>
+    <message>
+        <source>The authority in the file &quot;%1&quot; cannot be used (%2).</source>
+        <translation>Удостоверяющий центр в файле «%1» непригоден (%2).</translation>
+    </message>
+    <message>
+        <source>The basic type is written &quot;%1&quot; instead of &quot;%2&quot;.</source>
+        <translation>Базовый тип записан как «%1» вместо «%2».</translation>
+    </message>
+    <message>
+        <source>The block belongs to another association of this computer, %1.</source>
+        <translation>Блок принадлежит другой ассоциации этого компьютера, %1.</translation>
+    </message>
+    <message>
+        <source>The block belongs to the client %1.</source>
+        <translation>Блок принадлежит клиенту %1.</translation>
+    </message>
+    <message>
+        <source>The call can no longer be cancelled.</source>
+        <translation>Запрос уже нельзя отменить.</translation>
+    </message>
+    <message>
+        <source>The call cannot be cancelled.</source>
+        <translation>Запрос нельзя отменить.</translation>
+    </message>
+    <message>
+        <source>The call was cancelled.</source>
+        <translation>Запрос отменён.</translation>
+    </message>
+    <message>
+        <source>The certificate &quot;%1&quot; in the file &quot;%2&quot;</source>
+        <translation>Сертификат «%1» в файле «%2»</translation>
+    </message>
+    <message>
+        <source>The certificate in the file &quot;%1&quot; cannot be used (%2).</source>
+        <translation>Сертификат в файле «%1» непригоден (%2).</translation>
+    </message>
+    <message>
+        <source>The class is &quot;%1&quot;, but the LNodeType &quot;%2&quot; is of class &quot;%3&quot;.</source>
+        <translation>Указан класс «%1», но LNodeType «%2» имеет класс «%3».</translation>
+    </message>
+    <message>
+        <source>The class of an LN0 is &quot;%1&quot; instead of &quot;LLN0&quot;.</source>
+        <translation>Класс LN0 указан как «%1» вместо «LLN0».</translation>
+    </message>
+    <message>
+        <source>The client is gone.</source>
+        <translation>Клиент отключился.</translation>
+    </message>
+    <message>
+        <source>The connection to the other application is lost.</source>
+        <translation>Связь с другим приложением потеряна.</translation>
+    </message>
+    <message>
+        <source>The content type of the file is not valid.</source>
+        <translation>Вид содержимого файла недействителен.</translation>
+    </message>
+    <message>
+        <source>The control block has no name.</source>
+        <translation>У блока управления нет имени.</translation>
+    </message>
+    <message>
+        <source>The control model of %1 cannot be read: %2.</source>
+        <translation>Модель управления %1 не удаётся прочитать: %2.</translation>
+    </message>
+    <message>
+        <source>The control model of %1 is %2, which is none.</source>
+        <translation>Модель управления %1 указана как %2; такой модели нет.</translation>
+    </message>
+    <message>
+        <source>The data below this element are nested deeper than %1 levels; the element is left out.</source>
+        <translation>Данные под этим элементом вложены глубже допустимого (уровней: %1); элемент пропущен.</translation>
+    </message>
+    <message>
+        <source>The data set &quot;%1&quot; of the control block does not exist in its logical node.</source>
+        <translation>Набора данных «%1», указанного в блоке управления, нет в его логическом узле.</translation>
+    </message>
+    <message>
+        <source>The data set has no members.</source>
+        <translation>В наборе данных нет элементов.</translation>
+    </message>
+    <message>
+        <source>The data set has no name.</source>
+        <translation>У набора данных нет имени.</translation>
+    </message>
+    <message>
+        <source>The definition of the object does not allow this.</source>
+        <translation>Определение объекта не допускает этого.</translation>
+    </message>
+    <message>
+        <source>The device answered another service.</source>
+        <translation>Устройство ответило на другую службу.</translation>
+    </message>
+    <message>
+        <source>The device cannot carry out the service.</source>
+        <translation>Устройство не может выполнить службу.</translation>
+    </message>
+    <message>
+        <source>The device cannot check interlocking.</source>
+        <translation>Устройство не может проверить блокировку.</translation>
+    </message>
+    <message>
+        <source>The device cannot check synchronism.</source>
+        <translation>Устройство не может проверить синхронизм.</translation>
+    </message>
+    <message>
+        <source>The device cannot operate at a given time.</source>
+        <translation>Устройство не может исполнить команду в заданное время.</translation>
+    </message>
+    <message>
+        <source>The device cannot test a command.</source>
+        <translation>Устройство не поддерживает команды в режиме проверки.</translation>
+    </message>
+    <message>
+        <source>The device cannot transfer the domain.</source>
+        <translation>Устройство не может передать домен.</translation>
+    </message>
+    <message>
+        <source>The device describes more than the %1 values in %2 octets that are taken; the rest is left out.</source>
+        <translation>Устройство описывает больше допустимого (%1 значений в %2 октетах); остальное пропущено.</translation>
+    </message>
+    <message>
+        <source>The device describes the originator as %1.</source>
+        <translation>Устройство описывает инициатора команды как %1.</translation>
+    </message>
+    <message>
+        <source>The device does not accept the syntax of the file name.</source>
+        <translation>Устройство не принимает синтаксис имени файла.</translation>
+    </message>
+    <message>
+        <source>The device does not answer any more.</source>
+        <translation>Устройство больше не отвечает.</translation>
+    </message>
+    <message>
+        <source>The device does not know the call to cancel.</source>
+        <translation>Устройству неизвестен запрос, который нужно отменить.</translation>
+    </message>
+    <message>
+        <source>The device does not know the capability.</source>
+        <translation>Устройству неизвестна возможность (Capability).</translation>
+    </message>
+    <message>
+        <source>The device does not know the state machine.</source>
+        <translation>Устройству неизвестен конечный автомат.</translation>
+    </message>
+    <message>
+        <source>The device does not let the data set %1 be deleted.</source>
+        <translation>Устройство не позволяет удалить набор данных %1.</translation>
+    </message>
+    <message>
+        <source>The device does not list its logical devices: %1.</source>
+        <translation>Устройство не перечисляет свои логические устройства: %1.</translation>
+    </message>
+    <message>
+        <source>The device does not say what belongs to the command.</source>
+        <translation>Устройство не сообщает, из чего состоит команда.</translation>
+    </message>
+    <message>
+        <source>The device does not support the time resolution.</source>
+        <translation>Устройство не поддерживает такое разрешение по времени.</translation>
+    </message>
+    <message>
+        <source>The device gave a reason for refusing a command that cannot be read: %1.</source>
+        <translation>Устройство отклонило команду с причиной, которую не удаётся прочитать: %1.</translation>
+    </message>
+    <message>
+        <source>The device gave up after its own time limit.</source>
+        <translation>Устройство прекратило выполнение по собственному пределу времени.</translation>
+    </message>
+    <message>
+        <source>The device gave up because of a deadlock.</source>
+        <translation>Устройство прекратило выполнение из-за взаимной блокировки.</translation>
+    </message>
+    <message>
+        <source>The device gave up the call.</source>
+        <translation>Устройство прекратило выполнение запроса.</translation>
+    </message>
+    <message>
+        <source>The device gives names without end.</source>
+        <translation>Устройство бесконечно выдаёт имена.</translation>
+    </message>
+    <message>
+        <source>The device has an operational problem.</source>
+        <translation>В устройстве неполадка.</translation>
+    </message>
+    <message>
+        <source>The device has more names than the %1 names and %2 octets that are taken; the others are left out.</source>
+        <translation>Имён в устройстве больше допустимого (%1 имён в %2 октетах); остальные пропущены.</translation>
+    </message>
+    <message>
+        <source>The device has more than %1 logical devices; the others are left out.</source>
+        <translation>Логических устройств в устройстве больше %1; остальные пропущены.</translation>
+    </message>
+    <message>
+        <source>The device has more than %1 logical nodes; the others are left out.</source>
+        <translation>Логических узлов в устройстве больше %1; остальные пропущены.</translation>
+    </message>
+    <message>
+        <source>The device has neither %1 nor %2 any more.</source>
+        <translation>На устройстве больше нет ни файла %1, ни файла %2.</translation>
+    </message>
+    <message>
+        <source>The device has no free capability for this.</source>
+        <translation>У устройства нет для этого свободной возможности (Capability).</translation>
+    </message>
+    <message>
+        <source>The device has not enough computing time.</source>
+        <translation>Устройству не хватает процессорного времени.</translation>
+    </message>
+    <message>
+        <source>The device has not enough memory.</source>
+        <translation>Устройству не хватает оперативной памяти.</translation>
+    </message>
+    <message>
+        <source>The device has not enough storage.</source>
+        <translation>Устройству не хватает места для хранения.</translation>
+    </message>
+    <message>
+        <source>The device has not the resources for this.</source>
+        <translation>Устройству не хватает для этого ресурсов.</translation>
+    </message>
+    <message>
+        <source>The device has something to finish first.</source>
+        <translation>Устройство должно сначала завершить другое действие.</translation>
+    </message>
+    <message>
+        <source>The device has stopped fetching the file after %1 of %2 octets.</source>
+        <translation>Устройство перестало забирать файл после %1 из %2 октетов.</translation>
+    </message>
+    <message>
+        <source>The device is in a state that does not allow this.</source>
+        <translation>Устройство находится в состоянии, которое этого не допускает.</translation>
+    </message>
+    <message>
+        <source>The device lists its files without an end.</source>
+        <translation>Устройство бесконечно перечисляет свои файлы.</translation>
+    </message>
+    <message>
+        <source>The device refuses the association.</source>
+        <translation>Устройство отказывает в ассоциации.</translation>
+    </message>
+    <message>
+        <source>The device refuses the file operation.</source>
+        <translation>Устройство отклоняет операцию с файлом.</translation>
+    </message>
+    <message>
+        <source>The device refuses to conclude the association.</source>
+        <translation>Устройство отказывается завершить ассоциацию.</translation>
+    </message>
+    <message>
+        <source>The device refuses without giving a reason.</source>
+        <translation>Устройство отказывает без указания причины.</translation>
+    </message>
+    <message>
+        <source>The device rejects a cancel (%1).</source>
+        <translation>Устройство отвергает отмену (Cancel): %1.</translation>
+    </message>
+    <message>
+        <source>The device rejects a conclude (%1).</source>
+        <translation>Устройство отвергает завершение (Conclude): %1.</translation>
+    </message>
+    <message>
+        <source>The device rejects a message that it cannot read (%1).</source>
+        <translation>Устройство отвергает сообщение, которое не может прочитать (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects a request (%1).</source>
+        <translation>Устройство отвергает запрос (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects an answer (%1).</source>
+        <translation>Устройство отвергает ответ (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects an error (%1).</source>
+        <translation>Устройство отвергает сообщение об ошибке (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects an unconfirmed message (%1).</source>
+        <translation>Устройство отвергает неподтверждаемое сообщение (%1).</translation>
+    </message>
+    <message>
+        <source>The device rejects the answer to a cancel (%1).</source>
+        <translation>Устройство отвергает ответ на отмену (Cancel): %1.</translation>
+    </message>
+    <message>
+        <source>The device rejects the answer to a conclude (%1).</source>
+        <translation>Устройство отвергает ответ на завершение (Conclude): %1.</translation>
+    </message>
+    <message>
+        <source>The device rejects the refusal of a cancel (%1).</source>
+        <translation>Устройство отвергает отказ в отмене (Cancel): %1.</translation>
+    </message>
+    <message>
+        <source>The device rejects the refusal of a conclude (%1).</source>
+        <translation>Устройство отвергает отказ в завершении (Conclude): %1.</translation>
+    </message>
+    <message>
+        <source>The device repeats the same page of names.</source>
+        <translation>Устройство повторяет одну и ту же страницу имён.</translation>
+    </message>
+    <message>
+        <source>The device reports a hardware fault.</source>
+        <translation>Устройство сообщает об аппаратной неисправности.</translation>
+    </message>
+    <message>
+        <source>The device reports the unknown data access error %1.</source>
+        <translation>Устройство сообщает о неизвестной ошибке доступа к данным %1.</translation>
+    </message>
+    <message>
+        <source>The device says that it has the file, but it has fetched only %1 of %2 octets.</source>
+        <translation>Устройство сообщает, что файл получен, но забрало лишь %1 из %2 октетов.</translation>
+    </message>
+    <message>
+        <source>The device sends empty blocks of the file without an end.</source>
+        <translation>Устройство бесконечно отправляет пустые блоки файла.</translation>
+    </message>
+    <message>
+        <source>The device took longer than %1 minutes to describe itself; what it had not told by then is left out.</source>
+        <translation>Устройство описывало себя дольше, чем %1 мин; то, что оно не успело сообщить, пропущено.</translation>
+    </message>
+    <message>
+        <source>The device uses another version of the protocol.</source>
+        <translation>Устройство использует другую версию протокола.</translation>
+    </message>
+    <message>
+        <source>The device wants %1 also as a whole number, but does not say by which scale (sVC).</source>
+        <translation>Устройство требует значение %1 также в виде целого числа, но не сообщает масштаб (sVC).</translation>
+    </message>
+    <message>
+        <source>The device wants a part %1 in the command, which is not known.</source>
+        <translation>Устройство требует в команде неизвестную часть %1.</translation>
+    </message>
+    <message>
+        <source>The device wants an unknown part %1 of the originator.</source>
+        <translation>Устройство требует в данных инициатора неизвестную часть %1.</translation>
+    </message>
+    <message>
+        <source>The device&apos;s answer does not match the question.</source>
+        <translation>Ответ устройства не соответствует вопросу.</translation>
+    </message>
+    <message>
+        <source>The device&apos;s answer does not match the request.</source>
+        <translation>Ответ устройства не соответствует запросу.</translation>
+    </message>
+    <message>
+        <source>The directory &quot;%1&quot; cannot be served: %2.</source>
+        <translation>Каталог «%1» не удаётся предоставить: %2.</translation>
+    </message>
+    <message>
+        <source>The discovery was cancelled.</source>
+        <translation>Чтение модели отменено.</translation>
+    </message>
+    <message>
+        <source>The element %1 is missing or of an unknown kind.</source>
+        <translation>Элемент %1 отсутствует или имеет неизвестный вид.</translation>
+    </message>
+    <message>
+        <source>The element %1 is missing.</source>
+        <translation>Элемент %1 отсутствует.</translation>
+    </message>
+    <message>
+        <source>The element %1 is not where it belongs.</source>
+        <translation>Элемент %1 стоит не на своём месте.</translation>
+    </message>
+    <message>
+        <source>The element does not name an access point.</source>
+        <translation>Элемент не указывает точку доступа.</translation>
+    </message>
+    <message>
+        <source>The element has no name and is left out.</source>
+        <translation>У элемента нет имени, он пропущен.</translation>
+    </message>
+    <message>
+        <source>The element has no type (attribute type).</source>
+        <translation>У элемента нет типа (атрибут type).</translation>
+    </message>
+    <message>
+        <source>The elements are nested too deeply.</source>
+        <translation>Вложенность элементов слишком глубокая.</translation>
+    </message>
+    <message>
+        <source>The encoding is declared as &quot;%1&quot;, but the file holds single bytes; it is read as UTF-8.</source>
+        <translation>Объявлена кодировка «%1», но файл состоит из отдельных байтов; он читается как UTF-8.</translation>
+    </message>
+    <message>
+        <source>The encoding is written &quot;%1&quot; instead of &quot;ISO-8859-1&quot;.</source>
+        <translation>Кодировка записана как «%1» вместо «ISO-8859-1».</translation>
+    </message>
+    <message>
+        <source>The encoding is written &quot;%1&quot; instead of &quot;UTF-8&quot;; it is read as UTF-8.</source>
+        <translation>Кодировка записана как «%1» вместо «UTF-8»; файл читается как UTF-8.</translation>
+    </message>
+    <message>
+        <source>The entity &quot;%1&quot; is not declared.</source>
+        <translation>Сущность «%1» не объявлена.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be opened: %2.</source>
+        <translation>Файл «%1» не открывается: %2.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; holds no certificate in PEM.</source>
+        <translation>В файле «%1» нет сертификата в формате PEM.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; holds no private key in PEM.</source>
+        <translation>В файле «%1» нет закрытого ключа в формате PEM.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; holds no revocation list in PEM.</source>
+        <translation>В файле «%1» нет списка отзыва в формате PEM.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; with %2 cannot be opened: %3.</source>
+        <translation>Файл «%1» (%2) не открывается: %3.</translation>
+    </message>
+    <message>
+        <source>The file became shorter while it was read.</source>
+        <translation>Файл стал короче во время чтения.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read to its end.</source>
+        <translation>Файл не удаётся прочитать до конца.</translation>
+    </message>
+    <message>
+        <source>The file declares an entity, which is not accepted.</source>
+        <translation>В файле объявлена сущность, это не принимается.</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>Файл не существует.</translation>
+    </message>
+    <message>
+        <source>The file ends before its root element is complete.</source>
+        <translation>Файл обрывается до конца корневого элемента.</translation>
+    </message>
+    <message>
+        <source>The file ends within a character.</source>
+        <translation>Файл обрывается внутри символа.</translation>
+    </message>
+    <message>
+        <source>The file in the device may be incomplete: look at %1.</source>
+        <translation>Файл на устройстве может быть неполным: проверьте %1.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Файл пуст.</translation>
+    </message>
+    <message>
+        <source>The file is in use.</source>
+        <translation>Файл занят.</translation>
+    </message>
+    <message>
+        <source>The file is larger than %1 bytes.</source>
+        <translation>Размер файла в байтах больше %1.</translation>
+    </message>
+    <message>
+        <source>The file is not well-formed XML: %1.</source>
+        <translation>Файл не является корректным XML: %1.</translation>
+    </message>
+    <message>
+        <source>The file name is ambiguous.</source>
+        <translation>Имя файла неоднозначно.</translation>
+    </message>
+    <message>
+        <source>The file refers to an external document type, which is not accepted.</source>
+        <translation>Файл ссылается на внешний тип документа, это не принимается.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s encoding is not the one declared, or it is not known.</source>
+        <translation>Кодировка файла отличается от объявленной или неизвестна.</translation>
+    </message>
+    <message>
+        <source>The header of a transport unit is longer than the packet.</source>
+        <translation>Заголовок транспортного блока длиннее пакета.</translation>
+    </message>
+    <message>
+        <source>The import was cancelled.</source>
+        <translation>Импорт отменён.</translation>
+    </message>
+    <message>
+        <source>The instance has no name and is left out.</source>
+        <translation>У экземпляра нет имени, он пропущен.</translation>
+    </message>
+    <message>
+        <source>The instance is given twice; the first is used.</source>
+        <translation>Экземпляр указан дважды; используется первый.</translation>
+    </message>
+    <message>
+        <source>The issuer&apos;s certificate &quot;%1&quot;</source>
+        <translation>Сертификат «%1» издателя</translation>
+    </message>
+    <message>
+        <source>The length of an element is too large.</source>
+        <translation>Длина элемента слишком велика.</translation>
+    </message>
+    <message>
+        <source>The list cannot be continued after the given name.</source>
+        <translation>Список нельзя продолжить после указанного имени.</translation>
+    </message>
+    <message>
+        <source>The literal &quot;%1&quot; begins or ends with a blank.</source>
+        <translation>Литерал «%1» начинается или заканчивается пробелом.</translation>
+    </message>
+    <message>
+        <source>The logical device has no LN0.</source>
+        <translation>В логическом устройстве нет LN0.</translation>
+    </message>
+    <message>
+        <source>The logical device has no instance name (attribute inst).</source>
+        <translation>У логического устройства нет имени экземпляра (атрибут inst).</translation>
+    </message>
+    <message>
+        <source>The logical node has another setting group control; the first is used.</source>
+        <translation>В логическом узле есть ещё одно управление группами уставок; используется первое.</translation>
+    </message>
+    <message>
+        <source>The logical node has no class (attribute lnClass).</source>
+        <translation>У логического узла нет класса (атрибут lnClass).</translation>
+    </message>
+    <message>
+        <source>The logical node has no instance number (attribute inst).</source>
+        <translation>У логического узла нет номера экземпляра (атрибут inst).</translation>
+    </message>
+    <message>
+        <source>The logical node has no type (attribute lnType).</source>
+        <translation>У логического узла нет типа (атрибут lnType).</translation>
+    </message>
+    <message>
+        <source>The lowest version of TLS that is allowed is above the highest one.</source>
+        <translation>Наименьшая допустимая версия TLS выше наибольшей.</translation>
+    </message>
+    <message>
+        <source>The message ends within an element.</source>
+        <translation>Сообщение обрывается внутри элемента.</translation>
+    </message>
+    <message>
+        <source>The message holds more elements than allowed.</source>
+        <translation>Элементов в сообщении больше допустимого.</translation>
+    </message>
+    <message>
+        <source>The message is empty.</source>
+        <translation>Сообщение пустое.</translation>
+    </message>
+    <message>
+        <source>The message is longer than allowed.</source>
+        <translation>Сообщение длиннее допустимого.</translation>
+    </message>
+    <message>
+        <source>The message is no MMS PDU.</source>
+        <translation>Сообщение не является MMS PDU.</translation>
+    </message>
+    <message>
+        <source>The message size is too small for the device.</source>
+        <translation>Размер сообщения слишком мал для устройства.</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; cannot be resolved: %2.</source>
+        <translation>Имя «%1» не удаётся преобразовать в адрес: %2.</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; was not resolved in time.</source>
+        <translation>Имя «%1» не удалось вовремя преобразовать в адрес.</translation>
+    </message>
+    <message>
+        <source>The name of the other application is not valid.</source>
+        <translation>Имя другого приложения недействительно.</translation>
+    </message>
+    <message>
+        <source>The name space prefix &quot;%1&quot; is not declared; its elements are skipped.</source>
+        <translation>Префикс пространства имён «%1» не объявлен; его элементы пропущены.</translation>
+    </message>
+    <message>
+        <source>The names</source>
+        <translation>Имена</translation>
+    </message>
+    <message>
+        <source>The names of %1</source>
+        <translation>Имена %1</translation>
+    </message>
+    <message>
+        <source>The names of the data</source>
+        <translation>Имена данных</translation>
+    </message>
+    <message>
+        <source>The names of the data of %1</source>
+        <translation>Имена данных %1</translation>
+    </message>
+    <message>
+        <source>The names of the data sets</source>
+        <translation>Имена наборов данных</translation>
+    </message>
+    <message>
+        <source>The names of the data sets of %1</source>
+        <translation>Имена наборов данных %1</translation>
+    </message>
+    <message>
+        <source>The nesting level does not suit the device.</source>
+        <translation>Глубина вложенности не подходит устройству.</translation>
+    </message>
+    <message>
+        <source>The network connection broke during the TLS handshake: %1.</source>
+        <translation>Сетевое соединение оборвалось при установлении TLS: %1.</translation>
+    </message>
+    <message>
+        <source>The network connection broke: %1.</source>
+        <translation>Сетевое соединение оборвалось: %1.</translation>
+    </message>
+    <message>
+        <source>The new file is in the device as %1.</source>
+        <translation>Новый файл находится на устройстве под именем %1.</translation>
+    </message>
+    <message>
+        <source>The number of instances is %1; %2 is used.</source>
+        <translation>Число экземпляров равно %1; используется %2.</translation>
+    </message>
+    <message>
+        <source>The number of outstanding calls does not suit the device.</source>
+        <translation>Число ожидающих запросов не подходит устройству.</translation>
+    </message>
+    <message>
+        <source>The number of outstanding calls of the device does not suit it.</source>
+        <translation>Число собственных ожидающих запросов устройства ему не подходит.</translation>
+    </message>
+    <message>
+        <source>The number of setting groups is 0; 1 is used.</source>
+        <translation>Число групп уставок равно 0; используется 1.</translation>
+    </message>
+    <message>
+        <source>The object cannot be accessed in this way.</source>
+        <translation>К объекту нельзя обратиться таким способом.</translation>
+    </message>
+    <message>
+        <source>The object cannot be accessed.</source>
+        <translation>К объекту нельзя обратиться.</translation>
+    </message>
+    <message>
+        <source>The object does not exist.</source>
+        <translation>Объект не существует.</translation>
+    </message>
+    <message>
+        <source>The object is in a state that does not allow this.</source>
+        <translation>Объект находится в состоянии, которое этого не допускает.</translation>
+    </message>
+    <message>
+        <source>The object is no longer valid.</source>
+        <translation>Объект больше не действителен.</translation>
+    </message>
+    <message>
+        <source>The object is not available at the moment.</source>
+        <translation>Объект сейчас недоступен.</translation>
+    </message>
+    <message>
+        <source>The object is not defined.</source>
+        <translation>Объект не определён.</translation>
+    </message>
+    <message>
+        <source>The old file had to be deleted before and is lost.</source>
+        <translation>Старый файл пришлось удалить заранее, он утрачен.</translation>
+    </message>
+    <message>
+        <source>The old file is still there.</source>
+        <translation>Старый файл остался на месте.</translation>
+    </message>
+    <message>
+        <source>The old file was deleted before.</source>
+        <translation>Старый файл был удалён заранее.</translation>
+    </message>
+    <message>
+        <source>The options offered do not suit the device.</source>
+        <translation>Предложенные параметры не подходят устройству.</translation>
+    </message>
+    <message>
+        <source>The ordinal %1 is given twice; the first literal is used.</source>
+        <translation>Порядковый номер %1 указан дважды; используется первый литерал.</translation>
+    </message>
+    <message>
+        <source>The originator identification has %1 octets; at most %2 are allowed.</source>
+        <translation>Идентификатор инициатора содержит %1 октетов, допустимо не более %2.</translation>
+    </message>
+    <message>
+        <source>The other application cannot be reached.</source>
+        <translation>Другое приложение недоступно.</translation>
+    </message>
+    <message>
+        <source>The other application does not support the context.</source>
+        <translation>Другое приложение не поддерживает контекст.</translation>
+    </message>
+    <message>
+        <source>The part %1 of the command cannot be %2.</source>
+        <translation>Часть %1 команды: значение %2 недопустимо.</translation>
+    </message>
+    <message>
+        <source>The peer %1 has %2 connections that are no associations yet, which is the limit.</source>
+        <translation>Удалённая сторона %1: соединений без ассоциации уже %2, больше не допускается.</translation>
+    </message>
+    <message>
+        <source>The peer aborted the association.</source>
+        <translation>Удалённая сторона прервала ассоциацию.</translation>
+    </message>
+    <message>
+        <source>The peer aborted the session.</source>
+        <translation>Удалённая сторона прервала сеанс.</translation>
+    </message>
+    <message>
+        <source>The peer accepted the session with an unsuitable version.</source>
+        <translation>Удалённая сторона приняла сеанс с неподходящей версией.</translation>
+    </message>
+    <message>
+        <source>The peer and this side have no cipher suite in common, or no certificate fits it.</source>
+        <translation>У удалённой стороны и этой стороны нет общего набора шифров, или к нему не подходит ни один сертификат.</translation>
+    </message>
+    <message>
+        <source>The peer and this side have no version of TLS in common.</source>
+        <translation>У удалённой стороны и этой стороны нет общей версии TLS.</translation>
+    </message>
+    <message>
+        <source>The peer answered the initiate request with something else.</source>
+        <translation>Удалённая сторона ответила на запрос Initiate чем-то другим.</translation>
+    </message>
+    <message>
+        <source>The peer answers for too many presentation contexts.</source>
+        <translation>Удалённая сторона отвечает для слишком большого числа контекстов представления.</translation>
+    </message>
+    <message>
+        <source>The peer asked for a transport class other than 0.</source>
+        <translation>Удалённая сторона запросила транспортный класс, отличный от 0.</translation>
+    </message>
+    <message>
+        <source>The peer asked for an application context other than MMS.</source>
+        <translation>Удалённая сторона запросила прикладной контекст, отличный от MMS.</translation>
+    </message>
+    <message>
+        <source>The peer asked for an unknown presentation selector.</source>
+        <translation>Удалённая сторона запросила неизвестный селектор уровня представления.</translation>
+    </message>
+    <message>
+        <source>The peer asked for an unknown transport selector.</source>
+        <translation>Удалённая сторона запросила неизвестный селектор транспортного уровня.</translation>
+    </message>
+    <message>
+        <source>The peer asks for a certificate, and this side has none that it trusts.</source>
+        <translation>Удалённая сторона требует сертификат, а у этой стороны нет такого, которому та доверяет.</translation>
+    </message>
+    <message>
+        <source>The peer asks for a presentation mode other than normal mode.</source>
+        <translation>Удалённая сторона запрашивает режим представления, отличный от нормального.</translation>
+    </message>
+    <message>
+        <source>The peer asks for too many presentation contexts.</source>
+        <translation>Удалённая сторона запрашивает слишком много контекстов представления.</translation>
+    </message>
+    <message>
+        <source>The peer cannot read the presentation user data.</source>
+        <translation>Удалённая сторона не может прочитать данные пользователя уровня представления.</translation>
+    </message>
+    <message>
+        <source>The peer closed the network connection instead of a TLS handshake.</source>
+        <translation>Удалённая сторона закрыла сетевое соединение вместо установления TLS.</translation>
+    </message>
+    <message>
+        <source>The peer closed the network connection instead of a TLS handshake; it may not speak TLS on this port.</source>
+        <translation>Удалённая сторона закрыла сетевое соединение вместо установления TLS; возможно, на этом порту она не использует TLS.</translation>
+    </message>
+    <message>
+        <source>The peer closed the network connection.</source>
+        <translation>Удалённая сторона закрыла сетевое соединение.</translation>
+    </message>
+    <message>
+        <source>The peer confirmed a transport class other than 0.</source>
+        <translation>Удалённая сторона подтвердила транспортный класс, отличный от 0.</translation>
+    </message>
+    <message>
+        <source>The peer cuts session data into segments, which was not agreed.</source>
+        <translation>Удалённая сторона делит данные сеанса на сегменты, это не согласовано.</translation>
+    </message>
+    <message>
+        <source>The peer did not accept the presentation contexts of ACSE and MMS.</source>
+        <translation>Удалённая сторона не приняла контексты представления ACSE и MMS.</translation>
+    </message>
+    <message>
+        <source>The peer did not answer in time.</source>
+        <translation>Удалённая сторона не ответила вовремя.</translation>
+    </message>
+    <message>
+        <source>The peer did not answer the release in time.</source>
+        <translation>Удалённая сторона не ответила вовремя на завершение ассоциации.</translation>
+    </message>
+    <message>
+        <source>The peer did not ask for the presentation contexts of ACSE and MMS.</source>
+        <translation>Удалённая сторона не запросила контексты представления ACSE и MMS.</translation>
+    </message>
+    <message>
+        <source>The peer did not complete the TLS handshake in time.</source>
+        <translation>Удалённая сторона не закончила вовремя установление TLS.</translation>
+    </message>
+    <message>
+        <source>The peer did not complete the association in time.</source>
+        <translation>Удалённая сторона не закончила вовремя установление ассоциации.</translation>
+    </message>
+    <message>
+        <source>The peer does not conclude the association: %1.</source>
+        <translation>Удалённая сторона не завершает ассоциацию: %1.</translation>
+    </message>
+    <message>
+        <source>The peer does not know the presentation selector.</source>
+        <translation>Удалённой стороне неизвестен селектор уровня представления.</translation>
+    </message>
+    <message>
+        <source>The peer does not know the session selector.</source>
+        <translation>Удалённой стороне неизвестен селектор сеансового уровня.</translation>
+    </message>
+    <message>
+        <source>The peer does not know the transport selector.</source>
+        <translation>Удалённой стороне неизвестен селектор транспортного уровня.</translation>
+    </message>
+    <message>
+        <source>The peer does not read what it is sent.</source>
+        <translation>Удалённая сторона не читает то, что ей отправлено.</translation>
+    </message>
+    <message>
+        <source>The peer does not speak ISO transport over TCP: a packet begins with %1 instead of 3.</source>
+        <translation>Удалённая сторона не использует транспорт ISO поверх TCP: пакет начинается с %1 вместо 3.</translation>
+    </message>
+    <message>
+        <source>The peer does not speak TLS, which is required here.</source>
+        <translation>Удалённая сторона не использует TLS, а здесь он обязателен.</translation>
+    </message>
+    <message>
+        <source>The peer does not speak TLS.</source>
+        <translation>Удалённая сторона не использует TLS.</translation>
+    </message>
+    <message>
+        <source>The peer does not support the default context.</source>
+        <translation>Удалённая сторона не поддерживает контекст по умолчанию.</translation>
+    </message>
+    <message>
+        <source>The peer does not support the proposed version of the session protocol.</source>
+        <translation>Удалённая сторона не поддерживает предложенную версию сеансового протокола.</translation>
+    </message>
+    <message>
+        <source>The peer does not support the version of the presentation protocol.</source>
+        <translation>Удалённая сторона не поддерживает версию протокола представления.</translation>
+    </message>
+    <message>
+        <source>The peer ended the transport connection normally.</source>
+        <translation>Удалённая сторона нормально завершила транспортное соединение.</translation>
+    </message>
+    <message>
+        <source>The peer ended the transport connection with reason %1.</source>
+        <translation>Удалённая сторона завершила транспортное соединение с причиной %1.</translation>
+    </message>
+    <message>
+        <source>The peer ended the transport connection without a reason.</source>
+        <translation>Удалённая сторона завершила транспортное соединение без указания причины.</translation>
+    </message>
+    <message>
+        <source>The peer gave no sign of life in time.</source>
+        <translation>Удалённая сторона вовремя не подала признаков жизни.</translation>
+    </message>
+    <message>
+        <source>The peer has shown no certificate.</source>
+        <translation>Удалённая сторона не предъявила сертификат.</translation>
+    </message>
+    <message>
+        <source>The peer knows the certificate of this side and denies it access.</source>
+        <translation>Удалённой стороне известен сертификат этой стороны, но в доступе она отказывает.</translation>
+    </message>
+    <message>
+        <source>The peer refuses a parameter code of the transport unit.</source>
+        <translation>Удалённая сторона отклоняет код параметра транспортного блока.</translation>
+    </message>
+    <message>
+        <source>The peer refuses a parameter value of the transport unit.</source>
+        <translation>Удалённая сторона отклоняет значение параметра транспортного блока.</translation>
+    </message>
+    <message>
+        <source>The peer refuses a transport unit without a reason.</source>
+        <translation>Удалённая сторона отклоняет транспортный блок без указания причины.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the association for the time being.</source>
+        <translation>Удалённая сторона временно отказывает в ассоциации.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the association for the time being: %1.</source>
+        <translation>Удалённая сторона временно отказывает в ассоциации: %1.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the association.</source>
+        <translation>Удалённая сторона отказывает в ассоциации.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the association: %1.</source>
+        <translation>Удалённая сторона отказывает в ассоциации: %1.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the certificate of this side because it does not trust its issuer.</source>
+        <translation>Удалённая сторона отклоняет сертификат этой стороны, так как не доверяет его издателю.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the certificate of this side because it has been revoked.</source>
+        <translation>Удалённая сторона отклоняет сертификат этой стороны, так как он отозван.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the certificate of this side because it has expired or is not valid yet.</source>
+        <translation>Удалённая сторона отклоняет сертификат этой стороны, так как его срок истёк или ещё не начался.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the certificate of this side because it is not of a kind that it takes.</source>
+        <translation>Удалённая сторона отклоняет сертификат этой стороны, так как не принимает сертификаты такого вида.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the certificate of this side.</source>
+        <translation>Удалённая сторона отклоняет сертификат этой стороны.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the handshake because a signature of this side does not fit.</source>
+        <translation>Удалённая сторона отклоняет установление TLS, так как подпись этой стороны не подходит.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the initiate request.</source>
+        <translation>Удалённая сторона отклоняет запрос Initiate.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the presentation connection with reason %1.</source>
+        <translation>Удалённая сторона отклоняет соединение уровня представления с причиной %1.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the presentation connection.</source>
+        <translation>Удалённая сторона отклоняет соединение уровня представления.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the request on this network connection.</source>
+        <translation>Удалённая сторона отклоняет запрос в этом сетевом соединении.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the session because it is busy.</source>
+        <translation>Удалённая сторона отказывает в сеансе, так как занята.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the session with reason %1.</source>
+        <translation>Удалённая сторона отказывает в сеансе с причиной %1.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the session without a reason.</source>
+        <translation>Удалённая сторона отказывает в сеансе без указания причины.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the session.</source>
+        <translation>Удалённая сторона отказывает в сеансе.</translation>
+    </message>
+    <message>
+        <source>The peer refuses the type of the transport unit.</source>
+        <translation>Удалённая сторона отклоняет тип транспортного блока.</translation>
+    </message>
+    <message>
+        <source>The peer refuses to end the session.</source>
+        <translation>Удалённая сторона отказывается завершить сеанс.</translation>
+    </message>
+    <message>
+        <source>The peer reports an error in the transport protocol.</source>
+        <translation>Удалённая сторона сообщает об ошибке транспортного протокола.</translation>
+    </message>
+    <message>
+        <source>The peer reports an invalid header or parameter length.</source>
+        <translation>Удалённая сторона сообщает о неверной длине заголовка или параметра.</translation>
+    </message>
+    <message>
+        <source>The peer said nothing for %1 ms.</source>
+        <translation>Удалённая сторона молчала %1 мс.</translation>
+    </message>
+    <message>
+        <source>The peer saw a duplicate transport reference.</source>
+        <translation>Удалённая сторона обнаружила повторную транспортную ссылку.</translation>
+    </message>
+    <message>
+        <source>The peer saw mismatched transport references.</source>
+        <translation>Удалённая сторона обнаружила несовпадающие транспортные ссылки.</translation>
+    </message>
+    <message>
+        <source>The peer sent a message of more than %1 octets.</source>
+        <translation>Удалённая сторона отправила сообщение длиннее допустимого (%1 октетов).</translation>
+    </message>
+    <message>
+        <source>The peer sent a transport unit that does not belong here.</source>
+        <translation>Удалённая сторона отправила неуместный здесь транспортный блок.</translation>
+    </message>
+    <message>
+        <source>The peer sent a unit of association control that does not belong here.</source>
+        <translation>Удалённая сторона отправила неуместный здесь блок управления ассоциацией.</translation>
+    </message>
+    <message>
+        <source>The peer sent a wrong password.</source>
+        <translation>Удалённая сторона отправила неверный пароль.</translation>
+    </message>
+    <message>
+        <source>The peer sent no password.</source>
+        <translation>Удалённая сторона не отправила пароль.</translation>
+    </message>
+    <message>
+        <source>The peer sent the session unit &quot;%1&quot;, which does not belong here.</source>
+        <translation>Удалённая сторона отправила неуместный здесь сеансовый блок «%1».</translation>
+    </message>
+    <message>
+        <source>The peer speaks TLS, which is not configured here.</source>
+        <translation>Удалённая сторона использует TLS, а здесь он не настроен.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s PDU size of %1 octets is too small.</source>
+        <translation>Размер PDU удалённой стороны слишком мал (%1 октетов).</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s association control aborted the association.</source>
+        <translation>Управление ассоциацией удалённой стороны прервало ассоциацию.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s certificate &quot;%1&quot;</source>
+        <translation>Сертификат «%1» удалённой стороны</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s certificate &quot;%1&quot; is not one of those that are pinned; its fingerprint is %2.</source>
+        <translation>Сертификата «%1» удалённой стороны нет среди закреплённых; его отпечаток: %2.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s initiate answer cannot be read: %1.</source>
+        <translation>Ответ удалённой стороны на Initiate не удаётся прочитать: %1.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer aborted without a reason.</source>
+        <translation>Уровень представления удалённой стороны прервал связь без указания причины.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer aborted.</source>
+        <translation>Уровень представления удалённой стороны прервал связь.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer did not expect a parameter and aborted.</source>
+        <translation>Уровень представления удалённой стороны не ожидал параметра и прервал связь.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer did not expect a session service and aborted.</source>
+        <translation>Уровень представления удалённой стороны не ожидал службы сеанса и прервал связь.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer did not expect a unit and aborted.</source>
+        <translation>Уровень представления удалённой стороны не ожидал блока и прервал связь.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer does not recognise a parameter and aborted.</source>
+        <translation>Уровень представления удалённой стороны не распознал параметр и прервал связь.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer does not recognise a unit and aborted.</source>
+        <translation>Уровень представления удалённой стороны не распознал блок и прервал связь.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer found an invalid parameter value and aborted.</source>
+        <translation>Уровень представления удалённой стороны нашёл недопустимое значение параметра и прервал связь.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer has reached a limit of its own.</source>
+        <translation>Уровень представления удалённой стороны достиг собственного предела.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer is congested.</source>
+        <translation>Уровень представления удалённой стороны перегружен.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s presentation layer refuses the connection without a reason.</source>
+        <translation>Уровень представления удалённой стороны отказывает в соединении без указания причины.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s session layer aborted the session.</source>
+        <translation>Сеансовый уровень удалённой стороны прервал сеанс.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s session layer is congested.</source>
+        <translation>Сеансовый уровень удалённой стороны перегружен.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s session layer refuses the session because of a restriction of its own.</source>
+        <translation>Сеансовый уровень удалённой стороны отказывает в сеансе из-за собственного ограничения.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s session layer refuses the session.</source>
+        <translation>Сеансовый уровень удалённой стороны отказывает в сеансе.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s session layer reports an error in the protocol and aborted the session.</source>
+        <translation>Сеансовый уровень удалённой стороны сообщает об ошибке протокола и прервал сеанс.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s session request cannot be accepted.</source>
+        <translation>Запрос сеанса от удалённой стороны нельзя принять.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s transport layer is congested.</source>
+        <translation>Транспортный уровень удалённой стороны перегружен.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s transport references have overflowed.</source>
+        <translation>У удалённой стороны закончились транспортные ссылки.</translation>
+    </message>
+    <message>
+        <source>The peer&apos;s transport selector is congested.</source>
+        <translation>Селектор транспортного уровня удалённой стороны перегружен.</translation>
+    </message>
+    <message>
+        <source>The position is not within the file.</source>
+        <translation>Позиция находится вне файла.</translation>
+    </message>
+    <message>
+        <source>The private key in the file &quot;%1&quot; cannot be used (%2).</source>
+        <translation>Закрытый ключ в файле «%1» непригоден (%2).</translation>
+    </message>
+    <message>
+        <source>The private key in the file &quot;%1&quot; does not fit the certificate in the file &quot;%2&quot;.</source>
+        <translation>Закрытый ключ в файле «%1» не подходит к сертификату в файле «%2».</translation>
+    </message>
+    <message>
+        <source>The private key in the file &quot;%1&quot; does not open with the password that is given.</source>
+        <translation>Закрытый ключ в файле «%1» не открывается указанным паролем.</translation>
+    </message>
+    <message>
+        <source>The private key in the file &quot;%1&quot; is encrypted, and no password is given.</source>
+        <translation>Закрытый ключ в файле «%1» зашифрован, а пароль не указан.</translation>
+    </message>
+    <message>
+        <source>The report ends before its %1.</source>
+        <translation>Отчёт обрывается перед полем %1.</translation>
+    </message>
+    <message>
+        <source>The report has no value for its %1: %2.</source>
+        <translation>В отчёте нет значения для поля %1: %2.</translation>
+    </message>
+    <message>
+        <source>The report says that it brings %1 members, which are %2 values, but it has %3.</source>
+        <translation>В отчёте указано элементов: %1, то есть значений: %2, но получено: %3.</translation>
+    </message>
+    <message>
+        <source>The report&apos;s %1 is neither true nor false.</source>
+        <translation>Поле %1 отчёта не является логическим значением.</translation>
+    </message>
+    <message>
+        <source>The report&apos;s %1 is not a binary time.</source>
+        <translation>Поле %1 отчёта не является двоичным временем.</translation>
+    </message>
+    <message>
+        <source>The report&apos;s %1 is not a bit string.</source>
+        <translation>Поле %1 отчёта не является битовой строкой.</translation>
+    </message>
+    <message>
+        <source>The report&apos;s %1 is not a number of 32 bits without sign.</source>
+        <translation>Поле %1 отчёта не является 32-битным числом без знака.</translation>
+    </message>
+    <message>
+        <source>The report&apos;s %1 is not a string of octets.</source>
+        <translation>Поле %1 отчёта не является строкой октетов.</translation>
+    </message>
+    <message>
+        <source>The report&apos;s %1 is not a text.</source>
+        <translation>Поле %1 отчёта не является текстом.</translation>
+    </message>
+    <message>
+        <source>The request is longer than the negotiated PDU size of %1 octets.</source>
+        <translation>Запрос длиннее согласованного размера PDU (%1 октетов).</translation>
+    </message>
+    <message>
+        <source>The request was not sent: it waited for a place behind calls that the peer has not answered.</source>
+        <translation>Запрос не отправлен: он ждал места за запросами, на которые удалённая сторона не ответила.</translation>
+    </message>
+    <message>
+        <source>The revocation list in the file &quot;%1&quot; cannot be used (%2).</source>
+        <translation>Список отзыва в файле «%1» непригоден (%2).</translation>
+    </message>
+    <message>
+        <source>The root element is in no name space; it should be in &quot;%1&quot;.</source>
+        <translation>Корневой элемент не относится ни к одному пространству имён; требуется «%1».</translation>
+    </message>
+    <message>
+        <source>The root element is in the name space &quot;%1&quot; instead of &quot;%2&quot;.</source>
+        <translation>Корневой элемент относится к пространству имён «%1», а не к «%2».</translation>
+    </message>
+    <message>
+        <source>The server was stopped.</source>
+        <translation>Сервер остановлен.</translation>
+    </message>
+    <message>
+        <source>The service was called out of sequence.</source>
+        <translation>Служба вызвана не в том порядке.</translation>
+    </message>
+    <message>
+        <source>The services offered do not suit the device.</source>
+        <translation>Предложенные службы не подходят устройству.</translation>
+    </message>
+    <message>
+        <source>The session parameter %1 has a wrong length.</source>
+        <translation>Параметр сеанса %1 имеет неверную длину.</translation>
+    </message>
+    <message>
+        <source>The size of transport units is not one of 128 to 8,192 octets.</source>
+        <translation>Размер транспортных блоков не является одним из допустимых (от 128 до 8192 октетов).</translation>
+    </message>
+    <message>
+        <source>The state of the device does not allow this.</source>
+        <translation>Состояние устройства не допускает этого.</translation>
+    </message>
+    <message>
+        <source>The transport classes of both sides do not match.</source>
+        <translation>Транспортные классы двух сторон не совпадают.</translation>
+    </message>
+    <message>
+        <source>The transport unit &quot;%1&quot; is shorter than its fixed part.</source>
+        <translation>Транспортный блок «%1» короче своей постоянной части.</translation>
+    </message>
+    <message>
+        <source>The truth value is written &quot;%1&quot; instead of &quot;true&quot; or &quot;false&quot;.</source>
+        <translation>Логическое значение записано как «%1» вместо «true» или «false».</translation>
+    </message>
+    <message>
+        <source>The type is not supported.</source>
+        <translation>Тип не поддерживается.</translation>
+    </message>
+    <message>
+        <source>The type of %1 cannot be read: %2.</source>
+        <translation>Тип %1 не удаётся прочитать: %2.</translation>
+    </message>
+    <message>
+        <source>The types do not agree.</source>
+        <translation>Типы не совпадают.</translation>
+    </message>
+    <message>
+        <source>The value %1 does not fit the type %2 of the device.</source>
+        <translation>Значение %1 не подходит к типу %2 устройства.</translation>
+    </message>
+    <message>
+        <source>The value &quot;%1&quot; differs in blanks or capitals from what is expected.</source>
+        <translation>Значение «%1» отличается от ожидаемого пробелами или прописными буквами.</translation>
+    </message>
+    <message>
+        <source>The value has not the type of the object.</source>
+        <translation>Тип значения не совпадает с типом объекта.</translation>
+    </message>
+    <message>
+        <source>The value is empty, so the attribute has none.</source>
+        <translation>Значение пустое, поэтому у атрибута нет значения.</translation>
+    </message>
+    <message>
+        <source>The value is given by its number &quot;%1&quot; instead of its text.</source>
+        <translation>Значение указано номером «%1», а не текстом.</translation>
+    </message>
+    <message>
+        <source>The value is not allowed for the object.</source>
+        <translation>Значение недопустимо для объекта.</translation>
+    </message>
+    <message>
+        <source>The value of the control block does not match its type %1.</source>
+        <translation>Значение блока управления не соответствует своему типу %1.</translation>
+    </message>
+    <message>
+        <source>There are %1 associations already, which is the limit.</source>
+        <translation>Ассоциаций уже %1, больше не допускается.</translation>
+    </message>
+    <message>
+        <source>There is a problem with the other application.</source>
+        <translation>Неполадка в другом приложении.</translation>
+    </message>
+    <message>
+        <source>There is another IED of the name &quot;%1&quot;.</source>
+        <translation>Есть ещё одно ИЭУ с именем «%1».</translation>
+    </message>
+    <message>
+        <source>There is another control block &quot;%1&quot;.</source>
+        <translation>Есть ещё один блок управления «%1».</translation>
+    </message>
+    <message>
+        <source>There is another data set &quot;%1&quot;.</source>
+        <translation>Есть ещё один набор данных «%1».</translation>
+    </message>
+    <message>
+        <source>There is another logical device &quot;%1&quot;.</source>
+        <translation>Есть ещё одно логическое устройство «%1».</translation>
+    </message>
+    <message>
+        <source>There is another logical node &quot;%1&quot;.</source>
+        <translation>Есть ещё один логический узел «%1».</translation>
+    </message>
+    <message>
+        <source>There is no &quot;%1&quot;</source>
+        <translation>«%1» отсутствует</translation>
+    </message>
+    <message>
+        <source>There is no association.</source>
+        <translation>Ассоциации нет.</translation>
+    </message>
+    <message>
+        <source>There is no data set %1.</source>
+        <translation>Набора данных %1 нет.</translation>
+    </message>
+    <message>
+        <source>There is no functional constraint (attribute fc)</source>
+        <translation>Нет функциональной связи (атрибут fc)</translation>
+    </message>
+    <message>
+        <source>There is no logical device &quot;%1&quot;</source>
+        <translation>Нет логического устройства «%1»</translation>
+    </message>
+    <message>
+        <source>There is no logical node &quot;%1&quot; in &quot;%2&quot;</source>
+        <translation>Нет логического узла «%1» в «%2»</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to read the file.</source>
+        <translation>Не хватает памяти для чтения файла.</translation>
+    </message>
+    <message>
+        <source>There is not enough room for the file.</source>
+        <translation>Не хватает места для файла.</translation>
+    </message>
+    <message>
+        <source>There is nothing of functional constraint &quot;%1&quot; in &quot;%2&quot;</source>
+        <translation>Нет ничего с функциональной связью «%1» в «%2»</translation>
+    </message>
+    <message>
+        <source>This is no report control block: it has no RptEna.</source>
+        <translation>Это не блок управления отчётом: нет RptEna.</translation>
+    </message>
+    <message>
+        <source>This is no setting group control block: NumOfSG or ActSG is missing.</source>
+        <translation>Это не блок управления группами уставок: нет NumOfSG или ActSG.</translation>
+    </message>
+    <message>
+        <source>This is not a report but %1.</source>
+        <translation>Это не отчёт, а %1.</translation>
+    </message>
+    <message>
+        <source>This is not an SCL file: its root element is &quot;%1&quot;.</source>
+        <translation>Это не файл SCL: его корневой элемент — «%1».</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Открыто слишком много файлов</translation>
+    </message>
+    <message>
+        <source>User information is in a form that is not supported.</source>
+        <translation>Информация пользователя имеет неподдерживаемый вид.</translation>
+    </message>
+    <message>
+        <source>What the peer sent cannot be read: %1.</source>
+        <translation>Не удаётся прочитать то, что прислала удалённая сторона: %1.</translation>
+    </message>
+    <message>
+        <source>XML or text declaration not at start of entity</source>
+        <translation>Объявление XML или текста стоит не в начале сущности</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not exist in type &quot;%2&quot;; what is given for it is left out.</source>
+        <translation>«%1» нет в типе «%2»; заданное для него пропущено.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a value, but it is a structure.</source>
+        <translation>У «%1» есть значение, но это структура.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no element %2</source>
+        <translation>В «%1» нет элемента %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no element %2; what is given for it is left out.</source>
+        <translation>В «%1» нет элемента %2; заданное для него пропущено.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a directory, not a file.</source>
+        <translation>«%1» — каталог, а не файл.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is an array, and no element is given</source>
+        <translation>«%1» является массивом, а элемент не указан</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is defined twice in its type; the first is used.</source>
+        <translation>«%1» определено в своём типе дважды; используется первое определение.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither &quot;true&quot; nor &quot;false&quot;; %2 is used.</source>
+        <translation>«%1» не равно ни «true», ни «false»; используется %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a SHA-256 fingerprint of 64 hexadecimal digits.</source>
+        <translation>«%1» не является отпечатком SHA-256 из 64 шестнадцатеричных цифр.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a basic type of the standard; values are kept as texts.</source>
+        <translation>«%1» не является базовым типом стандарта; значения хранятся как текст.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a directory.</source>
+        <translation>«%1» не является каталогом.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a functional constraint.</source>
+        <translation>«%1» не является функциональной связью.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a host name that a certificate can have.</source>
+        <translation>«%1» не является именем узла, возможным в сертификате.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number of array elements; the element is taken as a single one.</source>
+        <translation>«%1» не является числом элементов массива; элемент считается одиночным.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number of milliseconds.</source>
+        <translation>«%1» не является числом миллисекунд.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a value of %2 &quot;%3&quot;; the attribute has no value.</source>
+        <translation>«%1» не является значением %2 «%3»; у атрибута нет значения.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a value of %2; %3 is used.</source>
+        <translation>«%1» не является значением %2; используется %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a value of %2; the attribute has no value.</source>
+        <translation>«%1» не является значением %2; у атрибута нет значения.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a value of its type; the attribute has no value.</source>
+        <translation>«%1» не является значением своего типа; у атрибута нет значения.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address of a network interface.</source>
+        <translation>«%1» не является адресом сетевого интерфейса.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an array</source>
+        <translation>«%1» не является массивом</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an array; the element number is ignored.</source>
+        <translation>«%1» не является массивом; номер элемента не учитывается.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an ordinal; the literal is left out.</source>
+        <translation>«%1» не является порядковым номером; литерал пропущен.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the number of an array element.</source>
+        <translation>«%1» не является номером элемента массива.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names an attribute, which takes a DAI.</source>
+        <translation>«%1» указывает на атрибут, для него нужен DAI.</translation>
+    </message>
+    <message>
+        <source>a certificate</source>
+        <translation>сертификат</translation>
+    </message>
+    <message>
+        <source>a command is being executed already</source>
+        <translation>команда уже выполняется</translation>
+    </message>
+    <message>
+        <source>a parameter is being changed</source>
+        <translation>изменяется параметр</translation>
+    </message>
+    <message>
+        <source>a revocation list</source>
+        <translation>список отзыва</translation>
+    </message>
+    <message>
+        <source>additional cause %1</source>
+        <translation>дополнительная причина %1</translation>
+    </message>
+    <message>
+        <source>additional code %1</source>
+        <translation>дополнительный код %1</translation>
+    </message>
+    <message>
+        <source>an authentication is required</source>
+        <translation>требуется аутентификация</translation>
+    </message>
+    <message>
+        <source>an authentication mechanism is required</source>
+        <translation>требуется механизм аутентификации</translation>
+    </message>
+    <message>
+        <source>an authority</source>
+        <translation>удостоверяющий центр</translation>
+    </message>
+    <message>
+        <source>an unknown date</source>
+        <translation>дата неизвестна</translation>
+    </message>
+    <message>
+        <source>another object of the domain is being controlled</source>
+        <translation>выполняется управление другим объектом той же области</translation>
+    </message>
+    <message>
+        <source>blocked because the switching authority lies elsewhere (local or remote)</source>
+        <translation>заблокировано: управление разрешено с другого места (местного или дистанционного)</translation>
+    </message>
+    <message>
+        <source>blocked by an event of the process</source>
+        <translation>заблокировано событием процесса</translation>
+    </message>
+    <message>
+        <source>blocked by interlocking</source>
+        <translation>заблокировано оперативной блокировкой</translation>
+    </message>
+    <message>
+        <source>blocked by synchrocheck</source>
+        <translation>заблокировано контролем синхронизма</translation>
+    </message>
+    <message>
+        <source>blocked by the data object that blocks commands</source>
+        <translation>заблокировано объектом данных, запрещающим команды</translation>
+    </message>
+    <message>
+        <source>blocked by the health of the logical node</source>
+        <translation>заблокировано состоянием (Health) логического узла</translation>
+    </message>
+    <message>
+        <source>blocked by the mode of the logical node</source>
+        <translation>заблокировано режимом (Mode) логического узла</translation>
+    </message>
+    <message>
+        <source>control error %1</source>
+        <translation>ошибка управления %1</translation>
+    </message>
+    <message>
+        <source>duplicate attribute</source>
+        <translation>повторный атрибут</translation>
+    </message>
+    <message>
+        <source>ended because the position deviates from the command</source>
+        <translation>завершено, так как положение не соответствует команде</translation>
+    </message>
+    <message>
+        <source>ended beyond the wanted position</source>
+        <translation>завершено за пределами заданного положения</translation>
+    </message>
+    <message>
+        <source>ended by a cancel</source>
+        <translation>завершено отменой (Cancel)</translation>
+    </message>
+    <message>
+        <source>ended by a trip</source>
+        <translation>завершено срабатыванием защиты</translation>
+    </message>
+    <message>
+        <source>ended by the loss of the connection with the client that issued it</source>
+        <translation>завершено из-за потери связи с клиентом, подавшим команду</translation>
+    </message>
+    <message>
+        <source>error %1</source>
+        <translation>ошибка %1</translation>
+    </message>
+    <message>
+        <source>it gives no reason; another client may have selected the object.</source>
+        <translation>причина не указана; возможно, объект выбран другим клиентом.</translation>
+    </message>
+    <message>
+        <source>it has no address</source>
+        <translation>у него нет адреса</translation>
+    </message>
+    <message>
+        <source>it is not in a logical device.</source>
+        <translation>не относится к логическому устройству.</translation>
+    </message>
+    <message>
+        <source>it names more than one element of one array.</source>
+        <translation>указывает более одного элемента одного массива.</translation>
+    </message>
+    <message>
+        <source>it names several parts.</source>
+        <translation>указывает несколько частей.</translation>
+    </message>
+    <message>
+        <source>junk after document element</source>
+        <translation>лишние данные после корневого элемента</translation>
+    </message>
+    <message>
+        <source>locked by another client</source>
+        <translation>заблокировано другим клиентом</translation>
+    </message>
+    <message>
+        <source>mismatched tag</source>
+        <translation>открывающий и закрывающий теги не совпадают</translation>
+    </message>
+    <message>
+        <source>no cause</source>
+        <translation>без причины</translation>
+    </message>
+    <message>
+        <source>no error</source>
+        <translation>ошибки нет</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>причина не указана</translation>
+    </message>
+    <message>
+        <source>nobody answers who knows names</source>
+        <translation>служба имён не отвечает</translation>
+    </message>
+    <message>
+        <source>nobody knows it</source>
+        <translation>оно никому не известно</translation>
+    </message>
+    <message>
+        <source>reason %1</source>
+        <translation>причина %1</translation>
+    </message>
+    <message>
+        <source>syntax error</source>
+        <translation>синтаксическая ошибка</translation>
+    </message>
+    <message>
+        <source>the application context is not supported</source>
+        <translation>прикладной контекст не поддерживается</translation>
+    </message>
+    <message>
+        <source>the authentication failed</source>
+        <translation>аутентификация не удалась</translation>
+    </message>
+    <message>
+        <source>the authentication mechanism is not recognised</source>
+        <translation>механизм аутентификации не распознан</translation>
+    </message>
+    <message>
+        <source>the called AE invocation identifier is not recognised</source>
+        <translation>не распознан идентификатор вызова AE вызываемой стороны</translation>
+    </message>
+    <message>
+        <source>the called AE qualifier is not recognised</source>
+        <translation>не распознан квалификатор AE вызываемой стороны</translation>
+    </message>
+    <message>
+        <source>the called AP invocation identifier is not recognised</source>
+        <translation>не распознан идентификатор вызова AP вызываемой стороны</translation>
+    </message>
+    <message>
+        <source>the called AP title is not recognised</source>
+        <translation>не распознан заголовок AP вызываемой стороны</translation>
+    </message>
+    <message>
+        <source>the calling AE invocation identifier is not recognised</source>
+        <translation>не распознан идентификатор вызова AE вызывающей стороны</translation>
+    </message>
+    <message>
+        <source>the calling AE qualifier is not recognised</source>
+        <translation>не распознан квалификатор AE вызывающей стороны</translation>
+    </message>
+    <message>
+        <source>the calling AP invocation identifier is not recognised</source>
+        <translation>не распознан идентификатор вызова AP вызывающей стороны</translation>
+    </message>
+    <message>
+        <source>the calling AP title is not recognised</source>
+        <translation>не распознан заголовок AP вызывающей стороны</translation>
+    </message>
+    <message>
+        <source>the client has no authority for it</source>
+        <translation>у клиента нет на это полномочий</translation>
+    </message>
+    <message>
+        <source>the functional constraint is missing.</source>
+        <translation>не указана функциональная связь.</translation>
+    </message>
+    <message>
+        <source>the name of the logical device is missing or wrong.</source>
+        <translation>имя логического устройства отсутствует или неверно.</translation>
+    </message>
+    <message>
+        <source>the name of the logical node is missing or wrong.</source>
+        <translation>имя логического узла отсутствует или неверно.</translation>
+    </message>
+    <message>
+        <source>the object is not selected</source>
+        <translation>объект не выбран</translation>
+    </message>
+    <message>
+        <source>the object is selected already</source>
+        <translation>объект уже выбран</translation>
+    </message>
+    <message>
+        <source>the operator test failed</source>
+        <translation>проверка оператора не пройдена</translation>
+    </message>
+    <message>
+        <source>the own certificate</source>
+        <translation>собственный сертификат</translation>
+    </message>
+    <message>
+        <source>the parameters of the service contradict those of the selection</source>
+        <translation>параметры службы противоречат параметрам выбора</translation>
+    </message>
+    <message>
+        <source>the position has been reached already</source>
+        <translation>положение уже достигнуто</translation>
+    </message>
+    <message>
+        <source>the position is not valid</source>
+        <translation>положение недействительно</translation>
+    </message>
+    <message>
+        <source>the private key</source>
+        <translation>закрытый ключ</translation>
+    </message>
+    <message>
+        <source>the selection failed</source>
+        <translation>выбор не удался</translation>
+    </message>
+    <message>
+        <source>the service is not supported</source>
+        <translation>служба не поддерживается</translation>
+    </message>
+    <message>
+        <source>the tap changer is at the end of its range</source>
+        <translation>переключатель ответвлений находится в крайнем положении</translation>
+    </message>
+    <message>
+        <source>the time for it is over</source>
+        <translation>время для этого истекло</translation>
+    </message>
+    <message>
+        <source>the time-out test failed</source>
+        <translation>проверка предела времени не пройдена</translation>
+    </message>
+    <message>
+        <source>there is no common version of association control</source>
+        <translation>нет общей версии управления ассоциацией</translation>
+    </message>
+    <message>
+        <source>unclosed CDATA section</source>
+        <translation>незакрытая секция CDATA</translation>
+    </message>
+    <message>
+        <source>unclosed token</source>
+        <translation>незакрытая лексема</translation>
+    </message>
+    <message>
+        <source>unknown cause</source>
+        <translation>причина неизвестна</translation>
+    </message>
+    <message>
+        <source>unknown error</source>
+        <translation>неизвестная ошибка</translation>
+    </message>
+    <message>
+        <source>%1: the value does not have the form of its type.</source>
+        <translation>%1: значение не соответствует своему типу.</translation>
     </message>
 </context>
 <context>
@@ -1731,10 +4267,6 @@ Read it again with %2, or remove the device from the list.</source>
         <translation>Других непригодных файлов: %1</translation>
     </message>
     <message>
-        <source>%1 was taken off the list; its file stays where it is.</source>
-        <translation>%1: убрано из списка; файл остаётся на месте.</translation>
-    </message>
-    <message>
         <source>About</source>
         <translation>О программе</translation>
     </message>
@@ -1881,10 +4413,6 @@ Apache License 2.0</translation>
         <translation>Запустить имитацию устройства</translation>
     </message>
     <message>
-        <source>%1 was taken off the list.</source>
-        <translation>%1: убрано из списка.</translation>
-    </message>
-    <message>
         <source>Disco&amp;nnect</source>
         <translation>&amp;Отключить</translation>
     </message>
@@ -1956,6 +4484,46 @@ Apache License 2.0</translation>
         <source>Devices away: %1, the first since %2</source>
         <translation>Устройств без связи: %1, первое с %2</translation>
     </message>
+    <message>
+        <source>&amp;Undo Remove</source>
+        <translation>&amp;Вернуть в список</translation>
+    </message>
+    <message>
+        <source>Ctrl+Z</source>
+        <translation>Ctrl+Z</translation>
+    </message>
+    <message>
+        <source>Remove Device</source>
+        <translation>Убрать устройство</translation>
+    </message>
+    <message>
+        <source>Take %1 off the list?</source>
+        <translation>Убрать %1 из списка?</translation>
+    </message>
+    <message>
+        <source>Its connection ends, and windows that are open for it are no longer served.</source>
+        <translation>Связь с устройством завершится, а открытые для него окна больше не будут обслуживаться.</translation>
+    </message>
+    <message>
+        <source>Windows that are open for it are no longer served.</source>
+        <translation>Открытые для него окна больше не будут обслуживаться.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Убрать</translation>
+    </message>
+    <message>
+        <source>%1 was taken off the list; %2 puts it back.</source>
+        <translation>%1: убрано из списка; чтобы вернуть: %2.</translation>
+    </message>
+    <message>
+        <source>%1 was taken off the list; its file stays where it is, and %2 puts it back.</source>
+        <translation>%1: убрано из списка; файл остаётся на месте; чтобы вернуть: %2.</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Remove of %1</source>
+        <translation>&amp;Вернуть в список: %1</translation>
+    </message>
 </context>
 <context>
     <name>OfflineDriverService</name>
@@ -1970,10 +4538,6 @@ Apache License 2.0</translation>
 </context>
 <context>
     <name>SclImport</name>
-    <message>
-        <source>The file &quot;%1&quot; cannot be opened: %2.</source>
-        <translation>Файл «%1» не открывается: %2.</translation>
-    </message>
     <message>
         <source>Line %1: %2</source>
         <translation>Строка %1: %2</translation>
@@ -2007,6 +4571,13 @@ Apache License 2.0</translation>
     <message>
         <source>&amp;Copy</source>
         <translation>&amp;Копировать</translation>
+    </message>
+</context>
+<context>
+    <name>ToolWindows</name>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
     </message>
 </context>
 <context>
@@ -2163,6 +4734,21 @@ Apache License 2.0</translation>
     <message>
         <source>%1 holds octets that are no text, so it can only be read.</source>
         <translation>%1 содержит октеты, не являющиеся текстом, поэтому доступно только чтение.</translation>
+    </message>
+</context>
+<context>
+    <name>WaitingCalls</name>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>Ожидание: %1</translation>
+    </message>
+    <message>
+        <source>%1 has not answered yet (%2).</source>
+        <translation>%1: ответа пока нет (%2).</translation>
+    </message>
+    <message>
+        <source>Cancelling. What the device was asked before may still be done.</source>
+        <translation>Отмена. То, что уже было запрошено у устройства, ещё может быть выполнено.</translation>
     </message>
 </context>
 <context>

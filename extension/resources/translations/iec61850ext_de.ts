@@ -139,6 +139,13 @@
     </message>
 </context>
 <context>
+    <name>FailureReport</name>
+    <message>
+        <source>The whole text, %1 lines:</source>
+        <translation>Der ganze Text, %1 Zeilen:</translation>
+    </message>
+</context>
+<context>
     <name>FileModel</name>
     <message>
         <source>Name</source>
@@ -429,6 +436,10 @@ Möchten Sie die Datei ersetzen?</translation>
     <message>
         <source>Cannot connect to driver</source>
         <translation>Keine Verbindung zum Treiber</translation>
+    </message>
+    <message>
+        <source>The description of this device is not whole: the tree shows what could be read of it.</source>
+        <translation>Die Beschreibung dieses Geräts ist unvollständig: Der Baum zeigt, was davon zu lesen war.</translation>
     </message>
 </context>
 <context>
@@ -781,6 +792,10 @@ Möchten Sie die Datei ersetzen?</translation>
     <message>
         <source>Find by name or reference</source>
         <translation>Nach Name oder Referenz suchen</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
     </message>
 </context>
 </TS>

@@ -139,6 +139,13 @@
     </message>
 </context>
 <context>
+    <name>FailureReport</name>
+    <message>
+        <source>The whole text, %1 lines:</source>
+        <translation>El texto completo, %1 líneas:</translation>
+    </message>
+</context>
+<context>
     <name>FileModel</name>
     <message>
         <source>Name</source>
@@ -429,6 +436,10 @@ Do you want to replace it?</source>
     <message>
         <source>Cannot connect to driver</source>
         <translation>No hay conexión con el controlador</translation>
+    </message>
+    <message>
+        <source>The description of this device is not whole: the tree shows what could be read of it.</source>
+        <translation>La descripción de este dispositivo no está completa: el árbol muestra lo que se pudo leer de ella.</translation>
     </message>
 </context>
 <context>
@@ -781,6 +792,10 @@ Do you want to replace it?</source>
     <message>
         <source>Find by name or reference</source>
         <translation>Buscar por nombre o referencia</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
     </message>
 </context>
 </TS>

@@ -139,6 +139,13 @@
     </message>
 </context>
 <context>
+    <name>FailureReport</name>
+    <message>
+        <source>The whole text, %1 lines:</source>
+        <translation>Le texte complet, %1 lignes :</translation>
+    </message>
+</context>
+<context>
     <name>FileModel</name>
     <message>
         <source>Name</source>
@@ -429,6 +436,10 @@ Voulez-vous le remplacer ?</translation>
     <message>
         <source>Cannot connect to driver</source>
         <translation>Connexion au pilote impossible</translation>
+    </message>
+    <message>
+        <source>The description of this device is not whole: the tree shows what could be read of it.</source>
+        <translation>La description de cet équipement n&apos;est pas complète : l&apos;arborescence montre ce qui a pu en être lu.</translation>
     </message>
 </context>
 <context>
@@ -781,6 +792,10 @@ Voulez-vous le remplacer ?</translation>
     <message>
         <source>Find by name or reference</source>
         <translation>Rechercher par nom ou référence</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
     </message>
 </context>
 </TS>

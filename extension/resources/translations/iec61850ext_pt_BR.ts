@@ -139,6 +139,13 @@
     </message>
 </context>
 <context>
+    <name>FailureReport</name>
+    <message>
+        <source>The whole text, %1 lines:</source>
+        <translation>O texto completo, %1 linhas:</translation>
+    </message>
+</context>
+<context>
     <name>FileModel</name>
     <message>
         <source>Name</source>
@@ -429,6 +436,10 @@ Deseja substituí-lo?</translation>
     <message>
         <source>Cannot connect to driver</source>
         <translation>Sem conexão com o driver</translation>
+    </message>
+    <message>
+        <source>The description of this device is not whole: the tree shows what could be read of it.</source>
+        <translation>A descrição deste dispositivo não está completa: a árvore mostra o que foi possível ler dela.</translation>
     </message>
 </context>
 <context>
@@ -781,6 +792,10 @@ Deseja substituí-lo?</translation>
     <message>
         <source>Find by name or reference</source>
         <translation>Buscar por nome ou referência</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
     </message>
 </context>
 </TS>

@@ -139,6 +139,13 @@
     </message>
 </context>
 <context>
+    <name>FailureReport</name>
+    <message>
+        <source>The whole text, %1 lines:</source>
+        <translation>Текст целиком, строк: %1:</translation>
+    </message>
+</context>
+<context>
     <name>FileModel</name>
     <message>
         <source>Name</source>
@@ -429,6 +436,10 @@ Do you want to replace it?</source>
     <message>
         <source>Cannot connect to driver</source>
         <translation>Нет связи с драйвером</translation>
+    </message>
+    <message>
+        <source>The description of this device is not whole: the tree shows what could be read of it.</source>
+        <translation>Описание этого устройства неполное: в дереве показано то, что удалось прочитать.</translation>
     </message>
 </context>
 <context>
@@ -781,6 +792,10 @@ Do you want to replace it?</source>
     <message>
         <source>Find by name or reference</source>
         <translation>Поиск по имени или ссылке</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 из %2</translation>
     </message>
 </context>
 </TS>

@@ -139,6 +139,13 @@
     </message>
 </context>
 <context>
+    <name>FailureReport</name>
+    <message>
+        <source>The whole text, %1 lines:</source>
+        <translation>全文，共 %1 行：</translation>
+    </message>
+</context>
+<context>
     <name>FileModel</name>
     <message>
         <source>Name</source>
@@ -429,6 +436,10 @@ Do you want to replace it?</source>
     <message>
         <source>Cannot connect to driver</source>
         <translation>无法连接到驱动程序</translation>
+    </message>
+    <message>
+        <source>The description of this device is not whole: the tree shows what could be read of it.</source>
+        <translation>此设备的描述不完整：树中只显示其中能够读出的部分。</translation>
     </message>
 </context>
 <context>
@@ -781,6 +792,10 @@ Do you want to replace it?</source>
     <message>
         <source>Find by name or reference</source>
         <translation>按名称或引用查找</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1/%2</translation>
     </message>
 </context>
 </TS>
