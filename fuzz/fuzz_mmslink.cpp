@@ -73,9 +73,9 @@ public:
         for (const StackEvent &event : output.events) {
             if (std::holds_alternative<AssociateIndication>(event))
                 m_toAccept = true;
-            if (std::holds_alternative<AssociateRefused>(event)
-                || std::holds_alternative<ReleaseConfirm>(event)
-                || std::holds_alternative<AssociationLost>(event))
+            if (std::holds_alternative<AssociateRefused>(event) ||
+                std::holds_alternative<ReleaseConfirm>(event) ||
+                std::holds_alternative<AssociationLost>(event))
                 ++m_closed;
         }
         require(m_closed <= 1);
@@ -111,8 +111,8 @@ void feed(Bytes bytes, bool opened)
         initiator.take(initiator.stack().receive(portion));
         responder.take(responder.stack().receive(portion));
     }
-    initiator.take(initiator.stack().networkClosed("The end."));
-    responder.take(responder.stack().networkClosed("The end."));
+    initiator.take(initiator.stack().networkClosed(mms::verbatim("The end.")));
+    responder.take(responder.stack().networkClosed(mms::verbatim("The end.")));
     require(initiator.stack().isClosed() && responder.stack().isClosed());
 }
 

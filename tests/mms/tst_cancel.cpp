@@ -33,14 +33,16 @@ protected:
     void connectToPeer(bool knowsCancel)
     {
         Association::Handlers handlers;
-        handlers.closed = m_clientEnd.setter();
+        handlers.closed = [tell = m_clientEnd.setter()](const Text &reason) {
+            tell(reason.english());
+        };
         AssociationOptions options = quickOptions();
         options.maxOutstandingCalling = 1;
         m_client = Association::create(m_loop.executor(), options, std::move(handlers));
         Awaited<Result<InitiateParameters>> opened;
         m_client->connect("127.0.0.1", m_peer.port(), opened.setter());
-        acceptByHand(m_peer, m_stack, knowsCancel ? std::vector{Service::Cancel}
-                                                  : std::vector<Service>{});
+        acceptByHand(m_peer, m_stack,
+                     knowsCancel ? std::vector{Service::Cancel} : std::vector<Service>{});
         ASSERT_TRUE(opened.get().ok());
     }
 
@@ -90,9 +92,7 @@ TEST_F(Cancel, APeerThatKnowsCancelIsToldOfACallThatIsGivenUp)
     m_client->call(IdentifyRequest(), 60s, outcome.setter());
     send(CancelResponsePdu{invokeId});
     send(ConfirmedErrorPdu{
-        invokeId,
-        {},
-        {ErrorClass::ServicePreempt, serviceerrors::preemptCancel, {}, {}, {}}});
+        invokeId, {}, {ErrorClass::ServicePreempt, serviceerrors::preemptCancel, {}, {}, {}}});
     const auto request = std::get<ConfirmedRequestPdu>(next());
     EXPECT_NE(request.invokeId, invokeId);
     send(ConfirmedResponsePdu{request.invokeId, somebody});
@@ -115,8 +115,8 @@ TEST_F(Cancel, ACallThatThePeerDoesNotKnowAnyMoreFreesItsPlace)
     next();
     Awaited<CallOutcome> outcome;
     m_client->call(IdentifyRequest(), 60s, outcome.setter());
-    send(CancelErrorPdu{
-        invokeId, {ErrorClass::Cancel, serviceerrors::cancelInvokeIdUnknown, {}, {}, {}}});
+    send(CancelErrorPdu{invokeId,
+                        {ErrorClass::Cancel, serviceerrors::cancelInvokeIdUnknown, {}, {}, {}}});
     const auto request = std::get<ConfirmedRequestPdu>(next());
     send(ConfirmedResponsePdu{request.invokeId, somebody});
     EXPECT_NE(answerOf<IdentifyResponse>(outcome.get()), nullptr);

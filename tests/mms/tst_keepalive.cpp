@@ -30,7 +30,9 @@ protected:
     void connectToPeer(const AssociationOptions &options, const std::vector<Service> &services = {})
     {
         Association::Handlers handlers;
-        handlers.closed = m_clientEnd.setter();
+        handlers.closed = [tell = m_clientEnd.setter()](const Text &reason) {
+            tell(reason.english());
+        };
         m_client = Association::create(m_loop.executor(), options, std::move(handlers));
         Awaited<Result<InitiateParameters>> opened;
         m_client->connect("127.0.0.1", m_peer.port(), opened.setter());
