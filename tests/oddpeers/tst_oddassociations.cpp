@@ -60,11 +60,11 @@ public:
             if (name.compare(0, 4, "slow") == 0) {
                 std::unique_lock<std::mutex> lock(state->mutex);
                 state->changed.wait(lock, [&] { return state->isOpen; });
-                return {{}, "nobody knows it"};
+                return {{}, wording::verbatim("nobody knows it")};
             }
             if (name == "quick.example")
                 return {{asio::ip::make_address("127.0.0.1")}, {}};
-            return {{}, "no such name"};
+            return {{}, wording::verbatim("no such name")};
         };
     }
 

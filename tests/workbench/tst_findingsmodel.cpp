@@ -9,7 +9,7 @@ namespace {
 
 scl::Finding finding(scl::Severity severity, std::uint32_t line, const std::string &text)
 {
-    return {severity, line, "SCL/IED[BAY1]", text};
+    return {severity, line, "SCL/IED[BAY1]", wording::verbatim(text)};
 }
 
 QString cell(const QAbstractItemModel &model, int row, int column)

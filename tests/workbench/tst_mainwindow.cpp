@@ -105,7 +105,8 @@ ImportResult tst_MainWindow::import(const ImportRequest &request,
         result.status = ImportResult::Imported;
         result.ied = request.ied.isEmpty() ? QStringLiteral("A") : request.ied;
         if (request.file.endsWith(QLatin1String("faulty.icd")))
-            result.findings = {{scl::Severity::Error, 7, "SCL/IED[A]", "Something is missing."}};
+            result.findings = {{scl::Severity::Error, 7, "SCL/IED[A]",
+                                wording::verbatim("Something is missing.")}};
     }
     return result;
 }
