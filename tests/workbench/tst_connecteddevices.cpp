@@ -320,8 +320,9 @@ void tst_ConnectedDevices::whatIsWrittenIsInTheJournalWithItsOldAndNewValue()
     QCOMPARE(text(ChangeJournal::DeviceColumn), QStringLiteral("Feeder (1)"));
     QCOMPARE(text(ChangeJournal::OperationColumn), QStringLiteral("writeVariable"));
     QCOMPARE(text(ChangeJournal::ReferenceColumn), logicalDevice + '/' + controlModel);
-    QCOMPARE(text(ChangeJournal::OldValueColumn), QStringLiteral("0"));
-    QCOMPARE(text(ChangeJournal::NewValueColumn), QStringLiteral("4"));
+    QCOMPARE(text(ChangeJournal::OldValueColumn), QStringLiteral("status-only (0)"));
+    QCOMPARE(text(ChangeJournal::NewValueColumn),
+             QStringLiteral("sbo-with-enhanced-security (4)"));
     QCOMPARE(text(ChangeJournal::ResultColumn), QStringLiteral("OK"));
     QFile file(changes.file());
     QVERIFY(file.open(QIODevice::ReadOnly));

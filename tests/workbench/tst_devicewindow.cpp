@@ -229,7 +229,9 @@ void tst_DeviceWindow::aDeviceIsAddedByItsForm()
     QCOMPARE(m_workbench->devices().rowCount(), 0);
     form->accept();
     QTRY_VERIFY(isOnline());
-    QCOMPARE(m_workbench->devices().device(1)->record.name(), QString("127.0.0.1"));
+    // One logical device does not tell where the name of the IED ends.
+    QCOMPARE(m_workbench->devices().device(1)->record.name(),
+             QString("127.0.0.1:%1").arg(simulated->port()));
     QCOMPARE(m_window->selectedDevice(), 1);
 }
 

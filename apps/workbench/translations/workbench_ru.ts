@@ -4486,7 +4486,7 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>&amp;Undo Remove</source>
-        <translation>&amp;Вернуть в список</translation>
+        <translation>Верн&amp;уть в список</translation>
     </message>
     <message>
         <source>Ctrl+Z</source>
@@ -4522,7 +4522,7 @@ Apache License 2.0</translation>
     </message>
     <message>
         <source>&amp;Undo Remove of %1</source>
-        <translation>&amp;Вернуть в список: %1</translation>
+        <translation>Верн&amp;уть в список: %1</translation>
     </message>
 </context>
 <context>
