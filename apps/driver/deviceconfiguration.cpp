@@ -9,6 +9,7 @@
 #include <QtCore/QJsonArray>
 #include <QtCore/QRegularExpression>
 
+#include <cmath>
 #include <limits>
 
 namespace {
@@ -174,9 +175,12 @@ public:
 
     void take(const char *name, std::optional<qint64> &into) const
     {
+        // As far as a number of JSON is exact.
+        constexpr double largest = 1LL << 53;
         const QJsonValue value = valueOf(name);
-        if (value.isDouble())
-            into = static_cast<qint64>(value.toDouble());
+        const double number = value.toDouble(std::numeric_limits<double>::infinity());
+        if (std::abs(number) <= largest)
+            into = static_cast<qint64>(number);
         else
             complain(name, value);
     }

@@ -170,7 +170,7 @@ void tst_DeviceConfiguration::wrongFormsInJsonAreNamedAndTheRestIsTaken()
     const DeviceConfiguration configuration = DeviceConfiguration::fromJson(
         {{"number", 4},
          {"port", "high"},
-         {"local", QJsonObject{{"transportSelector", "0g"}}},
+         {"local", QJsonObject{{"transportSelector", "0g"}, {"aeQualifier", 1e300}}},
          {"callTimeoutMs", 1e300},
          {"name", "x"}},
         error);
@@ -180,6 +180,7 @@ void tst_DeviceConfiguration::wrongFormsInJsonAreNamedAndTheRestIsTaken()
     QCOMPARE(configuration.port, 102);
     QCOMPARE(configuration.callTimeout.count(), 5000);
     QCOMPARE(configuration.local.transportSelector, QByteArray("\0\1", 2));
+    QVERIFY(!configuration.local.aeQualifier);
 }
 
 void tst_DeviceConfiguration::octetsAreReadInAllUsualSpellings()
