@@ -23,21 +23,21 @@ install_packages "$root/packaging/debian-packages-packaging.txt"
 
 # Debian's tools want `debian` in the sources and leave the packages beside them, hence a copy. What
 # was compiled there stays, in `build`.
-mkdir -p "$into/work"
+mkdir -p "$into/making"
 into=$(cd "$into" && pwd)
-find "$into/work" -mindepth 1 -maxdepth 1 ! -name build -exec rm -rf {} +
+find "$into/making" -mindepth 1 -maxdepth 1 ! -name build -exec rm -rf {} +
 rm -f "$into"/*.deb "$into"/*.changes "$into"/*.buildinfo
-tar -C "$root" --exclude=./build --exclude=./.git -c . | tar -C "$into/work" -x
-cp -r "$root/packaging/debian" "$into/work/debian"
+tar -C "$root" --exclude=./build --exclude=./.git -c . | tar -C "$into/making" -x
+cp -r "$root/packaging/debian" "$into/making/debian"
 unset IEC61850EXT_TREE
 if [ -n "$tree" ]; then
     tree=$(cd "$tree" && pwd)
     export IEC61850EXT_TREE=$tree DEB_BUILD_OPTIONS="noautodbgsym ${DEB_BUILD_OPTIONS:-}"
     # Outside /usr there is one folder for the libraries of all architectures.
     if grep -q '^CMAKE_INSTALL_LIBDIR:[A-Z]*=lib$' "$tree/CMakeCache.txt"; then
-        sed -i '/^Multi-Arch: same$/d' "$into/work/debian/control"
+        sed -i '/^Multi-Arch: same$/d' "$into/making/debian/control"
     fi
 fi
-cd "$into/work"
+cd "$into/making"
 dpkg-buildpackage --build=binary --no-sign --no-pre-clean >&2 || fail "The packages could not be made."
 ls "$into"/*.deb

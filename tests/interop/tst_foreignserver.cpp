@@ -9,6 +9,7 @@
 
 #include <asio/co_spawn.hpp>
 #include <asio/detached.hpp>
+#include <asio/post.hpp>
 
 #include <QFile>
 #include <QJsonArray>
@@ -781,10 +782,13 @@ TEST_F(ForeignServerTest, CancelIsToldOrNot)
     const auto opened = m_session->connect(m_server->port());
     ASSERT_TRUE(opened.ok());
     mmstest::Awaited<CallOutcome> outcome;
-    const auto id = m_session->association().call(
-        ReadRequest{false, list(std::vector<std::string>(500, "GGIO1$MX$AnIn1"))},
-        std::chrono::seconds(10), outcome.setter());
-    m_session->association().cancel(id);
+    // In one turn of the strand, so that no answer comes between the two.
+    asio::post(m_session->association().strand(), [&] {
+        const auto id = m_session->association().call(
+            ReadRequest{false, list(std::vector<std::string>(500, "GGIO1$MX$AnIn1"))},
+            std::chrono::seconds(10), outcome.setter());
+        m_session->association().cancel(id);
+    });
     const auto ended = outcome.get();
     const auto *failure = std::get_if<CallFailure>(&ended);
     ASSERT_NE(failure, nullptr);
