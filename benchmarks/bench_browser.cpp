@@ -308,7 +308,7 @@ void latency(benchmark::State &state)
         auto *tree = view->findChild<QTreeView *>(QStringLiteral("modelView"));
         tree->expandAll();
         // All values are in sight.
-        view->resize(900, 5000);
+        view->resize(900, 10000);
         view->show();
         QCoreApplication::processEvents();
 
