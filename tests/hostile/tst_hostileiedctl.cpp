@@ -107,9 +107,7 @@ void tst_HostileIedctl::everyCommandEndsWithAStatusAndASentence()
         for (const QByteArray &line : lines) {
             QString sentence = QString::fromUtf8(line);
             sentence.remove(QRegularExpression(QStringLiteral("^iedctl: ")));
-            // The device's own reason for refusing a write may stand without a stop.
-            const bool isReason = stepCases[i].step == Step::Write && isSentence(sentence + '.');
-            QVERIFY2(line.isEmpty() || isReason || isSentence(sentence), told.constData());
+            QVERIFY2(line.isEmpty() || isSentence(sentence), told.constData());
         }
         QVERIFY2(m_devices[i]->line().reached() > 0, told.constData());
         if (program.exitCode() != 0) {
