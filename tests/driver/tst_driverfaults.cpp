@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "driver/indicatorfile.h"
-#include "driver/memoryuse.h"
+#include "support/memoryuse.h"
 #include "driver/simulatedstation.h"
 #include "driver/switchedfaults.h"
 
@@ -339,9 +339,9 @@ void tst_DriverFaults::aDeviceThatIsKilledAgainAndAgainIsBackSoon()
         slowest = std::max(slowest, timer.elapsed());
         QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
         if (round == rounds / 5)
-            atFirst = memoryInUse();
+            atFirst = testsupport::memoryInUse();
     }
-    const qint64 growth = memoryInUse() - atFirst;
+    const qint64 growth = testsupport::memoryInUse() - atFirst;
     qInfo("%d restarts, the slowest return took %lld ms, memory grew by %lld KiB", rounds, slowest,
           growth / 1024);
     QVERIFY(growth < 4 << 20);

@@ -2,7 +2,7 @@
 // Twenty devices that change 2,000 values a second in all, for as many seconds as SOAK_SECONDS says
 // (by default ten minutes; less where it runs among the other tests).
 #include "driver/indicatorfile.h"
-#include "driver/memoryuse.h"
+#include "support/memoryuse.h"
 #include "driver/simulatedstation.h"
 
 #include <asio/io_context.hpp>
@@ -99,13 +99,13 @@ void tst_DriverSoak::manyDevicesReportForALongTime()
             made += changes;
         }
         if (atFirst == 0 && next >= settled)
-            atFirst = memoryInUse();
+            atFirst = testsupport::memoryInUse();
         next += period;
         tick.expires_at(next);
         tick.wait();
     }
     const double cpu = static_cast<double>(std::clock() - cpuBefore) / CLOCKS_PER_SEC;
-    const qint64 growth = memoryInUse() - atFirst;
+    const qint64 growth = testsupport::memoryInUse() - atFirst;
 
     // A last pattern: all of it arrives.
     for (std::size_t device = 0; device < ieds.size(); ++device) {

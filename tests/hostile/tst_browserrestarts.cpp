@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // A device that goes and comes back again and again under the open browser of an operator.
 #include "driver/indicatorfile.h"
-#include "driver/memoryuse.h"
+#include "support/memoryuse.h"
 #include "driver/simulatedstation.h"
 #include "interop/operatordesk.h"
 
@@ -61,9 +61,9 @@ void tst_BrowserRestarts::liveValuesComeBackAfterEachRestart()
         QTRY_COMPARE_WITH_TIMEOUT(desk.valueOf(first).toLower(), shown, 20000);
         QTRY_COMPARE_WITH_TIMEOUT(desk.valueOf(last).toLower(), shown, 20000);
         if (round == rounds / 4)
-            atFirst = memoryInUse();
+            atFirst = testsupport::memoryInUse();
     }
-    const qint64 growth = memoryInUse() - atFirst;
+    const qint64 growth = testsupport::memoryInUse() - atFirst;
     qInfo("%d restarts under an open browser, memory grew by %lld KiB", rounds, growth / 1024);
     // The same tree all the time: nothing that was expanded or selected is lost.
     QVERIFY(node.isValid());

@@ -2,7 +2,7 @@
 // Servers that misbehave at each step of a conversation with the driver.
 #include "hostile/hostilestation.h"
 
-#include "driver/memoryuse.h"
+#include "support/memoryuse.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtTest/QtTest>
@@ -194,7 +194,7 @@ void tst_HostileServers::everyStepEndsWithASentenceAndHarmsNobody()
         if (!stepCases[i].isOpening)
             QVERIFY(listener.waitForState(numberOf(i), DeviceState::Online));
     }
-    const qint64 before = memoryInUse();
+    const qint64 before = testsupport::memoryInUse();
     Neighbour busy(driver, *m_honest);
 
     std::vector<std::future<Ending>> endings(stepCases.size());
@@ -248,7 +248,7 @@ void tst_HostileServers::everyStepEndsWithASentenceAndHarmsNobody()
     busy.stop();
     QVERIFY(busy.readings() > 0);
     QCOMPARE(busy.failures(), 0);
-    const qint64 growth = memoryInUse() - before;
+    const qint64 growth = testsupport::memoryInUse() - before;
     QVERIFY2(growth < tolerableGrowth, qPrintable(QString::number(growth)));
 
     // Everybody behaves: what was left out of a model because it came too late is read anew.

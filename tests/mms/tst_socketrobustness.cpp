@@ -1,13 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mms/associationtest.h"
 #include "mms/samples.h"
+#include "support/memoryuse.h"
 
 #include <random>
-
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-// Not every compiler that has the sanitizer has its header as well.
-extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
-#endif
 
 using namespace mmstest;
 
@@ -18,7 +14,7 @@ using Generator = std::mt19937;
 constexpr int connections = 1500;
 /// What a warmed-up process may still grow by: pools of the allocator, not something per
 /// connection.
-constexpr std::size_t allowedGrowth = 4 * 1024 * 1024;
+constexpr std::int64_t allowedGrowth = 4 * 1024 * 1024;
 
 std::size_t below(Generator &generator, std::size_t limit)
 {
@@ -55,23 +51,6 @@ void mutate(Generator &generator, Octets &octets)
             break;
         }
     }
-}
-
-/// Octets of the process in physical memory; 0 where the system does not tell. A sanitizer keeps
-/// memory that was freed, but knows what is in use.
-std::size_t usedMemory()
-{
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-    return __sanitizer_get_current_allocated_bytes();
-#else
-    std::size_t pages = 0;
-    if (std::FILE *file = std::fopen("/proc/self/statm", "r")) {
-        if (std::fscanf(file, "%*s %zu", &pages) != 1)
-            pages = 0;
-        std::fclose(file);
-    }
-    return pages * 4096;
-#endif
 }
 
 /// Some PDUs of the samples, each changed now and then, as they stand inside an association.
@@ -168,13 +147,13 @@ TEST_F(SocketRobustness, AServerSurvivesWhateverIsSentAndDoesNotGrow)
 {
     const std::uint16_t port = startServer();
     Generator generator(20210304);
-    std::size_t warm = 0;
+    std::int64_t warm = 0;
     for (int i = 0; i < connections; ++i) {
         attack(port, generator);
         if (i == connections / 3)
-            warm = usedMemory();
+            warm = testsupport::memoryInUse();
     }
-    EXPECT_LT(usedMemory(), warm + allowedGrowth);
+    EXPECT_LT(testsupport::memoryInUse(), warm + allowedGrowth);
     ASSERT_TRUE(connect(port, quickOptions()).ok());
     EXPECT_NE(answerOf<IdentifyResponse>(call(IdentifyRequest())), nullptr);
     Awaited<Result<void>> concluded;
@@ -186,13 +165,13 @@ TEST_F(SocketRobustness, AClientSurvivesWhateverItIsAnsweredAndDoesNotGrow)
 {
     Generator generator(20210305);
     RawPeer peer;
-    std::size_t warm = 0;
+    std::int64_t warm = 0;
     for (int i = 0; i < connections; ++i) {
         attackClient(generator, peer);
         if (i == connections / 3)
-            warm = usedMemory();
+            warm = testsupport::memoryInUse();
     }
-    EXPECT_LT(usedMemory(), warm + allowedGrowth);
+    EXPECT_LT(testsupport::memoryInUse(), warm + allowedGrowth);
     ASSERT_TRUE(connect(startServer(), quickOptions()).ok());
     EXPECT_NE(answerOf<IdentifyResponse>(call(IdentifyRequest())), nullptr);
 }
