@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mms/acse.h"
 
-#include "mms/codec.h"
+#include "mms/ber.h"
 
 #include <algorithm>
 #include <array>
@@ -433,7 +433,7 @@ Actions Association::receive(Service service, Bytes octets, const Text &reason)
         if (!octets.empty()) {
             const auto unit = decode(octets);
             if (!unit)
-                return protocolError(codec::unreadable(unit.error()));
+                return protocolError(ber::unreadable(unit.error()));
         }
         if (service == Service::Disconnect) {
             m_state = State::Closed;
@@ -445,7 +445,7 @@ Actions Association::receive(Service service, Bytes octets, const Text &reason)
     }
     const auto unit = decode(octets);
     if (!unit)
-        return protocolError(codec::unreadable(unit.error()));
+        return protocolError(ber::unreadable(unit.error()));
     const auto *request = std::get_if<AssociateRequest>(&*unit);
     if (request && service == Service::Connect && m_state == State::Idle)
         return receiveRequest(*request);

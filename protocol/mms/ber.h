@@ -311,6 +311,12 @@ private:
     std::size_t m_begin;
 };
 
+/// Why an association ends with a peer whose octets are no message.
+inline Text unreadable(const Error &error)
+{
+    return say("What the peer sent cannot be read: %1.", error.message);
+}
+
 } // namespace ber
 
 } // namespace mms

@@ -42,12 +42,6 @@ void write(Writer &writer, const VariableAccessSpecification &specification);
 ServiceError readServiceError(Reader reader);
 void write(Writer &writer, const ServiceError &error);
 
-/// Why an association ends with a peer whose octets are no message.
-inline Text unreadable(const Error &error)
-{
-    return say("What the peer sent cannot be read: %1.", error.message);
-}
-
 /// The English of a sentence within the text of a trace.
 inline std::string withoutFullStop(const Text &sentence)
 {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mms/presentation.h"
 
-#include "mms/codec.h"
+#include "mms/ber.h"
 
 #include <algorithm>
 #include <array>
@@ -469,7 +469,7 @@ Actions Connection::receiveConnect(Bytes userData)
 {
     const auto unit = decodeConnect(userData);
     if (!unit)
-        return reject(codec::unreadable(unit.error()));
+        return reject(ber::unreadable(unit.error()));
     m_askedSelector = unit->calledSelector;
     if (m_options.checkSelector && m_askedSelector != m_options.localSelector)
         return reject(say("The peer asked for an unknown presentation selector."));
@@ -499,7 +499,7 @@ Actions Connection::receiveAccept(Bytes userData)
 {
     const auto unit = decodeAccept(userData);
     if (!unit)
-        return fail(codec::unreadable(unit.error()));
+        return fail(ber::unreadable(unit.error()));
     const auto accepted = [](const ContextAnswer &answer) {
         return answer.result == ContextResult::Acceptance;
     };
@@ -514,7 +514,7 @@ Actions Connection::receiveRefuse(Bytes userData)
         return {Indication{Service::Refuse, false, {}, {}}};
     const auto unit = decodeReject(userData);
     if (!unit)
-        return {Indication{Service::Refuse, false, {}, codec::unreadable(unit.error())}};
+        return {Indication{Service::Refuse, false, {}, ber::unreadable(unit.error())}};
     Indication indication{Service::Refuse, false, {}, rejectionText(unit->reason)};
     for (const DataValue &value : unit->userData) {
         indication.association = true;
@@ -549,7 +549,7 @@ Actions Connection::receiveData(Service service, Bytes userData)
         return {Indication{service, true, {}, {}}};
     const auto values = decodeData(userData);
     if (!values)
-        return fail(codec::unreadable(values.error()));
+        return fail(ber::unreadable(values.error()));
     return indicate(service, *values);
 }
 
