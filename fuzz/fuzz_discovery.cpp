@@ -2,10 +2,10 @@
 #include "answers.h"
 
 #include "acsi/discoveryplan.h"
-#include "driver/discoveredmodel.h"
-#include "driver/onlinemodel.h"
-#include "driver/sclimport.h"
-#include "driver/valueconversion.h"
+#include "driver/model/discoveredmodel.h"
+#include "driver/model/onlinemodel.h"
+#include "driver/model/sclimport.h"
+#include "driver/model/valueconversion.h"
 #include "mms/pdu.h"
 
 #include <QtCore/QDataStream>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "material.h"
 
-#include "driver/lastentries.h"
+#include "driver/device/lastentries.h"
 
 #include <QtCore/QCryptographicHash>
 #include <QtCore/QDir>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "mms/stack.h"
+#include "osi/stack.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -2,7 +2,7 @@
 #include "answers.h"
 
 #include "acsi/report.h"
-#include "driver/reportstream.h"
+#include "driver/core/reportstream.h"
 #include "mms/pdu.h"
 
 #include <array>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "driver/sclimport.h"
+#include "driver/model/sclimport.h"
 
 #include <QtCore/QDataStream>
 

@@ -3,7 +3,7 @@
 
 #include "acsi/discoveryplan.h"
 #include "acsi/report.h"
-#include "driver/lastentries.h"
+#include "driver/device/lastentries.h"
 #include "mms/pdu.h"
 
 #include <QtCore/QDir>

@@ -3,7 +3,7 @@
 
 #include "exitstatus.h"
 
-#include "driver/deviceconfiguration.h"
+#include "driver/device/deviceconfiguration.h"
 
 #include <QtCore/QString>
 #include <QtCore/QStringList>

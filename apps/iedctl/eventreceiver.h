@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "driver/reportevent.h"
+#include "driver/core/reportevent.h"
 
 #include <QtCore/QList>
 

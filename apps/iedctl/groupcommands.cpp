@@ -3,7 +3,7 @@
 #include "session.h"
 #include "valuetext.h"
 
-#include "driver/valuewords.h"
+#include "driver/core/valuewords.h"
 
 #include <devicemodel/physicaldevice.h>
 

@@ -6,7 +6,7 @@
 #include "output.h"
 #include "session.h"
 
-#include "driver/ieddriver.h"
+#include "driver/service/ieddriver.h"
 #include <remoteclient/driverserviceregistry.h>
 
 #include <QtCore/QCoreApplication>

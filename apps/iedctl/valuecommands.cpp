@@ -6,7 +6,7 @@
 #include "valuelines.h"
 #include "valuetext.h"
 
-#include "driver/valuewords.h"
+#include "driver/core/valuewords.h"
 
 #include <QtCore/QDataStream>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "callconfirmation.h"
 
-#include "driver/valueconversion.h"
+#include "driver/model/valueconversion.h"
 
 #include <QtCore/QLocale>
 #include <QtCore/QMetaObject>

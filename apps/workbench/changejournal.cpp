@@ -3,7 +3,7 @@
 
 #include "plaintip.h"
 
-#include "driver/csvfield.h"
+#include "driver/text/csvfield.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>

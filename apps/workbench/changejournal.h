@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "driver/devicestatus.h"
+#include "driver/core/devicestatus.h"
 
 #include <QtCore/QAbstractTableModel>
 #include <QtCore/QFile>

@@ -3,7 +3,7 @@
 
 #include "devicestore.h"
 
-#include "driver/ieddriver.h"
+#include "driver/service/ieddriver.h"
 
 #include <QtWidgets/QDialog>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "driver/deviceconfiguration.h"
+#include "driver/device/deviceconfiguration.h"
 
 #include <QtCore/QString>
 #include <QtCore/QVector>

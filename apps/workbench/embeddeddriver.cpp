@@ -3,8 +3,8 @@
 
 #include "simulateddevice.h"
 
-#include "driver/offlinedriverservice.h"
-#include "driver/sclimport.h"
+#include "driver/service/offlinedriverservice.h"
+#include "driver/model/sclimport.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QStringList>

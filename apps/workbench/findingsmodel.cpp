@@ -3,7 +3,7 @@
 
 #include "plaintip.h"
 
-#include "driver/sentences.h"
+#include "driver/text/sentences.h"
 
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QStyle>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "modelcheck.h"
 
-#include "driver/sclimport.h"
+#include "driver/model/sclimport.h"
 
 #include <QtCore/QIODevice>
 #include <QtCore/QJsonArray>

@@ -6,7 +6,7 @@
 
 #include "demonstrationfiles.h"
 
-#include "driver/sentences.h"
+#include "driver/text/sentences.h"
 
 #include <asio/executor_work_guard.hpp>
 #include <asio/io_context.hpp>

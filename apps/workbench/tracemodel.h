@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "driver/ieddriver.h"
+#include "driver/service/ieddriver.h"
 
 #include <QtCore/QAbstractTableModel>
 

@@ -10,7 +10,7 @@
 #include "journalmodel.h"
 #include "waitingcalls.h"
 
-#include "driver/ieddriver.h"
+#include "driver/service/ieddriver.h"
 
 #include <host/hosttaskcontext.h>
 

@@ -4,7 +4,7 @@
 #include "ui_datasetselectwidget.h"
 
 #include "model/explanationtips.h"
-#include "plugin/failurereport.h"
+#include "toolkit/failurereport.h"
 
 #include <devicemodel/physicaldevice.h>
 

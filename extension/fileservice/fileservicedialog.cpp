@@ -4,9 +4,9 @@
 #include "filemodel.h"
 #include "ui_fileservicedialog.h"
 
-#include "plugin/busycursor.h"
-#include "plugin/failurereport.h"
-#include "plugin/modallife.h"
+#include "toolkit/busycursor.h"
+#include "toolkit/failurereport.h"
+#include "toolkit/modallife.h"
 
 #include <host/hosttaskcontext.h>
 #include <remoteclient/driverconsolinterface.h>

@@ -3,7 +3,7 @@
 
 #include "browser/iedmodelview.h"
 #include "fileservice/fileservicedialog.h"
-#include "modallife.h"
+#include "toolkit/modallife.h"
 #include "report/reportcontrol.h"
 
 #include <devicemodel/mmsvalue.h>

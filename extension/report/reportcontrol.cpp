@@ -5,8 +5,8 @@
 #include "ui_reportcontrol.h"
 
 #include "model/streportcontrolblock.h"
-#include "plugin/busycursor.h"
-#include "plugin/failurereport.h"
+#include "toolkit/busycursor.h"
+#include "toolkit/failurereport.h"
 
 #include <remoteclient/iec61850controllerinterface.h>
 

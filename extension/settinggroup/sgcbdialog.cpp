@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "sgcbdialog.h"
 
-#include "plugin/busycursor.h"
-#include "plugin/failurereport.h"
-#include "plugin/modallife.h"
+#include "toolkit/busycursor.h"
+#include "toolkit/failurereport.h"
+#include "toolkit/modallife.h"
 #include "ui_sgcbdialog.h"
 
 #include <propertybrowser/qtvarianteditorfactory.h>

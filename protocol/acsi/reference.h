@@ -2,7 +2,7 @@
 #pragma once
 
 #include "acsi/functionalconstraint.h"
-#include "mms/result.h"
+#include "wording/result.h"
 #include "mms/variableaccess.h"
 
 #include <cstdint>

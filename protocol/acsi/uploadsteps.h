@@ -2,7 +2,7 @@
 // Shared by the sources that transfer files; not for the folder's users.
 #pragma once
 
-#include "mms/result.h"
+#include "wording/result.h"
 #include "mms/serviceerror.h"
 
 #include <cstdint>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "mms/calls.h"
-#include "mms/link.h"
+#include "osi/link.h"
 #include "mms/pdu.h"
 
 #include <atomic>

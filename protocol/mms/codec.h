@@ -2,7 +2,7 @@
 // Shared by the sources that read and write PDUs; not for the folder's users.
 #pragma once
 
-#include "mms/ber.h"
+#include "osi/ber.h"
 #include "mms/objectname.h"
 #include "mms/serviceerror.h"
 #include "mms/variableaccess.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "mms/ber.h"
+#include "osi/ber.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "acsi/report.h"
 
-#include "mms/bytes.h"
+#include "osi/bytes.h"
 #include "mms/pdu.h"
 
 #include <gtest/gtest.h>

@@ -6,12 +6,12 @@
 #include "simulator/faults.h"
 #include "simulator/recordingclient.h"
 
-#include "driver/ieddriver.h"
+#include "driver/service/ieddriver.h"
 
 #include <devicemodel/mmsvalue.h>
 #include <devicemodel/physicaldevice.h>
 
-#include "driver/sclimport.h"
+#include "driver/model/sclimport.h"
 
 #include <asio/executor_work_guard.hpp>
 #include <asio/io_context.hpp>

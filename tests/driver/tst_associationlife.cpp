@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "driver/associationlife.h"
-#include "driver/deviceidentity.h"
-#include "driver/transferpace.h"
+#include "driver/core/associationlife.h"
+#include "driver/core/deviceidentity.h"
+#include "driver/device/transferpace.h"
 
 #include <QtTest/QtTest>
 

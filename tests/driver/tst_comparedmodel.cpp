@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "driver/comparedied.h"
-#include "driver/filecomparison.h"
+#include "driver/model/filecomparison.h"
 #include "driver/simulatedstation.h"
 
 #include "acsi/reference.h"

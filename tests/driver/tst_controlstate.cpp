@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "driver/controlorder.h"
-#include "driver/controlstate.h"
+#include "driver/core/controlorder.h"
+#include "driver/core/controlstate.h"
 
 #include <QtTest/QtTest>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "driver/deviceconfiguration.h"
+#include "driver/device/deviceconfiguration.h"
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>

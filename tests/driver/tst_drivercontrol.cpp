@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "driver/simulatedstation.h"
 
-#include "driver/controlorder.h"
+#include "driver/core/controlorder.h"
 
 #include "acsi/control.h"
 

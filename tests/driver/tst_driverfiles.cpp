@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "driver/simulatedstation.h"
 
-#include "driver/filenames.h"
+#include "driver/core/filenames.h"
 #include "simulator/directoryfiles.h"
 
 #include <QtCore/QDir>

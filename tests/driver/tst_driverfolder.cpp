@@ -2,7 +2,7 @@
 // Every IED of a folder of real devices is simulated, discovered through the driver, and compared
 // with what the import makes of its file.
 #include "driver/simulatedstation.h"
-#include "driver/valueconversion.h"
+#include "driver/model/valueconversion.h"
 
 #include "acsi/functionalconstraint.h"
 

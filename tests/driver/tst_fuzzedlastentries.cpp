@@ -2,7 +2,7 @@
 #include "fuzz/recordings.h"
 #include "support/madeinputs.h"
 
-#include "driver/lastentries.h"
+#include "driver/device/lastentries.h"
 
 #include <QtCore/QCryptographicHash>
 #include <QtCore/QTemporaryDir>

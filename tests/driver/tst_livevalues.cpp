@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "driver/devicestatus.h"
-#include "driver/livevalues.h"
+#include "driver/core/devicestatus.h"
+#include "driver/device/livevalues.h"
 
 #include <tavrix/tavrix.h>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "driver/offlinedriverservice.h"
-#include "driver/sclimport.h"
+#include "driver/service/offlinedriverservice.h"
+#include "driver/model/sclimport.h"
 
 #include <devicemodel/physicaldevice.h>
 

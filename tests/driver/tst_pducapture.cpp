@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "driver/pducapture.h"
+#include "driver/device/pducapture.h"
 
-#include "mms/pcapng.h"
+#include "osi/pcapng.h"
 #include "mms/pdu.h"
 
 #include <QtCore/QBuffer>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "driver/reportcoverage.h"
+#include "driver/core/reportcoverage.h"
 
 #include <QtTest/QtTest>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "driver/reportstream.h"
+#include "driver/core/reportstream.h"
 
 #include <QtTest/QtTest>
 

@@ -1,21 +1,21 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "driver/deviceconfiguration.h"
-#include "driver/ieddriver.h"
-#include "driver/sclimport.h"
-#include "driver/sentences.h"
+#include "driver/device/deviceconfiguration.h"
+#include "driver/service/ieddriver.h"
+#include "driver/model/sclimport.h"
+#include "driver/text/sentences.h"
 
 #include "acsi/control.h"
 #include "acsi/dataset.h"
 #include "acsi/reference.h"
 #include "acsi/report.h"
 #include "acsi/uploadsteps.h"
-#include "mms/acse.h"
-#include "mms/cotp.h"
+#include "osi/acse.h"
+#include "osi/cotp.h"
 #include "mms/pdu.h"
-#include "mms/presentation.h"
-#include "mms/session.h"
-#include "mms/tls.h"
-#include "mms/tpkt.h"
+#include "osi/presentation.h"
+#include "osi/session.h"
+#include "osi/tls.h"
+#include "osi/tpkt.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QRegularExpression>

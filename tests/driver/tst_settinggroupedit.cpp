@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "driver/settinggroupedit.h"
+#include "driver/core/settinggroupedit.h"
 
 #include <QtTest/QtTest>
 

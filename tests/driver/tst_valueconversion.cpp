@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "driver/valueconversion.h"
+#include "driver/model/valueconversion.h"
 
 #include <QtCore/QDataStream>
 #include <QtTest/QtTest>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "driver/valuecurrency.h"
+#include "driver/core/valuecurrency.h"
 
 #include <QtTest/QtTest>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "driver/valuewords.h"
+#include "driver/core/valuewords.h"
 
 #include <devicemodel/physicaldevice.h>
 

@@ -2,8 +2,8 @@
 #include "hostileline.h"
 
 #include "mms/pdu.h"
-#include "mms/stack.h"
-#include "mms/tpkt.h"
+#include "osi/stack.h"
+#include "osi/tpkt.h"
 
 #include <asio/awaitable.hpp>
 #include <asio/co_spawn.hpp>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "iedctl/valuetext.h"
 
-#include "driver/valuewords.h"
+#include "driver/core/valuewords.h"
 
 #include <devicemodel/physicaldevice.h>
 

@@ -3,7 +3,7 @@
 #include "interop/jsondata.h"
 #include "interop/matrix.h"
 #include "mms/loopback.h"
-#include "mms/testcertificates.h"
+#include "osi/testcertificates.h"
 #include "scl/reader.h"
 #include "simulator/device.h"
 #include "simulator/directoryfiles.h"

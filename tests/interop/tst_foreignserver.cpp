@@ -3,7 +3,7 @@
 #include "interop/jsondata.h"
 #include "interop/matrix.h"
 #include "interop/session.h"
-#include "mms/testcertificates.h"
+#include "osi/testcertificates.h"
 
 #include "acsi/discovery.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "mms/bytes.h"
+#include "osi/bytes.h"
 #include "mms/loopback.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mms/associationtest.h"
-#include "mms/hostlookup.h"
+#include "osi/hostlookup.h"
 
 #include <asio/co_spawn.hpp>
 #include <asio/detached.hpp>

@@ -2,7 +2,7 @@
 #include "mms/data.h"
 #include "mms/typedescription.h"
 
-#include "bytes.h"
+#include "osi/bytes.h"
 
 #include <gtest/gtest.h>
 

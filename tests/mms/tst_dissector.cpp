@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // What tshark makes of captures of every PDU. Skipped where it is not installed.
-#include "mms/pcapng.h"
+#include "osi/pcapng.h"
 #include "mms/samples.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mms/pdu.h"
 
-#include "bytes.h"
+#include "osi/bytes.h"
 #include "samples.h"
 
 #include <gtest/gtest.h>

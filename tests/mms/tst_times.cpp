@@ -2,7 +2,7 @@
 #include "mms/data.h"
 #include "mms/times.h"
 
-#include "bytes.h"
+#include "osi/bytes.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mms/associationtest.h"
-#include "mms/testcertificates.h"
+#include "osi/testcertificates.h"
 
 #include <asio/ssl.hpp>
 

@@ -6,7 +6,7 @@
 
 #include "acsi/client.h"
 #include "acsi/discovery.h"
-#include "driver/onlinemodel.h"
+#include "driver/model/onlinemodel.h"
 
 #include <asio/co_spawn.hpp>
 #include <asio/use_future.hpp>

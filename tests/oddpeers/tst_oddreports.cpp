@@ -4,7 +4,7 @@
 #include "indicatorfile.h"
 
 #include "acsi/report.h"
-#include "mms/interference.h"
+#include "osi/interference.h"
 #include "mms/pdu.h"
 
 #include <QtCore/QElapsedTimer>

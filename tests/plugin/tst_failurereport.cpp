@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "plugin/failurereport.h"
+#include "toolkit/failurereport.h"
 
-#include "plugin/modallife.h"
+#include "toolkit/modallife.h"
 
 #include "support/modaldriver.h"
 

@@ -18,10 +18,10 @@ import pathlib
 import re
 import sys
 
-SENTENCES_OF = ["extension", "sdk", "apps"]
+SENTENCES_OF = ["extension", "sdk", "driver", "apps"]
 LITERALS_OF = ["apps/iedctl"]
 ALL_OF = [
-    "apps/driver/*.cpp",
+    "driver/**/*.cpp",
     "apps/workbench/devicestore.cpp",
     "apps/workbench/embeddeddriver.cpp",
     "apps/workbench/extensionloader.cpp",

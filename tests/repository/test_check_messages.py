@@ -18,8 +18,8 @@ PAGE = """
 | There is nothing to read here. | ... |
 """
 SOURCES = {
-    "apps/driver/a.cpp": 'Texts::tr("The peer did not %1 "\n   "at all.");',
-    "apps/driver/sentencetable.cpp": 'QT_TRANSLATE_NOOP("IedDriver", "The device is away."),',
+    "driver/device/a.cpp": 'Texts::tr("The peer did not %1 "\n   "at all.");',
+    "driver/text/sentencetable.cpp": 'QT_TRANSLATE_NOOP("IedDriver", "The device is away."),',
     "apps/iedctl/a.cpp": 'mistake("There is nothing to read here.");',
     "apps/workbench/devicestore.cpp": "",
     "apps/workbench/embeddeddriver.cpp": "",
@@ -54,7 +54,7 @@ class CheckMessages(unittest.TestCase):
 
     def test_a_sentence_of_the_protocol_without_a_row_is_found(self):
         table = 'QT_TRANSLATE_NOOP("IedDriver", "The device has fallen asleep."),'
-        self.assertEqual(len(self.lacking({"apps/driver/sentencetable.cpp": table})), 1)
+        self.assertEqual(len(self.lacking({"driver/text/sentencetable.cpp": table})), 1)
 
     def test_a_sentence_that_is_not_translated_is_found_in_a_program(self):
         self.assertEqual(len(self.lacking({"apps/iedctl/b.cpp": '"The file has gone away."'})), 1)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The program as somebody at a terminal meets it.
-#include "mms/testcertificates.h"
+#include "osi/testcertificates.h"
 #include "simulator/devicetest.h"
 #include "simulator/program.h"
 

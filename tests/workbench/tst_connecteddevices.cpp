@@ -4,7 +4,7 @@
 #include "workbench/simulateddevice.h"
 #include "workbench/workbench.h"
 
-#include "driver/sclimport.h"
+#include "driver/model/sclimport.h"
 
 #include <remoteclient/records.h>
 

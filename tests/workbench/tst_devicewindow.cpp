@@ -10,7 +10,7 @@
 #include "workbench/tracedialog.h"
 #include "workbench/workbench.h"
 
-#include "driver/sclimport.h"
+#include "driver/model/sclimport.h"
 
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>

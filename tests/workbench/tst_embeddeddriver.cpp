@@ -3,8 +3,8 @@
 
 #include "workbench/simulateddevice.h"
 
-#include "driver/ieddriver.h"
-#include "driver/offlinedriverservice.h"
+#include "driver/service/ieddriver.h"
+#include "driver/service/offlinedriverservice.h"
 
 #include <devicemodel/physicaldevice.h>
 

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "livevalues.h"
+
+#include "driver/core/devicestatus.h"
+
+#include <tavrix/tavrix.h>
+
+#include <asio/post.hpp>
+
+#include <QtCore/QDataStream>
+
+#include <algorithm>
+
+namespace {
+
+const char *const boxPrefix = "MMS_DATACHANGE:";
+const char *const recordKey = "MMS_VALUE";
+
+void postToBrowsers(const QList<QByteArray> &records)
+{
+    Tavrix::PostEvent(boxPrefix, recordKey, records);
+}
+
+QByteArray recordOf(const MMSValue &value)
+{
+    QByteArray bytes;
+    bytes.reserve(MMSValue::rawSize);
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    value.toStream(stream);
+    return bytes;
+}
+
+} // namespace
+
+static_assert(LiveValues::recordsPerEvent <= Tavrix::maxRecordsPerEvent);
+
+std::shared_ptr<LiveValues> LiveValues::create(asio::any_io_executor executor, Poster poster)
+{
+    return std::make_shared<LiveValues>(Private(), std::move(executor), std::move(poster));
+}
+
+LiveValues::LiveValues(Private, asio::any_io_executor executor, Poster poster)
+    : m_strand(asio::make_strand(std::move(executor)))
+    , m_timer(m_strand)
+    , m_poster(poster ? std::move(poster) : Poster(postToBrowsers))
+{
+}
+
+void LiveValues::publish(std::vector<MMSValue> values)
+{
+    if (values.empty())
+        return;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    for (MMSValue &value : values) {
+        const auto found = m_position.constFind(value.reference);
+        if (found != m_position.constEnd()) {
+            MMSValue &kept = m_gathered[*found];
+            // What somebody waits for, an answer or a report, stays to be known as such.
+            if (value.cause == PublishCause::Polled)
+                value.cause = kept.cause;
+            kept = std::move(value);
+        } else {
+            m_position.insert(value.reference, m_gathered.size());
+            m_gathered.push_back(std::move(value));
+        }
+    }
+    if (m_timerRuns)
+        return;
+    m_timerRuns = true;
+    asio::post(m_strand, [self = shared_from_this()] {
+        self->m_timer.expires_after(interval);
+        self->m_timer.async_wait([self](const asio::error_code &) { self->post(); });
+    });
+}
+
+void LiveValues::flush()
+{
+    asio::post(m_strand, [self = shared_from_this()] { self->m_timer.cancel(); });
+}
+
+std::uint64_t LiveValues::posted() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_posted;
+}
+
+void LiveValues::post()
+{
+    std::vector<MMSValue> values;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        values.swap(m_gathered);
+        m_position.clear();
+        m_timerRuns = false;
+        m_posted += values.size();
+    }
+    QList<QByteArray> records;
+    records.reserve(static_cast<int>(std::min<std::size_t>(values.size(), recordsPerEvent)));
+    for (const MMSValue &value : values) {
+        records.append(recordOf(value));
+        if (records.size() == recordsPerEvent) {
+            m_poster(records);
+            records.clear();
+        }
+    }
+    if (!records.isEmpty())
+        m_poster(records);
+}

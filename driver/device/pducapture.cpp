@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "pducapture.h"
+
+#include "driver/text/sentences.h"
+
+#include "osi/pcapng.h"
+#include "mms/pdu.h"
+
+#include <QtCore/QIODevice>
+
+#include <algorithm>
+
+namespace {
+
+/// What an entry costs besides its octets.
+constexpr std::size_t entryOverhead = 64;
+
+/// Longer texts would only slow a window down that shows them.
+constexpr std::size_t longestText = 4000;
+
+std::size_t costOf(std::size_t octets)
+{
+    return octets + entryOverhead;
+}
+
+bool writeAll(QIODevice &device, const mms::Octets &octets)
+{
+    const auto size = static_cast<qint64>(octets.size());
+    return device.write(reinterpret_cast<const char *>(octets.data()), size) == size;
+}
+
+QString textOf(const std::vector<std::uint8_t> &octets)
+{
+    const mms::Result<mms::Pdu> pdu = mms::decodePdu(octets);
+    if (!pdu)
+        return text(pdu.error().message);
+    std::string text = mms::toText(*pdu);
+    if (text.size() > longestText) {
+        text.resize(longestText);
+        return QString::fromStdString(text) + QStringLiteral("…");
+    }
+    return QString::fromStdString(text);
+}
+
+} // namespace
+
+PduCapture::PduCapture(std::size_t limit)
+    : m_limit(limit)
+{
+}
+
+void PduCapture::add(mms::Direction direction, mms::Bytes pdu)
+{
+    if (direction == mms::Direction::Sent) {
+        ++m_sent;
+    } else {
+        ++m_received;
+        m_lastReceived = std::chrono::steady_clock::now().time_since_epoch().count();
+    }
+    Entry entry{std::chrono::system_clock::now(), direction, {pdu.begin(), pdu.end()}};
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_octets += costOf(entry.pdu.size());
+    m_entries.push_back(std::move(entry));
+    while (m_octets > m_limit && m_entries.size() > 1) {
+        m_octets -= costOf(m_entries.front().pdu.size());
+        m_entries.pop_front();
+        ++m_dropped;
+    }
+}
+
+void PduCapture::clear()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_entries.clear();
+    m_octets = 0;
+    m_dropped = 0;
+}
+
+bool PduCapture::save(QIODevice &device) const
+{
+    // Copied, so that a slow disk does not hold up the association.
+    const std::vector<Entry> entries = newest(std::numeric_limits<std::size_t>::max());
+    if (!writeAll(device, mms::pcapng::fileHeader()))
+        return false;
+    return std::all_of(entries.begin(), entries.end(), [&device](const Entry &entry) {
+        return writeAll(device, mms::pcapng::packet(entry.direction, entry.time, entry.pdu));
+    });
+}
+
+QVector<PduCapture::Line> PduCapture::trace(int count) const
+{
+    const std::vector<Entry> entries = newest(static_cast<std::size_t>(std::max(count, 0)));
+    QVector<Line> lines;
+    lines.reserve(static_cast<int>(entries.size()));
+    for (const Entry &entry : entries) {
+        const auto sinceEpoch = entry.time.time_since_epoch();
+        lines.append(
+            {QDateTime::fromMSecsSinceEpoch(
+                 std::chrono::duration_cast<std::chrono::milliseconds>(sinceEpoch).count()),
+             entry.direction == mms::Direction::Sent, textOf(entry.pdu)});
+    }
+    return lines;
+}
+
+std::size_t PduCapture::octets() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_octets;
+}
+
+std::uint64_t PduCapture::dropped() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_dropped;
+}
+
+std::chrono::steady_clock::time_point PduCapture::lastReceived() const
+{
+    return std::chrono::steady_clock::time_point(
+        std::chrono::steady_clock::duration(m_lastReceived.load()));
+}
+
+std::vector<PduCapture::Entry> PduCapture::newest(std::size_t count) const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const std::size_t taken = std::min(count, m_entries.size());
+    return {m_entries.end() - static_cast<std::ptrdiff_t>(taken), m_entries.end()};
+}

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "osi/trace.h"
+
+#include <QtCore/QDateTime>
+#include <QtCore/QString>
+#include <QtCore/QVector>
+
+#include <atomic>
+#include <chrono>
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <mutex>
+
+class QIODevice;
+
+/// The last PDUs of a device, whatever association they belonged to: at most a number of octets,
+/// the oldest give way. Any thread.
+class PduCapture
+{
+public:
+    static constexpr std::size_t defaultLimit = 4U << 20;
+
+    struct Line
+    {
+        QDateTime time; ///< local time
+        bool sent = false;
+        QString text;
+    };
+
+    explicit PduCapture(std::size_t limit = defaultLimit);
+
+    void add(mms::Direction direction, mms::Bytes pdu);
+    void clear();
+
+    /// Writes what is there as a capture that protocol analysers open (pcapng). False when the
+    /// device does not take it; its error text says why.
+    bool save(QIODevice &device) const;
+    /// The newest PDUs as text, oldest first.
+    QVector<Line> trace(int count) const;
+
+    std::size_t octets() const;
+    std::uint64_t sent() const { return m_sent; }
+    std::uint64_t received() const { return m_received; }
+    /// PDUs that had to give way.
+    std::uint64_t dropped() const;
+    /// When the last PDU came; the clock's epoch before the first.
+    std::chrono::steady_clock::time_point lastReceived() const;
+
+private:
+    struct Entry
+    {
+        std::chrono::system_clock::time_point time;
+        mms::Direction direction;
+        std::vector<std::uint8_t> pdu;
+    };
+
+    std::vector<Entry> newest(std::size_t count) const;
+
+    const std::size_t m_limit;
+    mutable std::mutex m_mutex;
+    std::deque<Entry> m_entries;
+    std::size_t m_octets = 0;
+    std::uint64_t m_dropped = 0;
+    std::atomic<std::uint64_t> m_sent{0};
+    std::atomic<std::uint64_t> m_received{0};
+    std::atomic<std::chrono::steady_clock::rep> m_lastReceived{0};
+};

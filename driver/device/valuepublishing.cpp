@@ -1,0 +1,384 @@
+// SPDX-License-Identifier: Apache-2.0
+// DeviceConnection's way from what a device answers to published values: taking data apart to the
+// leaves of the model, what is new of them, reading for an operator.
+#include "deviceconnection.h"
+
+#include "driver/text/connectiontext.h"
+#include "driver/text/sentences.h"
+#include "driver/model/valueconversion.h"
+
+#include <asio/co_spawn.hpp>
+
+#include <QtCore/QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+
+using ConnectionText::text;
+using ConnectionText::withoutPeriod;
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(IedDriver)
+};
+
+/// Between the bytes of a model and the browser that listens.
+constexpr milliseconds browserStart{1500};
+/// How long, and how often, a value is shown again after another one was refused.
+constexpr std::chrono::seconds showingTime{60};
+constexpr milliseconds showingInterval{500};
+/// Bits of a quality that records carry (IEC 61850-7-3, 6.2).
+constexpr int qualityLength = 13;
+/// Failed references that a sentence names.
+constexpr int namedFailures = 5;
+
+/// Sentences about single references in one.
+class Failures
+{
+public:
+    void add(const QString &reference, const QString &reason)
+    {
+        if (m_sentences.size() < namedFailures)
+            m_sentences.append(Texts::tr("%1: %2").arg(reference, withoutPeriod(reason)));
+        ++m_count;
+    }
+
+    void add(const Failures &others)
+    {
+        for (const QString &each : others.m_sentences) {
+            if (m_sentences.size() < namedFailures)
+                m_sentences.append(each);
+        }
+        m_count += others.m_count;
+    }
+
+    Outcome outcome() const
+    {
+        if (m_count == 0)
+            return {};
+        QString sentence = m_sentences.join(QStringLiteral("; "));
+        if (m_count > m_sentences.size())
+            sentence = Texts::tr("%1; and %2 more").arg(sentence).arg(m_count - m_sentences.size());
+        return Outcome::failed(sentence + QLatin1Char('.'));
+    }
+
+private:
+    QStringList m_sentences;
+    int m_count = 0;
+};
+
+/// Nothing that is shown would change. QVariant takes numbers that are near each other for equal,
+/// and a text for the number that it reads as.
+bool isSame(const QVariant &left, const QVariant &right)
+{
+    if (left.userType() != right.userType())
+        return false;
+    const bool isReal = left.userType() == QMetaType::Double || left.userType() == QMetaType::Float;
+    if (!isReal)
+        return left == right;
+    const double first = left.toDouble();
+    const double second = right.toDouble();
+    return std::equal_to<>()(first, second) || (std::isnan(first) && std::isnan(second));
+}
+
+ValueCurrency::Source sourceOf(std::uint32_t cause)
+{
+    if (cause == PublishCause::Polled)
+        return ValueCurrency::Source::Poll;
+    return (cause & PublishCause::Report) != 0 ? ValueCurrency::Source::Report
+                                               : ValueCurrency::Source::Read;
+}
+
+bool isQuality(const acsi::Reference &reference, const mms::Data &data)
+{
+    return reference.path.size() > 1 && reference.path.back().name == "q" &&
+           data.kind() == mms::Data::Kind::BitString;
+}
+
+/// The quality or time, by @p name, that goes with a leaf: the nearest beside or above it.
+const DataAttribute *companionOf(const PhysicalDevice &device, const QString &leaf,
+                                 const QString &name)
+{
+    QString place = leaf;
+    // Not above the data object: "LD/LN$FC$Object".
+    while (place.count(QLatin1Char('$')) > 2) {
+        place.truncate(place.lastIndexOf(QLatin1Char('$')));
+        const QString companion = place + QLatin1Char('$') + name;
+        if (const DataAttribute *found = device.findTag(companion))
+            return companion == leaf ? nullptr : found;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+void DeviceConnection::send(std::vector<MMSValue> records)
+{
+    if (m_recentUsers > 0) {
+        for (const MMSValue &record : records)
+            m_recent.insert(record.reference, record);
+    }
+    m_published += records.size();
+    m_environment.values->publish(std::move(records));
+}
+
+bool DeviceConnection::publish(const acsi::Reference &reference, const mms::Data &data,
+                               const Publication &publication)
+{
+    if (!m_model)
+        return false;
+    const ValueCurrency::Source source = sourceOf(publication.cause);
+    const Deadline asOf = publication.asOf == Deadline() ? steady_clock::now() : publication.asOf;
+    std::vector<MMSValue> records;
+    const auto visit = [&](const OnlineModel::Leaf &leaf) {
+        const bool isNew = !m_currency || m_currency->take(leaf.number, source, asOf);
+        if (!leaf.attribute)
+            return;
+        if (!isNew) {
+            if (!publication.onlyChanges && leaf.attribute->value.isValid())
+                records.push_back(knownRecord(*leaf.attribute, publication.cause));
+            return;
+        }
+        QVariant value = ValueConversion::toVariant(leaf.attribute->basicType, *leaf.data);
+        const mms::Data *quality = leaf.quality ? leaf.quality : publication.quality;
+        const bool hasOtherQuality = quality && m_model->setQuality(leaf.number, *quality);
+        if (publication.onlyChanges && !hasOtherQuality && isSame(value, leaf.attribute->value) &&
+            m_unwritten.count(leaf.number) == 0)
+            return;
+        leaf.attribute->value = value;
+        MMSValue record;
+        record.value = std::move(value);
+        record.reference = leaf.attribute->reference;
+        if (quality)
+            record.quality = ValueConversion::qualityText(*quality).left(qualityLength);
+        if (const mms::Data *time = leaf.time ? leaf.time : publication.time)
+            record.timeStamp = ValueConversion::timeText(*time);
+        record.deviceNo = m_configuration.number;
+        record.cause = publication.cause;
+        records.push_back(std::move(record));
+    };
+    const bool fits = m_model->forEachLeaf(reference, data, visit);
+    send(std::move(records));
+    if (fits && isQuality(reference, data))
+        publishQualityOf(reference, data, publication);
+    return fits;
+}
+
+MMSValue DeviceConnection::knownRecord(const DataAttribute &attribute, std::uint32_t cause) const
+{
+    MMSValue record;
+    record.value = attribute.value;
+    record.reference = attribute.reference;
+    record.deviceNo = m_configuration.number;
+    record.cause = cause;
+    const PhysicalDevice &device = m_model->device();
+    if (const auto *quality = companionOf(device, attribute.reference, QStringLiteral("q")))
+        record.quality = quality->value.toString().left(qualityLength);
+    if (const auto *time = companionOf(device, attribute.reference, QStringLiteral("t")))
+        record.timeStamp = time->value.toString();
+    return record;
+}
+
+/// A quality that came alone belongs to values that are known already.
+void DeviceConnection::publishQualityOf(const acsi::Reference &quality, const mms::Data &data,
+                                        const Publication &publication)
+{
+    acsi::Reference parent = quality;
+    parent.path.pop_back();
+    const QString own = text(acsi::toText(quality));
+    std::vector<MMSValue> records;
+    for (const OnlineModel::Leaf &leaf : m_model->leavesOf(parent)) {
+        if (!leaf.attribute || !leaf.attribute->value.isValid() || leaf.reference == own)
+            continue;
+        const DataAttribute *companion =
+            companionOf(m_model->device(), leaf.reference, QStringLiteral("q"));
+        if (companion && companion->reference == own && m_model->setQuality(leaf.number, data))
+            records.push_back(knownRecord(*leaf.attribute, publication.cause));
+    }
+    send(std::move(records));
+}
+
+void DeviceConnection::publishKnown(const LeafRange &leaves, std::uint32_t cause)
+{
+    std::vector<MMSValue> records;
+    for (std::uint32_t leaf = leaves.first; m_model && leaf < leaves.end(); ++leaf) {
+        const DataAttribute *attribute = m_model->attribute(leaf);
+        if (attribute && attribute->value.isValid())
+            records.push_back(knownRecord(*attribute, cause));
+    }
+    send(std::move(records));
+}
+
+void DeviceConnection::haveWritten(const acsi::Reference &reference)
+{
+    if (!m_model || !m_currency)
+        return;
+    const LeafRange leaves = m_model->leafRange(reference);
+    for (std::uint32_t leaf = leaves.first; leaf < leaves.end(); ++leaf) {
+        m_currency->take(leaf, ValueCurrency::Source::Write, steady_clock::now());
+        m_unwritten.erase(leaf);
+    }
+}
+
+void DeviceConnection::showUnwritten(const acsi::Reference &reference)
+{
+    if (!m_model)
+        return;
+    const LeafRange leaves = m_model->leafRange(reference);
+    bool isShown = leaves.count > 0;
+    for (std::uint32_t leaf = leaves.first; leaf < leaves.end(); ++leaf)
+        isShown = !m_unwritten.insert(leaf).second && isShown;
+    publishKnown(leaves, PublishCause::Read);
+    // One that is running already goes on.
+    if (!isShown)
+        asio::co_spawn(m_strand, keepShowing(reference),
+                       [self = shared_from_this()](const std::exception_ptr &) {});
+}
+
+asio::awaitable<void> DeviceConnection::keepShowing(acsi::Reference reference)
+{
+    const ClientPointer client = m_client;
+    if (!client || !m_model)
+        co_return;
+    const Deadline end = steady_clock::now() + showingTime;
+    const std::uint32_t leaf = m_model->leafRange(reference).first;
+    const Publication publication;
+    std::vector<acsi::Reference> references;
+    references.push_back(reference);
+    static_cast<void>(co_await readAndPublish(std::move(references), publication));
+    const auto isWanted = [&] {
+        return m_client == client && client->isOpen() && m_model && m_unwritten.count(leaf) != 0;
+    };
+    for (Deadline next = steady_clock::now(); isWanted() && next < end;) {
+        next += showingInterval;
+        for (Deadline now = steady_clock::now(); isWanted() && now < next;
+             now = steady_clock::now())
+            co_await pause(std::chrono::ceil<milliseconds>(next - now));
+        if (isWanted())
+            publishKnown(m_model->leafRange(reference), PublishCause::Polled);
+    }
+    if (m_client != client || !m_model)
+        co_return;
+    const LeafRange shown = m_model->leafRange(reference);
+    for (std::uint32_t each = shown.first; each < shown.end(); ++each)
+        m_unwritten.erase(each);
+}
+
+std::vector<acsi::Reference>
+DeviceConnection::inReadableParts(const std::vector<acsi::Reference> &references) const
+{
+    std::vector<acsi::Reference> result;
+    for (const acsi::Reference &reference : references) {
+        std::vector<acsi::Reference> parts;
+        if (m_model)
+            parts = m_model->readableParts(reference);
+        // The device itself shall say what it thinks of a name that it did not describe.
+        if (parts.empty())
+            parts.push_back(reference);
+        std::ranges::move(parts, std::back_inserter(result));
+    }
+    return result;
+}
+
+asio::awaitable<Outcome> DeviceConnection::readAndPublish(std::vector<acsi::Reference> references,
+                                                          Publication publication)
+{
+    const ClientPointer client = m_client;
+    if (!client) {
+        const QString sentence = notConnectedSentence();
+        co_return Outcome{OperationNotConnected, sentence};
+    }
+    struct Part
+    {
+        acsi::Reference reference;
+        std::size_t origin; ///< which of the references it is part of
+    };
+    struct Origin
+    {
+        QString error; ///< of the whole
+        Failures parts;
+        bool hasValues = false;
+    };
+    std::vector<Part> parts;
+    std::vector<Origin> origins(references.size());
+    for (std::size_t i = 0; i < references.size(); ++i) {
+        for (acsi::Reference &part : inReadableParts({references[i]}))
+            parts.push_back({std::move(part), i});
+    }
+    while (!parts.empty()) {
+        std::vector<mms::VariableAccess> variables;
+        for (const Part &part : parts)
+            variables.push_back(acsi::accessOf(part.reference));
+        publication.asOf = steady_clock::now();
+        mms::Result<std::vector<acsi::ReadResult>> results =
+            co_await acsi::readEach(client, std::move(variables));
+        if (!results)
+            co_return Outcome::failed(results.error());
+        std::vector<Part> smaller;
+        for (std::size_t i = 0; i < parts.size() && i < results->size(); ++i) {
+            const acsi::ReadResult &result = (*results)[i];
+            const acsi::Reference &reference = parts[i].reference;
+            Origin &origin = origins[parts[i].origin];
+            QString error;
+            if (result.kind != acsi::ReadResult::Kind::Answered) {
+                error = text(result.reason);
+            } else if (!result.result.ok()) {
+                error = text(mms::describe(result.result.error()));
+            } else if (!publish(reference, result.result.data(), publication)) {
+                error = Texts::tr("the value does not have the form of its type");
+            } else {
+                origin.hasValues = true;
+                if (m_currency && m_model)
+                    m_currency->haveRead(m_model->leafRange(reference), steady_clock::now());
+                continue;
+            }
+            if (origin.error.isEmpty())
+                origin.error = error;
+            std::vector<ValueCurrency::Part> divided;
+            if (result.kind != acsi::ReadResult::Kind::Missing)
+                divided = partsOf({reference, {}, 0});
+            for (ValueCurrency::Part &part : divided)
+                smaller.push_back({std::move(part.reference), parts[i].origin});
+            if (divided.empty())
+                origin.parts.add(text(acsi::itemText(reference)), error);
+        }
+        parts = std::move(smaller);
+    }
+    Failures failures;
+    for (std::size_t i = 0; i < origins.size(); ++i) {
+        // Of what gives nothing at all the whole is named.
+        if (origins[i].hasValues)
+            failures.add(origins[i].parts);
+        else if (!origins[i].error.isEmpty())
+            failures.add(text(acsi::itemText(references[i])), origins[i].error);
+    }
+    co_return failures.outcome();
+}
+
+QByteArray DeviceConnection::modelBytes()
+{
+    ++m_recentUsers;
+    asio::co_spawn(m_strand, republish(),
+                   [self = shared_from_this()](const std::exception_ptr &) {});
+    return m_model->toBytes();
+}
+
+asio::awaitable<void> DeviceConnection::republish()
+{
+    const Deadline end = steady_clock::now() + browserStart;
+    // Without an association nothing is left to change the values.
+    for (Deadline now = steady_clock::now(); now < end && m_client; now = steady_clock::now())
+        co_await pause(std::chrono::ceil<milliseconds>(end - now));
+    std::vector<MMSValue> values;
+    values.reserve(static_cast<std::size_t>(m_recent.size()));
+    for (const MMSValue &value : qAsConst(m_recent))
+        values.push_back(value);
+    if (--m_recentUsers == 0)
+        m_recent.clear();
+    m_environment.values->publish(std::move(values));
+}

@@ -1,0 +1,574 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "driver/core/controlorder.h"
+#include "driver/device/controlpart.h"
+#include "driverruntime.h"
+#include "driver/device/journalentry.h"
+#include "driver/text/sentences.h"
+#include "driver/model/valueconversion.h"
+
+#include <remoteclient/controllercaller.h>
+
+#include <asio/co_spawn.hpp>
+#include <asio/post.hpp>
+
+#include <QtCore/QCoreApplication>
+
+#include <array>
+#include <atomic>
+
+using acsi::ControlModel;
+using Controls::Service;
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+namespace {
+
+using DevicePointer = std::shared_ptr<DeviceConnection>;
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(IedDriver)
+};
+
+/// The call itself takes some time beside what it waits for.
+constexpr milliseconds callMargin{2000};
+
+QString text(std::string_view utf8)
+{
+    return QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
+}
+
+bool isEnhanced(quint8 controlModel)
+{
+    return controlModel == static_cast<quint8>(ControlModel::DirectEnhanced) ||
+           controlModel == static_cast<quint8>(ControlModel::SelectEnhanced);
+}
+
+acsi::ControlResult failed(const QString &sentence)
+{
+    return {false, mms::verbatim(sentence.toStdString()), {}};
+}
+
+bool isUnknown(acsi::ControlOutcome outcome)
+{
+    return outcome == acsi::ControlOutcome::Unknown || outcome == acsi::ControlOutcome::Accepted;
+}
+
+QString readOnlySentence(const DeviceConnection &device)
+{
+    return Texts::tr("The driver is read-only: nothing on %1 was changed.")
+        .arg(device.configuration().title());
+}
+
+/// The attribute that shows the position.
+QString positionOf(const OnlineModel &model, const acsi::Reference &status)
+{
+    static constexpr std::array<const char *, 4> values = {"$stVal", "$valWTr$posVal", "$mxVal$f",
+                                                           "$mxVal$i"};
+    for (const char *const value : values) {
+        const QString name = text(acsi::toText(status)) + QLatin1String(value);
+        if (model.device().findTag(name))
+            return name;
+    }
+    return {};
+}
+
+/// What the caller of an operation and the operation know of each other.
+struct Request
+{
+    Service service = Service::Select;
+    QString ldName;
+    QString name;
+    ControlBlock block;
+    ControlState::Caller caller = 0;
+    std::atomic<bool> begun{false};      ///< the journal knows of it
+    std::atomic<bool> isOnTheWay{false}; ///< sent, and its outcome is not known yet
+    /// Read shortly before, for the time that the operation may take.
+    std::shared_ptr<acsi::ControlObject> control;
+    milliseconds termination{0};
+};
+using RequestPointer = std::shared_ptr<Request>;
+
+/// One control service of one object.
+class Control
+{
+public:
+    Control(DevicePointer device, RequestPointer request, acsi::Reference reference)
+        : m_device(std::move(device))
+        , m_request(std::move(request))
+        , m_service(m_request->service)
+        , m_reference(std::move(reference))
+        , m_name(acsi::toText(m_reference))
+        , m_block(m_request->block)
+        , m_client(m_device->client())
+        , m_part(m_device->part<Controls::Part>())
+        , m_object(m_part.object(m_name))
+        , m_state(m_object.state)
+    {
+    }
+
+    asio::awaitable<acsi::ControlResult> run(JournalEntry &entry)
+    {
+        m_before = knownPosition();
+        entry.setValues(m_before, ControlOrder::text(m_block));
+        // An empty record must not reach a breaker, so it is looked at before the device.
+        if (const QString refusal = beforehand(); !refusal.isEmpty())
+            co_return failed(refusal);
+        const ControlState::Command *known =
+            m_service == Service::Cancel ? m_state.cancellable(steady_clock::now()) : nullptr;
+        const bool isUrgent = known && m_object.control && m_object.control->client() == m_client;
+        if (!isUrgent) {
+            const auto looked = co_await look();
+            if (!looked)
+                co_return acsi::ControlResult{false, looked.error().message, {}};
+            m_before = co_await readPosition();
+            entry.setValues(m_before, ControlOrder::text(m_block));
+            if (m_device->client() != m_client)
+                co_return failed(m_device->notConnectedSentence());
+            if (const QString refusal = afterwards(); !refusal.isEmpty())
+                co_return failed(refusal);
+        }
+        acsi::ControlResult result;
+        switch (m_service) {
+        case Service::Select:
+            result = co_await select(entry);
+            break;
+        case Service::Operate:
+            result = co_await operate(entry);
+            break;
+        case Service::Cancel:
+            result = co_await cancel(entry);
+            break;
+        }
+        m_request->isOnTheWay = false;
+        if (isUnknown(result.outcome)) {
+            result.message = wording::sentences(
+                result.message,
+                wording::verbatim(Controls::unknownSentence(m_service).toStdString()));
+            m_part.setProblem(m_name, text(result.message));
+        } else if (!m_state.isInDoubt()) {
+            m_part.setProblem(m_name, QString());
+        }
+        entry.setValues(m_before, sent());
+        co_return result;
+    }
+
+    /// Reads what the device says of the object; how long a command of it may take.
+    asio::awaitable<void> prepare()
+    {
+        if (!beforehand().isEmpty())
+            co_return;
+        if (const auto looked = co_await look(); !looked || m_device->client() != m_client)
+            co_return;
+        m_request->control = m_object.control;
+        m_request->termination =
+            ControlOrder::terminationPatience(m_object.control->operateTimeout());
+    }
+
+private:
+    /// Why nothing is to be asked of the device at all; empty when there is no reason.
+    QString beforehand() const
+    {
+        const auto now = steady_clock::now();
+        const auto valid = ControlOrder::toRequest(m_block, originator(), 0);
+        const auto model = static_cast<ControlModel>(m_block.controlModel);
+        if (m_service == Service::Cancel) {
+            // Who must change nothing may still stop what runs.
+            if (m_device->isReadOnly() && !m_state.isRunning())
+                return readOnlySentence(*m_device);
+            if (m_state.cancellable(now))
+                return {};
+            if (model == ControlModel::SelectEnhanced)
+                return Texts::tr("Select the object first");
+        } else if (m_device->isReadOnly()) {
+            return readOnlySentence(*m_device);
+        }
+        if (m_service == Service::Operate && model == ControlModel::SelectEnhanced) {
+            if (const QString why = obstacle(m_state.obstacle(m_block, m_request->caller, now));
+                !why.isEmpty())
+                return why;
+        }
+        if (m_service == Service::Operate && model == ControlModel::SelectNormal &&
+            m_state.isSelectedByOther(m_request->caller, now))
+            return obstacle(ControlState::Obstacle::SelectedByOther);
+        return valid ? QString() : text(valid.error().message);
+    }
+
+    static QString obstacle(ControlState::Obstacle what)
+    {
+        switch (what) {
+        case ControlState::Obstacle::None:
+            break;
+        case ControlState::Obstacle::NotSelected:
+            return Texts::tr("Select the object first");
+        case ControlState::Obstacle::SelectedByOther:
+            return Texts::tr("Another window has selected the object since: select it here "
+                             "first.");
+        case ControlState::Obstacle::SelectedAgain:
+            return Texts::tr("The object was selected for different commands; which one is meant "
+                             "is not known: cancel the selection and select it again.");
+        case ControlState::Obstacle::NotTheSelected:
+            return Texts::tr("The command is not the one that was selected.");
+        }
+        return {};
+    }
+
+    /// Why the object cannot be asked for it, after it was looked at.
+    QString afterwards() const
+    {
+        const auto model = static_cast<quint8>(m_object.control->model());
+        if (model != m_block.controlModel) {
+            return Texts::tr("%1 has the control model %2, but the command was made for %3: read "
+                             "the model of the device again.")
+                .arg(text(m_name))
+                .arg(model)
+                .arg(m_block.controlModel);
+        }
+        // All of it may have changed while the device was asked.
+        return beforehand();
+    }
+
+    asio::awaitable<mms::Result<void>> look()
+    {
+        std::shared_ptr<acsi::ControlObject> control = m_object.control;
+        if (m_request->control && m_request->control == control && control->client() == m_client)
+            co_return mms::Result<void>();
+        if (control && control->client() == m_client) {
+            const auto refreshed = co_await control->refresh();
+            co_return refreshed;
+        }
+        auto opened = co_await acsi::ControlObject::open(m_client, m_reference);
+        if (!opened)
+            co_return opened.error();
+        if (m_device->client() != m_client)
+            co_return mms::Error{mms::verbatim(m_device->notConnectedSentence().toStdString()), 0};
+        // Another call may have opened it meanwhile.
+        if (!m_object.control || m_object.control->client() != m_client) {
+            m_object.control = *std::move(opened);
+            m_part.listen(m_reference);
+        }
+        co_return mms::Result<void>();
+    }
+
+    QString position() const
+    {
+        const OnlineModel *model = m_device->model();
+        const auto status = model ? Controls::statusOf(*model, m_reference) : std::nullopt;
+        return status ? positionOf(*model, *status) : QString();
+    }
+
+    QString knownPosition() const
+    {
+        const QString name = position();
+        const DataAttribute *attribute =
+            name.isEmpty() ? nullptr : m_device->model()->device().findTag(name);
+        return attribute ? ValueConversion::text(attribute->value) : QString();
+    }
+
+    /// What the device has now; what is known where it does not say.
+    asio::awaitable<QString> readPosition()
+    {
+        const QString name = position();
+        const auto reference = acsi::parseReference(name.toStdString());
+        if (m_service == Service::Cancel || name.isEmpty() || !reference)
+            co_return knownPosition();
+        std::vector<acsi::Reference> references;
+        references.push_back(*reference);
+        static_cast<void>(co_await m_device->readAndPublish(std::move(references),
+                                                            DeviceConnection::Publication()));
+        co_return knownPosition();
+    }
+
+    QByteArray originator() const { return m_device->configuration().originatorIdentification; }
+
+    ControlState::Command command(const ControlBlock &block, std::uint8_t ctlNum) const
+    {
+        return {block, *ControlOrder::toRequest(block, originator(), ctlNum), m_request->caller};
+    }
+
+    /// From now on nobody knows what becomes of it until the device has said so.
+    void goes(JournalEntry &entry)
+    {
+        entry.setValues(m_before, sent());
+        entry.setOutcome(Outcome::failed(Controls::unknownSentence(m_service)));
+        m_request->isOnTheWay = true;
+    }
+
+    asio::awaitable<acsi::ControlResult> select(JournalEntry &entry)
+    {
+        const auto control = m_object.control;
+        const ControlState::Command command = this->command(m_block, m_state.newNumber());
+        const std::uint8_t number = command.request.ctlNum;
+        m_state.selectSent(command);
+        goes(entry);
+        const acsi::ControlResult result = co_await control->select(command.request);
+        if (m_device->client() != m_client)
+            co_return result;
+        if (result)
+            m_state.selectGranted(number, control->selectTimeout().value_or(milliseconds(0)),
+                                  steady_clock::now());
+        else if (result.outcome == acsi::ControlOutcome::NotSent)
+            m_state.selectWithdrawn(number);
+        else if (!isUnknown(result.outcome))
+            m_state.selectRefused(number);
+        co_return result;
+    }
+
+    asio::awaitable<acsi::ControlResult> operate(JournalEntry &entry)
+    {
+        const auto control = m_object.control;
+        const ControlState::Command *selection = m_state.selection(steady_clock::now());
+        ControlState::Command command;
+        if (control->model() == ControlModel::SelectEnhanced) {
+            // It may have run out since it was looked at.
+            if (!selection)
+                co_return failed(obstacle(ControlState::Obstacle::NotSelected));
+            command = *selection;
+            command.request.time = ControlOrder::now();
+            m_block = command.block;
+        } else {
+            const bool uses = selection && control->model() == ControlModel::SelectNormal;
+            command =
+                this->command(m_block, uses ? selection->request.ctlNum : m_state.newNumber());
+        }
+        const std::uint8_t number = command.request.ctlNum;
+        const bool terminates = isEnhanced(static_cast<quint8>(control->model()));
+        m_state.operateSent(command);
+        goes(entry);
+        Given given(*this, number);
+        const acsi::ControlResult result = co_await control->operate(
+            command.request, ControlOrder::terminationPatience(control->operateTimeout()));
+        given.isOver = true;
+        if (m_device->client() != m_client)
+            co_return result;
+        switch (result.outcome) {
+        case acsi::ControlOutcome::NotSent:
+            m_state.operateWithdrawn(number);
+            break;
+        case acsi::ControlOutcome::Refused:
+            m_state.operateRefused(number);
+            break;
+        case acsi::ControlOutcome::Accepted:
+            m_state.operateAccepted(number, terminates, false, milliseconds(0),
+                                    steady_clock::now());
+            m_state.operateUnknown(number);
+            break;
+        case acsi::ControlOutcome::Done:
+            m_state.operateAccepted(number, terminates, control->isOperateMany(),
+                                    control->selectTimeout().value_or(milliseconds(0)),
+                                    steady_clock::now());
+            if (terminates)
+                m_state.operateEnded(number);
+            break;
+        case acsi::ControlOutcome::Failed:
+            m_state.operateEnded(number);
+            break;
+        case acsi::ControlOutcome::Unknown:
+            m_state.operateUnknown(number);
+            break;
+        }
+        co_return result;
+    }
+
+    asio::awaitable<acsi::ControlResult> cancel(JournalEntry &entry)
+    {
+        const auto control = m_object.control;
+        const auto now = steady_clock::now();
+        const ControlState::Command *known = m_state.cancellable(now);
+        ControlState::Command command;
+        if (known && (m_state.isRunning() || control->model() == ControlModel::SelectEnhanced)) {
+            command = *known;
+        } else {
+            // Of such a selection the device knows no more than the number; the record says the
+            // rest.
+            if (ControlOrder::isEmpty(m_block))
+                m_block.orCat = static_cast<quint8>(m_device->configuration().originatorCategory);
+            if (const auto valid = ControlOrder::toRequest(m_block, originator(), 0); !valid)
+                co_return failed(text(valid.error().message));
+            command = this->command(m_block, known ? known->request.ctlNum : m_state.newNumber());
+        }
+        command.request.time = ControlOrder::now();
+        m_block = command.block;
+        // No Cancel has a place for them.
+        m_block.check = 0;
+        goes(entry);
+        const acsi::ControlResult result = co_await control->cancel(command.request);
+        if (result && m_device->client() == m_client)
+            m_state.cancelled(command.request.ctlNum);
+        co_return result;
+    }
+
+    /// A command whose caller may give up while it is on its way.
+    struct Given
+    {
+        Given(Control &owner, std::uint8_t ctlNum)
+            : control(owner)
+            , number(ctlNum)
+        {
+        }
+        ~Given()
+        {
+            if (isOver)
+                return;
+            control.m_state.operateUnknown(number);
+            control.m_part.setProblem(
+                control.m_name,
+                QString::fromStdString(acsi::objectReferenceText(control.m_reference)) +
+                    QStringLiteral(": ") + Controls::unknownSentence(Service::Operate));
+        }
+        Q_DISABLE_COPY(Given)
+
+        Control &control;
+        std::uint8_t number;
+        bool isOver = false;
+    };
+
+    /// What was sent, for the journal.
+    QString sent() const
+    {
+        const bool isReadOfSelection =
+            m_service == Service::Select &&
+            m_block.controlModel == static_cast<quint8>(ControlModel::SelectNormal);
+        return isReadOfSelection ? QString() : ControlOrder::text(m_block);
+    }
+
+    DevicePointer m_device;
+    RequestPointer m_request;
+    Service m_service;
+    acsi::Reference m_reference;
+    std::string m_name;
+    ControlBlock m_block;
+    QString m_before; ///< the position
+    std::shared_ptr<acsi::Client> m_client;
+    Controls::Part &m_part;
+    Controls::Part::Object &m_object;
+    ControlState &m_state;
+};
+
+asio::awaitable<Outcome> prepare(DevicePointer device, RequestPointer request)
+{
+    const mms::Result<acsi::Reference> reference =
+        acsi::parseReference(request->ldName.toStdString(), request->name.toStdString());
+    if (!reference)
+        co_return Outcome();
+    Control order(device, request, *reference);
+    co_await order.prepare();
+    co_return Outcome();
+}
+
+asio::awaitable<Outcome> control(DevicePointer device, RequestPointer request)
+{
+    const mms::Result<acsi::Reference> reference =
+        acsi::parseReference(request->ldName.toStdString(), request->name.toStdString());
+    if (!reference)
+        co_return Outcome::failed(reference.error());
+    acsi::ControlResult result;
+    Outcome outcome;
+    {
+        JournalEntry entry(device, Controls::operationName(request->service),
+                           text(acsi::toText(*reference)));
+        request->begun = true;
+        Control order(device, request, *reference);
+        result = co_await order.run(entry);
+        if (!result)
+            outcome = Outcome::failed(text(result.message));
+        entry.setOutcome(outcome);
+        if (result.applError)
+            entry.setAdditionalCause(text(acsi::additionalCauseText(result.applError->addCause)));
+    }
+    // What the command came to is shown, but nobody waits for that.
+    if (result.outcome != acsi::ControlOutcome::NotSent)
+        Controls::showStatus(device, *reference);
+    co_return outcome;
+}
+
+/// A command that was refused before it became an operation on the device is a try as well.
+void journalTry(const DevicePointer &device, const Request &request, const QString &error)
+{
+    if (!device)
+        return;
+    DeviceChange change;
+    change.operation = Controls::operationName(request.service);
+    change.reference = request.ldName + QLatin1Char('/') + request.name;
+    change.newValue = ControlOrder::text(request.block);
+    change.error = error;
+    asio::post(device->strand(), [device, change] { device->journal(change); });
+}
+
+template <typename Runtime>
+OperationResult perform(Runtime &runtime, Service service, long deviceNo, const QString &ldName,
+                        const QString &name, const QByteArray &controlBlock, QString &error)
+{
+    const auto request = std::make_shared<Request>();
+    request->service = service;
+    request->ldName = ldName;
+    request->name = name;
+    request->caller = ControllerCaller::current();
+    const auto device = runtime.connection(deviceNo);
+    const std::optional<ControlBlock> block = ControlOrder::read(controlBlock);
+    if (!block) {
+        error = Texts::tr("The control request cannot be read.");
+        journalTry(device, *request, error);
+        return OperationFailed;
+    }
+    request->block = *block;
+    if (!block->objectReference.isEmpty() && block->objectReference != name) {
+        error = Texts::tr("The control request is for %1, not for %2.")
+                    .arg(block->objectReference, name);
+        journalTry(device, *request, error);
+        return OperationFailed;
+    }
+
+    using Effect = typename Runtime::Effect;
+    // A cancel of what runs is never forbidden; the rest is decided where it is known what runs.
+    const Effect effect = service == Service::Cancel ? Effect::Reads : Effect::Changes;
+    const bool waits = service == Service::Operate && isEnhanced(block->controlModel);
+    OperationResult result = OperationSucceeded;
+    if (waits) {
+        result = runtime.run(deviceNo, effect, error, [request](DevicePointer connection) {
+            return prepare(std::move(connection), request);
+        });
+    }
+    if (result == OperationSucceeded) {
+        milliseconds limit = milliseconds::zero();
+        if (device && waits)
+            limit = device->configuration().operationTimeout +
+                    std::max(request->termination, ControlOrder::terminationPatience({})) +
+                    callMargin;
+        result =
+            runtime.runWithin(limit, deviceNo, effect, error, [request](DevicePointer connection) {
+                return control(std::move(connection), request);
+            });
+    }
+    if (result != OperationSucceeded && !request->begun)
+        journalTry(device, *request, error);
+    else if (result != OperationSucceeded && request->isOnTheWay)
+        error += QLatin1Char(' ') + Controls::unknownSentence(service);
+    return result;
+}
+
+} // namespace
+
+OperationResult IedDriver::selectObject(long deviceNo, const QString &ldName,
+                                        const QString &objectReference,
+                                        const QByteArray &controlBlock, QString &error)
+{
+    return perform(*m_runtime, Service::Select, deviceNo, ldName, objectReference, controlBlock,
+                   error);
+}
+
+OperationResult IedDriver::controlObject(long deviceNo, const QString &ldName,
+                                         const QString &objectReference,
+                                         const QByteArray &controlBlock, QString &error)
+{
+    return perform(*m_runtime, Service::Operate, deviceNo, ldName, objectReference, controlBlock,
+                   error);
+}
+
+OperationResult IedDriver::cancelObject(long deviceNo, const QString &ldName,
+                                        const QString &objectReference,
+                                        const QByteArray &controlBlock, QString &error)
+{
+    return perform(*m_runtime, Service::Cancel, deviceNo, ldName, objectReference, controlBlock,
+                   error);
+}

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "driver/device/deviceconnection.h"
+#include "ieddriver.h"
+#include "driver/device/livevalues.h"
+#include "offlinedriverservice.h"
+#include "reportevents.h"
+
+#include <asio/executor_work_guard.hpp>
+#include <asio/io_context.hpp>
+
+#include <atomic>
+#include <condition_variable>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <set>
+#include <thread>
+#include <utility>
+#include <vector>
+
+/// What the controller operations of the driver run on: threads, devices by number, and the rules
+/// that hold for every operation. Any thread.
+class IedDriver::Runtime
+{
+public:
+    enum class Effect { Reads, Changes };
+    using Need = DeviceConnection::Need;
+
+    explicit Runtime(IedDriverOptions options);
+    ~Runtime();
+
+    void setDevice(const DeviceConfiguration &configuration);
+    void holdModel(long deviceNo, const QByteArray &model);
+    void removeDevice(long deviceNo);
+    /// Null for a device without an address, and for one that does not exist.
+    std::shared_ptr<DeviceConnection> connection(long deviceNo) const;
+    std::vector<std::shared_ptr<DeviceConnection>> connections() const;
+    /// A connection that is in no list and claims no names.
+    std::shared_ptr<DeviceConnection> separate(const DeviceConfiguration &configuration);
+    OfflineDriverService &offline() { return m_offline; }
+
+    void setReadOnly(bool readOnly) { m_readOnly = readOnly; }
+    bool isReadOnly() const { return m_readOnly; }
+
+    /// The caller has been given the model of the device: from now on its calls are about that one
+    /// and no other that answers in its place.
+    void bindCaller(long deviceNo, const DeviceIdentity &identity);
+
+    /// Runs an operation on the device: refused when it changes something and the driver is
+    /// read-only or another device than the one that the caller was bound to has answered, or when
+    /// the device has no address. Fills @p error. Ends at the latest after the device's operation
+    /// time-out.
+    OperationResult run(long deviceNo, Effect effect, QString &error,
+                        DeviceConnection::Operation operation, Need need = Need::Model);
+    /// The same with a limit of its own.
+    OperationResult runWithin(std::chrono::milliseconds limit, long deviceNo, Effect effect,
+                              QString &error, DeviceConnection::Operation operation,
+                              Need need = Need::Model);
+
+private:
+    /// Who holds the names of logical devices: a connection, since the one that replaces it under
+    /// the same number may claim them before it has let go.
+    struct Holder
+    {
+        int number = 0;
+        std::uint64_t connection = 0;
+    };
+
+    QString claim(Holder holder, const QStringList &logicalDevices);
+    void release(Holder holder);
+    void runContext();
+    std::optional<DeviceIdentity> boundTo(long deviceNo) const;
+
+    const IedDriverOptions m_options;
+    asio::io_context m_context;
+    asio::executor_work_guard<asio::io_context::executor_type> m_work;
+    std::shared_ptr<LiveValues> m_values;
+    std::shared_ptr<ReportEvents> m_events; ///< null when the host wants none
+    OfflineDriverService m_offline;
+    std::atomic<bool> m_readOnly{false};
+    mutable std::mutex m_mutex;
+    std::map<long, std::shared_ptr<DeviceConnection>> m_connections;
+    std::set<long> m_offlineNumbers; ///< devices without an address
+    std::map<QString, Holder> m_claimed; ///< by logical device
+    /// What callers were given the model of, by device and caller.
+    std::map<std::pair<long, quint64>, DeviceIdentity> m_bound;
+    std::uint64_t m_lastConnection = 0;
+    std::condition_variable m_threadEnded;
+    std::size_t m_running = 0; ///< threads
+    std::vector<std::thread> m_threads;
+};

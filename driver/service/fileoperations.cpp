@@ -1,0 +1,333 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "driverruntime.h"
+#include "driver/core/filenames.h"
+#include "driver/device/journalentry.h"
+#include "driver/text/sentences.h"
+#include "driver/device/transferpace.h"
+
+#include "acsi/files.h"
+
+#include <asio/experimental/as_tuple.hpp>
+#include <asio/use_awaitable.hpp>
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+
+#include <algorithm>
+#include <limits>
+
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+namespace {
+
+using DevicePointer = std::shared_ptr<DeviceConnection>;
+using Need = DeviceConnection::Need;
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(IedDriver)
+};
+
+/// Whatever a device does, a transfer that goes on block by block ends after that.
+constexpr std::chrono::hours longestTransfer{1};
+/// What is fetched is kept in memory as a whole.
+constexpr quint32 largestFile = 1U << 30;
+
+QString text(std::string_view utf8)
+{
+    return QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
+}
+
+Outcome outcomeOf(const mms::Result<void> &result)
+{
+    return result ? Outcome() : Outcome::failed(result.error());
+}
+
+/// The queue of the file operations of a device: many devices confuse them with each other.
+class FilePart : public AssociationPart
+{
+public:
+    struct Queue
+    {
+        QString current; ///< empty: nothing is under way
+        std::set<asio::steady_timer *> waiting;
+    };
+
+    explicit FilePart(DeviceConnection &connection)
+        : m_connection(connection)
+    {
+    }
+
+    const std::shared_ptr<Queue> &queue() const { return m_queue; }
+
+    /// Files are open for an association.
+    void closed(const QString &) override { m_connection.setProblem(QStringLiteral("files"), {}); }
+
+private:
+    DeviceConnection &m_connection;
+    std::shared_ptr<Queue> m_queue = std::make_shared<Queue>();
+};
+
+/// The turn of one file operation; it ends when it is destroyed. In the connection's strand.
+class Turn
+{
+public:
+    Turn(DevicePointer device, QString what)
+        : m_device(std::move(device))
+        , m_queue(m_device->part<FilePart>().queue())
+        , m_what(std::move(what))
+    {
+    }
+    ~Turn()
+    {
+        if (!m_isMine)
+            return;
+        m_queue->current.clear();
+        for (asio::steady_timer *timer : m_queue->waiting)
+            timer->cancel();
+    }
+    Q_DISABLE_COPY(Turn)
+
+    /// Waits for the operation before, but not for long.
+    asio::awaitable<Outcome> begin()
+    {
+        const auto end = steady_clock::now() + m_device->configuration().callTimeout;
+        Waiting waiting(*m_queue, m_device->strand());
+        while (!m_queue->current.isEmpty()) {
+            if (steady_clock::now() >= end)
+                co_return Outcome::failed(
+                    Texts::tr("%1 is busy with another file: %2.")
+                        .arg(m_device->configuration().title(), m_queue->current));
+            waiting.timer.expires_at(end);
+            co_await waiting.timer.async_wait(asio::experimental::as_tuple(asio::use_awaitable));
+        }
+        m_queue->current = m_what;
+        m_isMine = true;
+        co_return Outcome();
+    }
+
+private:
+    struct Waiting
+    {
+        FilePart::Queue &queue;
+        asio::steady_timer timer;
+
+        Waiting(FilePart::Queue &all, const DeviceConnection::Strand &strand)
+            : queue(all)
+            , timer(strand)
+        {
+            queue.waiting.insert(&timer);
+        }
+        ~Waiting() { queue.waiting.erase(&timer); }
+        Q_DISABLE_COPY(Waiting)
+    };
+
+    DevicePointer m_device;
+    std::shared_ptr<FilePart::Queue> m_queue;
+    QString m_what;
+    bool m_isMine = false;
+};
+
+/// The association may have ended while the operation waited for its turn.
+Outcome connectedOutcome(const DevicePointer &device)
+{
+    if (device->client())
+        return {};
+    return {OperationNotConnected, device->notConnectedSentence()};
+}
+
+asio::awaitable<Outcome> list(DevicePointer device, QString pattern, QString directory,
+                              std::shared_ptr<QList<MMSFileEntry>> entries)
+{
+    Turn turn(device, Texts::tr("listing \"%1\"").arg(directory));
+    Outcome outcome = co_await turn.begin();
+    if (outcome)
+        outcome = connectedOutcome(device);
+    if (!outcome)
+        co_return outcome;
+    const auto listed =
+        co_await acsi::listDirectory(device->client(), FileNames::onDevice(directory));
+    if (!listed)
+        co_return Outcome::failed(listed.error());
+    *entries = FileNames::entries(pattern, directory, *listed);
+    co_return Outcome();
+}
+
+asio::awaitable<Outcome> fetch(DevicePointer device, QString name,
+                               std::shared_ptr<QByteArray> content)
+{
+    Turn turn(device, Texts::tr("fetching \"%1\"").arg(name));
+    Outcome outcome = co_await turn.begin();
+    if (outcome)
+        outcome = connectedOutcome(device);
+    if (!outcome)
+        co_return outcome;
+    bool isTooLarge = false;
+    bool isTooSlow = false;
+    const TransferPace pace(steady_clock::now());
+    const auto announced = [&](std::uint32_t size) {
+        isTooLarge = size > largestFile;
+        if (!isTooLarge)
+            content->reserve(static_cast<int>(size));
+    };
+    const auto take = [&](std::span<const std::uint8_t> block) {
+        isTooLarge =
+            isTooLarge || block.size() > largestFile - static_cast<std::size_t>(content->size());
+        if (!isTooLarge)
+            content->append(reinterpret_cast<const char *>(block.data()),
+                            static_cast<int>(block.size()));
+        isTooSlow = pace.isTooSlow(steady_clock::now(), static_cast<quint64>(content->size()));
+        return !isTooLarge && !isTooSlow;
+    };
+    QString notClosed;
+    const auto keep = [&notClosed](const mms::Text &reason) { notClosed = text(reason); };
+    const auto fetched =
+        co_await acsi::download(device->client(), FileNames::onDevice(name), take, announced, keep);
+    device->setProblem(QStringLiteral("files"),
+                       notClosed.isEmpty()
+                           ? QString()
+                           : Texts::tr("%1 stays open on the device, which has few open files: %2")
+                                 .arg(name, notClosed));
+    if (isTooLarge) {
+        content->clear();
+        co_return Outcome::failed(Texts::tr("%1 is too large: at most %2 octets can be fetched.")
+                                      .arg(name)
+                                      .arg(largestFile));
+    }
+    if (isTooSlow && !fetched) {
+        co_return Outcome::failed(Texts::tr("%1 comes too slowly: %2 octets so far, less than %3 "
+                                            "in a second.")
+                                      .arg(name)
+                                      .arg(content->size())
+                                      .arg(TransferPace::leastOctetsPerSecond));
+    }
+    co_return fetched ? Outcome() : Outcome::failed(fetched.error());
+}
+
+asio::awaitable<Outcome> remove(DevicePointer device, QString name)
+{
+    const std::string plain = FileNames::onDevice(name);
+    JournalEntry entry(device, QStringLiteral("deleteFile"), text(plain));
+    Turn turn(device, Texts::tr("deleting \"%1\"").arg(name));
+    Outcome outcome;
+    if (plain.empty())
+        outcome = Outcome::failed(Texts::tr("There is no name of a file."));
+    else
+        outcome = co_await turn.begin();
+    if (outcome)
+        outcome = connectedOutcome(device);
+    if (outcome) {
+        const auto removed = co_await acsi::deleteFile(device->client(), plain);
+        outcome = outcomeOf(removed);
+    }
+    entry.setOutcome(outcome);
+    co_return outcome;
+}
+
+/// The file of this computer; an error says why it cannot be sent.
+mms::Result<acsi::FileSource> sourceOf(const QString &localFile)
+{
+    const auto error = [](const QString &sentence) {
+        return mms::Error{mms::verbatim(sentence.toStdString()), 0};
+    };
+    if (localFile.isEmpty())
+        return error(Texts::tr("There is no file to send."));
+    const auto file = std::make_shared<QFile>(localFile);
+    if (!QFileInfo(localFile).isFile())
+        return error(Texts::tr("There is no file \"%1\" on this computer.").arg(localFile));
+    if (!file->open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return error(Texts::tr("\"%1\" cannot be read: %2.").arg(localFile, file->errorString()));
+    if (file->size() > std::numeric_limits<quint32>::max())
+        return error(Texts::tr("\"%1\" is too large for a file of a device.").arg(localFile));
+    acsi::FileSource source;
+    source.size = static_cast<std::uint32_t>(file->size());
+    source.read = [file, error](std::uint64_t position,
+                                std::span<std::uint8_t> block) -> mms::Result<std::size_t> {
+        const bool isThere = file->seek(static_cast<qint64>(position));
+        const qint64 count = isThere ? file->read(reinterpret_cast<char *>(block.data()),
+                                                  static_cast<qint64>(block.size()))
+                                     : -1;
+        if (count < 0)
+            return error(
+                Texts::tr("\"%1\" cannot be read: %2.").arg(file->fileName(), file->errorString()));
+        return static_cast<std::size_t>(count);
+    };
+    return source;
+}
+
+asio::awaitable<Outcome> send(DevicePointer device, QString localFile, QString name)
+{
+    const std::string plain = FileNames::onDevice(FileNames::target(name, localFile));
+    JournalEntry entry(device, QStringLiteral("writeFile"), text(plain));
+    entry.setValues(QString(), localFile);
+    Turn turn(device, Texts::tr("sending \"%1\"").arg(text(plain)));
+    mms::Result<acsi::FileSource> source = sourceOf(localFile);
+    Outcome outcome;
+    if (source)
+        outcome = co_await turn.begin();
+    else
+        outcome = Outcome::failed(source.error());
+    if (outcome)
+        outcome = connectedOutcome(device);
+    if (outcome) {
+        entry.setValues(QString(), Texts::tr("%1 (%2 octets)").arg(localFile).arg(source->size));
+        const auto sent = co_await acsi::upload(device->client(), plain, *source);
+        outcome = outcomeOf(sent);
+    }
+    entry.setOutcome(outcome);
+    co_return outcome;
+}
+
+} // namespace
+
+OperationResult IedDriver::getFileDirectory(long deviceNo, const QString &pattern,
+                                            const QString &directory, QList<MMSFileEntry> &entries,
+                                            QString &error)
+{
+    const auto listed = std::make_shared<QList<MMSFileEntry>>();
+    const OperationResult result = m_runtime->run(
+        deviceNo, Runtime::Effect::Reads, error,
+        [pattern, directory, listed](DevicePointer device) {
+            return list(std::move(device), pattern, directory, listed);
+        },
+        Need::Association);
+    if (result == OperationSucceeded)
+        entries = *listed;
+    return result;
+}
+
+OperationResult IedDriver::getFile(long deviceNo, const QString &fileName, QByteArray &content,
+                                   QString &error)
+{
+    const auto fetched = std::make_shared<QByteArray>();
+    const OperationResult result = m_runtime->runWithin(
+        longestTransfer, deviceNo, Runtime::Effect::Reads, error,
+        [fileName, fetched](DevicePointer device) {
+            return fetch(std::move(device), fileName, fetched);
+        },
+        Need::Association);
+    if (result == OperationSucceeded)
+        content = std::move(*fetched);
+    return result;
+}
+
+OperationResult IedDriver::deleteFile(long deviceNo, const QString &fileName, QString &error)
+{
+    return m_runtime->run(
+        deviceNo, Runtime::Effect::Changes, error,
+        [fileName](DevicePointer device) { return remove(std::move(device), fileName); },
+        Need::Association);
+}
+
+OperationResult IedDriver::writeFile(long deviceNo, const QString &localFile,
+                                     const QString &fileName, QString &error)
+{
+    return m_runtime->runWithin(
+        longestTransfer, deviceNo, Runtime::Effect::Changes, error,
+        [localFile, fileName](DevicePointer device) {
+            return send(std::move(device), localFile, fileName);
+        },
+        Need::Association);
+}

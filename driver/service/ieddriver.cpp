@@ -1,0 +1,257 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "ieddriver.h"
+
+#include "driver/text/csvfield.h"
+#include "driverruntime.h"
+#include "driver/model/valueconversion.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QIODevice>
+#include <QtCore/QTextStream>
+
+#include <algorithm>
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(IedDriver)
+};
+
+QString noDevice(long deviceNo)
+{
+    return Texts::tr("There is no device %1 on this driver.").arg(deviceNo);
+}
+
+void appendRows(QString &csv, const QList<DAO *> &nodes)
+{
+    for (const DAO *node : nodes) {
+        const DataAttribute *attribute = node->attribute;
+        if (attribute && node->children.isEmpty() && attribute->present) {
+            csv += csvField(attribute->reference) + QLatin1Char(',') + attribute->fc +
+                   QLatin1Char(',') + csvField(attribute->basicType) + QLatin1Char(',') +
+                   csvField(ValueConversion::text(attribute->value)) + QStringLiteral("\r\n");
+        }
+        appendRows(csv, node->children);
+    }
+}
+
+QString csvOf(const PhysicalDevice &device)
+{
+    QString csv = QStringLiteral("reference,functional constraint,type,value\r\n");
+    for (const LogicalDevice *logicalDevice : device.logicalDevices) {
+        for (const LogicalNode *node : logicalDevice->logicalNodes) {
+            for (const DataObject *object : node->dataObjects)
+                appendRows(csv, object->attributes);
+        }
+    }
+    return csv;
+}
+
+} // namespace
+
+IedDriver::IedDriver(IedDriverOptions options)
+    : m_runtime(std::make_unique<Runtime>(std::move(options)))
+{
+}
+
+IedDriver::~IedDriver() = default;
+
+QStringList IedDriver::setDevice(const DeviceConfiguration &configuration)
+{
+    QStringList faults = configuration.faults();
+    if (faults.isEmpty())
+        m_runtime->setDevice(configuration);
+    return faults;
+}
+
+void IedDriver::holdModel(long deviceNo, const QByteArray &model)
+{
+    m_runtime->holdModel(deviceNo, model);
+}
+
+void IedDriver::removeDevice(long deviceNo)
+{
+    m_runtime->removeDevice(deviceNo);
+}
+
+void IedDriver::setReadOnly(bool readOnly)
+{
+    m_runtime->setReadOnly(readOnly);
+}
+
+bool IedDriver::isReadOnly() const
+{
+    return m_runtime->isReadOnly();
+}
+
+void IedDriver::connectDevice(long deviceNo)
+{
+    if (const auto device = m_runtime->connection(deviceNo))
+        device->connect();
+}
+
+void IedDriver::disconnectDevice(long deviceNo)
+{
+    if (const auto device = m_runtime->connection(deviceNo))
+        device->disconnect();
+}
+
+void IedDriver::cancelReading(long deviceNo)
+{
+    if (const auto device = m_runtime->connection(deviceNo))
+        device->cancelReading();
+}
+
+void IedDriver::cancelOperations(long deviceNo)
+{
+    if (const auto device = m_runtime->connection(deviceNo))
+        device->cancelOperations();
+}
+
+DeviceStatus IedDriver::status(long deviceNo) const
+{
+    const auto device = m_runtime->connection(deviceNo);
+    return device ? device->status() : DeviceStatus();
+}
+
+QVector<DeviceStatus> IedDriver::statuses() const
+{
+    QVector<DeviceStatus> result;
+    for (const auto &device : m_runtime->connections())
+        result.append(device->status());
+    return result;
+}
+
+QString IedDriver::saveCapture(long deviceNo, QIODevice &out) const
+{
+    const auto device = m_runtime->connection(deviceNo);
+    if (!device)
+        return noDevice(deviceNo);
+    if (!device->capture().save(out))
+        return Texts::tr("The capture cannot be written: %1").arg(out.errorString());
+    return {};
+}
+
+QVector<PduCapture::Line> IedDriver::trace(long deviceNo, int count) const
+{
+    const auto device = m_runtime->connection(deviceNo);
+    return device ? device->capture().trace(count) : QVector<PduCapture::Line>();
+}
+
+QString IedDriver::exportValues(long deviceNo, QIODevice &out)
+{
+    const auto csv = std::make_shared<QString>();
+    QString error;
+    const OperationResult result =
+        m_runtime->run(deviceNo, Runtime::Effect::Reads, error,
+                       [csv](std::shared_ptr<DeviceConnection> device) -> asio::awaitable<Outcome> {
+                           *csv = csvOf(device->model()->device());
+                           co_return Outcome();
+                       });
+    if (result != OperationSucceeded)
+        return error;
+    const QByteArray bytes = csv->toUtf8();
+    if (out.write(bytes) != bytes.size())
+        return Texts::tr("The values cannot be written: %1").arg(out.errorString());
+    return {};
+}
+
+namespace {
+
+/// What all names begin with; nothing when one of them ends with it.
+QString commonName(const std::vector<std::string> &names)
+{
+    if (names.size() < 2)
+        return {};
+    std::string common = names.front();
+    for (const std::string &name : names) {
+        const auto end = std::mismatch(common.begin(), common.end(), name.begin(), name.end());
+        common.erase(end.first, common.end());
+    }
+    const bool isWhole = std::ranges::any_of(
+        names, [&common](const std::string &name) { return name.size() == common.size(); });
+    QString result = isWhole ? QString() : QString::fromStdString(common);
+    // "Q01LD0" and "Q01LD1" are logical devices of "Q01".
+    if (result.endsWith(QLatin1String("LD")))
+        result.chop(2);
+    while (result.endsWith(QLatin1Char('_')))
+        result.chop(1);
+    return result;
+}
+
+} // namespace
+
+IedDriver::TestResult IedDriver::test(const DeviceConfiguration &configuration)
+{
+    TestResult result;
+    const QStringList faults = configuration.faults();
+    if (!faults.isEmpty() || configuration.host.isEmpty()) {
+        result.error = faults.isEmpty() ? Texts::tr("The device has no address.") : faults.first();
+        return result;
+    }
+    const auto device = m_runtime->separate(configuration);
+    device->connect();
+    const auto found = std::make_shared<TestResult>();
+    const Outcome outcome = device->perform(
+        DeviceConnection::Need::Association,
+        configuration.connectTimeout + configuration.callTimeout,
+        [found](std::shared_ptr<DeviceConnection> self) -> asio::awaitable<Outcome> {
+            const std::shared_ptr<acsi::Client> client = self->client();
+            const auto before = std::chrono::steady_clock::now();
+            mms::Result<std::vector<std::string>> devices =
+                co_await client->nameList(mms::ObjectClass::Domain, mms::Scope::Vmd);
+            if (!devices)
+                co_return Outcome::failed(devices.error());
+            found->roundTrip = std::chrono::duration_cast<std::chrono::microseconds>(
+                std::chrono::steady_clock::now() - before);
+            found->logicalDevices = static_cast<int>(devices->size());
+            found->iedName = commonName(*devices);
+            // The connection asks who is there by itself.
+            co_await self->identified(client);
+            const DeviceStatus who = self->status();
+            found->vendor = who.vendor;
+            found->model = who.model;
+            found->revision = who.revision;
+            co_return Outcome();
+        });
+    device->cancelReading();
+    device->disconnect();
+    if (outcome)
+        result = *found;
+    else
+        result.error = outcome.error;
+    return result;
+}
+
+OperationResult IedDriver::getIEDModel(long deviceNo, QByteArray &model, QString &error)
+{
+    if (!m_runtime->connection(deviceNo))
+        return m_runtime->offline().getIEDModel(deviceNo, model, error);
+    const auto bytes = std::make_shared<QByteArray>();
+    const auto identity = std::make_shared<DeviceIdentity>();
+    const OperationResult result = m_runtime->run(
+        deviceNo, Runtime::Effect::Reads, error,
+        [bytes, identity](std::shared_ptr<DeviceConnection> device) -> asio::awaitable<Outcome> {
+            co_await device->refreshDataSets();
+            co_await device->refreshReportBlocks();
+            *bytes = device->modelBytes();
+            *identity = device->identity();
+            co_return Outcome();
+        });
+    if (result == OperationSucceeded) {
+        model = *bytes;
+        if (identity->isKnown())
+            m_runtime->bindCaller(deviceNo, *identity);
+    }
+    return result;
+}
+
+OperationResult IedDriver::abortClose(long deviceNo)
+{
+    const auto device = m_runtime->connection(deviceNo);
+    if (!device)
+        return OperationNotConnected;
+    device->abort();
+    return OperationSucceeded;
+}

@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "driverruntime.h"
+#include "driver/text/sentences.h"
+#include "driver/model/valueconversion.h"
+
+#include "acsi/dataset.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <chrono>
+
+namespace {
+
+using DevicePointer = std::shared_ptr<DeviceConnection>;
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(IedDriver)
+};
+
+QString text(std::string_view utf8)
+{
+    return QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
+}
+
+asio::awaitable<Outcome> readVariables(DevicePointer device, QString ldName, QStringList names)
+{
+    std::vector<acsi::Reference> references;
+    QStringList errors;
+    for (const QString &name : qAsConst(names)) {
+        mms::Result<acsi::Reference> reference =
+            acsi::parseReference(ldName.toStdString(), name.toStdString());
+        if (reference)
+            references.push_back(std::move(*reference));
+        else
+            errors.append(text(reference.error().message));
+    }
+    if (references.empty() && errors.isEmpty())
+        errors.append(Texts::tr("There is nothing to read."));
+    Outcome outcome;
+    if (!references.empty()) {
+        const DeviceConnection::Publication publication;
+        outcome = co_await device->readAndPublish(std::move(references), publication);
+        if (outcome.result != OperationSucceeded && outcome.result != OperationFailed)
+            co_return outcome;
+    }
+    if (!outcome.error.isEmpty())
+        errors.append(outcome.error);
+    if (!errors.isEmpty())
+        outcome = Outcome::failed(errors.join(QLatin1Char(' ')));
+    co_return outcome;
+}
+
+asio::awaitable<Outcome> readDataSet(DevicePointer device, QString ldName, QString name)
+{
+    const std::string wanted = (ldName.isEmpty() ? QStringLiteral("@") + name : name).toStdString();
+    const mms::Result<mms::ObjectName> set = acsi::dataSetName(ldName.toStdString(), wanted);
+    if (!set)
+        co_return Outcome::failed(set.error());
+    const std::shared_ptr<acsi::Client> client = device->client();
+    // Asked for each time: a data set may have been made anew under its name.
+    const mms::Result<acsi::DataSetDescription> directory =
+        co_await acsi::dataSetDirectory(client, *set);
+    if (!directory)
+        co_return Outcome::failed(directory.error());
+    DeviceConnection::Publication publication;
+    publication.asOf = std::chrono::steady_clock::now();
+    const mms::Result<std::vector<mms::AccessResult>> values = co_await client->readList(*set);
+    if (!values)
+        co_return Outcome::failed(values.error());
+    if (values->size() != directory->members.size())
+        co_return Outcome::failed(Texts::tr("The data set has %1 members, but %2 values came.")
+                                      .arg(directory->members.size())
+                                      .arg(values->size()));
+    QStringList failures;
+    // What the device gives in parts only, or refuses as a member.
+    std::vector<acsi::Reference> inParts;
+    for (std::size_t i = 0; i < values->size(); ++i) {
+        const mms::AccessResult &value = (*values)[i];
+        const mms::Result<acsi::Reference> member = acsi::referenceOf(directory->members[i]);
+        if (member && device->model() && !device->model()->isWholeKnown(*member) &&
+            !device->model()->readableParts(*member).empty()) {
+            inParts.push_back(*member);
+            continue;
+        }
+        const QString reference =
+            text(member ? acsi::toText(*member) : mms::toText(directory->members[i]));
+        if (!value.ok() && member)
+            inParts.push_back(*member);
+        else if (!value.ok())
+            failures.append(Texts::tr("%1: %2").arg(reference, text(mms::describe(value.error()))));
+        else if (!member || !device->publish(*member, value.data(), publication))
+            failures.append(
+                Texts::tr("%1: the value does not have the form of its type.").arg(reference));
+    }
+    Outcome outcome;
+    if (!inParts.empty())
+        outcome = co_await device->readAndPublish(std::move(inParts), publication);
+    if (!outcome)
+        failures.append(outcome.error);
+    if (!failures.isEmpty())
+        outcome = Outcome::failed(failures.join(QStringLiteral("; ")));
+    co_return outcome;
+}
+
+asio::awaitable<Outcome> write(DevicePointer device, QString ldName, QString name, QVariant value)
+{
+    const mms::Result<acsi::Reference> reference =
+        acsi::parseReference(ldName.toStdString(), name.toStdString());
+    if (!reference)
+        co_return Outcome::failed(reference.error());
+    const mms::TypeDescription *type = device->model()->type(*reference);
+    const QString full = text(acsi::toText(*reference));
+    if (!type)
+        co_return Outcome::failed(Texts::tr("The device has no %1.").arg(full));
+    const DataAttribute *attribute = device->model()->device().findTag(full);
+    const QString basicType = attribute ? attribute->basicType : QString();
+    const QString oldValue = attribute ? ValueConversion::text(attribute->value) : QString();
+
+    Outcome outcome;
+    const QString readOnly =
+        attribute ? ValueConversion::whyReadOnly(full, attribute->value) : QString();
+    const mms::Result<mms::Data> data = ValueConversion::toData(basicType, *type, value);
+    if (!readOnly.isEmpty()) {
+        outcome = Outcome::failed(readOnly);
+    } else if (data) {
+        const mms::Result<void> written =
+            co_await device->client()->writeOne(acsi::accessOf(*reference), *data);
+        if (!written)
+            outcome = Outcome::failed(written.error());
+    } else {
+        outcome = Outcome::failed(data.error());
+    }
+    if (outcome)
+        device->haveWritten(*reference);
+    else
+        device->showUnwritten(*reference);
+    DeviceChange change;
+    change.operation = QStringLiteral("writeVariable");
+    change.reference = full;
+    change.oldValue = oldValue;
+    change.newValue = ValueConversion::text(value);
+    change.error = outcome.error;
+    device->journal(std::move(change));
+    co_return outcome;
+}
+
+} // namespace
+
+OperationResult IedDriver::readVariable(long deviceNo, const QString &ldName,
+                                        const QStringList &references, QString &error)
+{
+    return m_runtime->run(deviceNo, Runtime::Effect::Reads, error,
+                          [ldName, references](DevicePointer device) {
+                              return readVariables(std::move(device), ldName, references);
+                          });
+}
+
+OperationResult IedDriver::readDataSetValue(long deviceNo, const QString &ldName,
+                                            const QString &dataSetReference, QString &error)
+{
+    return m_runtime->run(deviceNo, Runtime::Effect::Reads, error,
+                          [ldName, dataSetReference](DevicePointer device) {
+                              return readDataSet(std::move(device), ldName, dataSetReference);
+                          });
+}
+
+OperationResult IedDriver::writeVariable(long deviceNo, const QString &ldName,
+                                         const QString &reference, const QByteArray &value,
+                                         QString &error)
+{
+    QVariant decoded;
+    if (!ValueConversion::readVariant(value, decoded)) {
+        error = Texts::tr("The value to be written cannot be read.");
+        return OperationFailed;
+    }
+    return m_runtime->run(deviceNo, Runtime::Effect::Changes, error,
+                          [ldName, reference, decoded](DevicePointer device) {
+                              return write(std::move(device), ldName, reference, decoded);
+                          });
+}
