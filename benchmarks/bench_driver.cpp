@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // What fifty devices that report cost the driver, and how soon their reports are live values.
-#include "driver/service/ieddriver.h"
 #include "driver/indicatorfile.h"
 #include "driver/model/sclimport.h"
+#include "driver/service/ieddriver.h"
 #include "simulator/device.h"
 
 #include <devicemodel/mmsvalue.h>

@@ -81,7 +81,8 @@ BENCHMARK(readyInTenLogicalDevices)->Iterations(1)->Unit(benchmark::kMillisecond
 void allNames(benchmark::State &state)
 {
     const auto secondsFor = [](int size, std::size_t &names) {
-        const auto result = scl::readBytes(GeneratedScl{size, false, size / leavesPerNode + 1}.text());
+        const auto result =
+            scl::readBytes(GeneratedScl{size, false, size / leavesPerNode + 1}.text());
         const sim::Model model(result.document->ieds.front(), {});
         double quickest = std::numeric_limits<double>::max();
         for (int i = 0; i < runs; ++i) {

@@ -25,8 +25,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
             check(accessed && *accessed == *first);
         }
         if (first->constraint) {
-            const auto dotted = acsi::parseObjectReference(acsi::objectReferenceText(*first),
-                                                           *first->constraint);
+            const auto dotted =
+                acsi::parseObjectReference(acsi::objectReferenceText(*first), *first->constraint);
             check(dotted && *dotted == *first);
         }
     } else {

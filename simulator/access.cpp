@@ -116,9 +116,8 @@ std::optional<DataAccessError> Access::write(Client &client, const mms::Variable
     return part.isValid() ? write(client, part, value) : writeElements(client, access, value);
 }
 
-std::optional<DataAccessError> Access::writeElements(Client &client,
-                                                     const mms::VariableAccess &access,
-                                                     const mms::Data &value)
+std::optional<DataAccessError>
+Access::writeElements(Client &client, const mms::VariableAccess &access, const mms::Data &value)
 {
     const Part array = m_model.find({access.variable, {}});
     if (!array.isValid() || !array.node().isArray() || access.parts.size() != 1)
@@ -127,8 +126,8 @@ std::optional<DataAccessError> Access::writeElements(Client &client,
     const std::uint32_t size = array.childCount();
     const bool whole = selection.kind == AlternateAccess::Kind::AllElements;
     const std::uint32_t first = whole ? 0 : selection.index;
-    if ((!whole && selection.kind != AlternateAccess::Kind::IndexRange) || !selection.parts.empty()
-        || first > size || (!whole && selection.count > size - first))
+    if ((!whole && selection.kind != AlternateAccess::Kind::IndexRange) ||
+        !selection.parts.empty() || first > size || (!whole && selection.count > size - first))
         return DataAccessError::ObjectNonExistent;
     const std::uint32_t count = whole || selection.count == 0 ? size - first : selection.count;
     const auto values = value.children();
@@ -153,8 +152,8 @@ std::optional<DataAccessError> Access::write(Client &client, const Part &part,
         const auto error = Model::check(part, value);
         return error ? error : object->write(client, part, value);
     }
-    if (part.node().level == Level::LogicalNode || !m_rules.allows(part.fc())
-        || hasObjectsWithin(part))
+    if (part.node().level == Level::LogicalNode || !m_rules.allows(part.fc()) ||
+        hasObjectsWithin(part))
         return DataAccessError::ObjectAccessDenied;
     for (std::uint32_t i = 0; i < part.leafCount(); ++i) {
         if (m_model.isReadOnly(part.firstLeaf() + i))

@@ -25,9 +25,9 @@ public:
     bool allows(Fc fc) const { return ((m_writable >> static_cast<unsigned>(fc)) & 1U) != 0; }
 
 private:
-    std::uint32_t m_writable = (1U << static_cast<unsigned>(Fc::SP))
-        | (1U << static_cast<unsigned>(Fc::CF)) | (1U << static_cast<unsigned>(Fc::SV))
-        | (1U << static_cast<unsigned>(Fc::BL));
+    std::uint32_t m_writable =
+        (1U << static_cast<unsigned>(Fc::SP)) | (1U << static_cast<unsigned>(Fc::CF)) |
+        (1U << static_cast<unsigned>(Fc::SV)) | (1U << static_cast<unsigned>(Fc::BL));
 };
 
 /// A part of the model that behaves: a control block, a controllable object, settings. Its values
@@ -47,8 +47,8 @@ public:
                                                       const mms::Data &value) = 0;
 };
 
-/// What clients may do with a model: reads and writes of its parts, by rules and by the objects that
-/// stand in it. Belongs to the device's strand.
+/// What clients may do with a model: reads and writes of its parts, by rules and by the objects
+/// that stand in it. Belongs to the device's strand.
 class Access
 {
 public:
@@ -80,9 +80,8 @@ private:
     mms::AccessResult selectOne(Client &client, const Part &part,
                                 const mms::AlternateAccess &selection);
     /// Some elements, or all elements, of an array.
-    std::optional<mms::DataAccessError> writeElements(Client &client,
-                                                      const mms::VariableAccess &access,
-                                                      const mms::Data &value);
+    std::optional<mms::DataAccessError>
+    writeElements(Client &client, const mms::VariableAccess &access, const mms::Data &value);
 
     Model &m_model;
     WriteRules m_rules;

@@ -18,9 +18,9 @@ LayoutDraft boolean(std::string_view name)
 
 LayoutDraft unsignedInteger(std::string_view name, std::int32_t bits)
 {
-    const BasicType type = bits == 8 ? BasicType::Int8U
-        : bits == 16                 ? BasicType::Int16U
-                                     : BasicType::Int32U;
+    const BasicType type = bits == 8    ? BasicType::Int8U
+                           : bits == 16 ? BasicType::Int16U
+                                        : BasicType::Int32U;
     return leafDraft(name, type, Kind::Unsigned, bits);
 }
 
@@ -72,18 +72,21 @@ LayoutDraft reportBlock(std::string_view name, bool buffered, bool firstEdition)
 
 LayoutDraft logBlock(std::string_view name)
 {
-    return structureDraft(
-        name, {boolean("LogEna"), text("LogRef", referenceSize), text("DatSet", referenceSize),
-               entryTime("OldEntrTm"), entryTime("NewEntrTm"), entryId("OldEntr"),
-               entryId("NewEntr"), bits("TrgOps", BasicType::TrgOps, 6),
-               unsignedInteger("IntgPd", 32)});
+    return structureDraft(name,
+                          {boolean("LogEna"), text("LogRef", referenceSize),
+                           text("DatSet", referenceSize), entryTime("OldEntrTm"),
+                           entryTime("NewEntrTm"), entryId("OldEntr"), entryId("NewEntr"),
+                           bits("TrgOps", BasicType::TrgOps, 6), unsignedInteger("IntgPd", 32)});
 }
 
 LayoutDraft gooseBlock(std::string_view name, bool firstEdition)
 {
-    std::vector<LayoutDraft> members{
-        boolean("GoEna"), text("GoID", referenceSize), text("DatSet", referenceSize),
-        unsignedInteger("ConfRev", 32), boolean("NdsCom"), communicationAddress("DstAddress")};
+    std::vector<LayoutDraft> members{boolean("GoEna"),
+                                     text("GoID", referenceSize),
+                                     text("DatSet", referenceSize),
+                                     unsignedInteger("ConfRev", 32),
+                                     boolean("NdsCom"),
+                                     communicationAddress("DstAddress")};
     if (!firstEdition) {
         members.push_back(unsignedInteger("MinTime", 32));
         members.push_back(unsignedInteger("MaxTime", 32));
@@ -112,9 +115,9 @@ LayoutDraft sampledValueBlock(std::string_view name, bool multicast, bool firstE
 
 LayoutDraft settingGroupBlock(bool firstEdition)
 {
-    std::vector<LayoutDraft> members{
-        unsignedInteger("NumOfSG", 8), unsignedInteger("ActSG", 8), unsignedInteger("EditSG", 8),
-        boolean("CnfEdit"), leafDraft("LActTm", BasicType::Timestamp, Kind::UtcTime, 0)};
+    std::vector<LayoutDraft> members{unsignedInteger("NumOfSG", 8), unsignedInteger("ActSG", 8),
+                                     unsignedInteger("EditSG", 8), boolean("CnfEdit"),
+                                     leafDraft("LActTm", BasicType::Timestamp, Kind::UtcTime, 0)};
     if (!firstEdition)
         members.push_back(unsignedInteger("ResvTms", 16));
     return structureDraft("SGCB", std::move(members));
@@ -124,10 +127,9 @@ LayoutDraft settingGroupBlock(bool firstEdition)
 
 LayoutDraft communicationAddress(std::string_view name)
 {
-    return structureDraft(
-        name, {leafDraft("Addr", BasicType::Octet, Kind::OctetString, 6),
-               unsignedInteger("PRIORITY", 8), unsignedInteger("VID", 16),
-               unsignedInteger("APPID", 16)});
+    return structureDraft(name, {leafDraft("Addr", BasicType::Octet, Kind::OctetString, 6),
+                                 unsignedInteger("PRIORITY", 8), unsignedInteger("VID", 16),
+                                 unsignedInteger("APPID", 16)});
 }
 
 std::vector<std::pair<Fc, LayoutDraft>> controlBlocks(const scl::LogicalNode &logicalNode,

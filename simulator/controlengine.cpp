@@ -99,8 +99,8 @@ public:
                                               const mms::Data &value) override
     {
         for (const auto &[service, type] : m_types) {
-            if (part.name() != service || part.isLeaf()
-                || part.firstLeaf() != m_part.child(service).firstLeaf())
+            if (part.name() != service || part.isLeaf() ||
+                part.firstLeaf() != m_part.child(service).firstLeaf())
                 continue;
             const auto request = acsi::controlRequestFrom(type, value);
             if (!request)
@@ -156,8 +156,8 @@ private:
         }
         if (m_position.isValid() && !m_position.isLeaf())
             m_position = Part();
-        m_isSwitch = m_kind == ControlKind::DoublePoint && m_position.isValid()
-            && m_position.node().basicType == scl::BasicType::Dbpos;
+        m_isSwitch = m_kind == ControlKind::DoublePoint && m_position.isValid() &&
+                     m_position.node().basicType == scl::BasicType::Dbpos;
     }
 
     /// The nodes around the object: those of its own prefix and instance; where one of the two has
@@ -175,26 +175,24 @@ private:
         for (std::uint32_t node = domain.firstNode; node < domain.firstNode + domain.nodeCount;
              ++node) {
             const NodeName other = split(m_model.logicalNodes()[node].name);
-            const bool anyPrefix
-                = !ofOwnPrefix && (own.prefix.empty() || other.prefix.empty());
-            const bool sameBay
-                = other.inst == own.inst && (anyPrefix || other.prefix == own.prefix);
+            const bool anyPrefix = !ofOwnPrefix && (own.prefix.empty() || other.prefix.empty());
+            const bool sameBay =
+                other.inst == own.inst && (anyPrefix || other.prefix == own.prefix);
             if (other.lnClass == "LLN0")
                 m_rootNode = node;
             else if (other.lnClass == "CILO" && sameBay && m_isSwitch && !m_interlock)
                 m_interlock = node;
             else if (other.lnClass == "RSYN" && m_isSwitch && !m_synchrocheck)
                 m_synchrocheck = node;
-            else if ((other.lnClass == "XCBR" || other.lnClass == "XSWI") && sameBay
-                     && own.lnClass == "CSWI" && m_part.name() == "Pos" && !m_switch)
+            else if ((other.lnClass == "XCBR" || other.lnClass == "XSWI") && sameBay &&
+                     own.lnClass == "CSWI" && m_part.name() == "Pos" && !m_switch)
                 m_switch = node;
         }
     }
 
     bool isTrue(std::optional<std::uint32_t> node, std::string_view object, bool otherwise) const
     {
-        const Part part =
-            node ? inNode(*node, "ST$" + std::string(object) + "$stVal") : Part();
+        const Part part = node ? inNode(*node, "ST$" + std::string(object) + "$stVal") : Part();
         if (!part.isValid() || !part.isLeaf())
             return otherwise;
         return m_model.value(part.firstLeaf()).toBoolean().value_or(otherwise);
@@ -226,12 +224,12 @@ private:
             settings.sboTimeout = std::chrono::milliseconds(std::min(sboTimeout, longest));
         const std::uint64_t operTimeout = configured("operTimeout").value_or(0);
         settings.operTimeout = operTimeout == 0
-            ? usualOperTimeout
-            : std::chrono::milliseconds(std::min(operTimeout, longest));
+                                   ? usualOperTimeout
+                                   : std::chrono::milliseconds(std::min(operTimeout, longest));
         settings.operateMany = configured("sboClass").value_or(0) == 1;
-        settings.operatingTime = m_isSwitch ? switchTime
-            : m_moving.isValid()            ? tapTime
-                                            : numberTime;
+        settings.operatingTime = m_isSwitch           ? switchTime
+                                 : m_moving.isValid() ? tapTime
+                                                      : numberTime;
         const Oddities &odd = m_engine.m_host.oddities;
         if (odd.slowControl)
             settings.operatingTime = slowTime;
@@ -239,10 +237,10 @@ private:
         settings.cancelsOperations = !odd.noCancelOfCommands;
         settings.causes.hasNumber = !odd.causeWithoutNumber;
         settings.causes.followsAnswer = odd.causeAfterAnswer;
-        settings.causes.name = odd.causeNamesObject ? CauseForm::Name::Object
-            : odd.causeNamesReference               ? CauseForm::Name::Reference
-            : odd.causeNamesOper                    ? CauseForm::Name::Oper
-                                                    : CauseForm::Name::Service;
+        settings.causes.name = odd.causeNamesObject      ? CauseForm::Name::Object
+                               : odd.causeNamesReference ? CauseForm::Name::Reference
+                               : odd.causeNamesOper      ? CauseForm::Name::Oper
+                                                         : CauseForm::Name::Service;
         return settings;
     }
 
@@ -283,9 +281,10 @@ private:
         conditions.controlsMode = m_part.name() == "Mod";
         conditions.behaviour = static_cast<std::int32_t>(number("Beh", 1));
         conditions.unhealthy = m_isSwitch && number("Health", 1) == healthAlarm;
-        conditions.local = isTrue(m_node, "Loc", false) || isTrue(m_node, "LocKey", false)
-            || isTrue(m_rootNode, "Loc", false) || isTrue(m_rootNode, "LocKey", false)
-            || isTrue(m_switch, "Loc", false) || isTrue(m_switch, "LocKey", false);
+        conditions.local = isTrue(m_node, "Loc", false) || isTrue(m_node, "LocKey", false) ||
+                           isTrue(m_rootNode, "Loc", false) ||
+                           isTrue(m_rootNode, "LocKey", false) || isTrue(m_switch, "Loc", false) ||
+                           isTrue(m_switch, "LocKey", false);
         if (m_isSwitch) {
             const std::string_view blocking = closing ? "BlkCls" : "BlkOpn";
             conditions.blocked =
@@ -429,8 +428,8 @@ ControlEngine::ControlEngine(const Host &host, const scl::Ied &ied)
 {
     const auto domains = m_host.model.domains();
     for (std::uint32_t d = 0; d < domains.size(); ++d) {
-        for (std::uint32_t n = domains[d].firstNode; n < domains[d].firstNode + domains[d].nodeCount;
-             ++n) {
+        for (std::uint32_t n = domains[d].firstNode;
+             n < domains[d].firstNode + domains[d].nodeCount; ++n) {
             const Part controls = m_host.model.logicalNode(n).child("CO");
             if (!controls.isValid())
                 continue;
@@ -467,10 +466,10 @@ void ControlEngine::releaseInterlocks(const scl::LogicalDevice &device,
         // What the file says stays.
         if (!state.isValid() || !state.isLeaf() || state.value())
             continue;
-        const Part part = m_host.model.find(
-            device.name, std::string(node.name) + "$ST$" + std::string(object) + "$stVal");
-        if (part.isValid() && part.isLeaf()
-            && m_host.model.value(part.firstLeaf()).kind() == mms::Data::Kind::Boolean)
+        const Part part = m_host.model.find(device.name, std::string(node.name) + "$ST$" +
+                                                             std::string(object) + "$stVal");
+        if (part.isValid() && part.isLeaf() &&
+            m_host.model.value(part.firstLeaf()).kind() == mms::Data::Kind::Boolean)
             m_host.model.set(part.firstLeaf(), mms::Data::boolean(true));
     }
 }

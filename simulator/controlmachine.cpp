@@ -29,11 +29,11 @@ bool isEnhanced(ControlModel model)
 /// A control service has to repeat what was selected; only its time may be another.
 bool repeats(const ControlRequest &selection, const ControlRequest &request)
 {
-    return selection.value == request.value && selection.originator == request.originator
-        && selection.ctlNum == request.ctlNum && selection.test == request.test
-        && selection.operateTime == request.operateTime
-        && selection.synchrocheck == request.synchrocheck
-        && selection.interlockCheck == request.interlockCheck;
+    return selection.value == request.value && selection.originator == request.originator &&
+           selection.ctlNum == request.ctlNum && selection.test == request.test &&
+           selection.operateTime == request.operateTime &&
+           selection.synchrocheck == request.synchrocheck &&
+           selection.interlockCheck == request.interlockCheck;
 }
 
 /// Whether a cancel means that command.
@@ -41,16 +41,16 @@ bool means(const ControlRequest &cancel, const ControlRequest &command,
            const ControlSettings &settings)
 {
     const bool isSame = command.ctlNum == cancel.ctlNum && command.value == cancel.value;
-    return isSame
-        && (!settings.isStrict
-            || (command.originator == cancel.originator && command.test == cancel.test
-                && command.operateTime == cancel.operateTime));
+    return isSame && (!settings.isStrict ||
+                      (command.originator == cancel.originator && command.test == cancel.test &&
+                       command.operateTime == cancel.operateTime));
 }
 
 bool isPlausible(const ControlRequest &request, const ControlSettings &settings)
 {
-    return request.originator.category >= (settings.isStrict ? 1 : 0) && request.originator.category <= highestCategory
-        && request.originator.identification.size() <= longestIdentification;
+    return request.originator.category >= (settings.isStrict ? 1 : 0) &&
+           request.originator.category <= highestCategory &&
+           request.originator.identification.size() <= longestIdentification;
 }
 
 std::int32_t errorOf(AddCause cause)
@@ -72,8 +72,8 @@ std::int32_t errorOf(AddCause cause)
 
 bool isNow(const ControlRequest &request)
 {
-    return !request.operateTime
-        || (request.operateTime->seconds == 0 && request.operateTime->fraction == 0);
+    return !request.operateTime ||
+           (request.operateTime->seconds == 0 && request.operateTime->fraction == 0);
 }
 
 Clock::WallTime wallTimeOf(const mms::UtcTime &time)
@@ -197,8 +197,7 @@ void ControlMachine::start()
     const ControlSettings settings = m_host.settings();
     m_state = State::Operating;
     m_tooSlow = !settings.operatingTime || *settings.operatingTime > settings.operTimeout;
-    m_deadline = m_clock.steadyNow()
-        + (m_tooSlow ? settings.operTimeout : *settings.operatingTime);
+    m_deadline = m_clock.steadyNow() + (m_tooSlow ? settings.operTimeout : *settings.operatingTime);
     m_host.started(m_request);
 }
 

@@ -22,13 +22,12 @@ ServiceError failure(ErrorClass errorClass, std::int32_t code)
     return {errorClass, code, {}, {}, {}};
 }
 
-
 bool isName(std::string_view text)
 {
-    return !text.empty() && text.size() <= longestName
-        && std::ranges::all_of(text, [](char letter) {
-               return std::isalnum(static_cast<unsigned char>(letter)) != 0 || letter == '_'
-                   || letter == '$';
+    return !text.empty() && text.size() <= longestName &&
+           std::ranges::all_of(text, [](char letter) {
+               return std::isalnum(static_cast<unsigned char>(letter)) != 0 || letter == '_' ||
+                      letter == '$';
            });
 }
 
@@ -45,8 +44,7 @@ DataSets::DataSets(const Model &model, const scl::Ied &ied, DataSetLimits limits
         for (const scl::LogicalNode &node : device.nodes) {
             for (const scl::DataSet &described : node.dataSets) {
                 auto dataSet = std::make_shared<DataSet>();
-                const std::string name =
-                    std::string(node.name) + "$" + std::string(described.name);
+                const std::string name = std::string(node.name) + "$" + std::string(described.name);
                 dataSet->name = mms::ObjectName::inDomain(device.name, name);
                 for (const scl::DataSetMember &member : described.members) {
                     const auto parsed = acsi::parseReference(member.reference);
@@ -86,8 +84,8 @@ std::shared_ptr<DataSet> DataSets::find(const Client *client, std::string_view r
     const auto slash = reference.find('/');
     if (slash == std::string_view::npos)
         return nullptr;
-    return find(client, mms::ObjectName::inDomain(reference.substr(0, slash),
-                                                  reference.substr(slash + 1)));
+    return find(client,
+                mms::ObjectName::inDomain(reference.substr(0, slash), reference.substr(slash + 1)));
 }
 
 std::string DataSets::reference(const DataSet &dataSet)
@@ -116,10 +114,10 @@ std::optional<ServiceError> DataSets::define(Client &client,
         return failure(ErrorClass::Definition, mms::serviceerrors::definitionAttributeInconsistent);
     if (names->contains(request.name.item))
         return failure(ErrorClass::Definition, mms::serviceerrors::definitionObjectExists);
-    const auto made = std::ranges::count_if(
-        *names, [](const auto &entry) { return entry.second->deletable; });
-    const std::size_t limit = request.name.scope == Scope::Association ? m_limits.perClient
-                                                                       : m_limits.perDomain;
+    const auto made =
+        std::ranges::count_if(*names, [](const auto &entry) { return entry.second->deletable; });
+    const std::size_t limit =
+        request.name.scope == Scope::Association ? m_limits.perClient : m_limits.perDomain;
     if (static_cast<std::size_t>(made) >= limit || request.members.size() > m_limits.members)
         return failure(ErrorClass::Resource, mms::serviceerrors::resourceCapabilityUnavailable);
     auto dataSet = std::make_shared<DataSet>();

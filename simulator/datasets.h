@@ -22,8 +22,8 @@ struct DataSetMember
     Part part; ///< what it names
 };
 
-/// A named list of variables. Lives as long as somebody holds it; one that was deleted is in no list
-/// any more.
+/// A named list of variables. Lives as long as somebody holds it; one that was deleted is in no
+/// list any more.
 struct DataSet
 {
     mms::ObjectName name;
@@ -51,7 +51,8 @@ public:
     /// Members that the model lacks are left out.
     DataSets(const Model &model, const scl::Ied &ied, DataSetLimits limits = {});
 
-    /// @p client decides whose data sets the scope of the association means; may be null for others.
+    /// @p client decides whose data sets the scope of the association means; may be null for
+    /// others.
     std::shared_ptr<DataSet> find(const Client *client, const mms::ObjectName &name) const;
     /// By a reference as in a control block: "LD/LN$name", or "@name" for @p client's own.
     std::shared_ptr<DataSet> find(const Client *client, std::string_view reference) const;

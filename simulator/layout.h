@@ -11,7 +11,8 @@
 
 namespace sim {
 
-/// Functional constraints; the order of the enumeration is that of the components of a logical node.
+/// Functional constraints; the order of the enumeration is that of the components of a logical
+/// node.
 using Fc = acsi::FunctionalConstraint;
 
 /// Reasons of a change that a report can be triggered by, as a set of flags.
@@ -33,10 +34,10 @@ constexpr bool any(Trigger triggers)
 /// What a node of a logical node is in the terms of IEC 61850-7-2.
 enum class Level : std::uint8_t {
     LogicalNode,
-    Constraint,    ///< all data of a logical node with one functional constraint
-    DataObject,    ///< also a control block
+    Constraint, ///< all data of a logical node with one functional constraint
+    DataObject, ///< also a control block
     SubDataObject,
-    Attribute,     ///< also what is inside a control block
+    Attribute, ///< also what is inside a control block
 };
 
 /// One node of the type of a logical node. Elements of an array share one node, its only child.
@@ -48,20 +49,20 @@ struct LayoutNode
     std::string_view cdc;  ///< of a data object
     Kind kind = Kind::Structure;
     Level level = Level::Attribute;
-    Fc fc = Fc::ST; ///< of everything but a logical node
-    scl::BasicType basicType = scl::BasicType::Struct;    ///< of a leaf
-    Trigger triggers = Trigger::None;                     ///< of a leaf: what a change may trigger
-    bool readOnly = false;                                ///< configured as not to be written
-    bool withDate = false;                                ///< of a binary time
+    Fc fc = Fc::ST;                                    ///< of everything but a logical node
+    scl::BasicType basicType = scl::BasicType::Struct; ///< of a leaf
+    Trigger triggers = Trigger::None;                  ///< of a leaf: what a change may trigger
+    bool readOnly = false;                             ///< configured as not to be written
+    bool withDate = false;                             ///< of a binary time
     mms::TypeDescription::Kind mmsKind = mms::TypeDescription::Kind::Structure;
-    std::int32_t size = 0;           ///< of a leaf, as in mms::TypeDescription
-    std::uint32_t parent = 0;        ///< position in the layout; the root is its own parent
-    std::uint32_t firstChild = 0;    ///< children stand behind each other
+    std::int32_t size = 0;        ///< of a leaf, as in mms::TypeDescription
+    std::uint32_t parent = 0;     ///< position in the layout; the root is its own parent
+    std::uint32_t firstChild = 0; ///< children stand behind each other
     std::uint32_t childCount = 0;
-    std::uint32_t elementCount = 0;  ///< of an array
-    std::uint32_t firstLeaf = 0;     ///< counted in the logical node, with elements 0 taken above
-    std::uint32_t leafCount = 0;     ///< all elements of arrays counted
-    std::uint32_t enumeration = 0;   ///< 0 for none, else position in the layout's plus 1
+    std::uint32_t elementCount = 0; ///< of an array
+    std::uint32_t firstLeaf = 0;    ///< counted in the logical node, with elements 0 taken above
+    std::uint32_t leafCount = 0;    ///< all elements of arrays counted
+    std::uint32_t enumeration = 0;  ///< 0 for none, else position in the layout's plus 1
 
     bool isLeaf() const { return kind == Kind::Leaf; }
     bool isArray() const { return kind == Kind::Array; }
@@ -76,8 +77,8 @@ struct Layout
         std::vector<std::int32_t> ordinals; ///< sorted
     };
 
-    std::vector<LayoutNode> nodes;        ///< the first is the logical node
-    std::vector<std::uint32_t> byName;    ///< for each run of children: its positions sorted by name
+    std::vector<LayoutNode> nodes;     ///< the first is the logical node
+    std::vector<std::uint32_t> byName; ///< for each run of children: its positions sorted by name
     std::vector<std::uint32_t> leafNodes; ///< node of each leaf
     std::vector<Enumeration> enumerations;
 };

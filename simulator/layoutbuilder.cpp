@@ -140,7 +140,8 @@ private:
 
     LayoutDraft dataDraft(const scl::DataNode &data, Fc fc, Level level)
     {
-        LayoutDraft draft = data.isArray() ? arrayDraft(data, fc, level) : plainDraft(data, fc, level);
+        LayoutDraft draft =
+            data.isArray() ? arrayDraft(data, fc, level) : plainDraft(data, fc, level);
         draft.node.name = keep(m_settings.memory, data.name());
         return draft;
     }
@@ -196,9 +197,9 @@ private:
 
     static Trigger triggersOf(const scl::TemplateNode &node)
     {
-        return (node.dataChange ? Trigger::DataChange : Trigger::None)
-            | (node.qualityChange ? Trigger::QualityChange : Trigger::None)
-            | (node.dataUpdate ? Trigger::DataUpdate : Trigger::None);
+        return (node.dataChange ? Trigger::DataChange : Trigger::None) |
+               (node.qualityChange ? Trigger::QualityChange : Trigger::None) |
+               (node.dataUpdate ? Trigger::DataUpdate : Trigger::None);
     }
 
     static bool isReadOnly(const scl::TemplateNode &node)
@@ -247,41 +248,70 @@ private:
             leaf.size = size;
         };
         switch (node.basicType) {
-        case BasicType::Boolean: return set(Kind::Boolean, 0);
-        case BasicType::Int8: return set(Kind::Integer, 8);
-        case BasicType::Int16: return set(Kind::Integer, 16);
-        case BasicType::Int24: return set(Kind::Integer, 24);
-        case BasicType::Int32: return set(Kind::Integer, 32);
-        case BasicType::Int64: return set(Kind::Integer, 64);
-        case BasicType::Int128: return set(Kind::Integer, 128);
-        case BasicType::Int8U: return set(Kind::Unsigned, 8);
-        case BasicType::Int16U: return set(Kind::Unsigned, 16);
-        case BasicType::Int24U: return set(Kind::Unsigned, 24);
-        case BasicType::Int32U: return set(Kind::Unsigned, 32);
-        case BasicType::Int64U: return set(Kind::Unsigned, 64);
-        case BasicType::Float32: return set(Kind::FloatingPoint, 32);
-        case BasicType::Float64: return set(Kind::FloatingPoint, 64);
-        case BasicType::Enum: return set(Kind::Integer, enumerationBits(leaf.enumeration));
+        case BasicType::Boolean:
+            return set(Kind::Boolean, 0);
+        case BasicType::Int8:
+            return set(Kind::Integer, 8);
+        case BasicType::Int16:
+            return set(Kind::Integer, 16);
+        case BasicType::Int24:
+            return set(Kind::Integer, 24);
+        case BasicType::Int32:
+            return set(Kind::Integer, 32);
+        case BasicType::Int64:
+            return set(Kind::Integer, 64);
+        case BasicType::Int128:
+            return set(Kind::Integer, 128);
+        case BasicType::Int8U:
+            return set(Kind::Unsigned, 8);
+        case BasicType::Int16U:
+            return set(Kind::Unsigned, 16);
+        case BasicType::Int24U:
+            return set(Kind::Unsigned, 24);
+        case BasicType::Int32U:
+            return set(Kind::Unsigned, 32);
+        case BasicType::Int64U:
+            return set(Kind::Unsigned, 64);
+        case BasicType::Float32:
+            return set(Kind::FloatingPoint, 32);
+        case BasicType::Float64:
+            return set(Kind::FloatingPoint, 64);
+        case BasicType::Enum:
+            return set(Kind::Integer, enumerationBits(leaf.enumeration));
         case BasicType::Dbpos:
-        case BasicType::Tcmd: return set(Kind::BitString, 2);
-        case BasicType::Check: return set(Kind::BitString, -2);
-        case BasicType::Quality: return set(Kind::BitString, -13);
-        case BasicType::TrgOps: return set(Kind::BitString, -6);
-        case BasicType::OptFlds: return set(Kind::BitString, -10);
-        case BasicType::SvOptFlds: return set(Kind::BitString, -5);
-        case BasicType::Timestamp: return set(Kind::UtcTime, 0);
+        case BasicType::Tcmd:
+            return set(Kind::BitString, 2);
+        case BasicType::Check:
+            return set(Kind::BitString, -2);
+        case BasicType::Quality:
+            return set(Kind::BitString, -13);
+        case BasicType::TrgOps:
+            return set(Kind::BitString, -6);
+        case BasicType::OptFlds:
+            return set(Kind::BitString, -10);
+        case BasicType::SvOptFlds:
+            return set(Kind::BitString, -5);
+        case BasicType::Timestamp:
+            return set(Kind::UtcTime, 0);
         case BasicType::EntryTime:
             leaf.withDate = true;
             return set(Kind::BinaryTime, 0);
-        case BasicType::EntryId: return set(Kind::OctetString, 8);
-        case BasicType::Octet: return set(Kind::OctetString, -lengthIn(node.basicTypeName));
-        case BasicType::ObjRef: return set(Kind::VisibleString, -129);
-        case BasicType::Currency: return set(Kind::VisibleString, -3);
-        case BasicType::Unicode: return set(Kind::MmsString, -lengthIn(node.basicTypeName));
-        case BasicType::VisString: return set(Kind::VisibleString, -lengthIn(node.basicTypeName));
+        case BasicType::EntryId:
+            return set(Kind::OctetString, 8);
+        case BasicType::Octet:
+            return set(Kind::OctetString, -lengthIn(node.basicTypeName));
+        case BasicType::ObjRef:
+            return set(Kind::VisibleString, -129);
+        case BasicType::Currency:
+            return set(Kind::VisibleString, -3);
+        case BasicType::Unicode:
+            return set(Kind::MmsString, -lengthIn(node.basicTypeName));
+        case BasicType::VisString:
+            return set(Kind::VisibleString, -lengthIn(node.basicTypeName));
         case BasicType::PhyComAddr:
         case BasicType::Struct:
-        case BasicType::Other: return set(Kind::VisibleString, -255);
+        case BasicType::Other:
+            return set(Kind::VisibleString, -255);
         }
     }
 
@@ -314,8 +344,8 @@ private:
             return 8;
         return fits(std::numeric_limits<std::int16_t>::min(),
                     std::numeric_limits<std::int16_t>::max())
-            ? 16
-            : 32;
+                   ? 16
+                   : 32;
     }
 
     static std::uint32_t countLeaves(LayoutDraft &draft, std::uint32_t &offset)
@@ -399,9 +429,9 @@ private:
 
 bool hasOwnLayout(const scl::LogicalNode &logicalNode)
 {
-    return (logicalNode.type && logicalNode.type->sizeVaries) || !logicalNode.reports.empty()
-        || !logicalNode.logControls.empty() || !logicalNode.gooseControls.empty()
-        || !logicalNode.sampledValueControls.empty() || logicalNode.settingControl;
+    return (logicalNode.type && logicalNode.type->sizeVaries) || !logicalNode.reports.empty() ||
+           !logicalNode.logControls.empty() || !logicalNode.gooseControls.empty() ||
+           !logicalNode.sampledValueControls.empty() || logicalNode.settingControl;
 }
 
 std::unique_ptr<const Layout> makeLayout(const scl::LogicalNode &logicalNode,

@@ -18,8 +18,8 @@ struct LayoutSettings
     bool firstEdition = false;
 };
 
-/// Whether the logical node needs a layout of its own: it has control blocks, or sizes of its arrays
-/// come from its values.
+/// Whether the logical node needs a layout of its own: it has control blocks, or sizes of its
+/// arrays come from its values.
 bool hasOwnLayout(const scl::LogicalNode &logicalNode);
 
 /// The layout of a logical node. Of what is in the file nothing is left out but structures without

@@ -103,7 +103,8 @@ std::optional<DataAccessError> checkLeaf(const Layout &layout, const LayoutNode 
             return DataAccessError::TypeInconsistent;
         break;
     }
-    default: break;
+    default:
+        break;
     }
     return valid ? std::nullopt : std::optional(DataAccessError::ObjectValueInvalid);
 }
@@ -130,8 +131,8 @@ std::optional<DataAccessError> checkNode(const Layout &layout, const LayoutNode 
     return worst;
 }
 
-/// Walks the variables of a domain depth first. With sorted children that is the order of the names,
-/// because "$" sorts before everything else that a name may hold.
+/// Walks the variables of a domain depth first. With sorted children that is the order of the
+/// names, because "$" sorts before everything else that a name may hold.
 class NameWalk
 {
 public:
@@ -248,9 +249,10 @@ private:
             return false;
         const auto first = m_layout->byName.begin() + current().firstChild;
         const auto last = first + current().childCount;
-        const auto found = std::ranges::lower_bound(
-            first, last, name, {},
-            [this](std::uint32_t child) { return m_layout->nodes[child].name; });
+        const auto found =
+            std::ranges::lower_bound(first, last, name, {}, [this](std::uint32_t child) {
+                return m_layout->nodes[child].name;
+            });
         if (found == last || m_layout->nodes[*found].name != name)
             return false;
         enterChild(isSorted() ? static_cast<std::uint32_t>(found - first)
@@ -363,8 +365,8 @@ Part Model::find(const mms::VariableAccess &access) const
         const mms::AlternateAccess &selection = parts->front();
         if (selection.kind == mms::AlternateAccess::Kind::Component) {
             part = selection.component.empty() ? Part() : part.descendant(selection.component);
-        } else if (selection.kind == mms::AlternateAccess::Kind::Index && part.node().isArray()
-                   && selection.index < part.childCount()) {
+        } else if (selection.kind == mms::AlternateAccess::Kind::Index && part.node().isArray() &&
+                   selection.index < part.childCount()) {
             part = part.childAt(selection.index);
         } else {
             return {};

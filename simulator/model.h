@@ -56,7 +56,8 @@ public:
 
     /// By name; invalid when there is none.
     Part child(std::string_view name) const;
-    /// By position, in the order of the type; elements for an array. @p index is below childCount().
+    /// By position, in the order of the type; elements for an array. @p index is below
+    /// childCount().
     Part childAt(std::uint32_t index) const;
     std::uint32_t childCount() const
     {
@@ -69,8 +70,8 @@ public:
 
     friend bool operator==(const Part &left, const Part &right)
     {
-        return left.m_node == right.m_node && left.m_logicalNode == right.m_logicalNode
-            && left.m_firstLeaf == right.m_firstLeaf;
+        return left.m_node == right.m_node && left.m_logicalNode == right.m_logicalNode &&
+               left.m_firstLeaf == right.m_firstLeaf;
     }
 
 private:
@@ -104,8 +105,8 @@ public:
 /// constraints, data, and the control blocks, with their MMS names, types and values.
 ///
 /// Structures are shared by all logical nodes of a type, so that an attribute costs little more
-/// than its value. Values come from the instance, else from the type, else are what a healthy device
-/// would show. The model keeps nothing of the SCL document. It belongs to one strand.
+/// than its value. Values come from the instance, else from the type, else are what a healthy
+/// device would show. The model keeps nothing of the SCL document. It belongs to one strand.
 class Model
 {
 public:
@@ -119,8 +120,8 @@ public:
 
     struct Domain
     {
-        std::string_view name;     ///< of the MMS domain
-        std::string_view inst;     ///< attribute `inst` of the logical device
+        std::string_view name; ///< of the MMS domain
+        std::string_view inst; ///< attribute `inst` of the logical device
         std::uint32_t firstNode = 0;
         std::uint32_t nodeCount = 0;
         std::vector<std::uint32_t> nodesByName;
@@ -151,8 +152,8 @@ public:
     /// "LN", "LN$FC" or "LN$FC$DO$…"; invalid when there is none.
     Part find(std::string_view domain, std::string_view item) const;
     Part logicalNode(std::uint32_t index) const;
-    /// The part that @p access names: a variable, or what one unbranched alternate access selects of
-    /// it. Invalid when there is none.
+    /// The part that @p access names: a variable, or what one unbranched alternate access selects
+    /// of it. Invalid when there is none.
     Part find(const mms::VariableAccess &access) const;
     /// The leaf as a part; @p leaf is below leafCount().
     Part leafPart(Leaf leaf) const;

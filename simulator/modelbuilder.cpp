@@ -67,13 +67,11 @@ void Model::Builder::addDomain(const scl::LogicalDevice &device)
         if (!domain.nodeOfName.contains(node.name))
             addNode(node, position);
     }
-    domain.nodeCount =
-        static_cast<std::uint32_t>(m_model.m_logicalNodes.size()) - domain.firstNode;
+    domain.nodeCount = static_cast<std::uint32_t>(m_model.m_logicalNodes.size()) - domain.firstNode;
     for (std::uint32_t i = 0; i < domain.nodeCount; ++i)
         domain.nodesByName.push_back(domain.firstNode + i);
-    std::ranges::sort(domain.nodesByName, {}, [this](std::uint32_t node) {
-        return m_model.m_logicalNodes[node].name;
-    });
+    std::ranges::sort(domain.nodesByName, {},
+                      [this](std::uint32_t node) { return m_model.m_logicalNodes[node].name; });
 }
 
 void Model::Builder::addNode(const scl::LogicalNode &node, std::uint32_t domain)
@@ -101,10 +99,9 @@ void Model::Builder::addNode(const scl::LogicalNode &node, std::uint32_t domain)
             applyDefaults(root, *node.type);
         if (!hasOwnLayout(node)) {
             const auto first = static_cast<std::ptrdiff_t>(added.firstLeaf);
-            m_prototypes.emplace(node.type,
-                                 Prototype{added.layout,
-                                           {values.begin() + first, values.end()},
-                                           {flags.begin() + first, flags.end()}});
+            m_prototypes.emplace(node.type, Prototype{added.layout,
+                                                      {values.begin() + first, values.end()},
+                                                      {flags.begin() + first, flags.end()}});
         }
     }
     if (node.type)
@@ -135,8 +132,8 @@ void Model::Builder::addInitialValues(const Part &root)
         }
         place.controllable = controls.isValid() && controls.child(place.dataObject).isValid();
         m_model.m_values.push_back(initialValue(place, m_now));
-        m_model.m_flags.push_back(static_cast<std::uint8_t>(
-            static_cast<unsigned>(leaf.triggers) | (leaf.readOnly ? readOnlyFlag : 0U)));
+        m_model.m_flags.push_back(static_cast<std::uint8_t>(static_cast<unsigned>(leaf.triggers) |
+                                                            (leaf.readOnly ? readOnlyFlag : 0U)));
     }
 }
 
@@ -180,8 +177,7 @@ void Model::Builder::applyInside(const Part &part, const scl::Template &type,
         if (!child.isValid())
             continue;
         if (!child.node().isArray() || instance.index < 0) {
-            forEachElement(child,
-                           [&](const Part &element) { applyTo(element, node, instance); });
+            forEachElement(child, [&](const Part &element) { applyTo(element, node, instance); });
         } else if (static_cast<std::uint32_t>(instance.index) < child.childCount()) {
             applyTo(child.childAt(static_cast<std::uint32_t>(instance.index)), node, instance);
         }
@@ -216,7 +212,8 @@ void Model::Builder::configure(Leaf leaf, const LayoutNode &node,
             continue;
         if (configured.settingGroup != 0)
             m_model.m_groupValues.insert_or_assign({leaf, configured.settingGroup}, *data);
-        if (configured.settingGroup == m_activeGroup || (configured.settingGroup == 0 && best == 0)) {
+        if (configured.settingGroup == m_activeGroup ||
+            (configured.settingGroup == 0 && best == 0)) {
             best = configured.settingGroup;
             m_model.m_values[leaf] = std::move(*data);
         }
@@ -247,9 +244,9 @@ void Model::Builder::describeBlocks(const Part &root, const scl::LogicalNode &no
                                     std::string_view domain)
 {
     const auto reference = [&](std::string_view name) {
-        return name.empty() ? std::string()
-                            : std::string(domain) + "/" + std::string(node.name) + "$"
-                + std::string(name);
+        return name.empty()
+                   ? std::string()
+                   : std::string(domain) + "/" + std::string(node.name) + "$" + std::string(name);
     };
     for (const scl::GooseControl &goose : node.gooseControls) {
         const Part block = root.child("GO").child(goose.name);
@@ -275,8 +272,8 @@ void Model::Builder::describeBlocks(const Part &root, const scl::LogicalNode &no
 
 void Model::Builder::setText(const Part &part, std::string_view text)
 {
-    if (!part.isValid() || !part.isLeaf() || text.empty()
-        || !m_model.m_values[part.firstLeaf()].text().empty())
+    if (!part.isValid() || !part.isLeaf() || text.empty() ||
+        !m_model.m_values[part.firstLeaf()].text().empty())
         return;
     if (auto data = configuredData(part.node(), scl::Value(text)))
         m_model.m_values[part.firstLeaf()] = std::move(*data);

@@ -26,7 +26,8 @@ unsigned directionOf(const mms::Data &value)
 
 bool isWithin(double value, const ControlRange &range)
 {
-    return (!range.minimum || value >= *range.minimum) && (!range.maximum || value <= *range.maximum);
+    return (!range.minimum || value >= *range.minimum) &&
+           (!range.maximum || value <= *range.maximum);
 }
 
 const mms::Data *numberIn(const mms::Data &value)
@@ -132,10 +133,14 @@ ControlTarget targetOf(ControlKind kind, const mms::Data &value, const mms::Data
     case ControlKind::BinaryStep: {
         const std::int64_t now = position.toInteger().value_or(0);
         switch (directionOf(value)) {
-        case 0: return {AddCause::None, mms::Data::integer(now)};
-        case 1: return stepTo(now - 1, range);
-        case 2: return stepTo(now + 1, range);
-        default: return failed(AddCause::InconsistentParameters);
+        case 0:
+            return {AddCause::None, mms::Data::integer(now)};
+        case 1:
+            return stepTo(now - 1, range);
+        case 2:
+            return stepTo(now + 1, range);
+        default:
+            return failed(AddCause::InconsistentParameters);
         }
     }
     case ControlKind::IntegerStep:
@@ -147,9 +152,9 @@ ControlTarget targetOf(ControlKind kind, const mms::Data &value, const mms::Data
         const unsigned direction = directionOf(value);
         if (direction > 2)
             return failed(AddCause::InconsistentParameters);
-        const double target = direction == 1 ? now - range.step
-            : direction == 2                 ? now + range.step
-                                             : now;
+        const double target = direction == 1   ? now - range.step
+                              : direction == 2 ? now + range.step
+                                               : now;
         if (!isWithin(target, range))
             return failed(AddCause::StepLimit);
         return {AddCause::None, likewise(position, target)};
@@ -160,8 +165,8 @@ ControlTarget targetOf(ControlKind kind, const mms::Data &value, const mms::Data
 
 bool closes(ControlKind kind, const mms::Data &value)
 {
-    return (kind == ControlKind::DoublePoint || kind == ControlKind::SinglePoint)
-        && value.toBoolean().value_or(false);
+    return (kind == ControlKind::DoublePoint || kind == ControlKind::SinglePoint) &&
+           value.toBoolean().value_or(false);
 }
 
 AddCause forbids(const ControlConditions &conditions, const acsi::ControlRequest &request,
@@ -170,8 +175,8 @@ AddCause forbids(const ControlConditions &conditions, const acsi::ControlRequest
     if (!conditions.controlsMode) {
         const bool testing =
             conditions.behaviour == modeTest || conditions.behaviour == modeTestBlocked;
-        if (conditions.behaviour == modeOff || conditions.behaviour == modeBlocked
-            || request.test != testing)
+        if (conditions.behaviour == modeOff || conditions.behaviour == modeBlocked ||
+            request.test != testing)
             return AddCause::BlockedByMode;
         // Station and remote control, by hand or automatic, give way to somebody at the bay.
         const std::int32_t category = request.originator.category;

@@ -46,7 +46,8 @@ struct ControlTarget
     mms::Data position; ///< when the cause is None
 };
 
-/// @p position is that of the object now, in the form of its status: stVal, posVal or mxVal's number.
+/// @p position is that of the object now, in the form of its status: stVal, posVal or mxVal's
+/// number.
 ControlTarget targetOf(ControlKind kind, const mms::Data &value, const mms::Data &position,
                        const ControlRange &range);
 

@@ -17,9 +17,9 @@ constexpr mms::BinaryTime never{0, std::uint16_t(0)};
 
 bool has(const acsi::Triggers &options, Trigger fired)
 {
-    return (options.dataChange && any(fired & Trigger::DataChange))
-        || (options.qualityChange && any(fired & Trigger::QualityChange))
-        || (options.dataUpdate && any(fired & Trigger::DataUpdate));
+    return (options.dataChange && any(fired & Trigger::DataChange)) ||
+           (options.qualityChange && any(fired & Trigger::QualityChange)) ||
+           (options.dataUpdate && any(fired & Trigger::DataUpdate));
 }
 
 /// The reasons that a client asked for among those that fired.
@@ -29,8 +29,8 @@ acsi::Triggers reasonOf(const acsi::Triggers &options, Trigger fired)
     reason.dataChange = options.dataChange && any(fired & Trigger::DataChange);
     reason.qualityChange = options.qualityChange && any(fired & Trigger::QualityChange);
     // A value that changed was updated as well; the change says more.
-    reason.dataUpdate = options.dataUpdate && any(fired & Trigger::DataUpdate)
-        && !reason.dataChange && !reason.qualityChange;
+    reason.dataUpdate = options.dataUpdate && any(fired & Trigger::DataUpdate) &&
+                        !reason.dataChange && !reason.qualityChange;
     return reason;
 }
 
@@ -101,15 +101,16 @@ std::size_t headSize(const acsi::Report &report)
     constexpr std::size_t around = 32;
     constexpr std::size_t fixed = 48; // options, numbers, times, flags
     const bool named = report.optFlds.dataSetName;
-    return around + fixed + sizeOf(report.rptId.size()) + (named ? sizeOf(report.datSet.size()) : 0)
-        + sizeOf(report.entryId.size()) + sizeOf(1 + (report.dataSetSize + 7) / 8);
+    return around + fixed + sizeOf(report.rptId.size()) +
+           (named ? sizeOf(report.datSet.size()) : 0) + sizeOf(report.entryId.size()) +
+           sizeOf(1 + (report.dataSetSize + 7) / 8);
 }
 
 std::size_t memberSize(const acsi::Report &report, const acsi::ReportMember &member)
 {
     constexpr std::size_t reason = 4;
-    return reportedSize(member.value) + (report.optFlds.reasonForInclusion ? reason : 0)
-        + (report.optFlds.dataReference ? sizeOf(member.reference.size()) : 0);
+    return reportedSize(member.value) + (report.optFlds.reasonForInclusion ? reason : 0) +
+           (report.optFlds.dataReference ? sizeOf(member.reference.size()) : 0);
 }
 
 } // namespace
@@ -209,11 +210,13 @@ std::optional<mms::Data> ReportBlock::value(std::string_view attribute) const
         return Data::integer(m_resvTms);
     // Of the last entry that was sent, or while nobody is sent anything of the last one there is.
     if (attribute == "EntryID")
-        return Data::octetString(
-            octetsOf(m_enabled ? m_lastSentId : m_buffer.empty() ? 0 : endId() - 1));
+        return Data::octetString(octetsOf(m_enabled          ? m_lastSentId
+                                          : m_buffer.empty() ? 0
+                                                             : endId() - 1));
     if (attribute == "TimeofEntry")
-        return Data::binaryTime(m_enabled ? m_lastSentTime
-                                          : m_buffer.empty() ? never : m_buffer.back().time);
+        return Data::binaryTime(m_enabled          ? m_lastSentTime
+                                : m_buffer.empty() ? never
+                                                   : m_buffer.back().time);
     return std::nullopt;
 }
 
@@ -232,8 +235,8 @@ std::optional<DataAccessError> ReportBlock::mayConfigure(const Client &client) c
 std::optional<DataAccessError> ReportBlock::write(Client &client, std::string_view attribute,
                                                   const mms::Data &data)
 {
-    if (attribute == "ConfRev" || attribute == "SqNum" || attribute == "Owner"
-        || attribute == "TimeofEntry")
+    if (attribute == "ConfRev" || attribute == "SqNum" || attribute == "Owner" ||
+        attribute == "TimeofEntry")
         return DataAccessError::ObjectAccessDenied;
     if (attribute == "RptEna")
         return data.toBoolean().value_or(false) ? enable(client) : disable(client);
@@ -294,12 +297,11 @@ std::optional<DataAccessError> ReportBlock::enable(Client &client)
 {
     if (m_enabled)
         return m_client == &client
-            ? std::nullopt
-            : std::optional<DataAccessError>(DataAccessError::TemporarilyUnavailable);
+                   ? std::nullopt
+                   : std::optional<DataAccessError>(DataAccessError::TemporarilyUnavailable);
     if (const auto refused = mayConfigure(client))
         return refused;
-    if (!m_dataSet || m_dataSet->members.empty()
-        || (m_dataSetClient && m_dataSetClient != &client))
+    if (!m_dataSet || m_dataSet->members.empty() || (m_dataSetClient && m_dataSetClient != &client))
         return DataAccessError::ObjectAttributeInconsistent;
     if (!m_reserved) {
         m_reserved = true;
@@ -530,8 +532,7 @@ void ReportBlock::emitAll(acsi::Triggers reason)
     std::vector<Included> members;
     members.reserve(m_dataSet->members.size());
     for (std::size_t i = 0; i < m_dataSet->members.size(); ++i)
-        members.push_back(
-            {static_cast<std::uint32_t>(i), reason, m_host.value(*m_dataSet, i)});
+        members.push_back({static_cast<std::uint32_t>(i), reason, m_host.value(*m_dataSet, i)});
     issue(std::move(members));
 }
 
@@ -572,8 +573,8 @@ void ReportBlock::store(Entry entry)
 
 void ReportBlock::drain()
 {
-    while (m_config.buffered && m_enabled && !m_resumes && m_nextId < endId()
-           && m_host.isReady(*m_client)) {
+    while (m_config.buffered && m_enabled && !m_resumes && m_nextId < endId() &&
+           m_host.isReady(*m_client)) {
         const Entry &entry = m_buffer[static_cast<std::size_t>(m_nextId - m_firstId)];
         m_lastSentId = m_nextId++;
         m_lastSentTime = entry.time;

@@ -58,9 +58,10 @@ public:
     virtual void send(Client &client, acsi::Report report) = 0;
 };
 
-/// The state machine of a report control block (IEC 61850-7-2, 17.2). It is told of writes, changes,
-/// time and clients that leave, and says what is to be sent through its host. Nothing is sent inside
-/// write(): what a write brings about happens at deadline(), so that its answer goes first.
+/// The state machine of a report control block (IEC 61850-7-2, 17.2). It is told of writes,
+/// changes, time and clients that leave, and says what is to be sent through its host. Nothing is
+/// sent inside write(): what a write brings about happens at deadline(), so that its answer goes
+/// first.
 class ReportBlock
 {
 public:
@@ -122,7 +123,7 @@ private:
     };
     struct Waiting
     {
-        Trigger fresh = Trigger::None;   ///< told since the last settle()
+        Trigger fresh = Trigger::None; ///< told since the last settle()
         Trigger gathered = Trigger::None;
         mms::AccessResult value = mms::Data();
     };
@@ -189,7 +190,7 @@ private:
     std::deque<Entry> m_buffer;
     std::size_t m_bufferSize = 0;
     std::uint64_t m_firstId = 1;
-    std::uint64_t m_nextId = 1; ///< the entry to be sent next
+    std::uint64_t m_nextId = 1;   ///< the entry to be sent next
     std::uint64_t m_originId = 1; ///< of the first entry that there ever was
     std::uint64_t m_lastSentId = 0;
     mms::BinaryTime m_lastSentTime{0, std::uint16_t(0)};
@@ -202,8 +203,8 @@ private:
 /// Octets of a value in a report.
 std::size_t reportedSize(const mms::AccessResult &value);
 
-/// The parts of a report that fit PDUs of @p pduSize octets: the report itself when it fits. A member
-/// that fits no PDU is told as one that cannot be accessed.
+/// The parts of a report that fit PDUs of @p pduSize octets: the report itself when it fits. A
+/// member that fits no PDU is told as one that cannot be accessed.
 std::vector<acsi::Report> segments(acsi::Report report, std::size_t pduSize);
 
 } // namespace sim

@@ -67,8 +67,7 @@ public:
         // Attributes depend on each other, so that their order has to be the client's.
         if (part == m_part)
             return mms::DataAccessError::ObjectAccessDenied;
-        const auto refused =
-            m_engine.m_blocks[m_index].block->write(client, part.name(), value);
+        const auto refused = m_engine.m_blocks[m_index].block->write(client, part.name(), value);
         m_engine.written(m_index);
         return refused;
     }
@@ -105,8 +104,8 @@ void ReportEngine::add(const scl::LogicalDevice &device, const scl::LogicalNode 
                        const scl::ReportControl &control)
 {
     for (const std::string_view name : control.instanceNames) {
-        const std::string item = std::string(node.name) + (control.buffered ? "$BR$" : "$RP$")
-            + std::string(name);
+        const std::string item =
+            std::string(node.name) + (control.buffered ? "$BR$" : "$RP$") + std::string(name);
         const Part part = m_host.model.find(device.name, item);
         if (!part.isValid())
             continue;
@@ -115,8 +114,8 @@ void ReportEngine::add(const scl::LogicalDevice &device, const scl::LogicalNode 
         config.reference = std::string(device.name) + '/' + item;
         config.rptId = control.reportId;
         if (!control.dataSetName.empty())
-            config.datSet = std::string(device.name) + '/' + std::string(node.name) + '$'
-                + std::string(control.dataSetName);
+            config.datSet = std::string(device.name) + '/' + std::string(node.name) + '$' +
+                            std::string(control.dataSetName);
         config.confRev = control.confRev;
         config.optFlds = optFldsOf(control.fields);
         config.trgOps = triggersOf(control.triggers);
@@ -171,8 +170,7 @@ void ReportEngine::indexUses()
         const std::vector<DataSetMember> &members = block.dataSet()->members;
         for (std::size_t m = 0; m < members.size(); ++m) {
             const Part &part = members[m].part;
-            for (Leaf leaf = part.firstLeaf(); leaf < part.firstLeaf() + part.leafCount();
-                 ++leaf) {
+            for (Leaf leaf = part.firstLeaf(); leaf < part.firstLeaf() + part.leafCount(); ++leaf) {
                 if (!any(m_host.model.triggers(leaf)))
                     continue;
                 m_uses.push_back({static_cast<std::uint32_t>(i), static_cast<std::uint32_t>(m),

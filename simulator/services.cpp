@@ -61,8 +61,8 @@ std::size_t leastOctets(const mms::Data &data)
 void fixLengths(mms::TypeDescription &type)
 {
     using Kind = mms::TypeDescription::Kind;
-    const bool isText = type.kind == Kind::OctetString || type.kind == Kind::VisibleString
-        || type.kind == Kind::MmsString;
+    const bool isText = type.kind == Kind::OctetString || type.kind == Kind::VisibleString ||
+                        type.kind == Kind::MmsString;
     if (isText)
         type.size = std::abs(type.size);
     for (mms::TypeDescription::Component &component : type.components)
@@ -134,7 +134,8 @@ ServiceAnswer Services::operator()(const mms::GetNameListRequest &request)
     case ObjectClass::Domain:
         return request.scope == Scope::Vmd ? page(m_access.model().domainNames(), request)
                                            : ServiceAnswer(unsupported());
-    case ObjectClass::NamedVariable: return variableNames(request);
+    case ObjectClass::NamedVariable:
+        return variableNames(request);
     case ObjectClass::NamedVariableList: {
         const auto *names = m_dataSets.names(m_client, request.scope, request.domain);
         return names ? page(*names, request) : ServiceAnswer(nonExistent());
@@ -145,7 +146,8 @@ ServiceAnswer Services::operator()(const mms::GetNameListRequest &request)
         const auto *names = m_journals.names(request.domain);
         return names ? page(*names, request) : ServiceAnswer(nonExistent());
     }
-    default: return unsupported();
+    default:
+        return unsupported();
     }
 }
 
@@ -154,9 +156,8 @@ ServiceAnswer Services::operator()(const mms::GetVariableAccessAttributesRequest
     const auto *name = std::get_if<mms::ObjectName>(&request.variable);
     if (!name)
         return unsupported();
-    const Part part = name->scope == Scope::Domain
-        ? m_access.model().find(name->domain, name->item)
-        : Part();
+    const Part part =
+        name->scope == Scope::Domain ? m_access.model().find(name->domain, name->item) : Part();
     if (!part.isValid())
         return nonExistent();
     mms::TypeDescription type = part.type();
@@ -247,8 +248,8 @@ ServiceAnswer Services::operator()(const mms::DeleteNamedVariableListRequest &re
 
 ServiceAnswer Services::operator()(const mms::ReadJournalRequest &request)
 {
-    if (request.journal.scope != Scope::Domain
-        || !m_journals.contains(request.journal.domain, request.journal.item))
+    if (request.journal.scope != Scope::Domain ||
+        !m_journals.contains(request.journal.domain, request.journal.item))
         return nonExistent();
     return mms::ReadJournalResponse();
 }

@@ -3,8 +3,8 @@
 
 #include "references.h"
 
-#include "driver/model/valueconversion.h"
 #include "driver/core/valuewords.h"
+#include "driver/model/valueconversion.h"
 
 #include <devicemodel/physicaldevice.h>
 

@@ -3,8 +3,8 @@
 
 #include "simulateddevice.h"
 
-#include "driver/service/offlinedriverservice.h"
 #include "driver/model/sclimport.h"
+#include "driver/service/offlinedriverservice.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QStringList>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "valuewords.h"
 
-#include "standard/standardtypes.h"
 #include "driver/model/valueconversion.h"
+#include "standard/standardtypes.h"
 
 #include <devicemodel/physicaldevice.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "driver/core/controlstate.h"
 #include "deviceconnection.h"
+#include "driver/core/controlstate.h"
 
 #include "acsi/control.h"
 

@@ -46,8 +46,8 @@ struct DeviceConfiguration
     QString name;   ///< for the operator; the IED's name where it is known
     QString host;   ///< name or address; empty for a device known only from its SCL file
     int port = 102;
-    QString sclFile; ///< path, or empty
-    QString ied;     ///< IED of the file; may be empty when the file describes a single one
+    QString sclFile;     ///< path, or empty
+    QString ied;         ///< IED of the file; may be empty when the file describes a single one
     QString accessPoint; ///< of the IED in the file; empty for the one of the address
 
     AssociationAddress local;

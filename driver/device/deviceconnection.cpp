@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "deviceconnection.h"
 
-#include "driver/text/connectiontext.h"
+#include "driver/core/valuewords.h"
 #include "driver/model/discoveredmodel.h"
+#include "driver/text/connectiontext.h"
 #include "driver/text/sentences.h"
 #include "settinggroups.h"
-#include "driver/core/valuewords.h"
 
 #include <asio/bind_cancellation_slot.hpp>
 #include <asio/cancellation_signal.hpp>
@@ -255,7 +255,8 @@ void DeviceConnection::abort()
         if (self->m_readingCancelled)
             *self->m_readingCancelled = true;
         if (self->m_client)
-            self->m_client->abort(mms::verbatim(Texts::tr("Aborted by the operator.").toStdString()));
+            self->m_client->abort(
+                mms::verbatim(Texts::tr("Aborted by the operator.").toStdString()));
         self->wake();
     });
 }
@@ -264,7 +265,8 @@ void DeviceConnection::cutOff()
 {
     asio::post(m_strand, [self = shared_from_this()] {
         if (self->m_client)
-            self->m_client->abort(mms::verbatim(Texts::tr("Aborted by the operator.").toStdString()));
+            self->m_client->abort(
+                mms::verbatim(Texts::tr("Aborted by the operator.").toStdString()));
         self->wake();
     });
 }
@@ -647,10 +649,9 @@ asio::awaitable<void> DeviceConnection::watchOver(ClientPointer client)
                                             "behind them.")
                                 : QString());
         if (judgement == SignOfLife::Judgement::Silent) {
-            client->abort(
-                mms::verbatim(Texts::tr("The device has not answered for %1 seconds.")
-                                  .arg(seconds(m_configuration.callTimeout))
-                                  .toStdString()));
+            client->abort(mms::verbatim(Texts::tr("The device has not answered for %1 seconds.")
+                                            .arg(seconds(m_configuration.callTimeout))
+                                            .toStdString()));
         } else if (!failure) {
             const auto time =
                 std::chrono::duration_cast<std::chrono::microseconds>(steady_clock::now() - now);

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "driver/core/associationlife.h"
 #include "deviceconfiguration.h"
+#include "driver/core/associationlife.h"
 #include "driver/core/deviceidentity.h"
 #include "driver/core/devicestatus.h"
-#include "livevalues.h"
-#include "driver/model/onlinemodel.h"
-#include "pducapture.h"
 #include "driver/core/reportcoverage.h"
 #include "driver/core/reportevent.h"
 #include "driver/core/valuecurrency.h"
+#include "driver/model/onlinemodel.h"
+#include "livevalues.h"
+#include "pducapture.h"
 
 #include "acsi/client.h"
 #include "acsi/discovery.h"
@@ -310,7 +310,7 @@ private:
     // In the strand:
     std::shared_ptr<acsi::Client> m_client;
     std::unique_ptr<OnlineModel> m_model;
-    QHash<QString, QString> m_revisions;  ///< configuration revisions by logical device
+    QHash<QString, QString> m_revisions; ///< configuration revisions by logical device
     std::unique_ptr<PhysicalDevice> m_fromFile;
     bool m_fileRead = false;
     QStringList m_fileFor; ///< the logical devices that the file was chosen for
@@ -332,7 +332,7 @@ private:
     bool m_isIdentifying = false;
     bool m_answersIdentify = true; ///< it has not failed to, in whichever association
     std::set<std::shared_ptr<Pending>> m_operations; ///< under way
-    std::set<asio::steady_timer *> m_pauses; ///< of the coroutines in pause()
+    std::set<asio::steady_timer *> m_pauses;         ///< of the coroutines in pause()
     bool m_living = false;
     bool m_modelReady = false; ///< the model belongs to the present association
     QString m_endReason;       ///< why the last association ended

@@ -3,10 +3,10 @@
 // device whose model is known, and what it describes.
 #include "deviceconnection.h"
 
-#include "driver/text/connectiontext.h"
 #include "driver/model/discoveredmodel.h"
 #include "driver/model/filechoice.h"
 #include "driver/model/sclimport.h"
+#include "driver/text/connectiontext.h"
 #include "driver/text/sentences.h"
 
 #include "acsi/reportblock.h"

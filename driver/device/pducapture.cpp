@@ -3,8 +3,8 @@
 
 #include "driver/text/sentences.h"
 
-#include "osi/pcapng.h"
 #include "mms/pdu.h"
+#include "osi/pcapng.h"
 
 #include <QtCore/QIODevice>
 

@@ -590,13 +590,13 @@ asio::awaitable<void> ReportSubscriptions::resume(SubscriptionPointer subscripti
     if (!isCurrent(subscription) || subscription->isUnwanted)
         co_return;
     if (!outcome) {
-        const bool isNamed = outcome.error.contains(
-            text(acsi::blockText(subscription->block)));
+        const bool isNamed = outcome.error.contains(text(acsi::blockText(subscription->block)));
         m_connection.setProblem(
             text(reference),
-            isNamed ? Texts::tr("A report control block could not be %1: %2").arg(why, outcome.error)
-                    : Texts::tr("The report control block %1 could not be %2: %3")
-                          .arg(text(reference), why, outcome.error));
+            isNamed
+                ? Texts::tr("A report control block could not be %1: %2").arg(why, outcome.error)
+                : Texts::tr("The report control block %1 could not be %2: %3")
+                      .arg(text(reference), why, outcome.error));
     } else {
         tell(*subscription);
     }

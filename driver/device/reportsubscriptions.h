@@ -2,10 +2,10 @@
 #pragma once
 
 #include "deviceconnection.h"
-#include "lastentries.h"
 #include "driver/core/reportstream.h"
-#include "reporttexts.h"
 #include "driver/core/subscriptionlife.h"
+#include "lastentries.h"
+#include "reporttexts.h"
 
 #include "acsi/reportblock.h"
 

@@ -2,9 +2,9 @@
 // ReportSubscriptions: what reports bring, what they lose, and how that is made good.
 #include "reportsubscriptions.h"
 
+#include "driver/model/valueconversion.h"
 #include "driver/text/connectiontext.h"
 #include "driver/text/sentences.h"
-#include "driver/model/valueconversion.h"
 
 #include "acsi/dataset.h"
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "settingvalues.h"
 
-#include "driver/text/connectiontext.h"
-#include "journalentry.h"
-#include "driver/text/sentences.h"
-#include "settinggroups.h"
 #include "driver/model/valueconversion.h"
+#include "driver/text/connectiontext.h"
+#include "driver/text/sentences.h"
+#include "journalentry.h"
+#include "settinggroups.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QHash>

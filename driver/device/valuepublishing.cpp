@@ -3,9 +3,9 @@
 // leaves of the model, what is new of them, reading for an operator.
 #include "deviceconnection.h"
 
+#include "driver/model/valueconversion.h"
 #include "driver/text/connectiontext.h"
 #include "driver/text/sentences.h"
-#include "driver/model/valueconversion.h"
 
 #include <asio/co_spawn.hpp>
 

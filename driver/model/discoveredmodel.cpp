@@ -196,7 +196,8 @@ public:
     void replaceDataSets(PhysicalDevice &device, const acsi::ServerDescription &description)
     {
         QHash<QString, const LogicalNode *> fileNodes;
-        for (const LogicalDevice *each : m_file ? m_file->logicalDevices : QList<LogicalDevice *>()) {
+        for (const LogicalDevice *each :
+             m_file ? m_file->logicalDevices : QList<LogicalDevice *>()) {
             for (const LogicalNode *node : each->logicalNodes)
                 fileNodes.insert(each->name + QLatin1Char('/') + node->name, node);
         }
@@ -359,7 +360,8 @@ private:
             }
             order.add(names);
         }
-        const QSet<QString> moved = file.isGiven() ? movedMembers(parts, file, path) : QSet<QString>();
+        const QSet<QString> moved =
+            file.isGiven() ? movedMembers(parts, file, path) : QSet<QString>();
         const QStringList names = file.order(order.names());
         for (const QString &name : names) {
             const DAO *fileNode = file.find(name);
@@ -666,8 +668,7 @@ QString DiscoveredModel::dataSetName(const QString &text)
 }
 
 void DiscoveredModel::setSettings(ReportControlBlock &block, const QString &logicalDevice,
-                                  const acsi::ReportBlock &read,
-                                  const ReportControlBlock *fromFile)
+                                  const acsi::ReportBlock &read, const ReportControlBlock *fromFile)
 {
     block.enabled = read.rptEna;
     block.rptId = text(read.rptId);
@@ -690,7 +691,8 @@ void DiscoveredModel::setSettings(ReportControlBlock &block, const QString &logi
     block.optConfRevision = read.optFlds.confRevision;
     if (!fromFile)
         return;
-    block.state = isAsConfigured(block, logicalDevice, read.datSet, *fromFile) ? agreeing : differing;
+    block.state =
+        isAsConfigured(block, logicalDevice, read.datSet, *fromFile) ? agreeing : differing;
 }
 
 void DiscoveredModel::setRevision(PhysicalDevice &device, const QString &logicalDevice,

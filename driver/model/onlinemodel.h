@@ -104,6 +104,6 @@ private:
     /// element's in arrays.
     std::vector<std::pair<const mms::TypeDescription *, std::uint32_t>> m_firstLeaves;
     std::vector<DataAttribute *> m_attributes;  ///< by number of the leaf; null for one not shown
-    std::vector<std::uint32_t> m_qualities; ///< by number of the leaf; 0 until there was one
+    std::vector<std::uint32_t> m_qualities;     ///< by number of the leaf; 0 until there was one
     QHash<QString, LogicalNode *> m_shownNodes; ///< by "LD/LN"
 };

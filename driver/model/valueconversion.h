@@ -2,8 +2,8 @@
 #pragma once
 
 #include "mms/data.h"
-#include "wording/result.h"
 #include "mms/typedescription.h"
+#include "wording/result.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QString>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "driver/core/controlorder.h"
 #include "driver/device/controlpart.h"
-#include "driverruntime.h"
 #include "driver/device/journalentry.h"
-#include "driver/text/sentences.h"
 #include "driver/model/valueconversion.h"
+#include "driver/text/sentences.h"
+#include "driverruntime.h"
 
 #include <remoteclient/controllercaller.h>
 

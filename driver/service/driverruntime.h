@@ -2,8 +2,8 @@
 #pragma once
 
 #include "driver/device/deviceconnection.h"
-#include "ieddriver.h"
 #include "driver/device/livevalues.h"
+#include "ieddriver.h"
 #include "offlinedriverservice.h"
 #include "reportevents.h"
 
@@ -83,7 +83,7 @@ private:
     std::atomic<bool> m_readOnly{false};
     mutable std::mutex m_mutex;
     std::map<long, std::shared_ptr<DeviceConnection>> m_connections;
-    std::set<long> m_offlineNumbers; ///< devices without an address
+    std::set<long> m_offlineNumbers;     ///< devices without an address
     std::map<QString, Holder> m_claimed; ///< by logical device
     /// What callers were given the model of, by device and caller.
     std::map<std::pair<long, quint64>, DeviceIdentity> m_bound;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "driverruntime.h"
 #include "driver/core/filenames.h"
 #include "driver/device/journalentry.h"
-#include "driver/text/sentences.h"
 #include "driver/device/transferpace.h"
+#include "driver/text/sentences.h"
+#include "driverruntime.h"
 
 #include "acsi/files.h"
 

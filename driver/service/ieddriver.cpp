@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ieddriver.h"
 
+#include "driver/model/valueconversion.h"
 #include "driver/text/csvfield.h"
 #include "driverruntime.h"
-#include "driver/model/valueconversion.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QIODevice>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "driver/device/deviceconfiguration.h"
 #include "driver/core/devicestatus.h"
-#include "driver/device/pducapture.h"
 #include "driver/core/reportevent.h"
+#include "driver/device/deviceconfiguration.h"
+#include "driver/device/pducapture.h"
 
 #include "osi/hostlookup.h"
 
@@ -34,7 +34,8 @@ struct IedDriverOptions
     std::function<void(const DeviceChange &)> changed;
     /// Takes every report as it came, none left out, those of one device in their order; in a
     /// thread of the driver, one at a time. Must not call the driver. A host that does not keep up
-    /// loses the oldest that wait; the next event says so, and DeviceCounters::droppedEvents counts.
+    /// loses the oldest that wait; the next event says so, and DeviceCounters::droppedEvents
+    /// counts.
     std::function<void(const ReportEvent &)> reportReceived;
     /// Looks up names of hosts; the system unless given. Called in any thread, several at a time.
     mms::HostLookup::Function lookUp;

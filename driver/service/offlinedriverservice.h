@@ -28,8 +28,8 @@ public:
     /// Answer for the device no longer.
     void removeDevice(long deviceNo);
 
-    /// The bytes of an IED's model, marked as offline: what holdModel() takes. The references of its
-    /// attributes begin with offlineMark(), so that values of a connected device with the same
+    /// The bytes of an IED's model, marked as offline: what holdModel() takes. The references of
+    /// its attributes begin with offlineMark(), so that values of a connected device with the same
     /// logical devices are none of this one. Any thread.
     static QByteArray offlineModel(PhysicalDevice &device);
     /// No logical device has a name that begins so.

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "driverruntime.h"
 
-#include "driver/model/discoveredmodel.h"
 #include "driver/device/journalentry.h"
 #include "driver/device/reportsubscriptions.h"
+#include "driver/model/discoveredmodel.h"
 #include "driver/text/sentences.h"
 
 #include <QtCore/QCoreApplication>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "driver/text/connectiontext.h"
-#include "driverruntime.h"
 #include "driver/device/journalentry.h"
-#include "driver/text/sentences.h"
 #include "driver/device/settinggroups.h"
 #include "driver/device/settingvalues.h"
+#include "driver/text/connectiontext.h"
+#include "driver/text/sentences.h"
+#include "driverruntime.h"
 
 #include "acsi/settinggroup.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "driverruntime.h"
-#include "driver/text/sentences.h"
 #include "driver/model/valueconversion.h"
+#include "driver/text/sentences.h"
+#include "driverruntime.h"
 
 #include "acsi/dataset.h"
 

@@ -14,13 +14,13 @@
 #include "model/iedmodel.h"
 #include "model/iedmodeldelegate.h"
 #include "model/streportcontrolblock.h"
-#include "toolkit/busycursor.h"
-#include "toolkit/failurereport.h"
-#include "toolkit/modallife.h"
 #include "report/reportcontrol.h"
 #include "settinggroup/offlinesgcb.h"
 #include "settinggroup/selectfcdialog.h"
 #include "settinggroup/sgcbdialog.h"
+#include "toolkit/busycursor.h"
+#include "toolkit/failurereport.h"
+#include "toolkit/modallife.h"
 
 #include <host/hosttaskcontext.h>
 #include <remoteclient/driverconsolinterface.h>

@@ -58,7 +58,7 @@ private:
     void closeLater(QComboBox *box);
 
     const SclTemplateStore *m_templates;
-    QPointer<QLineEdit> m_refusedLine; ///< between the press and the release of a click
+    QPointer<QLineEdit> m_refusedLine;   ///< between the press and the release of a click
     QPersistentModelIndex m_pendingCell; ///< likewise, whose text a click elsewhere confirms
     QString m_pendingText;
     QString m_refusal;

@@ -3,8 +3,8 @@
 
 #include "browser/iedmodelview.h"
 #include "fileservice/fileservicedialog.h"
-#include "toolkit/modallife.h"
 #include "report/reportcontrol.h"
+#include "toolkit/modallife.h"
 
 #include <devicemodel/mmsvalue.h>
 #include <host/hosttaskcontext.h>

@@ -40,8 +40,8 @@ CallGroup::next(std::optional<std::chrono::milliseconds> patience)
                                    : asio::steady_timer::time_point::max();
     while (state->arrived.empty()) {
         const auto cancellation = co_await asio::this_coro::cancellation_state;
-        if (m_calls.empty() || cancellation.cancelled() != asio::cancellation_type::none
-            || asio::steady_timer::clock_type::now() >= deadline)
+        if (m_calls.empty() || cancellation.cancelled() != asio::cancellation_type::none ||
+            asio::steady_timer::clock_type::now() >= deadline)
             co_return std::nullopt;
         state->wake.expires_at(deadline);
         co_await state->wake.async_wait(asio::experimental::as_tuple(asio::use_awaitable));

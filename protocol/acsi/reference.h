@@ -2,8 +2,8 @@
 #pragma once
 
 #include "acsi/functionalconstraint.h"
-#include "wording/result.h"
 #include "mms/variableaccess.h"
+#include "wording/result.h"
 
 #include <cstdint>
 #include <optional>

@@ -2,8 +2,8 @@
 // Shared by the sources that transfer files; not for the folder's users.
 #pragma once
 
-#include "wording/result.h"
 #include "mms/serviceerror.h"
+#include "wording/result.h"
 
 #include <cstdint>
 #include <optional>

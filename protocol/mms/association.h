@@ -2,8 +2,8 @@
 #pragma once
 
 #include "mms/calls.h"
-#include "osi/link.h"
 #include "mms/pdu.h"
+#include "osi/link.h"
 
 #include <atomic>
 #include <chrono>

@@ -12,8 +12,7 @@ constexpr std::uint32_t largestInvokeId = 0x7fffffff;
 
 } // namespace
 
-CallTable::CallTable(std::size_t limit, std::chrono::milliseconds grace,
-                     std::uint32_t lastInvokeId)
+CallTable::CallTable(std::size_t limit, std::chrono::milliseconds grace, std::uint32_t lastInvokeId)
     : m_limit(limit)
     , m_grace(grace)
     , m_lastInvokeId(lastInvokeId)

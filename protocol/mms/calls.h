@@ -43,9 +43,11 @@ public:
     /// A new call, behind those that wait. One that @p leavesPlace has none any more once it is
     /// given up.
     Ticket add(Clock::time_point deadline, bool leavesPlace = false);
-    /// The next call to be sent, with a new invoke id; none when none waits or the limit is reached.
+    /// The next call to be sent, with a new invoke id; none when none waits or the limit is
+    /// reached.
     std::optional<Sent> next();
-    /// An answer came: the call it belongs to, which is over now; none for a late or unknown answer.
+    /// An answer came: the call it belongs to, which is over now; none for a late or unknown
+    /// answer.
     std::optional<Ticket> answered(std::uint32_t invokeId);
     /// The invoke id of a call that is on the way.
     std::optional<std::uint32_t> invokeIdOf(Ticket ticket) const;

@@ -2,10 +2,10 @@
 // Shared by the sources that read and write PDUs; not for the folder's users.
 #pragma once
 
-#include "osi/ber.h"
 #include "mms/objectname.h"
 #include "mms/serviceerror.h"
 #include "mms/variableaccess.h"
+#include "osi/ber.h"
 
 #include <string>
 #include <string_view>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "osi/ber.h"
 #include "mms/times.h"
+#include "osi/ber.h"
 
 #include <cstdint>
 #include <optional>

@@ -45,8 +45,8 @@ public:
 
     asio::awaitable<Read> readSome(asio::mutable_buffer buffer);
     asio::awaitable<asio::error_code> write(asio::const_buffer buffer);
-    /// Hand the network what it takes without waiting: the number of octets, 0 also with TLS and when
-    /// it fails, which write() tells. Not while a write is under way.
+    /// Hand the network what it takes without waiting: the number of octets, 0 also with TLS and
+    /// when it fails, which write() tells. Not while a write is under way.
     std::size_t writeAtOnce(asio::const_buffer buffer);
     /// Tell the peer that nothing follows, and wait until it does the same.
     asio::awaitable<void> shutdown();

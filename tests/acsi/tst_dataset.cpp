@@ -46,8 +46,7 @@ using AcsiDataSet = acsitest::DeviceTest;
 std::vector<mms::VariableAccess> members()
 {
     return {{ObjectName::inDomain("LD0", "GGIO1$ST$Ind1"), {}},
-            {ObjectName::inDomain("LD0", "MHAI1$MX$har"),
-             {mms::AlternateAccess::ofElement(3)}}};
+            {ObjectName::inDomain("LD0", "MHAI1$MX$har"), {mms::AlternateAccess::ofElement(3)}}};
 }
 
 TEST_F(AcsiDataSet, IsMadeListedAndDeleted)

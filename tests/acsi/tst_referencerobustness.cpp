@@ -27,7 +27,7 @@ void run(const std::string &text)
 
 TEST(ReferenceRobustness, TextMadeOfTheNotationsPiecesIsReadAndPrintedAlike)
 {
-    constexpr std::string_view pieces[] = {"LD0", "LLN0", "$", "/", ".", "(", ")",
+    constexpr std::string_view pieces[] = {"LD0", "LLN0", "$", "/", ".",   "(",         ")",
                                            "MX",  "ST",   "a", "7", "(3)", "4294967295"};
     Generator generator(61850);
     for (int i = 0; i < 200000; ++i) {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "acsi/report.h"
 
-#include "osi/bytes.h"
 #include "mms/pdu.h"
+#include "osi/bytes.h"
 
 #include <gtest/gtest.h>
 

@@ -5,8 +5,8 @@
 
 namespace drivertest {
 
-/// An IED "IED" with logical devices "A" and "B", with a bit of everything that a device is compared
-/// in with its file.
+/// An IED "IED" with logical devices "A" and "B", with a bit of everything that a device is
+/// compared in with its file.
 inline const QByteArray comparedIed =
     R"(<SCL xmlns="http://www.iec.ch/61850/2003/SCL" version="2007" revision="B">
 <Header id="compared"/><IED name="IED" manufacturer="Maker" type="Relay"><AccessPoint name="S1"><Server>

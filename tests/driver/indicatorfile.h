@@ -8,8 +8,8 @@
 namespace drivertest {
 
 /// An IED of nothing but indications: GGIO1 to GGIOn with Ind1 to Indm each in the logical device
-/// "<name>LD", a data set "Set<i>" for each node, and blocks for each set: unbuffered "urcb<i>" and,
-/// unless it is to have none, buffered "brcb<i>".
+/// "<name>LD", a data set "Set<i>" for each node, and blocks for each set: unbuffered "urcb<i>"
+/// and, unless it is to have none, buffered "brcb<i>".
 class IndicatorFile
 {
 public:

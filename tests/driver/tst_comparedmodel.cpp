@@ -457,12 +457,12 @@ void tst_ComparedModel::aDeviceThatChangedUnderItsRevisionIsReadAnew()
 
 void tst_ComparedModel::anotherOrderOfComponentsIsMarked()
 {
-    const QByteArray device =
-        changed(comparedIed,
-                "<DA name=\"mag\" bType=\"Struct\" type=\"Analogue_1\" fc=\"MX\" dchg=\"true\"/><DA "
-                "name=\"q\" bType=\"Quality\" fc=\"MX\" qchg=\"true\"/>",
-                "<DA name=\"q\" bType=\"Quality\" fc=\"MX\" qchg=\"true\"/><DA name=\"mag\" "
-                "bType=\"Struct\" type=\"Analogue_1\" fc=\"MX\" dchg=\"true\"/>");
+    const QByteArray device = changed(
+        comparedIed,
+        "<DA name=\"mag\" bType=\"Struct\" type=\"Analogue_1\" fc=\"MX\" dchg=\"true\"/><DA "
+        "name=\"q\" bType=\"Quality\" fc=\"MX\" qchg=\"true\"/>",
+        "<DA name=\"q\" bType=\"Quality\" fc=\"MX\" qchg=\"true\"/><DA name=\"mag\" "
+        "bType=\"Struct\" type=\"Analogue_1\" fc=\"MX\" dchg=\"true\"/>");
     const Comparison compared(device, comparedIed);
     const DataObject *value = objectOf(compared.indications(), "AnIn1");
     const QVector<quint32> states = {value->getDAOByName("mag")->state,

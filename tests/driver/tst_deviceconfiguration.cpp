@@ -55,42 +55,61 @@ void tst_DeviceConfiguration::eachFaultIsOneSentence_data()
     };
     using Configuration = DeviceConfiguration;
     using std::chrono::milliseconds;
-    row("number", [](Configuration &c) { c.number = 0; },
+    row(
+        "number", [](Configuration &c) { c.number = 0; },
         "The device's number must be from 1 to 1073741823.");
-    row("name", [](Configuration &c) { c.name = "  "; }, "The device needs a name.");
-    row("neither address nor file", [](Configuration &c) { c.host.clear(); },
+    row(
+        "name", [](Configuration &c) { c.name = "  "; }, "The device needs a name.");
+    row(
+        "neither address nor file", [](Configuration &c) { c.host.clear(); },
         "The device needs an address or an SCL file.");
-    row("host with blank", [](Configuration &c) { c.host = "a b"; },
+    row(
+        "host with blank", [](Configuration &c) { c.host = "a b"; },
         "\"a b\" is no address or host name.");
-    row("port", [](Configuration &c) { c.port = 65536; }, "The port must be from 1 to 65535.");
-    row("file", [](Configuration &c) { c.sclFile = "/no/such.icd"; },
+    row(
+        "port", [](Configuration &c) { c.port = 65536; }, "The port must be from 1 to 65535.");
+    row(
+        "file", [](Configuration &c) { c.sclFile = "/no/such.icd"; },
         "The SCL file \"/no/such.icd\" does not exist.");
-    row("transport selector",
+    row(
+        "transport selector",
         [](Configuration &c) { c.remote.transportSelector = QByteArray(33, 'x'); },
         "The transport selector of the device has 33 octets; at most 32 are possible.");
-    row("session selector", [](Configuration &c) { c.local.sessionSelector = QByteArray(17, 'x'); },
+    row(
+        "session selector", [](Configuration &c) { c.local.sessionSelector = QByteArray(17, 'x'); },
         "The session selector of the client has 17 octets; at most 16 are possible.");
-    row("AP title", [](Configuration &c) { c.remote.apTitle = "1.x"; },
+    row(
+        "AP title", [](Configuration &c) { c.remote.apTitle = "1.x"; },
         "The AP title \"1.x\" of the device is no object identifier such as 1.1.1.999.1.");
-    row("AP title beyond its arc", [](Configuration &c) { c.remote.apTitle = "1.40.3"; },
+    row(
+        "AP title beyond its arc", [](Configuration &c) { c.remote.apTitle = "1.40.3"; },
         "The AP title \"1.40.3\" of the device is no object identifier such as 1.1.1.999.1.");
-    row("AE qualifier", [](Configuration &c) { c.local.aeQualifier = Q_INT64_C(1) << 40; },
+    row(
+        "AE qualifier", [](Configuration &c) { c.local.aeQualifier = Q_INT64_C(1) << 40; },
         "The AE qualifier of the client does not fit 32 bits.");
-    row("connect time-out", [](Configuration &c) { c.connectTimeout = milliseconds(1); },
+    row(
+        "connect time-out", [](Configuration &c) { c.connectTimeout = milliseconds(1); },
         "The time-out for connecting must be from 100 to 600000 milliseconds.");
-    row("operation time-out", [](Configuration &c) { c.operationTimeout = milliseconds(1000); },
+    row(
+        "operation time-out", [](Configuration &c) { c.operationTimeout = milliseconds(1000); },
         "The time-out for operations must not be shorter than the one for requests.");
-    row("calls", [](Configuration &c) { c.outstandingCalls = 0; },
+    row(
+        "calls", [](Configuration &c) { c.outstandingCalls = 0; },
         "From 1 to 100 outstanding calls are possible.");
-    row("PDU size that crashes devices", [](Configuration &c) { c.maxPduSize = 60; },
+    row(
+        "PDU size that crashes devices", [](Configuration &c) { c.maxPduSize = 60; },
         "The PDU size must be from 1000 to 1048576 octets.");
-    row("polling", [](Configuration &c) { c.pollInterval = milliseconds(5); },
+    row(
+        "polling", [](Configuration &c) { c.pollInterval = milliseconds(5); },
         "The polling interval must be 0 for none, or from 100 to 86400000 milliseconds.");
-    row("file reads", [](Configuration &c) { c.outstandingFileReads = 17; },
+    row(
+        "file reads", [](Configuration &c) { c.outstandingFileReads = 17; },
         "From 1 to 16 outstanding file reads are possible.");
-    row("category", [](Configuration &c) { c.originatorCategory = 9; },
+    row(
+        "category", [](Configuration &c) { c.originatorCategory = 9; },
         "The originator category must be from 0 to 8.");
-    row("long originator",
+    row(
+        "long originator",
         [](Configuration &c) { c.originatorIdentification = QByteArray(65, 'x'); },
         "The originator identification has 65 octets; at most 64 are possible.");
 }

@@ -374,7 +374,8 @@ void tst_DriverControl::anEmptyOperateRepeatsTheSelection()
     QCOMPARE(member(sent, CtlVal), mms::Data::boolean(true));
     QCOMPARE(m_ied->value(bay, "QA1CSWI1$ST$Pos$stVal"), position("10"));
     QVERIFY(m_listener->waitForChanges(2));
-    QCOMPARE(m_listener->changes().at(1).newValue, QString("1, category 2, interlock check, synchrocheck"));
+    QCOMPARE(m_listener->changes().at(1).newValue,
+             QString("1, category 2, interlock check, synchrocheck"));
 }
 
 void tst_DriverControl::anEmptyOperateWithoutSelectionIsRefusedBeforeAnythingIsSent()

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "driver/indicatorfile.h"
-#include "support/memoryuse.h"
 #include "driver/simulatedstation.h"
 #include "driver/switchedfaults.h"
+#include "support/memoryuse.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QTemporaryDir>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // Every IED of a folder of real devices is simulated, discovered through the driver, and compared
 // with what the import makes of its file.
-#include "driver/simulatedstation.h"
 #include "driver/model/valueconversion.h"
+#include "driver/simulatedstation.h"
 
 #include "acsi/functionalconstraint.h"
 

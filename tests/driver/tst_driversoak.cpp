@@ -2,8 +2,8 @@
 // Twenty devices that change 2,000 values a second in all, for as many seconds as SOAK_SECONDS says
 // (by default ten minutes; less where it runs among the other tests).
 #include "driver/indicatorfile.h"
-#include "support/memoryuse.h"
 #include "driver/simulatedstation.h"
+#include "support/memoryuse.h"
 
 #include <asio/io_context.hpp>
 #include <asio/steady_timer.hpp>

@@ -383,7 +383,8 @@ void tst_IedDriver::theModelThatIsBeingReadIsNotWaitedFor()
     QString error;
     QCOMPARE(driver.getIEDModel(1, bytes, error), OperationNotConnected);
     QVERIFY(timer.elapsed() < 2000);
-    const QRegularExpression form("^The model of Device 1 \\(IED1\\) is being read: \\d+ of \\d+\\.$");
+    const QRegularExpression form(
+        "^The model of Device 1 \\(IED1\\) is being read: \\d+ of \\d+\\.$");
     QVERIFY2(form.match(error).hasMatch(), qPrintable(error));
     driver.cancelReading(1);
 }

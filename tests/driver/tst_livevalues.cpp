@@ -35,11 +35,12 @@ public:
 
     std::shared_ptr<LiveValues> withCollector()
     {
-        return LiveValues::create(m_context.get_executor(), [this](const QList<QByteArray> &records) {
-            const std::lock_guard<std::mutex> lock(m_mutex);
-            m_events.append(records);
-            m_arrived.release(records.size());
-        });
+        return LiveValues::create(m_context.get_executor(),
+                                  [this](const QList<QByteArray> &records) {
+                                      const std::lock_guard<std::mutex> lock(m_mutex);
+                                      m_events.append(records);
+                                      m_arrived.release(records.size());
+                                  });
     }
 
     std::shared_ptr<LiveValues> withMiddleware()

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "driver/service/offlinedriverservice.h"
 #include "driver/model/sclimport.h"
+#include "driver/service/offlinedriverservice.h"
 
 #include <devicemodel/physicaldevice.h>
 

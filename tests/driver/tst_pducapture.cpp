@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "driver/device/pducapture.h"
 
-#include "osi/pcapng.h"
 #include "mms/pdu.h"
+#include "osi/pcapng.h"
 
 #include <QtCore/QBuffer>
 #include <QtTest/QtTest>

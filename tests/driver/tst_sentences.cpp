@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "driver/device/deviceconfiguration.h"
-#include "driver/service/ieddriver.h"
 #include "driver/model/sclimport.h"
+#include "driver/service/ieddriver.h"
 #include "driver/text/sentences.h"
 
 #include "acsi/control.h"
@@ -9,9 +9,9 @@
 #include "acsi/reference.h"
 #include "acsi/report.h"
 #include "acsi/uploadsteps.h"
+#include "mms/pdu.h"
 #include "osi/acse.h"
 #include "osi/cotp.h"
-#include "mms/pdu.h"
 #include "osi/presentation.h"
 #include "osi/session.h"
 #include "osi/tls.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "driver/core/subscriptionlife.h"
 #include "driver/device/lastentries.h"
 #include "driver/service/reportevents.h"
-#include "driver/core/subscriptionlife.h"
 
 #include <asio/io_context.hpp>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 // A device that goes and comes back again and again under the open browser of an operator.
 #include "driver/indicatorfile.h"
-#include "support/memoryuse.h"
 #include "driver/simulatedstation.h"
 #include "interop/operatordesk.h"
+#include "support/memoryuse.h"
 
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "osi/bytes.h"
 #include "mms/loopback.h"
+#include "osi/bytes.h"
 
 #include <gtest/gtest.h>
 

@@ -67,11 +67,11 @@ public:
 
     std::uint16_t port() const { return m_acceptor.local_endpoint().port(); }
     void accept() { m_acceptor.accept(m_socket); }
-    void connect(std::uint16_t port)
+    void connect(std::uint16_t port) { m_socket.connect({asio::ip::address_v4::loopback(), port}); }
+    void send(mms::Bytes octets)
     {
-        m_socket.connect({asio::ip::address_v4::loopback(), port});
+        asio::write(m_socket, asio::buffer(octets.data(), octets.size()));
     }
-    void send(mms::Bytes octets) { asio::write(m_socket, asio::buffer(octets.data(), octets.size())); }
     void close() { m_socket.close(); }
 
     /// Sends unless the other end has closed the connection.

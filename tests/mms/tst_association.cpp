@@ -329,8 +329,8 @@ TEST_F(AssociationTest, WhatTheNetworkDoesNotTakeAtOnceFollowsWhole)
         }
     }
     EXPECT_EQ(std::get<WriteRequest>(std::get<ConfirmedRequestPdu>(arrived[0]).request), request);
-    EXPECT_TRUE(std::holds_alternative<IdentifyRequest>(
-        std::get<ConfirmedRequestPdu>(arrived[1]).request));
+    EXPECT_TRUE(
+        std::holds_alternative<IdentifyRequest>(std::get<ConfirmedRequestPdu>(arrived[1]).request));
 }
 
 TEST_F(AssociationTest, GarbageInsteadOfAnAssociationIsCutOff)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // What tshark makes of captures of every PDU. Skipped where it is not installed.
-#include "osi/pcapng.h"
 #include "mms/samples.h"
+#include "osi/pcapng.h"
 
 #include <gtest/gtest.h>
 
@@ -43,15 +43,13 @@ protected:
     {
         if (outputOf("tshark --version 2>/dev/null").empty())
             GTEST_SKIP() << "tshark is not installed, so no other program can look at the PDUs.";
-        std::string folder =
-            (std::filesystem::temp_directory_path() / "dissector-XXXXXX").string();
+        std::string folder = (std::filesystem::temp_directory_path() / "dissector-XXXXXX").string();
         ASSERT_NE(mkdtemp(folder.data()), nullptr);
         const std::string capture = folder + "/capture.pcapng";
         Octets octets = pcapng::fileHeader();
         for (const Sample &sample : samples()) {
-            const Octets packet =
-                pcapng::packet(Direction::Sent, std::chrono::system_clock::time_point(),
-                               encode(sample.pdu));
+            const Octets packet = pcapng::packet(
+                Direction::Sent, std::chrono::system_clock::time_point(), encode(sample.pdu));
             octets.insert(octets.end(), packet.begin(), packet.end());
         }
         std::ofstream(capture, std::ios::binary)

@@ -4,8 +4,8 @@
 #include "indicatorfile.h"
 
 #include "acsi/report.h"
-#include "osi/interference.h"
 #include "mms/pdu.h"
+#include "osi/interference.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QTemporaryDir>

@@ -89,8 +89,9 @@ struct TestCertificates::Private
         Identity identity{name, pathOf(base + ".pem"), pathOf(base + ".key"), serial};
         const File out(BIO_new_file(identity.certificateFile.c_str(), "w"));
         require(out && PEM_write_bio_X509(out.get(), c) == 1);
-        const bool isIntermediate = issuer && !isAuthority
-            && X509_NAME_cmp(X509_get_subject_name(issuing), X509_get_issuer_name(issuing)) != 0;
+        const bool isIntermediate =
+            issuer && !isAuthority &&
+            X509_NAME_cmp(X509_get_subject_name(issuing), X509_get_issuer_name(issuing)) != 0;
         if (isIntermediate)
             require(PEM_write_bio_X509(out.get(), issuing) == 1);
         writeKey(identity.keyFile, key.get(), {});
@@ -102,12 +103,10 @@ struct TestCertificates::Private
     static void writeKey(const std::string &file, EVP_PKEY *key, const std::string &password)
     {
         const File out(BIO_new_file(file.c_str(), "w"));
-        require(out
-                && PEM_write_bio_PrivateKey(
-                       out.get(), key, password.empty() ? nullptr : EVP_aes_128_cbc(),
-                       reinterpret_cast<const unsigned char *>(password.data()),
-                       static_cast<int>(password.size()), nullptr, nullptr)
-                    == 1);
+        require(out && PEM_write_bio_PrivateKey(
+                           out.get(), key, password.empty() ? nullptr : EVP_aes_128_cbc(),
+                           reinterpret_cast<const unsigned char *>(password.data()),
+                           static_cast<int>(password.size()), nullptr, nullptr) == 1);
     }
 };
 
@@ -153,8 +152,7 @@ std::string TestCertificates::revocationList(const Identity &authority,
     for (const Identity &identity : revoked) {
         OpenSslPointer<X509_REVOKED, X509_REVOKED_free> entry(X509_REVOKED_new());
         X509_REVOKED_set_serialNumber(
-            entry.get(),
-            X509_get_serialNumber(d->certificates.at(identity.serial).get()));
+            entry.get(), X509_get_serialNumber(d->certificates.at(identity.serial).get()));
         X509_REVOKED_set_revocationDate(entry.get(), time.get());
         require(X509_CRL_add0_revoked(list.get(), entry.release()) == 1);
     }
@@ -165,9 +163,9 @@ std::string TestCertificates::revocationList(const Identity &authority,
     const OpenSslPointer<X509_EXTENSION, X509_EXTENSION_free> authorityKey(
         X509V3_EXT_conf_nid(nullptr, &context, NID_authority_key_identifier, "keyid:always"));
     const OpenSslPointer<ASN1_INTEGER, ASN1_INTEGER_free> number(ASN1_INTEGER_new());
-    require(authorityKey && number && ASN1_INTEGER_set(number.get(), ++d->lastSerial) == 1
-            && X509_CRL_add_ext(list.get(), authorityKey.get(), -1) == 1
-            && X509_CRL_add1_ext_i2d(list.get(), NID_crl_number, number.get(), 0, 0) == 1);
+    require(authorityKey && number && ASN1_INTEGER_set(number.get(), ++d->lastSerial) == 1 &&
+            X509_CRL_add_ext(list.get(), authorityKey.get(), -1) == 1 &&
+            X509_CRL_add1_ext_i2d(list.get(), NID_crl_number, number.get(), 0, 0) == 1);
     require(X509_CRL_sign(list.get(), d->keys.at(authority.serial).get(), EVP_sha256()) > 0);
     const std::string name = d->pathOf("list" + std::to_string(++d->lastSerial) + ".pem");
     const File out(BIO_new_file(name.c_str(), "w"));

@@ -54,9 +54,11 @@ std::vector<Octets> seeds()
     const presentation::ContextAnswer answer{presentation::ContextResult::Acceptance,
                                              presentation::berSyntax, 1};
     const Octets unit{0x64, 0x03, 0x80, 0x01, 0x00};
-    add(2, presentation::encode(presentation::Connect{
-               Octets{1}, Octets{2}, {{1, presentation::acseSyntax, {presentation::berSyntax}}},
-               {{1, unit}}}));
+    add(2, presentation::encode(
+               presentation::Connect{Octets{1},
+                                     Octets{2},
+                                     {{1, presentation::acseSyntax, {presentation::berSyntax}}},
+                                     {{1, unit}}}));
     add(3, presentation::encode(presentation::Accept{Octets{1}, {answer, answer}, {{1, unit}}}));
     add(4, presentation::encode(presentation::Reject{Octets{1}, {answer}, 6, {{1, unit}}}));
     add(4, presentation::encode(presentation::Abort(presentation::UserAbort{{{1, unit}}})));

@@ -90,7 +90,8 @@ void tst_PluginTranslation::tipsExplainInTheSameLanguage()
     QVERIFY2(breaker.contains("Leistungsschalter"), qPrintable(breaker));
     const QString position = tipOf(*tree, found(0, "ctlModel"));
     QVERIFY2(position.contains("Datentyp:"), qPrintable(position));
-    QVERIFY2(position.contains(QString::fromUtf8("mit normaler oder erhöhter Sicherheit")), qPrintable(position));
+    QVERIFY2(position.contains(QString::fromUtf8("mit normaler oder erhöhter Sicherheit")),
+             qPrintable(position));
 }
 
 QTEST_MAIN(tst_PluginTranslation)

@@ -20,10 +20,9 @@ public:
               "<SCL xmlns=\"http://www.iec.ch/61850/2003/SCL\" version=\"2007\" revision=\"B\">"
               "<Header id=\"test\"/><IED name=\"IED1\" manufacturer=\"Maker\" type=\"Relay\" "
               "configVersion=\"2.1\"><AccessPoint name=\"S1\"><Server>"
-              "<Authentication none=\"true\"/><LDevice inst=\"LD\">"
-              + nodes
-              + "</LDevice></Server></AccessPoint></IED><DataTypeTemplates>" + types
-              + "</DataTypeTemplates></SCL>"))
+              "<Authentication none=\"true\"/><LDevice inst=\"LD\">" +
+              nodes + "</LDevice></Server></AccessPoint></IED><DataTypeTemplates>" + types +
+              "</DataTypeTemplates></SCL>"))
     {
         EXPECT_TRUE(m_result.document) << m_result.errorText;
         if (m_result.document) {

@@ -96,10 +96,11 @@ TEST_F(AccessTest, alternateAccessReadsElementsRangesAndComponents)
             "cVal", {AlternateAccess::ofComponent("mag", {AlternateAccess::ofComponent("f")})})};
     };
     EXPECT_EQ(read(array, {AlternateAccess::ofElement(1, magnitude())}).data().toDouble(), 4.5);
-    EXPECT_EQ(read(array, {AlternateAccess::ofElement(1, {AlternateAccess::ofComponent("cVal$mag$f")})})
-                  .data()
-                  .toDouble(),
-              4.5);
+    EXPECT_EQ(
+        read(array, {AlternateAccess::ofElement(1, {AlternateAccess::ofComponent("cVal$mag$f")})})
+            .data()
+            .toDouble(),
+        4.5);
     const auto two = read(array, {AlternateAccess::ofElements(1, 2, magnitude())});
     ASSERT_TRUE(two.ok());
     EXPECT_EQ(two.data(), Data::array({Data::float32(4.5F), Data::float32(0)}));
@@ -109,8 +110,8 @@ TEST_F(AccessTest, alternateAccessReadsElementsRangesAndComponents)
     const auto toTheEnd = read(array, {AlternateAccess::ofElements(1, 0)});
     ASSERT_TRUE(toTheEnd.ok());
     EXPECT_EQ(toTheEnd.data().children().size(), 2U);
-    const auto several = read("XCBR1$ST$Pos", {AlternateAccess::ofComponent("q"),
-                                               AlternateAccess::ofComponent("stVal")});
+    const auto several = read(
+        "XCBR1$ST$Pos", {AlternateAccess::ofComponent("q"), AlternateAccess::ofComponent("stVal")});
     ASSERT_TRUE(several.ok());
     EXPECT_EQ(several.data().children()[0].size(), 13U);
     EXPECT_EQ(several.data().children()[1].size(), 2U);
@@ -157,8 +158,7 @@ TEST_F(AccessTest, whatTheFileMarksAsReadOnlyIsNotWrittenEvenAsAPart)
 {
     EXPECT_EQ(write("XCBR1$CF$Pos$ctlModel", Data::integer(1)),
               DataAccessError::ObjectAccessDenied);
-    EXPECT_EQ(write("XCBR1$CF$Pos",
-                    Data::structure({Data::integer(1), Data::unsignedInteger(1)})),
+    EXPECT_EQ(write("XCBR1$CF$Pos", Data::structure({Data::integer(1), Data::unsignedInteger(1)})),
               DataAccessError::ObjectAccessDenied);
     EXPECT_EQ(write("XCBR10$CF$Pos$ctlModel", Data::integer(0)), std::nullopt);
 }
@@ -182,7 +182,8 @@ TEST_F(AccessTest, someElementsOfAnArrayAreWrittenTogether)
     EXPECT_EQ(free.write(client, elements, Data::array({third, second})), std::nullopt);
     EXPECT_EQ(read("MHAI1$MX$HA$phsAHar", {AlternateAccess::ofElement(1)}).data(), third);
     EXPECT_EQ(read("MHAI1$MX$HA$phsAHar", {AlternateAccess::ofElement(2)}).data(), second);
-    EXPECT_EQ(free.write(client, elements, Data::array({second})), DataAccessError::TypeInconsistent);
+    EXPECT_EQ(free.write(client, elements, Data::array({second})),
+              DataAccessError::TypeInconsistent);
     EXPECT_EQ(free.write(client, elements, Data::array({second, Data::boolean(true)})),
               DataAccessError::TypeInconsistent);
     EXPECT_EQ(free.write(client,
@@ -204,9 +205,9 @@ TEST_F(AccessTest, aValueThatDoesNotFitChangesNothing)
 TEST_F(AccessTest, anElementOfAnArrayCanBeWritten)
 {
     Access free(model, WriteRules{Fc::MX});
-    const auto element = variable("MHAI1$MX$HA$phsAHar",
-                                  {AlternateAccess::ofElement(
-                                      2, {AlternateAccess::ofComponent("cVal$mag$f")})});
+    const auto element =
+        variable("MHAI1$MX$HA$phsAHar",
+                 {AlternateAccess::ofElement(2, {AlternateAccess::ofComponent("cVal$mag$f")})});
     EXPECT_EQ(free.write(client, element, Data::float32(9)), std::nullopt);
     EXPECT_EQ(free.read(client, element).data().toDouble(), 9.0);
 }

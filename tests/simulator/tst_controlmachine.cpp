@@ -37,8 +37,8 @@ public:
         }
         if (information->applError) {
             EXPECT_TRUE(information->applError->controlObject.starts_with("LD/CSWI1$CO$Pos$"));
-            log += information->applError->controlObject.substr(16) + ":"
-                + std::to_string(information->applError->addCause) + ' ';
+            log += information->applError->controlObject.substr(16) + ":" +
+                   std::to_string(information->applError->addCause) + ' ';
         }
         receiver = &client;
     }

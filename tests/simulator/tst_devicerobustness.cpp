@@ -78,7 +78,9 @@ private:
                 static_cast<std::int32_t>(below(4)), {listName()}, std::nullopt};
         case 9: {
             mms::GetNameListRequest request{static_cast<mms::ObjectClass>(below(12)),
-                                            static_cast<mms::Scope>(below(3)), domain, {}};
+                                            static_cast<mms::Scope>(below(3)),
+                                            domain,
+                                            {}};
             if (below(2) == 0)
                 request.continueAfter = m_names[below(m_names.size())];
             return request;

@@ -99,10 +99,10 @@ TEST_F(Iedsim, SeveralIedsListenOnConsecutivePorts)
 TEST_F(Iedsim, BlocksOfADeviceOfTheFirstEditionHaveNoOwner)
 {
     const auto attributesOf = [this](const std::string &version) {
-        const std::string path = file(
-            "bay" + version.substr(0, version.find('=')) + ".icd",
-            R"(<SCL xmlns="http://www.iec.ch/61850/2003/SCL" )" + version
-                + R"(><Header id="h"/><IED name="IED1"><AccessPoint name="S1"><Server>
+        const std::string path =
+            file("bay" + version.substr(0, version.find('=')) + ".icd",
+                 R"(<SCL xmlns="http://www.iec.ch/61850/2003/SCL" )" + version +
+                     R"(><Header id="h"/><IED name="IED1"><AccessPoint name="S1"><Server>
 <Authentication none="true"/><LDevice inst="LD"><LN0 lnClass="LLN0" inst="" lnType="L">
 <ReportControl name="rcb" rptID="r" confRev="1" indexed="false"><TrgOps/><OptFields/>
 <RptEnabled max="1"/></ReportControl></LN0></LDevice></Server></AccessPoint></IED>
@@ -160,8 +160,7 @@ TEST_F(Iedsim, WhatCannotBeServedIsToldInOneLine)
     const auto complaint = [](Arguments arguments) { return complaintOf(arguments, 1); };
     EXPECT_EQ(complaint({"/nowhere/bay.icd"}),
               "The file \"/nowhere/bay.icd\" cannot be opened: No such file or directory.");
-    EXPECT_EQ(complaint({SCL_FIXTURES}),
-              "\"" SCL_FIXTURES "\" is a directory, not a file.");
+    EXPECT_EQ(complaint({SCL_FIXTURES}), "\"" SCL_FIXTURES "\" is a directory, not a file.");
     EXPECT_TRUE(complaint({fixtures + "not-well-formed.icd"})
                     .starts_with(fixtures + "not-well-formed.icd:"));
     EXPECT_FALSE(complaint({fixtures + "not-scl.xml"}).empty());
@@ -277,9 +276,9 @@ TEST_F(Iedsim, WithTlsOnlyACertificateOfATrustedAuthorityGetsIn)
     const auto authority = m_files.authority("Authority");
     const auto server = m_files.issue(authority, "IED");
     const auto client = m_files.issue(authority, "Client");
-    Program program({device, "--port", "0", "--tls",
-                     server.certificateFile + "," + server.keyFile + ","
-                         + authority.certificateFile});
+    Program program(
+        {device, "--port", "0", "--tls",
+         server.certificateFile + "," + server.keyFile + "," + authority.certificateFile});
     const std::uint16_t port = program.port();
     EXPECT_FALSE(Caller(m_loop.executor(), port).isOpen());
     mms::AssociationOptions options;
@@ -309,13 +308,36 @@ TEST_F(Iedsim, HelpAndManualPageNameEveryOption)
     EXPECT_EQ(manual.status(), 0);
     EXPECT_TRUE(page.starts_with(".TH IEDSIM 1 "));
     std::erase(page, '\\');
-    for (const char *option :
-         {"--ied", "--all", "--list", "--address", "--port", "--max-associations", "--max-half-open",
-          "--idle-limit", "--max-pdu",
-          "--password", "--password-file", "--tls", "--tls-key-password-file", "--tls-crl",
-          "--tls-pin", "--animate", "--seed", "--interval", "--no-events", "--files",
-          "--files-read-only", "--files-flat", "--files-one-part", "--files-keep", "--faults",
-          "--help-faults", "--odd", "--help-odd", "--quiet", "--version"}) {
+    for (const char *option : {"--ied",
+                               "--all",
+                               "--list",
+                               "--address",
+                               "--port",
+                               "--max-associations",
+                               "--max-half-open",
+                               "--idle-limit",
+                               "--max-pdu",
+                               "--password",
+                               "--password-file",
+                               "--tls",
+                               "--tls-key-password-file",
+                               "--tls-crl",
+                               "--tls-pin",
+                               "--animate",
+                               "--seed",
+                               "--interval",
+                               "--no-events",
+                               "--files",
+                               "--files-read-only",
+                               "--files-flat",
+                               "--files-one-part",
+                               "--files-keep",
+                               "--faults",
+                               "--help-faults",
+                               "--odd",
+                               "--help-odd",
+                               "--quiet",
+                               "--version"}) {
         EXPECT_NE(text.find(std::string(option)), std::string::npos) << option;
         EXPECT_NE(page.find(std::string(".B ") + option), std::string::npos) << option;
     }

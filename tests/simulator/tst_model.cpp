@@ -32,9 +32,8 @@ protected:
     {
         std::vector<std::string> names;
         for (;;) {
-            const auto page = model.variableNames(model.domains().front(),
-                                                  names.empty() ? std::string() : names.back(),
-                                                  octets);
+            const auto page = model.variableNames(
+                model.domains().front(), names.empty() ? std::string() : names.back(), octets);
             if (!page)
                 return {"no page"};
             names.insert(names.end(), page->names.begin(), page->names.end());
@@ -192,8 +191,8 @@ TEST_F(ModelTest, elementsOfArraysAreNoVariables)
 
 TEST_F(ModelTest, aPageBehindANameThatDoesNotExistIsRefused)
 {
-    for (const char *name : {"XCBR2", "XCBR1$", "XCBR1$ST$", "XCBR1$ST$Pos$stVal$x", "$", "XCBR1$ZZ",
-                             "MHAI1$MX$HA$phsAHar$cVal"})
+    for (const char *name : {"XCBR2", "XCBR1$", "XCBR1$ST$", "XCBR1$ST$Pos$stVal$x", "$",
+                             "XCBR1$ZZ", "MHAI1$MX$HA$phsAHar$cVal"})
         EXPECT_FALSE(model.variableNames(model.domains().front(), name, 1000)) << name;
     const auto last = model.variableNames(model.domains().front(), "XCBR10$SV$Pos$subEna", 1000);
     ASSERT_TRUE(last);
@@ -256,7 +255,8 @@ TEST_F(ModelTest, valuesOfAnotherTypeAreInconsistentAndOnesOutOfRangeInvalid)
         return Model::check(find(item), data);
     };
     EXPECT_EQ(check("XCBR1$CF$Pos$ctlModel", Data::integer(4)), std::nullopt);
-    EXPECT_EQ(check("XCBR1$CF$Pos$ctlModel", Data::integer(2)), DataAccessError::ObjectValueInvalid);
+    EXPECT_EQ(check("XCBR1$CF$Pos$ctlModel", Data::integer(2)),
+              DataAccessError::ObjectValueInvalid);
     EXPECT_EQ(check("XCBR1$CF$Pos$ctlModel", Data::unsignedInteger(4)),
               DataAccessError::TypeInconsistent);
     EXPECT_EQ(check("XCBR1$CF$Pos$sboTimeout", Data::unsignedInteger(0xFFFFFFFF)), std::nullopt);

@@ -89,12 +89,11 @@ TEST(Process, TapsGoOneStepAndNotBeyondTheLast)
     EXPECT_EQ(at("11", 3).cause, AddCause::InconsistentParameters);
     EXPECT_EQ(at("10", 63).cause, AddCause::StepLimit);
     EXPECT_EQ(at("01", -64).cause, AddCause::StepLimit);
-    const auto limited = sim::targetOf(ControlKind::BinaryStep, command("10"), Data::integer(17),
-                                       between(1, 17));
+    const auto limited =
+        sim::targetOf(ControlKind::BinaryStep, command("10"), Data::integer(17), between(1, 17));
     EXPECT_EQ(limited.cause, AddCause::StepLimit);
-    expectPosition(
-        sim::targetOf(ControlKind::IntegerStep, Data::integer(9), Data::integer(0), {}),
-        Data::integer(9));
+    expectPosition(sim::targetOf(ControlKind::IntegerStep, Data::integer(9), Data::integer(0), {}),
+                   Data::integer(9));
     EXPECT_EQ(
         sim::targetOf(ControlKind::IntegerStep, Data::integer(64), Data::integer(0), {}).cause,
         AddCause::StepLimit);

@@ -168,8 +168,8 @@ bool isOfControlBlock(const std::string &path)
 
 std::size_t blocksOf(const scl::LogicalNode &node)
 {
-    std::size_t count = node.logControls.size() + node.gooseControls.size()
-        + node.sampledValueControls.size() + (node.settingControl ? 1 : 0);
+    std::size_t count = node.logControls.size() + node.gooseControls.size() +
+                        node.sampledValueControls.size() + (node.settingControl ? 1 : 0);
     for (const scl::ReportControl &report : node.reports)
         count += report.instanceNames.size();
     return count;
@@ -247,11 +247,11 @@ std::vector<std::string> files()
     return names;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Folder, FileTest, testing::ValuesIn(files()), [](const auto &file) {
-        std::string name = file.param;
-        std::ranges::replace_if(name, [](char letter) { return !std::isalnum(letter); }, '_');
-        return name;
-    });
+INSTANTIATE_TEST_SUITE_P(Folder, FileTest, testing::ValuesIn(files()), [](const auto &file) {
+    std::string name = file.param;
+    std::ranges::replace_if(
+        name, [](char letter) { return !std::isalnum(letter); }, '_');
+    return name;
+});
 
 } // namespace

@@ -321,8 +321,7 @@ void tst_ConnectedDevices::whatIsWrittenIsInTheJournalWithItsOldAndNewValue()
     QCOMPARE(text(ChangeJournal::OperationColumn), QStringLiteral("writeVariable"));
     QCOMPARE(text(ChangeJournal::ReferenceColumn), logicalDevice + '/' + controlModel);
     QCOMPARE(text(ChangeJournal::OldValueColumn), QStringLiteral("status-only (0)"));
-    QCOMPARE(text(ChangeJournal::NewValueColumn),
-             QStringLiteral("sbo-with-enhanced-security (4)"));
+    QCOMPARE(text(ChangeJournal::NewValueColumn), QStringLiteral("sbo-with-enhanced-security (4)"));
     QCOMPARE(text(ChangeJournal::ResultColumn), QStringLiteral("OK"));
     QFile file(changes.file());
     QVERIFY(file.open(QIODevice::ReadOnly));

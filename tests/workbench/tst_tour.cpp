@@ -55,10 +55,10 @@ void tst_Tour::everyToolGivesAPictureThatShowsSomething()
         run(QStringLiteral(WORKBENCH), {QStringLiteral("--tour"), pictures.path()});
     QVERIFY2(tour.status == 0, qPrintable(tour.sentence));
     QStringList files;
-    for (const char *name : {"workbench", "browser", "context-menu", "functional-constraint",
-                             "control", "data-set-members", "report-control", "setting-groups",
-                             "file-service", "offline-setting-groups", "offline-report-control",
-                             "device", "trace"})
+    for (const char *name :
+         {"workbench", "browser", "context-menu", "functional-constraint", "control",
+          "data-set-members", "report-control", "setting-groups", "file-service",
+          "offline-setting-groups", "offline-report-control", "device", "trace"})
         files << pictures.filePath(QString::fromLatin1(name) + QStringLiteral(".png"));
     const Outcome check = run(QStringLiteral(PICTURECHECK), files);
     QVERIFY2(check.status == 0, qPrintable(check.sentence));

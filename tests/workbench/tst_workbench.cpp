@@ -50,7 +50,8 @@ struct World
             result.status = ImportResult::Imported;
             result.ied = request.ied.isEmpty() ? names.first() : request.ied;
             result.model = request.file.toUtf8() + '#' + result.ied.toUtf8();
-            result.findings.append({scl::Severity::Warning, 1, "SCL", wording::verbatim("A finding.")});
+            result.findings.append(
+                {scl::Severity::Warning, 1, "SCL", wording::verbatim("A finding.")});
         }
         return result;
     }
