@@ -203,7 +203,7 @@ void singleReadsFiveOutstanding(benchmark::State &state)
     compare(
         state, scene, 2,
         [&] {
-            std::vector<mmstest::Awaited<mms::Result<void>>> running;
+            std::vector<wiretest::Awaited<mms::Result<void>>> running;
             for (int i = 0; i < streams; ++i)
                 running.push_back(scene.loop().start(
                     scene.client()->strand(), readOften(scene.client(), readCount / streams)));

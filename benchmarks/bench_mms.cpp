@@ -104,7 +104,7 @@ void idle(benchmark::State &state)
 {
     const auto count = static_cast<std::size_t>(state.range(0));
     for (auto _ : state) {
-        mmstest::Loop loop;
+        wiretest::Loop loop;
         ServerOptions options;
         options.address = "127.0.0.1";
         options.port = 0;
@@ -120,9 +120,9 @@ void idle(benchmark::State &state)
         std::vector<std::shared_ptr<Association>> clients;
         for (std::size_t i = 0; i < count; ++i) {
             clients.push_back(Association::create(loop.executor(), {}, {}));
-            mmstest::Awaited<Result<InitiateParameters>> opened;
+            wiretest::Awaited<Result<InitiateParameters>> opened;
             clients.back()->connect("127.0.0.1", *port, opened.setter());
-            mmstest::Awaited<CallOutcome> answered;
+            wiretest::Awaited<CallOutcome> answered;
             if (!opened.get())
                 state.SkipWithError("An association was not opened.");
             clients.back()->call(IdentifyRequest(), std::chrono::seconds(1), answered.setter());

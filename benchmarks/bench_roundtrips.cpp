@@ -68,7 +68,7 @@ public:
 
 private:
     std::filesystem::path m_folder;
-    mmstest::Loop m_loop;
+    wiretest::Loop m_loop;
     std::shared_ptr<sim::Device> m_device;
     std::uint16_t m_port = 0;
 };
@@ -83,8 +83,8 @@ struct Requests
 acsi::ClientOptions counting(const std::shared_ptr<Requests> &requests)
 {
     acsi::ClientOptions options;
-    options.association.link.trace = [requests](mms::Direction direction, mms::Bytes octets) {
-        if (direction != mms::Direction::Sent)
+    options.association.link.trace = [requests](osi::Direction direction, mms::Bytes octets) {
+        if (direction != osi::Direction::Sent)
             return;
         const auto pdu = mms::decodePdu(octets);
         const auto *request = pdu ? std::get_if<mms::ConfirmedRequestPdu>(&*pdu) : nullptr;
@@ -272,7 +272,7 @@ private:
 double inBusyStream(ClientLoop &loop, const std::shared_ptr<acsi::Client> &client,
                     const mms::VariableAccess &variable, int count)
 {
-    std::vector<mmstest::Awaited<mms::Result<Seconds>>> streams;
+    std::vector<wiretest::Awaited<mms::Result<Seconds>>> streams;
     for (int i = 0; i < outstanding; ++i)
         streams.push_back(loop.start(client->strand(), reads(client, variable, count, {})));
     Seconds together;

@@ -37,7 +37,7 @@ public:
 
     void disconnect(const std::shared_ptr<acsi::Client> &client)
     {
-        mmstest::Awaited<bool> done;
+        wiretest::Awaited<bool> done;
         asio::post(client->strand(), [client, set = done.setter()] {
             client->abort(mms::verbatim("The end."));
             set(true);
@@ -59,9 +59,9 @@ public:
     }
 
     template <typename Executor, typename T>
-    mmstest::Awaited<T> start(const Executor &executor, asio::awaitable<T> work)
+    wiretest::Awaited<T> start(const Executor &executor, asio::awaitable<T> work)
     {
-        mmstest::Awaited<T> outcome;
+        wiretest::Awaited<T> outcome;
         asio::co_spawn(executor, forward<T>(std::move(work), outcome.setter()), asio::detached);
         return outcome;
     }
@@ -87,7 +87,7 @@ private:
             throw std::runtime_error(result.error().message.english());
     }
 
-    mmstest::Loop m_loop;
+    wiretest::Loop m_loop;
     std::vector<std::shared_ptr<acsi::Client>> m_clients;
 };
 

@@ -7,7 +7,7 @@
 
 namespace {
 
-using namespace mms;
+using namespace osi;
 
 void require(bool holds)
 {
@@ -111,8 +111,8 @@ void feed(Bytes bytes, bool opened)
         initiator.take(initiator.stack().receive(portion));
         responder.take(responder.stack().receive(portion));
     }
-    initiator.take(initiator.stack().networkClosed(mms::verbatim("The end.")));
-    responder.take(responder.stack().networkClosed(mms::verbatim("The end.")));
+    initiator.take(initiator.stack().networkClosed(osi::verbatim("The end.")));
+    responder.take(responder.stack().networkClosed(osi::verbatim("The end.")));
     require(initiator.stack().isClosed() && responder.stack().isClosed());
 }
 

@@ -43,7 +43,7 @@ int main(int argc, char **argv)
     bool isWritten = write(folder / "discovery", fuzz::discoveryRecordings());
     isWritten = write(folder / "reportstream", fuzz::reportRecordings()) && isWritten;
     isWritten = write(folder / "lastentries", fuzz::lastEntriesFiles()) && isWritten;
-    for (const mmstest::Sample &sample : mmstest::samples())
+    for (const wiretest::Sample &sample : wiretest::samples())
         isWritten = write(folder / "pdu" / sample.name, mms::encode(sample.pdu)) && isWritten;
     return isWritten ? 0 : 1;
 }

@@ -4,7 +4,7 @@
 #include "simulator/fileservice.h"
 #include "simulator/oddities.h"
 
-#include "wording/result.h"
+#include "mms/vocabulary.h"
 
 #include <chrono>
 #include <cstddef>

@@ -425,7 +425,7 @@ mms::Result<void> Faults::Script::readServices(Rule &rule, std::string_view name
 }
 
 /// What happens on one link.
-class Faults::Disturbance : public mms::Interference
+class Faults::Disturbance : public osi::Interference
 {
 public:
     explicit Disturbance(std::shared_ptr<Faults> faults)
@@ -450,7 +450,7 @@ private:
     std::size_t m_pduSize = 65536;
 };
 
-mms::Interference::Incoming Faults::Disturbance::incoming(mms::Bytes pdu)
+osi::Interference::Incoming Faults::Disturbance::incoming(mms::Bytes pdu)
 {
     const auto head = mms::peekPdu(pdu);
     if (!head || head->type != requestType || !head->invokeId || !head->service)
@@ -501,7 +501,7 @@ Faults::Decision Faults::Disturbance::decisionFor(const std::optional<mms::PduHe
     return decision;
 }
 
-mms::Interference::Outgoing Faults::Disturbance::outgoing(mms::Bytes pdu)
+osi::Interference::Outgoing Faults::Disturbance::outgoing(mms::Bytes pdu)
 {
     const Decision decision = decisionFor(mms::peekPdu(pdu), pdu);
     Outgoing outgoing;
@@ -599,7 +599,7 @@ mms::Result<std::shared_ptr<Faults>> Faults::load(const std::string &path, Handl
     return result;
 }
 
-std::function<std::unique_ptr<mms::Interference>()> Faults::interference()
+std::function<std::unique_ptr<osi::Interference>()> Faults::interference()
 {
     return [self = shared_from_this()] { return std::make_unique<Disturbance>(self); };
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "mms/vocabulary.h"
 #include "osi/interference.h"
-#include "wording/result.h"
 
 #include <chrono>
 #include <cstdint>
@@ -60,7 +60,7 @@ public:
     ~Faults();
 
     /// For LinkOptions::interference.
-    std::function<std::unique_ptr<mms::Interference>()> interference();
+    std::function<std::unique_ptr<osi::Interference>()> interference();
 
 private:
     class Script;

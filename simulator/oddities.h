@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "wording/result.h"
+#include "mms/vocabulary.h"
 
 #include <span>
 #include <string>

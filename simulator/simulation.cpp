@@ -87,14 +87,14 @@ mms::Result<SimulatedDevice> simulate(asio::any_io_executor executor, const scl:
     device.server.association.maxPduSize = options.maxPduSize;
     device.firstEdition = options.firstEdition;
     device.oddities = options.oddities;
-    mms::LinkOptions &link = device.server.association.link;
+    osi::LinkOptions &link = device.server.association.link;
     if (options.password) {
-        mms::acse::Authentication authentication;
+        osi::acse::Authentication authentication;
         authentication.value.assign(options.password->begin(), options.password->end());
         link.stack.association.authentication = std::move(authentication);
     }
     if (options.tls) {
-        if (auto valid = mms::validate(*options.tls); !valid)
+        if (auto valid = osi::validate(*options.tls); !valid)
             return std::move(valid).error();
         link.tls = options.tls;
     }

@@ -31,7 +31,7 @@ struct SimulationOptions
     std::int32_t maxPduSize = 65000;
     /// What clients have to name when they ask for an association; none asks for none.
     std::optional<std::string> password;
-    std::optional<mms::TlsOptions> tls;
+    std::optional<osi::TlsOptions> tls;
     /// As scl::Document::edition() tells: control blocks have the attributes of the first edition
     /// of the standard only.
     bool firstEdition = false;

@@ -291,7 +291,7 @@ std::variant<CommandLine, Ending> parseCommandLine(int argc, const char *const *
             return mistake("--tls needs a certificate, a key and trusted authorities or --tls-pin, "
                            "as in \"--tls own.pem,own.key,ca.pem\".");
         }
-        simulation.tls = mms::TlsOptions();
+        simulation.tls = osi::TlsOptions();
         simulation.tls->certificateFile = parts[0];
         simulation.tls->keyFile = parts[1];
         simulation.tls->authorityFiles.assign(parts.begin() + 2, parts.end());

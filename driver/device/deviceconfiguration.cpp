@@ -92,7 +92,7 @@ void checkTls(QStringList &faults, const TlsConfiguration &tls)
 {
     if (!tls.enabled)
         return;
-    const mms::Result<void> result = mms::validate(tls.toOptions());
+    const mms::Result<void> result = osi::validate(tls.toOptions());
     if (!result)
         faults.append(text(result.error().message));
 }
@@ -280,9 +280,9 @@ std::optional<QByteArray> octetsFromHex(const QString &text)
     return QByteArray::fromHex(digits);
 }
 
-mms::TlsOptions TlsConfiguration::toOptions() const
+osi::TlsOptions TlsConfiguration::toOptions() const
 {
-    mms::TlsOptions options;
+    osi::TlsOptions options;
     options.certificateFile = QFile::encodeName(certificateFile).toStdString();
     options.keyFile = QFile::encodeName(keyFile).toStdString();
     options.keyPassword = keyPassword.toStdString();

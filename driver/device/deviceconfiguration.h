@@ -22,7 +22,7 @@ struct AssociationAddress
 };
 
 /// How the device and the driver prove to each other who they are (IEC 62351-3); files in PEM, the
-/// members as mms::TlsOptions explains them.
+/// members as osi::TlsOptions explains them.
 struct TlsConfiguration
 {
     bool enabled = false;
@@ -33,10 +33,10 @@ struct TlsConfiguration
     QStringList revocationFiles;
     QStringList pins; ///< SHA-256 fingerprints of device certificates, hexadecimal
     QString peerName; ///< the device's host unless given
-    /// Take certificates that are made out to others, too; mms::TlsOptions tells what that means.
+    /// Take certificates that are made out to others, too; osi::TlsOptions tells what that means.
     bool acceptsOtherNames = false;
 
-    mms::TlsOptions toOptions() const;
+    osi::TlsOptions toOptions() const;
 };
 
 /// All that the driver has to know about a device. A value type.

@@ -45,11 +45,11 @@ mms::Octets octetsOf(const QByteArray &bytes)
     return {bytes.begin(), bytes.end()};
 }
 
-mms::acse::Title titleOf(const AssociationAddress &address)
+osi::acse::Title titleOf(const AssociationAddress &address)
 {
-    mms::acse::Title title;
+    osi::acse::Title title;
     if (!address.apTitle.isEmpty()) {
-        mms::acse::ObjectIdentifier identifier;
+        osi::acse::ObjectIdentifier identifier;
         const QStringList numbers = address.apTitle.split(QLatin1Char('.'));
         for (const QString &number : numbers)
             identifier.push_back(number.toUInt());
@@ -462,12 +462,12 @@ acsi::ClientOptions DeviceConnection::clientOptions() const
     association.grace = 2 * m_configuration.callTimeout;
     association.link.establishTimeout = m_configuration.connectTimeout;
     association.link.lookUp = m_environment.lookUp;
-    association.link.trace = [capture = m_capture](mms::Direction direction, mms::Bytes pdu) {
+    association.link.trace = [capture = m_capture](osi::Direction direction, mms::Bytes pdu) {
         capture->add(direction, pdu);
     };
     if (m_configuration.tls.enabled)
         association.link.tls = m_configuration.tls.toOptions();
-    mms::StackOptions &stack = association.link.stack;
+    osi::StackOptions &stack = association.link.stack;
     stack.transport.localSelector = octetsOf(m_configuration.local.transportSelector);
     stack.transport.remoteSelector = octetsOf(m_configuration.remote.transportSelector);
     stack.session.localSelector = octetsOf(m_configuration.local.sessionSelector);
@@ -477,7 +477,7 @@ acsi::ClientOptions DeviceConnection::clientOptions() const
     stack.association.own = titleOf(m_configuration.local);
     stack.association.peer = titleOf(m_configuration.remote);
     if (!m_configuration.password.isEmpty()) {
-        mms::acse::Authentication authentication;
+        osi::acse::Authentication authentication;
         authentication.value = octetsOf(m_configuration.password.toUtf8());
         stack.association.authentication = std::move(authentication);
     }

@@ -85,7 +85,7 @@ struct ConnectionEnvironment
     QString cacheFolder;
     std::size_t captureOctets = PduCapture::defaultLimit;
     /// Looks up hosts' names; without, the system does.
-    mms::HostLookup::Function lookUp;
+    osi::HostLookup::Function lookUp;
 };
 
 /// The driver's side of one device with an address: makes the association, keeps it, notices its

@@ -155,7 +155,7 @@ asio::awaitable<QString> DeviceConnection::getReady(ClientPointer client)
     m_identity.model = who.model;
     m_identity.logicalDevices = names;
     m_identity.revisions = m_revisions;
-    const std::optional<mms::TlsPeer> peer = client->association().tlsPeer();
+    const std::optional<osi::TlsPeer> peer = client->association().tlsPeer();
     m_identity.certificate = peer ? text(peer->fingerprint) : QString();
     makeCurrency(client);
     co_await readBlocks(client);

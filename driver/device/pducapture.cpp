@@ -49,9 +49,9 @@ PduCapture::PduCapture(std::size_t limit)
 {
 }
 
-void PduCapture::add(mms::Direction direction, mms::Bytes pdu)
+void PduCapture::add(osi::Direction direction, mms::Bytes pdu)
 {
-    if (direction == mms::Direction::Sent) {
+    if (direction == osi::Direction::Sent) {
         ++m_sent;
     } else {
         ++m_received;
@@ -80,10 +80,10 @@ bool PduCapture::save(QIODevice &device) const
 {
     // Copied, so that a slow disk does not hold up the association.
     const std::vector<Entry> entries = newest(std::numeric_limits<std::size_t>::max());
-    if (!writeAll(device, mms::pcapng::fileHeader()))
+    if (!writeAll(device, osi::pcapng::fileHeader()))
         return false;
     return std::all_of(entries.begin(), entries.end(), [&device](const Entry &entry) {
-        return writeAll(device, mms::pcapng::packet(entry.direction, entry.time, entry.pdu));
+        return writeAll(device, osi::pcapng::packet(entry.direction, entry.time, entry.pdu));
     });
 }
 
@@ -97,7 +97,7 @@ QVector<PduCapture::Line> PduCapture::trace(int count) const
         lines.append(
             {QDateTime::fromMSecsSinceEpoch(
                  std::chrono::duration_cast<std::chrono::milliseconds>(sinceEpoch).count()),
-             entry.direction == mms::Direction::Sent, textOf(entry.pdu)});
+             entry.direction == osi::Direction::Sent, textOf(entry.pdu)});
     }
     return lines;
 }

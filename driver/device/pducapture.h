@@ -32,7 +32,7 @@ public:
 
     explicit PduCapture(std::size_t limit = defaultLimit);
 
-    void add(mms::Direction direction, mms::Bytes pdu);
+    void add(osi::Direction direction, mms::Bytes pdu);
     void clear();
 
     /// Writes what is there as a capture that protocol analysers open (pcapng). False when the
@@ -53,7 +53,7 @@ private:
     struct Entry
     {
         std::chrono::system_clock::time_point time;
-        mms::Direction direction;
+        osi::Direction direction;
         std::vector<std::uint8_t> pdu;
     };
 

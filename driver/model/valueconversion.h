@@ -3,7 +3,7 @@
 
 #include "mms/data.h"
 #include "mms/typedescription.h"
-#include "wording/result.h"
+#include "mms/vocabulary.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QString>

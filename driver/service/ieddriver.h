@@ -38,7 +38,7 @@ struct IedDriverOptions
     /// counts.
     std::function<void(const ReportEvent &)> reportReceived;
     /// Looks up names of hosts; the system unless given. Called in any thread, several at a time.
-    mms::HostLookup::Function lookUp;
+    osi::HostLookup::Function lookUp;
 };
 
 /// The driver: devices by number, reached over MMS or known only from their SCL file.

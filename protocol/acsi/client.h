@@ -58,7 +58,7 @@ public:
     Client(const Client &) = delete;
     Client &operator=(const Client &) = delete;
 
-    const mms::Link::Strand &strand() const { return m_association->strand(); }
+    const osi::Link::Strand &strand() const { return m_association->strand(); }
     const ClientOptions &options() const { return m_options; }
     mms::Association &association() { return *m_association; }
     bool isOpen() const { return m_open; }

@@ -91,7 +91,7 @@ struct ControlObject::Call
         Over,
     };
 
-    Call(const mms::Link::Strand &strand, std::string wanted, std::optional<std::uint8_t> number)
+    Call(const osi::Link::Strand &strand, std::string wanted, std::optional<std::uint8_t> number)
         : component(std::move(wanted))
         , ctlNum(number)
         , wake(strand, asio::steady_timer::time_point::max())

@@ -3,7 +3,7 @@
 
 #include "acsi/functionalconstraint.h"
 #include "mms/variableaccess.h"
-#include "wording/result.h"
+#include "mms/vocabulary.h"
 
 #include <cstdint>
 #include <optional>

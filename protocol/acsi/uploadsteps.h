@@ -3,7 +3,7 @@
 #pragma once
 
 #include "mms/serviceerror.h"
-#include "wording/result.h"
+#include "mms/vocabulary.h"
 
 #include <cstdint>
 #include <optional>

@@ -59,25 +59,24 @@ std::shared_ptr<Association> Association::create(asio::any_io_executor executor,
     auto strand = asio::make_strand(std::move(executor));
     const auto association =
         std::make_shared<Association>(Private(), strand, std::move(options), std::move(handlers));
-    association->m_link = std::make_shared<Link>(strand, association->m_options.link);
+    association->m_link = std::make_shared<osi::Link>(strand, association->m_options.link);
     return association;
 }
 
-std::shared_ptr<Association> Association::serve(Link::Strand strand, asio::ip::tcp::socket socket,
-                                                AssociationOptions options, Handlers handlers,
-                                                OpenHandler opened,
-                                                std::weak_ptr<Association> &self,
-                                                std::shared_ptr<const TlsContext> tls)
+std::shared_ptr<Association>
+Association::serve(osi::Link::Strand strand, asio::ip::tcp::socket socket,
+                   AssociationOptions options, Handlers handlers, OpenHandler opened,
+                   std::weak_ptr<Association> &self, std::shared_ptr<const osi::TlsContext> tls)
 {
     const auto association =
         std::make_shared<Association>(Private(), strand, std::move(options), std::move(handlers));
     association->m_opened = std::move(opened);
-    association->m_link = std::make_shared<Link>(strand, association->m_options.link,
-                                                 std::move(socket), std::move(tls));
+    association->m_link = std::make_shared<osi::Link>(strand, association->m_options.link,
+                                                      std::move(socket), std::move(tls));
     self = association;
     asio::dispatch(strand, [association] {
         association->m_link->serve(
-            [association](StackEvent event) { association->handle(std::move(event)); });
+            [association](osi::StackEvent event) { association->handle(std::move(event)); });
     });
     return association;
 }
@@ -89,7 +88,7 @@ constexpr std::int32_t uselessPduSize = 64;
 
 } // namespace
 
-Association::Association(Private, Link::Strand strand, AssociationOptions options,
+Association::Association(Private, osi::Link::Strand strand, AssociationOptions options,
                          Handlers handlers)
     : m_strand(std::move(strand))
     , m_options(std::move(options))
@@ -109,7 +108,7 @@ void Association::connect(std::string host, std::uint16_t port, OpenHandler hand
                               handler = std::move(handler)]() mutable {
         self->m_opened = std::move(handler);
         self->m_link->connect(std::move(host), port, encode(InitiateRequestPdu{self->proposal()}),
-                              [self](StackEvent event) { self->handle(std::move(event)); });
+                              [self](osi::StackEvent event) { self->handle(std::move(event)); });
     });
 }
 
@@ -356,35 +355,35 @@ InitiateParameters Association::proposal() const
     return parameters;
 }
 
-void Association::handle(StackEvent event)
+void Association::handle(osi::StackEvent event)
 {
-    if (const auto *indication = std::get_if<AssociateIndication>(&event)) {
+    if (const auto *indication = std::get_if<osi::AssociateIndication>(&event)) {
         handleIndication(*indication);
-    } else if (const auto *confirm = std::get_if<AssociateConfirm>(&event)) {
+    } else if (const auto *confirm = std::get_if<osi::AssociateConfirm>(&event)) {
         handleConfirm(*confirm);
-    } else if (const auto *pdu = std::get_if<PduIndication>(&event)) {
+    } else if (const auto *pdu = std::get_if<osi::PduIndication>(&event)) {
         handlePdu(pdu->pdu);
-    } else if (const auto *refused = std::get_if<AssociateRefused>(&event)) {
+    } else if (const auto *refused = std::get_if<osi::AssociateRefused>(&event)) {
         const auto answer = decodePdu(refused->pdu);
         const auto *error = answer ? std::get_if<InitiateErrorPdu>(&*answer) : nullptr;
         close(error ? wording::sentences(refused->reason, describe(error->error))
                     : refused->reason);
-    } else if (std::holds_alternative<ReleaseIndication>(event)) {
+    } else if (std::holds_alternative<osi::ReleaseIndication>(event)) {
         m_link->answerRelease();
-    } else if (std::holds_alternative<ReleaseConfirm>(event)) {
+    } else if (std::holds_alternative<osi::ReleaseConfirm>(event)) {
         concluded({});
         close(say("The association was released."));
-    } else if (const auto *lost = std::get_if<AssociationLost>(&event)) {
+    } else if (const auto *lost = std::get_if<osi::AssociationLost>(&event)) {
         close(lost->reason);
     }
 }
 
-void Association::handleIndication(const AssociateIndication &indication)
+void Association::handleIndication(const osi::AssociateIndication &indication)
 {
     const auto pdu = decodePdu(indication.pdu);
     const auto *request = pdu ? std::get_if<InitiateRequestPdu>(&*pdu) : nullptr;
     const auto refuse = [this] {
-        m_link->refuse(acse::Result::RejectedPermanently, acse::diagnosticNoReason,
+        m_link->refuse(osi::acse::Result::RejectedPermanently, osi::acse::diagnosticNoReason,
                        encode(InitiateErrorPdu{{ErrorClass::Initiate, 0, {}, {}, {}}}));
     };
     if (!request) {
@@ -415,7 +414,7 @@ void Association::handleIndication(const AssociateIndication &indication)
     open(agreed);
 }
 
-void Association::handleConfirm(const AssociateConfirm &confirm)
+void Association::handleConfirm(const osi::AssociateConfirm &confirm)
 {
     const auto pdu = decodePdu(confirm.pdu);
     if (!pdu) {

@@ -60,7 +60,7 @@ Text failureText(const CallOutcome &outcome);
 
 struct AssociationOptions
 {
-    LinkOptions link;
+    osi::LinkOptions link;
     /// Longest PDU that is offered or accepted, in octets; raised to smallestPduSize.
     std::int32_t maxPduSize = 65000;
     /// Calls that this side wants to have on the way, and calls that it serves, at the same time.
@@ -136,13 +136,14 @@ public:
     static std::shared_ptr<Association> create(asio::any_io_executor executor,
                                                AssociationOptions options, Handlers handlers);
     /// The side that was connected to. The executor of @p socket is @p strand; @p self is set
-    /// before the first handler is called. @p tls is what LinkOptions::tls describes, where it is
-    /// loaded already.
-    static std::shared_ptr<Association> serve(Link::Strand strand, asio::ip::tcp::socket socket,
+    /// before the first handler is called. @p tls is what osi::LinkOptions::tls describes, where it
+    /// is loaded already.
+    static std::shared_ptr<Association> serve(osi::Link::Strand strand,
+                                              asio::ip::tcp::socket socket,
                                               AssociationOptions options, Handlers handlers,
                                               OpenHandler opened, std::weak_ptr<Association> &self,
-                                              std::shared_ptr<const TlsContext> tls = {});
-    Association(Private, Link::Strand strand, AssociationOptions options, Handlers handlers);
+                                              std::shared_ptr<const osi::TlsContext> tls = {});
+    Association(Private, osi::Link::Strand strand, AssociationOptions options, Handlers handlers);
     ~Association();
 
     /// Ask for an association. Not again on the same object.
@@ -168,7 +169,7 @@ public:
     void report(InformationReport report, std::function<void(ReportFate fate)> handler = {});
     /// Calls @p handler once, as soon as at most @p octets wait for the network, at once when they
     /// do already; never when the association ends before. Who sends much holds back until then: an
-    /// association with more than LinkOptions::maxQueued octets waiting is cut off.
+    /// association with more than osi::LinkOptions::maxQueued octets waiting is cut off.
     void whenQueued(std::size_t octets, std::function<void()> handler);
 
     /// Conclude and release; the handler hears how it went. Calls under way are waited for, but not
@@ -186,14 +187,14 @@ public:
     /// Octets that wait for the network; in the strand.
     std::size_t queued() const { return m_link->queued(); }
     /// Who the peer of an association with TLS is; in the strand, from opening on.
-    std::optional<TlsPeer> tlsPeer() const { return m_link->tlsPeer(); }
+    std::optional<osi::TlsPeer> tlsPeer() const { return m_link->tlsPeer(); }
     /// The network address of the peer in network order, 4 or 16 octets; empty without a
     /// connection. In the strand.
     std::vector<std::uint8_t> peerAddress() const { return m_link->peerAddress(); }
     /// The network address of this end, in the same form: what a device sees of this client, unless
     /// something between them translates addresses.
     std::vector<std::uint8_t> localAddress() const { return m_link->localAddress(); }
-    const Link::Strand &strand() const { return m_strand; }
+    const osi::Link::Strand &strand() const { return m_strand; }
     AssociationCounters counters() const;
 
 private:
@@ -205,9 +206,9 @@ private:
     };
 
     InitiateParameters proposal() const;
-    void handle(StackEvent event);
-    void handleIndication(const AssociateIndication &indication);
-    void handleConfirm(const AssociateConfirm &confirm);
+    void handle(osi::StackEvent event);
+    void handleIndication(const osi::AssociateIndication &indication);
+    void handleConfirm(const osi::AssociateConfirm &confirm);
     void handlePdu(Bytes octets);
     void handleRequest(ConfirmedRequestPdu pdu);
     void handleReject(const RejectPdu &reject, const PduHead &head, Bytes octets);
@@ -231,10 +232,10 @@ private:
     void cancelInStrand(CallId id);
     void giveUp(CallTable::Ticket ticket, Text reason);
 
-    Link::Strand m_strand;
+    osi::Link::Strand m_strand;
     AssociationOptions m_options;
     Handlers m_handlers;
-    std::shared_ptr<Link> m_link;
+    std::shared_ptr<osi::Link> m_link;
     OpenHandler m_opened;
     std::function<void(Result<void>)> m_concluded;
     InitiateParameters m_negotiated;

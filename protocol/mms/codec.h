@@ -5,7 +5,7 @@
 #include "mms/objectname.h"
 #include "mms/serviceerror.h"
 #include "mms/variableaccess.h"
-#include "osi/ber.h"
+#include "mms/vocabulary.h"
 
 #include <string>
 #include <string_view>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "mms/times.h"
-#include "osi/ber.h"
+#include "mms/vocabulary.h"
 
 #include <cstdint>
 #include <optional>

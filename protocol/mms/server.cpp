@@ -80,7 +80,7 @@ Result<void> Server::reloadTls()
 {
     if (!m_options.association.link.tls)
         return {};
-    auto loaded = TlsContext::load(*m_options.association.link.tls);
+    auto loaded = osi::TlsContext::load(*m_options.association.link.tls);
     if (!loaded)
         return loaded.error();
     asio::dispatch(m_strand, [self = shared_from_this(), tls = *std::move(loaded)]() mutable {
@@ -140,7 +140,8 @@ void Server::turnAway(const Text &reason)
     m_handler->refused(reason);
 }
 
-void Server::take(Link::Strand strand, asio::ip::tcp::socket socket, const asio::ip::address &peer)
+void Server::take(osi::Link::Strand strand, asio::ip::tcp::socket socket,
+                  const asio::ip::address &peer)
 {
     ++m_halfOpen[peer];
     const auto complete = [self = shared_from_this(), peer] {

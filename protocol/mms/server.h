@@ -81,15 +81,16 @@ public:
 
 private:
     asio::awaitable<void> acceptLoop();
-    void take(Link::Strand strand, asio::ip::tcp::socket socket, const asio::ip::address &peer);
+    void take(osi::Link::Strand strand, asio::ip::tcp::socket socket,
+              const asio::ip::address &peer);
     void turnAway(const Text &reason);
 
     asio::any_io_executor m_executor;
     ServerOptions m_options;
     std::shared_ptr<ServerHandler> m_handler;
-    Link::Strand m_strand;
+    osi::Link::Strand m_strand;
     asio::ip::tcp::acceptor m_acceptor;
-    std::shared_ptr<const TlsContext> m_tls;
+    std::shared_ptr<const osi::TlsContext> m_tls;
     std::set<std::shared_ptr<Association>> m_associations;
     std::map<asio::ip::address, std::size_t> m_halfOpen;
     std::atomic<std::size_t> m_count{0};

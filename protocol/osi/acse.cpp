@@ -7,7 +7,7 @@
 #include <array>
 #include <utility>
 
-namespace mms::acse {
+namespace osi::acse {
 
 namespace {
 
@@ -294,7 +294,7 @@ Octets encode(const Unit &unit)
     return encoder.writer.take();
 }
 
-mms::Result<Unit> decode(Bytes octets)
+osi::Result<Unit> decode(Bytes octets)
 {
     Input input(octets);
     Reader outer = input.reader();
@@ -529,4 +529,4 @@ Actions Association::protocolError(const Text &reason)
     return actions;
 }
 
-} // namespace mms::acse
+} // namespace osi::acse

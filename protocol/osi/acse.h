@@ -8,7 +8,7 @@
 #include <variant>
 
 /// Association control (ISO/IEC 8650-1), version 1, with the authentication functional unit.
-namespace mms::acse {
+namespace osi::acse {
 
 using presentation::ObjectIdentifier;
 using presentation::Service;
@@ -117,7 +117,7 @@ using Unit =
     std::variant<AssociateRequest, AssociateResponse, ReleaseRequest, ReleaseResponse, Abort>;
 
 Octets encode(const Unit &unit);
-mms::Result<Unit> decode(Bytes octets);
+osi::Result<Unit> decode(Bytes octets);
 
 /// Why an association was refused, as a sentence.
 Text refusalText(Result result, const Diagnostic &diagnostic);
@@ -222,4 +222,4 @@ private:
     std::int64_t m_contextId = 3;
 };
 
-} // namespace mms::acse
+} // namespace osi::acse

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstring>
 
-namespace mms {
+namespace osi {
 
 BitString::BitString(std::size_t size)
     : m_octets((size + 7) / 8)
@@ -537,4 +537,4 @@ void Writer::objectIdentifier(Tag tag, std::span<const std::uint32_t> numbers)
 
 } // namespace ber
 
-} // namespace mms
+} // namespace osi

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "wording/result.h"
+#include "osi/vocabulary.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -13,7 +13,7 @@
 #include <string_view>
 #include <vector>
 
-namespace mms {
+namespace osi {
 
 using Bytes = std::span<const std::uint8_t>;
 
@@ -319,4 +319,4 @@ inline Text unreadable(const Error &error)
 
 } // namespace ber
 
-} // namespace mms
+} // namespace osi

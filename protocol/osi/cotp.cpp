@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace mms::cotp {
+namespace osi::cotp {
 
 namespace {
 
@@ -498,4 +498,4 @@ std::uint8_t Connection::ownSizeExponent() const
     return exponent;
 }
 
-} // namespace mms::cotp
+} // namespace osi::cotp

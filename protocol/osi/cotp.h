@@ -8,7 +8,7 @@
 #include <variant>
 
 /// Connection-oriented transport, class 0 (ISO/IEC 8073) as carried by RFC 1006.
-namespace mms::cotp {
+namespace osi::cotp {
 
 /// What a connection request and a connection confirm have in common.
 struct ConnectParameters
@@ -177,4 +177,4 @@ private:
     std::uint16_t m_peerReference = 0;
 };
 
-} // namespace mms::cotp
+} // namespace osi::cotp

@@ -11,7 +11,7 @@
 #include <thread>
 #include <utility>
 
-namespace mms {
+namespace osi {
 
 namespace {
 
@@ -123,4 +123,4 @@ HostLookup::~HostLookup()
     m_request->handler = nullptr;
 }
 
-} // namespace mms
+} // namespace osi

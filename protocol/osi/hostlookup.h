@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "wording/result.h"
+#include "osi/vocabulary.h"
 
 #include <asio/ip/address.hpp>
 
@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-namespace mms {
+namespace osi {
 
 /// What a name stands for.
 struct HostAddresses
@@ -48,4 +48,4 @@ private:
     std::shared_ptr<Request> m_request;
 };
 
-} // namespace mms
+} // namespace osi

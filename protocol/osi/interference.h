@@ -7,7 +7,7 @@
 #include <optional>
 #include <vector>
 
-namespace mms {
+namespace osi {
 
 /// Stands between a link and its user and changes PDUs on their way, to simulate devices and
 /// networks that misbehave. Called in the strand of its link. It must not call back into the link.
@@ -40,4 +40,4 @@ public:
     virtual Incoming incoming(Bytes pdu) = 0;
 };
 
-} // namespace mms
+} // namespace osi

@@ -12,7 +12,7 @@
 #include <exception>
 #include <utility>
 
-namespace mms {
+namespace osi {
 
 namespace {
 
@@ -563,4 +563,4 @@ void Link::closeSocket()
         m_stream.close();
 }
 
-} // namespace mms
+} // namespace osi

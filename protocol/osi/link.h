@@ -22,7 +22,7 @@
 #include <string>
 #include <vector>
 
-namespace mms {
+namespace osi {
 
 struct LinkOptions
 {
@@ -154,4 +154,4 @@ private:
     std::list<asio::steady_timer> m_delays;
 };
 
-} // namespace mms
+} // namespace osi

@@ -12,7 +12,7 @@
 #include <array>
 #include <utility>
 
-namespace mms {
+namespace osi {
 
 namespace {
 
@@ -256,4 +256,4 @@ std::vector<std::uint8_t> NetworkStream::localAddress() const
     return error ? std::vector<std::uint8_t>() : octetsOf(endpoint.address());
 }
 
-} // namespace mms
+} // namespace osi

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-namespace mms {
+namespace osi {
 
 /// A TCP connection, secured by TLS or plain. It belongs to the socket's executor, which is a
 /// strand. At most one read and one write may be under way; close() ends them.
@@ -72,4 +72,4 @@ private:
     Text m_refusal;
 };
 
-} // namespace mms
+} // namespace osi

@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-namespace mms::pcapng {
+namespace osi::pcapng {
 
 namespace {
 
@@ -91,4 +91,4 @@ Octets packet(Direction direction, std::chrono::system_clock::time_point time, B
     return out;
 }
 
-} // namespace mms::pcapng
+} // namespace osi::pcapng

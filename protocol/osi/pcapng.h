@@ -7,11 +7,11 @@
 
 /// Captures of MMS PDUs that protocol analysers open (pcapng; link type 252, exported PDUs). They
 /// hold the PDUs of one association without the layers below.
-namespace mms::pcapng {
+namespace osi::pcapng {
 
 /// What a file begins with.
 Octets fileHeader();
 /// One PDU, to be appended behind what was written before.
 Octets packet(Direction direction, std::chrono::system_clock::time_point time, Bytes pdu);
 
-} // namespace mms::pcapng
+} // namespace osi::pcapng

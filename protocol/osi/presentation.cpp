@@ -7,7 +7,7 @@
 #include <array>
 #include <utility>
 
-namespace mms::presentation {
+namespace osi::presentation {
 
 namespace {
 
@@ -580,4 +580,4 @@ Actions Connection::reject(Text reason) const
         Indication{Service::ProviderAbort, false, {}, std::move(reason)}};
 }
 
-} // namespace mms::presentation
+} // namespace osi::presentation

@@ -9,7 +9,7 @@
 #include <variant>
 
 /// Presentation layer (ISO/IEC 8823-1), kernel in normal mode.
-namespace mms::presentation {
+namespace osi::presentation {
 
 using ObjectIdentifier = std::vector<std::uint32_t>;
 
@@ -214,4 +214,4 @@ private:
     std::optional<Octets> m_askedSelector;
 };
 
-} // namespace mms::presentation
+} // namespace osi::presentation

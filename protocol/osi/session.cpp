@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace mms::session {
+namespace osi::session {
 
 namespace {
 
@@ -570,4 +570,4 @@ Actions Connection::misplaced(const char *unit)
         say("The peer sent the session unit \"%1\", which does not belong here.", unit));
 }
 
-} // namespace mms::session
+} // namespace osi::session

@@ -8,7 +8,7 @@
 #include <variant>
 
 /// Session layer (ISO/IEC 8327-1): kernel and duplex, version 2 with user data of any length.
-namespace mms::session {
+namespace osi::session {
 
 /// The functional unit "duplex" among the session user requirements.
 inline constexpr std::uint16_t duplex = 0x0002;
@@ -237,4 +237,4 @@ private:
     Octets m_askedSelector;
 };
 
-} // namespace mms::session
+} // namespace osi::session

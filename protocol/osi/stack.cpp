@@ -3,7 +3,7 @@
 
 #include <utility>
 
-namespace mms {
+namespace osi {
 
 namespace {
 
@@ -299,4 +299,4 @@ void Stack::request(const presentation::Request &request, StackOutput &output)
     }
 }
 
-} // namespace mms
+} // namespace osi

@@ -5,7 +5,7 @@
 #include "osi/cotp.h"
 #include "osi/session.h"
 
-namespace mms {
+namespace osi {
 
 /// How an end presents itself to the other and what it insists on, layer by layer.
 struct StackOptions
@@ -121,4 +121,4 @@ private:
     bool m_closed = false;
 };
 
-} // namespace mms
+} // namespace osi

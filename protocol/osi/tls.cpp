@@ -18,7 +18,7 @@
 #include <optional>
 #include <utility>
 
-namespace mms {
+namespace osi {
 
 namespace {
 
@@ -456,4 +456,4 @@ Result<std::string> certificateFingerprint(const std::string &file)
     return fingerprintOf(certificates->front().get());
 }
 
-} // namespace mms
+} // namespace osi

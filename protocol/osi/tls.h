@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "wording/result.h"
+#include "osi/vocabulary.h"
 
 #include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
 
-namespace mms {
+namespace osi {
 
 enum class TlsVersion : std::uint8_t { Tls12, Tls13 };
 enum class TlsRole : std::uint8_t { Client, Server };
@@ -87,4 +87,4 @@ private:
     std::unique_ptr<Private> d;
 };
 
-} // namespace mms
+} // namespace osi

@@ -10,7 +10,7 @@
 #include <set>
 #include <string>
 
-namespace mms {
+namespace osi {
 
 template <auto Free>
 struct OpenSslDeleter
@@ -43,4 +43,4 @@ Text refusalText(X509_STORE_CTX *store);
 /// Why a handshake failed or a secured connection broke; @p code is OpenSSL's packed error.
 Text tlsErrorText(unsigned long code);
 
-} // namespace mms
+} // namespace osi

@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace mms {
+namespace osi {
 
 namespace {
 
@@ -54,4 +54,4 @@ Result<std::optional<Bytes>> TpktReader::next()
     return std::optional<Bytes>(rest.subspan(tpktHeaderSize, length - tpktHeaderSize));
 }
 
-} // namespace mms
+} // namespace osi

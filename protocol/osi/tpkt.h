@@ -8,7 +8,7 @@
 #include <optional>
 #include <vector>
 
-namespace mms {
+namespace osi {
 
 /// Octets that are owned, where Bytes are somebody else's.
 using Octets = std::vector<std::uint8_t>;
@@ -43,4 +43,4 @@ private:
     std::size_t m_begin = 0;
 };
 
-} // namespace mms
+} // namespace osi

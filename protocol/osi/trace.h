@@ -5,7 +5,7 @@
 
 #include <functional>
 
-namespace mms {
+namespace osi {
 
 enum class Direction : std::uint8_t { Sent, Received };
 
@@ -13,4 +13,4 @@ enum class Direction : std::uint8_t { Sent, Received };
 /// it returns. It must not call back into the association.
 using TraceHook = std::function<void(Direction direction, Bytes pdu)>;
 
-} // namespace mms
+} // namespace osi

@@ -8,11 +8,7 @@
 #include <utility>
 #include <variant>
 
-namespace mms {
-
-using wording::say;
-using wording::Text;
-using wording::verbatim;
+namespace wording {
 
 /// Why something could not be done: a sentence for the operator, and for bytes that could not be
 /// read the offset of the first byte that is wrong, counted from the start of the input.
@@ -80,4 +76,4 @@ private:
     std::optional<Error> m_error;
 };
 
-} // namespace mms
+} // namespace wording

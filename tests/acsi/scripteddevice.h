@@ -384,19 +384,19 @@ protected:
     mms::AssociationOptions serverOptions;
     acsi::ClientOptions clientOptions;
     std::shared_ptr<acsi::Client> client;
-    mmstest::Awaited<mms::Text> ended;
+    wiretest::Awaited<mms::Text> ended;
 
 private:
     template <typename T, typename Executor>
     static T runOn(const Executor &executor, asio::awaitable<T> awaitable)
     {
-        mmstest::Awaited<T> result;
+        wiretest::Awaited<T> result;
         asio::co_spawn(executor, deliver(std::move(awaitable), result.setter()), asio::use_future)
             .get();
         return result.get();
     }
 
-    mmstest::Loop m_loop;
+    wiretest::Loop m_loop;
     std::shared_ptr<mms::Server> m_server;
     std::uint16_t m_port = 0;
 };

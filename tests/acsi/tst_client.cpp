@@ -17,7 +17,7 @@ using mms::ErrorClass;
 using mms::ObjectName;
 using mms::ServiceError;
 using mms::VariableAccess;
-using mmstest::Awaited;
+using wiretest::Awaited;
 
 const ServiceError denied{ErrorClass::Access, mms::serviceerrors::accessDenied, {}, {}, {}};
 
@@ -52,7 +52,7 @@ using AcsiClient = ClientTest;
 
 TEST_F(AcsiClient, FailedConnectionSaysWhyAndClosesNothing)
 {
-    const std::uint16_t port = mmstest::RawPeer().port();
+    const std::uint16_t port = wiretest::RawPeer().port();
     const auto connected = tryToConnect(port);
     ASSERT_FALSE(connected.ok());
     EXPECT_NE(connected.error().message.english().find("No connection to 127.0.0.1"),
@@ -62,8 +62,8 @@ TEST_F(AcsiClient, FailedConnectionSaysWhyAndClosesNothing)
 TEST_F(AcsiClient, ItDeclaresWhatItServes)
 {
     const auto sent = std::make_shared<mms::Octets>();
-    clientOptions.association.link.trace = [sent](mms::Direction direction, mms::Bytes pdu) {
-        if (direction == mms::Direction::Sent && sent->empty())
+    clientOptions.association.link.trace = [sent](osi::Direction direction, mms::Bytes pdu) {
+        if (direction == osi::Direction::Sent && sent->empty())
             sent->assign(pdu.begin(), pdu.end());
     };
     connect();
@@ -548,7 +548,7 @@ TEST_F(AcsiClient, CancelledReadGivesUpItsCallsAndLeavesTheClientUsable)
 
 TEST_F(AcsiClient, CancelledConnectionAttemptEndsAtOnce)
 {
-    mmstest::RawPeer peer;
+    wiretest::RawPeer peer;
     asio::cancellation_signal signal;
     Awaited<bool> over;
     const auto connected = std::make_shared<bool>(false);

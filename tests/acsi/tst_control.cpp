@@ -91,7 +91,7 @@ protected:
         return {"LD/CSWI1$CO$Pos" + component, 1, {2, {'t'}}, ctlNum, addCause};
     }
 
-    void listen(mmstest::Awaited<ControlResult> &late)
+    void listen(wiretest::Awaited<ControlResult> &late)
     {
         asio::post(client->strand(), [this, take = late.setter()] {
             control->setLateHandler(
@@ -435,7 +435,7 @@ TEST_F(ControlTest, TheCauseOfAnotherObjectInATerminationIsNotShown)
 TEST_F(ControlTest, ATerminationThatNobodyWaitsForAnyMoreIsHeard)
 {
     open(ControlModel::DirectEnhanced);
-    mmstest::Awaited<ControlResult> late;
+    wiretest::Awaited<ControlResult> late;
     listen(late);
     EXPECT_EQ(run(control->operate(request(), 50ms)).outcome, ControlOutcome::Accepted);
     device->association()->report(commandTermination(*parseReference("LD/CSWI1$CO$Pos"),
@@ -450,7 +450,7 @@ TEST_F(ControlTest, AnAnswerThatNobodyWaitsForAnyMoreIsHeard)
 {
     clientOptions.callTimeout = 500ms;
     open(ControlModel::DirectNormal);
-    mmstest::Awaited<ControlResult> late;
+    wiretest::Awaited<ControlResult> late;
     listen(late);
     std::atomic<std::uint32_t> asked{0};
     device->intercept = [&asked](const auto &, std::uint32_t invokeId,

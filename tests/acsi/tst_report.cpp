@@ -109,10 +109,10 @@ TEST(TriggerConditions, EachHasTheBitThatTheStandardGivesIt)
 TEST(ReportDecoding, TheOctetsOfAReportWithEveryFieldGiveEveryField)
 {
     const auto pdu =
-        mms::decodePdu(mmstest::fromHex("a349 a047 a105 8003525054 a03e"
-                                        "8a0172 8403067fc0 860111 8c06011842933509 8a0164 830101"
-                                        "89080000000000000102 860103 860100 830100 84020640"
-                                        "8a0178 8705083fc00000 84020240"));
+        mms::decodePdu(wiretest::fromHex("a349 a047 a105 8003525054 a03e"
+                                         "8a0172 8403067fc0 860111 8c06011842933509 8a0164 830101"
+                                         "89080000000000000102 860103 860100 830100 84020640"
+                                         "8a0178 8705083fc00000 84020240"));
     ASSERT_TRUE(pdu.ok()) << pdu.error().message;
     const auto decoded =
         decodeReport(std::get<mms::InformationReport>(std::get<mms::UnconfirmedPdu>(*pdu).service));

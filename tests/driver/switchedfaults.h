@@ -28,9 +28,9 @@ public:
     void set(bool on) { *m_isOn = on; }
 
     /// For LinkOptions::interference.
-    std::function<std::unique_ptr<mms::Interference>()> interference() const
+    std::function<std::unique_ptr<osi::Interference>()> interference() const
     {
-        return [isOn = m_isOn, faults = m_faults]() -> std::unique_ptr<mms::Interference> {
+        return [isOn = m_isOn, faults = m_faults]() -> std::unique_ptr<osi::Interference> {
             return std::make_unique<Switch>(isOn, faults->interference()());
         };
     }
@@ -38,10 +38,10 @@ public:
 private:
     using Flag = std::shared_ptr<std::atomic<bool>>;
 
-    class Switch : public mms::Interference
+    class Switch : public osi::Interference
     {
     public:
-        Switch(Flag isOn, std::unique_ptr<mms::Interference> inner)
+        Switch(Flag isOn, std::unique_ptr<osi::Interference> inner)
             : m_isOn(std::move(isOn))
             , m_inner(std::move(inner))
         {
@@ -62,7 +62,7 @@ private:
 
     private:
         Flag m_isOn;
-        std::unique_ptr<mms::Interference> m_inner;
+        std::unique_ptr<osi::Interference> m_inner;
     };
 
     Flag m_isOn;

@@ -47,9 +47,9 @@ void tst_PduCapture::theNewestPdusAreToldAsTextOldestFirst()
 {
     PduCapture capture;
     QVERIFY(capture.lastReceived() == std::chrono::steady_clock::time_point());
-    capture.add(mms::Direction::Sent, statusRequest(1));
-    capture.add(mms::Direction::Received, statusRequest(2));
-    capture.add(mms::Direction::Sent, statusRequest(3));
+    capture.add(osi::Direction::Sent, statusRequest(1));
+    capture.add(osi::Direction::Received, statusRequest(2));
+    capture.add(osi::Direction::Sent, statusRequest(3));
     QCOMPARE(capture.sent(), std::uint64_t(2));
     QCOMPARE(capture.received(), std::uint64_t(1));
     QVERIFY(capture.lastReceived() > std::chrono::steady_clock::time_point());
@@ -71,11 +71,11 @@ void tst_PduCapture::theOldestPdusGiveWay()
 {
     PduCapture capture(10000);
     for (int i = 0; i < 100; ++i)
-        capture.add(mms::Direction::Received, std::vector<std::uint8_t>(1000, 0));
+        capture.add(osi::Direction::Received, std::vector<std::uint8_t>(1000, 0));
     QVERIFY(capture.octets() <= 10000);
     QCOMPARE(capture.trace(1000).size() + static_cast<int>(capture.dropped()), 100);
     QVERIFY(capture.dropped() >= 90);
-    capture.add(mms::Direction::Received, std::vector<std::uint8_t>(50000, 0));
+    capture.add(osi::Direction::Received, std::vector<std::uint8_t>(50000, 0));
     QCOMPARE(capture.trace(1000).size(), 1);
 }
 
@@ -83,7 +83,7 @@ void tst_PduCapture::whatIsNoPduIsShownWithItsFault()
 {
     PduCapture capture;
     const std::vector<std::uint8_t> octets = {0xFF, 0x01};
-    capture.add(mms::Direction::Received, octets);
+    capture.add(osi::Direction::Received, octets);
     QCOMPARE(capture.trace(1).first().text,
              QString::fromStdString(mms::decodePdu(octets).error().message.english()));
 }
@@ -91,13 +91,13 @@ void tst_PduCapture::whatIsNoPduIsShownWithItsFault()
 void tst_PduCapture::aSavedCaptureHoldsEveryPdu()
 {
     PduCapture capture;
-    capture.add(mms::Direction::Sent, statusRequest(1));
-    capture.add(mms::Direction::Received, statusRequest(2));
+    capture.add(osi::Direction::Sent, statusRequest(1));
+    capture.add(osi::Direction::Received, statusRequest(2));
     QBuffer buffer;
     QVERIFY(buffer.open(QIODevice::WriteOnly));
     QVERIFY(capture.save(buffer));
 
-    const mms::Octets header = mms::pcapng::fileHeader();
+    const mms::Octets header = osi::pcapng::fileHeader();
     const QByteArray start(reinterpret_cast<const char *>(header.data()),
                            static_cast<int>(header.size()));
     QVERIFY(buffer.data().startsWith(start));
@@ -112,7 +112,7 @@ void tst_PduCapture::aSavedCaptureHoldsEveryPdu()
 void tst_PduCapture::aPlaceThatTakesNothingIsReported()
 {
     PduCapture capture;
-    capture.add(mms::Direction::Sent, statusRequest(1));
+    capture.add(osi::Direction::Sent, statusRequest(1));
     FullDevice device;
     QVERIFY(!capture.save(device));
     QCOMPARE(device.errorString(), QStringLiteral("full"));

@@ -174,20 +174,20 @@ void TestSentences::refusalsOfAssociationsAreInTheReadersLanguage()
 {
     for (int code = 0; code <= 255; ++code) {
         const auto octet = static_cast<std::uint8_t>(code);
-        check(mms::cotp::reasonText(octet));
-        check(mms::cotp::causeText(octet));
-        check(mms::session::refusalText(octet));
-        check(mms::presentation::rejectionText(code));
-        check(mms::presentation::abortText(code));
+        check(osi::cotp::reasonText(octet));
+        check(osi::cotp::causeText(octet));
+        check(osi::session::refusalText(octet));
+        check(osi::presentation::rejectionText(code));
+        check(osi::presentation::abortText(code));
         for (const bool byProvider : {false, true}) {
             check(
-                mms::acse::refusalText(mms::acse::Result::RejectedPermanently, {byProvider, code}));
+                osi::acse::refusalText(osi::acse::Result::RejectedPermanently, {byProvider, code}));
             check(
-                mms::acse::refusalText(mms::acse::Result::RejectedTransiently, {byProvider, code}));
+                osi::acse::refusalText(osi::acse::Result::RejectedTransiently, {byProvider, code}));
         }
     }
-    check(mms::presentation::rejectionText({}));
-    check(mms::presentation::abortText({}));
+    check(osi::presentation::rejectionText({}));
+    check(osi::presentation::abortText({}));
 }
 
 void TestSentences::brokenMessagesAreInTheReadersLanguage()
@@ -217,14 +217,14 @@ void TestSentences::brokenMessagesAreInTheReadersLanguage()
                 for (const std::size_t size : {bytes.size(), at}) {
                     const std::span<const std::uint8_t> part(bytes.data(), size);
                     look(mms::decodePdu(part));
-                    look(mms::cotp::decode(part));
-                    look(mms::session::decode(part));
-                    look(mms::presentation::decodeConnect(part));
-                    look(mms::presentation::decodeAccept(part));
-                    look(mms::presentation::decodeReject(part));
-                    look(mms::presentation::decodeAbort(part));
-                    look(mms::presentation::decodeData(part));
-                    look(mms::acse::decode(part));
+                    look(osi::cotp::decode(part));
+                    look(osi::session::decode(part));
+                    look(osi::presentation::decodeConnect(part));
+                    look(osi::presentation::decodeAccept(part));
+                    look(osi::presentation::decodeReject(part));
+                    look(osi::presentation::decodeAbort(part));
+                    look(osi::presentation::decodeData(part));
+                    look(osi::acse::decode(part));
                     look(mms::decodeData(part));
                     look(mms::decodeTypeDescription(part));
                     if (QTest::currentTestFailed())
@@ -246,23 +246,23 @@ void TestSentences::mistakesInTlsSettingsAreInTheReadersLanguage()
     };
     write("empty.pem", "");
     write("broken.pem", "-----BEGIN CERTIFICATE-----\nAAAA\n-----END CERTIFICATE-----\n");
-    mms::TlsOptions options;
-    check(mms::validate(options).error().message);
+    osi::TlsOptions options;
+    check(osi::validate(options).error().message);
     options.pins = {"12"};
-    check(mms::validate(options).error().message);
+    check(osi::validate(options).error().message);
     options.pins = {std::string(64, 'a')};
     for (const char *name : {"", "none.pem", "empty.pem", "broken.pem"}) {
         options.certificateFile =
             *name ? folder.filePath(QString::fromLatin1(name)).toStdString() : std::string();
-        check(mms::validate(options).error().message);
+        check(osi::validate(options).error().message);
         options.authorityFiles.clear();
     }
     options.revocationFiles = {"list.pem"};
-    check(mms::validate(options).error().message);
+    check(osi::validate(options).error().message);
     std::swap(options.minimumVersion, options.maximumVersion);
-    options.minimumVersion = mms::TlsVersion::Tls13;
-    options.maximumVersion = mms::TlsVersion::Tls12;
-    check(mms::validate(options).error().message);
+    options.minimumVersion = osi::TlsVersion::Tls13;
+    options.maximumVersion = osi::TlsVersion::Tls12;
+    check(osi::validate(options).error().message);
 }
 
 void TestSentences::wrongNamesAreInTheReadersLanguage()

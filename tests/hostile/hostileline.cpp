@@ -79,7 +79,7 @@ Step stepOf(const mms::RequestService &request, Step unknown)
 Octets packet(mms::Bytes payload)
 {
     Octets octets;
-    mms::appendTpkt(octets, payload);
+    osi::appendTpkt(octets, payload);
     return octets;
 }
 
@@ -140,7 +140,7 @@ public:
         , m_client(std::move(client))
         , m_device(state.context)
         , m_timer(state.context)
-        , m_watcher(mms::Stack::Role::Responder, {})
+        , m_watcher(osi::Stack::Role::Responder, {})
         , m_random(61850)
     {
         asio::error_code ignored;
@@ -192,18 +192,18 @@ private:
     void watch(mms::Bytes octets)
     {
         reach(Step::Transport);
-        mms::StackOutput output = m_watcher.receive(octets);
+        osi::StackOutput output = m_watcher.receive(octets);
         for (std::size_t i = 0; i < output.events.size(); ++i) {
-            const mms::StackEvent event = output.events[i];
-            if (std::holds_alternative<mms::AssociateIndication>(event)) {
+            const osi::StackEvent event = output.events[i];
+            if (std::holds_alternative<osi::AssociateIndication>(event)) {
                 reach(Step::Associate);
-                const mms::StackOutput accepted =
+                const osi::StackOutput accepted =
                     m_watcher.accept(mms::encode(mms::InitiateResponsePdu{}));
                 output.events.insert(output.events.end(), accepted.events.begin(),
                                      accepted.events.end());
-            } else if (std::holds_alternative<mms::ReleaseIndication>(event)) {
+            } else if (std::holds_alternative<osi::ReleaseIndication>(event)) {
                 reach(Step::Conclude);
-            } else if (const auto *indication = std::get_if<mms::PduIndication>(&event)) {
+            } else if (const auto *indication = std::get_if<osi::PduIndication>(&event)) {
                 const auto pdu = mms::decodePdu(indication->pdu);
                 if (!pdu)
                     continue;
@@ -262,7 +262,7 @@ private:
 
     asio::awaitable<void> toClient()
     {
-        mms::TpktReader reader;
+        osi::TpktReader reader;
         Octets buffer(64 * 1024);
         asio::error_code error;
         while (!error) {
@@ -357,7 +357,7 @@ private:
     tcp::socket m_client;
     tcp::socket m_device;
     asio::steady_timer m_timer;
-    mms::Stack m_watcher;
+    osi::Stack m_watcher;
     std::minstd_rand m_random;
     int m_late = 0;
     bool m_isReached = false;

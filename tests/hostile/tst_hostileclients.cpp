@@ -81,7 +81,7 @@ public:
     }
 
     /// Associates as an honest client would.
-    bool associate(mms::Stack &stack, const mms::InitiateParameters &parameters = proposal())
+    bool associate(osi::Stack &stack, const mms::InitiateParameters &parameters = proposal())
     {
         send(stack.connect(mms::encode(mms::InitiateRequestPdu{parameters})).octets);
         while (!stack.isOpen() && !stack.isClosed()) {
@@ -113,7 +113,7 @@ private:
 Octets packet(mms::Bytes payload)
 {
     Octets octets;
-    mms::appendTpkt(octets, payload);
+    osi::appendTpkt(octets, payload);
     return octets;
 }
 
@@ -163,7 +163,7 @@ protected:
         return m_port;
     }
 
-    mmstest::Loop m_loop;
+    wiretest::Loop m_loop;
 
 private:
     std::unique_ptr<Program> m_program;
@@ -190,7 +190,7 @@ TEST_F(HostileClients, ConnectionsThatNeverSayAnythingTakeAFewPlacesOnly)
 
 TEST_F(HostileClients, ConnectionsThatDripOrStopHalfwayAreCutOff)
 {
-    mms::Stack stack(mms::Stack::Role::Initiator, {});
+    osi::Stack stack(osi::Stack::Role::Initiator, {});
     const Octets request = stack.connect(mms::encode(mms::InitiateRequestPdu{})).octets;
     std::vector<std::unique_ptr<RawClient>> halfway;
     for (int i = 0; i < 4; ++i) {
@@ -228,7 +228,7 @@ TEST_F(HostileClients, GarbageEndsItsOwnConnection)
 TEST_F(HostileClients, MessagesThatNeverEndAreCutOff)
 {
     RawClient client(port());
-    mms::Stack stack(mms::Stack::Role::Initiator, {});
+    osi::Stack stack(osi::Stack::Role::Initiator, {});
     ASSERT_TRUE(client.associate(stack));
     Octets part(1000, 0x30);
     part[0] = 2;
@@ -248,7 +248,7 @@ TEST_F(HostileClients, AHugeAnnouncedPduIsRefused)
           Octets{2, 0xf0, 0x80, 1, 0,    1,    0,    0x61, 0x0f, 0x30, 0x0d, 2,
                  1, 3,    0xa0, 8, 0xa0, 0x84, 0x7f, 0xff, 0xff, 0xff, 2,    1}}) {
         RawClient client(port());
-        mms::Stack stack(mms::Stack::Role::Initiator, {});
+        osi::Stack stack(osi::Stack::Role::Initiator, {});
         ASSERT_TRUE(client.associate(stack));
         client.send(packet(unit));
         // An answer, or the end of the connection; never silence.
@@ -266,7 +266,7 @@ TEST_F(HostileClients, ProposalsOutsideAllSenseAreRefusedOrCutToSense)
             parameters.maxOutstandingCalled = static_cast<std::int16_t>(calls);
             parameters.nestingLevel = static_cast<std::int8_t>(calls);
             RawClient client(port());
-            mms::Stack stack(mms::Stack::Role::Initiator, {});
+            osi::Stack stack(osi::Stack::Role::Initiator, {});
             client.associate(stack, parameters);
         }
     }
@@ -350,7 +350,7 @@ TEST_F(HostileClients, DataSetsAreMadeUpToTheLimitOnly)
 TEST_F(HostileClients, WhoNeverReadsTheAnswersIsCutOff)
 {
     RawClient client(port());
-    mms::Stack stack(mms::Stack::Role::Initiator, {});
+    osi::Stack stack(osi::Stack::Role::Initiator, {});
     ASSERT_TRUE(client.associate(stack));
     mms::ConfirmedRequestPdu request;
     request.request = mms::GetNameListRequest{

@@ -40,7 +40,7 @@ public:
             options.services.set(static_cast<std::size_t>(mms::Service::FileClose));
         }
         m_association = mms::Association::create(m_loop.executor(), std::move(options), handlers);
-        mmstest::Awaited<mms::Result<mms::InitiateParameters>> opened;
+        wiretest::Awaited<mms::Result<mms::InitiateParameters>> opened;
         m_association->connect("127.0.0.1", port, opened.setter());
         return opened.get();
     }
@@ -53,7 +53,7 @@ public:
 
     mms::CallOutcome call(mms::RequestService request)
     {
-        mmstest::Awaited<mms::CallOutcome> outcome;
+        wiretest::Awaited<mms::CallOutcome> outcome;
         m_association->call(std::move(request), std::chrono::seconds(10), outcome.setter());
         return outcome.get();
     }
@@ -110,9 +110,9 @@ private:
     };
 
     RequestHandler m_requestHandler;
-    mmstest::Loop m_loop;
+    wiretest::Loop m_loop;
     std::shared_ptr<News> m_news = std::make_shared<News>();
-    mmstest::Awaited<mms::Text> m_closed;
+    wiretest::Awaited<mms::Text> m_closed;
     std::shared_ptr<mms::Association> m_association;
 };
 

@@ -101,7 +101,7 @@ protected:
     template <typename Action>
     auto inDevice(Action action)
     {
-        mmstest::Awaited<decltype(action(*m_device))> result;
+        wiretest::Awaited<decltype(action(*m_device))> result;
         asio::post(m_device->strand(),
                    [this, action, set = result.setter()] { set(action(*m_device)); });
         return result.get();
@@ -162,7 +162,7 @@ protected:
     std::shared_ptr<const scl::Document> m_document;
     QTemporaryDir m_files;
     sim::DeviceOptions m_options;
-    mmstest::Loop m_loop;
+    wiretest::Loop m_loop;
     std::shared_ptr<sim::Device> m_device;
     std::uint16_t m_port = 0;
     std::unique_ptr<ForeignPeer> m_client;
@@ -633,7 +633,7 @@ TEST_F(ForeignClientTest, NoticesThatTheDeviceGoesAway)
 TEST_F(ForeignClientTest, GivesAPassword)
 {
     row("Password");
-    mms::acse::Authentication password;
+    osi::acse::Authentication password;
     password.value = {'s', 'e', 'c', 'r', 'e', 't'};
     m_options.server.association.link.stack.association.authentication = password;
     connect({{"password", "secret"}});
@@ -667,13 +667,13 @@ TEST_F(ForeignClientTest, CallsBySelectors)
 TEST_F(ForeignClientTest, SpeaksTls)
 {
     row("TLS with certificates of both sides");
-    mmstest::TestCertificates certificates;
+    wiretest::TestCertificates certificates;
     const auto authority = certificates.authority("Utility");
     const auto server = certificates.issue(authority, "IED1");
     const auto client = certificates.issue(authority, "SCADA");
-    m_options.server.association.link.tls = mmstest::TestCertificates::options(server, authority);
-    const auto identity = [&](const mmstest::TestCertificates::Identity &own,
-                              const mmstest::TestCertificates::Identity &trusted) {
+    m_options.server.association.link.tls = wiretest::TestCertificates::options(server, authority);
+    const auto identity = [&](const wiretest::TestCertificates::Identity &own,
+                              const wiretest::TestCertificates::Identity &trusted) {
         return QJsonObject{{"certificate", QString::fromStdString(own.certificateFile)},
                            {"key", QString::fromStdString(own.keyFile)},
                            {"authority", QString::fromStdString(trusted.certificateFile)}};

@@ -614,7 +614,7 @@ TEST_F(ForeignServerTest, ManyCallsAreOnTheWay)
 {
     row("Five outstanding calls");
     connect();
-    std::vector<mmstest::Awaited<CallOutcome>> outcomes(50);
+    std::vector<wiretest::Awaited<CallOutcome>> outcomes(50);
     for (std::size_t i = 0; i < outcomes.size(); ++i) {
         m_session->association().call(
             ReadRequest{false,
@@ -660,7 +660,7 @@ TEST_F(ForeignServerTest, Concludes)
 {
     row("Conclude and release");
     connect();
-    mmstest::Awaited<Result<void>> concluded;
+    wiretest::Awaited<Result<void>> concluded;
     m_session->association().conclude(concluded.setter());
     const auto result = concluded.get();
     EXPECT_TRUE(result.ok()) << result.error().message;
@@ -756,7 +756,7 @@ TEST_F(ForeignServerTest, FetchesAFile)
 TEST_F(ForeignServerTest, SpeaksTls)
 {
     row("TLS with certificates of both sides");
-    mmstest::TestCertificates certificates;
+    wiretest::TestCertificates certificates;
     const auto authority = certificates.authority("Utility");
     const auto server = certificates.issue(authority, "IED1");
     const auto client = certificates.issue(authority, "SCADA");
@@ -764,11 +764,11 @@ TEST_F(ForeignServerTest, SpeaksTls)
                                {"key", QString::fromStdString(server.keyFile)},
                                {"authority", QString::fromStdString(authority.certificateFile)}}}});
     AssociationOptions options;
-    options.link.tls = mmstest::TestCertificates::options(client, authority);
+    options.link.tls = wiretest::TestCertificates::options(client, authority);
     connect(options);
     EXPECT_EQ(m_session->read(bay, "GGIO1$MX$AnIn1$mag$f"), AccessResult(Data::float32(1.5F)));
     const auto stranger = certificates.authority("Stranger");
-    options.link.tls = mmstest::TestCertificates::options(client, stranger);
+    options.link.tls = wiretest::TestCertificates::options(client, stranger);
     Session distrustful;
     const auto refused = distrustful.connect(m_server->port(), options);
     ASSERT_FALSE(refused.ok());
@@ -781,7 +781,7 @@ TEST_F(ForeignServerTest, CancelIsToldOrNot)
     m_session = std::make_unique<Session>();
     const auto opened = m_session->connect(m_server->port());
     ASSERT_TRUE(opened.ok());
-    mmstest::Awaited<CallOutcome> outcome;
+    wiretest::Awaited<CallOutcome> outcome;
     // In one turn of the strand, so that no answer comes between the two.
     asio::post(m_session->association().strand(), [&] {
         const auto id = m_session->association().call(
@@ -803,8 +803,8 @@ TEST_F(ForeignServerTest, CancelIsToldOrNot)
 TEST_F(ForeignServerTest, IsDiscovered)
 {
     row("Discovery of logical devices and nodes");
-    mmstest::Loop loop;
-    mmstest::Awaited<Result<acsi::ServerDescription>> discovered;
+    wiretest::Loop loop;
+    wiretest::Awaited<Result<acsi::ServerDescription>> discovered;
     asio::co_spawn(loop.executor(),
                    describe(loop.executor(), m_server->port(), discovered.setter()),
                    asio::detached);

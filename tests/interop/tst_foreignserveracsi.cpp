@@ -80,7 +80,7 @@ protected:
     template <typename T>
     T run(asio::awaitable<T> work)
     {
-        mmstest::Awaited<T> outcome;
+        wiretest::Awaited<T> outcome;
         asio::co_spawn(m_loop.executor(), forward<T>(std::move(work), outcome.setter()),
                        asio::detached);
         return outcome.get();
@@ -149,7 +149,7 @@ protected:
     std::mutex m_mutex;
     std::condition_variable m_changed;
     std::deque<Report> m_reports;
-    mmstest::Loop m_loop;
+    wiretest::Loop m_loop;
     std::unique_ptr<ForeignServer> m_server;
     std::shared_ptr<Client> m_client;
 };

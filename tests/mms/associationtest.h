@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <atomic>
 
-namespace mmstest {
+namespace wiretest {
 
 using namespace mms;
 using namespace std::chrono_literals;
@@ -156,4 +156,4 @@ protected:
     Awaited<std::string> m_clientEnd;
 };
 
-} // namespace mmstest
+} // namespace wiretest

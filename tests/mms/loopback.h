@@ -11,7 +11,7 @@
 #include <future>
 #include <thread>
 
-namespace mmstest {
+namespace wiretest {
 
 /// An io_context that a thread runs until everything in it has ended.
 class Loop
@@ -101,13 +101,13 @@ public:
     }
 
     /// Reads on until @p stack, which is fed, says something; false at the end of the connection.
-    bool feed(mms::Stack &stack, std::vector<mms::StackEvent> &events)
+    bool feed(osi::Stack &stack, std::vector<osi::StackEvent> &events)
     {
         while (events.empty()) {
             const mms::Octets octets = receive();
             if (octets.empty())
                 return false;
-            mms::StackOutput output = stack.receive(octets);
+            osi::StackOutput output = stack.receive(octets);
             trySend(output.octets);
             events = std::move(output.events);
         }
@@ -120,4 +120,4 @@ private:
     asio::ip::tcp::socket m_socket;
 };
 
-} // namespace mmstest
+} // namespace wiretest

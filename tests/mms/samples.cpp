@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "samples.h"
 
-namespace mmstest {
+namespace wiretest {
 
 using namespace mms;
 
@@ -373,4 +373,4 @@ const std::vector<Sample> &samples()
     return all;
 }
 
-} // namespace mmstest
+} // namespace wiretest

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace mmstest {
+namespace wiretest {
 
 /// A PDU three times: as a value, as its octets and as the text of a trace.
 struct Sample
@@ -20,4 +20,4 @@ struct Sample
 /// At least one of every PDU and service, each without its optional fields and with them.
 const std::vector<Sample> &samples();
 
-} // namespace mmstest
+} // namespace wiretest

@@ -9,7 +9,7 @@
 #include <stdexcept>
 #include <thread>
 
-using namespace mmstest;
+using namespace wiretest;
 
 TEST_F(AssociationTest, InitiatesIdentifiesReadsAndConcludes)
 {

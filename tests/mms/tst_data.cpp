@@ -10,9 +10,9 @@
 #include <limits>
 
 using namespace mms;
-using mmstest::fromHex;
-using mmstest::packed;
-using mmstest::toHex;
+using wiretest::fromHex;
+using wiretest::packed;
+using wiretest::toHex;
 
 namespace {
 

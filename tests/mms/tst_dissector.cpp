@@ -16,8 +16,8 @@
 #include <sstream>
 
 using namespace mms;
-using mmstest::Sample;
-using mmstest::samples;
+using wiretest::Sample;
+using wiretest::samples;
 
 namespace {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mms/associationtest.h"
 
-using namespace mmstest;
+using namespace wiretest;
 
 namespace {
 

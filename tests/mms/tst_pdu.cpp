@@ -9,10 +9,10 @@
 #include <set>
 
 using namespace mms;
-using mmstest::fromHex;
-using mmstest::packed;
-using mmstest::Sample;
-using mmstest::toHex;
+using wiretest::fromHex;
+using wiretest::packed;
+using wiretest::Sample;
+using wiretest::toHex;
 
 namespace {
 
@@ -79,7 +79,7 @@ TEST_P(PduSamples, TheHeadIsFoundWithoutReadingTheRest)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Mms, PduSamples, testing::ValuesIn(mmstest::samples()),
+INSTANTIATE_TEST_SUITE_P(Mms, PduSamples, testing::ValuesIn(wiretest::samples()),
                          [](const auto &sample) { return sample.param.name; });
 
 TEST(Pdu, SamplesShowEveryPduAndEveryService)
@@ -87,7 +87,7 @@ TEST(Pdu, SamplesShowEveryPduAndEveryService)
     std::set<std::size_t> pdus;
     std::set<std::size_t> requests;
     std::set<std::size_t> responses;
-    for (const Sample &sample : mmstest::samples()) {
+    for (const Sample &sample : wiretest::samples()) {
         pdus.insert(sample.pdu.index());
         if (const auto *request = std::get_if<ConfirmedRequestPdu>(&sample.pdu))
             requests.insert(request->request.index());
@@ -102,7 +102,7 @@ TEST(Pdu, SamplesShowEveryPduAndEveryService)
 TEST(Pdu, AnInnerElementBeyondTheEndOfThePduIsAnError)
 {
     int checked = 0;
-    for (const Sample &sample : mmstest::samples()) {
+    for (const Sample &sample : wiretest::samples()) {
         auto bytes = fromHex(sample.hex);
         const bool isGroup = (bytes[0] & 0x20U) != 0;
         if (!isGroup || bytes[1] >= 0x80)
@@ -118,7 +118,7 @@ TEST(Pdu, AnInnerElementBeyondTheEndOfThePduIsAnError)
 TEST(Pdu, IndefiniteLengthsAroundThePduAreAccepted)
 {
     int checked = 0;
-    for (const Sample &sample : mmstest::samples()) {
+    for (const Sample &sample : wiretest::samples()) {
         const auto bytes = fromHex(sample.hex);
         const bool isGroup = (bytes[0] & 0x20U) != 0;
         if (!isGroup)

@@ -36,8 +36,8 @@ void run(const Octets &octets)
 std::vector<Octets> seeds()
 {
     std::vector<Octets> result;
-    for (const auto &sample : mmstest::samples())
-        result.push_back(mmstest::fromHex(sample.hex));
+    for (const auto &sample : wiretest::samples())
+        result.push_back(wiretest::fromHex(sample.hex));
     return result;
 }
 

@@ -5,7 +5,7 @@
 
 #include <random>
 
-using namespace mmstest;
+using namespace wiretest;
 
 namespace {
 

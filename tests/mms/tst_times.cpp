@@ -9,8 +9,8 @@
 #include <random>
 
 using namespace mms;
-using mmstest::fromHex;
-using mmstest::toHex;
+using wiretest::fromHex;
+using wiretest::toHex;
 
 namespace {
 

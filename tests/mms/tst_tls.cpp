@@ -11,7 +11,7 @@
 #include <cstdio>
 #include <mutex>
 
-using namespace mmstest;
+using namespace wiretest;
 
 namespace {
 

@@ -54,9 +54,9 @@ bool isOnlineFor(const DeviceStatus &status, std::uint64_t connections)
 class NameServer
 {
 public:
-    mms::HostLookup::Function function() const
+    osi::HostLookup::Function function() const
     {
-        return [state = m_state](const std::string &name) -> mms::HostAddresses {
+        return [state = m_state](const std::string &name) -> osi::HostAddresses {
             if (name.compare(0, 4, "slow") == 0) {
                 std::unique_lock<std::mutex> lock(state->mutex);
                 state->changed.wait(lock, [&] { return state->isOpen; });

@@ -70,7 +70,7 @@ private:
         Change change;
     };
 
-    class Hand : public mms::Interference
+    class Hand : public osi::Interference
     {
     public:
         explicit Hand(std::shared_ptr<Shared> shared)

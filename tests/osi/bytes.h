@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-namespace mmstest {
+namespace wiretest {
 
 /// Octets of hexadecimal text; blanks count for nothing.
 inline std::vector<std::uint8_t> fromHex(std::string_view text)
@@ -50,4 +50,4 @@ inline std::string packed(std::string_view text)
     return toHex(fromHex(text));
 }
 
-} // namespace mmstest
+} // namespace wiretest

@@ -15,11 +15,11 @@
 #include <map>
 #include <stdexcept>
 
-namespace mmstest {
+namespace wiretest {
 
 namespace {
 
-using mms::OpenSslPointer;
+using osi::OpenSslPointer;
 using Key = OpenSslPointer<EVP_PKEY, EVP_PKEY_free>;
 using Certificate = OpenSslPointer<X509, X509_free>;
 using File = OpenSslPointer<BIO, BIO_free>;
@@ -187,13 +187,13 @@ std::string TestCertificates::file(const std::string &name, const std::string &c
     return path;
 }
 
-mms::TlsOptions TestCertificates::options(const Identity &own, const Identity &authority)
+osi::TlsOptions TestCertificates::options(const Identity &own, const Identity &authority)
 {
-    mms::TlsOptions options;
+    osi::TlsOptions options;
     options.certificateFile = own.certificateFile;
     options.keyFile = own.keyFile;
     options.authorityFiles = {authority.certificateFile};
     return options;
 }
 
-} // namespace mmstest
+} // namespace wiretest

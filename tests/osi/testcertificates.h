@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace mmstest {
+namespace wiretest {
 
 /// From now; hours before now are negative.
 struct Validity
@@ -49,10 +49,10 @@ public:
     /// A file with this content.
     std::string file(const std::string &name, const std::string &content);
 
-    static mms::TlsOptions options(const Identity &own, const Identity &authority);
+    static osi::TlsOptions options(const Identity &own, const Identity &authority);
 
 private:
     std::unique_ptr<Private> d;
 };
 
-} // namespace mmstest
+} // namespace wiretest

@@ -6,11 +6,11 @@
 
 namespace {
 
-using namespace mms;
-using namespace mms::acse;
-using mmstest::fromHex;
-using mmstest::packed;
-using mmstest::toHex;
+using namespace osi;
+using namespace osi::acse;
+using wiretest::fromHex;
+using wiretest::packed;
+using wiretest::toHex;
 
 const Octets pdu = fromHex("a800");
 

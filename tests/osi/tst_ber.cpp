@@ -7,10 +7,10 @@
 
 #include <limits>
 
-using namespace mms;
-using namespace mms::ber;
-using mmstest::fromHex;
-using mmstest::toHex;
+using namespace osi;
+using namespace osi::ber;
+using wiretest::fromHex;
+using wiretest::toHex;
 
 namespace {
 

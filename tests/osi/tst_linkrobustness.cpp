@@ -9,7 +9,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 
 namespace {
 
-using namespace mms;
+using namespace osi;
 
 /// One whole association from both ends, each message with the layer it is for in front: what the
 /// function under test takes. It aborts when a layer contradicts itself.

@@ -4,14 +4,14 @@
 
 #include <gtest/gtest.h>
 
-using mms::Direction;
-using mmstest::fromHex;
-using mmstest::packed;
-using mmstest::toHex;
+using osi::Direction;
+using wiretest::fromHex;
+using wiretest::packed;
+using wiretest::toHex;
 
 TEST(Pcapng, AFileBeginsWithASectionAndAnInterfaceOfExportedPdus)
 {
-    EXPECT_EQ(toHex(mms::pcapng::fileHeader()),
+    EXPECT_EQ(toHex(osi::pcapng::fileHeader()),
               packed("0a0d0d0a 1c000000 4d3c2b1a 0100 0000 ffffffffffffffff 1c000000"
                      "01000000 20000000 fc00 0000 00000000 0900 0100 09000000 00000000 20000000"));
 }
@@ -22,8 +22,8 @@ TEST(Pcapng, APacketHoldsItsTimeItsDirectionAndThePdu)
     const std::string head = packed("06000000 3c000000 00000000 01000000 00f2052a 0e000000 0e000000"
                                     "000c0004 6d6d7300 00000000 8b00 0000 0200 0400");
     const std::string tail = packed("00000000 3c000000");
-    EXPECT_EQ(toHex(mms::pcapng::packet(Direction::Received, time, fromHex("8b00"))),
+    EXPECT_EQ(toHex(osi::pcapng::packet(Direction::Received, time, fromHex("8b00"))),
               head + "01000000" + tail);
-    EXPECT_EQ(toHex(mms::pcapng::packet(Direction::Sent, time, fromHex("8b00"))),
+    EXPECT_EQ(toHex(osi::pcapng::packet(Direction::Sent, time, fromHex("8b00"))),
               head + "02000000" + tail);
 }

@@ -8,11 +8,11 @@
 
 namespace {
 
-using namespace mms;
-using namespace mms::presentation;
-using mmstest::fromHex;
-using mmstest::packed;
-using mmstest::toHex;
+using namespace osi;
+using namespace osi::presentation;
+using wiretest::fromHex;
+using wiretest::packed;
+using wiretest::toHex;
 
 constexpr std::string_view connectOctets = "31 40 a003800101 a239 8102 0001 8202 0001"
                                            "a423 300f 020101 0604 52010001 3004 0602 5101"

@@ -6,11 +6,11 @@
 
 namespace {
 
-using namespace mms;
-using namespace mms::session;
-using mmstest::fromHex;
-using mmstest::packed;
-using mmstest::toHex;
+using namespace osi;
+using namespace osi::session;
+using wiretest::fromHex;
+using wiretest::packed;
+using wiretest::toHex;
 
 using Role = session::Connection::Role;
 using State = session::Connection::State;

@@ -6,10 +6,10 @@
 
 namespace {
 
-using namespace mms;
-using mmstest::fromHex;
-using mmstest::packed;
-using mmstest::toHex;
+using namespace osi;
+using wiretest::fromHex;
+using wiretest::packed;
+using wiretest::toHex;
 
 template <typename T, typename Actions>
 const T *find(const Actions &actions)
@@ -229,7 +229,7 @@ TEST(Cotp, AnUnknownSelectorIsRefusedWithItsReason)
     const auto ended = initiator.receive(find<cotp::Send>(answer)->octets);
     ASSERT_EQ(ended.size(), 1U);
     EXPECT_EQ(ended.front(), cotp::Action(cotp::Closed{
-                                 mms::say("The peer does not know the transport selector.")}));
+                                 osi::say("The peer does not know the transport selector.")}));
 }
 
 TEST(Cotp, AUnitThatDoesNotBelongToTheStateEndsTheConnectionWithAnErrorUnit)
@@ -260,7 +260,7 @@ TEST(Cotp, AUnitThatDoesNotBelongToTheStateEndsTheConnectionWithAnErrorUnit)
         ASSERT_NE(find<cotp::Closed>(actions), nullptr) << row.unit;
         EXPECT_EQ(find<cotp::Closed>(actions)->reason.english().back(), '.');
         EXPECT_EQ(end.state(), cotp::Connection::State::Closed);
-        EXPECT_TRUE(end.networkClosed(mms::verbatim("late")).empty());
+        EXPECT_TRUE(end.networkClosed(osi::verbatim("late")).empty());
     }
 }
 

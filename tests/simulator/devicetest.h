@@ -24,7 +24,7 @@ public:
         handlers.closed = m_closed.setter();
         m_association =
             mms::Association::create(std::move(executor), std::move(options), std::move(handlers));
-        mmstest::Awaited<mms::Result<mms::InitiateParameters>> opened;
+        wiretest::Awaited<mms::Result<mms::InitiateParameters>> opened;
         m_association->connect("127.0.0.1", port, opened.setter());
         m_opened = opened.get();
     }
@@ -41,7 +41,7 @@ public:
 
     mms::CallOutcome call(mms::RequestService request)
     {
-        mmstest::Awaited<mms::CallOutcome> outcome;
+        wiretest::Awaited<mms::CallOutcome> outcome;
         m_association->call(std::move(request), std::chrono::seconds(20), outcome.setter());
         return outcome.get();
     }
@@ -73,7 +73,7 @@ public:
     }
 
 private:
-    mmstest::Awaited<mms::Text> m_closed;
+    wiretest::Awaited<mms::Text> m_closed;
     std::shared_ptr<mms::Association> m_association;
     mms::Result<mms::InitiateParameters> m_opened = mms::Error{mms::verbatim("not yet"), 0};
 };

@@ -26,7 +26,7 @@ protected:
         return error ? error->errorClass : ErrorClass::Others;
     }
 
-    mmstest::Loop loop;
+    wiretest::Loop loop;
     simtest::DescribedIed ied = simtest::bay();
     RunningDevice running{loop.executor(), *ied};
     Caller caller{loop.executor(), running.port};
@@ -269,7 +269,7 @@ public:
     struct Seen
     {
         std::vector<sim::Client *> clients;
-        mmstest::Awaited<bool> left;
+        wiretest::Awaited<bool> left;
     };
     explicit WatchingEngine(std::shared_ptr<Seen> seen)
         : m_seen(std::move(seen))
@@ -297,7 +297,7 @@ TEST_F(DeviceTest, enginesHearOfClientsAndReportToThem)
     device->addEngine(std::make_unique<WatchingEngine>(seen));
     const auto port = device->start();
     ASSERT_TRUE(port.ok());
-    mmstest::Awaited<InformationReport> report;
+    wiretest::Awaited<InformationReport> report;
     Association::Handlers handlers;
     handlers.report = report.setter();
     {
@@ -331,11 +331,11 @@ TEST_F(DeviceTest, aRequestFilterMayTakeRequests)
 
 TEST_F(DeviceTest, stoppingEndsTheAssociations)
 {
-    mmstest::Awaited<mms::Text> closed;
+    wiretest::Awaited<mms::Text> closed;
     Association::Handlers handlers;
     handlers.closed = closed.setter();
     const auto association = Association::create(loop.executor(), {}, handlers);
-    mmstest::Awaited<Result<InitiateParameters>> opened;
+    wiretest::Awaited<Result<InitiateParameters>> opened;
     association->connect("127.0.0.1", running.port, opened.setter());
     ASSERT_TRUE(opened.get().ok());
     running.device->stop();

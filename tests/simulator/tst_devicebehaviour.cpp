@@ -87,7 +87,7 @@ protected:
     template <typename Action>
     void inDevice(Action action)
     {
-        mmstest::Awaited<bool> done;
+        wiretest::Awaited<bool> done;
         asio::dispatch(m_running.device->strand(), [&, finished = done.setter()] {
             action(*m_running.device);
             finished(true);
@@ -128,7 +128,7 @@ protected:
         return Data::bitString(mms::BitString::fromText(bits));
     }
 
-    mmstest::Loop m_loop;
+    wiretest::Loop m_loop;
     simtest::DescribedIed m_ied = simtest::controlledBay();
     simtest::RunningDevice m_running{m_loop.executor(), *m_ied};
 
@@ -142,7 +142,7 @@ private:
     template <typename Executor, typename T>
     static T await(const Executor &executor, asio::awaitable<T> awaitable)
     {
-        mmstest::Awaited<T> result;
+        wiretest::Awaited<T> result;
         asio::co_spawn(executor, deliver(std::move(awaitable), result.setter()), asio::use_future)
             .get();
         return result.get();
@@ -255,7 +255,7 @@ TEST_F(DeviceBehaviourTest, ABlockIsFreeOnceItsClientHasLeft)
         Caller first(m_loop.executor(), m_running.port);
         EXPECT_EQ(write(first, "LLN0$RP$meas$RptEna", Data::boolean(true)), "");
         EXPECT_NE(write(second, "LLN0$RP$meas$RptEna", Data::boolean(true)), "");
-        mmstest::Awaited<mms::Result<void>> concluded;
+        wiretest::Awaited<mms::Result<void>> concluded;
         first.association().conclude(concluded.setter());
         EXPECT_TRUE(concluded.get().ok());
     }

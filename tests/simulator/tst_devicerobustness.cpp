@@ -88,7 +88,7 @@ private:
         case 10:
             return file();
         default: {
-            const auto &sample = mmstest::samples()[below(mmstest::samples().size())].pdu;
+            const auto &sample = wiretest::samples()[below(wiretest::samples().size())].pdu;
             const auto *pdu = std::get_if<mms::ConfirmedRequestPdu>(&sample);
             return pdu ? pdu->request : mms::RequestService(mms::StatusRequest());
         }
@@ -257,7 +257,7 @@ protected:
         std::filesystem::temp_directory_path() /
         ("devicerobustness-" + std::to_string(std::random_device{}()));
     std::atomic<int> m_brokenReports{0};
-    mmstest::Loop m_loop;
+    wiretest::Loop m_loop;
     simtest::DescribedIed m_ied = simtest::controlledBay();
     simtest::RunningDevice m_running{m_loop.executor(), *m_ied, options()};
 };

@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <fstream>
 
-using namespace mmstest;
+using namespace wiretest;
 using sim::Faults;
 
 namespace {

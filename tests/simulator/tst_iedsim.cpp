@@ -47,8 +47,8 @@ protected:
                                                                     : mms::Data();
     }
 
-    mmstest::TestCertificates m_files;
-    mmstest::Loop m_loop;
+    wiretest::TestCertificates m_files;
+    wiretest::Loop m_loop;
 };
 
 } // namespace
@@ -185,7 +185,7 @@ TEST_F(Iedsim, WhatCannotBeServedIsToldInOneLine)
 
 TEST_F(Iedsim, ATakenPortIsTold)
 {
-    const mmstest::RawPeer other;
+    const wiretest::RawPeer other;
     const std::string port = std::to_string(other.port());
     EXPECT_EQ(complaintOf({device, "--port", port}, 1),
               "BAY1: Cannot listen on 127.0.0.1 port " + port + ": Address already in use.");
@@ -231,9 +231,9 @@ TEST_F(Iedsim, OneClientCannotTakeAllPlacesWithConnectionsThatAreNoAssociations)
 {
     Program program({device, "--port", "0", "--max-half-open", "1"});
     const std::uint16_t port = program.port();
-    mmstest::RawPeer silent;
+    wiretest::RawPeer silent;
     silent.connect(port);
-    mmstest::RawPeer second;
+    wiretest::RawPeer second;
     second.connect(port);
     EXPECT_TRUE(second.receive().empty());
     EXPECT_NE(program.lineWith("connection refused: The peer 127.0.0.1 has 1 connections"), "");
@@ -282,7 +282,7 @@ TEST_F(Iedsim, WithTlsOnlyACertificateOfATrustedAuthorityGetsIn)
     const std::uint16_t port = program.port();
     EXPECT_FALSE(Caller(m_loop.executor(), port).isOpen());
     mms::AssociationOptions options;
-    options.link.tls = mmstest::TestCertificates::options(client, authority);
+    options.link.tls = wiretest::TestCertificates::options(client, authority);
     EXPECT_TRUE(Caller(m_loop.executor(), port, options).isOpen());
 }
 

@@ -197,7 +197,7 @@ TEST_P(FileTest, everyIedIsServedWithTheNamesAndTypesOfTheFile)
 {
     const auto file = scl::readFile(std::string(SCL_FOLDER) + "/" + GetParam());
     ASSERT_TRUE(file.document) << file.errorText;
-    mmstest::Loop loop;
+    wiretest::Loop loop;
     for (const scl::Ied &ied : file.document->ieds) {
         simtest::RunningDevice running(loop.executor(), ied);
         simtest::Caller caller(loop.executor(), running.port);
