@@ -92,7 +92,7 @@ void checkTls(QStringList &faults, const TlsConfiguration &tls)
 {
     if (!tls.enabled)
         return;
-    const mms::Result<void> result = osi::validate(tls.toOptions());
+    const osi::Result<void> result = osi::validate(tls.toOptions());
     if (!result)
         faults.append(text(result.error().message));
 }

@@ -32,7 +32,7 @@ public:
 
     explicit PduCapture(std::size_t limit = defaultLimit);
 
-    void add(osi::Direction direction, mms::Bytes pdu);
+    void add(osi::Direction direction, osi::Bytes pdu);
     void clear();
 
     /// Writes what is there as a capture that protocol analysers open (pcapng). False when the
