@@ -136,9 +136,9 @@ asio::awaitable<void> describe(asio::any_io_executor executor, std::uint16_t por
     finished(std::move(description));
 }
 
-acse::Authentication password(std::string_view text)
+osi::acse::Authentication password(std::string_view text)
 {
-    acse::Authentication result;
+    osi::acse::Authentication result;
     result.value.assign(text.begin(), text.end());
     return result;
 }
@@ -713,8 +713,8 @@ TEST_F(ForeignServerTest, IsCalledBySelectors)
     options.link.stack.transport.localSelector = {0x00, 0x02};
     options.link.stack.session.localSelector = {0x00, 0x02};
     options.link.stack.presentation.localSelector = {0x00, 0x00, 0x00, 0x02};
-    options.link.stack.association.own = {acse::ObjectIdentifier{1, 3, 9999, 106}, 33};
-    options.link.stack.association.peer = {acse::ObjectIdentifier{1, 1, 1, 999}, 12};
+    options.link.stack.association.own = {osi::acse::ObjectIdentifier{1, 3, 9999, 106}, 33};
+    options.link.stack.association.peer = {osi::acse::ObjectIdentifier{1, 1, 1, 999}, 12};
     connect(options);
     EXPECT_TRUE(m_session->read(bay, "GGIO1$MX$AnIn1$mag$f").ok());
 }

@@ -114,12 +114,12 @@ protected:
     }
 
     /// Accepts the association of the client that is connecting, and then stands still.
-    void acceptByHand(RawPeer &peer, Stack &stack, const std::vector<Service> &services = {})
+    void acceptByHand(RawPeer &peer, osi::Stack &stack, const std::vector<Service> &services = {})
     {
         peer.accept();
-        std::vector<StackEvent> events;
+        std::vector<osi::StackEvent> events;
         ASSERT_TRUE(peer.feed(stack, events));
-        const auto *asked = std::get_if<AssociateIndication>(&events.front());
+        const auto *asked = std::get_if<osi::AssociateIndication>(&events.front());
         ASSERT_NE(asked, nullptr);
         const auto pdu = decodePdu(asked->pdu);
         ASSERT_TRUE(pdu.ok());
@@ -129,7 +129,7 @@ protected:
         peer.send(stack.accept(encode(InitiateResponsePdu{parameters})).octets);
     }
 
-    void connectToRawPeer(RawPeer &peer, Stack &stack)
+    void connectToRawPeer(RawPeer &peer, osi::Stack &stack)
     {
         Association::Handlers handlers;
         handlers.closed = [tell = m_clientEnd.setter()](const mms::Text &reason) {

@@ -166,7 +166,7 @@ TEST_F(AssociationTest, OnlyTheRightPasswordOpensAnAssociation)
 {
     ServerOptions server;
     server.association.link.stack.association.authentication =
-        acse::Authentication{acse::passwordMechanism, fromHex("736563726574")};
+        osi::acse::Authentication{osi::acse::passwordMechanism, fromHex("736563726574")};
     const std::uint16_t port = startServer(server);
     const auto without = connect(port, quickOptions());
     ASSERT_FALSE(without.ok());
@@ -174,7 +174,7 @@ TEST_F(AssociationTest, OnlyTheRightPasswordOpensAnAssociation)
               std::string::npos);
     AssociationOptions wrong = quickOptions();
     wrong.link.stack.association.authentication =
-        acse::Authentication{acse::passwordMechanism, fromHex("00")};
+        osi::acse::Authentication{osi::acse::passwordMechanism, fromHex("00")};
     EXPECT_FALSE(connect(port, wrong).ok());
     EXPECT_EQ(m_device->openings, 0);
     AssociationOptions right = quickOptions();
@@ -188,13 +188,13 @@ TEST_F(AssociationTest, AServerTakesTheSmallPduSizeThatAPeerProposes)
     const std::uint16_t port = startServer();
     RawPeer peer;
     peer.connect(port);
-    Stack stack(Stack::Role::Initiator, {});
+    osi::Stack stack(osi::Stack::Role::Initiator, {});
     InitiateParameters parameters;
     parameters.maxPduSize = 512;
     peer.send(stack.connect(encode(InitiateRequestPdu{parameters})).octets);
-    std::vector<StackEvent> events;
+    std::vector<osi::StackEvent> events;
     ASSERT_TRUE(peer.feed(stack, events));
-    const auto *confirm = std::get_if<AssociateConfirm>(&events.front());
+    const auto *confirm = std::get_if<osi::AssociateConfirm>(&events.front());
     ASSERT_TRUE(confirm);
     const auto pdu = decodePdu(confirm->pdu);
     ASSERT_TRUE(pdu.ok());
@@ -208,14 +208,14 @@ TEST_F(AssociationTest, AServerRefusesAPduSizeThatIsTooSmallToWorkWith)
     const std::uint16_t port = startServer();
     RawPeer peer;
     peer.connect(port);
-    Stack stack(Stack::Role::Initiator, {});
+    osi::Stack stack(osi::Stack::Role::Initiator, {});
     InitiateParameters parameters;
     parameters.maxPduSize = 63;
     peer.send(stack.connect(encode(InitiateRequestPdu{parameters})).octets);
-    std::vector<StackEvent> events;
+    std::vector<osi::StackEvent> events;
     ASSERT_TRUE(peer.feed(stack, events));
-    ASSERT_TRUE(std::holds_alternative<AssociateRefused>(events.front()));
-    const auto pdu = decodePdu(std::get<AssociateRefused>(events.front()).pdu);
+    ASSERT_TRUE(std::holds_alternative<osi::AssociateRefused>(events.front()));
+    const auto pdu = decodePdu(std::get<osi::AssociateRefused>(events.front()).pdu);
     ASSERT_TRUE(pdu.ok());
     EXPECT_EQ(std::get<InitiateErrorPdu>(*pdu).error.errorClass, ErrorClass::Initiate);
     EXPECT_TRUE(peer.receive().empty());
@@ -251,12 +251,12 @@ TEST_F(AssociationTest, AServerCutsOffAPeerThatDoesNotReadAnswers)
     server.association.maxOutstandingCalled = 2000;
     RawPeer peer;
     peer.connect(startServer(server));
-    Stack stack(Stack::Role::Initiator, {});
+    osi::Stack stack(osi::Stack::Role::Initiator, {});
     InitiateParameters parameters;
     parameters.maxPduSize = 200000;
     parameters.maxOutstandingCalling = 2000;
     peer.send(stack.connect(encode(InitiateRequestPdu{parameters})).octets);
-    std::vector<StackEvent> events;
+    std::vector<osi::StackEvent> events;
     ASSERT_TRUE(peer.feed(stack, events));
     Octets requests;
     for (std::uint32_t i = 0; i < 200; ++i) {
@@ -270,7 +270,7 @@ TEST_F(AssociationTest, AServerCutsOffAPeerThatDoesNotReadAnswers)
 TEST_F(AssociationTest, TheFirstCallAfterASilenceIsOnItsWayBeforeTheCallerGoesOn)
 {
     RawPeer peer;
-    Stack stack(Stack::Role::Responder, {});
+    osi::Stack stack(osi::Stack::Role::Responder, {});
     connectToRawPeer(peer, stack);
     std::promise<void> arrived;
     Awaited<bool> wasInTime;
@@ -281,9 +281,9 @@ TEST_F(AssociationTest, TheFirstCallAfterASilenceIsOnItsWayBeforeTheCallerGoesOn
                        m_client->call(IdentifyRequest(), 20s, [](const CallOutcome &) {});
                        set(hasArrived.wait_for(10s) == std::future_status::ready);
                    });
-    std::vector<StackEvent> events;
+    std::vector<osi::StackEvent> events;
     ASSERT_TRUE(peer.feed(stack, events));
-    const auto head = peekPdu(std::get<PduIndication>(events.front()).pdu);
+    const auto head = peekPdu(std::get<osi::PduIndication>(events.front()).pdu);
     ASSERT_TRUE(head && head->invokeId);
     std::this_thread::sleep_for(20ms); // the silence
     const IdentifyResponse who{"v", "m", "r", {}};
@@ -299,9 +299,9 @@ TEST_F(AssociationTest, WhatTheNetworkDoesNotTakeAtOnceFollowsWhole)
     // More than the buffers of both ends hold.
     constexpr std::int32_t pduSize = 14000000;
     RawPeer peer;
-    StackOptions patient;
+    osi::StackOptions patient;
     patient.transport.maxMessage = static_cast<std::size_t>(pduSize);
-    Stack stack(Stack::Role::Responder, patient);
+    osi::Stack stack(osi::Stack::Role::Responder, patient);
     AssociationOptions options = quickOptions();
     options.maxPduSize = pduSize;
     m_client = Association::create(m_loop.executor(), options, {});
@@ -320,10 +320,10 @@ TEST_F(AssociationTest, WhatTheNetworkDoesNotTakeAtOnceFollowsWhole)
     m_client->call(IdentifyRequest(), 20s, second.setter());
     std::vector<Pdu> arrived;
     while (arrived.size() < 2) {
-        std::vector<StackEvent> events;
+        std::vector<osi::StackEvent> events;
         ASSERT_TRUE(peer.feed(stack, events));
-        for (const StackEvent &event : events) {
-            auto pdu = decodePdu(std::get<PduIndication>(event).pdu);
+        for (const osi::StackEvent &event : events) {
+            auto pdu = decodePdu(std::get<osi::PduIndication>(event).pdu);
             ASSERT_TRUE(pdu.ok());
             arrived.push_back(*std::move(pdu));
         }
@@ -374,7 +374,7 @@ TEST_F(AssociationTest, ARefusedConnectionIsSaidWithHostAndPort)
 TEST_F(AssociationTest, AConclusionThatIsNotAnsweredEndsByItsDeadline)
 {
     RawPeer peer;
-    Stack stack(Stack::Role::Responder, {});
+    osi::Stack stack(osi::Stack::Role::Responder, {});
     Association::Handlers handlers;
     AssociationOptions options = quickOptions();
     options.link.releaseTimeout = 150ms;
@@ -393,7 +393,7 @@ TEST_F(AssociationTest, AConclusionThatIsNotAnsweredEndsByItsDeadline)
 TEST_F(AssociationTest, LateAndUnknownAnswersAreCountedAndDropped)
 {
     RawPeer peer;
-    Stack stack(Stack::Role::Responder, {});
+    osi::Stack stack(osi::Stack::Role::Responder, {});
     connectToRawPeer(peer, stack);
     EXPECT_EQ(failureOf(call(StatusRequest(), 50ms)), CallFailure::Kind::TimedOut);
     const IdentifyResponse who{"v", "m", "r", {}};
@@ -403,9 +403,9 @@ TEST_F(AssociationTest, LateAndUnknownAnswersAreCountedAndDropped)
     m_client->call(IdentifyRequest(), 10s, outcome.setter());
     peer.send(stack.send(encode(ConfirmedResponsePdu{2, who})).octets);
     // The answer may overtake the call; then it is unknown, and the next one comes.
-    std::vector<StackEvent> events;
+    std::vector<osi::StackEvent> events;
     while (peer.feed(stack, events)) {
-        const auto head = peekPdu(std::get<PduIndication>(events.back()).pdu);
+        const auto head = peekPdu(std::get<osi::PduIndication>(events.back()).pdu);
         if (head && head->invokeId == 2U)
             break;
         events.clear();
@@ -419,17 +419,17 @@ TEST_F(AssociationTest, LateAndUnknownAnswersAreCountedAndDropped)
 TEST_F(AssociationTest, AMalformedAnswerIsRejectedAndEndsOnlyItsCall)
 {
     RawPeer peer;
-    Stack stack(Stack::Role::Responder, {});
+    osi::Stack stack(osi::Stack::Role::Responder, {});
     connectToRawPeer(peer, stack);
     Awaited<CallOutcome> outcome;
     m_client->call(IdentifyRequest(), 10s, outcome.setter());
-    std::vector<StackEvent> events;
+    std::vector<osi::StackEvent> events;
     ASSERT_TRUE(peer.feed(stack, events));
     peer.send(stack.send(fromHex("a107 020101 a202 8005")).octets);
     EXPECT_EQ(failureOf(outcome.get()), CallFailure::Kind::Malformed);
     events.clear();
     ASSERT_TRUE(peer.feed(stack, events));
-    const auto rejected = decodePdu(std::get<PduIndication>(events.front()).pdu);
+    const auto rejected = decodePdu(std::get<osi::PduIndication>(events.front()).pdu);
     ASSERT_TRUE(rejected.ok());
     EXPECT_EQ(std::get<RejectPdu>(*rejected),
               (RejectPdu{1, RejectedPdu::ConfirmedResponse, rejectcodes::responseInvalidResult}));
@@ -440,34 +440,34 @@ TEST_F(AssociationTest, AMalformedRequestIsRejectedByTheServer)
 {
     RawPeer peer;
     peer.connect(startServer());
-    Stack stack(Stack::Role::Initiator, {});
+    osi::Stack stack(osi::Stack::Role::Initiator, {});
     InitiateParameters parameters;
     parameters.maxPduSize = 65000;
     peer.send(stack.connect(encode(InitiateRequestPdu{parameters})).octets);
-    std::vector<StackEvent> events;
+    std::vector<osi::StackEvent> events;
     ASSERT_TRUE(peer.feed(stack, events));
     peer.send(stack.send(fromHex("a006 020109 a401 00")).octets);
     events.clear();
     ASSERT_TRUE(peer.feed(stack, events));
-    const auto rejected = decodePdu(std::get<PduIndication>(events.front()).pdu);
+    const auto rejected = decodePdu(std::get<osi::PduIndication>(events.front()).pdu);
     ASSERT_TRUE(rejected.ok());
     EXPECT_EQ(std::get<RejectPdu>(*rejected),
               (RejectPdu{9, RejectedPdu::ConfirmedRequest, rejectcodes::requestInvalidArgument}));
     peer.send(stack.send(fromHex("bf7f00")).octets);
     events.clear();
     ASSERT_TRUE(peer.feed(stack, events));
-    const auto unknown = decodePdu(std::get<PduIndication>(events.front()).pdu);
+    const auto unknown = decodePdu(std::get<osi::PduIndication>(events.front()).pdu);
     EXPECT_EQ(std::get<RejectPdu>(*unknown).rejected, RejectedPdu::PduError);
 }
 
 TEST_F(AssociationTest, ALostConnectionEndsAllCallsAndSaysSo)
 {
     RawPeer peer;
-    Stack stack(Stack::Role::Responder, {});
+    osi::Stack stack(osi::Stack::Role::Responder, {});
     connectToRawPeer(peer, stack);
     Awaited<CallOutcome> outcome;
     m_client->call(IdentifyRequest(), 60s, outcome.setter());
-    std::vector<StackEvent> events;
+    std::vector<osi::StackEvent> events;
     ASSERT_TRUE(peer.feed(stack, events));
     peer.close();
     EXPECT_EQ(failureOf(outcome.get()), CallFailure::Kind::Lost);
@@ -478,8 +478,8 @@ TEST_F(AssociationTest, TheTraceSeesEveryPduInBothDirections)
 {
     AssociationOptions options = quickOptions();
     std::vector<std::string> lines;
-    options.link.trace = [&lines](Direction direction, Bytes pdu) {
-        lines.push_back((direction == Direction::Sent ? "> " : "< ") +
+    options.link.trace = [&lines](osi::Direction direction, Bytes pdu) {
+        lines.push_back((direction == osi::Direction::Sent ? "> " : "< ") +
                         std::to_string(peekPdu(pdu)->type));
     };
     ASSERT_TRUE(connect(startServer(), options).ok());
@@ -521,15 +521,15 @@ TEST_F(AssociationTest, AHandlerThatThrowsEndsItsAssociationAndNoOther)
 TEST_F(AssociationTest, ConcludingWaitsForTheCallsThatAreUnderWay)
 {
     RawPeer peer;
-    Stack stack{Stack::Role::Responder, {}};
+    osi::Stack stack{osi::Stack::Role::Responder, {}};
     connectToRawPeer(peer, stack);
-    std::vector<StackEvent> events;
+    std::vector<osi::StackEvent> events;
     const auto next = [&]() -> Pdu {
         while (events.empty()) {
             if (!peer.feed(stack, events))
                 return RejectPdu();
         }
-        const auto pdu = decodePdu(std::get<PduIndication>(events.front()).pdu);
+        const auto pdu = decodePdu(std::get<osi::PduIndication>(events.front()).pdu);
         events.erase(events.begin());
         return pdu.ok() ? *pdu : Pdu();
     };
@@ -585,11 +585,11 @@ TEST_F(AssociationTest, AServerConcludesAfterItsAnswers)
     const std::uint16_t port = startServer();
     RawPeer peer;
     peer.connect(port);
-    Stack stack{Stack::Role::Initiator, {}};
+    osi::Stack stack{osi::Stack::Role::Initiator, {}};
     peer.send(stack.connect(encode(InitiateRequestPdu{InitiateParameters()})).octets);
-    std::vector<StackEvent> events;
+    std::vector<osi::StackEvent> events;
     ASSERT_TRUE(peer.feed(stack, events));
-    ASSERT_TRUE(std::holds_alternative<AssociateConfirm>(events.front()));
+    ASSERT_TRUE(std::holds_alternative<osi::AssociateConfirm>(events.front()));
     events.clear();
     peer.send(stack.send(encode(ConfirmedRequestPdu{7, IdentifyRequest()})).octets);
     peer.send(stack.send(encode(ConcludeRequestPdu())).octets);
@@ -597,8 +597,8 @@ TEST_F(AssociationTest, AServerConcludesAfterItsAnswers)
     association->respond(invokeId, IdentifyResponse());
     std::vector<Pdu> answers;
     while (answers.size() < 2 && peer.feed(stack, events)) {
-        for (const StackEvent &event : events)
-            answers.push_back(*decodePdu(std::get<PduIndication>(event).pdu));
+        for (const osi::StackEvent &event : events)
+            answers.push_back(*decodePdu(std::get<osi::PduIndication>(event).pdu));
         events.clear();
     }
     ASSERT_EQ(answers.size(), 2U);
@@ -678,15 +678,16 @@ TEST(HostLookup, ANameIsAskedForOnceAtATime)
     const auto slow = [&asked, opened](const std::string &) {
         ++asked;
         opened.wait();
-        return HostAddresses{{asio::ip::make_address("10.1.2.3")}, {}};
+        return osi::HostAddresses{{asio::ip::make_address("10.1.2.3")}, {}};
     };
-    Awaited<HostAddresses> first;
-    Awaited<HostAddresses> second;
-    const HostLookup one("twice.example", slow, first.setter());
-    const HostLookup two("twice.example", slow, second.setter());
+    Awaited<osi::HostAddresses> first;
+    Awaited<osi::HostAddresses> second;
+    const osi::HostLookup one("twice.example", slow, first.setter());
+    const osi::HostLookup two("twice.example", slow, second.setter());
     {
         // Nobody hears of what was let go.
-        const HostLookup forgotten("twice.example", slow, [](const HostAddresses &) { FAIL(); });
+        const osi::HostLookup forgotten("twice.example", slow,
+                                        [](const osi::HostAddresses &) { FAIL(); });
     }
     gate.set_value();
     EXPECT_EQ(first.get().addresses, second.get().addresses);
@@ -695,10 +696,10 @@ TEST(HostLookup, ANameIsAskedForOnceAtATime)
 
 TEST(HostLookup, AFunctionThatThrowsFoundNothing)
 {
-    Awaited<HostAddresses> found;
-    const HostLookup lookup(
+    Awaited<osi::HostAddresses> found;
+    const osi::HostLookup lookup(
         "broken.example",
-        [](const std::string &) -> HostAddresses { throw std::runtime_error("it broke"); },
+        [](const std::string &) -> osi::HostAddresses { throw std::runtime_error("it broke"); },
         found.setter());
     EXPECT_EQ(found.get().error, "it broke");
 }

@@ -52,7 +52,7 @@ protected:
             if (!m_peer.feed(m_stack, m_events))
                 return ConcludeResponsePdu();
         }
-        const auto pdu = decodePdu(std::get<PduIndication>(m_events.front()).pdu);
+        const auto pdu = decodePdu(std::get<osi::PduIndication>(m_events.front()).pdu);
         m_events.erase(m_events.begin());
         EXPECT_TRUE(pdu.ok());
         return pdu.ok() ? *pdu : Pdu();
@@ -74,8 +74,8 @@ protected:
 
     std::shared_ptr<PatientDevice> m_patient = std::make_shared<PatientDevice>();
     RawPeer m_peer;
-    Stack m_stack{Stack::Role::Responder, {}};
-    std::vector<StackEvent> m_events;
+    osi::Stack m_stack{osi::Stack::Role::Responder, {}};
+    std::vector<osi::StackEvent> m_events;
 };
 
 const IdentifyResponse somebody{"v", "m", "r", {}};
@@ -157,8 +157,8 @@ TEST_F(Cancel, AServerGivesUpARequestAndDropsItsLateAnswer)
     server.association.services.set(static_cast<std::size_t>(Service::Cancel));
     std::vector<std::string> lines;
     AssociationOptions options = quickOptions();
-    options.link.trace = [&lines](Direction direction, Bytes pdu) {
-        if (direction == Direction::Received)
+    options.link.trace = [&lines](osi::Direction direction, Bytes pdu) {
+        if (direction == osi::Direction::Received)
             lines.push_back(toText(*decodePdu(pdu)));
     };
     ASSERT_TRUE(connect(startServer(server), options).ok());
@@ -197,16 +197,16 @@ TEST_F(Cancel, AServerSaysThatItDoesNotKnowTheInvokeId)
 {
     RawPeer peer;
     peer.connect(startServer());
-    Stack stack(Stack::Role::Initiator, {});
+    osi::Stack stack(osi::Stack::Role::Initiator, {});
     InitiateParameters parameters;
     parameters.maxPduSize = 65000;
     peer.send(stack.connect(encode(InitiateRequestPdu{parameters})).octets);
-    std::vector<StackEvent> events;
+    std::vector<osi::StackEvent> events;
     ASSERT_TRUE(peer.feed(stack, events));
     peer.send(stack.send(encode(CancelRequestPdu{77})).octets);
     events.clear();
     ASSERT_TRUE(peer.feed(stack, events));
-    const auto pdu = decodePdu(std::get<PduIndication>(events.front()).pdu);
+    const auto pdu = decodePdu(std::get<osi::PduIndication>(events.front()).pdu);
     ASSERT_TRUE(pdu.ok());
     const CancelErrorPdu unknown{
         77, {ErrorClass::Cancel, serviceerrors::cancelInvokeIdUnknown, {}, {}, {}}};

@@ -46,10 +46,10 @@ protected:
         std::string folder = (std::filesystem::temp_directory_path() / "dissector-XXXXXX").string();
         ASSERT_NE(mkdtemp(folder.data()), nullptr);
         const std::string capture = folder + "/capture.pcapng";
-        Octets octets = pcapng::fileHeader();
+        Octets octets = osi::pcapng::fileHeader();
         for (const Sample &sample : samples()) {
-            const Octets packet = pcapng::packet(
-                Direction::Sent, std::chrono::system_clock::time_point(), encode(sample.pdu));
+            const Octets packet = osi::pcapng::packet(
+                osi::Direction::Sent, std::chrono::system_clock::time_point(), encode(sample.pdu));
             octets.insert(octets.end(), packet.begin(), packet.end());
         }
         std::ofstream(capture, std::ios::binary)

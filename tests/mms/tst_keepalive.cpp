@@ -46,15 +46,15 @@ protected:
             if (!m_peer.feed(m_stack, m_events))
                 return ConcludeResponsePdu();
         }
-        const auto pdu = decodePdu(std::get<PduIndication>(m_events.front()).pdu);
+        const auto pdu = decodePdu(std::get<osi::PduIndication>(m_events.front()).pdu);
         m_events.erase(m_events.begin());
         return pdu.ok() ? *pdu : Pdu();
     }
 
     std::shared_ptr<CountingDevice> m_counting = std::make_shared<CountingDevice>();
     RawPeer m_peer;
-    Stack m_stack{Stack::Role::Responder, {}};
-    std::vector<StackEvent> m_events;
+    osi::Stack m_stack{osi::Stack::Role::Responder, {}};
+    std::vector<osi::StackEvent> m_events;
 };
 
 AssociationOptions keepingAlive(std::chrono::milliseconds silence)

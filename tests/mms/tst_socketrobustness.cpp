@@ -54,7 +54,7 @@ void mutate(Generator &generator, Octets &octets)
 }
 
 /// Some PDUs of the samples, each changed now and then, as they stand inside an association.
-Octets traffic(Generator &generator, Stack &stack)
+Octets traffic(Generator &generator, osi::Stack &stack)
 {
     Octets stream;
     for (std::size_t count = 1 + below(generator, 8); count > 0; --count) {
@@ -85,7 +85,7 @@ protected:
     {
         RawPeer peer;
         peer.connect(port);
-        Stack stack(Stack::Role::Initiator, {});
+        osi::Stack stack(osi::Stack::Role::Initiator, {});
         const std::size_t kind = below(generator, 4);
         Octets first = stack.connect(initiateRequest()).octets;
         if (kind == 0)
@@ -94,9 +94,9 @@ protected:
             mutate(generator, first);
         peer.trySend(first);
         if (kind > 1) {
-            std::vector<StackEvent> events;
+            std::vector<osi::StackEvent> events;
             const bool opened = peer.feed(stack, events) &&
-                                std::holds_alternative<AssociateConfirm>(events.front());
+                                std::holds_alternative<osi::AssociateConfirm>(events.front());
             if (opened)
                 peer.trySend(traffic(generator, stack));
         }
@@ -112,14 +112,14 @@ protected:
         Awaited<Result<InitiateParameters>> opened;
         m_client->connect("127.0.0.1", peer.port(), opened.setter());
         peer.accept();
-        Stack stack(Stack::Role::Responder, {});
+        osi::Stack stack(osi::Stack::Role::Responder, {});
         const std::size_t kind = below(generator, 4);
-        std::vector<StackEvent> events;
+        std::vector<osi::StackEvent> events;
         if (kind == 0) {
             peer.trySend(randomOctets(generator));
         } else if (peer.feed(stack, events) &&
-                   std::holds_alternative<AssociateIndication>(events.front())) {
-            const auto pdu = decodePdu(std::get<AssociateIndication>(events.front()).pdu);
+                   std::holds_alternative<osi::AssociateIndication>(events.front())) {
+            const auto pdu = decodePdu(std::get<osi::AssociateIndication>(events.front()).pdu);
             Octets answer =
                 stack
                     .accept(

@@ -47,7 +47,7 @@ public:
         return reason;
     }
 
-    std::optional<TlsPeer> peer;
+    std::optional<osi::TlsPeer> peer;
 
 private:
     std::mutex m_mutex;
@@ -114,20 +114,23 @@ protected:
     }
     static void TearDownTestSuite() { s_certificates.reset(); }
 
-    static TlsOptions deviceOptions() { return TestCertificates::options(s_device, s_authority); }
-    static TlsOptions operatorOptions()
+    static osi::TlsOptions deviceOptions()
+    {
+        return TestCertificates::options(s_device, s_authority);
+    }
+    static osi::TlsOptions operatorOptions()
     {
         return TestCertificates::options(s_operator, s_authority);
     }
 
-    std::uint16_t startSecure(const TlsOptions &tls)
+    std::uint16_t startSecure(const osi::TlsOptions &tls)
     {
         ServerOptions options;
         options.association.link.tls = tls;
         return startServer(options);
     }
 
-    Result<InitiateParameters> connectSecure(std::uint16_t port, const TlsOptions &tls)
+    Result<InitiateParameters> connectSecure(std::uint16_t port, const osi::TlsOptions &tls)
     {
         AssociationOptions options = quickOptions();
         options.link.tls = tls;
@@ -135,7 +138,8 @@ protected:
     }
 
     /// Why no association comes about, as the client and the server say it.
-    std::pair<std::string, std::string> refusals(const TlsOptions &server, const TlsOptions &client)
+    std::pair<std::string, std::string> refusals(const osi::TlsOptions &server,
+                                                 const osi::TlsOptions &client)
     {
         const std::uint16_t port = startSecure(server);
         const auto opened = connectSecure(port, client);
@@ -146,16 +150,16 @@ protected:
         return {opened.ok() ? std::string() : opened.error().message.english(), std::move(theirs)};
     }
 
-    void expectMutualProof(TlsVersion version, const std::string &name)
+    void expectMutualProof(osi::TlsVersion version, const std::string &name)
     {
-        const auto deviceMark = certificateFingerprint(s_device.certificateFile);
-        const auto operatorMark = certificateFingerprint(s_operator.certificateFile);
+        const auto deviceMark = osi::certificateFingerprint(s_device.certificateFile);
+        const auto operatorMark = osi::certificateFingerprint(s_operator.certificateFile);
         ASSERT_TRUE(deviceMark.ok() && operatorMark.ok());
-        TlsOptions tls = operatorOptions();
+        osi::TlsOptions tls = operatorOptions();
         tls.minimumVersion = tls.maximumVersion = version;
         const auto opened = connectSecure(startSecure(deviceOptions()), tls);
         ASSERT_TRUE(opened.ok()) << opened.error().message;
-        Awaited<std::optional<TlsPeer>> seen;
+        Awaited<std::optional<osi::TlsPeer>> seen;
         asio::post(m_client->strand(),
                    [client = m_client, done = seen.setter()] { done(client->tlsPeer()); });
         const auto peer = seen.get();
@@ -175,9 +179,9 @@ protected:
         EXPECT_EQ(m_tlsDevice->peer->fingerprint, *operatorMark);
     }
 
-    void expectInvalid(const TlsOptions &options, const std::string &part)
+    void expectInvalid(const osi::TlsOptions &options, const std::string &part)
     {
-        const auto valid = validate(options);
+        const auto valid = osi::validate(options);
         ASSERT_FALSE(valid.ok()) << part;
         EXPECT_NE(valid.error().message.english().find(part), std::string::npos)
             << valid.error().message;
@@ -205,12 +209,12 @@ bool contains(const std::string &text, const std::string &part)
 
 TEST_F(Tls, BothEndsProveWhoTheyAreWithVersion12)
 {
-    expectMutualProof(TlsVersion::Tls12, "TLSv1.2");
+    expectMutualProof(osi::TlsVersion::Tls12, "TLSv1.2");
 }
 
 TEST_F(Tls, BothEndsProveWhoTheyAreWithVersion13)
 {
-    expectMutualProof(TlsVersion::Tls13, "TLSv1.3");
+    expectMutualProof(osi::TlsVersion::Tls13, "TLSv1.3");
 }
 
 TEST_F(Tls, LongAnswersAndManyCallsPassThroughTls)
@@ -249,7 +253,7 @@ TEST_F(Tls, AnIntermediateAuthorityIsFollowedToTheTrustedOne)
 TEST_F(Tls, AnUnknownIssuerIsRefusedAndNamed)
 {
     const Identity stranger = s_certificates->authority("Stranger");
-    TlsOptions server =
+    osi::TlsOptions server =
         TestCertificates::options(s_certificates->issue(stranger, "Impostor"), s_authority);
     const auto [client, theirs] = refusals(server, operatorOptions());
     EXPECT_TRUE(contains(client, "\"CN=Impostor\" was issued by \"CN=Stranger\", which is not "
@@ -261,9 +265,9 @@ TEST_F(Tls, AnUnknownIssuerIsRefusedAndNamed)
 TEST_F(Tls, AClientOfAnUnknownIssuerIsRefusedAndToldSoInBothVersions)
 {
     const Identity stranger = s_certificates->authority("Stranger");
-    TlsOptions tls =
+    osi::TlsOptions tls =
         TestCertificates::options(s_certificates->issue(stranger, "Intruder"), s_authority);
-    for (const TlsVersion version : {TlsVersion::Tls12, TlsVersion::Tls13}) {
+    for (const osi::TlsVersion version : {osi::TlsVersion::Tls12, osi::TlsVersion::Tls13}) {
         tls.minimumVersion = tls.maximumVersion = version;
         const auto [client, theirs] = refusals(deviceOptions(), tls);
         EXPECT_TRUE(contains(client, "does not trust its issuer") ||
@@ -276,7 +280,7 @@ TEST_F(Tls, AClientOfAnUnknownIssuerIsRefusedAndToldSoInBothVersions)
 
 TEST_F(Tls, ARevokedCertificateIsRefused)
 {
-    TlsOptions tls = operatorOptions();
+    osi::TlsOptions tls = operatorOptions();
     tls.revocationFiles = {s_certificates->revocationList(s_authority, {s_device})};
     const auto [client, theirs] = refusals(deviceOptions(), tls);
     EXPECT_EQ(client, "The peer's certificate \"CN=Device\" has been revoked.");
@@ -285,7 +289,7 @@ TEST_F(Tls, ARevokedCertificateIsRefused)
 
 TEST_F(Tls, ACertificateThatIsNotInTheRevocationListIsAccepted)
 {
-    TlsOptions tls = operatorOptions();
+    osi::TlsOptions tls = operatorOptions();
     tls.revocationFiles = {s_certificates->revocationList(s_authority, {s_operator})};
     const auto opened = connectSecure(startSecure(deviceOptions()), tls);
     EXPECT_TRUE(opened.ok()) << opened.error().message;
@@ -294,7 +298,7 @@ TEST_F(Tls, ACertificateThatIsNotInTheRevocationListIsAccepted)
 TEST_F(Tls, ARevocationListThatIsMissingOrOutOfDateIsSaid)
 {
     const Identity other = s_certificates->authority("Other");
-    TlsOptions tls = operatorOptions();
+    osi::TlsOptions tls = operatorOptions();
     tls.revocationFiles = {s_certificates->revocationList(other, {})};
     tls.authorityFiles.push_back(other.certificateFile);
     EXPECT_TRUE(contains(refusals(deviceOptions(), tls).first,
@@ -306,7 +310,7 @@ TEST_F(Tls, ARevocationListThatIsMissingOrOutOfDateIsSaid)
 
 TEST_F(Tls, ARevocationListThatIsLoadedAgainCountsFromThenOn)
 {
-    TlsOptions server = deviceOptions();
+    osi::TlsOptions server = deviceOptions();
     const std::string list = s_certificates->revocationList(s_authority, {});
     server.revocationFiles = {list};
     const std::uint16_t port = startSecure(server);
@@ -350,10 +354,10 @@ TEST_F(Tls, AClientWithoutACertificateIsRefused)
 
 TEST_F(Tls, OnlyAPinnedPeerIsAccepted)
 {
-    const auto mark = certificateFingerprint(s_device.certificateFile);
-    const auto otherMark = certificateFingerprint(s_operator.certificateFile);
+    const auto mark = osi::certificateFingerprint(s_device.certificateFile);
+    const auto otherMark = osi::certificateFingerprint(s_operator.certificateFile);
     ASSERT_TRUE(mark.ok() && otherMark.ok());
-    TlsOptions tls = operatorOptions();
+    osi::TlsOptions tls = operatorOptions();
     tls.pins = {*otherMark};
     const auto [client, theirs] = refusals(deviceOptions(), tls);
     EXPECT_TRUE(contains(client, "\"CN=Device\" is not one of those that are pinned; its "
@@ -375,10 +379,10 @@ TEST_F(Tls, APinnedCertificateNeedsNoAuthorityAndAnotherIsRefused)
 {
     const Identity alone = s_certificates->authority("Alone");
     const Identity device = s_certificates->issue(alone, "Device");
-    TlsOptions tls = operatorOptions();
+    osi::TlsOptions tls = operatorOptions();
     tls.authorityFiles.clear();
-    tls.pins = {*certificateFingerprint(device.certificateFile)};
-    const TlsOptions server = TestCertificates::options(device, s_authority);
+    tls.pins = {*osi::certificateFingerprint(device.certificateFile)};
+    const osi::TlsOptions server = TestCertificates::options(device, s_authority);
     const auto opened = connectSecure(startSecure(server), tls);
     EXPECT_TRUE(opened.ok()) << opened.error().message;
     m_client->abort(mms::verbatim("The test is over."));
@@ -391,8 +395,8 @@ TEST_F(Tls, TheNameOfTheServerIsCheckedWhereOneIsAskedFor)
 {
     const Identity named =
         s_certificates->issue(s_authority, "Named", {}, "DNS:bay1.example,IP:127.0.0.1");
-    const TlsOptions server = TestCertificates::options(named, s_authority);
-    TlsOptions tls = operatorOptions();
+    const osi::TlsOptions server = TestCertificates::options(named, s_authority);
+    osi::TlsOptions tls = operatorOptions();
     for (const char *right : {"bay1.example", "127.0.0.1"}) {
         tls.peerName = right;
         const auto opened = connectSecure(startSecure(server), tls);
@@ -411,8 +415,8 @@ TEST_F(Tls, TheNameOfTheServerIsCheckedWhereOneIsAskedFor)
 TEST_F(Tls, TheCertificateOfAnotherHostIsRefusedUnlessToldOtherwise)
 {
     const Identity other = s_certificates->issue(s_authority, "Other", {}, "DNS:bay9.example");
-    const TlsOptions server = TestCertificates::options(other, s_authority);
-    TlsOptions tls = operatorOptions();
+    const osi::TlsOptions server = TestCertificates::options(other, s_authority);
+    osi::TlsOptions tls = operatorOptions();
     m_tlsDevice->openings = 0;
     EXPECT_TRUE(
         contains(refusals(server, tls).first, "is not made out to the host that was asked for"));
@@ -425,17 +429,17 @@ TEST_F(Tls, TheCertificateOfAnotherHostIsRefusedUnlessToldOtherwise)
     m_server->stop();
     // A certificate that is pinned says itself whose it is.
     tls.acceptsOtherNames = false;
-    tls.pins = {*certificateFingerprint(other.certificateFile)};
+    tls.pins = {*osi::certificateFingerprint(other.certificateFile)};
     const auto pinned = connectSecure(startSecure(server), tls);
     EXPECT_TRUE(pinned.ok()) << pinned.error().message;
 }
 
 TEST_F(Tls, EndsWithoutACommonVersionSaySo)
 {
-    TlsOptions server = deviceOptions();
-    server.minimumVersion = TlsVersion::Tls13;
-    TlsOptions tls = operatorOptions();
-    tls.maximumVersion = TlsVersion::Tls12;
+    osi::TlsOptions server = deviceOptions();
+    server.minimumVersion = osi::TlsVersion::Tls13;
+    osi::TlsOptions tls = operatorOptions();
+    tls.maximumVersion = osi::TlsVersion::Tls12;
     const auto [client, theirs] = refusals(server, tls);
     EXPECT_EQ(client, "The peer and this side have no version of TLS in common.");
     EXPECT_EQ(theirs, "The peer and this side have no version of TLS in common.");
@@ -502,7 +506,7 @@ TEST_F(Tls, APeerThatIsSlowWithItsHandshakeIsCutOff)
 
 TEST_F(Tls, FilesThatAreMissingOrHoldSomethingElseAreNamed)
 {
-    TlsOptions tls = operatorOptions();
+    osi::TlsOptions tls = operatorOptions();
     tls.certificateFile = "/nowhere/own.pem";
     expectInvalid(tls, "The file \"/nowhere/own.pem\" with the own certificate cannot be opened: "
                        "No such file or directory");
@@ -535,7 +539,7 @@ TEST_F(Tls, FilesThatAreMissingOrHoldSomethingElseAreNamed)
 
 TEST_F(Tls, OptionsThatDoNotFitEachOtherAreSaid)
 {
-    TlsOptions tls = operatorOptions();
+    osi::TlsOptions tls = operatorOptions();
     tls.keyFile = s_device.keyFile;
     expectInvalid(tls, "does not fit the certificate");
     tls = operatorOptions();
@@ -545,29 +549,29 @@ TEST_F(Tls, OptionsThatDoNotFitEachOtherAreSaid)
     tls.pins = {"12:34"};
     expectInvalid(tls, "\"12:34\" is not a SHA-256 fingerprint");
     tls = operatorOptions();
-    tls.minimumVersion = TlsVersion::Tls13;
-    tls.maximumVersion = TlsVersion::Tls12;
+    tls.minimumVersion = osi::TlsVersion::Tls13;
+    tls.maximumVersion = osi::TlsVersion::Tls12;
     expectInvalid(tls, "is above the highest one");
     tls = TestCertificates::options(s_certificates->issue(s_authority, "Early", inTheFuture),
                                     s_authority);
     expectInvalid(tls, "is valid only from 20");
-    EXPECT_TRUE(validate(operatorOptions()).ok());
+    EXPECT_TRUE(osi::validate(operatorOptions()).ok());
 }
 
 TEST_F(Tls, AnEncryptedKeyNeedsItsPassword)
 {
-    TlsOptions tls = operatorOptions();
+    osi::TlsOptions tls = operatorOptions();
     tls.keyFile = s_certificates->encryptedKey(s_operator, "open sesame");
     expectInvalid(tls, "is encrypted, and no password is given");
     tls.keyPassword = "wrong";
     expectInvalid(tls, "does not open with the password that is given");
     tls.keyPassword = "open sesame";
-    EXPECT_TRUE(validate(tls).ok());
+    EXPECT_TRUE(osi::validate(tls).ok());
 }
 
 TEST_F(Tls, BadOptionsEndTheAttemptBeforeAnythingIsSent)
 {
-    TlsOptions tls = operatorOptions();
+    osi::TlsOptions tls = operatorOptions();
     tls.certificateFile = "/nowhere/own.pem";
     const auto opened = connectSecure(startServer(), tls);
     ASSERT_FALSE(opened.ok());
