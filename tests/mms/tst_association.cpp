@@ -661,13 +661,13 @@ TEST_F(AssociationTest, ConnectionsOfOnePeerThatAreNoAssociationsAreLimited)
 
 TEST(HostLookup, AddressesAreTakenAsTheyAre)
 {
-    EXPECT_EQ(numericAddress("10.1.2.3"), asio::ip::make_address("10.1.2.3"));
-    EXPECT_EQ(numericAddress("::1"), asio::ip::make_address("::1"));
-    EXPECT_EQ(numericAddress("[::1]"), asio::ip::make_address("::1"));
-    EXPECT_FALSE(numericAddress("bay1.example"));
-    EXPECT_FALSE(numericAddress("10.1.2"));
-    EXPECT_FALSE(numericAddress("[]"));
-    EXPECT_FALSE(numericAddress(""));
+    EXPECT_EQ(osi::numericAddress("10.1.2.3"), asio::ip::make_address("10.1.2.3"));
+    EXPECT_EQ(osi::numericAddress("::1"), asio::ip::make_address("::1"));
+    EXPECT_EQ(osi::numericAddress("[::1]"), asio::ip::make_address("::1"));
+    EXPECT_FALSE(osi::numericAddress("bay1.example"));
+    EXPECT_FALSE(osi::numericAddress("10.1.2"));
+    EXPECT_FALSE(osi::numericAddress("[]"));
+    EXPECT_FALSE(osi::numericAddress(""));
 }
 
 TEST(HostLookup, ANameIsAskedForOnceAtATime)
