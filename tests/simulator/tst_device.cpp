@@ -252,8 +252,8 @@ TEST_F(DeviceTest, aPasswordIsDemandedWhereOneIsSet)
 {
     auto options = localOptions();
     const std::string password = "secret";
-    const acse::Authentication authentication{acse::passwordMechanism,
-                                              {password.begin(), password.end()}};
+    const osi::acse::Authentication authentication{acse::passwordMechanism,
+                                                   {password.begin(), password.end()}};
     options.server.association.link.stack.association.authentication = authentication;
     RunningDevice guarded(loop.executor(), *ied, options);
     EXPECT_FALSE(Caller(loop.executor(), guarded.port).isOpen());

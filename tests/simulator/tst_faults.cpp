@@ -198,8 +198,8 @@ TEST_F(FaultsTest, OversizeAnswersAreLongerThanWasAgreed)
     AssociationOptions options = quickOptions();
     options.maxPduSize = 2000;
     std::atomic<std::size_t> longest{0};
-    options.link.trace = [&longest](Direction direction, Bytes pdu) {
-        if (direction == Direction::Received)
+    options.link.trace = [&longest](osi::Direction direction, Bytes pdu) {
+        if (direction == osi::Direction::Received)
             longest = std::max<std::size_t>(longest, pdu.size());
     };
     ASSERT_TRUE(connect(port, options).ok());
