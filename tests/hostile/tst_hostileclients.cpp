@@ -172,7 +172,7 @@ private:
     std::size_t m_before = 0;
 };
 
-TEST_F(HostileClients, ConnectionsThatNeverSayAnythingTakeAFewPlacesOnly)
+TEST_F(HostileClients, connectionsThatNeverSayAnythingTakeAFewPlacesOnly)
 {
     std::vector<std::unique_ptr<RawClient>> flood;
     for (int i = 0; i < 400; ++i)
@@ -188,7 +188,7 @@ TEST_F(HostileClients, ConnectionsThatNeverSayAnythingTakeAFewPlacesOnly)
         EXPECT_EQ(flood[i]->drain(), 0U);
 }
 
-TEST_F(HostileClients, ConnectionsThatDripOrStopHalfwayAreCutOff)
+TEST_F(HostileClients, connectionsThatDripOrStopHalfwayAreCutOff)
 {
     osi::Stack stack(osi::Stack::Role::Initiator, {});
     const Octets request = stack.connect(mms::encode(mms::InitiateRequestPdu{})).octets;
@@ -211,7 +211,7 @@ TEST_F(HostileClients, ConnectionsThatDripOrStopHalfwayAreCutOff)
         each->drain();
 }
 
-TEST_F(HostileClients, GarbageEndsItsOwnConnection)
+TEST_F(HostileClients, garbageEndsItsOwnConnection)
 {
     std::minstd_rand random(61850);
     for (int i = 0; i < 300; ++i) {
@@ -225,7 +225,7 @@ TEST_F(HostileClients, GarbageEndsItsOwnConnection)
     }
 }
 
-TEST_F(HostileClients, MessagesThatNeverEndAreCutOff)
+TEST_F(HostileClients, messagesThatNeverEndAreCutOff)
 {
     RawClient client(port());
     osi::Stack stack(osi::Stack::Role::Initiator, {});
@@ -241,7 +241,7 @@ TEST_F(HostileClients, MessagesThatNeverEndAreCutOff)
     EXPECT_LT(sent, std::size_t{32} << 20);
 }
 
-TEST_F(HostileClients, AHugeAnnouncedPduIsRefused)
+TEST_F(HostileClients, aHugeAnnouncedPduIsRefused)
 {
     for (const Octets &unit :
          {Octets{2, 0xf0, 0x80, 1, 0, 1, 0, 0x61, 0x84, 0x7f, 0xff, 0xff, 0xff, 0x30},
@@ -256,7 +256,7 @@ TEST_F(HostileClients, AHugeAnnouncedPduIsRefused)
     }
 }
 
-TEST_F(HostileClients, ProposalsOutsideAllSenseAreRefusedOrCutToSense)
+TEST_F(HostileClients, proposalsOutsideAllSenseAreRefusedOrCutToSense)
 {
     for (const std::int32_t size : {-1, 0, 1, 100, 999, 0x7fffffff}) {
         for (const int calls : {-32768, -1, 0, 32767}) {
@@ -272,7 +272,7 @@ TEST_F(HostileClients, ProposalsOutsideAllSenseAreRefusedOrCutToSense)
     }
 }
 
-TEST_F(HostileClients, AbsurdRequestsAreAnsweredOrRefused)
+TEST_F(HostileClients, absurdRequestsAreAnsweredOrRefused)
 {
     const std::string domain = "BAY1E1IO";
     const auto item = [&domain](const std::string &name) {
@@ -323,7 +323,7 @@ TEST_F(HostileClients, AbsurdRequestsAreAnsweredOrRefused)
     }
 }
 
-TEST_F(HostileClients, DataSetsAreMadeUpToTheLimitOnly)
+TEST_F(HostileClients, dataSetsAreMadeUpToTheLimitOnly)
 {
     Caller caller(m_loop.executor(), port());
     ASSERT_TRUE(caller.isOpen());
@@ -347,7 +347,7 @@ TEST_F(HostileClients, DataSetsAreMadeUpToTheLimitOnly)
     EXPECT_FALSE(mms::answerOf<mms::DefineNamedVariableListResponse>(caller.call(large)));
 }
 
-TEST_F(HostileClients, WhoNeverReadsTheAnswersIsCutOff)
+TEST_F(HostileClients, whoNeverReadsTheAnswersIsCutOff)
 {
     RawClient client(port());
     osi::Stack stack(osi::Stack::Role::Initiator, {});

@@ -183,35 +183,35 @@ QJsonArray texts(std::initializer_list<const char *> list)
 
 } // namespace
 
-TEST_F(ForeignClientTest, Associates)
+TEST_F(ForeignClientTest, associates)
 {
     row("Initiate");
     connect();
     EXPECT_EQ(ask("state").toInt(), 2);
 }
 
-TEST_F(ForeignClientTest, AsksForTheStatus)
+TEST_F(ForeignClientTest, asksForTheStatus)
 {
     row("Status");
     connect();
     EXPECT_EQ(ask("status").toArray(), (QJsonArray{0, 0}));
 }
 
-TEST_F(ForeignClientTest, AsksForTheIdentity)
+TEST_F(ForeignClientTest, asksForTheIdentity)
 {
     row("Identify");
     connect();
     EXPECT_EQ(ask("identify").toArray(), texts({"simulated", "bay", "2.0"}));
 }
 
-TEST_F(ForeignClientTest, ListsDomains)
+TEST_F(ForeignClientTest, listsDomains)
 {
     row("GetNameList: domains");
     connect();
     EXPECT_EQ(ask("domains").toArray(), texts({"BAY1CTRL", "BAY1MANY"}));
 }
 
-TEST_F(ForeignClientTest, ListsTheVariablesOfADomain)
+TEST_F(ForeignClientTest, listsTheVariablesOfADomain)
 {
     row("GetNameList: variables of a domain");
     connect();
@@ -222,7 +222,7 @@ TEST_F(ForeignClientTest, ListsTheVariablesOfADomain)
         EXPECT_TRUE(found.contains(name)) << name;
 }
 
-TEST_F(ForeignClientTest, ListsNamesPageAfterPage)
+TEST_F(ForeignClientTest, listsNamesPageAfterPage)
 {
     row("GetNameList: continue after a name");
     m_options.server.association.maxPduSize = 1000;
@@ -239,7 +239,7 @@ TEST_F(ForeignClientTest, ListsNamesPageAfterPage)
         EXPECT_EQ(found[i].toString().toStdString(), expected[static_cast<std::size_t>(i)]);
 }
 
-TEST_F(ForeignClientTest, ListsTheVariablesOfTheDevice)
+TEST_F(ForeignClientTest, listsTheVariablesOfTheDevice)
 {
     row("GetNameList: variables of the VMD");
     connect();
@@ -247,7 +247,7 @@ TEST_F(ForeignClientTest, ListsTheVariablesOfTheDevice)
     worksBut("it has none");
 }
 
-TEST_F(ForeignClientTest, ListsNamedLists)
+TEST_F(ForeignClientTest, listsNamedLists)
 {
     row("GetNameList: named variable lists");
     connect();
@@ -257,7 +257,7 @@ TEST_F(ForeignClientTest, ListsNamedLists)
     EXPECT_EQ(ask("lists", {{"scope", "vmd"}}).toArray(), QJsonArray());
 }
 
-TEST_F(ForeignClientTest, ListsJournals)
+TEST_F(ForeignClientTest, listsJournals)
 {
     row("GetNameList: journals");
     connect();
@@ -265,7 +265,7 @@ TEST_F(ForeignClientTest, ListsJournals)
     worksBut("it has none");
 }
 
-TEST_F(ForeignClientTest, AsksForTypes)
+TEST_F(ForeignClientTest, asksForTypes)
 {
     row("GetVariableAccessAttributes");
     connect();
@@ -276,7 +276,7 @@ TEST_F(ForeignClientTest, AsksForTypes)
     }
 }
 
-TEST_F(ForeignClientTest, ReadsOneVariable)
+TEST_F(ForeignClientTest, readsOneVariable)
 {
     row("Read: one variable");
     connect();
@@ -285,7 +285,7 @@ TEST_F(ForeignClientTest, ReadsOneVariable)
     EXPECT_EQ(ask("read", item("GGIO1$MX$Nothing")), (QJsonValue(QJsonObject{{"error", 10}})));
 }
 
-TEST_F(ForeignClientTest, ReadsAListOfVariables)
+TEST_F(ForeignClientTest, readsAListOfVariables)
 {
     row("Read: list of variables");
     connect();
@@ -300,7 +300,7 @@ TEST_F(ForeignClientTest, ReadsAListOfVariables)
                                   QJsonObject{{"bits", "01"}}}));
 }
 
-TEST_F(ForeignClientTest, ReadsAHundredVariablesAtOnce)
+TEST_F(ForeignClientTest, readsAHundredVariablesAtOnce)
 {
     row("Read: 100 variables in one request");
     connect();
@@ -314,7 +314,7 @@ TEST_F(ForeignClientTest, ReadsAHundredVariablesAtOnce)
               QJsonValue(expected));
 }
 
-TEST_F(ForeignClientTest, ReadsANamedList)
+TEST_F(ForeignClientTest, readsANamedList)
 {
     row("Read: named variable list");
     connect();
@@ -326,7 +326,7 @@ TEST_F(ForeignClientTest, ReadsANamedList)
                           toJson(Data::float32(1000000))}));
 }
 
-TEST_F(ForeignClientTest, ReadsElementsOfAnArray)
+TEST_F(ForeignClientTest, readsElementsOfAnArray)
 {
     row("Read: elements of an array (alternate access)");
     connect();
@@ -341,7 +341,7 @@ TEST_F(ForeignClientTest, ReadsElementsOfAnArray)
     EXPECT_EQ(ask("read", some), toJson(Data::array({Data::float32(2), Data::float32(3)})));
 }
 
-TEST_F(ForeignClientTest, ReadsAComponent)
+TEST_F(ForeignClientTest, readsAComponent)
 {
     row("Read: component of a structure (alternate access)");
     connect();
@@ -354,7 +354,7 @@ TEST_F(ForeignClientTest, ReadsAComponent)
     EXPECT_EQ(ask("read", ofElement), toJson(Data::float32(0)));
 }
 
-TEST_F(ForeignClientTest, WritesOneVariableOfEveryType)
+TEST_F(ForeignClientTest, writesOneVariableOfEveryType)
 {
     row("Write: one variable");
     connect();
@@ -396,7 +396,7 @@ TEST_F(ForeignClientTest, WritesOneVariableOfEveryType)
     EXPECT_EQ(refusal("write", measured), "data access error 3");
 }
 
-TEST_F(ForeignClientTest, WritesAListOfVariables)
+TEST_F(ForeignClientTest, writesAListOfVariables)
 {
     row("Write: list of variables");
     connect();
@@ -411,7 +411,7 @@ TEST_F(ForeignClientTest, WritesAListOfVariables)
     EXPECT_EQ(held("GGIO2$SP$All$f32"), toJson(Data::float32(6)));
 }
 
-TEST_F(ForeignClientTest, WritesANamedList)
+TEST_F(ForeignClientTest, writesANamedList)
 {
     row("Write: named variable list");
     connect();
@@ -424,7 +424,7 @@ TEST_F(ForeignClientTest, WritesANamedList)
     EXPECT_EQ(held("GGIO2$SP$All$i32"), toJson(Data::integer(-7)));
 }
 
-TEST_F(ForeignClientTest, WritesElementsOfAnArray)
+TEST_F(ForeignClientTest, writesElementsOfAnArray)
 {
     row("Write: elements of an array (alternate access)");
     connect();
@@ -438,7 +438,7 @@ TEST_F(ForeignClientTest, WritesElementsOfAnArray)
                   {Data::float32(0), Data::float32(8), Data::float32(9), Data::float32(0)})));
 }
 
-TEST_F(ForeignClientTest, KeepsANamedListOfADomain)
+TEST_F(ForeignClientTest, keepsANamedListOfADomain)
 {
     row("Define, Get, DeleteNamedVariableList: domain");
     connect();
@@ -459,7 +459,7 @@ TEST_F(ForeignClientTest, KeepsANamedListOfADomain)
                      .toBool());
 }
 
-TEST_F(ForeignClientTest, KeepsANamedListOfTheAssociation)
+TEST_F(ForeignClientTest, keepsANamedListOfTheAssociation)
 {
     row("Define, Get, DeleteNamedVariableList: association");
     connect();
@@ -473,7 +473,7 @@ TEST_F(ForeignClientTest, KeepsANamedListOfTheAssociation)
     EXPECT_TRUE(ask("delete", {{"name", "mine"}}).toBool());
 }
 
-TEST_F(ForeignClientTest, IsRefusedANamedListOfTheDevice)
+TEST_F(ForeignClientTest, isRefusedANamedListOfTheDevice)
 {
     row("Define, Get, DeleteNamedVariableList: VMD");
     connect();
@@ -484,7 +484,7 @@ TEST_F(ForeignClientTest, IsRefusedANamedListOfTheDevice)
     worksBut("our simulated IED refuses them (" + reason + ")");
 }
 
-TEST_F(ForeignClientTest, OpensReadsAndClosesAFile)
+TEST_F(ForeignClientTest, opensReadsAndClosesAFile)
 {
     row("FileOpen, FileRead, FileClose");
     connect();
@@ -505,7 +505,7 @@ TEST_F(ForeignClientTest, OpensReadsAndClosesAFile)
     EXPECT_EQ(refusal("fileopen", {{"file", "nothing.dat"}}), "file-file-non-existent");
 }
 
-TEST_F(ForeignClientTest, OpensAFileAtAPosition)
+TEST_F(ForeignClientTest, opensAFileAtAPosition)
 {
     row("FileOpen at a position");
     connect();
@@ -516,7 +516,7 @@ TEST_F(ForeignClientTest, OpensAFileAtAPosition)
         "373839");
 }
 
-TEST_F(ForeignClientTest, ListsFiles)
+TEST_F(ForeignClientTest, listsFiles)
 {
     row("FileDirectory");
     connect();
@@ -528,7 +528,7 @@ TEST_F(ForeignClientTest, ListsFiles)
     EXPECT_EQ(sizes, (std::map<QString, int>{{"one.txt", 1}, {"two.txt", 2}}));
 }
 
-TEST_F(ForeignClientTest, DeletesAFile)
+TEST_F(ForeignClientTest, deletesAFile)
 {
     row("FileDelete");
     connect();
@@ -538,7 +538,7 @@ TEST_F(ForeignClientTest, DeletesAFile)
     EXPECT_EQ(refusal("filedelete", {{"file", "old.txt"}}), "file-file-non-existent");
 }
 
-TEST_F(ForeignClientTest, RenamesAFile)
+TEST_F(ForeignClientTest, renamesAFile)
 {
     row("FileRename");
     connect();
@@ -548,7 +548,7 @@ TEST_F(ForeignClientTest, RenamesAFile)
     EXPECT_EQ(contentOf("old.txt"), "no such file");
 }
 
-TEST_F(ForeignClientTest, OffersAFile)
+TEST_F(ForeignClientTest, offersAFile)
 {
     row("ObtainFile");
     QTemporaryDir own;
@@ -563,7 +563,7 @@ TEST_F(ForeignClientTest, OffersAFile)
     EXPECT_EQ(contentOf("received.dat"), content);
 }
 
-TEST_F(ForeignClientTest, ReadsAJournal)
+TEST_F(ForeignClientTest, readsAJournal)
 {
     row("ReadJournal");
     connect();
@@ -573,7 +573,7 @@ TEST_F(ForeignClientTest, ReadsAJournal)
     worksBut("of a journal that does not exist it is told so");
 }
 
-TEST_F(ForeignClientTest, ManyCallsAreOnTheWay)
+TEST_F(ForeignClientTest, manyCallsAreOnTheWay)
 {
     row("Five outstanding calls");
     connect();
@@ -587,7 +587,7 @@ TEST_F(ForeignClientTest, ManyCallsAreOnTheWay)
                           toJson(Data::float32(1000000)), toJson(Data::float32(0.5F)), true}));
 }
 
-TEST_F(ForeignClientTest, HearsInformationReports)
+TEST_F(ForeignClientTest, hearsInformationReports)
 {
     row("InformationReport");
     connect();
@@ -605,7 +605,7 @@ TEST_F(ForeignClientTest, HearsInformationReports)
               (QJsonObject{{"text", "Measured"}}));
 }
 
-TEST_F(ForeignClientTest, Concludes)
+TEST_F(ForeignClientTest, concludes)
 {
     row("Conclude and release");
     connect();
@@ -613,7 +613,7 @@ TEST_F(ForeignClientTest, Concludes)
     EXPECT_TRUE(ask("awaitclosed").toBool());
 }
 
-TEST_F(ForeignClientTest, Aborts)
+TEST_F(ForeignClientTest, aborts)
 {
     row("Abort");
     connect();
@@ -622,7 +622,7 @@ TEST_F(ForeignClientTest, Aborts)
     EXPECT_EQ(ask("read", item("GGIO1$MX$AnIn1$mag$f")), toJson(Data::float32(1.5F)));
 }
 
-TEST_F(ForeignClientTest, NoticesThatTheDeviceGoesAway)
+TEST_F(ForeignClientTest, noticesThatTheDeviceGoesAway)
 {
     row("The peer goes away");
     connect();
@@ -630,7 +630,7 @@ TEST_F(ForeignClientTest, NoticesThatTheDeviceGoesAway)
     EXPECT_TRUE(ask("awaitclosed").toBool());
 }
 
-TEST_F(ForeignClientTest, GivesAPassword)
+TEST_F(ForeignClientTest, givesAPassword)
 {
     row("Password");
     osi::acse::Authentication password;
@@ -644,7 +644,7 @@ TEST_F(ForeignClientTest, GivesAPassword)
     EXPECT_TRUE(none.ask("connect", {{"port", m_port}}).isUndefined());
 }
 
-TEST_F(ForeignClientTest, CallsBySelectors)
+TEST_F(ForeignClientTest, callsBySelectors)
 {
     row("Selectors and titles");
     auto &stack = m_options.server.association.link.stack;
@@ -664,7 +664,7 @@ TEST_F(ForeignClientTest, CallsBySelectors)
     EXPECT_TRUE(other.ask("connect", {{"port", m_port}}).isUndefined());
 }
 
-TEST_F(ForeignClientTest, SpeaksTls)
+TEST_F(ForeignClientTest, speaksTls)
 {
     row("TLS with certificates of both sides");
     wiretest::TestCertificates certificates;
@@ -687,7 +687,7 @@ TEST_F(ForeignClientTest, SpeaksTls)
                     .isUndefined());
 }
 
-TEST_F(ForeignClientTest, DiscoversTheDevice)
+TEST_F(ForeignClientTest, discoversTheDevice)
 {
     row("Discovery of logical devices and nodes");
     connect();
@@ -700,7 +700,7 @@ TEST_F(ForeignClientTest, DiscoversTheDevice)
               held("GGIO1$MX$AnIn1"));
 }
 
-TEST_F(ForeignClientTest, HearsReportsOfAnUnbufferedBlock)
+TEST_F(ForeignClientTest, hearsReportsOfAnUnbufferedBlock)
 {
     row("Unbuffered report control block");
     connect();
@@ -732,7 +732,7 @@ TEST_F(ForeignClientTest, HearsReportsOfAnUnbufferedBlock)
     EXPECT_TRUE(ask("disable", block).toBool());
 }
 
-TEST_F(ForeignClientTest, HearsReportsOfABufferedBlock)
+TEST_F(ForeignClientTest, hearsReportsOfABufferedBlock)
 {
     row("Buffered report control block");
     connect();
@@ -753,7 +753,7 @@ TEST_F(ForeignClientTest, HearsReportsOfABufferedBlock)
     EXPECT_TRUE(ask("disable", block).toBool());
 }
 
-TEST_F(ForeignClientTest, OperatesDirectly)
+TEST_F(ForeignClientTest, operatesDirectly)
 {
     row("Control: direct, normal security");
     connect();
@@ -761,7 +761,7 @@ TEST_F(ForeignClientTest, OperatesDirectly)
     EXPECT_TRUE(becomes("GGIO1$ST$SPCSO1$stVal", true));
 }
 
-TEST_F(ForeignClientTest, SelectsBeforeOperating)
+TEST_F(ForeignClientTest, selectsBeforeOperating)
 {
     row("Control: select before operate, normal security");
     connect();
@@ -773,7 +773,7 @@ TEST_F(ForeignClientTest, SelectsBeforeOperating)
     EXPECT_TRUE(control("GGIO1.SPCSO2", "cancel").value("done").toBool());
 }
 
-TEST_F(ForeignClientTest, OperatesDirectlyWithEnhancedSecurity)
+TEST_F(ForeignClientTest, operatesDirectlyWithEnhancedSecurity)
 {
     row("Control: direct, enhanced security");
     connect();
@@ -782,7 +782,7 @@ TEST_F(ForeignClientTest, OperatesDirectlyWithEnhancedSecurity)
     EXPECT_EQ(held("GGIO1$ST$SPCSO3$stVal"), QJsonValue(true));
 }
 
-TEST_F(ForeignClientTest, SelectsWithAValueBeforeOperating)
+TEST_F(ForeignClientTest, selectsWithAValueBeforeOperating)
 {
     row("Control: select before operate, enhanced security");
     connect();
@@ -793,7 +793,7 @@ TEST_F(ForeignClientTest, SelectsWithAValueBeforeOperating)
     EXPECT_EQ(held("CSWI1$ST$Pos$stVal"), (QJsonObject{{"bits", "10"}}));
 }
 
-TEST_F(ForeignClientTest, IsToldWhyAControlIsRefused)
+TEST_F(ForeignClientTest, isToldWhyAControlIsRefused)
 {
     row("Control: refusal with additional cause");
     connect();
@@ -802,7 +802,7 @@ TEST_F(ForeignClientTest, IsToldWhyAControlIsRefused)
     EXPECT_EQ(refused.value("addCause").toInt(), 18) << "object not selected";
 }
 
-TEST_F(ForeignClientTest, SwitchesAndEditsSettingGroups)
+TEST_F(ForeignClientTest, switchesAndEditsSettingGroups)
 {
     row("Setting groups");
     connect();
@@ -822,7 +822,7 @@ TEST_F(ForeignClientTest, SwitchesAndEditsSettingGroups)
     EXPECT_EQ(ask("read", item("PTOC1$SG$OpDlTmms$setVal")), toJson(Data::integer(333)));
 }
 
-TEST_F(ForeignClientTest, DownloadsAndUploadsFiles)
+TEST_F(ForeignClientTest, downloadsAndUploadsFiles)
 {
     row("File download and upload");
     QTemporaryDir own;

@@ -145,7 +145,7 @@ osi::acse::Authentication password(std::string_view text)
 
 } // namespace
 
-TEST_F(ForeignServerTest, AssociatesAndNegotiates)
+TEST_F(ForeignServerTest, associatesAndNegotiates)
 {
     row("Initiate");
     m_session = std::make_unique<Session>();
@@ -157,7 +157,7 @@ TEST_F(ForeignServerTest, AssociatesAndNegotiates)
     EXPECT_EQ(m_server->peer().ask("connections").toInt(), 1);
 }
 
-TEST_F(ForeignServerTest, AnswersStatus)
+TEST_F(ForeignServerTest, answersStatus)
 {
     row("Status");
     connect();
@@ -166,7 +166,7 @@ TEST_F(ForeignServerTest, AnswersStatus)
     EXPECT_EQ(status.physicalStatus, 0);
 }
 
-TEST_F(ForeignServerTest, IdentifiesItself)
+TEST_F(ForeignServerTest, identifiesItself)
 {
     row("Identify");
     connect();
@@ -176,7 +176,7 @@ TEST_F(ForeignServerTest, IdentifiesItself)
     EXPECT_EQ(who.revision, "1.0");
 }
 
-TEST_F(ForeignServerTest, ListsItsDomains)
+TEST_F(ForeignServerTest, listsItsDomains)
 {
     row("GetNameList: domains");
     connect();
@@ -184,7 +184,7 @@ TEST_F(ForeignServerTest, ListsItsDomains)
               (std::vector<std::string>{"BAY1CTRL", "BAY1MANY"}));
 }
 
-TEST_F(ForeignServerTest, ListsTheVariablesOfADomain)
+TEST_F(ForeignServerTest, listsTheVariablesOfADomain)
 {
     row("GetNameList: variables of a domain");
     connect();
@@ -197,7 +197,7 @@ TEST_F(ForeignServerTest, ListsTheVariablesOfADomain)
         EXPECT_TRUE(set.count(name)) << name;
 }
 
-TEST_F(ForeignServerTest, ListsNamesPageAfterPage)
+TEST_F(ForeignServerTest, listsNamesPageAfterPage)
 {
     row("GetNameList: continue after a name");
     AssociationOptions options;
@@ -222,7 +222,7 @@ TEST_F(ForeignServerTest, ListsNamesPageAfterPage)
     EXPECT_EQ(all, names(wide, ObjectClass::NamedVariable, Scope::Domain, bay));
 }
 
-TEST_F(ForeignServerTest, ListsTheVariablesOfTheDevice)
+TEST_F(ForeignServerTest, listsTheVariablesOfTheDevice)
 {
     row("GetNameList: variables of the VMD");
     connect();
@@ -237,7 +237,7 @@ TEST_F(ForeignServerTest, ListsTheVariablesOfTheDevice)
     }
 }
 
-TEST_F(ForeignServerTest, ListsItsNamedLists)
+TEST_F(ForeignServerTest, listsItsNamedLists)
 {
     row("GetNameList: named variable lists");
     connect();
@@ -248,7 +248,7 @@ TEST_F(ForeignServerTest, ListsItsNamedLists)
     EXPECT_TRUE(names(ObjectClass::NamedVariableList, Scope::Association).empty());
 }
 
-TEST_F(ForeignServerTest, ListsItsJournals)
+TEST_F(ForeignServerTest, listsItsJournals)
 {
     row("GetNameList: journals");
     connect();
@@ -256,7 +256,7 @@ TEST_F(ForeignServerTest, ListsItsJournals)
     worksBut("it has none");
 }
 
-TEST_F(ForeignServerTest, DescribesTheTypeOfAVariable)
+TEST_F(ForeignServerTest, describesTheTypeOfAVariable)
 {
     row("GetVariableAccessAttributes");
     connect();
@@ -276,7 +276,7 @@ TEST_F(ForeignServerTest, DescribesTheTypeOfAVariable)
     EXPECT_EQ(node.type.components.front().name, "ST");
 }
 
-TEST_F(ForeignServerTest, ReadsOneVariable)
+TEST_F(ForeignServerTest, readsOneVariable)
 {
     row("Read: one variable");
     connect();
@@ -289,7 +289,7 @@ TEST_F(ForeignServerTest, ReadsOneVariable)
               AccessResult(DataAccessError::ObjectNonExistent));
 }
 
-TEST_F(ForeignServerTest, ReadsAListOfVariables)
+TEST_F(ForeignServerTest, readsAListOfVariables)
 {
     row("Read: list of variables");
     connect();
@@ -319,7 +319,7 @@ TEST_F(ForeignServerTest, ReadsAListOfVariables)
     EXPECT_EQ(answer.results, expected);
 }
 
-TEST_F(ForeignServerTest, ReadsAHundredVariablesAtOnce)
+TEST_F(ForeignServerTest, readsAHundredVariablesAtOnce)
 {
     row("Read: 100 variables in one request");
     connect();
@@ -328,7 +328,7 @@ TEST_F(ForeignServerTest, ReadsAHundredVariablesAtOnce)
     EXPECT_EQ(answer.results, std::vector<AccessResult>(100, Data::float32(1.5F)));
 }
 
-TEST_F(ForeignServerTest, ReadsANamedList)
+TEST_F(ForeignServerTest, readsANamedList)
 {
     row("Read: named variable list");
     connect();
@@ -344,7 +344,7 @@ TEST_F(ForeignServerTest, ReadsANamedList)
     EXPECT_EQ(specified.results, answer.results);
 }
 
-TEST_F(ForeignServerTest, ReadsElementsOfAnArray)
+TEST_F(ForeignServerTest, readsElementsOfAnArray)
 {
     row("Read: elements of an array (alternate access)");
     connect();
@@ -358,7 +358,7 @@ TEST_F(ForeignServerTest, ReadsElementsOfAnArray)
               AccessResult(Data::array({Data::float32(2), Data::float32(3)})));
 }
 
-TEST_F(ForeignServerTest, ReadsAComponent)
+TEST_F(ForeignServerTest, readsAComponent)
 {
     row("Read: component of a structure (alternate access)");
     connect();
@@ -372,7 +372,7 @@ TEST_F(ForeignServerTest, ReadsAComponent)
     }
 }
 
-TEST_F(ForeignServerTest, WritesOneVariableOfEveryType)
+TEST_F(ForeignServerTest, writesOneVariableOfEveryType)
 {
     row("Write: one variable");
     connect();
@@ -406,7 +406,7 @@ TEST_F(ForeignServerTest, WritesOneVariableOfEveryType)
     }
 }
 
-TEST_F(ForeignServerTest, WritesAListOfVariables)
+TEST_F(ForeignServerTest, writesAListOfVariables)
 {
     row("Write: list of variables");
     connect();
@@ -419,7 +419,7 @@ TEST_F(ForeignServerTest, WritesAListOfVariables)
     EXPECT_EQ(held("BAY1CTRL/GGIO2.All.f32", "SP"), toJson(Data::float32(6)));
 }
 
-TEST_F(ForeignServerTest, WritesANamedList)
+TEST_F(ForeignServerTest, writesANamedList)
 {
     row("Write: named variable list");
     connect();
@@ -430,7 +430,7 @@ TEST_F(ForeignServerTest, WritesANamedList)
     EXPECT_EQ(held("BAY1CTRL/GGIO2.All.f32", "SP"), toJson(Data::float32(0.75F)));
 }
 
-TEST_F(ForeignServerTest, WritesElementsOfAnArray)
+TEST_F(ForeignServerTest, writesElementsOfAnArray)
 {
     row("Write: elements of an array (alternate access)");
     connect();
@@ -444,7 +444,7 @@ TEST_F(ForeignServerTest, WritesElementsOfAnArray)
                   {Data::float32(0), Data::float32(9), Data::float32(0), Data::float32(0)})));
 }
 
-TEST_F(ForeignServerTest, KeepsANamedListOfADomain)
+TEST_F(ForeignServerTest, keepsANamedListOfADomain)
 {
     row("Define, Get, DeleteNamedVariableList: domain");
     connect();
@@ -470,7 +470,7 @@ TEST_F(ForeignServerTest, KeepsANamedListOfADomain)
     EXPECT_FALSE(refusalOf(GetNamedVariableListAttributesRequest{name}).empty());
 }
 
-TEST_F(ForeignServerTest, KeepsANamedListOfTheAssociation)
+TEST_F(ForeignServerTest, keepsANamedListOfTheAssociation)
 {
     row("Define, Get, DeleteNamedVariableList: association");
     connect();
@@ -494,7 +494,7 @@ TEST_F(ForeignServerTest, KeepsANamedListOfTheAssociation)
     EXPECT_EQ(deleted.deleted, 1U);
 }
 
-TEST_F(ForeignServerTest, KeepsANamedListOfTheDevice)
+TEST_F(ForeignServerTest, keepsANamedListOfTheDevice)
 {
     row("Define, Get, DeleteNamedVariableList: VMD");
     connect();
@@ -512,7 +512,7 @@ TEST_F(ForeignServerTest, KeepsANamedListOfTheDevice)
     EXPECT_EQ(deleted.deleted, 1U);
 }
 
-TEST_F(ForeignServerTest, OpensReadsAndClosesAFile)
+TEST_F(ForeignServerTest, opensReadsAndClosesAFile)
 {
     row("FileOpen, FileRead, FileClose");
     connect();
@@ -536,7 +536,7 @@ TEST_F(ForeignServerTest, OpensReadsAndClosesAFile)
     EXPECT_FALSE(refusalOf(FileOpenRequest{{"nothing.dat"}, 0}).empty());
 }
 
-TEST_F(ForeignServerTest, OpensAFileAtAPosition)
+TEST_F(ForeignServerTest, opensAFileAtAPosition)
 {
     row("FileOpen at a position");
     connect();
@@ -551,7 +551,7 @@ TEST_F(ForeignServerTest, OpensAFileAtAPosition)
     }
 }
 
-TEST_F(ForeignServerTest, ListsFiles)
+TEST_F(ForeignServerTest, listsFiles)
 {
     row("FileDirectory");
     connect();
@@ -568,7 +568,7 @@ TEST_F(ForeignServerTest, ListsFiles)
     EXPECT_EQ(sizes, (std::map<std::string, std::uint32_t>{{"one.txt", 1}, {"two.txt", 2}}));
 }
 
-TEST_F(ForeignServerTest, DeletesAFile)
+TEST_F(ForeignServerTest, deletesAFile)
 {
     row("FileDelete");
     connect();
@@ -580,7 +580,7 @@ TEST_F(ForeignServerTest, DeletesAFile)
     EXPECT_EQ(std::get<ServiceError>(again).errorClass, ErrorClass::File);
 }
 
-TEST_F(ForeignServerTest, RenamesAFile)
+TEST_F(ForeignServerTest, renamesAFile)
 {
     row("FileRename");
     connect();
@@ -595,7 +595,7 @@ TEST_F(ForeignServerTest, RenamesAFile)
     }
 }
 
-TEST_F(ForeignServerTest, RefusesJournals)
+TEST_F(ForeignServerTest, refusesJournals)
 {
     row("ReadJournal");
     connect();
@@ -610,7 +610,7 @@ TEST_F(ForeignServerTest, RefusesJournals)
     peerLacksIt("the wheel has no storage for logs; " + failureText(outcome).english());
 }
 
-TEST_F(ForeignServerTest, ManyCallsAreOnTheWay)
+TEST_F(ForeignServerTest, manyCallsAreOnTheWay)
 {
     row("Five outstanding calls");
     connect();
@@ -629,7 +629,7 @@ TEST_F(ForeignServerTest, ManyCallsAreOnTheWay)
     }
 }
 
-TEST_F(ForeignServerTest, SendsInformationReports)
+TEST_F(ForeignServerTest, sendsInformationReports)
 {
     row("InformationReport");
     connect();
@@ -656,7 +656,7 @@ TEST_F(ForeignServerTest, SendsInformationReports)
     }
 }
 
-TEST_F(ForeignServerTest, Concludes)
+TEST_F(ForeignServerTest, concludes)
 {
     row("Conclude and release");
     connect();
@@ -667,7 +667,7 @@ TEST_F(ForeignServerTest, Concludes)
     EXPECT_EQ(m_session->closeReason(), "The association was released.");
 }
 
-TEST_F(ForeignServerTest, IsAborted)
+TEST_F(ForeignServerTest, isAborted)
 {
     row("Abort");
     connect();
@@ -681,7 +681,7 @@ TEST_F(ForeignServerTest, IsAborted)
     EXPECT_TRUE(m_session->read(bay, "GGIO1$MX$AnIn1$mag$f").ok());
 }
 
-TEST_F(ForeignServerTest, ItsEndIsNoticed)
+TEST_F(ForeignServerTest, itsEndIsNoticed)
 {
     row("The peer goes away");
     connect();
@@ -689,7 +689,7 @@ TEST_F(ForeignServerTest, ItsEndIsNoticed)
     EXPECT_FALSE(m_session->closeReason().empty());
 }
 
-TEST_F(ForeignServerTest, AsksForAPassword)
+TEST_F(ForeignServerTest, asksForAPassword)
 {
     row("Password");
     start({{"password", "secret"}});
@@ -706,7 +706,7 @@ TEST_F(ForeignServerTest, AsksForAPassword)
     EXPECT_FALSE(none.connect(m_server->port()).ok());
 }
 
-TEST_F(ForeignServerTest, IsCalledBySelectors)
+TEST_F(ForeignServerTest, isCalledBySelectors)
 {
     row("Selectors and titles");
     AssociationOptions options;
@@ -719,7 +719,7 @@ TEST_F(ForeignServerTest, IsCalledBySelectors)
     EXPECT_TRUE(m_session->read(bay, "GGIO1$MX$AnIn1$mag$f").ok());
 }
 
-TEST_F(ForeignServerTest, FetchesAFile)
+TEST_F(ForeignServerTest, fetchesAFile)
 {
     row("ObtainFile");
     QByteArray content;
@@ -753,7 +753,7 @@ TEST_F(ForeignServerTest, FetchesAFile)
     EXPECT_EQ(contentOf("there.dat"), content);
 }
 
-TEST_F(ForeignServerTest, SpeaksTls)
+TEST_F(ForeignServerTest, speaksTls)
 {
     row("TLS with certificates of both sides");
     wiretest::TestCertificates certificates;
@@ -775,7 +775,7 @@ TEST_F(ForeignServerTest, SpeaksTls)
     EXPECT_FALSE(refused.error().message.empty());
 }
 
-TEST_F(ForeignServerTest, CancelIsToldOrNot)
+TEST_F(ForeignServerTest, cancelIsToldOrNot)
 {
     row("Cancel");
     m_session = std::make_unique<Session>();
@@ -800,7 +800,7 @@ TEST_F(ForeignServerTest, CancelIsToldOrNot)
         worksBut("the association survives");
 }
 
-TEST_F(ForeignServerTest, IsDiscovered)
+TEST_F(ForeignServerTest, isDiscovered)
 {
     row("Discovery of logical devices and nodes");
     wiretest::Loop loop;

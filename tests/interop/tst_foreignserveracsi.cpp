@@ -156,7 +156,7 @@ protected:
 
 } // namespace
 
-TEST_F(ForeignServerAcsiTest, KeepsDataSets)
+TEST_F(ForeignServerAcsiTest, keepsDataSets)
 {
     row("Data sets");
     const auto fixed =
@@ -184,7 +184,7 @@ TEST_F(ForeignServerAcsiTest, KeepsDataSets)
         run(deleteDataSet(m_client, mms::ObjectName::inDomain("BAY1CTRL", "LLN0$Measured"))).ok());
 }
 
-TEST_F(ForeignServerAcsiTest, ReportsOverAnUnbufferedBlock)
+TEST_F(ForeignServerAcsiTest, reportsOverAnUnbufferedBlock)
 {
     row("Unbuffered report control block");
     listen();
@@ -226,7 +226,7 @@ TEST_F(ForeignServerAcsiTest, ReportsOverAnUnbufferedBlock)
     asio::post(other->strand(), [other] { other->abort(mms::verbatim("The test is over.")); });
 }
 
-TEST_F(ForeignServerAcsiTest, ResumesABufferedBlock)
+TEST_F(ForeignServerAcsiTest, resumesABufferedBlock)
 {
     row("Buffered report control block");
     listen();
@@ -256,7 +256,7 @@ TEST_F(ForeignServerAcsiTest, ResumesABufferedBlock)
     EXPECT_NE(missed->entryId, first->entryId);
 }
 
-TEST_F(ForeignServerAcsiTest, IsOperatedDirectly)
+TEST_F(ForeignServerAcsiTest, isOperatedDirectly)
 {
     row("Control: direct, normal security");
     const auto control = object("BAY1CTRL/GGIO1$CO$SPCSO1", ControlModel::DirectNormal);
@@ -266,7 +266,7 @@ TEST_F(ForeignServerAcsiTest, IsOperatedDirectly)
     EXPECT_EQ(held("BAY1CTRL/GGIO1.SPCSO1.stVal", "ST"), QJsonValue(true));
 }
 
-TEST_F(ForeignServerAcsiTest, IsSelectedBeforeItIsOperated)
+TEST_F(ForeignServerAcsiTest, isSelectedBeforeItIsOperated)
 {
     row("Control: select before operate, normal security");
     const auto control = object("BAY1CTRL/GGIO1$CO$SPCSO2", ControlModel::SelectNormal);
@@ -283,7 +283,7 @@ TEST_F(ForeignServerAcsiTest, IsSelectedBeforeItIsOperated)
     EXPECT_EQ(held("BAY1CTRL/GGIO1.SPCSO2.stVal", "ST"), QJsonValue(true));
 }
 
-TEST_F(ForeignServerAcsiTest, TerminatesADirectCommand)
+TEST_F(ForeignServerAcsiTest, terminatesADirectCommand)
 {
     row("Control: direct, enhanced security");
     const auto control = object("BAY1CTRL/GGIO1$CO$SPCSO3", ControlModel::DirectEnhanced);
@@ -293,7 +293,7 @@ TEST_F(ForeignServerAcsiTest, TerminatesADirectCommand)
     EXPECT_EQ(held("BAY1CTRL/GGIO1.SPCSO3.stVal", "ST"), QJsonValue(true));
 }
 
-TEST_F(ForeignServerAcsiTest, TerminatesASelectedCommand)
+TEST_F(ForeignServerAcsiTest, terminatesASelectedCommand)
 {
     row("Control: select before operate, enhanced security");
     const auto control = object("BAY1CTRL/CSWI1$CO$Pos", ControlModel::SelectEnhanced);
@@ -305,7 +305,7 @@ TEST_F(ForeignServerAcsiTest, TerminatesASelectedCommand)
     EXPECT_EQ(held("BAY1CTRL/CSWI1.Pos.stVal", "ST"), (QJsonObject{{"bits", "10"}}));
 }
 
-TEST_F(ForeignServerAcsiTest, SaysWhyACommandIsRefused)
+TEST_F(ForeignServerAcsiTest, saysWhyACommandIsRefused)
 {
     row("Control: refusal with additional cause");
     const auto control = object("BAY1CTRL/CSWI1$CO$Pos", ControlModel::SelectEnhanced);
@@ -318,7 +318,7 @@ TEST_F(ForeignServerAcsiTest, SaysWhyACommandIsRefused)
     EXPECT_EQ(refused.applError->addCause, 10) << "blocked by interlocking";
 }
 
-TEST_F(ForeignServerAcsiTest, SwitchesAndEditsSettingGroups)
+TEST_F(ForeignServerAcsiTest, switchesAndEditsSettingGroups)
 {
     row("Setting groups");
     const Reference block = reference("BAY1CTRL/LLN0$SP$SGCB");

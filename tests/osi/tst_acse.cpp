@@ -60,7 +60,7 @@ const T *find(const Actions &actions)
 
 } // namespace
 
-TEST(Acse, EveryUnitHasItsOctetsAndItsValue)
+TEST(Acse, everyUnitHasItsOctetsAndItsValue)
 {
     for (const Golden &golden : goldenUnits()) {
         EXPECT_EQ(toHex(encode(golden.unit)), packed(golden.octets));
@@ -71,7 +71,7 @@ TEST(Acse, EveryUnitHasItsOctetsAndItsValue)
     }
 }
 
-TEST(Acse, EveryUnitIsRefusedWithOneOctetMoreOrLess)
+TEST(Acse, everyUnitIsRefusedWithOneOctetMoreOrLess)
 {
     for (const Golden &golden : goldenUnits()) {
         Octets octets = fromHex(golden.octets);
@@ -82,7 +82,7 @@ TEST(Acse, EveryUnitIsRefusedWithOneOctetMoreOrLess)
     }
 }
 
-TEST(Acse, TitlesInOtherFormsAreReadOver)
+TEST(Acse, titlesInOtherFormsAreReadOver)
 {
     const auto unit =
         decode(fromHex("6019 a107060528ca220203 a2023000 a3023100 be06 2804 a002 a800"));
@@ -90,7 +90,7 @@ TEST(Acse, TitlesInOtherFormsAreReadOver)
     EXPECT_EQ(std::get<AssociateRequest>(*unit).called, Title());
 }
 
-TEST(Acse, AnAssociationIsMadeUsedAndReleased)
+TEST(Acse, anAssociationIsMadeUsedAndReleased)
 {
     Association initiator({{ObjectIdentifier{1, 3, 9999}, 1}, {}, {}});
     Association responder({{ObjectIdentifier{1, 3, 8888}, 2}, {}, {}});
@@ -114,7 +114,7 @@ TEST(Acse, AnAssociationIsMadeUsedAndReleased)
     EXPECT_TRUE(initiator.abort().empty());
 }
 
-TEST(Acse, OnlyTheRightPasswordIsAccepted)
+TEST(Acse, onlyTheRightPasswordIsAccepted)
 {
     struct Row
     {
@@ -143,7 +143,7 @@ TEST(Acse, OnlyTheRightPasswordIsAccepted)
     }
 }
 
-TEST(Acse, AUnitThatDoesNotBelongToTheStateAborts)
+TEST(Acse, aUnitThatDoesNotBelongToTheStateAborts)
 {
     struct Row
     {
@@ -166,7 +166,7 @@ TEST(Acse, AUnitThatDoesNotBelongToTheStateAborts)
     }
 }
 
-TEST(Acse, AnAbortSaysWhoseItIs)
+TEST(Acse, anAbortSaysWhoseItIs)
 {
     for (const bool byProvider : {false, true}) {
         Association association({});
@@ -178,7 +178,7 @@ TEST(Acse, AnAbortSaysWhoseItIs)
     }
 }
 
-TEST(Acse, EveryRefusalIsASentence)
+TEST(Acse, everyRefusalIsASentence)
 {
     for (std::int64_t code = -2; code < 30; ++code) {
         for (const bool byProvider : {false, true})

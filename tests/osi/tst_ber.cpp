@@ -53,7 +53,7 @@ auto converted(std::string_view hex, Function function, std::string *error = nul
 
 } // namespace
 
-TEST(Ber, TagsAndLengthsOfEverySizeAreWritten)
+TEST(Ber, tagsAndLengthsOfEverySizeAreWritten)
 {
     Writer writer(16);
     writer.header(Tag::context(0), 0);
@@ -72,7 +72,7 @@ TEST(Ber, TagsAndLengthsOfEverySizeAreWritten)
     EXPECT_EQ(toHex(writer.view()), "7f876883010000");
 }
 
-TEST(Ber, AGroupIsClosedAroundWhatWasWrittenInIt)
+TEST(Ber, aGroupIsClosedAroundWhatWasWrittenInIt)
 {
     Writer writer(16);
     const std::size_t mark = writer.size();
@@ -84,7 +84,7 @@ TEST(Ber, AGroupIsClosedAroundWhatWasWrittenInIt)
     EXPECT_EQ(writer.size(), 0U);
 }
 
-TEST(Ber, IntegersTakeTheFewestOctets)
+TEST(Ber, integersTakeTheFewestOctets)
 {
     const std::pair<std::int64_t, const char *> cases[] = {
         {0, "020100"},
@@ -107,7 +107,7 @@ TEST(Ber, IntegersTakeTheFewestOctets)
     }
 }
 
-TEST(Ber, UnsignedIntegersKeepTheirHighestBit)
+TEST(Ber, unsignedIntegersKeepTheirHighestBit)
 {
     const std::pair<std::uint64_t, const char *> cases[] = {
         {0, "020100"},
@@ -123,14 +123,14 @@ TEST(Ber, UnsignedIntegersKeepTheirHighestBit)
     }
 }
 
-TEST(Ber, AnUnsignedIntegerWithoutItsLeadingZeroIsUnderstood)
+TEST(Ber, anUnsignedIntegerWithoutItsLeadingZeroIsUnderstood)
 {
     EXPECT_EQ(
         converted("0204ffffffff", [](Reader &r, const Element &e) { return r.unsigned32(e); }),
         4294967295U);
 }
 
-TEST(Ber, NumbersOutOfRangeAreRefused)
+TEST(Ber, numbersOutOfRangeAreRefused)
 {
     std::string error;
     (void)converted(
@@ -151,7 +151,7 @@ TEST(Ber, NumbersOutOfRangeAreRefused)
     EXPECT_EQ(error, "An unsigned integer has no octet or more than 64 bits.");
 }
 
-TEST(Ber, BitStringsKeepTheirLengthAndOrder)
+TEST(Ber, bitStringsKeepTheirLengthAndOrder)
 {
     const BitString quality = BitString::fromText("0100000000001");
     EXPECT_EQ(toHex(quality.octets()), "4008");
@@ -168,13 +168,13 @@ TEST(Ber, BitStringsKeepTheirLengthAndOrder)
     EXPECT_FALSE(quality.test(13));
 }
 
-TEST(Ber, BitsThatDoNotCountAreZero)
+TEST(Ber, bitsThatDoNotCountAreZero)
 {
     EXPECT_EQ(converted("030204ff", [](Reader &r, const Element &e) { return r.bitString(e); }),
               BitString::fromText("1111"));
 }
 
-TEST(Ber, ABitStringGrowsWhereABitIsSet)
+TEST(Ber, aBitStringGrowsWhereABitIsSet)
 {
     BitString bits;
     bits.set(9);
@@ -183,7 +183,7 @@ TEST(Ber, ABitStringGrowsWhereABitIsSet)
     EXPECT_EQ(bits, BitString(10));
 }
 
-TEST(Ber, ABitStringThatClaimsMoreUnusedBitsThanItHasIsRefused)
+TEST(Ber, aBitStringThatClaimsMoreUnusedBitsThanItHasIsRefused)
 {
     for (const char *hex : {"0300", "030101", "03020800"}) {
         std::string error;
@@ -193,7 +193,7 @@ TEST(Ber, ABitStringThatClaimsMoreUnusedBitsThanItHasIsRefused)
     }
 }
 
-TEST(Ber, ObjectIdentifiersAreReadAndWritten)
+TEST(Ber, objectIdentifiersAreReadAndWritten)
 {
     using Numbers = std::vector<std::uint32_t>;
     const std::pair<Numbers, const char *> cases[] = {
@@ -214,7 +214,7 @@ TEST(Ber, ObjectIdentifiersAreReadAndWritten)
     }
 }
 
-TEST(Ber, IndefiniteLengthsReadLikeDefiniteOnes)
+TEST(Ber, indefiniteLengthsReadLikeDefiniteOnes)
 {
     // [1] { [2] { BOOLEAN }, BOOLEAN }, INTEGER 5; the first two without a definite length
     const auto bytes = fromHex("a180 a280 0101ff 0000 010100 0000 020105");
@@ -231,14 +231,14 @@ TEST(Ber, IndefiniteLengthsReadLikeDefiniteOnes)
     EXPECT_FALSE(input.failed());
 }
 
-TEST(Ber, AnIndefiniteLengthMustEnd)
+TEST(Ber, anIndefiniteLengthMustEnd)
 {
     EXPECT_EQ(errorOf(fromHex("a180 0101ff 00")), "The message ends within an element.");
     EXPECT_EQ(errorOf(fromHex("a180 0101ff")), "The message ends within an element.");
     EXPECT_EQ(errorOf(fromHex("8180 0000")), "A primitive element has no definite length.");
 }
 
-TEST(Ber, LongFormsOfLengthsAndTagsAreRead)
+TEST(Ber, longFormsOfLengthsAndTagsAreRead)
 {
     EXPECT_EQ(errorOf(fromHex("810201")), "An element is longer than the message.");
     EXPECT_EQ(errorOf(fromHex("8184 00000001 05")), "");
@@ -249,7 +249,7 @@ TEST(Ber, LongFormsOfLengthsAndTagsAreRead)
     EXPECT_EQ(errorOf(fromHex("9f 818000 00")), "A tag number is too large.");
 }
 
-TEST(Ber, EveryTruncationIsAnErrorAndNeverReadBeyond)
+TEST(Ber, everyTruncationIsAnErrorAndNeverReadBeyond)
 {
     const auto whole = fromHex("bf4d 8109 a180 0101ff 0000 0500");
     EXPECT_EQ(errorOf(whole), "");
@@ -257,7 +257,7 @@ TEST(Ber, EveryTruncationIsAnErrorAndNeverReadBeyond)
         EXPECT_NE(errorOf({whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size)}), "");
 }
 
-TEST(Ber, NestingIsLimited)
+TEST(Ber, nestingIsLimited)
 {
     std::vector<std::uint8_t> definite;
     std::vector<std::uint8_t> indefinite;
@@ -275,7 +275,7 @@ TEST(Ber, NestingIsLimited)
     EXPECT_EQ(errorOf(indefinite), "");
 }
 
-TEST(Ber, LengthAndCountAreLimited)
+TEST(Ber, lengthAndCountAreLimited)
 {
     const auto bytes = fromHex("30060101ff0101ff");
     EXPECT_EQ(errorOf(bytes, Limits{.length = 7}), "The message is longer than allowed.");
@@ -287,7 +287,7 @@ TEST(Ber, LengthAndCountAreLimited)
     EXPECT_EQ(refused.error().message, "The message holds more elements than allowed.");
 }
 
-TEST(Ber, TheFirstErrorIsKeptWithItsPlace)
+TEST(Ber, theFirstErrorIsKeptWithItsPlace)
 {
     const auto bytes = fromHex("0101ff 020105");
     Input input(bytes);
@@ -305,7 +305,7 @@ TEST(Ber, TheFirstErrorIsKeptWithItsPlace)
     EXPECT_EQ(result.error().offset, 3U);
 }
 
-TEST(Ber, WhatIsMissingOrTooMuchIsSaid)
+TEST(Ber, whatIsMissingOrTooMuchIsSaid)
 {
     const auto bytes = fromHex("0101ff");
     Input missing(bytes);

@@ -89,7 +89,7 @@ void run(const Octets &octets)
 
 } // namespace
 
-TEST(LinkRobustness, EveryMessageAndItsBeginningsAreHandledByEveryLayer)
+TEST(LinkRobustness, everyMessageAndItsBeginningsAreHandledByEveryLayer)
 {
     for (Octets seed : seeds()) {
         for (std::uint8_t layer = 0; layer < 8; ++layer) {
@@ -100,7 +100,7 @@ TEST(LinkRobustness, EveryMessageAndItsBeginningsAreHandledByEveryLayer)
     }
 }
 
-TEST(LinkRobustness, ChangedMessagesAreHandled)
+TEST(LinkRobustness, changedMessagesAreHandled)
 {
     const std::vector<Octets> all = seeds();
     Generator generator(1);
@@ -126,7 +126,7 @@ TEST(LinkRobustness, ChangedMessagesAreHandled)
     }
 }
 
-TEST(LinkRobustness, RandomOctetsAreHandled)
+TEST(LinkRobustness, randomOctetsAreHandled)
 {
     Generator generator(2);
     for (int i = 0; i < 30000; ++i) {

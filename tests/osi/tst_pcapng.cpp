@@ -9,14 +9,14 @@ using wiretest::fromHex;
 using wiretest::packed;
 using wiretest::toHex;
 
-TEST(Pcapng, AFileBeginsWithASectionAndAnInterfaceOfExportedPdus)
+TEST(Pcapng, aFileBeginsWithASectionAndAnInterfaceOfExportedPdus)
 {
     EXPECT_EQ(toHex(osi::pcapng::fileHeader()),
               packed("0a0d0d0a 1c000000 4d3c2b1a 0100 0000 ffffffffffffffff 1c000000"
                      "01000000 20000000 fc00 0000 00000000 0900 0100 09000000 00000000 20000000"));
 }
 
-TEST(Pcapng, APacketHoldsItsTimeItsDirectionAndThePdu)
+TEST(Pcapng, aPacketHoldsItsTimeItsDirectionAndThePdu)
 {
     const std::chrono::system_clock::time_point time{std::chrono::seconds(5)};
     const std::string head = packed("06000000 3c000000 00000000 01000000 00f2052a 0e000000 0e000000"

@@ -64,7 +64,7 @@ Connect connectUnit(Bytes value)
 
 } // namespace
 
-TEST(Presentation, AConnectUnitHasItsOctetsAndItsValue)
+TEST(Presentation, aConnectUnitHasItsOctetsAndItsValue)
 {
     const Octets value = fromHex("600100");
     const Connect unit = connectUnit(value);
@@ -76,7 +76,7 @@ TEST(Presentation, AConnectUnitHasItsOctetsAndItsValue)
     expectRefusedCut(connectOctets, [](Bytes bytes) { return decodeConnect(bytes).ok(); });
 }
 
-TEST(Presentation, AnAcceptUnitHasItsOctetsAndItsValue)
+TEST(Presentation, anAcceptUnitHasItsOctetsAndItsValue)
 {
     const Octets value = fromHex("6100");
     const ContextAnswer accepted{ContextResult::Acceptance, berSyntax, std::nullopt};
@@ -89,7 +89,7 @@ TEST(Presentation, AnAcceptUnitHasItsOctetsAndItsValue)
     expectRefusedCut(acceptOctets, [](Bytes bytes) { return decodeAccept(bytes).ok(); });
 }
 
-TEST(Presentation, ARejectUnitHasItsOctetsAndItsValue)
+TEST(Presentation, aRejectUnitHasItsOctetsAndItsValue)
 {
     const Reject unit{Octets{0, 1},
                       {{ContextResult::ProviderRejection, std::nullopt, std::nullopt}},
@@ -102,7 +102,7 @@ TEST(Presentation, ARejectUnitHasItsOctetsAndItsValue)
     expectRefusedCut(rejectOctets, [](Bytes bytes) { return decodeReject(bytes).ok(); });
 }
 
-TEST(Presentation, AbortUnitsHaveTheirOctetsAndTheirValues)
+TEST(Presentation, abortUnitsHaveTheirOctetsAndTheirValues)
 {
     const Octets value = fromHex("6403800100");
     const Abort user = UserAbort{{{1, value}}};
@@ -121,7 +121,7 @@ TEST(Presentation, AbortUnitsHaveTheirOctetsAndTheirValues)
     expectRefusedCut("3006800104810102", [](Bytes bytes) { return decodeAbort(bytes).ok(); });
 }
 
-TEST(Presentation, DataHasItsOctetsAndItsValue)
+TEST(Presentation, dataHasItsOctetsAndItsValue)
 {
     const Octets pdu = fromHex("8b00");
     EXPECT_EQ(toHex(encode(std::vector<DataValue>{{3, pdu}})), packed(dataOctets));
@@ -139,7 +139,7 @@ TEST(Presentation, DataHasItsOctetsAndItsValue)
     }
 }
 
-TEST(Presentation, OtherModesAndOtherEncodingsAreRefused)
+TEST(Presentation, otherModesAndOtherEncodingsAreRefused)
 {
     EXPECT_FALSE(decodeConnect(fromHex("3107 a003800100 a200")).ok()) << "X.410 mode";
     EXPECT_FALSE(decodeConnect(fromHex("3105 a003800101")).ok()) << "no parameters";
@@ -147,7 +147,7 @@ TEST(Presentation, OtherModesAndOtherEncodingsAreRefused)
     EXPECT_FALSE(decodeData(fromHex("610d 300b 0602 5102 020103 a002 8b00")).ok());
 }
 
-TEST(Presentation, TheTwoContextsAreAgreedAndCarryValues)
+TEST(Presentation, theTwoContextsAreAgreedAndCarryValues)
 {
     presentation::Connection initiator{{}};
     presentation::Connection responder{{}};
@@ -163,7 +163,7 @@ TEST(Presentation, TheTwoContextsAreAgreedAndCarryValues)
     EXPECT_EQ(received, (Actions{Indication{Service::Data, false, pdu, {}}}));
 }
 
-TEST(Presentation, ContextsOfOtherNumbersAreUsedAsThePeerNumbersThem)
+TEST(Presentation, contextsOfOtherNumbersAreUsedAsThePeerNumbersThem)
 {
     presentation::Connection responder{{}};
     const Octets pdu = fromHex("8b00");
@@ -188,7 +188,7 @@ TEST(Presentation, ContextsOfOtherNumbersAreUsedAsThePeerNumbersThem)
     EXPECT_EQ(decodeData(data)->front().contextId, 5);
 }
 
-TEST(Presentation, AConnectionWithoutTheContextsOfMmsIsRefused)
+TEST(Presentation, aConnectionWithoutTheContextsOfMmsIsRefused)
 {
     for (const auto &contexts :
          {std::vector<Context>{}, std::vector<Context>{{1, acseSyntax, {berSyntax}}},
@@ -206,7 +206,7 @@ TEST(Presentation, AConnectionWithoutTheContextsOfMmsIsRefused)
     }
 }
 
-TEST(Presentation, AnAnswerThatRefusesAContextEndsTheConnection)
+TEST(Presentation, anAnswerThatRefusesAContextEndsTheConnection)
 {
     presentation::Connection initiator{{}};
     initiator.connect(apdu);
@@ -219,7 +219,7 @@ TEST(Presentation, AnAnswerThatRefusesAContextEndsTheConnection)
     EXPECT_EQ(indication(actions)->service, Service::ProviderAbort);
 }
 
-TEST(Presentation, DataOfAnUnknownContextAborts)
+TEST(Presentation, dataOfAnUnknownContextAborts)
 {
     presentation::Connection connection{{}};
     const Octets pdu = fromHex("8b00");
@@ -229,7 +229,7 @@ TEST(Presentation, DataOfAnUnknownContextAborts)
     EXPECT_NE(indication(actions)->reason.english().find("not agreed"), std::string::npos);
 }
 
-TEST(Presentation, EveryReasonIsASentence)
+TEST(Presentation, everyReasonIsASentence)
 {
     EXPECT_EQ(rejectionText(std::nullopt).english().back(), '.');
     EXPECT_EQ(abortText(std::nullopt).english().back(), '.');

@@ -65,7 +65,7 @@ struct Pair
 
 } // namespace
 
-TEST(Session, EveryUnitHasItsOctetsAndItsValue)
+TEST(Session, everyUnitHasItsOctetsAndItsValue)
 {
     for (const Golden &golden : goldenUnits()) {
         EXPECT_EQ(toHex(encode(golden.unit)), packed(golden.octets));
@@ -75,7 +75,7 @@ TEST(Session, EveryUnitHasItsOctetsAndItsValue)
     }
 }
 
-TEST(Session, EveryUnitIsRefusedWithOneOctetMoreOrLess)
+TEST(Session, everyUnitIsRefusedWithOneOctetMoreOrLess)
 {
     for (const Golden &golden : goldenUnits()) {
         Octets octets = fromHex(golden.octets);
@@ -86,7 +86,7 @@ TEST(Session, EveryUnitIsRefusedWithOneOctetMoreOrLess)
     }
 }
 
-TEST(Session, DataFollowsTheTokensThatAreGiven)
+TEST(Session, dataFollowsTheTokensThatAreGiven)
 {
     const Octets octets = fromHex("01000100 6103");
     const auto unit = decode(octets);
@@ -99,7 +99,7 @@ TEST(Session, DataFollowsTheTokensThatAreGiven)
     EXPECT_FALSE(decode(fromHex("0100010319010100")).ok()) << "segments were not agreed";
 }
 
-TEST(Session, LongUserDataTakesALongLength)
+TEST(Session, longUserDataTakesALongLength)
 {
     const Unit unit = Connect{0, 2, duplex, std::nullopt, std::nullopt, Octets(600, 7)};
     const Octets octets = encode(unit);
@@ -109,14 +109,14 @@ TEST(Session, LongUserDataTakesALongLength)
     EXPECT_EQ(*again, unit);
 }
 
-TEST(Session, AbsentParametersMeanVersionOneAndTheirDefaultRequirements)
+TEST(Session, absentParametersMeanVersionOneAndTheirDefaultRequirements)
 {
     const auto unit = decode(fromHex("0d00"));
     ASSERT_TRUE(unit.ok());
     EXPECT_EQ(*unit, Unit(Connect{0, 1, 0x0349, std::nullopt, std::nullopt, {}}));
 }
 
-TEST(Session, AConnectionIsOpenedUsedAndFinished)
+TEST(Session, aConnectionIsOpenedUsedAndFinished)
 {
     Pair pair;
     const auto indication =
@@ -140,7 +140,7 @@ TEST(Session, AConnectionIsOpenedUsedAndFinished)
     EXPECT_EQ(pair.responder.state(), State::Closed);
 }
 
-TEST(Session, BothSidesMayFinishAtOnce)
+TEST(Session, bothSidesMayFinishAtOnce)
 {
     Pair pair;
     pair.open();
@@ -155,7 +155,7 @@ TEST(Session, BothSidesMayFinishAtOnce)
     EXPECT_EQ(pair.responder.receive(find<Send>(leftEnd)->message), Actions{FinishConfirm{}});
 }
 
-TEST(Session, RequestsThatCannotBeServedAreRefused)
+TEST(Session, requestsThatCannotBeServedAreRefused)
 {
     struct Row
     {
@@ -176,7 +176,7 @@ TEST(Session, RequestsThatCannotBeServedAreRefused)
     }
 }
 
-TEST(Session, AnAbortSaysWhoseItIs)
+TEST(Session, anAbortSaysWhoseItIs)
 {
     for (const bool byUser : {true, false}) {
         Pair pair;
@@ -190,7 +190,7 @@ TEST(Session, AnAbortSaysWhoseItIs)
     }
 }
 
-TEST(Session, AUnitThatDoesNotBelongToTheStateAbortsTheConnection)
+TEST(Session, aUnitThatDoesNotBelongToTheStateAbortsTheConnection)
 {
     struct Row
     {
@@ -219,7 +219,7 @@ TEST(Session, AUnitThatDoesNotBelongToTheStateAbortsTheConnection)
     }
 }
 
-TEST(Session, EveryRefusalIsASentence)
+TEST(Session, everyRefusalIsASentence)
 {
     for (unsigned i = 0; i < 256; ++i)
         EXPECT_EQ(refusalText(static_cast<std::uint8_t>(i)).english().back(), '.');

@@ -62,7 +62,7 @@ struct Pair
 
 } // namespace
 
-TEST(Tpkt, PacketsAreCutFromAStreamInAnyPortions)
+TEST(Tpkt, packetsAreCutFromAStreamInAnyPortions)
 {
     Octets stream;
     ASSERT_TRUE(appendTpkt(stream, fromHex("02f080")));
@@ -82,7 +82,7 @@ TEST(Tpkt, PacketsAreCutFromAStreamInAnyPortions)
     }
 }
 
-TEST(Tpkt, AStreamOfAnotherProtocolIsRefusedAtItsFirstOctet)
+TEST(Tpkt, aStreamOfAnotherProtocolIsRefusedAtItsFirstOctet)
 {
     TpktReader reader;
     reader.append(fromHex("47"));
@@ -93,7 +93,7 @@ TEST(Tpkt, AStreamOfAnotherProtocolIsRefusedAtItsFirstOctet)
     EXPECT_FALSE(reader.next().ok());
 }
 
-TEST(Tpkt, APacketWithoutContentIsRefused)
+TEST(Tpkt, aPacketWithoutContentIsRefused)
 {
     TpktReader reader;
     reader.append(fromHex("03000004"));
@@ -106,7 +106,7 @@ TEST(Tpkt, APacketWithoutContentIsRefused)
     EXPECT_EQ(out.size(), 65535U);
 }
 
-TEST(Cotp, AConnectionRequestHasItsOctetsAndItsValue)
+TEST(Cotp, aConnectionRequestHasItsOctetsAndItsValue)
 {
     const auto unit = decoded<cotp::ConnectRequest>(request);
     EXPECT_EQ(unit.sourceReference, 1);
@@ -117,7 +117,7 @@ TEST(Cotp, AConnectionRequestHasItsOctetsAndItsValue)
     expectRefusedWithOneOctetMoreOrLess(request);
 }
 
-TEST(Cotp, AConnectionConfirmHasItsOctetsAndItsValue)
+TEST(Cotp, aConnectionConfirmHasItsOctetsAndItsValue)
 {
     const auto unit = decoded<cotp::ConnectConfirm>(confirm);
     EXPECT_EQ(unit.destinationReference, 1);
@@ -125,7 +125,7 @@ TEST(Cotp, AConnectionConfirmHasItsOctetsAndItsValue)
     expectRefusedWithOneOctetMoreOrLess(confirm);
 }
 
-TEST(Cotp, ADisconnectRequestHasItsOctetsAndItsValue)
+TEST(Cotp, aDisconnectRequestHasItsOctetsAndItsValue)
 {
     const auto unit = decoded<cotp::DisconnectRequest>(disconnect);
     EXPECT_EQ(unit, (cotp::DisconnectRequest{1, 2, 0x80}));
@@ -134,7 +134,7 @@ TEST(Cotp, ADisconnectRequestHasItsOctetsAndItsValue)
     EXPECT_FALSE(cotp::decode(fromHex("068000010002")).ok());
 }
 
-TEST(Cotp, AnErrorUnitHasItsOctetsAndItsValue)
+TEST(Cotp, anErrorUnitHasItsOctetsAndItsValue)
 {
     const auto unit = decoded<cotp::ErrorUnit>(errorUnit);
     EXPECT_EQ(unit, (cotp::ErrorUnit{1, 2, {7}}));
@@ -142,7 +142,7 @@ TEST(Cotp, AnErrorUnitHasItsOctetsAndItsValue)
     expectRefusedWithOneOctetMoreOrLess(errorUnit);
 }
 
-TEST(Cotp, ADataUnitHasItsOctetsAndItsValue)
+TEST(Cotp, aDataUnitHasItsOctetsAndItsValue)
 {
     const auto octets = fromHex("02 f0 80 0102");
     const auto unit = cotp::decode(octets);
@@ -154,7 +154,7 @@ TEST(Cotp, ADataUnitHasItsOctetsAndItsValue)
     EXPECT_FALSE(cotp::decode(fromHex("03f08000")).ok()) << "one octet too many in the header";
 }
 
-TEST(Cotp, UnknownParametersAreSkippedAndUnknownUnitsRefused)
+TEST(Cotp, unknownParametersAreSkippedAndUnknownUnitsRefused)
 {
     const auto unit = decoded<cotp::ConnectRequest>("0a e0 0000 0001 00 f0020020");
     EXPECT_FALSE(unit.sizeExponent.has_value());
@@ -163,7 +163,7 @@ TEST(Cotp, UnknownParametersAreSkippedAndUnknownUnitsRefused)
     EXPECT_FALSE(cotp::decode({}).ok());
 }
 
-TEST(Cotp, TheSmallerUnitSizeOfBothSidesHolds)
+TEST(Cotp, theSmallerUnitSizeOfBothSidesHolds)
 {
     const Pair pair(8192, 1024);
     EXPECT_EQ(pair.initiator.state(), cotp::Connection::State::Open);
@@ -173,7 +173,7 @@ TEST(Cotp, TheSmallerUnitSizeOfBothSidesHolds)
     EXPECT_EQ(Pair(100, 8192).responder.unitSize(), 128U);
 }
 
-TEST(Cotp, MessagesOfAnyLengthArriveWholeThroughSmallUnits)
+TEST(Cotp, messagesOfAnyLengthArriveWholeThroughSmallUnits)
 {
     Pair pair(128, 128);
     for (const std::size_t size : {0U, 1U, 124U, 125U, 126U, 250U, 251U, 70000U}) {
@@ -189,7 +189,7 @@ TEST(Cotp, MessagesOfAnyLengthArriveWholeThroughSmallUnits)
     }
 }
 
-TEST(Cotp, AMessageBeyondTheLimitEndsTheConnection)
+TEST(Cotp, aMessageBeyondTheLimitEndsTheConnection)
 {
     cotp::Connection responder(cotp::Connection::Role::Responder, {.maxMessage = 10});
     Octets asked;
@@ -204,7 +204,7 @@ TEST(Cotp, AMessageBeyondTheLimitEndsTheConnection)
     EXPECT_TRUE(responder.receive(fromHex("0300000802f08001")).empty());
 }
 
-TEST(Cotp, ClassFourWithoutClassZeroAsAlternativeIsRefused)
+TEST(Cotp, classFourWithoutClassZeroAsAlternativeIsRefused)
 {
     for (const auto &[octets, accepted] :
          {std::pair{"06e00000000140", false}, std::pair{"09e00000000140c70100", true},
@@ -220,7 +220,7 @@ TEST(Cotp, ClassFourWithoutClassZeroAsAlternativeIsRefused)
     }
 }
 
-TEST(Cotp, AnUnknownSelectorIsRefusedWithItsReason)
+TEST(Cotp, anUnknownSelectorIsRefusedWithItsReason)
 {
     cotp::Connection responder(cotp::Connection::Role::Responder,
                                {.localSelector = {9}, .checkSelector = true});
@@ -232,7 +232,7 @@ TEST(Cotp, AnUnknownSelectorIsRefusedWithItsReason)
                                  osi::say("The peer does not know the transport selector.")}));
 }
 
-TEST(Cotp, AUnitThatDoesNotBelongToTheStateEndsTheConnectionWithAnErrorUnit)
+TEST(Cotp, aUnitThatDoesNotBelongToTheStateEndsTheConnectionWithAnErrorUnit)
 {
     struct Row
     {
@@ -264,7 +264,7 @@ TEST(Cotp, AUnitThatDoesNotBelongToTheStateEndsTheConnectionWithAnErrorUnit)
     }
 }
 
-TEST(Cotp, EveryReasonIsASentence)
+TEST(Cotp, everyReasonIsASentence)
 {
     for (unsigned i = 0; i < 256; ++i) {
         EXPECT_EQ(cotp::reasonText(static_cast<std::uint8_t>(i)).english().back(), '.');

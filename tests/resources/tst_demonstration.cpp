@@ -51,7 +51,7 @@ const scl::LogicalNode *findNode(std::string_view device, std::string_view name)
 
 } // namespace
 
-TEST(Demonstration, LoadsWithoutAFinding)
+TEST(Demonstration, loadsWithoutAFinding)
 {
     for (const scl::Finding &finding : demonstration().findings)
         ADD_FAILURE() << finding.line << ": " << finding.text;
@@ -59,7 +59,7 @@ TEST(Demonstration, LoadsWithoutAFinding)
     EXPECT_EQ(demonstration().schemaVersion(), "2007B4");
 }
 
-TEST(Demonstration, HasTheSizeOfARealBay)
+TEST(Demonstration, hasTheSizeOfARealBay)
 {
     ASSERT_EQ(demonstration().ieds.size(), 1U);
     const scl::IedCounts counts = scl::countsOf(demonstration().ieds.front());
@@ -70,7 +70,7 @@ TEST(Demonstration, HasTheSizeOfARealBay)
     EXPECT_GT(counts.attributes, 2000U);
 }
 
-TEST(Demonstration, HoldsTheFunctionsOfABay)
+TEST(Demonstration, holdsTheFunctionsOfABay)
 {
     std::set<std::string_view> classes;
     forEachNode([&](const scl::LogicalDevice &, const scl::LogicalNode &node) {
@@ -81,7 +81,7 @@ TEST(Demonstration, HoldsTheFunctionsOfABay)
         EXPECT_TRUE(classes.count(lnClass)) << lnClass;
 }
 
-TEST(Demonstration, HasControlsOfEveryControlModelAndKind)
+TEST(Demonstration, hasControlsOfEveryControlModelAndKind)
 {
     std::set<std::int64_t> models;
     std::set<std::string_view> operated; // classes of the objects that can be operated
@@ -106,7 +106,7 @@ TEST(Demonstration, HasControlsOfEveryControlModelAndKind)
         EXPECT_TRUE(operated.count(cdc)) << cdc;
 }
 
-TEST(Demonstration, GivesEverySettingAValueInEachGroup)
+TEST(Demonstration, givesEverySettingAValueInEachGroup)
 {
     std::uint32_t groups = 0;
     forEachNode([&](const scl::LogicalDevice &, const scl::LogicalNode &node) {
@@ -135,7 +135,7 @@ TEST(Demonstration, GivesEverySettingAValueInEachGroup)
     EXPECT_GE(functions.size(), 2U);
 }
 
-TEST(Demonstration, ShowsAValueInEveryProcessAttribute)
+TEST(Demonstration, showsAValueInEveryProcessAttribute)
 {
     forEachNode([&](const scl::LogicalDevice &, const scl::LogicalNode &node) {
         node.forEachDataObject([&](const scl::DataNode &object) {
@@ -152,7 +152,7 @@ TEST(Demonstration, ShowsAValueInEveryProcessAttribute)
     });
 }
 
-TEST(Demonstration, HasIndexedAndSingleReportBlocksOfBothKinds)
+TEST(Demonstration, hasIndexedAndSingleReportBlocksOfBothKinds)
 {
     std::map<std::pair<bool, bool>, int> blocks;
     bool withoutDataSet = false;
@@ -166,7 +166,7 @@ TEST(Demonstration, HasIndexedAndSingleReportBlocksOfBothKinds)
     EXPECT_TRUE(withoutDataSet);
 }
 
-TEST(Demonstration, HoldsArraysOfHarmonicsAndADataSetThatNamesSomeOfThem)
+TEST(Demonstration, holdsArraysOfHarmonicsAndADataSetThatNamesSomeOfThem)
 {
     const scl::LogicalNode *harmonics = findNode("MEAS", "MHAI1");
     ASSERT_NE(harmonics, nullptr);
@@ -188,7 +188,7 @@ TEST(Demonstration, HoldsArraysOfHarmonicsAndADataSetThatNamesSomeOfThem)
     EXPECT_TRUE(elementInDataSet);
 }
 
-TEST(Demonstration, CanBeReachedOnThisMachine)
+TEST(Demonstration, canBeReachedOnThisMachine)
 {
     ASSERT_EQ(demonstration().ieds.size(), 1U);
     const scl::Ied &ied = demonstration().ieds.front();
@@ -200,7 +200,7 @@ TEST(Demonstration, CanBeReachedOnThisMachine)
     EXPECT_EQ(point->part("MMS-Port"), "102");
 }
 
-TEST(Demonstration, CarriesTextsBeyondAscii)
+TEST(Demonstration, carriesTextsBeyondAscii)
 {
     const scl::LogicalNode *breaker = findNode("CTRL", "QA1CSWI1");
     ASSERT_NE(breaker, nullptr);

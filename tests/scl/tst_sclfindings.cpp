@@ -52,7 +52,7 @@ protected:
 
 } // namespace
 
-TEST_F(SclFindings, AMissingLogicalNodeTypeLeavesAnEmptyNode)
+TEST_F(SclFindings, aMissingLogicalNodeTypeLeavesAnEmptyNode)
 {
     read("missing-lnodetype.icd");
     expect(Severity::Error, 10, "LDevice[LD]/LN[GGIO1]", "LNodeType \"Gone\" does not exist");
@@ -61,7 +61,7 @@ TEST_F(SclFindings, AMissingLogicalNodeTypeLeavesAnEmptyNode)
     EXPECT_EQ(counts().logicalNodes, 2U);
 }
 
-TEST_F(SclFindings, AMissingDataObjectTypeLeavesAnEmptyDataObject)
+TEST_F(SclFindings, aMissingDataObjectTypeLeavesAnEmptyDataObject)
 {
     read("missing-dotype.icd");
     expect(Severity::Error, 23, "LNodeType[In]/DO[Ind1]", "DOType \"Gone\" does not exist");
@@ -71,14 +71,14 @@ TEST_F(SclFindings, AMissingDataObjectTypeLeavesAnEmptyDataObject)
     EXPECT_EQ(counts().dataObjects, 2U);
 }
 
-TEST_F(SclFindings, AMissingAttributeTypeLeavesAnEmptyStructure)
+TEST_F(SclFindings, aMissingAttributeTypeLeavesAnEmptyStructure)
 {
     read("missing-datype.icd");
     expect(Severity::Error, 27, "DOType[Single]/DA[origin]", "DAType \"Gone\" does not exist");
     EXPECT_EQ(nodeNamed(document(), "GGIO1")->leafCount(), 1U);
 }
 
-TEST_F(SclFindings, AMissingEnumerationLeavesTheOrdinal)
+TEST_F(SclFindings, aMissingEnumerationLeavesTheOrdinal)
 {
     read("missing-enumtype.icd");
     expect(Severity::Error, 26, "DOType[Single]/DA[stVal]", "EnumType \"Gone\" does not exist");
@@ -88,7 +88,7 @@ TEST_F(SclFindings, AMissingEnumerationLeavesTheOrdinal)
     EXPECT_EQ(std::get<std::int64_t>(value.value()->value), 3);
 }
 
-TEST_F(SclFindings, OfDuplicateTypesTheFirstIsUsed)
+TEST_F(SclFindings, ofDuplicateTypesTheFirstIsUsed)
 {
     read("duplicate-ids.icd");
     expect(Severity::Error, 29, "LNodeType[In]", "line 22 is used");
@@ -99,7 +99,7 @@ TEST_F(SclFindings, OfDuplicateTypesTheFirstIsUsed)
     EXPECT_EQ(document().findEnumeration("Colour")->literals.front().text, "red");
 }
 
-TEST_F(SclFindings, ATypeThatContainsItselfIsCutThere)
+TEST_F(SclFindings, aTypeThatContainsItselfIsCutThere)
 {
     read("self-referring-types.icd");
     expect(Severity::Error, 26, "DOType[Loop]/SDO[again]", "contains itself");
@@ -107,7 +107,7 @@ TEST_F(SclFindings, ATypeThatContainsItselfIsCutThere)
     EXPECT_EQ(nodeNamed(document(), "GGIO1")->leafCount(), 3U);
 }
 
-TEST_F(SclFindings, AClassThatDiffersFromItsTypeIsKept)
+TEST_F(SclFindings, aClassThatDiffersFromItsTypeIsKept)
 {
     read("class-mismatch.icd");
     expect(Severity::Warning, 10, "LN[XCBR1]", "of class \"GGIO\"");
@@ -115,35 +115,35 @@ TEST_F(SclFindings, AClassThatDiffersFromItsTypeIsKept)
     EXPECT_EQ(nodeNamed(document(), "XCBR1")->leafCount(), 2U);
 }
 
-TEST_F(SclFindings, ADataObjectTypeWithoutClassIsKept)
+TEST_F(SclFindings, aDataObjectTypeWithoutClassIsKept)
 {
     read("dotype-without-cdc.icd");
     expect(Severity::Warning, 25, "DOType[Single]", "no common data class");
     EXPECT_EQ(nodeNamed(document(), "GGIO1")->leafCount(), 2U);
 }
 
-TEST_F(SclFindings, AnAttributeWithoutConstraintIsKept)
+TEST_F(SclFindings, anAttributeWithoutConstraintIsKept)
 {
     read("attribute-without-fc.icd");
     expect(Severity::Error, 27, "DOType[Single]/DA[q]", "no functional constraint");
     EXPECT_EQ(nodeNamed(document(), "GGIO1")->leafCount(), 2U);
 }
 
-TEST_F(SclFindings, ALogicalNodeWithoutInstanceIsKept)
+TEST_F(SclFindings, aLogicalNodeWithoutInstanceIsKept)
 {
     read("node-without-inst.icd");
     expect(Severity::Error, 10, "LN[GGIO]", "no instance number");
     EXPECT_NE(nodeNamed(document(), "GGIO"), nullptr);
 }
 
-TEST_F(SclFindings, TypeIdsMayHoldBlanksAndBrackets)
+TEST_F(SclFindings, typeIdsMayHoldBlanksAndBrackets)
 {
     read("type-ids-with-blanks.icd");
     EXPECT_TRUE(document().findings.empty());
     EXPECT_EQ(nodeNamed(document(), "GGIO1")->leafCount(), 2U);
 }
 
-TEST_F(SclFindings, OddValuesAreUnderstoodOrLeftOutWithAFinding)
+TEST_F(SclFindings, oddValuesAreUnderstoodOrLeftOutWithAFinding)
 {
     read("odd-values.icd");
     expect(Severity::Info, 12, "DAI[byOrdinal]/Val", "by its number \"5\"");
@@ -170,7 +170,7 @@ TEST_F(SclFindings, OddValuesAreUnderstoodOrLeftOutWithAFinding)
     EXPECT_EQ(document().findings.size(), 11U);
 }
 
-TEST_F(SclFindings, MembersThatDoNotExistStayInTheirDataSet)
+TEST_F(SclFindings, membersThatDoNotExistStayInTheirDataSet)
 {
     read("missing-members.icd");
     expect(Severity::Error, 12, "DataSet[mixed]/FCDA[Ind1]", "no logical device \"Gone\"");
@@ -188,7 +188,7 @@ TEST_F(SclFindings, MembersThatDoNotExistStayInTheirDataSet)
     EXPECT_EQ(members[1].reference, "IED1Gone/GGIO1$ST$Ind1");
 }
 
-TEST_F(SclFindings, InstancesThatTheTypeLacksAreLeftOut)
+TEST_F(SclFindings, instancesThatTheTypeLacksAreLeftOut)
 {
     read("missing-instance-paths.icd");
     expect(Severity::Warning, 11, "DOI[Gone]", "\"Gone\" does not exist in type \"In\"");
@@ -198,7 +198,7 @@ TEST_F(SclFindings, InstancesThatTheTypeLacksAreLeftOut)
     EXPECT_TRUE(std::get<bool>(value.value()->value));
 }
 
-TEST_F(SclFindings, ControlBlocksThatNameAMissingDataSetAreKept)
+TEST_F(SclFindings, controlBlocksThatNameAMissingDataSetAreKept)
 {
     read("missing-data-set.icd");
     expect(Severity::Error, 10, "ReportControl[rcb]", "data set \"gone\"");
@@ -211,7 +211,7 @@ TEST_F(SclFindings, ControlBlocksThatNameAMissingDataSetAreKept)
     EXPECT_EQ(zero.reports.front().dataSetName, "gone");
 }
 
-TEST_F(SclFindings, PrivateElementsAndForeignNamesAreSkippedWhereverTheyStand)
+TEST_F(SclFindings, privateElementsAndForeignNamesAreSkippedWhereverTheyStand)
 {
     read("private-and-foreign.icd");
     EXPECT_EQ(counts().logicalNodes, 2U);
@@ -222,14 +222,14 @@ TEST_F(SclFindings, PrivateElementsAndForeignNamesAreSkippedWhereverTheyStand)
     EXPECT_EQ(document().findings.size(), 1U);
 }
 
-TEST_F(SclFindings, AnUndeclaredPrefixIsReportedOnce)
+TEST_F(SclFindings, anUndeclaredPrefixIsReportedOnce)
 {
     read("unbound-prefix.icd");
     expect(Severity::Warning, 10, "SCL", "prefix \"v\"");
     EXPECT_EQ(counts().logicalNodes, 2U);
 }
 
-TEST_F(SclFindings, ArrayElementsAreAddressedByNumber)
+TEST_F(SclFindings, arrayElementsAreAddressedByNumber)
 {
     read("array-members.icd");
     const scl::DataNode object = nodeNamed(document(), "MHAI1")->dataObject("HA");
@@ -255,7 +255,7 @@ TEST_F(SclFindings, ArrayElementsAreAddressedByNumber)
     expect(Severity::Error, 16, "FCDA[HA.har.q]", "no element is given");
 }
 
-TEST_F(SclFindings, AnArrayWhoseSizeIsUnknownIsEmpty)
+TEST_F(SclFindings, anArrayWhoseSizeIsUnknownIsEmpty)
 {
     read("array-size-unknown.icd");
     expect(Severity::Error, 28, "DOType[Curve]/DA[other]", "\"gone\"");
@@ -263,7 +263,7 @@ TEST_F(SclFindings, AnArrayWhoseSizeIsUnknownIsEmpty)
     EXPECT_EQ(nodeNamed(document(), "GGIO1")->leafCount(), 1U);
 }
 
-TEST_F(SclFindings, ReportInstancesStayWithinTwoDigits)
+TEST_F(SclFindings, reportInstancesStayWithinTwoDigits)
 {
     read("report-instances.icd");
     expect(Severity::Error, 10, "ReportControl[many]/RptEnabled", "400000; 99 is used");
@@ -276,7 +276,7 @@ TEST_F(SclFindings, ReportInstancesStayWithinTwoDigits)
     EXPECT_EQ(reports[2].instanceNames.back(), "twelve12");
 }
 
-TEST_F(SclFindings, StructuralMistakesAreReportedAndNothingIsDropped)
+TEST_F(SclFindings, structuralMistakesAreReportedAndNothingIsDropped)
 {
     read("structure-mistakes.scd");
     expect(Severity::Error, 5, "AccessPoint[S1]", "\"gone\"");
@@ -291,7 +291,7 @@ TEST_F(SclFindings, StructuralMistakesAreReportedAndNothingIsDropped)
     EXPECT_EQ(counts().logicalNodes, 4U);
 }
 
-TEST_F(SclFindings, UnknownBasicTypesAreKeptAsTexts)
+TEST_F(SclFindings, unknownBasicTypesAreKeptAsTexts)
 {
     read("basic-types.icd");
     expect(Severity::Info, 26, "DA[stVal]", "\"boolean\" instead of \"BOOLEAN\"");

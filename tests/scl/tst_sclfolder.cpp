@@ -71,7 +71,7 @@ std::map<std::string, Expected> expectedNumbers(const std::filesystem::path &rea
 
 } // namespace
 
-TEST(SclFolder, EveryFileLoadsWithTheNumbersOfItsTable)
+TEST(SclFolder, everyFileLoadsWithTheNumbersOfItsTable)
 {
     const std::filesystem::path folder = SCL_FOLDER;
     const auto expectedByFile = expectedNumbers(folder / "README.md");

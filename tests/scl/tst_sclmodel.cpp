@@ -53,14 +53,14 @@ Expected valueOf(const scl::DataNode &data, std::uint32_t group = 1)
 
 } // namespace
 
-TEST_F(SclModel, AConsistentFileHasNoFindings)
+TEST_F(SclModel, aConsistentFileHasNoFindings)
 {
     for (const scl::Finding &finding : document().findings)
         ADD_FAILURE() << finding.line << " " << finding.path << ": " << finding.text;
     EXPECT_FALSE(document().hasErrors);
 }
 
-TEST_F(SclModel, DescribesTheIedAndItsServices)
+TEST_F(SclModel, describesTheIedAndItsServices)
 {
     EXPECT_EQ(document().headerId, "device");
     EXPECT_EQ(document().toolId, "editor");
@@ -78,7 +78,7 @@ TEST_F(SclModel, DescribesTheIedAndItsServices)
     EXPECT_EQ(ied().services.find("FileHandling"), nullptr);
 }
 
-TEST_F(SclModel, SharesAServerBetweenAccessPointsAndCountsItOnce)
+TEST_F(SclModel, sharesAServerBetweenAccessPointsAndCountsItOnce)
 {
     ASSERT_EQ(ied().accessPoints.size(), 3U);
     const scl::AccessPoint &own = ied().accessPoints[0];
@@ -103,7 +103,7 @@ TEST_F(SclModel, SharesAServerBetweenAccessPointsAndCountsItOnce)
     EXPECT_EQ(counts.unbufferedReports, 2U);
 }
 
-TEST_F(SclModel, NamesLogicalDevicesByLdNameOrByIedAndInstance)
+TEST_F(SclModel, namesLogicalDevicesByLdNameOrByIedAndInstance)
 {
     ASSERT_NE(ied().findDevice("CTRL"), nullptr);
     EXPECT_EQ(ied().findDevice("CTRL")->name, "BAY1CTRL");
@@ -113,7 +113,7 @@ TEST_F(SclModel, NamesLogicalDevicesByLdNameOrByIedAndInstance)
     EXPECT_EQ(ied().findDevice("GONE"), nullptr);
 }
 
-TEST_F(SclModel, NamesLogicalNodesByPrefixClassAndInstance)
+TEST_F(SclModel, namesLogicalNodesByPrefixClassAndInstance)
 {
     const scl::LogicalDevice &device = *ied().findDevice("CTRL");
     ASSERT_EQ(device.nodes.size(), 3U);
@@ -124,7 +124,7 @@ TEST_F(SclModel, NamesLogicalNodesByPrefixClassAndInstance)
     EXPECT_EQ(device.nodes[2].name, "PTOC1");
 }
 
-TEST_F(SclModel, ResolvesAttributesWithConstraintTypeAndEnumeration)
+TEST_F(SclModel, resolvesAttributesWithConstraintTypeAndEnumeration)
 {
     const scl::DataNode position = node("Q0CSWI1").dataObject("Pos");
     ASSERT_TRUE(position.isValid());
@@ -145,7 +145,7 @@ TEST_F(SclModel, ResolvesAttributesWithConstraintTypeAndEnumeration)
     EXPECT_EQ(f.fc(), "SG") << "inherited from the attribute around it";
 }
 
-TEST_F(SclModel, AnInstanceValueComesBeforeTheDefaultOfItsType)
+TEST_F(SclModel, anInstanceValueComesBeforeTheDefaultOfItsType)
 {
     const scl::DataNode position = node("Q0CSWI1").dataObject("Pos");
     EXPECT_EQ(valueOf<std::int64_t>(position.child("stVal")), 2);
@@ -155,7 +155,7 @@ TEST_F(SclModel, AnInstanceValueComesBeforeTheDefaultOfItsType)
     EXPECT_EQ(position.desc(), "Position");
 }
 
-TEST_F(SclModel, ASettingHasAValuePerGroup)
+TEST_F(SclModel, aSettingHasAValuePerGroup)
 {
     const scl::DataNode f = node("PTOC1").dataObject("StrVal").child("setMag").child("f");
     EXPECT_EQ(f.values().size(), 2U);
@@ -165,7 +165,7 @@ TEST_F(SclModel, ASettingHasAValuePerGroup)
     EXPECT_EQ(f.shortAddress(), "7.1");
 }
 
-TEST_F(SclModel, AnArrayTakesItsSizeFromTheAttributeItNames)
+TEST_F(SclModel, anArrayTakesItsSizeFromTheAttributeItNames)
 {
     const scl::DataNode harmonics = node("MHAI1").dataObject("HA").child("phsAHar");
     ASSERT_TRUE(harmonics.isArray());
@@ -178,7 +178,7 @@ TEST_F(SclModel, AnArrayTakesItsSizeFromTheAttributeItNames)
     EXPECT_FALSE(harmonics.child("cVal").isValid()) << "only an element has children of the type";
 }
 
-TEST_F(SclModel, ResolvesMembersOfDataSets)
+TEST_F(SclModel, resolvesMembersOfDataSets)
 {
     const scl::DataSet *state = node("LLN0").findDataSet("state");
     ASSERT_NE(state, nullptr);
@@ -196,7 +196,7 @@ TEST_F(SclModel, ResolvesMembersOfDataSets)
     EXPECT_EQ(node("LLN0").findDataSet("gone"), nullptr);
 }
 
-TEST_F(SclModel, ReadsEverySettingOfAReportControlBlock)
+TEST_F(SclModel, readsEverySettingOfAReportControlBlock)
 {
     ASSERT_EQ(node("LLN0").reports.size(), 3U);
     const scl::ReportControl &buffered = report(0);
@@ -230,7 +230,7 @@ TEST_F(SclModel, ReadsEverySettingOfAReportControlBlock)
     EXPECT_TRUE(unbuffered.reportId.empty());
 }
 
-TEST_F(SclModel, AnIndexedReportControlBlockHasNumberedInstances)
+TEST_F(SclModel, anIndexedReportControlBlockHasNumberedInstances)
 {
     const auto names = [](const scl::ReportControl &control) {
         return std::vector<std::string>(control.instanceNames.begin(), control.instanceNames.end());
@@ -240,7 +240,7 @@ TEST_F(SclModel, AnIndexedReportControlBlockHasNumberedInstances)
     EXPECT_EQ(names(report(2)), std::vector<std::string>{"plain01"}) << "indexed by default";
 }
 
-TEST_F(SclModel, ReadsTheOtherControlBlocks)
+TEST_F(SclModel, readsTheOtherControlBlocks)
 {
     const scl::LogicalNode &zero = node("LLN0");
     ASSERT_NE(zero.settingControl, nullptr);
@@ -264,7 +264,7 @@ TEST_F(SclModel, ReadsTheOtherControlBlocks)
     EXPECT_EQ(zero.logs.front(), "CTRL");
 }
 
-TEST_F(SclModel, ReadsTheAddressesOfAnAccessPoint)
+TEST_F(SclModel, readsTheAddressesOfAnAccessPoint)
 {
     const scl::ConnectedAccessPoint *connection = document().findConnection("BAY1", "S1");
     ASSERT_NE(connection, nullptr);
@@ -282,7 +282,7 @@ TEST_F(SclModel, ReadsTheAddressesOfAnAccessPoint)
     EXPECT_EQ(document().findConnection("BAY1", "S2"), nullptr);
 }
 
-TEST_F(SclModel, FindsIedsAndEnumerationsByName)
+TEST_F(SclModel, findsIedsAndEnumerationsByName)
 {
     EXPECT_EQ(document().findIed("BAY1"), &ied());
     EXPECT_EQ(document().findIed("BAY2"), nullptr);

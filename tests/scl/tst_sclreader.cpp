@@ -67,7 +67,7 @@ std::string typeBomb(int levels)
 
 } // namespace
 
-TEST(SclReader, ReadsEveryUsualEncoding)
+TEST(SclReader, readsEveryUsualEncoding)
 {
     EXPECT_EQ(descriptionOf("utf8.icd"), "Größe Ω");
     EXPECT_EQ(descriptionOf("utf8-bom.icd"), "Größe Ω");
@@ -77,7 +77,7 @@ TEST(SclReader, ReadsEveryUsualEncoding)
     EXPECT_EQ(descriptionOf("windows-1252.icd"), "10 €");
 }
 
-TEST(SclReader, ReadsAnEncodingNameWithoutHyphenAndSaysSo)
+TEST(SclReader, readsAnEncodingNameWithoutHyphenAndSaysSo)
 {
     EXPECT_EQ(descriptionOf("encoding-utf8-unhyphenated.icd"), "Größe Ω");
     const scl::ReadResult result = readFixture("encoding-utf8-unhyphenated.icd");
@@ -87,14 +87,14 @@ TEST(SclReader, ReadsAnEncodingNameWithoutHyphenAndSaysSo)
     EXPECT_EQ(finding->line, 1U);
 }
 
-TEST(SclReader, ReadsSingleBytesThatAreDeclaredAsUtf16AndSaysSo)
+TEST(SclReader, readsSingleBytesThatAreDeclaredAsUtf16AndSaysSo)
 {
     EXPECT_EQ(descriptionOf("utf16-declared-only.icd"), "Größe Ω");
     const scl::ReadResult result = readFixture("utf16-declared-only.icd");
     EXPECT_NE(findingWith(*result.document, "\"utf-16\""), nullptr);
 }
 
-TEST(SclReader, NamesTheEditionOfAFile)
+TEST(SclReader, namesTheEditionOfAFile)
 {
     const scl::ReadResult first = readFixture("edition1.icd");
     EXPECT_EQ(first.document->edition(), "1");
@@ -107,7 +107,7 @@ TEST(SclReader, NamesTheEditionOfAFile)
     EXPECT_EQ(third.document->schemaVersion(), "2007B4");
 }
 
-TEST(SclReader, ReadsTheOldNamespaceNoneAndAPrefixedOne)
+TEST(SclReader, readsTheOldNamespaceNoneAndAPrefixedOne)
 {
     for (const char *fixture :
          {"old-namespace.icd", "no-namespace.icd", "prefixed-namespace.icd", "utf8.icd"}) {
@@ -121,25 +121,25 @@ TEST(SclReader, ReadsTheOldNamespaceNoneAndAPrefixedOne)
     EXPECT_TRUE(readFixture("prefixed-namespace.icd").document->findings.empty());
 }
 
-TEST(SclReader, RefusesWhatIsNotWellFormedWithTheLine)
+TEST(SclReader, refusesWhatIsNotWellFormedWithTheLine)
 {
     expectRefused("not-well-formed.icd", scl::ReadError::NotWellFormed, 6, "mismatched tag");
     expectRefused("truncated.icd", scl::ReadError::NotWellFormed, 23, "not well-formed");
     expectRefused("wrong-encoding.icd", scl::ReadError::NotWellFormed, 10, "encoding");
 }
 
-TEST(SclReader, RefusesXmlOfAnotherKind)
+TEST(SclReader, refusesXmlOfAnotherKind)
 {
     expectRefused("not-scl.xml", scl::ReadError::NotScl, 2, "\"project\"");
 }
 
-TEST(SclReader, RefusesEntityDeclarationsWithoutExpandingThem)
+TEST(SclReader, refusesEntityDeclarationsWithoutExpandingThem)
 {
     expectRefused("entity.icd", scl::ReadError::NotWellFormed, 3, "entity");
     expectRefused("external-dtd.icd", scl::ReadError::NotWellFormed, 2, "external");
 }
 
-TEST(SclReader, RefusesFilesWithoutContentOrThatCannotBeOpened)
+TEST(SclReader, refusesFilesWithoutContentOrThatCannotBeOpened)
 {
     EXPECT_EQ(scl::readBytes("").error, scl::ReadError::NotWellFormed);
     EXPECT_EQ(scl::readBytes(" \n\t").errorText, "The file is empty.");
@@ -150,7 +150,7 @@ TEST(SclReader, RefusesFilesWithoutContentOrThatCannotBeOpened)
     EXPECT_EQ(readFixture(".").error, scl::ReadError::CannotRead);
 }
 
-TEST(SclReader, AFileWithoutDevicesIsAnEmptyDocument)
+TEST(SclReader, aFileWithoutDevicesIsAnEmptyDocument)
 {
     const scl::ReadResult result = scl::readBytes("<SCL version=\"2007\"/>");
     ASSERT_NE(result.document, nullptr);
@@ -158,7 +158,7 @@ TEST(SclReader, AFileWithoutDevicesIsAnEmptyDocument)
     EXPECT_TRUE(result.errorText.empty());
 }
 
-TEST(SclReader, EndsAtTheByteLimit)
+TEST(SclReader, endsAtTheByteLimit)
 {
     scl::ReadOptions options;
     options.maxBytes = 1000;
@@ -170,7 +170,7 @@ TEST(SclReader, EndsAtTheByteLimit)
               scl::ReadError::TooLarge);
 }
 
-TEST(SclReader, EndsAtTheDepthLimitAlsoWithinSkippedElements)
+TEST(SclReader, endsAtTheDepthLimitAlsoWithinSkippedElements)
 {
     EXPECT_EQ(scl::readBytes(nested("<Private>", "</Private>", 126)).error, scl::ReadError::None);
     for (const char *name : {"Private", "IED", "Services"}) {
@@ -181,7 +181,7 @@ TEST(SclReader, EndsAtTheDepthLimitAlsoWithinSkippedElements)
     }
 }
 
-TEST(SclReader, RefusesTypesThatMultiplyBeyondTheLimit)
+TEST(SclReader, refusesTypesThatMultiplyBeyondTheLimit)
 {
     const scl::ReadResult result = scl::readBytes(deviceWithTypes(typeBomb(25)));
     EXPECT_EQ(result.document, nullptr);
@@ -190,7 +190,7 @@ TEST(SclReader, RefusesTypesThatMultiplyBeyondTheLimit)
     EXPECT_EQ(scl::readBytes(deviceWithTypes(typeBomb(4))).error, scl::ReadError::None);
 }
 
-TEST(SclReader, LeavesOutWhatIsNestedDeeperThanTheLimit)
+TEST(SclReader, leavesOutWhatIsNestedDeeperThanTheLimit)
 {
     scl::ReadOptions options;
     options.maxDataDepth = 5;
@@ -200,7 +200,7 @@ TEST(SclReader, LeavesOutWhatIsNestedDeeperThanTheLimit)
     EXPECT_EQ(scl::countsOf(result.document->ieds.front()).attributes, 0U);
 }
 
-TEST(SclReader, RefusesHugeArrays)
+TEST(SclReader, refusesHugeArrays)
 {
     const std::string node = "<LNodeType id=\"Z\" lnClass=\"LLN0\"><DO name=\"d\" type=\"O\"/>"
                              "</LNodeType><DOType id=\"O\" cdc=\"SPS\">";
@@ -223,7 +223,7 @@ TEST(SclReader, RefusesHugeArrays)
         scl::ReadError::TooLarge);
 }
 
-TEST(SclReader, KeepsNoMoreFindingsThanAskedForAndCountsTheRest)
+TEST(SclReader, keepsNoMoreFindingsThanAskedForAndCountsTheRest)
 {
     scl::ReadOptions options;
     options.maxFindings = 2;
@@ -234,7 +234,7 @@ TEST(SclReader, KeepsNoMoreFindingsThanAskedForAndCountsTheRest)
     EXPECT_TRUE(result.document->hasErrors);
 }
 
-TEST(SclReader, ReportsProgressFromStartToEnd)
+TEST(SclReader, reportsProgressFromStartToEnd)
 {
     std::vector<double> steps;
     scl::ReadOptions options;
@@ -247,7 +247,7 @@ TEST(SclReader, ReportsProgressFromStartToEnd)
     EXPECT_DOUBLE_EQ(steps.back(), 1.0);
 }
 
-TEST(SclReader, StopsWhenItIsCancelled)
+TEST(SclReader, stopsWhenItIsCancelled)
 {
     std::atomic<bool> cancelled{true};
     scl::ReadOptions options;
@@ -261,7 +261,7 @@ TEST(SclReader, StopsWhenItIsCancelled)
     EXPECT_EQ(result.document, nullptr);
 }
 
-TEST(SclReader, ReadsTokensLongerThanItsBuffer)
+TEST(SclReader, readsTokensLongerThanItsBuffer)
 {
     const std::string text(3'000'000, 'x');
     const scl::ReadResult result =

@@ -49,7 +49,7 @@ private:
 
 } // namespace
 
-TEST_F(SclValue, TruthValuesAreUnderstoodInAllTheirSpellings)
+TEST_F(SclValue, truthValuesAreUnderstoodInAllTheirSpellings)
 {
     expectValue(BasicType::Boolean, "true", true);
     expectValue(BasicType::Boolean, "false", false);
@@ -61,7 +61,7 @@ TEST_F(SclValue, TruthValuesAreUnderstoodInAllTheirSpellings)
     expectUnfit(BasicType::Boolean, "yes please");
 }
 
-TEST_F(SclValue, IntegersKeepToTheRangeOfTheirType)
+TEST_F(SclValue, integersKeepToTheRangeOfTheirType)
 {
     expectValue(BasicType::Int8, "-128", std::int64_t{-128});
     expectValue(BasicType::Int8, "+127", std::int64_t{127});
@@ -83,13 +83,13 @@ TEST_F(SclValue, IntegersKeepToTheRangeOfTheirType)
     expectUnfit(BasicType::Int32, "1.0");
 }
 
-TEST_F(SclValue, NumbersWithBlanksAroundThemAreUnderstood)
+TEST_F(SclValue, numbersWithBlanksAroundThemAreUnderstood)
 {
     expectValue(BasicType::Int32, " 12\n", std::int64_t{12}, ValueNote::Blanks);
     expectValue(BasicType::Float32, "\t1.5", 1.5, ValueNote::Blanks);
 }
 
-TEST_F(SclValue, FloatsAreReadWithPointAndExponentOnly)
+TEST_F(SclValue, floatsAreReadWithPointAndExponentOnly)
 {
     expectValue(BasicType::Float32, "1.5E3", 1500.0);
     expectValue(BasicType::Float64, "-1e300", -1e300);
@@ -99,7 +99,7 @@ TEST_F(SclValue, FloatsAreReadWithPointAndExponentOnly)
     expectUnfit(BasicType::Float32, "1,5");
 }
 
-TEST_F(SclValue, EnumerationsAreReadByTextThenByOrdinal)
+TEST_F(SclValue, enumerationsAreReadByTextThenByOrdinal)
 {
     expectValue(BasicType::Enum, "on", std::int64_t{1}, ValueNote::None, &beh);
     expectValue(BasicType::Enum, "blocked", std::int64_t{2}, ValueNote::Blanks, &beh);
@@ -112,13 +112,13 @@ TEST_F(SclValue, EnumerationsAreReadByTextThenByOrdinal)
     expectUnfit(BasicType::Enum, "sideways", &beh);
 }
 
-TEST_F(SclValue, AnEnumerationThatIsMissingStillTakesOrdinals)
+TEST_F(SclValue, anEnumerationThatIsMissingStillTakesOrdinals)
 {
     expectValue(BasicType::Enum, "42", std::int64_t{42}, ValueNote::OrdinalForText);
     expectUnfit(BasicType::Enum, "on");
 }
 
-TEST_F(SclValue, CodedEnumerationsHaveTextsOfTheirOwn)
+TEST_F(SclValue, codedEnumerationsHaveTextsOfTheirOwn)
 {
     expectValue(BasicType::Dbpos, "intermediate", std::int64_t{0});
     expectValue(BasicType::Dbpos, "off", std::int64_t{1});
@@ -132,14 +132,14 @@ TEST_F(SclValue, CodedEnumerationsHaveTextsOfTheirOwn)
     expectValue(BasicType::Check, "interlock-check", std::int64_t{1});
 }
 
-TEST_F(SclValue, QualitiesHaveThirteenBits)
+TEST_F(SclValue, qualitiesHaveThirteenBits)
 {
     expectValue(BasicType::Quality, "0100000000010", std::string_view("0100000000010"));
     expectUnfit(BasicType::Quality, "0");
     expectUnfit(BasicType::Quality, "00000000000002");
 }
 
-TEST_F(SclValue, TimeStampsBecomeUtcWithMilliseconds)
+TEST_F(SclValue, timeStampsBecomeUtcWithMilliseconds)
 {
     expectValue(BasicType::Timestamp, "2021-03-04T05:06:07Z",
                 std::string_view("2021-03-04T05:06:07.000Z"));
@@ -153,7 +153,7 @@ TEST_F(SclValue, TimeStampsBecomeUtcWithMilliseconds)
         expectUnfit(BasicType::Timestamp, text);
 }
 
-TEST_F(SclValue, TextsAreKeptAsTheyAreWritten)
+TEST_F(SclValue, textsAreKeptAsTheyAreWritten)
 {
     expectValue(BasicType::VisString, " a b ", std::string_view(" a b "));
     expectValue(BasicType::Unicode, "\n   Größe\n  ", std::string_view("Größe"));
@@ -162,7 +162,7 @@ TEST_F(SclValue, TextsAreKeptAsTheyAreWritten)
     expectValue(BasicType::Octet, " 0aFF ", std::string_view("0aFF"));
 }
 
-TEST_F(SclValue, AnEmptyTextIsNoValueOfATypeThatIsNotAText)
+TEST_F(SclValue, anEmptyTextIsNoValueOfATypeThatIsNotAText)
 {
     for (const BasicType type : {BasicType::Boolean, BasicType::Int32, BasicType::Float32,
                                  BasicType::Dbpos, BasicType::Quality, BasicType::Timestamp}) {

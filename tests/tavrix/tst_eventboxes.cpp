@@ -78,14 +78,14 @@ using Records = std::vector<std::string>;
 
 } // namespace
 
-TEST_F(EventBoxes, ConnectingToAMissingBoxSaysSoAndLeavesThePort)
+TEST_F(EventBoxes, connectingToAMissingBoxSaysSoAndLeavesThePort)
 {
     unsigned int port = 42;
     EXPECT_EQ(boxes.connectPort(thisThread, "A", port), NoSuchEventBox);
     EXPECT_EQ(port, 42u);
 }
 
-TEST_F(EventBoxes, ASecondBoxOfTheSameNameIsRefusedAndTheFirstKept)
+TEST_F(EventBoxes, aSecondBoxOfTheSameNameIsRefusedAndTheFirstKept)
 {
     const unsigned int port = openNew("A", 1);
     EXPECT_EQ(boxes.createBox(thisThread, "A", 100, 30s), EventBoxExists);
@@ -94,7 +94,7 @@ TEST_F(EventBoxes, ASecondBoxOfTheSameNameIsRefusedAndTheFirstKept)
     EXPECT_EQ(drain(port), Records({"2"}));
 }
 
-TEST_F(EventBoxes, EventsComeInTheOrderOfTheirPosting)
+TEST_F(EventBoxes, eventsComeInTheOrderOfTheirPosting)
 {
     const unsigned int port = openNew("A");
     post("A", "1");
@@ -103,7 +103,7 @@ TEST_F(EventBoxes, EventsComeInTheOrderOfTheirPosting)
     EXPECT_EQ(drain(port), Records({"1", "2", "3"}));
 }
 
-TEST_F(EventBoxes, AnEmptyBoxHasNothingToReceive)
+TEST_F(EventBoxes, anEmptyBoxHasNothingToReceive)
 {
     const unsigned int port = openNew("A");
     Events events;
@@ -111,7 +111,7 @@ TEST_F(EventBoxes, AnEmptyBoxHasNothingToReceive)
     EXPECT_TRUE(events.empty());
 }
 
-TEST_F(EventBoxes, AnEmptyBoxIsWaitedForAsLongAsAsked)
+TEST_F(EventBoxes, anEmptyBoxIsWaitedForAsLongAsAsked)
 {
     const unsigned int port = openNew("A");
     Events events;
@@ -120,7 +120,7 @@ TEST_F(EventBoxes, AnEmptyBoxIsWaitedForAsLongAsAsked)
     EXPECT_GE(std::chrono::steady_clock::now() - start, 30ms);
 }
 
-TEST_F(EventBoxes, AnEventIsReceivedOnceAmongThePortsOfABox)
+TEST_F(EventBoxes, anEventIsReceivedOnceAmongThePortsOfABox)
 {
     const unsigned int first = openNew("A");
     const unsigned int second = open("A");
@@ -130,7 +130,7 @@ TEST_F(EventBoxes, AnEventIsReceivedOnceAmongThePortsOfABox)
     EXPECT_EQ(drain(first), Records());
 }
 
-TEST_F(EventBoxes, APostReachesEveryBoxWithThePrefixAndNoOther)
+TEST_F(EventBoxes, aPostReachesEveryBoxWithThePrefixAndNoOther)
 {
     const unsigned int one = openNew("DATA:1");
     const unsigned int two = openNew("DATA:2");
@@ -145,7 +145,7 @@ TEST_F(EventBoxes, APostReachesEveryBoxWithThePrefixAndNoOther)
     EXPECT_EQ(drain(other), Records());
 }
 
-TEST_F(EventBoxes, AnEmptyPrefixReachesEveryBox)
+TEST_F(EventBoxes, anEmptyPrefixReachesEveryBox)
 {
     const unsigned int one = openNew("A");
     const unsigned int two = openNew("B");
@@ -154,7 +154,7 @@ TEST_F(EventBoxes, AnEmptyPrefixReachesEveryBox)
     EXPECT_EQ(drain(two), Records({"x"}));
 }
 
-TEST_F(EventBoxes, BoxesShareOneEvent)
+TEST_F(EventBoxes, boxesShareOneEvent)
 {
     const unsigned int one = openNew("A1");
     const unsigned int two = openNew("A2");
@@ -168,7 +168,7 @@ TEST_F(EventBoxes, BoxesShareOneEvent)
     EXPECT_EQ(ofTwo.front(), event);
 }
 
-TEST_F(EventBoxes, AKeyTakesItsEventsAndLeavesTheOthers)
+TEST_F(EventBoxes, aKeyTakesItsEventsAndLeavesTheOthers)
 {
     const unsigned int port = openNew("A");
     post("A", "1", "X");
@@ -180,7 +180,7 @@ TEST_F(EventBoxes, AKeyTakesItsEventsAndLeavesTheOthers)
     EXPECT_EQ(drain(port, {}), Records({"1", "3"}));
 }
 
-TEST_F(EventBoxes, AReceiveGathersAtMostTheEventsAskedFor)
+TEST_F(EventBoxes, aReceiveGathersAtMostTheEventsAskedFor)
 {
     const unsigned int port = openNew("A");
     for (const std::string_view record : {"1", "2", "3", "4", "5"}) {
@@ -195,7 +195,7 @@ TEST_F(EventBoxes, AReceiveGathersAtMostTheEventsAskedFor)
     EXPECT_EQ(drain(port), Records({"2", "5"}));
 }
 
-TEST_F(EventBoxes, AReceiveStopsBeforeItsRecordsExceedThoseOfTheLargestEvent)
+TEST_F(EventBoxes, aReceiveStopsBeforeItsRecordsExceedThoseOfTheLargestEvent)
 {
     const unsigned int port = openNew("A");
     const auto large = std::make_shared<Event>("K", 3000, 0);
@@ -212,7 +212,7 @@ TEST_F(EventBoxes, AReceiveStopsBeforeItsRecordsExceedThoseOfTheLargestEvent)
     EXPECT_EQ(events.size(), 1u);
 }
 
-TEST_F(EventBoxes, AnEventWithoutRecordsIsReceived)
+TEST_F(EventBoxes, anEventWithoutRecordsIsReceived)
 {
     const unsigned int port = openNew("A");
     boxes.post("A", eventOf("K", {}));
@@ -221,7 +221,7 @@ TEST_F(EventBoxes, AnEventWithoutRecordsIsReceived)
     EXPECT_EQ(events.front()->recordCount(), 0u);
 }
 
-TEST_F(EventBoxes, AFullBoxDropsItsOldestEvents)
+TEST_F(EventBoxes, aFullBoxDropsItsOldestEvents)
 {
     const unsigned int port = openNew("A", 3);
     for (const std::string_view record : {"1", "2", "3", "4", "5"}) {
@@ -230,7 +230,7 @@ TEST_F(EventBoxes, AFullBoxDropsItsOldestEvents)
     EXPECT_EQ(drain(port), Records({"3", "4", "5"}));
 }
 
-TEST_F(EventBoxes, ABoxKeepsNoMoreBytesThanItsLimit)
+TEST_F(EventBoxes, aBoxKeepsNoMoreBytesThanItsLimit)
 {
     const unsigned int port = openNew("A", 20005);
     const std::string record(rawValueSize, 'x');
@@ -259,7 +259,7 @@ TEST_F(EventBoxes, ABoxKeepsNoMoreBytesThanItsLimit)
     EXPECT_GE(received, fitting);
 }
 
-TEST_F(EventBoxes, TakenEventsMakeRoomAgain)
+TEST_F(EventBoxes, takenEventsMakeRoomAgain)
 {
     const unsigned int port = openNew("A", 20005);
     const std::string record(rawValueSize, 'x');
@@ -276,7 +276,7 @@ TEST_F(EventBoxes, TakenEventsMakeRoomAgain)
     EXPECT_EQ(drain(port), Records({"1", record}));
 }
 
-TEST_F(EventBoxes, AnEventThatNobodyReceivedInTimeIsDropped)
+TEST_F(EventBoxes, anEventThatNobodyReceivedInTimeIsDropped)
 {
     const unsigned int port = openNew("A", 100, 1000ms);
     post("A", "old");
@@ -286,7 +286,7 @@ TEST_F(EventBoxes, AnEventThatNobodyReceivedInTimeIsDropped)
     EXPECT_EQ(drain(port), Records({"young"}));
 }
 
-TEST_F(EventBoxes, EachBoxHasItsOwnTimeToLive)
+TEST_F(EventBoxes, eachBoxHasItsOwnTimeToLive)
 {
     const unsigned int shortLived = openNew("A1", 100, 10ms);
     const unsigned int longLived = openNew("A2", 100, 1000ms);
@@ -296,7 +296,7 @@ TEST_F(EventBoxes, EachBoxHasItsOwnTimeToLive)
     EXPECT_EQ(drain(longLived), Records({"x"}));
 }
 
-TEST_F(EventBoxes, AnExpiredEventIsFreedByTheNextPost)
+TEST_F(EventBoxes, anExpiredEventIsFreedByTheNextPost)
 {
     openNew("A", 100, 10ms);
     auto event = eventOf("K", {"x"});
@@ -309,7 +309,7 @@ TEST_F(EventBoxes, AnExpiredEventIsFreedByTheNextPost)
     EXPECT_TRUE(watched.expired());
 }
 
-TEST_F(EventBoxes, APortThatWasNeverOpenedIsNotUsable)
+TEST_F(EventBoxes, aPortThatWasNeverOpenedIsNotUsable)
 {
     Events events;
     EXPECT_EQ(boxes.receive(0, {}, 10s, 1, events), NoSuchEventBox);
@@ -317,7 +317,7 @@ TEST_F(EventBoxes, APortThatWasNeverOpenedIsNotUsable)
     EXPECT_EQ(boxes.disconnectPort(7), NoSuchEventBox);
 }
 
-TEST_F(EventBoxes, AClosedPortIsNotUsable)
+TEST_F(EventBoxes, aClosedPortIsNotUsable)
 {
     const unsigned int port = openNew("A");
     post("A", "1");
@@ -328,14 +328,14 @@ TEST_F(EventBoxes, AClosedPortIsNotUsable)
     EXPECT_EQ(drain(open("A")), Records({"1"}));
 }
 
-TEST_F(EventBoxes, APersistentBoxKeepsItsEventsWithoutAPort)
+TEST_F(EventBoxes, aPersistentBoxKeepsItsEventsWithoutAPort)
 {
     boxes.disconnectPort(openNew("A"));
     post("A", "1");
     EXPECT_EQ(drain(open("A")), Records({"1"}));
 }
 
-TEST_F(EventBoxes, ABoxThatIsNotPersistentDiesWithItsLastPort)
+TEST_F(EventBoxes, aBoxThatIsNotPersistentDiesWithItsLastPort)
 {
     const unsigned int first = openNew("A");
     const unsigned int second = open("A");
@@ -352,7 +352,7 @@ TEST_F(EventBoxes, ABoxThatIsNotPersistentDiesWithItsLastPort)
     EXPECT_TRUE(watched.expired());
 }
 
-TEST_F(EventBoxes, ABoxThatIsNotPersistentWaitsForItsFirstPort)
+TEST_F(EventBoxes, aBoxThatIsNotPersistentWaitsForItsFirstPort)
 {
     EXPECT_EQ(boxes.createBox(thisThread, "A", 100, 30s), Success);
     EXPECT_EQ(boxes.setPersistent("A", false), Success);
@@ -360,14 +360,14 @@ TEST_F(EventBoxes, ABoxThatIsNotPersistentWaitsForItsFirstPort)
     EXPECT_FALSE(exists("A"));
 }
 
-TEST_F(EventBoxes, ABoxWithoutPortsDiesWhenItIsMadeNonPersistent)
+TEST_F(EventBoxes, aBoxWithoutPortsDiesWhenItIsMadeNonPersistent)
 {
     boxes.disconnectPort(openNew("A"));
     EXPECT_EQ(boxes.setPersistent("A", false), Success);
     EXPECT_FALSE(exists("A"));
 }
 
-TEST_F(EventBoxes, ABoxMadePersistentAgainOutlivesItsPorts)
+TEST_F(EventBoxes, aBoxMadePersistentAgainOutlivesItsPorts)
 {
     const unsigned int port = openNew("A");
     boxes.setPersistent("A", false);
@@ -376,12 +376,12 @@ TEST_F(EventBoxes, ABoxMadePersistentAgainOutlivesItsPorts)
     EXPECT_TRUE(exists("A"));
 }
 
-TEST_F(EventBoxes, PersistenceOfAMissingBoxIsAnError)
+TEST_F(EventBoxes, persistenceOfAMissingBoxIsAnError)
 {
     EXPECT_EQ(boxes.setPersistent("A", false), NoSuchEventBox);
 }
 
-TEST_F(EventBoxes, PortsEndWithTheThreadThatOpenedThem)
+TEST_F(EventBoxes, portsEndWithTheThreadThatOpenedThem)
 {
     const unsigned int ours = openNew("A");
     const unsigned int theirs = open("A", otherThread);
@@ -394,7 +394,7 @@ TEST_F(EventBoxes, PortsEndWithTheThreadThatOpenedThem)
     EXPECT_FALSE(exists("A"));
 }
 
-TEST_F(EventBoxes, ABoxThatNeverHadAPortEndsWithItsCreatorUnlessPersistent)
+TEST_F(EventBoxes, aBoxThatNeverHadAPortEndsWithItsCreatorUnlessPersistent)
 {
     boxes.createBox(otherThread, "persistent", 100, 30s);
     boxes.createBox(otherThread, "orphan", 100, 30s);
@@ -407,7 +407,7 @@ TEST_F(EventBoxes, ABoxThatNeverHadAPortEndsWithItsCreatorUnlessPersistent)
     EXPECT_TRUE(exists("of the other thread"));
 }
 
-TEST_F(EventBoxes, ABoxWithPortsOfOtherThreadsOutlivesItsCreator)
+TEST_F(EventBoxes, aBoxWithPortsOfOtherThreadsOutlivesItsCreator)
 {
     EXPECT_EQ(boxes.createBox(otherThread, "A", 100, 30s), Success);
     boxes.setPersistent("A", false);

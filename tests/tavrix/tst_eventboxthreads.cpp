@@ -58,7 +58,7 @@ private:
 
 } // namespace
 
-TEST_F(EventBoxThreads, NoWakeUpIsLostBetweenTwoThreadsThatAnswerEachOther)
+TEST_F(EventBoxThreads, noWakeUpIsLostBetweenTwoThreadsThatAnswerEachOther)
 {
     constexpr int rounds = 5000;
     const unsigned int there = openNew("there");
@@ -85,7 +85,7 @@ TEST_F(EventBoxThreads, NoWakeUpIsLostBetweenTwoThreadsThatAnswerEachOther)
     EXPECT_EQ(answered, rounds);
 }
 
-TEST_F(EventBoxThreads, AReceiverIsWokenByAnEventOfItsKeyWhileOthersWaitForOtherKeys)
+TEST_F(EventBoxThreads, aReceiverIsWokenByAnEventOfItsKeyWhileOthersWaitForOtherKeys)
 {
     constexpr int rounds = 500;
     const unsigned int port = openNew("A");
@@ -119,7 +119,7 @@ TEST_F(EventBoxThreads, AReceiverIsWokenByAnEventOfItsKeyWhileOthersWaitForOther
     EXPECT_EQ(ended, 3);
 }
 
-TEST_F(EventBoxThreads, ManyPostersAndReceiversLoseNothingAndReceiveNothingTwice)
+TEST_F(EventBoxThreads, manyPostersAndReceiversLoseNothingAndReceiveNothingTwice)
 {
     constexpr int posters = 4;
     constexpr int receivers = 4;
@@ -161,7 +161,7 @@ TEST_F(EventBoxThreads, ManyPostersAndReceiversLoseNothingAndReceiveNothingTwice
     EXPECT_EQ(std::set<std::string>(all.begin(), all.end()).size(), all.size());
 }
 
-TEST_F(EventBoxThreads, EachReceiverSeesTheEventsOfOnePosterInOrder)
+TEST_F(EventBoxThreads, eachReceiverSeesTheEventsOfOnePosterInOrder)
 {
     constexpr int count = 5000;
     const unsigned int port = openNew("A");
@@ -185,7 +185,7 @@ TEST_F(EventBoxThreads, EachReceiverSeesTheEventsOfOnePosterInOrder)
     EXPECT_TRUE(std::is_sorted(received.begin(), received.end()));
 }
 
-TEST_F(EventBoxThreads, ClosingAPortEndsTheReceiveThatWaitsOnIt)
+TEST_F(EventBoxThreads, closingAPortEndsTheReceiveThatWaitsOnIt)
 {
     openNew("A");
     for (int round = 0; round < 500; ++round) {
@@ -198,7 +198,7 @@ TEST_F(EventBoxThreads, ClosingAPortEndsTheReceiveThatWaitsOnIt)
     }
 }
 
-TEST_F(EventBoxThreads, TheDeathOfABoxEndsEveryReceiveThatWaitsOnIt)
+TEST_F(EventBoxThreads, theDeathOfABoxEndsEveryReceiveThatWaitsOnIt)
 {
     for (int round = 0; round < 200; ++round) {
         ASSERT_EQ(boxes.createBox(1, "A", 10, 30s), Success);
@@ -220,7 +220,7 @@ TEST_F(EventBoxThreads, TheDeathOfABoxEndsEveryReceiveThatWaitsOnIt)
     }
 }
 
-TEST_F(EventBoxThreads, BoxesComeAndGoWhileOthersPost)
+TEST_F(EventBoxThreads, boxesComeAndGoWhileOthersPost)
 {
     std::atomic<bool> done = false;
     std::thread poster([&] {

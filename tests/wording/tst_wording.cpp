@@ -22,7 +22,7 @@ const Text denied = say("Access to the object is denied.");
 
 } // namespace
 
-TEST(Wording, ArgumentsAreTextsStringsAndNumbers)
+TEST(Wording, argumentsAreTextsStringsAndNumbers)
 {
     const std::string name = "LD/LLN0.blk";
     EXPECT_EQ(say("%2 of %1 has %3.", name, std::string_view("Resv"), -7),
@@ -31,7 +31,7 @@ TEST(Wording, ArgumentsAreTextsStringsAndNumbers)
     EXPECT_EQ(say("100 %.").english(), "100 %.");
 }
 
-TEST(Wording, ASentenceWithinAnotherLosesItsFullStop)
+TEST(Wording, aSentenceWithinAnotherLosesItsFullStop)
 {
     EXPECT_EQ(say("%1 cannot be written: %2.", "Resv", denied),
               "Resv cannot be written: Access to the object is denied.");
@@ -42,14 +42,14 @@ TEST(Wording, ASentenceWithinAnotherLosesItsFullStop)
     EXPECT_EQ(say("%1 That is all.", denied), "Access to the object is denied. That is all.");
 }
 
-TEST(Wording, ANameKeepsItsFullStop)
+TEST(Wording, aNameKeepsItsFullStop)
 {
     EXPECT_EQ(say("Look at %1.", "notes."), "Look at notes..");
     EXPECT_EQ(say("Look at %1.", verbatim("It is late.")), "Look at It is late.");
     EXPECT_EQ(say("Look: %1.", verbatim("It goes on...")), "Look: It goes on....");
 }
 
-TEST(Wording, SentencesBehindEachOtherHaveFullStops)
+TEST(Wording, sentencesBehindEachOtherHaveFullStops)
 {
     const Text owner = say("The block belongs to the client %1.", "10.0.0.5");
     EXPECT_EQ(sentences(denied, owner),
@@ -60,14 +60,14 @@ TEST(Wording, SentencesBehindEachOtherHaveFullStops)
     EXPECT_TRUE(sentences(Text(), Text()).empty());
 }
 
-TEST(Wording, EachPartIsInTheReadersLanguage)
+TEST(Wording, eachPartIsInTheReadersLanguage)
 {
     const Text text = sentences(say("%1 cannot be written: %2.", "Resv", denied),
                                 say("The block belongs to the client %1.", "10.0.0.5"));
     EXPECT_EQ(inChinese(text), "Resv无法写入：对象拒绝访问。该块属于客户端10.0.0.5。");
 }
 
-TEST(Wording, WhatTheSystemSaysIsKnownByItsCode)
+TEST(Wording, whatTheSystemSaysIsKnownByItsCode)
 {
     const auto refused = std::make_error_code(std::errc::connection_refused);
     EXPECT_EQ(ofSystem(refused), "Connection refused");
@@ -78,7 +78,7 @@ TEST(Wording, WhatTheSystemSaysIsKnownByItsCode)
     EXPECT_EQ(ofSystem(rare), rare.message());
 }
 
-TEST(Wording, AnEmptyTextSaysNothing)
+TEST(Wording, anEmptyTextSaysNothing)
 {
     EXPECT_TRUE(Text().empty());
     EXPECT_TRUE(verbatim("").empty());
