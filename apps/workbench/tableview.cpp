@@ -5,6 +5,8 @@
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
 #include <QtWidgets/QAction>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QScrollBar>
 
 #include <algorithm>
 
@@ -30,6 +32,22 @@ void TableView::setPlaceholder(const QString &text)
 {
     m_placeholder = text;
     viewport()->update();
+}
+
+void TableView::setUsualWidth(int column, int width)
+{
+    header()->resizeSection(column, qMax(width, header()->sectionSizeHint(column)));
+}
+
+void TableView::followNewest()
+{
+    connect(model(), &QAbstractItemModel::rowsAboutToBeInserted, this, [this] {
+        m_showedNewest = verticalScrollBar()->value() == verticalScrollBar()->maximum();
+    });
+    connect(model(), &QAbstractItemModel::rowsInserted, this, [this] {
+        if (m_showedNewest)
+            scrollToBottom();
+    });
 }
 
 QString TableView::selectedText() const

@@ -14,6 +14,14 @@ public:
     /// Text shown while there is no row.
     void setPlaceholder(const QString &text);
 
+    /// Give a column its usual width, or more where the language of its title needs it. Once the
+    /// model is set.
+    void setUsualWidth(int column, int width);
+
+    /// Keep the newest row, the last one, in sight, as long as nobody looks at older ones. Once the
+    /// model is set.
+    void followNewest();
+
     /// The selected rows from top to bottom, one line each, cells separated by tabulators.
     QString selectedText() const;
 
@@ -25,5 +33,6 @@ protected:
 
 private:
     QString m_placeholder;
+    bool m_showedNewest = true; ///< before the row that comes now
     QAction *m_copyAction;
 };
