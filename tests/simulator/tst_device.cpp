@@ -252,7 +252,7 @@ TEST_F(DeviceTest, aPasswordIsDemandedWhereOneIsSet)
 {
     auto options = localOptions();
     const std::string password = "secret";
-    const osi::acse::Authentication authentication{acse::passwordMechanism,
+    const osi::acse::Authentication authentication{osi::acse::passwordMechanism,
                                                    {password.begin(), password.end()}};
     options.server.association.link.stack.association.authentication = authentication;
     RunningDevice guarded(loop.executor(), *ied, options);
