@@ -70,9 +70,11 @@ function(project_add_test name)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests/bin)
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
     target_link_libraries(${name} PRIVATE ${arg_LINK})
-    # Expectations read better as plain literals.
-    target_compile_options(${name} PRIVATE -UQT_NO_CAST_FROM_ASCII)
+    # Expectations read better as plain literals. What is tested is optimised, tests need not be: that
+    # saves a fifth of their time in the compiler.
+    target_compile_options(${name} PRIVATE -UQT_NO_CAST_FROM_ASCII $<$<CONFIG:Release>:-O1>)
     if(arg_GTEST)
+        set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
         target_link_libraries(${name} PRIVATE GTest::gtest GTest::gtest_main)
     else()
         target_link_libraries(${name} PRIVATE Qt5::Test)

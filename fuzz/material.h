@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "osi/ber.h"
+#include "mms/vocabulary.h"
 
 #include <algorithm>
 #include <array>
