@@ -2,36 +2,31 @@
 #include "guardedcalls.h"
 
 #include <QtCore/QDataStream>
-
-#include <algorithm>
-#include <iterator>
+#include <QtCore/QStringList>
 
 namespace {
 
-/// How an operation takes its arguments.
-enum class Form { Plain, Value, AttributeValue, Control, Group, Upload, File };
-
-struct ChangingOperation
+/// The "in" arguments of a call by their type, in their order.
+struct Given
 {
-    const char *name;
-    GuardedCall::Kind kind;
-    Form form;
-};
+    QStringList texts;
+    QByteArray bytes;
+    QVariant value;
 
-constexpr ChangingOperation changingOperations[] = {
-    {"writeVariable", GuardedCall::Change, Form::Value},
-    {"writeValue", GuardedCall::Change, Form::AttributeValue},
-    {"selectObject", GuardedCall::Command, Form::Control},
-    {"controlObject", GuardedCall::Command, Form::Control},
-    {"cancelObject", GuardedCall::Withdrawal, Form::Control},
-    {"createDataSet", GuardedCall::Change, Form::Plain},
-    {"deleteDataSet", GuardedCall::Change, Form::Plain},
-    {"deleteFile", GuardedCall::Change, Form::File},
-    {"writeFile", GuardedCall::Change, Form::Upload},
-    {"enableReportBlock", GuardedCall::Change, Form::Plain},
-    {"setSGCBValues", GuardedCall::Change, Form::Group},
-    {"selectEditSG", GuardedCall::Change, Form::Group},
-    {"selectActiveSG", GuardedCall::Command, Form::Group},
+    void operator()(int number) { value = number; }
+    void operator()(const QString *text) { texts << *text; }
+    void operator()(const QByteArray *given) { bytes = *given; }
+    void operator()(const QList<SGCBValue> *values)
+    {
+        QStringList settings;
+        for (const SGCBValue &setting : *values)
+            settings << setting.name + QLatin1Char('=') + setting.value.toString();
+        value = settings.join(QLatin1String(", "));
+    }
+    template <typename Other>
+    void operator()(const Other &)
+    {
+    }
 };
 
 ControlBlock controlBlockOf(const QByteArray &bytes)
@@ -46,57 +41,61 @@ ControlBlock controlBlockOf(const QByteArray &bytes)
 
 } // namespace
 
-void CallArguments::add(const QList<SGCBValue> &values)
+std::optional<GuardedCall> guardedCall(const DriverCall &made)
 {
-    QStringList settings;
-    for (const SGCBValue &setting : values)
-        settings << setting.name + QLatin1Char('=') + setting.value.toString();
-    value = settings.join(QLatin1String(", "));
-}
-
-std::optional<GuardedCall> guardedCall(const char *operation, const CallArguments &arguments)
-{
-    const auto *const found =
-        std::find_if(std::begin(changingOperations), std::end(changingOperations),
-                     [operation](const ChangingOperation &changing) {
-                         return QLatin1String(changing.name) == QLatin1String(operation);
-                     });
-    if (found == std::end(changingOperations))
-        return std::nullopt;
-
     GuardedCall call;
-    call.kind = found->kind;
-    call.operation = QString::fromLatin1(operation);
-    const QStringList &texts = arguments.texts;
-    switch (found->form) {
-    case Form::File:
+    switch (made.effect()) {
+    case DriverEffect::Reads:
+        return std::nullopt;
+    case DriverEffect::Changes:
+        call.kind = GuardedCall::Change;
+        break;
+    case DriverEffect::Commands:
+        call.kind = GuardedCall::Command;
+        break;
+    case DriverEffect::Withdraws:
+        call.kind = GuardedCall::Withdrawal;
+        break;
+    }
+    call.operation = QString::fromLatin1(made.name());
+    Given given;
+    for (const DriverArgument &argument : made.arguments())
+        std::visit(given, argument);
+    const QStringList &texts = given.texts;
+
+    switch (made.operation()) {
+    case DriverOperation::deleteFile:
         call.object = texts.value(0);
         return call;
-    case Form::Upload:
+    case DriverOperation::writeFile:
         call.newValue = texts.value(0);
         call.object = texts.value(1);
         return call;
-    case Form::Group:
+    case DriverOperation::setSGCBValues:
+    case DriverOperation::selectEditSG:
+    case DriverOperation::selectActiveSG:
         call.logicalDevice = texts.value(0);
-        call.newValue = arguments.value;
+        call.newValue = given.value;
         return call;
-    case Form::Control:
+    case DriverOperation::selectObject:
+    case DriverOperation::controlObject:
+    case DriverOperation::cancelObject:
         call.isControl = true;
-        call.control = controlBlockOf(arguments.bytes);
+        call.control = controlBlockOf(given.bytes);
         call.newValue = call.control.controlValue;
         break;
-    case Form::Value:
-    case Form::AttributeValue: {
-        QDataStream stream(arguments.bytes);
+    case DriverOperation::writeVariable:
+    case DriverOperation::writeValue: {
+        QDataStream stream(given.bytes);
         stream >> call.newValue;
         break;
     }
-    case Form::Plain:
+    default:
         break;
     }
     call.logicalDevice = texts.value(0);
     call.object = texts.value(1);
-    if (found->form == Form::AttributeValue)
+    if (made.operation() == DriverOperation::writeValue)
         call.object += QLatin1Char('$') + texts.value(2);
     return call;
 }

@@ -62,8 +62,8 @@ OperationResult ExampleDriver::readVariable(long deviceNo, const QString &, cons
     return OperationSucceeded;
 }
 
-OperationResult ExampleDriver::refuse(QString &error)
+OperationResult ExampleDriver::call(const DriverCall &call)
 {
-    error = QStringLiteral("This driver does not offer the service.");
+    call.error() = QStringLiteral("This driver does not offer the service.");
     return OperationFailed;
 }

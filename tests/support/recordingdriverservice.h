@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <remoteclient/driverservice.h>
+#include <remoteclient/forwardingdriverservice.h>
 
 #include <QtCore/QHash>
 #include <QtCore/QMetaType>
@@ -15,7 +15,7 @@
 ///
 /// Without further ado every operation succeeds with empty results. Calls may come from any thread;
 /// the answers are set up before.
-class RecordingDriverService : public DriverService
+class RecordingDriverService : public ForwardingDriverService
 {
 public:
     struct Call
@@ -56,85 +56,11 @@ public:
     SGCB settingGroupBlock;
     QHash<QString, QList<SGCBValue>> settings; ///< by functional constraint
 
-    OperationResult getIEDModel(long deviceNo, QByteArray &answeredModel, QString &error) override;
-    OperationResult getServerDirectory(long deviceNo, QList<NameVaildValue> &list,
-                                       QString &error) override;
-    OperationResult getLogicalDeviceDirectory(long deviceNo, const QString &ldName,
-                                              QList<NameVaildValue> &list, QString &error) override;
-    OperationResult getLogicalNodeDirectory(long deviceNo, const QString &ldName,
-                                            const QString &lnName, QList<NameVaildValue> &list,
-                                            QString &error) override;
-    OperationResult getDataDirectory(long deviceNo, const QString &ldName,
-                                     const QString &dataReference, QList<NameVaildValue> &list,
-                                     QString &error) override;
-    OperationResult getDataSetList(long deviceNo, const QString &ldName,
-                                   QList<NameVaildValue> &list, QString &error) override;
-    OperationResult getDataSetDirectory(long deviceNo, const QString &ldName,
-                                        const QString &dataSetReference,
-                                        QList<NameVaildValue> &list, QString &error) override;
-    OperationResult getXRCB(long deviceNo, const QString &ldName, const QString &lnName,
-                            const QString &kind, QList<NameVaildValue> &list,
-                            QString &error) override;
-    OperationResult getSGCBBlock(long deviceNo, const QString &ldName, QList<NameVaildValue> &list,
-                                 QString &error) override;
-    OperationResult readVariable(long deviceNo, const QString &ldName,
-                                 const QStringList &references, QString &error) override;
-    OperationResult readDataSetValue(long deviceNo, const QString &ldName,
-                                     const QString &dataSetReference, QString &error) override;
-    OperationResult writeVariable(long deviceNo, const QString &ldName, const QString &reference,
-                                  const QByteArray &value, QString &error) override;
-    OperationResult writeValue(long deviceNo, const QString &ldName, const QString &blockReference,
-                               const QString &attribute, const QByteArray &value,
-                               QString &error) override;
-    OperationResult selectObject(long deviceNo, const QString &ldName,
-                                 const QString &objectReference, const QByteArray &controlBlock,
-                                 QString &error) override;
-    OperationResult controlObject(long deviceNo, const QString &ldName,
-                                  const QString &objectReference, const QByteArray &controlBlock,
-                                  QString &error) override;
-    OperationResult cancelObject(long deviceNo, const QString &ldName,
-                                 const QString &objectReference, const QByteArray &controlBlock,
-                                 QString &error) override;
-    OperationResult createDataSet(long deviceNo, const QString &ldName,
-                                  const QString &dataSetReference, const QString &members,
-                                  int nonPersistent, QString &error) override;
-    OperationResult deleteDataSet(long deviceNo, const QString &ldName,
-                                  const QString &dataSetReference, QString &error) override;
-    OperationResult getFileDirectory(long deviceNo, const QString &pattern,
-                                     const QString &directory, QList<MMSFileEntry> &entries,
-                                     QString &error) override;
-    OperationResult getFile(long deviceNo, const QString &fileName, QByteArray &content,
-                            QString &error) override;
-    OperationResult deleteFile(long deviceNo, const QString &fileName, QString &error) override;
-    OperationResult writeFile(long deviceNo, const QString &localFile, const QString &fileName,
-                              QString &error) override;
-    OperationResult getBRCBValues(long deviceNo, const QString &ldName,
-                                  const QString &blockReference, ReportBlock &block,
-                                  QString &error) override;
-    OperationResult enableReportBlock(long deviceNo, const QString &ldName,
-                                      const QString &blockReference, const QString &rptId,
-                                      const QString &dataSet, const ReportBlock &block,
-                                      QString &error) override;
-    OperationResult getSGCB(long deviceNo, const QString &sgcbReference, SGCB &block,
-                            QString &error) override;
-    OperationResult getSGCBValue(long deviceNo, const QString &sgcbReference, const QString &fc,
-                                 QList<SGCBValue> &values, QString &error) override;
-    OperationResult setSGCBValues(long deviceNo, const QString &sgcbReference,
-                                  const QList<SGCBValue> &values, QString &error) override;
-    OperationResult selectEditSG(long deviceNo, const QString &sgcbReference, int group,
-                                 QString &error) override;
-    OperationResult selectActiveSG(long deviceNo, const QString &sgcbReference, int group,
-                                   QString &error) override;
-    OperationResult abortClose(long deviceNo) override;
+protected:
+    OperationResult call(const DriverCall &made) override;
 
 private:
-    OperationResult answer(const char *operation, long deviceNo, const QVariantList &arguments,
-                           QString &error);
-    template <typename Out>
-    OperationResult answerWith(const Out &value, Out &out, const char *operation, long deviceNo,
-                               const QVariantList &arguments, QString &error);
-    OperationResult answerWithList(QList<NameVaildValue> &list, const char *operation,
-                                   long deviceNo, const QVariantList &arguments, QString &error);
+    void fill(const DriverCall &made);
 
     mutable std::mutex m_mutex;
     QList<Call> m_calls;
