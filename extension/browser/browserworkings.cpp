@@ -17,6 +17,11 @@ BrowserWorkings::Use::~Use()
         m_workings->deleteLater();
 }
 
+BrowserWorkings::BrowserWorkings(long deviceNo)
+    : services(controller, deviceNo)
+{
+}
+
 BrowserWorkings::~BrowserWorkings()
 {
     // The model's nodes point at the device.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "nodeservices.h"
+
 #include "model/sclexplanations.h"
 #include "model/scltemplatestore.h"
 
@@ -34,6 +36,7 @@ public:
         BrowserWorkings *const m_workings;
     };
 
+    explicit BrowserWorkings(long deviceNo);
     ~BrowserWorkings() override;
 
     /// The browser is being destroyed: destroy this as well, with its view, and when services run,
@@ -43,6 +46,7 @@ public:
     const SclTemplateStore templates;
     SclExplanations explanations;
     IEC61850ControllerInterface controller;
+    NodeServices services;
     PhysicalDevice device;
 
 private:

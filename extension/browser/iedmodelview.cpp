@@ -2,7 +2,7 @@
 #include "iedmodelview.h"
 
 #include "nodeexplanations.h"
-#include "nodereferences.h"
+#include "nodemenu.h"
 #include "treefinder.h"
 #include "treeviewstate.h"
 #include "ui_iedmodelview.h"
@@ -33,32 +33,12 @@
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QStyle>
 
-#include <algorithm>
+#include <utility>
 
 namespace {
 
 constexpr int valueColumn = 1;
 constexpr int valueColumnWidth = 200;
-
-const QString bufferedKind = QStringLiteral("BR");
-const QString unbufferedKind = QStringLiteral("RP");
-
-bool isControllable(const DataObject &dataObject)
-{
-    static const QStringList classes = {QStringLiteral("SPC"), QStringLiteral("DPC"),
-                                        QStringLiteral("INC"), QStringLiteral("BSC"),
-                                        QStringLiteral("ISC"), QStringLiteral("APC")};
-    return classes.contains(dataObject.type);
-}
-
-/// The object's control model; a driver may use the bits above the low eight for its own.
-quint8 controlModel(const DataObject &dataObject)
-{
-    const DAO *ctlModel = dataObject.getDAOByName(QStringLiteral("ctlModel"));
-    if (!ctlModel || !ctlModel->attribute)
-        return 0;
-    return static_cast<quint8>(ctlModel->attribute->value.toInt() & 0xFF);
-}
 
 } // namespace
 
@@ -66,10 +46,11 @@ IEDModelView::IEDModelView(int driverNo, int deviceNo, int /*taskParameter*/,
                            HostTaskContext *context, QWidget *parent)
     : QDialog(parent)
     , m_form(std::make_unique<Ui::IEDModelView>())
-    , m_workings(new BrowserWorkings)
+    , m_workings(new BrowserWorkings(deviceNo))
     , m_templates(m_workings->templates)
     , m_hostContext(context)
     , m_controller(m_workings->controller)
+    , m_services(m_workings->services)
     , m_device(m_workings->device)
     , m_deviceNo(deviceNo)
     , m_driverNo(driverNo)
@@ -172,90 +153,8 @@ void IEDModelView::updateMMSValue(const QList<MMSValue> &values)
 
 QMenu *IEDModelView::createTaskMenu(IEDNode *node)
 {
-    auto *menu = new QMenu;
-    menu->addAction(m_expandAction);
-    menu->addAction(m_collapseAction);
-
-    switch (node->type) {
-    case PhysicalDeviceNode:
-        menu->addSeparator();
-        menu->addAction(m_serverDirectoryAction);
-        menu->addAction(m_createNonPersistentDataSetAction);
-        break;
-    case LogicalDeviceNode:
-        menu->addSeparator();
-        menu->addAction(m_logicalDeviceDirectoryAction);
-        menu->addAction(m_settingGroupBlockAction);
-        break;
-    case LogicalNodeNode:
-        menu->addSeparator();
-        menu->addAction(m_readAction);
-        menu->addSeparator();
-        menu->addAction(m_logicalNodeDirectoryAction);
-        break;
-    case DataObjectNode:
-        menu->addSeparator();
-        menu->addAction(m_readAction);
-        menu->addSeparator();
-        menu->addAction(m_dataDirectoryAction);
-        addControlEntries(menu);
-        break;
-    case SettingGroupNode:
-        menu->addSeparator();
-        menu->addAction(m_openSettingGroupAction);
-        break;
-    case DataAttributeNode:
-        menu->addSeparator();
-        menu->addAction(m_readAction);
-        menu->addSeparator();
-        menu->addAction(m_dataDirectoryAction);
-        break;
-    case DataSetGroupNode:
-        menu->addSeparator();
-        menu->addAction(m_createPersistentDataSetAction);
-        menu->addAction(m_dataSetListAction);
-        break;
-    case DataSetNode:
-        menu->addSeparator();
-        menu->addAction(m_readAction);
-        menu->addAction(m_deleteDataSetAction);
-        menu->addAction(m_dataSetDirectoryAction);
-        break;
-    case DataSetMemberNode:
-        menu->addSeparator();
-        menu->addAction(m_locateAction);
-        break;
-    case ReportControlGroupNode:
-        menu->addSeparator();
-        menu->addAction(m_bufferedReportsAction);
-        menu->addAction(m_unbufferedReportsAction);
-        break;
-    case ReportControlNode:
-        menu->addSeparator();
-        menu->addAction(m_openReportAction);
-        break;
-    }
-    return menu;
-}
-
-void IEDModelView::addControlEntries(QMenu *menu)
-{
-    const IEDNode *node = currentNode();
-    const DataObject *dataObject = node ? node->dataObject() : nullptr;
-    if (!dataObject || !isControllable(*dataObject))
-        return;
-
-    const quint8 ctlModel = controlModel(*dataObject);
-    const bool direct = ctlModel == 1 || ctlModel == 3;
-    const bool selectBeforeOperate = ctlModel != 0 && !direct;
-    m_selectAction->setEnabled(selectBeforeOperate);
-    m_operateAction->setEnabled(direct || selectBeforeOperate);
-    m_cancelAction->setEnabled(selectBeforeOperate);
-
-    menu->addSeparator();
-    menu->addAction(m_selectAction);
-    menu->addAction(m_operateAction);
-    menu->addAction(m_cancelAction);
+    const IEDNode *current = currentNode();
+    return m_menu->create(node->type, current ? current->dataObject() : nullptr);
 }
 
 void IEDModelView::slotContextMenu(QPoint pos)
@@ -279,71 +178,42 @@ void IEDModelView::writeValue(const QModelIndex &index, const QVariant &value)
     const IEDNode *node = IEDModel::nodeAt(index);
     if (!node || node->type != DataAttributeNode)
         return;
-
-    const QString ldName = IEDModel::logicalDeviceName(node);
-    const QString reference = attributeReference(node);
-    if (node->dataAttribute()) {
-        QByteArray bytes;
-        QDataStream stream(&bytes, QIODevice::WriteOnly);
-        stream << value;
-        const bool written = request([&](QString &error) {
-            return m_controller.writeVariable(m_deviceNo, ldName, reference, bytes, error);
-        });
-        if (!written)
-            return;
-    }
-    request([&](QString &error) {
-        return m_controller.readVariable(m_deviceNo, ldName, {reference}, error);
-    });
+    const NodeServices::Variable variable = NodeServices::variableOf(node);
+    const auto write = [&](QString &error) { return m_services.write(variable, value, error); };
+    if (node->dataAttribute() && !request(write))
+        return;
+    request([&](QString &error) { return m_services.read(variable, error); });
 }
 
 void IEDModelView::readData()
 {
     const IEDNode *node = currentNode();
-    if (!node)
-        return;
-
-    if (const DataSet *dataSet = node->dataSet()) {
-        const bool heldByNode = dataSet->state == 0;
-        const QString ldName = heldByNode ? IEDModel::logicalDeviceName(node) : QString();
-        const QString reference = heldByNode ? nodeDataSetReference(node) : dataSet->name;
-        request([&](QString &error) {
-            return m_controller.readDataSetValue(m_deviceNo, ldName, reference, error);
-        });
+    const LogicalNode *logicalNode = node ? node->logicalNode() : nullptr;
+    if (!logicalNode) {
+        runService(static_cast<Service>(&NodeServices::read));
         return;
     }
-
     const BrowserWorkings::Use use(m_workings);
     const QPointer<IEDModelView> self(this);
-    QStringList references;
-    if (const LogicalNode *logicalNode = node->logicalNode()) {
-        SelectFCDialog picker(this);
-        ModalLife life(&picker);
-        picker.setFCList(logicalNode->posibleFC());
-        if (life.exec() != QDialog::Accepted || !self)
-            return;
-        references << logicalNode->name + QLatin1Char('$') + picker.selectedFC();
-    } else if (node->type == DataObjectNode || node->type == DataAttributeNode) {
-        references = variableReferences(node);
-    } else {
+    SelectFCDialog picker(this);
+    ModalLife life(&picker);
+    picker.setFCList(logicalNode->posibleFC());
+    if (life.exec() != QDialog::Accepted || !self)
         return;
-    }
-    const QString ldName = IEDModel::logicalDeviceName(node);
-    request([&](QString &error) {
-        return m_controller.readVariable(m_deviceNo, ldName, references, error);
-    });
+    const QString constraint = picker.selectedFC();
+    request([&](QString &error) { return m_services.readConstraint(node, constraint, error); });
 }
 
 void IEDModelView::writeData() {}
 
 void IEDModelView::selectCo()
 {
-    control(&IEC61850ControllerInterface::selectObject, {4}, ControlCheck::Offered);
+    control(ControlService::Select);
 }
 
 void IEDModelView::operateCo()
 {
-    control(&IEC61850ControllerInterface::controlObject, {1, 2, 3}, ControlCheck::Offered);
+    control(ControlService::Operate);
 }
 
 void IEDModelView::openReport()
@@ -379,23 +249,15 @@ void IEDModelView::openReport()
 
 void IEDModelView::readSGCB()
 {
-    const IEDNode *node = currentNode();
-    if (!node)
-        return;
-    const QString ldName = IEDModel::logicalDeviceName(node);
-    QList<NameVaildValue> blocks;
-    request([&](QString &error) {
-        return m_controller.getSGCBBlock(m_deviceNo, ldName, blocks, error);
-    });
+    runService(&NodeServices::settingGroupBlock);
 }
 
 void IEDModelView::cancelCo()
 {
-    control(&IEC61850ControllerInterface::cancelObject, {2}, ControlCheck::Locked);
+    control(ControlService::Cancel);
 }
 
-void IEDModelView::control(ControlOperation operation, std::initializer_list<quint8> modelsAsking,
-                           ControlCheck check)
+void IEDModelView::control(ControlService service)
 {
     const IEDNode *node = currentNode();
     const DataObject *dataObject = node ? node->dataObject() : nullptr;
@@ -405,11 +267,11 @@ void IEDModelView::control(ControlOperation operation, std::initializer_list<qui
     const BrowserWorkings::Use use(m_workings);
     const QPointer<IEDModelView> self(this);
     const quint8 ctlModel = controlModel(*dataObject);
-    ControlBlock block;
-    if (std::find(modelsAsking.begin(), modelsAsking.end(), ctlModel) != modelsAsking.end()) {
+    ControlBlock wanted;
+    if (asksForRequest(service, ctlModel)) {
         ControlCo dialog(node, &m_templates, m_templates.entries(QStringLiteral("Check")),
                          m_templates.entries(QStringLiteral("orCat")),
-                         check == ControlCheck::Locked, this);
+                         service == ControlService::Cancel, this);
         ModalLife life(&dialog);
         QString fault;
         do {
@@ -419,19 +281,10 @@ void IEDModelView::control(ControlOperation operation, std::initializer_list<qui
             if (!fault.isEmpty())
                 showWarning(this, failureTexts().title, fault);
         } while (!fault.isEmpty());
-        block = dialog.getControlBlock();
+        wanted = dialog.getControlBlock();
     }
-    block.objectReference =
-        QStringLiteral("%1$CO$%2").arg(IEDModel::logicalNodeName(node), dataObject->name);
-    block.controlModel = ctlModel;
-
-    QByteArray bytes;
-    QDataStream stream(&bytes, QIODevice::WriteOnly);
-    block.toStream(stream);
-    const QString ldName = IEDModel::logicalDeviceName(node);
-    request([&](QString &error) {
-        return (m_controller.*operation)(m_deviceNo, ldName, block.objectReference, bytes, error);
-    });
+    wanted.controlModel = ctlModel;
+    request([&](QString &error) { return m_services.control(service, node, wanted, error); });
 }
 
 void IEDModelView::expandChild()
@@ -496,7 +349,7 @@ void IEDModelView::createDataSet()
     IEDNode *node = currentNode();
     if (!node)
         return;
-    const bool nonPersistent = sender() == m_createNonPersistentDataSetAction;
+    const bool nonPersistent = sender() == m_menu->action(NodeMenu::CreateNonPersistentDataSet);
     if (!nonPersistent && node->type != DataSetGroupNode)
         return;
 
@@ -510,13 +363,8 @@ void IEDModelView::createDataSet()
 
     const QString name = picker.dataSetName();
     const QStringList members = picker.members();
-    const QString ldName = IEDModel::logicalDeviceName(node);
-    const QString reference =
-        nonPersistent ? name : IEDModel::logicalNodeName(node) + QLatin1Char('$') + name;
     const bool created = request([&](QString &error) {
-        return m_controller.createDataSet(m_deviceNo, ldName, reference,
-                                          members.join(QLatin1Char(';')), nonPersistent ? 1 : 0,
-                                          error);
+        return m_services.createDataSet(node, name, members, nonPersistent, error);
     });
     if (!created)
         return;
@@ -530,14 +378,10 @@ void IEDModelView::createDataSet()
 void IEDModelView::deleteDataSet()
 {
     const IEDNode *node = currentNode();
-    const DataSet *dataSet = node ? node->dataSet() : nullptr;
-    if (!dataSet)
+    if (!node || !node->dataSet())
         return;
-    const QString ldName = IEDModel::logicalDeviceName(node);
-    const QString reference = dataSet->state == 0 ? nodeDataSetReference(node) : dataSet->name;
-    const bool deleted = request([&](QString &error) {
-        return m_controller.deleteDataSet(m_deviceNo, ldName, reference, error);
-    });
+    const bool deleted =
+        request([&](QString &error) { return m_services.deleteDataSet(node, error); });
     if (!deleted)
         return;
     const TreeViewState state(*m_form->modelView);
@@ -559,134 +403,71 @@ void IEDModelView::checkDoubleclick(const QModelIndex & /*index*/)
 
 void IEDModelView::readDataSetList()
 {
-    const IEDNode *node = currentNode();
-    if (!node)
-        return;
-    const QString ldName = IEDModel::logicalDeviceName(node);
-    QList<NameVaildValue> dataSets;
-    request([&](QString &error) {
-        return m_controller.getDataSetList(m_deviceNo, ldName, dataSets, error);
-    });
+    runService(&NodeServices::dataSetList);
 }
 
 void IEDModelView::readDataSetDirectory()
 {
-    const IEDNode *node = currentNode();
-    if (!node)
-        return;
-    const DataSet *dataSet = node->dataSet();
-    const QString ldName = IEDModel::logicalDeviceName(node);
-    const QString reference =
-        dataSet && dataSet->state == 0 ? nodeDataSetReference(node) : QString();
-    QList<NameVaildValue> members;
-    request([&](QString &error) {
-        return m_controller.getDataSetDirectory(m_deviceNo, ldName, reference, members, error);
-    });
+    runService(&NodeServices::dataSetDirectory);
 }
 
 void IEDModelView::readXRCB()
 {
-    const IEDNode *node = currentNode();
-    const LogicalNode *logicalNode = node && node->parent ? node->parent->logicalNode() : nullptr;
-    if (!logicalNode)
+    if (!m_menu)
         return;
-    const QString ldName = IEDModel::logicalDeviceName(node);
-    const QString kind = sender() == m_bufferedReportsAction ? bufferedKind : unbufferedKind;
-    QList<NameVaildValue> blocks;
-    request([&](QString &error) {
-        return m_controller.getXRCB(m_deviceNo, ldName, logicalNode->name, kind, blocks, error);
-    });
+    const bool buffered = sender() == m_menu->action(NodeMenu::BufferedReports);
+    runService(buffered ? &NodeServices::bufferedReports : &NodeServices::unbufferedReports);
 }
 
 void IEDModelView::readServerDirectory()
 {
-    if (!currentNode())
-        return;
-    QList<NameVaildValue> logicalDevices;
-    request([&](QString &error) {
-        return m_controller.getServerDirectory(m_deviceNo, logicalDevices, error);
-    });
+    runService(&NodeServices::serverDirectory);
 }
 
 void IEDModelView::readLogicalDevice()
 {
-    const IEDNode *node = currentNode();
-    const LogicalDevice *logicalDevice = node ? node->logicalDevice() : nullptr;
-    if (!logicalDevice)
-        return;
-    QList<NameVaildValue> logicalNodes;
-    request([&](QString &error) {
-        return m_controller.getLogicalDeviceDirectory(m_deviceNo, logicalDevice->name, logicalNodes,
-                                                      error);
-    });
+    runService(&NodeServices::logicalDeviceDirectory);
 }
 
 void IEDModelView::readLogicalNode()
 {
-    const IEDNode *node = currentNode();
-    const LogicalNode *logicalNode = node ? node->logicalNode() : nullptr;
-    if (!logicalNode)
-        return;
-    const QString ldName = IEDModel::logicalDeviceName(node);
-    QList<NameVaildValue> names;
-    request([&](QString &error) {
-        return m_controller.getLogicalNodeDirectory(m_deviceNo, ldName, logicalNode->name, names,
-                                                    error);
-    });
+    runService(&NodeServices::logicalNodeDirectory);
 }
 
 void IEDModelView::readDataDirectory()
 {
-    const IEDNode *node = currentNode();
-    if (!node)
-        return;
-    const QString ldName = IEDModel::logicalDeviceName(node);
-    const QString reference = variableReferences(node).join(QLatin1Char(';'));
-    QList<NameVaildValue> names;
-    request([&](QString &error) {
-        return m_controller.getDataDirectory(m_deviceNo, ldName, reference, names, error);
-    });
+    runService(&NodeServices::dataDirectory);
 }
 
 void IEDModelView::createActions()
 {
-    m_readAction = createAction(tr("Read"), &IEDModelView::readData);
-    connect(m_readAction, &QAction::triggered, this, &IEDModelView::writeData);
-    m_writeAction = new QAction(tr("Write..."), this);
-    m_selectAction = createAction(tr("Select"), &IEDModelView::selectCo);
-    m_operateAction = createAction(tr("Operate"), &IEDModelView::operateCo);
-    m_cancelAction = createAction(tr("Cancel"), &IEDModelView::cancelCo);
-    m_expandAction = createAction(tr("Expand All"), &IEDModelView::expandChild);
-    m_collapseAction = createAction(tr("Collapse All"), &IEDModelView::collapseChild);
-    m_openReportAction = createAction(tr("Open Report Control"), &IEDModelView::openReport);
-    m_openSettingGroupAction =
-        createAction(tr("Open Setting Group Control"), &IEDModelView::openSGCB);
-    m_locateAction = createAction(tr("Locate"), &IEDModelView::locate);
-    m_createPersistentDataSetAction =
-        createAction(tr("Create Persistent DataSet"), &IEDModelView::createDataSet);
-    m_createNonPersistentDataSetAction =
-        createAction(tr("Create Non-Persistent DataSet"), &IEDModelView::createDataSet);
-    m_deleteDataSetAction = createAction(tr("Delete DataSet"), &IEDModelView::deleteDataSet);
-    m_dataSetListAction = createAction(tr("GetDataSet List"), &IEDModelView::readDataSetList);
-    m_dataSetDirectoryAction =
-        createAction(tr("GetDataSet Directory"), &IEDModelView::readDataSetDirectory);
-    m_bufferedReportsAction = createAction(tr("Get BRCB"), &IEDModelView::readXRCB);
-    m_unbufferedReportsAction = createAction(tr("Get URCB"), &IEDModelView::readXRCB);
-    m_settingGroupBlockAction = createAction(tr("Get SGCB"), &IEDModelView::readSGCB);
-    m_serverDirectoryAction =
-        createAction(tr("GetServer Directory"), &IEDModelView::readServerDirectory);
-    m_logicalDeviceDirectoryAction =
-        createAction(tr("GetLogicalDevice Directory"), &IEDModelView::readLogicalDevice);
-    m_logicalNodeDirectoryAction =
-        createAction(tr("GetLogicalNode Directory"), &IEDModelView::readLogicalNode);
-    m_dataDirectoryAction = createAction(tr("GetData Directory"), &IEDModelView::readDataDirectory);
-}
-
-QAction *IEDModelView::createAction(const QString &text, void (IEDModelView::*slot)())
-{
-    auto *action = new QAction(text, this);
-    connect(action, &QAction::triggered, this, slot);
-    return action;
+    m_menu = new NodeMenu(this);
+    const std::pair<NodeMenu::Entry, void (IEDModelView::*)()> services[] = {
+        {NodeMenu::Read, &IEDModelView::readData},
+        {NodeMenu::Read, &IEDModelView::writeData},
+        {NodeMenu::Select, &IEDModelView::selectCo},
+        {NodeMenu::Operate, &IEDModelView::operateCo},
+        {NodeMenu::Cancel, &IEDModelView::cancelCo},
+        {NodeMenu::ExpandAll, &IEDModelView::expandChild},
+        {NodeMenu::CollapseAll, &IEDModelView::collapseChild},
+        {NodeMenu::OpenReportControl, &IEDModelView::openReport},
+        {NodeMenu::OpenSettingGroupControl, &IEDModelView::openSGCB},
+        {NodeMenu::Locate, &IEDModelView::locate},
+        {NodeMenu::CreatePersistentDataSet, &IEDModelView::createDataSet},
+        {NodeMenu::CreateNonPersistentDataSet, &IEDModelView::createDataSet},
+        {NodeMenu::DeleteDataSet, &IEDModelView::deleteDataSet},
+        {NodeMenu::DataSetList, &IEDModelView::readDataSetList},
+        {NodeMenu::DataSetDirectory, &IEDModelView::readDataSetDirectory},
+        {NodeMenu::BufferedReports, &IEDModelView::readXRCB},
+        {NodeMenu::UnbufferedReports, &IEDModelView::readXRCB},
+        {NodeMenu::SettingGroupBlock, &IEDModelView::readSGCB},
+        {NodeMenu::ServerDirectory, &IEDModelView::readServerDirectory},
+        {NodeMenu::LogicalDeviceDirectory, &IEDModelView::readLogicalDevice},
+        {NodeMenu::LogicalNodeDirectory, &IEDModelView::readLogicalNode},
+        {NodeMenu::DataDirectory, &IEDModelView::readDataDirectory},
+    };
+    for (const auto &[entry, slot] : services)
+        connect(m_menu->action(entry), &QAction::triggered, this, slot);
 }
 
 IEDNode *IEDModelView::currentNode() const
@@ -728,4 +509,10 @@ bool IEDModelView::request(Call call)
         result = call(error);
     }
     return self && !reportFailure(this, result, error, failureTexts()) && self;
+}
+
+void IEDModelView::runService(Service service)
+{
+    if (const IEDNode *node = currentNode())
+        request([&](QString &error) { return (m_services.*service)(node, error); });
 }

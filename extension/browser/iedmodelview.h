@@ -9,13 +9,12 @@
 
 #include <QtWidgets/QDialog>
 
-#include <initializer_list>
 #include <memory>
 
 class IEDModel;
 class IEDModelDelegate;
 class MMSListener;
-class QAction;
+class NodeMenu;
 class QMenu;
 struct FailureTexts;
 struct HostTaskContext;
@@ -75,24 +74,20 @@ public slots:
     void readDataDirectory();
 
 private:
-    using ControlOperation = OperationResult (IEC61850ControllerInterface::*)(
-        long deviceNo, const QString &ldName, const QString &objectReference,
-        const QByteArray &controlBlock, QString &error);
-    enum class ControlCheck { Offered, Locked };
+    using Service = OperationResult (NodeServices::*)(const IEDNode *node, QString &error);
 
     void createActions();
-    QAction *createAction(const QString &text, void (IEDModelView::*slot)());
-    void addControlEntries(QMenu *menu);
 
     /// Send a control service for the current data object; the operator is asked for the request
-    /// when the object's control model is one of `modelsAsking`, otherwise the record is empty.
-    void control(ControlOperation operation, std::initializer_list<quint8> modelsAsking,
-                 ControlCheck check);
+    /// when the object's control model wants that.
+    void control(ControlService service);
+    /// Request a service for the current node, if there is one.
+    void runService(Service service);
     IEDNode *currentNode() const;
     FailureTexts failureTexts() const;
     void tellThatTheModelIsNotWhole();
 
-    /// Make a controller call, `call(error)`, under the busy cursor and report its failure.
+    /// Make a call of a service, `call(error)`, under the busy cursor and report its failure.
     /// \return whether it succeeded and the window is still there
     template <typename Call>
     bool request(Call call);
@@ -103,35 +98,13 @@ private:
     IEDModel *m_model;
     HostTaskContext *m_hostContext;
     IEC61850ControllerInterface &m_controller;
+    NodeServices &m_services;
     PhysicalDevice &m_device;
     AttributeNodes m_attributeIndex;
     IEDModelDelegate *m_delegate;
     MMSListener *m_listener = nullptr;
     int m_deviceNo;
     int m_driverNo;
-
-    QAction *m_readAction = nullptr;
-    QAction *m_writeAction = nullptr;
-    QAction *m_selectAction = nullptr;
-    QAction *m_operateAction = nullptr;
-    QAction *m_cancelAction = nullptr;
-    QAction *m_expandAction = nullptr;
-    QAction *m_collapseAction = nullptr;
-    QAction *m_openReportAction = nullptr;
-    QAction *m_openSettingGroupAction = nullptr;
-    QAction *m_locateAction = nullptr;
-    QAction *m_createPersistentDataSetAction = nullptr;
-    QAction *m_createNonPersistentDataSetAction = nullptr;
-    QAction *m_deleteDataSetAction = nullptr;
-    QAction *m_dataSetListAction = nullptr;
-    QAction *m_dataSetDirectoryAction = nullptr;
-    QAction *m_bufferedReportsAction = nullptr;
-    QAction *m_unbufferedReportsAction = nullptr;
-    QAction *m_settingGroupBlockAction = nullptr;
-    QAction *m_serverDirectoryAction = nullptr;
-    QAction *m_logicalDeviceDirectoryAction = nullptr;
-    QAction *m_logicalNodeDirectoryAction = nullptr;
-    QAction *m_dataDirectoryAction = nullptr;
-
+    NodeMenu *m_menu = nullptr; ///< since init()
     bool m_offline = false;
 };
