@@ -52,7 +52,7 @@ std::string converted(const Type &type, const Data &value)
 
 } // namespace
 
-TEST(TypedValue, NumbersAndBooleansBecomeWhatTheDeviceWants)
+TEST(TypedValue, numbersAndBooleansBecomeWhatTheDeviceWants)
 {
     const auto coded = Type::bitString(2);
     EXPECT_EQ(converted(Type::boolean(), Data::integer(1)), "true");
@@ -73,7 +73,7 @@ TEST(TypedValue, NumbersAndBooleansBecomeWhatTheDeviceWants)
     EXPECT_EQ(converted(coded, Data::bitString(BitString::fromText("11"))), "'11'B");
 }
 
-TEST(TypedValue, WhatDoesNotFitIsAnErrorThatNamesValueAndType)
+TEST(TypedValue, whatDoesNotFitIsAnErrorThatNamesValueAndType)
 {
     EXPECT_EQ(converted(Type::boolean(), Data::integer(2)), "error");
     EXPECT_EQ(converted(Type::integer(8), Data::integer(128)), "error");
@@ -96,7 +96,7 @@ TEST(TypedValue, WhatDoesNotFitIsAnErrorThatNamesValueAndType)
               "The value \"on\" does not fit the type boolean of the device.");
 }
 
-TEST(TypedValue, ExtremeNumbersKeepTheirValue)
+TEST(TypedValue, extremeNumbersKeepTheirValue)
 {
     constexpr auto lowest = std::numeric_limits<std::int64_t>::min();
     EXPECT_EQ(converted(Type::integer(64), Data::integer(lowest)), std::to_string(lowest));
@@ -106,7 +106,7 @@ TEST(TypedValue, ExtremeNumbersKeepTheirValue)
     EXPECT_EQ(converted(Type::integer(8), Data::integer(-128)), "-128");
 }
 
-TEST(TypedValue, AnalogueValuesAreMadeOfOneNumber)
+TEST(TypedValue, analogueValuesAreMadeOfOneNumber)
 {
     const Type onlyF = Type::structure({{"f", Type::float32()}});
     const Type onlyI = Type::structure({{"i", Type::integer(32)}});
@@ -123,7 +123,7 @@ TEST(TypedValue, AnalogueValuesAreMadeOfOneNumber)
     EXPECT_EQ(converted(onlyF, Data::visibleString("1.5")), "error");
 }
 
-TEST(ControlValue, HoldsThePartsInTheOrderAndTypesOfTheDevice)
+TEST(ControlValue, holdsThePartsInTheOrderAndTypesOfTheDevice)
 {
     const auto value = controlValue(operType(Type::boolean()), someRequest());
     ASSERT_TRUE(value.ok()) << value.error().message;
@@ -133,7 +133,7 @@ TEST(ControlValue, HoldsThePartsInTheOrderAndTypesOfTheDevice)
     EXPECT_EQ(value->children()[5].bits().toText(), "01");
 }
 
-TEST(ControlValue, ATimeToOperateIsZeroUnlessItIsGiven)
+TEST(ControlValue, aTimeToOperateIsZeroUnlessItIsGiven)
 {
     ControlRequest request = someRequest();
     const Type type = operType(Type::boolean(), true);
@@ -146,14 +146,14 @@ TEST(ControlValue, ATimeToOperateIsZeroUnlessItIsGiven)
     EXPECT_EQ(value->children()[1].toUtcTime(), request.operateTime);
 }
 
-TEST(ControlValue, ATimeToOperateWithoutAPlaceForItIsAnErrorInsteadOfAnImmediateCommand)
+TEST(ControlValue, aTimeToOperateWithoutAPlaceForItIsAnErrorInsteadOfAnImmediateCommand)
 {
     ControlRequest request = someRequest();
     request.operateTime = mms::UtcTime{1700000000, 0, 0};
     EXPECT_FALSE(controlValue(operType(Type::boolean()), request).ok());
 }
 
-TEST(ControlValue, ATestWithoutAPlaceForItIsAnErrorInsteadOfARealCommand)
+TEST(ControlValue, aTestWithoutAPlaceForItIsAnErrorInsteadOfARealCommand)
 {
     ControlRequest request = someRequest();
     request.interlockCheck = false;
@@ -163,7 +163,7 @@ TEST(ControlValue, ATestWithoutAPlaceForItIsAnErrorInsteadOfARealCommand)
     EXPECT_FALSE(controlValue(type, request).ok());
 }
 
-TEST(ControlValue, ACheckWithoutAPlaceForItIsAnErrorInsteadOfACommandWithoutIt)
+TEST(ControlValue, aCheckWithoutAPlaceForItIsAnErrorInsteadOfACommandWithoutIt)
 {
     const Type type = operType(Type::boolean(), false, false);
     ControlRequest request = someRequest();
@@ -178,7 +178,7 @@ TEST(ControlValue, ACheckWithoutAPlaceForItIsAnErrorInsteadOfACommandWithoutIt)
     EXPECT_EQ(value->children().size(), 5U);
 }
 
-TEST(ControlValue, ASetPointOfTwoPartsFollowsItsScale)
+TEST(ControlValue, aSetPointOfTwoPartsFollowsItsScale)
 {
     const Type both = Type::structure({{"i", Type::integer(16)}, {"f", Type::float32()}});
     const Type type = Type::structure({{"ctlVal", both}});
@@ -198,7 +198,7 @@ TEST(ControlValue, ASetPointOfTwoPartsFollowsItsScale)
     EXPECT_NE(sent(5000, AnalogueScale{0.1, 0}).find("ctlVal: i: "), std::string::npos);
 }
 
-TEST(ControlValue, AnOriginatorIdentificationBeyond64OctetsIsRefusedNotCut)
+TEST(ControlValue, anOriginatorIdentificationBeyond64OctetsIsRefusedNotCut)
 {
     ControlRequest request = someRequest();
     request.originator.identification.assign(64, 'x');
@@ -210,7 +210,7 @@ TEST(ControlValue, AnOriginatorIdentificationBeyond64OctetsIsRefusedNotCut)
                                      "64 are allowed.");
 }
 
-TEST(ControlValue, WhatTheDeviceWantsAndNobodyKnowsIsNamed)
+TEST(ControlValue, whatTheDeviceWantsAndNobodyKnowsIsNamed)
 {
     ControlRequest request = someRequest();
     request.interlockCheck = false;
@@ -222,7 +222,7 @@ TEST(ControlValue, WhatTheDeviceWantsAndNobodyKnowsIsNamed)
     EXPECT_FALSE(controlValue(Type::boolean(), someRequest()).ok());
 }
 
-TEST(ControlValue, AValueOfTheWrongTypeNamesCtlVal)
+TEST(ControlValue, aValueOfTheWrongTypeNamesCtlVal)
 {
     ControlRequest request = someRequest();
     request.value = Data::visibleString("on");
@@ -231,7 +231,7 @@ TEST(ControlValue, AValueOfTheWrongTypeNamesCtlVal)
     EXPECT_EQ(value.error().message.english().substr(0, 8), "ctlVal: ");
 }
 
-TEST(ControlValue, TheObjectOfAnErrorIsReadInEachWayToWriteIt)
+TEST(ControlValue, theObjectOfAnErrorIsReadInEachWayToWriteIt)
 {
     const auto read = [](std::string_view text) {
         const auto name = controlledNameFrom(text);
@@ -247,7 +247,7 @@ TEST(ControlValue, TheObjectOfAnErrorIsReadInEachWayToWriteIt)
         EXPECT_EQ(read(text), "none") << text;
 }
 
-TEST(ControlRequestReading, GivesBackWhatWasWritten)
+TEST(ControlRequestReading, givesBackWhatWasWritten)
 {
     for (const bool withOperTm : {false, true}) {
         ControlRequest request = someRequest();
@@ -269,7 +269,7 @@ TEST(ControlRequestReading, GivesBackWhatWasWritten)
     }
 }
 
-TEST(ControlRequestReading, ATimeToOperateOfZeroIsNone)
+TEST(ControlRequestReading, aTimeToOperateOfZeroIsNone)
 {
     const Type type = operType(Type::boolean(), true);
     const auto read = controlRequestFrom(type, *controlValue(type, someRequest()));
@@ -277,7 +277,7 @@ TEST(ControlRequestReading, ATimeToOperateOfZeroIsNone)
     EXPECT_FALSE(read->operateTime);
 }
 
-TEST(ControlRequestReading, ValuesOfOtherShapesAreErrors)
+TEST(ControlRequestReading, valuesOfOtherShapesAreErrors)
 {
     const Type type = operType(Type::boolean());
     const Data good = *controlValue(type, someRequest());
@@ -293,7 +293,7 @@ TEST(ControlRequestReading, ValuesOfOtherShapesAreErrors)
     }
 }
 
-TEST(LastApplErrorValue, GivesBackWhatWasWritten)
+TEST(LastApplErrorValue, givesBackWhatWasWritten)
 {
     const LastApplError error{"LD/CSWI1$CO$Pos$Oper", 1, {2, {'a'}}, 9, 10};
     const auto read = lastApplErrorFrom(toData(error));
@@ -301,7 +301,7 @@ TEST(LastApplErrorValue, GivesBackWhatWasWritten)
     EXPECT_EQ(*read, error);
 }
 
-TEST(LastApplErrorValue, OtherShapesAreErrors)
+TEST(LastApplErrorValue, otherShapesAreErrors)
 {
     const Data good = toData({"LD/CSWI1$CO$Pos$Oper", 1, {2, {'a'}}, 9, 10});
     for (std::size_t i = 0; i < good.children().size(); ++i) {
@@ -313,7 +313,7 @@ TEST(LastApplErrorValue, OtherShapesAreErrors)
     EXPECT_FALSE(lastApplErrorFrom(Data::boolean(true)).ok());
 }
 
-TEST(ControlReports, ATerminationSaysOfWhichObjectAndHow)
+TEST(ControlReports, aTerminationSaysOfWhichObjectAndHow)
 {
     const Reference object = *parseReference("LD/CSWI1$CO$Pos");
     const Data oper = *controlValue(operType(Type::boolean()), someRequest());
@@ -332,7 +332,7 @@ TEST(ControlReports, ATerminationSaysOfWhichObjectAndHow)
     EXPECT_EQ(negative->applError, error);
 }
 
-TEST(ControlReports, AnErrorAloneNamesNoTerminatedObject)
+TEST(ControlReports, anErrorAloneNamesNoTerminatedObject)
 {
     const LastApplError error{"LD/CSWI1$CO$Pos$Oper", 1, {}, 7, 10};
     const auto information = controlInformationFrom(toReport(error));
@@ -342,7 +342,7 @@ TEST(ControlReports, AnErrorAloneNamesNoTerminatedObject)
     EXPECT_EQ(information->applError, error);
 }
 
-TEST(ControlReports, OtherReportsAreNone)
+TEST(ControlReports, otherReportsAreNone)
 {
     using Variables = std::vector<mms::VariableAccess>;
     EXPECT_FALSE(controlInformationFrom({mms::ObjectName::ofVmd("RPT"), {Data::boolean(true)}}));
@@ -356,7 +356,7 @@ TEST(ControlReports, OtherReportsAreNone)
         {Variables{{mms::ObjectName::inDomain("LD", "$Oper"), {}}}, {Data::boolean(true)}}));
 }
 
-TEST(ControlReports, AnErrorThatCannotBeReadIsStillNoSuccess)
+TEST(ControlReports, anErrorThatCannotBeReadIsStillNoSuccess)
 {
     const auto information = controlInformationFrom(
         {std::vector{mms::VariableAccess{mms::ObjectName::ofVmd("LastApplError"), {}}},
@@ -366,7 +366,7 @@ TEST(ControlReports, AnErrorThatCannotBeReadIsStillNoSuccess)
     EXPECT_FALSE(information->applError);
 }
 
-TEST(ControlWords, EveryAdditionalCauseHasItsOwn)
+TEST(ControlWords, everyAdditionalCauseHasItsOwn)
 {
     std::set<std::string> texts;
     for (std::int32_t cause = 0; cause <= 27; ++cause)
@@ -380,7 +380,7 @@ TEST(ControlWords, EveryAdditionalCauseHasItsOwn)
     EXPECT_EQ(additionalCauseText(-1), "additional cause -1");
 }
 
-TEST(ControlWords, EveryErrorHasItsOwn)
+TEST(ControlWords, everyErrorHasItsOwn)
 {
     std::set<std::string> texts;
     for (std::int32_t error = 0; error <= 4; ++error)

@@ -9,7 +9,7 @@ using namespace acsi;
 using mms::ObjectName;
 using mms::Scope;
 
-TEST(DataSetName, IsReadInEveryNotation)
+TEST(DataSetName, isReadInEveryNotation)
 {
     const std::vector<std::pair<const char *, ObjectName>> names = {
         {"LD1/LLN0$ds", ObjectName::inDomain("LD1", "LLN0$ds")},
@@ -30,7 +30,7 @@ TEST(DataSetName, IsReadInEveryNotation)
     EXPECT_EQ(dataSetText(ObjectName::ofAssociation("ds")), "@ds");
 }
 
-TEST(DataSetName, OtherTextIsRefusedWithASentence)
+TEST(DataSetName, otherTextIsRefusedWithASentence)
 {
     for (const char *text : {"", "@", "ds", "LD0/ds", "/LLN0$ds", "LD0/LLN0$", "LD0/$ds", "@a b",
                              "@LD0/ds", "LD0/LLN0$d$s", "LD0/LLN0.d.s", "LD0/LLN0$ds(1)", "@a$b"}) {
@@ -49,7 +49,7 @@ std::vector<mms::VariableAccess> members()
             {ObjectName::inDomain("LD0", "MHAI1$MX$har"), {mms::AlternateAccess::ofElement(3)}}};
 }
 
-TEST_F(AcsiDataSet, IsMadeListedAndDeleted)
+TEST_F(AcsiDataSet, isMadeListedAndDeleted)
 {
     connect();
     for (const ObjectName &name :
@@ -65,7 +65,7 @@ TEST_F(AcsiDataSet, IsMadeListedAndDeleted)
     }
 }
 
-TEST_F(AcsiDataSet, DeletingWhatIsMissingOrFixedIsAnError)
+TEST_F(AcsiDataSet, deletingWhatIsMissingOrFixedIsAnError)
 {
     device->domains["LD0"].lists["LLN0$fixed"].members = members();
     connect();
@@ -78,7 +78,7 @@ TEST_F(AcsiDataSet, DeletingWhatIsMissingOrFixedIsAnError)
     EXPECT_EQ(missing.error().message, "There is no data set \"LD0/LLN0$none\".");
 }
 
-TEST_F(AcsiDataSet, RefusalToMakeOneIsASentence)
+TEST_F(AcsiDataSet, refusalToMakeOneIsASentence)
 {
     const mms::ServiceError exists{
         mms::ErrorClass::Definition, mms::serviceerrors::definitionObjectExists, {}, {}, {}};

@@ -26,7 +26,7 @@ Names level(const std::string &directory, const std::vector<mms::FileName> &name
 
 } // namespace
 
-TEST(FileNames, HaveSlashesAndNoneAtTheBeginning)
+TEST(FileNames, haveSlashesAndNoneAtTheBeginning)
 {
     EXPECT_EQ(plainName(mms::FileName{"/a/b"}), "a/b");
     EXPECT_EQ(plainName(mms::FileName{"\\a\\b\\"}), "a/b/");
@@ -36,14 +36,14 @@ TEST(FileNames, HaveSlashesAndNoneAtTheBeginning)
     EXPECT_EQ(plainName(mms::FileName{"", ""}), "");
 }
 
-TEST(FileNames, AreTriedAsGivenFirst)
+TEST(FileNames, areTriedAsGivenFirst)
 {
     EXPECT_EQ(spellingsOf("f"), (Names{"f", "/f", "\\f"}));
     EXPECT_EQ(spellingsOf("/a/f"), (Names{"/a/f", "a/f", "a\\f", "\\a\\f"}));
     EXPECT_EQ(spellingsOf("\\f"), (Names{"\\f", "f", "/f"}));
 }
 
-TEST(FileNames, OfDirectoriesAreTriedInEveryForm)
+TEST(FileNames, ofDirectoriesAreTriedInEveryForm)
 {
     using Spellings = std::vector<std::optional<std::string>>;
     EXPECT_EQ(directorySpellingsOf(""), (Spellings{std::nullopt, "/", "\\"}));
@@ -51,7 +51,7 @@ TEST(FileNames, OfDirectoriesAreTriedInEveryForm)
     EXPECT_EQ(directorySpellingsOf("a"), (Spellings{"a/", "a", "/a/", "a\\", "\\a"}));
 }
 
-TEST(DirectoryLevel, KeepsSizesAndTimesOfFiles)
+TEST(DirectoryLevel, keepsSizesAndTimesOfFiles)
 {
     const auto files = oneLevel("", entries({{"a.txt"}, {"sub/b.txt"}}));
     ASSERT_EQ(files.size(), 2U);
@@ -62,21 +62,21 @@ TEST(DirectoryLevel, KeepsSizesAndTimesOfFiles)
     EXPECT_EQ(files[1].size, 0U);
 }
 
-TEST(DirectoryLevel, IsCutFromAFlatListOfEverything)
+TEST(DirectoryLevel, isCutFromAFlatListOfEverything)
 {
     EXPECT_EQ(level("", {{"a"}, {"s/b"}, {"s/c"}, {"s/t/d"}}), (Names{"a", "s/"}));
     EXPECT_EQ(level("s", {{"a"}, {"s/b"}, {"s/c"}, {"s/t/d"}}), (Names{"b", "c", "t/"}));
     EXPECT_EQ(level("s/t", {{"a"}, {"s/b"}, {"s/t/d"}}), (Names{"d"}));
 }
 
-TEST(DirectoryLevel, TakesCompleteAndRelativeNamesAndAnySeparator)
+TEST(DirectoryLevel, takesCompleteAndRelativeNamesAndAnySeparator)
 {
     EXPECT_EQ(level("s", {{"b"}, {"t/"}}), (Names{"b", "t/"}));
     EXPECT_EQ(level("s/", {{"\\s\\b"}, {"\\s\\t\\"}}), (Names{"b", "t/"}));
     EXPECT_EQ(level("/s", {{"s", "b"}}), (Names{"b"}));
 }
 
-TEST(DirectoryLevel, LeavesOutItselfAndItsParentAndWhatComesTwice)
+TEST(DirectoryLevel, leavesOutItselfAndItsParentAndWhatComesTwice)
 {
     EXPECT_EQ(level("s", {{"s/"}, {"s/."}, {"s/b"}, {"s/b"}}), (Names{"b"}));
     EXPECT_EQ(level("", {{"./"}, {"../"}, {"."}, {".."}, {""}, {"/"}}), Names{});

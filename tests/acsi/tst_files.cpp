@@ -84,7 +84,7 @@ protected:
 
 } // namespace
 
-TEST_F(FilesTest, ADirectoryIsListedPageByPage)
+TEST_F(FilesTest, aDirectoryIsListedPageByPage)
 {
     for (int i = 0; i < 25; ++i)
         peer.files["f" + std::to_string(100 + i)] = content(3);
@@ -97,7 +97,7 @@ TEST_F(FilesTest, ADirectoryIsListedPageByPage)
     EXPECT_EQ(device->requestsOf<mms::FileDirectoryRequest>().size(), 3U);
 }
 
-TEST_F(FilesTest, ADirectoryIsListedWhateverThePeerCallsIt)
+TEST_F(FilesTest, aDirectoryIsListedWhateverThePeerCallsIt)
 {
     peer.files = {{"a.txt", content(1)}, {"sub/b.txt", content(2)}, {"sub/deep/c", content(3)}};
     start();
@@ -115,20 +115,20 @@ TEST_F(FilesTest, ADirectoryIsListedWhateverThePeerCallsIt)
     }
 }
 
-TEST_F(FilesTest, ADirectoryThatIsNotThereIsAnError)
+TEST_F(FilesTest, aDirectoryThatIsNotThereIsAnError)
 {
     peer.files = {{"a.txt", content(1)}};
     start();
     EXPECT_EQ(list("nowhere").front().substr(0, 7), "error: ");
 }
 
-TEST_F(FilesTest, AnEmptyDirectoryIsEmpty)
+TEST_F(FilesTest, anEmptyDirectoryIsEmpty)
 {
     start();
     EXPECT_EQ(list(""), Names{});
 }
 
-TEST_F(FilesTest, APeerThatListsWithoutAnEndIsLeft)
+TEST_F(FilesTest, aPeerThatListsWithoutAnEndIsLeft)
 {
     peer.files = {{"a", content(1)}};
     peer.habits.endlessListing = true;
@@ -136,7 +136,7 @@ TEST_F(FilesTest, APeerThatListsWithoutAnEndIsLeft)
     EXPECT_EQ(list(""), (Names{"error: The device lists its files without an end."}));
 }
 
-TEST_F(FilesTest, ADownloadGivesTheOctetsInOrderAndTheSizeFirst)
+TEST_F(FilesTest, aDownloadGivesTheOctetsInOrderAndTheSizeFirst)
 {
     peer.files["f"] = content(12345);
     start();
@@ -149,7 +149,7 @@ TEST_F(FilesTest, ADownloadGivesTheOctetsInOrderAndTheSizeFirst)
     EXPECT_EQ(peer.mostReadsOnTheWay, 1U);
 }
 
-TEST_F(FilesTest, ADownloadWithSeveralBlocksOnTheWayGivesTheSame)
+TEST_F(FilesTest, aDownloadWithSeveralBlocksOnTheWayGivesTheSame)
 {
     peer.files["f"] = content(123456);
     clientOptions.outstandingFileReads = 5;
@@ -161,7 +161,7 @@ TEST_F(FilesTest, ADownloadWithSeveralBlocksOnTheWayGivesTheSame)
     EXPECT_LE(device->requestsOf<mms::FileReadRequest>().size(), 124U + 4U);
 }
 
-TEST_F(FilesTest, FilesOfAnySizeComeWhole)
+TEST_F(FilesTest, filesOfAnySizeComeWhole)
 {
     start();
     for (const std::size_t size : {0, 1, 999, 1000, 1001, 2000, 5000}) {
@@ -171,7 +171,7 @@ TEST_F(FilesTest, FilesOfAnySizeComeWhole)
     }
 }
 
-TEST_F(FilesTest, AFileIsFoundWithAndWithoutASlashInFront)
+TEST_F(FilesTest, aFileIsFoundWithAndWithoutASlashInFront)
 {
     peer.files["f"] = content(10);
     peer.files["d/g"] = content(11);
@@ -188,7 +188,7 @@ TEST_F(FilesTest, AFileIsFoundWithAndWithoutASlashInFront)
     EXPECT_EQ(received, content(11));
 }
 
-TEST_F(FilesTest, AFileThatIsNotThereIsNamed)
+TEST_F(FilesTest, aFileThatIsNotThereIsNamed)
 {
     start();
     const auto size = fetch("nothing.txt");
@@ -196,7 +196,7 @@ TEST_F(FilesTest, AFileThatIsNotThereIsNamed)
     EXPECT_EQ(size.error().message.english().find("nothing.txt: "), 0U);
 }
 
-TEST_F(FilesTest, AFileIsClosedWhenReadingItFails)
+TEST_F(FilesTest, aFileIsClosedWhenReadingItFails)
 {
     peer.files["f"] = content(10000);
     peer.habits.readableBlocks = 3;
@@ -209,7 +209,7 @@ TEST_F(FilesTest, AFileIsClosedWhenReadingItFails)
     EXPECT_EQ(peer.openFiles, 0U);
 }
 
-TEST_F(FilesTest, AFileIsClosedWhenTheReceiverHasEnough)
+TEST_F(FilesTest, aFileIsClosedWhenTheReceiverHasEnough)
 {
     peer.files["f"] = content(10000);
     stopAfter = 2000;
@@ -219,7 +219,7 @@ TEST_F(FilesTest, AFileIsClosedWhenTheReceiverHasEnough)
     EXPECT_EQ(peer.openFiles, 0U);
 }
 
-TEST_F(FilesTest, EmptyBlocksWithoutAnEndAreAnError)
+TEST_F(FilesTest, emptyBlocksWithoutAnEndAreAnError)
 {
     peer.files["f"] = content(10000);
     peer.habits.endlessEmptyBlocks = true;
@@ -229,7 +229,7 @@ TEST_F(FilesTest, EmptyBlocksWithoutAnEndAreAnError)
     EXPECT_EQ(peer.openFiles, 0U);
 }
 
-TEST_F(FilesTest, ANewFileIsFetchedByThePeer)
+TEST_F(FilesTest, aNewFileIsFetchedByThePeer)
 {
     start();
     for (const std::size_t size : {0, 1, 200000}) {
@@ -243,7 +243,7 @@ TEST_F(FilesTest, ANewFileIsFetchedByThePeer)
     EXPECT_EQ(peer.fetches, 3);
 }
 
-TEST_F(FilesTest, TheNameOfAnUploadIsSpelledAsThePeerWants)
+TEST_F(FilesTest, theNameOfAnUploadIsSpelledAsThePeerWants)
 {
     peer.habits.prefix = "/";
     start();
@@ -251,7 +251,7 @@ TEST_F(FilesTest, TheNameOfAnUploadIsSpelledAsThePeerWants)
     EXPECT_EQ(namesOfPeer(), (Names{"new.txt"}));
 }
 
-TEST_F(FilesTest, AnExistingFileIsReplacedInOneTransferWhereThePeerRenames)
+TEST_F(FilesTest, anExistingFileIsReplacedInOneTransferWhereThePeerRenames)
 {
     for (const bool keepsExisting : {false, true}) {
         peer.files = {{"f", content(100, 1)}};
@@ -268,7 +268,7 @@ TEST_F(FilesTest, AnExistingFileIsReplacedInOneTransferWhereThePeerRenames)
     }
 }
 
-TEST_F(FilesTest, AnExistingFileIsReplacedWhereThePeerCannotRename)
+TEST_F(FilesTest, anExistingFileIsReplacedWhereThePeerCannotRename)
 {
     peer.files = {{"f", content(100, 1)}};
     peer.habits.keepsExisting = true;
@@ -282,7 +282,7 @@ TEST_F(FilesTest, AnExistingFileIsReplacedWhereThePeerCannotRename)
     EXPECT_EQ(peer.deleted, (Names{"f", "f.upload"}));
 }
 
-TEST_F(FilesTest, AnExistingFileIsReplacedWhereThePeerTakesNoOtherName)
+TEST_F(FilesTest, anExistingFileIsReplacedWhereThePeerTakesNoOtherName)
 {
     for (const bool keepsExisting : {false, true}) {
         peer.files = {{"f", content(100, 1)}};
@@ -298,7 +298,7 @@ TEST_F(FilesTest, AnExistingFileIsReplacedWhereThePeerTakesNoOtherName)
     }
 }
 
-TEST_F(FilesTest, AnUploadThatFailsLeavesTheOldFileAndNoHalfOne)
+TEST_F(FilesTest, anUploadThatFailsLeavesTheOldFileAndNoHalfOne)
 {
     peer.files = {{"f", content(100, 1)}};
     peer.habits.fetchLimit = 2000;
@@ -311,7 +311,7 @@ TEST_F(FilesTest, AnUploadThatFailsLeavesTheOldFileAndNoHalfOne)
     EXPECT_EQ(peer.files["f"], content(100, 1));
 }
 
-TEST_F(FilesTest, AnUploadThatFailsLeavesNoHalfNewFile)
+TEST_F(FilesTest, anUploadThatFailsLeavesNoHalfNewFile)
 {
     peer.habits.fetchLimit = 2000;
     start();
@@ -319,7 +319,7 @@ TEST_F(FilesTest, AnUploadThatFailsLeavesNoHalfNewFile)
     EXPECT_EQ(namesOfPeer(), Names{});
 }
 
-TEST_F(FilesTest, WhatIsLeftIsSaidWhenTheNewFileCannotGetItsName)
+TEST_F(FilesTest, whatIsLeftIsSaidWhenTheNewFileCannotGetItsName)
 {
     peer.files = {{"f", content(100, 1)}};
     peer.habits.canRename = false;
@@ -334,7 +334,7 @@ TEST_F(FilesTest, WhatIsLeftIsSaidWhenTheNewFileCannotGetItsName)
     EXPECT_EQ(peer.files["f.upload"], content(200000, 2));
 }
 
-TEST_F(FilesTest, AFileThatThePeerKeepsStaysAndSoDoesNothingElse)
+TEST_F(FilesTest, aFileThatThePeerKeepsStaysAndSoDoesNothingElse)
 {
     peer.files = {{"f", content(100, 1)}};
     peer.habits.keepsExisting = true;
@@ -349,7 +349,7 @@ TEST_F(FilesTest, AFileThatThePeerKeepsStaysAndSoDoesNothingElse)
     EXPECT_EQ(peer.files["f"], content(100, 1));
 }
 
-TEST_F(FilesTest, ASuccessWithoutTheWholeFileIsNone)
+TEST_F(FilesTest, aSuccessWithoutTheWholeFileIsNone)
 {
     peer.habits.fetchLimit = 1;
     peer.habits.claimsSuccessThen = true;
@@ -362,7 +362,7 @@ TEST_F(FilesTest, ASuccessWithoutTheWholeFileIsNone)
     EXPECT_EQ(namesOfPeer(), Names{});
 }
 
-TEST_F(FilesTest, APeerThatStopsFetchingIsNotWaitedForEndlessly)
+TEST_F(FilesTest, aPeerThatStopsFetchingIsNotWaitedForEndlessly)
 {
     peer.habits.fetchLimit = 1;
     peer.habits.silentThen = true;
@@ -377,7 +377,7 @@ TEST_F(FilesTest, APeerThatStopsFetchingIsNotWaitedForEndlessly)
     EXPECT_EQ(namesOfPeer(), (Names{"f"}));
 }
 
-TEST_F(FilesTest, AFileThatCannotBeReadHereSaysWhy)
+TEST_F(FilesTest, aFileThatCannotBeReadHereSaysWhy)
 {
     start();
     FileSource source;
@@ -394,7 +394,7 @@ TEST_F(FilesTest, AFileThatCannotBeReadHereSaysWhy)
     EXPECT_EQ(namesOfPeer(), Names{});
 }
 
-TEST_F(FilesTest, TheEndOfTheAssociationEndsAnUpload)
+TEST_F(FilesTest, theEndOfTheAssociationEndsAnUpload)
 {
     peer.habits.fetchLimit = 1;
     peer.habits.silentThen = true;
@@ -407,7 +407,7 @@ TEST_F(FilesTest, TheEndOfTheAssociationEndsAnUpload)
     EXPECT_FALSE(uploading.get().ok());
 }
 
-TEST_F(FilesTest, OtherFilesOfThisSideAreNotGiven)
+TEST_F(FilesTest, otherFilesOfThisSideAreNotGiven)
 {
     start();
     const Octets octets = content(100);
@@ -429,7 +429,7 @@ TEST_F(FilesTest, OtherFilesOfThisSideAreNotGiven)
                   mms::ErrorClass::File, mms::serviceerrors::fileNonExistent, {}, {}, {}}));
 }
 
-TEST_F(FilesTest, AFileThatThePeerMayNotOpenIsReplacedByWayOfTheOtherName)
+TEST_F(FilesTest, aFileThatThePeerMayNotOpenIsReplacedByWayOfTheOtherName)
 {
     peer.files = {{"d/f", content(100, 1)}};
     peer.habits.refusedOpens = {{"d/f", 0}};
@@ -449,7 +449,7 @@ TEST_F(FilesTest, AFileThatThePeerMayNotOpenIsReplacedByWayOfTheOtherName)
     EXPECT_EQ(peer.files["d/f"], content(5000, 2));
 }
 
-TEST_F(FilesTest, ARenameThatIsNotAnsweredLosesNothing)
+TEST_F(FilesTest, aRenameThatIsNotAnsweredLosesNothing)
 {
     peer.files = {{"f", content(100, 1)}};
     peer.habits.silentRename = true;
@@ -465,7 +465,7 @@ TEST_F(FilesTest, ARenameThatIsNotAnsweredLosesNothing)
     EXPECT_EQ(peer.deleted, (Names{"f"}));
 }
 
-TEST_F(FilesTest, ADeleteThatIsNotAnsweredLosesNothing)
+TEST_F(FilesTest, aDeleteThatIsNotAnsweredLosesNothing)
 {
     peer.files = {{"f", content(100, 1)}};
     peer.habits.silentDelete = true;
@@ -479,7 +479,7 @@ TEST_F(FilesTest, ADeleteThatIsNotAnsweredLosesNothing)
     EXPECT_EQ(peer.files["f"], octets);
 }
 
-TEST_F(FilesTest, AStalledReplacementDeletesNothing)
+TEST_F(FilesTest, aStalledReplacementDeletesNothing)
 {
     peer.files = {{"f", content(100, 1)}};
     peer.habits.fetchLimit = 1;
@@ -496,7 +496,7 @@ TEST_F(FilesTest, AStalledReplacementDeletesNothing)
     EXPECT_TRUE(peer.deleted.empty());
 }
 
-TEST_F(FilesTest, AFileThatIsCalledLikeAReplacementIsNotTouched)
+TEST_F(FilesTest, aFileThatIsCalledLikeAReplacementIsNotTouched)
 {
     peer.files = {{"f", content(100, 1)}, {"f.upload", content(70, 3)}};
     start();
@@ -509,7 +509,7 @@ TEST_F(FilesTest, AFileThatIsCalledLikeAReplacementIsNotTouched)
     EXPECT_EQ(peer.fetches, 0);
 }
 
-TEST_F(FilesTest, AnUploadOfWhichOnlyTheEndWasReadIsNoSuccess)
+TEST_F(FilesTest, anUploadOfWhichOnlyTheEndWasReadIsNoSuccess)
 {
     peer.habits.fetchFrom = 4000;
     start();
@@ -519,7 +519,7 @@ TEST_F(FilesTest, AnUploadOfWhichOnlyTheEndWasReadIsNoSuccess)
                                       "only 0 of 5000 octets.");
 }
 
-TEST_F(FilesTest, ADownloadThatEndsTooEarlyIsAnError)
+TEST_F(FilesTest, aDownloadThatEndsTooEarlyIsAnError)
 {
     peer.files["f"] = content(10000);
     peer.habits.endsAt = 4000;
@@ -528,7 +528,7 @@ TEST_F(FilesTest, ADownloadThatEndsTooEarlyIsAnError)
     EXPECT_EQ(peer.openFiles, 0U);
 }
 
-TEST_F(FilesTest, AFileThatIsOpenedTooLateIsClosed)
+TEST_F(FilesTest, aFileThatIsOpenedTooLateIsClosed)
 {
     peer.files["f"] = content(10);
     peer.habits.openDelay = 400ms;
@@ -542,7 +542,7 @@ TEST_F(FilesTest, AFileThatIsOpenedTooLateIsClosed)
     EXPECT_EQ(device->requestsOf<mms::FileCloseRequest>().size(), 1U);
 }
 
-TEST_F(FilesTest, ARefusedCloseIsTold)
+TEST_F(FilesTest, aRefusedCloseIsTold)
 {
     peer.files["f"] = content(10);
     peer.habits.refusesClose = true;
@@ -555,7 +555,7 @@ TEST_F(FilesTest, ARefusedCloseIsTold)
     EXPECT_TRUE(notClosed.empty());
 }
 
-TEST_F(FilesTest, EmptyPagesDoNotEndAListing)
+TEST_F(FilesTest, emptyPagesDoNotEndAListing)
 {
     for (int i = 0; i < 25; ++i)
         peer.files["f" + std::to_string(100 + i)] = content(3);
@@ -567,7 +567,7 @@ TEST_F(FilesTest, EmptyPagesDoNotEndAListing)
     EXPECT_EQ(list(""), (Names{"error: The device lists its files without an end."}));
 }
 
-TEST_F(FilesTest, NamesInOtherOctetsAreKeptAndFound)
+TEST_F(FilesTest, namesInOtherOctetsAreKeptAndFound)
 {
     // As a device with ISO 8859-1 writes them, and as this side shows them.
     peer.files = {{"St\xF6rung/\xFC.cfg", content(10)}};
@@ -581,7 +581,7 @@ TEST_F(FilesTest, NamesInOtherOctetsAreKeptAndFound)
     EXPECT_EQ(namesOfPeer(), Names{});
 }
 
-TEST_F(FilesTest, FilesAreDeletedAndRenamedInTheSpellingOfThePeer)
+TEST_F(FilesTest, filesAreDeletedAndRenamedInTheSpellingOfThePeer)
 {
     start();
     for (const char *prefix : {"", "/", "\\"}) {
@@ -594,7 +594,7 @@ TEST_F(FilesTest, FilesAreDeletedAndRenamedInTheSpellingOfThePeer)
     }
 }
 
-TEST_F(FilesTest, RefusalsNameTheFile)
+TEST_F(FilesTest, refusalsNameTheFile)
 {
     peer.files = {{"a", content(1)}};
     peer.habits.canDelete = false;

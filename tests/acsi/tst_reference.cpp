@@ -21,7 +21,7 @@ Reference harmonic()
     return reference;
 }
 
-TEST(FunctionalConstraint, EveryOneIsReadAsItIsWritten)
+TEST(FunctionalConstraint, everyOneIsReadAsItIsWritten)
 {
     int count = 0;
     for (int i = 0; i <= static_cast<int>(FunctionalConstraint::BL); ++i) {
@@ -33,13 +33,13 @@ TEST(FunctionalConstraint, EveryOneIsReadAsItIsWritten)
     EXPECT_EQ(toText(FunctionalConstraint::BR), "BR");
 }
 
-TEST(FunctionalConstraint, OtherTextIsNone)
+TEST(FunctionalConstraint, otherTextIsNone)
 {
     for (const char *text : {"", "S", "st", "STX", "ST ", "XX", "FC"})
         EXPECT_EQ(functionalConstraintFrom(text), std::nullopt) << text;
 }
 
-TEST(FunctionalConstraint, ControlBlocksAreNotData)
+TEST(FunctionalConstraint, controlBlocksAreNotData)
 {
     for (const char *text : {"RP", "BR", "LG", "GO", "GS", "MS", "US"})
         EXPECT_FALSE(isOfData(*functionalConstraintFrom(text))) << text;
@@ -48,7 +48,7 @@ TEST(FunctionalConstraint, ControlBlocksAreNotData)
         EXPECT_TRUE(isOfData(*functionalConstraintFrom(text))) << text;
 }
 
-TEST(Reference, IsReadAndWrittenWithEveryPart)
+TEST(Reference, isReadAndWrittenWithEveryPart)
 {
     const std::string text = "E1Q1MEAS/MHAI1$MX$HA$phsAHar(3)$cVal$mag";
     const auto reference = parseReference(text);
@@ -59,7 +59,7 @@ TEST(Reference, IsReadAndWrittenWithEveryPart)
     EXPECT_EQ(objectReferenceText(*reference), "E1Q1MEAS/MHAI1.HA.phsAHar(3).cVal.mag");
 }
 
-TEST(Reference, PartsMayBeMissingFromTheEnd)
+TEST(Reference, partsMayBeMissingFromTheEnd)
 {
     for (const char *text : {"LD0", "LD0/LLN0", "LD0/LLN0$ST", "LD0/LLN0$ST$Mod",
                              "LD0/LLN0$BR$brcb01$RptEna", "LD.0/LLN0$ST"}) {
@@ -69,14 +69,14 @@ TEST(Reference, PartsMayBeMissingFromTheEnd)
     }
 }
 
-TEST(Reference, ItemIsReadWithinALogicalDevice)
+TEST(Reference, itemIsReadWithinALogicalDevice)
 {
     const auto reference = parseReference("E1Q1MEAS", "MHAI1$MX$HA$phsAHar(3)$cVal$mag");
     ASSERT_TRUE(reference.ok());
     EXPECT_EQ(*reference, harmonic());
 }
 
-TEST(Reference, NotationWithDotsIsReadWithItsConstraint)
+TEST(Reference, notationWithDotsIsReadWithItsConstraint)
 {
     const auto reference =
         parseObjectReference("E1Q1MEAS/MHAI1.HA.phsAHar(3).cVal.mag", FunctionalConstraint::MX);
@@ -87,7 +87,7 @@ TEST(Reference, NotationWithDotsIsReadWithItsConstraint)
     EXPECT_EQ(toText(*node), "LD0/LLN0$ST");
 }
 
-TEST(Reference, WrongTextIsRefusedWithASentenceThatQuotesIt)
+TEST(Reference, wrongTextIsRefusedWithASentenceThatQuotesIt)
 {
     for (const char *text : {"",
                              "/",
@@ -126,7 +126,7 @@ TEST(Reference, WrongTextIsRefusedWithASentenceThatQuotesIt)
     EXPECT_FALSE(parseObjectReference("LD0/LLN0$Mod", FunctionalConstraint::ST).ok());
 }
 
-TEST(Reference, DataIsAccessedByItsName)
+TEST(Reference, dataIsAccessedByItsName)
 {
     const auto reference = parseReference("LD0/LLN0$ST$Mod$stVal");
     ASSERT_TRUE(reference.ok());
@@ -137,7 +137,7 @@ TEST(Reference, DataIsAccessedByItsName)
     EXPECT_EQ(*back, *reference);
 }
 
-TEST(Reference, ElementIsAccessedAsPartOfItsArray)
+TEST(Reference, elementIsAccessedAsPartOfItsArray)
 {
     const VariableAccess access = accessOf(harmonic());
     const VariableAccess expected{
@@ -150,7 +150,7 @@ TEST(Reference, ElementIsAccessedAsPartOfItsArray)
     EXPECT_EQ(*back, harmonic());
 }
 
-TEST(Reference, ArrayInsideAnElementIsAccessed)
+TEST(Reference, arrayInsideAnElementIsAccessed)
 {
     const auto reference = parseReference("LD0/MX1$MX$a(1)$b(2)$c");
     ASSERT_TRUE(reference.ok());
@@ -161,7 +161,7 @@ TEST(Reference, ArrayInsideAnElementIsAccessed)
     EXPECT_EQ(*back, *reference);
 }
 
-TEST(Reference, ComponentsNamedAtOnceAreTakenApart)
+TEST(Reference, componentsNamedAtOnceAreTakenApart)
 {
     const VariableAccess access{
         ObjectName::inDomain("E1Q1MEAS", "MHAI1$MX$HA$phsAHar"),
@@ -171,7 +171,7 @@ TEST(Reference, ComponentsNamedAtOnceAreTakenApart)
     EXPECT_EQ(*reference, harmonic());
 }
 
-TEST(Reference, AccessToSomethingElseHasNone)
+TEST(Reference, accessToSomethingElseHasNone)
 {
     const ObjectName array = ObjectName::inDomain("LD0", "MHAI1$MX$har");
     const std::vector<VariableAccess> accesses = {

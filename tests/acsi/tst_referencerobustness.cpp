@@ -25,7 +25,7 @@ void run(const std::string &text)
     EXPECT_EQ(LLVMFuzzerTestOneInput(exact.data(), exact.size()), 0);
 }
 
-TEST(ReferenceRobustness, TextMadeOfTheNotationsPiecesIsReadAndPrintedAlike)
+TEST(ReferenceRobustness, textMadeOfTheNotationsPiecesIsReadAndPrintedAlike)
 {
     constexpr std::string_view pieces[] = {"LD0", "LLN0", "$", "/", ".",   "(",         ")",
                                            "MX",  "ST",   "a", "7", "(3)", "4294967295"};
@@ -40,7 +40,7 @@ TEST(ReferenceRobustness, TextMadeOfTheNotationsPiecesIsReadAndPrintedAlike)
     }
 }
 
-TEST(ReferenceRobustness, DamagedReferencesAreReadOrRefused)
+TEST(ReferenceRobustness, damagedReferencesAreReadOrRefused)
 {
     Generator generator(8);
     for (int i = 0; i < 100000; ++i) {

@@ -70,7 +70,7 @@ std::vector<std::size_t> indexesOf(const Report &report)
 
 } // namespace
 
-TEST(OptionalFields, EachHasTheBitThatTheStandardGivesIt)
+TEST(OptionalFields, eachHasTheBitThatTheStandardGivesIt)
 {
     const std::vector<std::pair<bool OptFlds::*, std::string>> bits = {
         {&OptFlds::sequenceNumber, "0100000000"},
@@ -91,7 +91,7 @@ TEST(OptionalFields, EachHasTheBitThatTheStandardGivesIt)
     EXPECT_EQ(OptFlds::from(mms::BitString::fromText("01")).sequenceNumber, true);
 }
 
-TEST(TriggerConditions, EachHasTheBitThatTheStandardGivesIt)
+TEST(TriggerConditions, eachHasTheBitThatTheStandardGivesIt)
 {
     const std::vector<std::pair<bool Triggers::*, std::string>> bits = {
         {&Triggers::dataChange, "010000"},           {&Triggers::qualityChange, "001000"},
@@ -106,7 +106,7 @@ TEST(TriggerConditions, EachHasTheBitThatTheStandardGivesIt)
     }
 }
 
-TEST(ReportDecoding, TheOctetsOfAReportWithEveryFieldGiveEveryField)
+TEST(ReportDecoding, theOctetsOfAReportWithEveryFieldGiveEveryField)
 {
     const auto pdu =
         mms::decodePdu(wiretest::fromHex("a349 a047 a105 8003525054 a03e"
@@ -125,7 +125,7 @@ TEST(ReportDecoding, TheOctetsOfAReportWithEveryFieldGiveEveryField)
     EXPECT_EQ(*decoded, expected);
 }
 
-TEST(ReportDecoding, WhatWasEncodedIsDecodedAsItWas)
+TEST(ReportDecoding, whatWasEncodedIsDecodedAsItWas)
 {
     const Report report = fullReport();
     const auto decoded = decodeReport(encodeReport(report));
@@ -133,7 +133,7 @@ TEST(ReportDecoding, WhatWasEncodedIsDecodedAsItWas)
     EXPECT_EQ(*decoded, report);
 }
 
-TEST(ReportDecoding, FieldsComeInTheOrderOfTheStandard)
+TEST(ReportDecoding, fieldsComeInTheOrderOfTheStandard)
 {
     const mms::InformationReport encoded = encodeReport(fullReport());
     EXPECT_EQ(std::get<mms::ObjectName>(encoded.variables), mms::ObjectName::ofVmd("RPT"));
@@ -162,7 +162,7 @@ false
     EXPECT_FALSE(encoded.results[14].ok());
 }
 
-TEST(ReportDecoding, AReportWithoutOptionalFieldsHasOnlyItsMembers)
+TEST(ReportDecoding, aReportWithoutOptionalFieldsHasOnlyItsMembers)
 {
     Report report;
     report.rptId = "";
@@ -177,7 +177,7 @@ TEST(ReportDecoding, AReportWithoutOptionalFieldsHasOnlyItsMembers)
     EXPECT_FALSE(decoded->members[0].reason);
 }
 
-TEST(ReportDecoding, AReportWithoutMembersIsAReport)
+TEST(ReportDecoding, aReportWithoutMembersIsAReport)
 {
     Report report = fullReport();
     report.members.clear();
@@ -187,7 +187,7 @@ TEST(ReportDecoding, AReportWithoutMembersIsAReport)
     EXPECT_EQ(*decoded, report);
 }
 
-TEST(ReportDecoding, UnbufferedBlocksMayLeaveOutTheFieldsOfBufferedOnes)
+TEST(ReportDecoding, unbufferedBlocksMayLeaveOutTheFieldsOfBufferedOnes)
 {
     const auto decoded = decodeReport(information(
         {Data::visibleString("id"), Data::bitString(mms::BitString::fromText("0100001110")),
@@ -201,7 +201,7 @@ TEST(ReportDecoding, UnbufferedBlocksMayLeaveOutTheFieldsOfBufferedOnes)
     EXPECT_EQ(decoded->members.at(0).value, AccessResult(Data::integer(7)));
 }
 
-TEST(ReportDecoding, ARefusedMemberKeepsItsPlaceAndItsError)
+TEST(ReportDecoding, aRefusedMemberKeepsItsPlaceAndItsError)
 {
     const auto decoded = decodeReport(encodeReport(fullReport()));
     ASSERT_TRUE(decoded.ok());
@@ -210,7 +210,7 @@ TEST(ReportDecoding, ARefusedMemberKeepsItsPlaceAndItsError)
     EXPECT_EQ(decoded->members[1].value.error(), mms::DataAccessError::TemporarilyUnavailable);
 }
 
-TEST(ReportDecoding, EachFieldOfTheWrongTypeIsNamed)
+TEST(ReportDecoding, eachFieldOfTheWrongTypeIsNamed)
 {
     const mms::InformationReport good = encodeReport(fullReport());
     const std::vector<std::pair<std::size_t, std::string>> fields = {
@@ -241,7 +241,7 @@ TEST(ReportDecoding, EachFieldOfTheWrongTypeIsNamed)
     }
 }
 
-TEST(ReportDecoding, NumbersThatDoNotFitAreErrors)
+TEST(ReportDecoding, numbersThatDoNotFitAreErrors)
 {
     mms::InformationReport report = encodeReport(fullReport());
     report.results[2] = Data::unsignedInteger(0x100000000);
@@ -252,7 +252,7 @@ TEST(ReportDecoding, NumbersThatDoNotFitAreErrors)
     EXPECT_TRUE(decodeReport(report).ok());
 }
 
-TEST(ReportDecoding, AReportCutAnywhereIsAnError)
+TEST(ReportDecoding, aReportCutAnywhereIsAnError)
 {
     const mms::InformationReport good = encodeReport(fullReport());
     for (std::size_t size = 0; size < good.results.size(); ++size) {
@@ -265,7 +265,7 @@ TEST(ReportDecoding, AReportCutAnywhereIsAnError)
     }
 }
 
-TEST(ReportDecoding, MoreOrFewerValuesThanTheInclusionStringSaysAreCountedInTheError)
+TEST(ReportDecoding, moreOrFewerValuesThanTheInclusionStringSaysAreCountedInTheError)
 {
     mms::InformationReport report = encodeReport(fullReport());
     report.results.emplace_back(Data::boolean(true));
@@ -275,7 +275,7 @@ TEST(ReportDecoding, MoreOrFewerValuesThanTheInclusionStringSaysAreCountedInTheE
                                     "but it has 7.");
 }
 
-TEST(ReportDecoding, OtherInformationReportsAreNotReports)
+TEST(ReportDecoding, otherInformationReportsAreNotReports)
 {
     const mms::InformationReport other{
         std::vector{mms::VariableAccess{mms::ObjectName::ofVmd("LastApplError"), {}}},
@@ -288,7 +288,7 @@ TEST(ReportDecoding, OtherInformationReportsAreNotReports)
     EXPECT_TRUE(isReport(information({})));
 }
 
-TEST(ReportAssembling, AReportInOnePartIsWholeAtOnce)
+TEST(ReportAssembling, aReportInOnePartIsWholeAtOnce)
 {
     ReportAssembler assembler;
     const Report report = fullReport();
@@ -298,7 +298,7 @@ TEST(ReportAssembling, AReportInOnePartIsWholeAtOnce)
     EXPECT_EQ(assembler.dropped(), 0U);
 }
 
-TEST(ReportAssembling, TheLastPartGivesTheWholeReportInTheOrderOfTheDataSet)
+TEST(ReportAssembling, theLastPartGivesTheWholeReportInTheOrderOfTheDataSet)
 {
     ReportAssembler assembler;
     EXPECT_FALSE(assembler.take(segment(0, true, {0, 4}), {}));
@@ -312,7 +312,7 @@ TEST(ReportAssembling, TheLastPartGivesTheWholeReportInTheOrderOfTheDataSet)
     EXPECT_EQ(assembler.dropped(), 0U);
 }
 
-TEST(ReportAssembling, PartsThatDoNotContinueWhatWaitsAreDroppedAndCounted)
+TEST(ReportAssembling, partsThatDoNotContinueWhatWaitsAreDroppedAndCounted)
 {
     struct Case
     {
@@ -345,14 +345,14 @@ TEST(ReportAssembling, PartsThatDoNotContinueWhatWaitsAreDroppedAndCounted)
     }
 }
 
-TEST(ReportAssembling, APartWithoutPredecessorIsDroppedAndCounted)
+TEST(ReportAssembling, aPartWithoutPredecessorIsDroppedAndCounted)
 {
     ReportAssembler assembler;
     EXPECT_FALSE(assembler.take(segment(1, false, {1}), {}));
     EXPECT_EQ(assembler.dropped(), 1U);
 }
 
-TEST(ReportAssembling, PartsThatWaitTooLongAreDropped)
+TEST(ReportAssembling, partsThatWaitTooLongAreDropped)
 {
     ReportAssembler assembler(10s);
     const ReportAssembler::Time start{};
@@ -364,7 +364,7 @@ TEST(ReportAssembling, PartsThatWaitTooLongAreDropped)
     EXPECT_EQ(assembler.dropped(), 4U);
 }
 
-TEST(ReportAssembling, BlocksDoNotDisturbEachOther)
+TEST(ReportAssembling, blocksDoNotDisturbEachOther)
 {
     ReportAssembler assembler;
     Report other = segment(0, true, {0});
@@ -377,7 +377,7 @@ TEST(ReportAssembling, BlocksDoNotDisturbEachOther)
     EXPECT_TRUE(assembler.take(other, {}));
 }
 
-TEST(ReportAssembling, VeryManyUnfinishedReportsDoNotPileUp)
+TEST(ReportAssembling, veryManyUnfinishedReportsDoNotPileUp)
 {
     ReportAssembler assembler;
     ReportAssembler::Time now{};
@@ -392,7 +392,7 @@ TEST(ReportAssembling, VeryManyUnfinishedReportsDoNotPileUp)
     EXPECT_TRUE(assembler.take(last, now));
 }
 
-TEST(ReportAssembling, WhatContinuesAWaitingReportIsKnown)
+TEST(ReportAssembling, whatContinuesAWaitingReportIsKnown)
 {
     ReportAssembler assembler(10s);
     const ReportAssembler::Time start{};
@@ -407,7 +407,7 @@ TEST(ReportAssembling, WhatContinuesAWaitingReportIsKnown)
     EXPECT_FALSE(assembler.continues(segment(1, true, {1})));
 }
 
-TEST(ReportDecoding, TheIdOfAReportThatCannotBeReadIsStillThere)
+TEST(ReportDecoding, theIdOfAReportThatCannotBeReadIsStillThere)
 {
     mms::InformationReport broken = encodeReport(fullReport());
     broken.results.pop_back();

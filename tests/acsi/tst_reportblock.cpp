@@ -138,7 +138,7 @@ using Writes = std::vector<std::string>;
 
 } // namespace
 
-TEST(ReportBlockValue, IsReadByTheNamesOfItsType)
+TEST(ReportBlockValue, isReadByTheNamesOfItsType)
 {
     std::vector<Attribute> attributes = buffered();
     std::ranges::reverse(attributes);
@@ -161,7 +161,7 @@ TEST(ReportBlockValue, IsReadByTheNamesOfItsType)
     EXPECT_TRUE(block->owner->empty());
 }
 
-TEST(ReportBlockValue, OlderBlocksHaveLess)
+TEST(ReportBlockValue, olderBlocksHaveLess)
 {
     std::vector<Attribute> attributes = unbuffered();
     attributes.pop_back();
@@ -173,7 +173,7 @@ TEST(ReportBlockValue, OlderBlocksHaveLess)
     EXPECT_FALSE(block->resvTms);
 }
 
-TEST(ReportBlockValue, AnAttributeOfTheWrongTypeIsNamed)
+TEST(ReportBlockValue, anAttributeOfTheWrongTypeIsNamed)
 {
     for (std::size_t i = 0; i < buffered().size(); ++i) {
         std::vector<Attribute> attributes = buffered();
@@ -185,7 +185,7 @@ TEST(ReportBlockValue, AnAttributeOfTheWrongTypeIsNamed)
     }
 }
 
-TEST(ReportBlockValue, OtherShapesAreErrors)
+TEST(ReportBlockValue, otherShapesAreErrors)
 {
     std::vector<Attribute> fewer = unbuffered();
     fewer.pop_back();
@@ -194,7 +194,7 @@ TEST(ReportBlockValue, OtherShapesAreErrors)
     EXPECT_FALSE(reportBlockFrom(Type::structure({}), Data::structure({})).ok());
 }
 
-TEST(ReportBlockOwner, IsAnAddressInWords)
+TEST(ReportBlockOwner, isAnAddressInWords)
 {
     using Octets = std::vector<std::uint8_t>;
     EXPECT_EQ(ownerText(Octets{}), "");
@@ -206,7 +206,7 @@ TEST(ReportBlockOwner, IsAnAddressInWords)
     EXPECT_EQ(ownerText(Octets{1, 2}), "'0102'H");
 }
 
-TEST_F(ReportBlockTest, EnablingReservesWritesWhatDiffersAndEnables)
+TEST_F(ReportBlockTest, enablingReservesWritesWhatDiffersAndEnables)
 {
     start(unbuffered(), "RP");
     ReportSettings settings;
@@ -226,7 +226,7 @@ TEST_F(ReportBlockTest, EnablingReservesWritesWhatDiffersAndEnables)
     EXPECT_TRUE(enabled->notes.empty());
 }
 
-TEST_F(ReportBlockTest, ABufferedBlockIsReservedForATimeAndResumesAfterAnEntry)
+TEST_F(ReportBlockTest, aBufferedBlockIsReservedForATimeAndResumesAfterAnEntry)
 {
     start(buffered(), "BR");
     ReportSettings settings;
@@ -237,7 +237,7 @@ TEST_F(ReportBlockTest, ABufferedBlockIsReservedForATimeAndResumesAfterAnEntry)
     EXPECT_TRUE(enabled->buffered);
 }
 
-TEST_F(ReportBlockTest, ABlockThatDoesNotKnowTheEntryAnyMoreIsEnabledAndSaysSo)
+TEST_F(ReportBlockTest, aBlockThatDoesNotKnowTheEntryAnyMoreIsEnabledAndSaysSo)
 {
     start(buffered(), "BR");
     refusals = {"EntryID"};
@@ -250,14 +250,14 @@ TEST_F(ReportBlockTest, ABlockThatDoesNotKnowTheEntryAnyMoreIsEnabledAndSaysSo)
     EXPECT_EQ(enabled->notes[0].english().find("EntryID of LD/LLN0.blk cannot be written: "), 0U);
 }
 
-TEST_F(ReportBlockTest, ARefusedReservationTimeLetsTheNextWriteDecide)
+TEST_F(ReportBlockTest, aRefusedReservationTimeLetsTheNextWriteDecide)
 {
     start(buffered(), "BR");
     refusals = {"ResvTms"};
     EXPECT_TRUE(run(enableReportBlock(client, block, {})).ok());
 }
 
-TEST_F(ReportBlockTest, ABlockReservedByConfigurationIsNotReservedAgain)
+TEST_F(ReportBlockTest, aBlockReservedByConfigurationIsNotReservedAgain)
 {
     start(buffered(), "BR");
     set("ResvTms", Data::integer(-1));
@@ -265,7 +265,7 @@ TEST_F(ReportBlockTest, ABlockReservedByConfigurationIsNotReservedAgain)
     EXPECT_EQ(writes, (Writes{"RptEna=true"}));
 }
 
-TEST_F(ReportBlockTest, ABlockOfThisAssociationIsDisabledBeforeItIsChanged)
+TEST_F(ReportBlockTest, aBlockOfThisAssociationIsDisabledBeforeItIsChanged)
 {
     start(unbuffered(), "RP");
     set("RptEna", Data::boolean(true));
@@ -275,7 +275,7 @@ TEST_F(ReportBlockTest, ABlockOfThisAssociationIsDisabledBeforeItIsChanged)
     EXPECT_EQ(writes, (Writes{"RptEna=false", "Resv=true", "RptEna=true"}));
 }
 
-TEST_F(ReportBlockTest, ABlockThatSomebodyElseEnabledIsNotWritten)
+TEST_F(ReportBlockTest, aBlockThatSomebodyElseEnabledIsNotWritten)
 {
     start(unbuffered(), "RP");
     set("RptEna", Data::boolean(true));
@@ -288,7 +288,7 @@ TEST_F(ReportBlockTest, ABlockThatSomebodyElseEnabledIsNotWritten)
     EXPECT_EQ(get("RptEna"), "true");
 }
 
-TEST_F(ReportBlockTest, ABlockOfAnotherClientNamesIt)
+TEST_F(ReportBlockTest, aBlockOfAnotherClientNamesIt)
 {
     start(unbuffered(), "RP");
     set("RptEna", Data::boolean(true));
@@ -305,7 +305,7 @@ TEST_F(ReportBlockTest, ABlockOfAnotherClientNamesIt)
     EXPECT_EQ(writes, (Writes{"RptEna=false"}));
 }
 
-TEST_F(ReportBlockTest, AReservedBlockNamesItsOwner)
+TEST_F(ReportBlockTest, aReservedBlockNamesItsOwner)
 {
     start(unbuffered(), "RP");
     set("Owner", Data::octetString(std::vector<std::uint8_t>{10, 0, 0, 5}));
@@ -317,7 +317,7 @@ TEST_F(ReportBlockTest, AReservedBlockNamesItsOwner)
     EXPECT_NE(enabled.error().message.english().find("10.0.0.5"), std::string::npos);
 }
 
-TEST_F(ReportBlockTest, ARefusedAttributeIsNamedAndTheReservationIsGivenUp)
+TEST_F(ReportBlockTest, aRefusedAttributeIsNamedAndTheReservationIsGivenUp)
 {
     start(unbuffered(), "RP");
     refusals = {"DatSet"};
@@ -332,7 +332,7 @@ TEST_F(ReportBlockTest, ARefusedAttributeIsNamedAndTheReservationIsGivenUp)
     EXPECT_EQ(get("RptEna"), "false");
 }
 
-TEST_F(ReportBlockTest, ABufferedBlockThatCannotBeEnabledIsGivenUp)
+TEST_F(ReportBlockTest, aBufferedBlockThatCannotBeEnabledIsGivenUp)
 {
     start(buffered(), "BR");
     refusals = {"RptEna=true"};
@@ -340,7 +340,7 @@ TEST_F(ReportBlockTest, ABufferedBlockThatCannotBeEnabledIsGivenUp)
     EXPECT_EQ(writes, (Writes{"ResvTms=60", "RptEna=true", "ResvTms=0"}));
 }
 
-TEST_F(ReportBlockTest, AnAttributeThatTheBlockDoesNotHaveIsNamed)
+TEST_F(ReportBlockTest, anAttributeThatTheBlockDoesNotHaveIsNamed)
 {
     std::vector<Attribute> attributes = unbuffered();
     std::erase_if(attributes,
@@ -353,7 +353,7 @@ TEST_F(ReportBlockTest, AnAttributeThatTheBlockDoesNotHaveIsNamed)
     EXPECT_EQ(enabled.error().message, "LD/LLN0.blk has no IntgPd.");
 }
 
-TEST_F(ReportBlockTest, ARefusedInterrogationLeavesTheBlockEnabledAndSaysSo)
+TEST_F(ReportBlockTest, aRefusedInterrogationLeavesTheBlockEnabledAndSaysSo)
 {
     start(unbuffered(), "RP");
     refusals = {"GI"};
@@ -365,7 +365,7 @@ TEST_F(ReportBlockTest, ARefusedInterrogationLeavesTheBlockEnabledAndSaysSo)
     EXPECT_EQ(enabled->notes.size(), 1U);
 }
 
-TEST_F(ReportBlockTest, DisablingGivesUpTheReservation)
+TEST_F(ReportBlockTest, disablingGivesUpTheReservation)
 {
     start(unbuffered(), "RP");
     EXPECT_TRUE(run(disableReportBlock(client, block)).ok());
@@ -376,7 +376,7 @@ TEST_F(ReportBlockTest, DisablingGivesUpTheReservation)
     EXPECT_EQ(writes, (Writes{"RptEna=false"}));
 }
 
-TEST_F(ReportBlockTest, DisablingLeavesTheReservationOfTheConfiguration)
+TEST_F(ReportBlockTest, disablingLeavesTheReservationOfTheConfiguration)
 {
     start(buffered(), "BR");
     set("ResvTms", Data::integer(-1));
@@ -384,7 +384,7 @@ TEST_F(ReportBlockTest, DisablingLeavesTheReservationOfTheConfiguration)
     EXPECT_EQ(writes, (Writes{"RptEna=false"}));
 }
 
-TEST_F(ReportBlockTest, WhatWasWrittenBeforeARefusalIsWrittenBack)
+TEST_F(ReportBlockTest, whatWasWrittenBeforeARefusalIsWrittenBack)
 {
     start(unbuffered(), "RP");
     refusals = {"TrgOps"};
@@ -398,7 +398,7 @@ TEST_F(ReportBlockTest, WhatWasWrittenBeforeARefusalIsWrittenBack)
     EXPECT_EQ(get("RptID"), "\"id\"");
 }
 
-TEST_F(ReportBlockTest, AnEnablingWithoutAnswerLeavesItsTraceAndCanBeUndone)
+TEST_F(ReportBlockTest, anEnablingWithoutAnswerLeavesItsTraceAndCanBeUndone)
 {
     start(unbuffered(), "RP");
     silences = {"RptEna=true"};
@@ -430,7 +430,7 @@ TEST_F(ReportBlockTest, AnEnablingWithoutAnswerLeavesItsTraceAndCanBeUndone)
     EXPECT_EQ(get("RptID"), "\"id\"");
 }
 
-TEST_F(ReportBlockTest, ARefusedUndoOfWhatIsAsItWasIsNoRest)
+TEST_F(ReportBlockTest, aRefusedUndoOfWhatIsAsItWasIsNoRest)
 {
     start(unbuffered(), "RP");
     refusals = {"BufTm"};
@@ -441,7 +441,7 @@ TEST_F(ReportBlockTest, ARefusedUndoOfWhatIsAsItWasIsNoRest)
     EXPECT_TRUE(trace->changes.empty());
 }
 
-TEST(ReportBlockHolder, IsToldByOwnerFlagAndReservation)
+TEST(ReportBlockHolder, isToldByOwnerFlagAndReservation)
 {
     using Who = ReportHolder::Who;
     const std::vector<std::uint8_t> own{10, 0, 0, 1};
@@ -463,14 +463,14 @@ TEST(ReportBlockHolder, IsToldByOwnerFlagAndReservation)
     EXPECT_EQ(holderOf(each, own).who, Who::Somebody);
 }
 
-TEST_F(ReportBlockTest, DisablingABufferedBlockGivesUpTheReservation)
+TEST_F(ReportBlockTest, disablingABufferedBlockGivesUpTheReservation)
 {
     start(buffered(), "BR");
     EXPECT_TRUE(run(disableReportBlock(client, block)).ok());
     EXPECT_EQ(writes, (Writes{"RptEna=false", "ResvTms=0"}));
 }
 
-TEST_F(ReportBlockTest, ABlockThatIsNotThereIsNamed)
+TEST_F(ReportBlockTest, aBlockThatIsNotThereIsNamed)
 {
     start(unbuffered(), "RP");
     const Reference other = *parseReference("LD/LLN0$RP$other");
@@ -482,7 +482,7 @@ TEST_F(ReportBlockTest, ABlockThatIsNotThereIsNamed)
     }
 }
 
-TEST_F(ReportBlockTest, SingleAttributesAreWrittenAsGiven)
+TEST_F(ReportBlockTest, singleAttributesAreWrittenAsGiven)
 {
     start(unbuffered(), "RP");
     EXPECT_TRUE(run(writeReportAttribute(client, block, "BufTm", Data::unsignedInteger(7))).ok());

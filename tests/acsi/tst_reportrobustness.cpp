@@ -41,7 +41,7 @@ Report seed(unsigned choice)
 
 } // namespace
 
-TEST(ReportRobustness, EveryChoiceOfFieldsIsReadBackAsItWasWritten)
+TEST(ReportRobustness, everyChoiceOfFieldsIsReadBackAsItWasWritten)
 {
     for (unsigned choice = 0; choice < 512; ++choice) {
         const mms::InformationReport encoded = encodeReport(seed(choice));
@@ -50,7 +50,7 @@ TEST(ReportRobustness, EveryChoiceOfFieldsIsReadBackAsItWasWritten)
     }
 }
 
-TEST(ReportRobustness, ValuesLeftOutDoubledExchangedOrReplacedAreHandled)
+TEST(ReportRobustness, valuesLeftOutDoubledExchangedOrReplacedAreHandled)
 {
     const std::vector<mms::AccessResult> replacements = {
         Data(),
@@ -95,7 +95,7 @@ TEST(ReportRobustness, ValuesLeftOutDoubledExchangedOrReplacedAreHandled)
     }
 }
 
-TEST(ReportRobustness, ChangedOctetsAreHandled)
+TEST(ReportRobustness, changedOctetsAreHandled)
 {
     std::mt19937 generator(2);
     const Octets all = mms::encode(mms::UnconfirmedPdu{encodeReport(seed(511))});

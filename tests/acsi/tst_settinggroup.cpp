@@ -48,7 +48,7 @@ protected:
 
 } // namespace
 
-TEST(SettingGroupValue, IsReadByTheNamesOfItsType)
+TEST(SettingGroupValue, isReadByTheNamesOfItsType)
 {
     const auto block = settingGroupBlockFrom(blockType(), blockValue());
     ASSERT_TRUE(block.ok()) << block.error().message;
@@ -60,7 +60,7 @@ TEST(SettingGroupValue, IsReadByTheNamesOfItsType)
     EXPECT_FALSE(block->resvTms);
 }
 
-TEST(SettingGroupValue, WhatDoesNotFitIsNamed)
+TEST(SettingGroupValue, whatDoesNotFitIsNamed)
 {
     for (std::size_t i = 0; i < 5; ++i) {
         Data value = blockValue();
@@ -73,7 +73,7 @@ TEST(SettingGroupValue, WhatDoesNotFitIsNamed)
     EXPECT_FALSE(settingGroupBlockFrom(blockType(), Data::structure({})).ok());
 }
 
-TEST(SettingLeaves, AreTheSingleValuesInTheOrderOfTheModel)
+TEST(SettingLeaves, areTheSingleValuesInTheOrderOfTheModel)
 {
     const Type analogue = Type::structure({{"f", Type::float32()}});
     const Type point = Type::structure({{"x", Type::float32()}, {"y", Type::float32()}});
@@ -99,7 +99,7 @@ TEST(SettingLeaves, AreTheSingleValuesInTheOrderOfTheModel)
     EXPECT_TRUE(settingLeaves(device, FunctionalConstraint::SE).empty());
 }
 
-TEST_F(SettingGroupTest, TheBlockIsReadFromTheDevice)
+TEST_F(SettingGroupTest, theBlockIsReadFromTheDevice)
 {
     const auto read = run(readSettingGroupBlock(client, block));
     ASSERT_TRUE(read.ok()) << read.error().message;
@@ -110,7 +110,7 @@ TEST_F(SettingGroupTest, TheBlockIsReadFromTheDevice)
               0U);
 }
 
-TEST_F(SettingGroupTest, SelectingEditingAndConfirmingWriteTheBlock)
+TEST_F(SettingGroupTest, selectingEditingAndConfirmingWriteTheBlock)
 {
     EXPECT_TRUE(run(selectActiveGroup(client, block, 3)).ok());
     EXPECT_EQ(written("ActSG"), Data::unsignedInteger(3));
@@ -122,13 +122,13 @@ TEST_F(SettingGroupTest, SelectingEditingAndConfirmingWriteTheBlock)
     EXPECT_EQ(written("EditSG"), Data::unsignedInteger(0));
 }
 
-TEST_F(SettingGroupTest, GroupZeroCannotBecomeActive)
+TEST_F(SettingGroupTest, groupZeroCannotBecomeActive)
 {
     EXPECT_FALSE(run(selectActiveGroup(client, block, 0)).ok());
     EXPECT_TRUE(device->requestsOf<mms::WriteRequest>().empty());
 }
 
-TEST_F(SettingGroupTest, ADeviceThatWantsNumbersWithSignGetsThem)
+TEST_F(SettingGroupTest, aDeviceThatWantsNumbersWithSignGetsThem)
 {
     device->domains["LD"].nodes["LLN0"] = Type::structure(
         {{"SP", Type::structure({{"SGCB", Type::structure({{"ActSG", Type::integer(8)}})}})}});
@@ -145,7 +145,7 @@ TEST_F(SettingGroupTest, ADeviceThatWantsNumbersWithSignGetsThem)
     EXPECT_EQ(written("ActSG"), Data::integer(3));
 }
 
-TEST_F(SettingGroupTest, ARefusalNamesTheAttribute)
+TEST_F(SettingGroupTest, aRefusalNamesTheAttribute)
 {
     device->values.erase("LD/LLN0$SP$SGCB$EditSG");
     const auto refused = run(selectEditGroup(client, block, 9));

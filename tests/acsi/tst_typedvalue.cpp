@@ -28,7 +28,7 @@ std::string umlauts(std::size_t count)
 
 } // namespace
 
-TEST(TypedValue, WhatWasSentInAnotherTypeIsTold)
+TEST(TypedValue, whatWasSentInAnotherTypeIsTold)
 {
     EXPECT_TRUE(isSentAs(TypeDescription::boolean(), Data::boolean(true)));
     EXPECT_FALSE(isSentAs(TypeDescription::boolean(), Data::integer(5)));
@@ -44,7 +44,7 @@ TEST(TypedValue, WhatWasSentInAnotherTypeIsTold)
     EXPECT_FALSE(isSentAs(TypeDescription::binaryTime(true), Data::binaryTime({86400000, 0})));
 }
 
-TEST(TypedValue, EveryBitOfACodedEnumerationMustCome)
+TEST(TypedValue, everyBitOfACodedEnumerationMustCome)
 {
     for (const int size : {2, -2}) {
         EXPECT_TRUE(isSentAs(TypeDescription::bitString(size), bits("10")));
@@ -54,7 +54,7 @@ TEST(TypedValue, EveryBitOfACodedEnumerationMustCome)
     }
 }
 
-TEST(TypedValue, BitsOfAQualityMayBeMissingWhereTheLengthVaries)
+TEST(TypedValue, bitsOfAQualityMayBeMissingWhereTheLengthVaries)
 {
     EXPECT_TRUE(isSentAs(TypeDescription::bitString(-13), bits("01")));
     EXPECT_TRUE(isSentAs(TypeDescription::bitString(-13), bits("0100000000000")));
@@ -63,7 +63,7 @@ TEST(TypedValue, BitsOfAQualityMayBeMissingWhereTheLengthVaries)
     EXPECT_FALSE(isSentAs(TypeDescription::bitString(13), bits("01000000000000")));
 }
 
-TEST(TypedValue, RangesAndLengthsAreTheDevicesOwnAffair)
+TEST(TypedValue, rangesAndLengthsAreTheDevicesOwnAffair)
 {
     EXPECT_TRUE(isSentAs(TypeDescription::integer(8), Data::integer(300)));
     EXPECT_TRUE(isSentAs(TypeDescription::visibleString(4), Data::visibleString("a")));
@@ -71,7 +71,7 @@ TEST(TypedValue, RangesAndLengthsAreTheDevicesOwnAffair)
     EXPECT_TRUE(isSentAs(TypeDescription::octetString(-1), Data::octetString({})));
 }
 
-TEST(TypedValue, AFixedLengthIsTheGreatest)
+TEST(TypedValue, aFixedLengthIsTheGreatest)
 {
     EXPECT_TRUE(checkType(TypeDescription::octetString(64), Data::octetString({})));
     EXPECT_TRUE(checkType(TypeDescription::visibleString(129), Data::visibleString("ab")));
@@ -85,7 +85,7 @@ TEST(TypedValue, AFixedLengthIsTheGreatest)
     EXPECT_TRUE(*text == Data::visibleString("ab"));
 }
 
-TEST(TypedValue, UnicodeOf255CountsCharactersAndEveryOtherLengthOctets)
+TEST(TypedValue, unicodeOf255CountsCharactersAndEveryOtherLengthOctets)
 {
     const auto fits = [](int size, const std::string &text) {
         return fitsLength(TypeDescription::mmsString(size), Data::mmsString(text));
@@ -101,7 +101,7 @@ TEST(TypedValue, UnicodeOf255CountsCharactersAndEveryOtherLengthOctets)
     EXPECT_TRUE(fits(0, umlauts(1000)));
 }
 
-TEST(TypedValue, TheNearestFloatIsNeitherInfinityNorZeroForAnotherNumber)
+TEST(TypedValue, theNearestFloatIsNeitherInfinityNorZeroForAnotherNumber)
 {
     constexpr float greatest = std::numeric_limits<float>::max();
     constexpr float least = std::numeric_limits<float>::denorm_min();

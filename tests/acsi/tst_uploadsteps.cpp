@@ -115,12 +115,12 @@ std::string afterTemporary(const std::vector<Step> &more)
 
 } // namespace
 
-TEST(UploadSteps, ANewFileIsFetchedAtOnce)
+TEST(UploadSteps, aNewFileIsFetchedAtOnce)
 {
     EXPECT_EQ(ending({{openName, missing()}, {fetchName, done()}}), "ok");
 }
 
-TEST(UploadSteps, AnExistingFileIsReplacedByRenaming)
+TEST(UploadSteps, anExistingFileIsReplacedByRenaming)
 {
     EXPECT_EQ(afterTemporary({{renameTemporary, done()}}), "ok");
     EXPECT_EQ(afterTemporary(
@@ -134,7 +134,7 @@ TEST(UploadSteps, AnExistingFileIsReplacedByRenaming)
               "ok");
 }
 
-TEST(UploadSteps, AFileThatCannotBeOpenedIsLookedForInTheList)
+TEST(UploadSteps, aFileThatCannotBeOpenedIsLookedForInTheList)
 {
     // Refused for whatever reason is not "no such file".
     EXPECT_EQ(ending({{openName, other()},
@@ -154,7 +154,7 @@ TEST(UploadSteps, AFileThatCannotBeOpenedIsLookedForInTheList)
               "there is an old f.");
 }
 
-TEST(UploadSteps, ALeftoverIsNotTouched)
+TEST(UploadSteps, aLeftoverIsNotTouched)
 {
     const std::string sentence =
         "f.upload is in the device already, perhaps the only whole version that an upload before "
@@ -167,7 +167,7 @@ TEST(UploadSteps, ALeftoverIsNotTouched)
         sentence);
 }
 
-TEST(UploadSteps, NothingIsDoneWhenThePeerDoesNotSayWhetherTheFileIsThere)
+TEST(UploadSteps, nothingIsDoneWhenThePeerDoesNotSayWhetherTheFileIsThere)
 {
     EXPECT_EQ(ending({{openName, silent()}}), "f: Silence. Nothing was changed on the device.");
     EXPECT_EQ(ending({{openName, lost()}}), "f: Lost. Nothing was changed on the device.");
@@ -175,7 +175,7 @@ TEST(UploadSteps, NothingIsDoneWhenThePeerDoesNotSayWhetherTheFileIsThere)
               "f: Silence. Nothing was changed on the device.");
 }
 
-TEST(UploadSteps, AHalfNewFileIsDeletedAfterARefusalOnly)
+TEST(UploadSteps, aHalfNewFileIsDeletedAfterARefusalOnly)
 {
     EXPECT_EQ(ending({{openName, missing()}, {fetchName, refused(9)}}), "f: Refused.");
     EXPECT_EQ(ending({{openName, missing()}, {fetchName, refused(9, true)}, {deleteName, done()}}),
@@ -193,7 +193,7 @@ TEST(UploadSteps, AHalfNewFileIsDeletedAfterARefusalOnly)
               "f: Lost. It is not known whether the device has a part of the file: look at f.");
 }
 
-TEST(UploadSteps, TheOldFileStaysWhenTheNewOneDoesNotCome)
+TEST(UploadSteps, theOldFileStaysWhenTheNewOneDoesNotCome)
 {
     const std::vector<Step> before = {{openName, done(50)}, {openTemporary, missing()}};
     const auto after = [&before](const std::vector<Step> &more) {
@@ -215,7 +215,7 @@ TEST(UploadSteps, TheOldFileStaysWhenTheNewOneDoesNotCome)
               "device.");
 }
 
-TEST(UploadSteps, ARenameWithoutAnswerIsLookedAfter)
+TEST(UploadSteps, aRenameWithoutAnswerIsLookedAfter)
 {
     EXPECT_EQ(afterTemporary(
                   {{renameTemporary, silent()}, {openTemporary, missing()}, {openName, done(100)}}),
@@ -232,7 +232,7 @@ TEST(UploadSteps, ARenameWithoutAnswerIsLookedAfter)
               "f: Lost. It is not known whether the file has its name: look at f and f.upload.");
 }
 
-TEST(UploadSteps, ADeleteWithoutAnswerIsLookedAfter)
+TEST(UploadSteps, aDeleteWithoutAnswerIsLookedAfter)
 {
     EXPECT_EQ(afterTemporary({{renameTemporary, refused(8)},
                               {deleteName, silent()},
@@ -248,7 +248,7 @@ TEST(UploadSteps, ADeleteWithoutAnswerIsLookedAfter)
               "f is still there.");
 }
 
-TEST(UploadSteps, OneWholeVersionIsNamedWhenTheSecondTransferFails)
+TEST(UploadSteps, oneWholeVersionIsNamedWhenTheSecondTransferFails)
 {
     const std::vector<Step> gone = {
         {renameTemporary, refused(8)}, {deleteName, done()}, {renameTemporary, refused(6)}};
@@ -271,7 +271,7 @@ TEST(UploadSteps, OneWholeVersionIsNamedWhenTheSecondTransferFails)
               "delete it.");
 }
 
-TEST(UploadSteps, APeerThatTakesNoOtherNameReplacesInPlace)
+TEST(UploadSteps, aPeerThatTakesNoOtherNameReplacesInPlace)
 {
     const std::vector<Step> before = {
         {openName, done(50)}, {openTemporary, missing()}, {fetchTemporary, refused(3)}};
@@ -296,7 +296,7 @@ TEST(UploadSteps, APeerThatTakesNoOtherNameReplacesInPlace)
         "f: Silence. f may be incomplete. The old file had to be deleted before and is lost.");
 }
 
-TEST(UploadSteps, TheOldFileIsNotDeletedForAFileThatHasNoRoom)
+TEST(UploadSteps, theOldFileIsNotDeletedForAFileThatHasNoRoom)
 {
     EXPECT_EQ(ending({{openName, done(50)},
                       {openTemporary, missing()},

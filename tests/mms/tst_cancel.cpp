@@ -82,7 +82,7 @@ const IdentifyResponse somebody{"v", "m", "r", {}};
 
 } // namespace
 
-TEST_F(Cancel, APeerThatKnowsCancelIsToldOfACallThatIsGivenUp)
+TEST_F(Cancel, aPeerThatKnowsCancelIsToldOfACallThatIsGivenUp)
 {
     connectToPeer(true);
     const std::uint32_t invokeId = giveUpACall();
@@ -100,7 +100,7 @@ TEST_F(Cancel, APeerThatKnowsCancelIsToldOfACallThatIsGivenUp)
     EXPECT_EQ(m_client->counters().late, 1U);
 }
 
-TEST_F(Cancel, APeerIsToldOfACallWhoseDeadlinePassed)
+TEST_F(Cancel, aPeerIsToldOfACallWhoseDeadlinePassed)
 {
     connectToPeer(true);
     EXPECT_EQ(failureOf(call(StatusRequest(), 50ms)), CallFailure::Kind::TimedOut);
@@ -108,7 +108,7 @@ TEST_F(Cancel, APeerIsToldOfACallWhoseDeadlinePassed)
     EXPECT_EQ(next(), Pdu(CancelRequestPdu{request.invokeId}));
 }
 
-TEST_F(Cancel, ACallThatThePeerDoesNotKnowAnyMoreFreesItsPlace)
+TEST_F(Cancel, aCallThatThePeerDoesNotKnowAnyMoreFreesItsPlace)
 {
     connectToPeer(true);
     const std::uint32_t invokeId = giveUpACall();
@@ -122,7 +122,7 @@ TEST_F(Cancel, ACallThatThePeerDoesNotKnowAnyMoreFreesItsPlace)
     EXPECT_NE(answerOf<IdentifyResponse>(outcome.get()), nullptr);
 }
 
-TEST_F(Cancel, ARejectedCancelEndsNoCallAndIsNotRepeated)
+TEST_F(Cancel, aRejectedCancelEndsNoCallAndIsNotRepeated)
 {
     connectToPeer(true);
     const std::uint32_t invokeId = giveUpACall();
@@ -139,7 +139,7 @@ TEST_F(Cancel, ARejectedCancelEndsNoCallAndIsNotRepeated)
     EXPECT_EQ(m_client->counters().late, 2U);
 }
 
-TEST_F(Cancel, APeerThatDoesNotKnowCancelIsNotAsked)
+TEST_F(Cancel, aPeerThatDoesNotKnowCancelIsNotAsked)
 {
     connectToPeer(false);
     const std::uint32_t invokeId = giveUpACall();
@@ -151,7 +151,7 @@ TEST_F(Cancel, APeerThatDoesNotKnowCancelIsNotAsked)
     EXPECT_NE(answerOf<IdentifyResponse>(outcome.get()), nullptr);
 }
 
-TEST_F(Cancel, AServerGivesUpARequestAndDropsItsLateAnswer)
+TEST_F(Cancel, aServerGivesUpARequestAndDropsItsLateAnswer)
 {
     ServerOptions server;
     server.association.services.set(static_cast<std::size_t>(Service::Cancel));
@@ -175,7 +175,7 @@ TEST_F(Cancel, AServerGivesUpARequestAndDropsItsLateAnswer)
     EXPECT_EQ(lines[2].find("confirmed-ErrorPDU 1 service-preempt"), 0U) << lines[2];
 }
 
-TEST_F(Cancel, AServerThatGoesOnAnswersTheRequestAllTheSame)
+TEST_F(Cancel, aServerThatGoesOnAnswersTheRequestAllTheSame)
 {
     m_patient->givesUp = false;
     ServerOptions server;
@@ -193,7 +193,7 @@ TEST_F(Cancel, AServerThatGoesOnAnswersTheRequestAllTheSame)
     EXPECT_EQ(m_client->counters().late, 1U);
 }
 
-TEST_F(Cancel, AServerSaysThatItDoesNotKnowTheInvokeId)
+TEST_F(Cancel, aServerSaysThatItDoesNotKnowTheInvokeId)
 {
     RawPeer peer;
     peer.connect(startServer());

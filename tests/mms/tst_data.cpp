@@ -70,7 +70,7 @@ std::string errorOf(std::string_view hex)
 
 } // namespace
 
-TEST(Data, EveryKindIsWrittenReadAndShown)
+TEST(Data, everyKindIsWrittenReadAndShown)
 {
     for (const Case &one : cases()) {
         EXPECT_EQ(toHex(encode(one.data)), packed(one.hex));
@@ -81,7 +81,7 @@ TEST(Data, EveryKindIsWrittenReadAndShown)
     }
 }
 
-TEST(Data, OneOctetMoreOrLessIsAnError)
+TEST(Data, oneOctetMoreOrLessIsAnError)
 {
     for (const Case &one : cases()) {
         auto bytes = fromHex(one.hex);
@@ -92,7 +92,7 @@ TEST(Data, OneOctetMoreOrLessIsAnError)
     }
 }
 
-TEST(Data, CopiesAndMovesKeepTheValue)
+TEST(Data, copiesAndMovesKeepTheValue)
 {
     for (const Case &one : cases()) {
         Data copy(one.data);
@@ -110,13 +110,13 @@ TEST(Data, CopiesAndMovesKeepTheValue)
     }
 }
 
-TEST(Data, AValueTakesSixteenOctets)
+TEST(Data, aValueTakesSixteenOctets)
 {
     EXPECT_EQ(sizeof(Data), 16U);
     EXPECT_EQ(sizeof(AccessResult), 16U);
 }
 
-TEST(Data, ValuesOfDifferentKindsOrContentAreNotEqual)
+TEST(Data, valuesOfDifferentKindsOrContentAreNotEqual)
 {
     const auto all = cases();
     for (std::size_t i = 0; i < all.size(); ++i) {
@@ -126,7 +126,7 @@ TEST(Data, ValuesOfDifferentKindsOrContentAreNotEqual)
     EXPECT_FALSE(Data::float32(1) == Data::float64(1));
 }
 
-TEST(Data, NumbersConvertWhereTheyFit)
+TEST(Data, numbersConvertWhereTheyFit)
 {
     EXPECT_EQ(Data::integer(-1).toInteger(), -1);
     EXPECT_EQ(Data::integer(-1).toUnsigned(), std::nullopt);
@@ -142,7 +142,7 @@ TEST(Data, NumbersConvertWhereTheyFit)
     EXPECT_EQ(Data::visibleString("1").toInteger(), std::nullopt);
 }
 
-TEST(Data, ANanKeepsItsBits)
+TEST(Data, aNanKeepsItsBits)
 {
     for (const char *hex : {"8705087f800001", "87090b7ff0000000000001"}) {
         const auto bytes = fromHex(hex);
@@ -154,7 +154,7 @@ TEST(Data, ANanKeepsItsBits)
     }
 }
 
-TEST(Data, TimesAreReadBack)
+TEST(Data, timesAreReadBack)
 {
     const UtcTime utc{1614834367, 0xFFFFFF, 0x8A};
     EXPECT_EQ(Data::utcTime(utc).toUtcTime(), utc);
@@ -164,7 +164,7 @@ TEST(Data, TimesAreReadBack)
     EXPECT_EQ(Data::utcTime(utc).toBinaryTime(), std::nullopt);
 }
 
-TEST(Data, BitsAreFoundByTheirNumber)
+TEST(Data, bitsAreFoundByTheirNumber)
 {
     const Data quality = Data::bitString(BitString::fromText("0100000000001"));
     EXPECT_EQ(quality.size(), 13U);
@@ -176,7 +176,7 @@ TEST(Data, BitsAreFoundByTheirNumber)
     EXPECT_FALSE(Data::integer(-1).testBit(0));
 }
 
-TEST(Data, MembersCanBeChangedInPlace)
+TEST(Data, membersCanBeChangedInPlace)
 {
     Data value = Data::structure({Data::integer(1), Data::visibleString("a")});
     value.children()[1] = Data::visibleString("a longer text than before");
@@ -185,7 +185,7 @@ TEST(Data, MembersCanBeChangedInPlace)
     EXPECT_TRUE(Data::integer(1).children().empty());
 }
 
-TEST(Data, BitsThatDoNotCountAreDropped)
+TEST(Data, bitsThatDoNotCountAreDropped)
 {
     const auto result = decodeData(fromHex("840204ff"));
     ASSERT_TRUE(result);
@@ -193,7 +193,7 @@ TEST(Data, BitsThatDoNotCountAreDropped)
     EXPECT_EQ(toHex(encode(*result)), "840204f0");
 }
 
-TEST(Data, WhatIsNoValueIsSaid)
+TEST(Data, whatIsNoValueIsSaid)
 {
     const std::string noValue = "An element that is no value stands where a value belongs.";
     for (const char *hex : {"020100", "8000", "8800", "9200", "8200", "8100", "a500", "b100"})
@@ -208,7 +208,7 @@ TEST(Data, WhatIsNoValueIsSaid)
     EXPECT_EQ(errorOf("8400"), "A bit string does not say how many of its bits count.");
 }
 
-TEST(Data, OctetsThatAreNoObjectIdentifierCostNoOtherValue)
+TEST(Data, octetsThatAreNoObjectIdentifierCostNoOtherValue)
 {
     const auto bytes = fromHex("8f0188 850105");
     ber::Input input(bytes);
@@ -222,7 +222,7 @@ TEST(Data, OctetsThatAreNoObjectIdentifierCostNoOtherValue)
     EXPECT_EQ(results[1].data().toInteger(), 5);
 }
 
-TEST(Data, AFailureInAListOfResultsIsNoValue)
+TEST(Data, aFailureInAListOfResultsIsNoValue)
 {
     const auto bytes = fromHex("80010a 850105 800163");
     ber::Input input(bytes);
@@ -238,7 +238,7 @@ TEST(Data, AFailureInAListOfResultsIsNoValue)
     EXPECT_EQ(toText(results[0]), "failure: The object does not exist");
 }
 
-TEST(TypeDescription, EveryKindIsWrittenReadAndShown)
+TEST(TypeDescription, everyKindIsWrittenReadAndShown)
 {
     using T = TypeDescription;
     T digits;
@@ -284,7 +284,7 @@ TEST(TypeDescription, EveryKindIsWrittenReadAndShown)
     }
 }
 
-TEST(TypeDescription, TypesOfDifferentContentAreNotEqual)
+TEST(TypeDescription, typesOfDifferentContentAreNotEqual)
 {
     using T = TypeDescription;
     EXPECT_FALSE(T::integer(8) == T::integer(16));
@@ -293,7 +293,7 @@ TEST(TypeDescription, TypesOfDifferentContentAreNotEqual)
     EXPECT_FALSE(T::structure({{"a", T::boolean()}}) == T::structure({{"b", T::boolean()}}));
 }
 
-TEST(TypeDescription, WhatIsNoTypeIsSaid)
+TEST(TypeDescription, whatIsNoTypeIsSaid)
 {
     for (const char *hex : {"020100", "8e00", "8800", "8100", "8700", "a300"}) {
         const auto result = decodeTypeDescription(fromHex(hex));
@@ -324,7 +324,7 @@ Data decoded()
 
 } // namespace
 
-TEST(Data, WhatIsTakenOutOfADecodedValueOutlivesIt)
+TEST(Data, whatIsTakenOutOfADecodedValueOutlivesIt)
 {
     Data taken;
     Data copied;
@@ -343,7 +343,7 @@ TEST(Data, WhatIsTakenOutOfADecodedValueOutlivesIt)
     EXPECT_EQ(deeper, Data::array({Data::integer(1), Data::integer(2)}));
 }
 
-TEST(Data, ADecodedValueCanBeChangedLikeAnyOther)
+TEST(Data, aDecodedValueCanBeChangedLikeAnyOther)
 {
     Data value = decoded();
     value.children()[0] = Data::structure({Data::visibleString("another text of many octets")});
@@ -362,7 +362,7 @@ TEST(Data, ADecodedValueCanBeChangedLikeAnyOther)
     EXPECT_EQ(list[1], nested());
 }
 
-TEST(Data, LengthsThatContradictEachOtherAreAnError)
+TEST(Data, lengthsThatContradictEachOtherAreAnError)
 {
     // A group of two octets whose member claims five, while the groups around it would have them.
     for (const char *hex : {"a20d a204 a202 8505 830100 830101", "a20b a202 8505 830100 830101 83",

@@ -78,7 +78,7 @@ std::string found(const std::string &text, const char *pattern)
 
 } // namespace
 
-TEST_F(Dissector, NoPduIsMalformed)
+TEST_F(Dissector, noPduIsMalformed)
 {
     for (std::size_t i = 0; i < m_texts.size(); ++i) {
         for (const char *mark : {"[Malformed", "BER Error", "Expert Info", "Unknown"}) {
@@ -89,7 +89,7 @@ TEST_F(Dissector, NoPduIsMalformed)
     }
 }
 
-TEST_F(Dissector, EveryPduAndServiceHasTheNameThatTheTraceGivesIt)
+TEST_F(Dissector, everyPduAndServiceHasTheNameThatTheTraceGivesIt)
 {
     std::set<std::string> services;
     for (std::size_t i = 0; i < m_texts.size(); ++i) {

@@ -28,19 +28,19 @@ std::string errorOf(std::string_view hex)
 
 } // namespace
 
-TEST_P(PduSamples, TheValueIsWrittenAsItsOctets)
+TEST_P(PduSamples, theValueIsWrittenAsItsOctets)
 {
     EXPECT_EQ(toHex(encode(GetParam().pdu)), packed(GetParam().hex));
 }
 
-TEST_P(PduSamples, TheOctetsAreReadAsTheValue)
+TEST_P(PduSamples, theOctetsAreReadAsTheValue)
 {
     const auto result = decodePdu(fromHex(GetParam().hex));
     ASSERT_TRUE(result) << result.error().message;
     EXPECT_TRUE(*result == GetParam().pdu) << toText(*result);
 }
 
-TEST_P(PduSamples, OneOctetTooManyIsAnError)
+TEST_P(PduSamples, oneOctetTooManyIsAnError)
 {
     auto bytes = fromHex(GetParam().hex);
     bytes.push_back(0);
@@ -50,19 +50,19 @@ TEST_P(PduSamples, OneOctetTooManyIsAnError)
     EXPECT_EQ(result.error().offset, bytes.size() - 1);
 }
 
-TEST_P(PduSamples, EveryTruncationIsAnError)
+TEST_P(PduSamples, everyTruncationIsAnError)
 {
     const auto bytes = fromHex(GetParam().hex);
     for (std::size_t size = 0; size < bytes.size(); ++size)
         EXPECT_FALSE(decodePdu(Bytes(bytes).first(size))) << size;
 }
 
-TEST_P(PduSamples, TheTextOfATraceSaysEverything)
+TEST_P(PduSamples, theTextOfATraceSaysEverything)
 {
     EXPECT_EQ(toText(GetParam().pdu), GetParam().text);
 }
 
-TEST_P(PduSamples, TheHeadIsFoundWithoutReadingTheRest)
+TEST_P(PduSamples, theHeadIsFoundWithoutReadingTheRest)
 {
     const auto head = peekPdu(fromHex(GetParam().hex));
     ASSERT_TRUE(head);
@@ -82,7 +82,7 @@ TEST_P(PduSamples, TheHeadIsFoundWithoutReadingTheRest)
 INSTANTIATE_TEST_SUITE_P(Mms, PduSamples, testing::ValuesIn(wiretest::samples()),
                          [](const auto &sample) { return sample.param.name; });
 
-TEST(Pdu, SamplesShowEveryPduAndEveryService)
+TEST(Pdu, samplesShowEveryPduAndEveryService)
 {
     std::set<std::size_t> pdus;
     std::set<std::size_t> requests;
@@ -99,7 +99,7 @@ TEST(Pdu, SamplesShowEveryPduAndEveryService)
     EXPECT_EQ(responses.size(), std::variant_size_v<ResponseService>);
 }
 
-TEST(Pdu, AnInnerElementBeyondTheEndOfThePduIsAnError)
+TEST(Pdu, anInnerElementBeyondTheEndOfThePduIsAnError)
 {
     int checked = 0;
     for (const Sample &sample : wiretest::samples()) {
@@ -115,7 +115,7 @@ TEST(Pdu, AnInnerElementBeyondTheEndOfThePduIsAnError)
     EXPECT_GT(checked, 50);
 }
 
-TEST(Pdu, IndefiniteLengthsAroundThePduAreAccepted)
+TEST(Pdu, indefiniteLengthsAroundThePduAreAccepted)
 {
     int checked = 0;
     for (const Sample &sample : wiretest::samples()) {
@@ -136,7 +136,7 @@ TEST(Pdu, IndefiniteLengthsAroundThePduAreAccepted)
     EXPECT_GT(checked, 50);
 }
 
-TEST(Pdu, AnAbsentMoreFollowsOfANameListMeansThatMoreFollows)
+TEST(Pdu, anAbsentMoreFollowsOfANameListMeansThatMoreFollows)
 {
     const auto result = decodePdu(fromHex("a10c 020101 a107 a005 1a03 4c4430"));
     ASSERT_TRUE(result);
@@ -145,21 +145,21 @@ TEST(Pdu, AnAbsentMoreFollowsOfANameListMeansThatMoreFollows)
     EXPECT_TRUE(list.moreFollows);
 }
 
-TEST(Pdu, AnAbsentMoreFollowsOfAFileReadMeansThatMoreFollows)
+TEST(Pdu, anAbsentMoreFollowsOfAFileReadMeansThatMoreFollows)
 {
     const auto result = decodePdu(fromHex("a109 020101 bf49 03 800161"));
     ASSERT_TRUE(result) << result.error().message;
     EXPECT_TRUE(std::get<FileReadResponse>(std::get<1>(*result).response).moreFollows);
 }
 
-TEST(Pdu, AnAbsentMoreFollowsOfADirectoryMeansTheEnd)
+TEST(Pdu, anAbsentMoreFollowsOfADirectoryMeansTheEnd)
 {
     const auto result = decodePdu(fromHex("a10a 020101 bf4d 04 a002 3000"));
     ASSERT_TRUE(result);
     EXPECT_FALSE(std::get<FileDirectoryResponse>(std::get<1>(*result).response).moreFollows);
 }
 
-TEST(Pdu, ADirectoryIsReadWithAndWithoutTheTagOfItsList)
+TEST(Pdu, aDirectoryIsReadWithAndWithoutTheTagOfItsList)
 {
     const auto with =
         decodePdu(fromHex("a117 020101 bf4d 11 a00f 300d 300b a003 190161 a1 04 80 0203e8"));
@@ -174,7 +174,7 @@ TEST(Pdu, ADirectoryIsReadWithAndWithoutTheTagOfItsList)
     EXPECT_EQ(directory.entries[0].attributes.size, 1000U);
 }
 
-TEST(Pdu, AnAnswerOfAnUnknownServiceKeepsItsInvokeId)
+TEST(Pdu, anAnswerOfAnUnknownServiceKeepsItsInvokeId)
 {
     const auto unknown = decodePdu(fromHex("a108 020109 bf55 02 0500"));
     ASSERT_TRUE(unknown) << unknown.error().message;
@@ -183,7 +183,7 @@ TEST(Pdu, AnAnswerOfAnUnknownServiceKeepsItsInvokeId)
     EXPECT_TRUE(std::holds_alternative<UnknownService>(pdu.response));
 }
 
-TEST(Pdu, AMalformedAnswerCanStillBeMatchedToItsCall)
+TEST(Pdu, aMalformedAnswerCanStillBeMatchedToItsCall)
 {
     const auto bytes = fromHex("a10a 020109 a405 a103 8302ff");
     EXPECT_FALSE(decodePdu(bytes));
@@ -194,7 +194,7 @@ TEST(Pdu, AMalformedAnswerCanStillBeMatchedToItsCall)
     EXPECT_EQ(head->service, 4U);
 }
 
-TEST(Pdu, WhatIsNoPduIsSaid)
+TEST(Pdu, whatIsNoPduIsSaid)
 {
     EXPECT_EQ(errorOf(""), "The message is empty.");
     EXPECT_EQ(errorOf("0101ff"), "The message is no MMS PDU.");
@@ -206,7 +206,7 @@ TEST(Pdu, WhatIsNoPduIsSaid)
     EXPECT_FALSE(peekPdu({}));
 }
 
-TEST(Pdu, WhatIsMissingOrUnknownIsNamed)
+TEST(Pdu, whatIsMissingOrUnknownIsNamed)
 {
     EXPECT_EQ(errorOf("a000"), "The element invokeID is missing.");
     EXPECT_EQ(errorOf("a003020105"), "The element ConfirmedServiceRequest is missing.");
@@ -222,7 +222,7 @@ TEST(Pdu, WhatIsMissingOrUnknownIsNamed)
               "The element errorClass is missing or of an unknown kind.");
 }
 
-TEST(Pdu, AnErrorNamesTheFirstOctetThatIsWrong)
+TEST(Pdu, anErrorNamesTheFirstOctetThatIsWrong)
 {
     // The third value of a read answer is a boolean of two octets.
     const auto result = decodePdu(fromHex("a111 020105 a40c a10a 8301ff 850105 8302ffff"));
@@ -231,7 +231,7 @@ TEST(Pdu, AnErrorNamesTheFirstOctetThatIsWrong)
     EXPECT_EQ(result.error().offset, 17U);
 }
 
-TEST(Pdu, NestingOfValuesIsLimited)
+TEST(Pdu, nestingOfValuesIsLimited)
 {
     for (const std::size_t depth : {29U, 30U}) {
         Data value = Data::integer(1);
@@ -248,7 +248,7 @@ TEST(Pdu, NestingOfValuesIsLimited)
     }
 }
 
-TEST(Pdu, ATypeAsDeepAsTheModelAllowsIsRead)
+TEST(Pdu, aTypeAsDeepAsTheModelAllowsIsRead)
 {
     // Node, constraint, object, sub-object, array, element, value, magnitude.
     TypeDescription type = TypeDescription::float32();
@@ -263,7 +263,7 @@ TEST(Pdu, ATypeAsDeepAsTheModelAllowsIsRead)
     EXPECT_TRUE(*result == pdu);
 }
 
-TEST(Pdu, TheNumberOfElementsIsLimited)
+TEST(Pdu, theNumberOfElementsIsLimited)
 {
     const std::vector<AccessResult> values(100, Data::boolean(true));
     const auto bytes = encode(Pdu(ConfirmedResponsePdu{1, ReadResponse{{}, values}}));
@@ -273,7 +273,7 @@ TEST(Pdu, TheNumberOfElementsIsLimited)
     EXPECT_EQ(refused.error().message, "The message holds more elements than allowed.");
 }
 
-TEST(Pdu, AnInvokeIdOf32BitsIsKept)
+TEST(Pdu, anInvokeIdOf32BitsIsKept)
 {
     const Pdu pdu = ConfirmedRequestPdu{4294967295U, IdentifyRequest{}};
     EXPECT_EQ(toHex(encode(pdu)), "a009020500ffffffff8200");
@@ -282,7 +282,7 @@ TEST(Pdu, AnInvokeIdOf32BitsIsKept)
     EXPECT_TRUE(*withoutZero == pdu);
 }
 
-TEST(Pdu, InitiateTellsWhatTheOtherSideSupports)
+TEST(Pdu, initiateTellsWhatTheOtherSideSupports)
 {
     InitiateParameters parameters;
     parameters.services.set(static_cast<std::size_t>(Service::FileOpen));
@@ -293,7 +293,7 @@ TEST(Pdu, InitiateTellsWhatTheOtherSideSupports)
     EXPECT_FALSE(parameters.supports(Parameter::Addresses));
 }
 
-TEST(Pdu, ServicesSupportedOfFewerBitsAreReadAsTheyAre)
+TEST(Pdu, servicesSupportedOfFewerBitsAreReadAsTheyAre)
 {
     const auto result = decodePdu(fromHex("a813 810105 820105 a40b 800101 8102 0580 8202 03e8"));
     ASSERT_TRUE(result) << result.error().message;
@@ -303,7 +303,7 @@ TEST(Pdu, ServicesSupportedOfFewerBitsAreReadAsTheyAre)
     EXPECT_FALSE(parameters.maxPduSize);
 }
 
-TEST(Pdu, EmptyAnswersAreTakenInEitherForm)
+TEST(Pdu, emptyAnswersAreTakenInEitherForm)
 {
     const auto created = decodePdu(fromHex("a106 0202012c ab00"));
     ASSERT_TRUE(created) << created.error().message;
@@ -315,7 +315,7 @@ TEST(Pdu, EmptyAnswersAreTakenInEitherForm)
         std::get<ConfirmedResponsePdu>(*other).response));
 }
 
-TEST(Pdu, RejectsAreExplained)
+TEST(Pdu, rejectsAreExplained)
 {
     EXPECT_EQ(describe(RejectPdu{7, RejectedPdu::ConfirmedRequest, 1}),
               "The device rejects a request (unrecognized-service).");
@@ -323,7 +323,7 @@ TEST(Pdu, RejectsAreExplained)
               "The device rejects a message that it cannot read (77).");
 }
 
-TEST(ServiceErrors, AreExplainedWithWhatTheDeviceAdds)
+TEST(ServiceErrors, areExplainedWithWhatTheDeviceAdds)
 {
     ServiceError error;
     error.errorClass = ErrorClass::Access;

@@ -222,7 +222,7 @@ RC_GTEST_PROP(PduIdentity, AnyTypesAreReadBackAsTheyWereWritten, ())
         1, GetVariableAccessAttributesResponse{*rc::gen::arbitrary<bool>(), {}, anyType(0)}});
 }
 
-TEST(PduRobustness, EveryBeginningOfEverySampleIsHandled)
+TEST(PduRobustness, everyBeginningOfEverySampleIsHandled)
 {
     for (const Octets &seed : seeds()) {
         for (std::size_t size = 0; size <= seed.size(); ++size)
@@ -230,7 +230,7 @@ TEST(PduRobustness, EveryBeginningOfEverySampleIsHandled)
     }
 }
 
-TEST(PduRobustness, EveryOctetOfEverySampleMayHaveAnyValue)
+TEST(PduRobustness, everyOctetOfEverySampleMayHaveAnyValue)
 {
     for (const Octets &seed : seeds()) {
         for (std::size_t i = 0; i < std::min<std::size_t>(seed.size(), 64); ++i) {
@@ -243,7 +243,7 @@ TEST(PduRobustness, EveryOctetOfEverySampleMayHaveAnyValue)
     }
 }
 
-TEST(PduRobustness, SeveralChangedOctetsAreHandled)
+TEST(PduRobustness, severalChangedOctetsAreHandled)
 {
     static constexpr std::uint8_t special[] = {0x00, 0x01, 0x7F, 0x80, 0x81, 0x82, 0x84, 0xFF,
                                                0x30, 0xA0, 0xA1, 0xA2, 0xBF, 0x1F, 0x19, 0x1A};
@@ -261,7 +261,7 @@ TEST(PduRobustness, SeveralChangedOctetsAreHandled)
     }
 }
 
-TEST(PduRobustness, PiecesOfOneSampleInAnotherAreHandled)
+TEST(PduRobustness, piecesOfOneSampleInAnotherAreHandled)
 {
     const auto all = seeds();
     Generator generator(2);

@@ -84,7 +84,7 @@ protected:
 
 } // namespace
 
-TEST_F(Reports, TheSizeOfAReportIsWhatItsPduTakes)
+TEST_F(Reports, theSizeOfAReportIsWhatItsPduTakes)
 {
     for (const std::size_t count : {0U, 1U, 50U, 20000U}) {
         const InformationReport report = floats(count);
@@ -95,7 +95,7 @@ TEST_F(Reports, TheSizeOfAReportIsWhatItsPduTakes)
     EXPECT_EQ(encodedSize(two) - encodedSize(one), encodedSize(one.results.front()));
 }
 
-TEST_F(Reports, TheServerHearsWhichReportIsTooLong)
+TEST_F(Reports, theServerHearsWhichReportIsTooLong)
 {
     ServerOptions server;
     server.association.maxPduSize = 1000;
@@ -118,7 +118,7 @@ TEST_F(Reports, TheServerHearsWhichReportIsTooLong)
     EXPECT_EQ(association->counters().unsent, 2U);
 }
 
-TEST_F(Reports, AServerThatHoldsBackLosesNoneOfManyReports)
+TEST_F(Reports, aServerThatHoldsBackLosesNoneOfManyReports)
 {
     constexpr std::uint32_t count = 20000;
     Awaited<std::uint32_t> last;
@@ -142,7 +142,7 @@ TEST_F(Reports, AServerThatHoldsBackLosesNoneOfManyReports)
     EXPECT_LT(stream->longestQueue, Stream::mostQueued + 1000);
 }
 
-TEST_F(Reports, WhoWaitsForTheQueueHearsNothingAfterTheEnd)
+TEST_F(Reports, whoWaitsForTheQueueHearsNothingAfterTheEnd)
 {
     ASSERT_TRUE(connect(startServer(), quickOptions()).ok());
     const auto association = m_reporter->accepted.get();

@@ -143,7 +143,7 @@ protected:
 
 } // namespace
 
-TEST_F(SocketRobustness, AServerSurvivesWhateverIsSentAndDoesNotGrow)
+TEST_F(SocketRobustness, aServerSurvivesWhateverIsSentAndDoesNotGrow)
 {
     const std::uint16_t port = startServer();
     Generator generator(20210304);
@@ -161,7 +161,7 @@ TEST_F(SocketRobustness, AServerSurvivesWhateverIsSentAndDoesNotGrow)
     EXPECT_TRUE(concluded.get().ok());
 }
 
-TEST_F(SocketRobustness, AClientSurvivesWhateverItIsAnsweredAndDoesNotGrow)
+TEST_F(SocketRobustness, aClientSurvivesWhateverItIsAnsweredAndDoesNotGrow)
 {
     Generator generator(20210305);
     RawPeer peer;

@@ -28,7 +28,7 @@ std::string binaryWire(std::string_view text)
 
 } // namespace
 
-TEST(Times, EveryMillisecondIsShownAndReadAsItself)
+TEST(Times, everyMillisecondIsShownAndReadAsItself)
 {
     char text[40];
     for (unsigned i = 0; i < 1000; ++i) {
@@ -39,7 +39,7 @@ TEST(Times, EveryMillisecondIsShownAndReadAsItself)
     }
 }
 
-TEST(Times, EveryMicrosecondIsShownAndReadAsItself)
+TEST(Times, everyMicrosecondIsShownAndReadAsItself)
 {
     char text[40];
     for (unsigned i = 0; i < 1000000; i += 7) {
@@ -50,7 +50,7 @@ TEST(Times, EveryMicrosecondIsShownAndReadAsItself)
     }
 }
 
-TEST(Times, UtcTimesOnTheWire)
+TEST(Times, utcTimesOnTheWire)
 {
     // 0.007 s are 117440.5 units, 0.001 s 16777.216.
     EXPECT_EQ(wire("1970-01-01T00:00:00Z"), "9108000000000000000a");
@@ -67,7 +67,7 @@ TEST(Times, UtcTimesOnTheWire)
     EXPECT_EQ(wire("2021-03-04T05:06:07Z clock-failure accuracy-7"), "910860406abf00000047");
 }
 
-TEST(Times, ATextThatIsNotWhollyATimeIsNone)
+TEST(Times, aTextThatIsNotWhollyATimeIsNone)
 {
     for (const char *text : {"",
                              "2026-03-04",
@@ -100,7 +100,7 @@ TEST(Times, ATextThatIsNotWhollyATimeIsNone)
         EXPECT_FALSE(utcTimeFrom(text)) << text;
 }
 
-TEST(Times, EveryQualityOfATimeIsToldApartAndReadBack)
+TEST(Times, everyQualityOfATimeIsToldApartAndReadBack)
 {
     for (unsigned quality = 0; quality < 256; ++quality) {
         const UtcTime time{1614834367, 0x800000, static_cast<std::uint8_t>(quality)};
@@ -116,7 +116,7 @@ TEST(Times, EveryQualityOfATimeIsToldApartAndReadBack)
     EXPECT_EQ(toText(UtcTime{1614834367, 0xFFFFFF, 10}), "2021-03-04T05:06:08.000000Z");
 }
 
-TEST(Times, AnyFractionIsShownToTheNearestMicrosecond)
+TEST(Times, anyFractionIsShownToTheNearestMicrosecond)
 {
     std::mt19937 random(1);
     for (int i = 0; i < 20000; ++i) {
@@ -132,7 +132,7 @@ TEST(Times, AnyFractionIsShownToTheNearestMicrosecond)
     }
 }
 
-TEST(Times, MomentsOfTheClockAreTheNearestUnit)
+TEST(Times, momentsOfTheClockAreTheNearestUnit)
 {
     using namespace std::chrono;
     const auto at = [](nanoseconds since) { return utcTimeAt(sys_time<nanoseconds>(since), 0x0A); };
@@ -146,7 +146,7 @@ TEST(Times, MomentsOfTheClockAreTheNearestUnit)
         EXPECT_EQ(momentOf<milliseconds>(*at(milliseconds(i))).time_since_epoch().count(), i);
 }
 
-TEST(Times, BinaryTimesOnTheWire)
+TEST(Times, binaryTimesOnTheWire)
 {
     EXPECT_EQ(binaryWire("1984-01-01T00:00:00.001Z"), "8c06000000010000");
     EXPECT_EQ(binaryWire("2021-03-04T05:06:07.123Z"), "8c06011842933509");
@@ -162,7 +162,7 @@ TEST(Times, BinaryTimesOnTheWire)
     EXPECT_EQ(binaryWire("2163-06-06T00:00:00Z"), "8c0600000000ffff");
 }
 
-TEST(Times, EveryBinaryTimeIsReadBack)
+TEST(Times, everyBinaryTimeIsReadBack)
 {
     std::mt19937 random(2);
     for (int i = 0; i < 20000; ++i) {
@@ -173,7 +173,7 @@ TEST(Times, EveryBinaryTimeIsReadBack)
     }
 }
 
-TEST(Times, HoursBeyondADayAreNotShown)
+TEST(Times, hoursBeyondADayAreNotShown)
 {
     EXPECT_TRUE(isTimeOfDay({86399999, 0}));
     EXPECT_FALSE(isTimeOfDay({86400000, 0}));
@@ -181,7 +181,7 @@ TEST(Times, HoursBeyondADayAreNotShown)
     EXPECT_EQ(toText(BinaryTime{4294967295U, {}}), "without a time of day (4294967295 ms)");
 }
 
-TEST(Times, ATimeOfOneOctetMoreOrLessIsRefused)
+TEST(Times, aTimeOfOneOctetMoreOrLessIsRefused)
 {
     for (const char *hex : {"910760406abf800000", "910960406abf8000000a00", "8c03011842",
                             "8c050118429335", "8c0701184293350900", "9100", "8c00"})

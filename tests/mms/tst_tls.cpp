@@ -207,17 +207,17 @@ bool contains(const std::string &text, const std::string &part)
 
 } // namespace
 
-TEST_F(Tls, BothEndsProveWhoTheyAreWithVersion12)
+TEST_F(Tls, bothEndsProveWhoTheyAreWithVersion12)
 {
     expectMutualProof(osi::TlsVersion::Tls12, "TLSv1.2");
 }
 
-TEST_F(Tls, BothEndsProveWhoTheyAreWithVersion13)
+TEST_F(Tls, bothEndsProveWhoTheyAreWithVersion13)
 {
     expectMutualProof(osi::TlsVersion::Tls13, "TLSv1.3");
 }
 
-TEST_F(Tls, LongAnswersAndManyCallsPassThroughTls)
+TEST_F(Tls, longAnswersAndManyCallsPassThroughTls)
 {
     ServerOptions server;
     server.association.maxPduSize = 200000;
@@ -241,7 +241,7 @@ TEST_F(Tls, LongAnswersAndManyCallsPassThroughTls)
     EXPECT_EQ(all.get(), calls);
 }
 
-TEST_F(Tls, AnIntermediateAuthorityIsFollowedToTheTrustedOne)
+TEST_F(Tls, anIntermediateAuthorityIsFollowedToTheTrustedOne)
 {
     const Identity intermediate = s_certificates->authority("Region", &s_authority);
     const Identity device = s_certificates->issue(intermediate, "Remote");
@@ -250,7 +250,7 @@ TEST_F(Tls, AnIntermediateAuthorityIsFollowedToTheTrustedOne)
     EXPECT_TRUE(opened.ok()) << opened.error().message;
 }
 
-TEST_F(Tls, AnUnknownIssuerIsRefusedAndNamed)
+TEST_F(Tls, anUnknownIssuerIsRefusedAndNamed)
 {
     const Identity stranger = s_certificates->authority("Stranger");
     osi::TlsOptions server =
@@ -262,7 +262,7 @@ TEST_F(Tls, AnUnknownIssuerIsRefusedAndNamed)
     EXPECT_TRUE(contains(theirs, "does not trust its issuer")) << theirs;
 }
 
-TEST_F(Tls, AClientOfAnUnknownIssuerIsRefusedAndToldSoInBothVersions)
+TEST_F(Tls, aClientOfAnUnknownIssuerIsRefusedAndToldSoInBothVersions)
 {
     const Identity stranger = s_certificates->authority("Stranger");
     osi::TlsOptions tls =
@@ -278,7 +278,7 @@ TEST_F(Tls, AClientOfAnUnknownIssuerIsRefusedAndToldSoInBothVersions)
     }
 }
 
-TEST_F(Tls, ARevokedCertificateIsRefused)
+TEST_F(Tls, aRevokedCertificateIsRefused)
 {
     osi::TlsOptions tls = operatorOptions();
     tls.revocationFiles = {s_certificates->revocationList(s_authority, {s_device})};
@@ -287,7 +287,7 @@ TEST_F(Tls, ARevokedCertificateIsRefused)
     EXPECT_TRUE(contains(theirs, "because it has been revoked")) << theirs;
 }
 
-TEST_F(Tls, ACertificateThatIsNotInTheRevocationListIsAccepted)
+TEST_F(Tls, aCertificateThatIsNotInTheRevocationListIsAccepted)
 {
     osi::TlsOptions tls = operatorOptions();
     tls.revocationFiles = {s_certificates->revocationList(s_authority, {s_operator})};
@@ -295,7 +295,7 @@ TEST_F(Tls, ACertificateThatIsNotInTheRevocationListIsAccepted)
     EXPECT_TRUE(opened.ok()) << opened.error().message;
 }
 
-TEST_F(Tls, ARevocationListThatIsMissingOrOutOfDateIsSaid)
+TEST_F(Tls, aRevocationListThatIsMissingOrOutOfDateIsSaid)
 {
     const Identity other = s_certificates->authority("Other");
     osi::TlsOptions tls = operatorOptions();
@@ -308,7 +308,7 @@ TEST_F(Tls, ARevocationListThatIsMissingOrOutOfDateIsSaid)
                          "the revocation list of its issuer \"CN=Authority\" is out of date"));
 }
 
-TEST_F(Tls, ARevocationListThatIsLoadedAgainCountsFromThenOn)
+TEST_F(Tls, aRevocationListThatIsLoadedAgainCountsFromThenOn)
 {
     osi::TlsOptions server = deviceOptions();
     const std::string list = s_certificates->revocationList(s_authority, {});
@@ -326,7 +326,7 @@ TEST_F(Tls, ARevocationListThatIsLoadedAgainCountsFromThenOn)
     EXPECT_FALSE(m_server->reloadTls().ok());
 }
 
-TEST_F(Tls, AnExpiredCertificateIsRefusedAndNamed)
+TEST_F(Tls, anExpiredCertificateIsRefusedAndNamed)
 {
     for (const auto &[validity, text] :
          {std::pair{inThePast, "The peer's certificate \"CN=Old\" expired on 20"},
@@ -345,14 +345,14 @@ TEST_F(Tls, AnExpiredCertificateIsRefusedAndNamed)
     }
 }
 
-TEST_F(Tls, AClientWithoutACertificateIsRefused)
+TEST_F(Tls, aClientWithoutACertificateIsRefused)
 {
     CarelessTlsPeer peer(nullptr);
     peer.connect(startSecure(deviceOptions()));
     EXPECT_EQ(m_tlsDevice->refusal(), "The peer has shown no certificate.");
 }
 
-TEST_F(Tls, OnlyAPinnedPeerIsAccepted)
+TEST_F(Tls, onlyAPinnedPeerIsAccepted)
 {
     const auto mark = osi::certificateFingerprint(s_device.certificateFile);
     const auto otherMark = osi::certificateFingerprint(s_operator.certificateFile);
@@ -375,7 +375,7 @@ TEST_F(Tls, OnlyAPinnedPeerIsAccepted)
     EXPECT_TRUE(opened.ok()) << opened.error().message;
 }
 
-TEST_F(Tls, APinnedCertificateNeedsNoAuthorityAndAnotherIsRefused)
+TEST_F(Tls, aPinnedCertificateNeedsNoAuthorityAndAnotherIsRefused)
 {
     const Identity alone = s_certificates->authority("Alone");
     const Identity device = s_certificates->issue(alone, "Device");
@@ -391,7 +391,7 @@ TEST_F(Tls, APinnedCertificateNeedsNoAuthorityAndAnotherIsRefused)
     EXPECT_TRUE(contains(refusals(deviceOptions(), tls).first, "is not one of those"));
 }
 
-TEST_F(Tls, TheNameOfTheServerIsCheckedWhereOneIsAskedFor)
+TEST_F(Tls, theNameOfTheServerIsCheckedWhereOneIsAskedFor)
 {
     const Identity named =
         s_certificates->issue(s_authority, "Named", {}, "DNS:bay1.example,IP:127.0.0.1");
@@ -412,7 +412,7 @@ TEST_F(Tls, TheNameOfTheServerIsCheckedWhereOneIsAskedFor)
     }
 }
 
-TEST_F(Tls, TheCertificateOfAnotherHostIsRefusedUnlessToldOtherwise)
+TEST_F(Tls, theCertificateOfAnotherHostIsRefusedUnlessToldOtherwise)
 {
     const Identity other = s_certificates->issue(s_authority, "Other", {}, "DNS:bay9.example");
     const osi::TlsOptions server = TestCertificates::options(other, s_authority);
@@ -434,7 +434,7 @@ TEST_F(Tls, TheCertificateOfAnotherHostIsRefusedUnlessToldOtherwise)
     EXPECT_TRUE(pinned.ok()) << pinned.error().message;
 }
 
-TEST_F(Tls, EndsWithoutACommonVersionSaySo)
+TEST_F(Tls, endsWithoutACommonVersionSaySo)
 {
     osi::TlsOptions server = deviceOptions();
     server.minimumVersion = osi::TlsVersion::Tls13;
@@ -445,7 +445,7 @@ TEST_F(Tls, EndsWithoutACommonVersionSaySo)
     EXPECT_EQ(theirs, "The peer and this side have no version of TLS in common.");
 }
 
-TEST_F(Tls, APlainClientIsRefusedByASecureServerAndBothSaySo)
+TEST_F(Tls, aPlainClientIsRefusedByASecureServerAndBothSaySo)
 {
     const std::uint16_t port = startSecure(deviceOptions());
     const auto opened = connect(port, quickOptions());
@@ -454,7 +454,7 @@ TEST_F(Tls, APlainClientIsRefusedByASecureServerAndBothSaySo)
     EXPECT_EQ(m_tlsDevice->refusal(), "The peer does not speak TLS, which is required here.");
 }
 
-TEST_F(Tls, ASecureClientIsRefusedByAPlainServerAndBothSaySo)
+TEST_F(Tls, aSecureClientIsRefusedByAPlainServerAndBothSaySo)
 {
     const auto opened = connectSecure(startServer(), operatorOptions());
     ASSERT_FALSE(opened.ok());
@@ -463,7 +463,7 @@ TEST_F(Tls, ASecureClientIsRefusedByAPlainServerAndBothSaySo)
     EXPECT_EQ(m_tlsDevice->refusal(), "The peer speaks TLS, which is not configured here.");
 }
 
-TEST_F(Tls, APeerThatAnswersWithSomethingElseDoesNotSpeakTls)
+TEST_F(Tls, aPeerThatAnswersWithSomethingElseDoesNotSpeakTls)
 {
     RawPeer peer;
     AssociationOptions options = quickOptions();
@@ -480,7 +480,7 @@ TEST_F(Tls, APeerThatAnswersWithSomethingElseDoesNotSpeakTls)
     EXPECT_EQ(result.error().message, "The peer does not speak TLS.");
 }
 
-TEST_F(Tls, APeerThatIsSlowWithItsHandshakeIsCutOff)
+TEST_F(Tls, aPeerThatIsSlowWithItsHandshakeIsCutOff)
 {
     ServerOptions server;
     server.association.link.tls = deviceOptions();
@@ -504,7 +504,7 @@ TEST_F(Tls, APeerThatIsSlowWithItsHandshakeIsCutOff)
     EXPECT_EQ(opened.error().message, "The peer did not complete the TLS handshake in time.");
 }
 
-TEST_F(Tls, FilesThatAreMissingOrHoldSomethingElseAreNamed)
+TEST_F(Tls, filesThatAreMissingOrHoldSomethingElseAreNamed)
 {
     osi::TlsOptions tls = operatorOptions();
     tls.certificateFile = "/nowhere/own.pem";
@@ -537,7 +537,7 @@ TEST_F(Tls, FilesThatAreMissingOrHoldSomethingElseAreNamed)
     expectInvalid(tls, "holds no certificate in PEM");
 }
 
-TEST_F(Tls, OptionsThatDoNotFitEachOtherAreSaid)
+TEST_F(Tls, optionsThatDoNotFitEachOtherAreSaid)
 {
     osi::TlsOptions tls = operatorOptions();
     tls.keyFile = s_device.keyFile;
@@ -558,7 +558,7 @@ TEST_F(Tls, OptionsThatDoNotFitEachOtherAreSaid)
     EXPECT_TRUE(osi::validate(operatorOptions()).ok());
 }
 
-TEST_F(Tls, AnEncryptedKeyNeedsItsPassword)
+TEST_F(Tls, anEncryptedKeyNeedsItsPassword)
 {
     osi::TlsOptions tls = operatorOptions();
     tls.keyFile = s_certificates->encryptedKey(s_operator, "open sesame");
@@ -569,7 +569,7 @@ TEST_F(Tls, AnEncryptedKeyNeedsItsPassword)
     EXPECT_TRUE(osi::validate(tls).ok());
 }
 
-TEST_F(Tls, BadOptionsEndTheAttemptBeforeAnythingIsSent)
+TEST_F(Tls, badOptionsEndTheAttemptBeforeAnythingIsSent)
 {
     osi::TlsOptions tls = operatorOptions();
     tls.certificateFile = "/nowhere/own.pem";
