@@ -26,7 +26,7 @@ class tst_BrowserWindow : public QObject
 private slots:
     void initTestCase();
     void metaObjectListsTheSlotsInTheirOrder();
-    void windowIsLaidOutAsItsFormSays();
+    void theWindowBearsTheNamesAndTextsThatHostsKnow();
     void treeIsSetUpForBrowsing();
     void constructionAsksTheConsoleForTheDevice();
     void initFetchesTheModelOfTheDevice();
@@ -97,7 +97,7 @@ void tst_BrowserWindow::metaObjectListsTheSlotsInTheirOrder()
     QCOMPARE(slotNames, expected);
 }
 
-void tst_BrowserWindow::windowIsLaidOutAsItsFormSays()
+void tst_BrowserWindow::theWindowBearsTheNamesAndTextsThatHostsKnow()
 {
     BrowserFixture fixture;
     const auto view = fixture.open();

@@ -135,7 +135,7 @@ class tst_ControlCo : public QObject
     Q_OBJECT
 
 private slots:
-    void theFormHasItsTexts();
+    void theFormBearsTheNamesAndTextsThatHostsKnow();
     void theObjectIsNamedByItsLogicalNode();
     void ofSeveralEntriesOfOneCodeTheLastIsCurrent();
     void aNodeThatIsNoDataObjectLeavesTheValuesEmpty();
@@ -198,7 +198,7 @@ std::unique_ptr<ControlCo> tst_ControlCo::dialogFor(const ControllableObject &ob
     return dialog;
 }
 
-void tst_ControlCo::theFormHasItsTexts()
+void tst_ControlCo::theFormBearsTheNamesAndTextsThatHostsKnow()
 {
     const ControllableObject object;
     const ControlCo dialog(object.node, &m_templates, {}, {}, false, nullptr);

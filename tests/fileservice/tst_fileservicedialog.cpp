@@ -164,7 +164,7 @@ private slots:
     void cleanup();
 
     void slotsAreThoseThatHostsKnow();
-    void dialogIsLaidOutAsItsFormSays();
+    void theDialogBearsTheNamesAndTextsThatHostsKnow();
     void longTranslationsAreShownWhole();
     void constructionAsksTheConsoleAndListsTheRoot();
     void failedFirstListingIsToldBeforeTheDialogIsShown();
@@ -369,7 +369,7 @@ void tst_FileServiceDialog::slotsAreThoseThatHostsKnow()
     QCOMPARE(signatures, expected);
 }
 
-void tst_FileServiceDialog::dialogIsLaidOutAsItsFormSays()
+void tst_FileServiceDialog::theDialogBearsTheNamesAndTextsThatHostsKnow()
 {
     open();
     QCOMPARE(m_dialog->objectName(), "FileServiceDialog");

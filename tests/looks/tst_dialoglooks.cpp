@@ -34,18 +34,18 @@ private slots:
     void cleanup();
 
     void theScreenHasTheScaleOfThisRun();
-    void browser();
-    void browserWithItsFindLine();
-    void controlByList();
-    void controlByNumber();
-    void dataSetMembers();
-    void fileService();
-    void reportControlThatIsEnabled();
-    void reportControlThatIsDisabled();
-    void reportControlOfAnOfflineDevice();
-    void settingGroups();
-    void settingGroupsOfAnOfflineDevice();
-    void functionalConstraint();
+    void theBrowserIsShownWhole();
+    void theBrowserWithItsFindLineIsShownWhole();
+    void aControlByListIsShownWhole();
+    void aControlByNumberIsShownWhole();
+    void thePickerOfMembersIsShownWhole();
+    void theFileServiceIsShownWhole();
+    void anEnabledReportBlockIsShownWhole();
+    void aDisabledReportBlockIsShownWhole();
+    void anOfflineReportBlockIsShownWhole();
+    void theSettingGroupsAreShownWhole();
+    void offlineSettingGroupsAreShownWhole();
+    void thePickerOfAConstraintIsShownWhole();
 
 private:
     void expectNoFlaws(QWidget &window);
@@ -129,14 +129,14 @@ void tst_DialogLooks::theScreenHasTheScaleOfThisRun()
     QCOMPARE(m_fixture.mainWindow.devicePixelRatioF(), factor.toDouble());
 }
 
-void tst_DialogLooks::browser()
+void tst_DialogLooks::theBrowserIsShownWhole()
 {
     const auto window = m_fixture.open();
     BrowserFixture::tree(*window)->expandAll();
     expectNoFlaws(*window);
 }
 
-void tst_DialogLooks::browserWithItsFindLine()
+void tst_DialogLooks::theBrowserWithItsFindLineIsShownWhole()
 {
     const auto window = m_fixture.open();
     window->show();
@@ -171,17 +171,17 @@ void tst_DialogLooks::showControl(const char *basicType, const QVariant &value)
     *command = wasCommand;
 }
 
-void tst_DialogLooks::controlByList()
+void tst_DialogLooks::aControlByListIsShownWhole()
 {
     showControl("Dbpos", 2);
 }
 
-void tst_DialogLooks::controlByNumber()
+void tst_DialogLooks::aControlByNumberIsShownWhole()
 {
     showControl("INT32", -2147483647);
 }
 
-void tst_DialogLooks::dataSetMembers()
+void tst_DialogLooks::thePickerOfMembersIsShownWhole()
 {
     DatasetSelectWidget dialog(nullptr);
     dialog.setDevice(m_fixture.device.get());
@@ -189,7 +189,7 @@ void tst_DialogLooks::dataSetMembers()
     expectNoFlaws(dialog);
 }
 
-void tst_DialogLooks::fileService()
+void tst_DialogLooks::theFileServiceIsShownWhole()
 {
     MMSFileEntry file;
     file.name = "FRA00017.cfg";
@@ -219,17 +219,17 @@ void tst_DialogLooks::showReportControl(bool enabled)
     expectNoFlaws(dialog);
 }
 
-void tst_DialogLooks::reportControlThatIsEnabled()
+void tst_DialogLooks::anEnabledReportBlockIsShownWhole()
 {
     showReportControl(true);
 }
 
-void tst_DialogLooks::reportControlThatIsDisabled()
+void tst_DialogLooks::aDisabledReportBlockIsShownWhole()
 {
     showReportControl(false);
 }
 
-void tst_DialogLooks::reportControlOfAnOfflineDevice()
+void tst_DialogLooks::anOfflineReportBlockIsShownWhole()
 {
     stReportControlBlock block;
     block.name = "brcbPositions01";
@@ -240,7 +240,7 @@ void tst_DialogLooks::reportControlOfAnOfflineDevice()
     expectNoFlaws(dialog);
 }
 
-void tst_DialogLooks::settingGroups()
+void tst_DialogLooks::theSettingGroupsAreShownWhole()
 {
     SGCB &block = m_fixture.service->settingGroupBlock;
     block.name = "SGCB";
@@ -254,14 +254,14 @@ void tst_DialogLooks::settingGroups()
     expectNoFlaws(dialog);
 }
 
-void tst_DialogLooks::settingGroupsOfAnOfflineDevice()
+void tst_DialogLooks::offlineSettingGroupsAreShownWhole()
 {
     OfflineSGCB dialog(nullptr);
     dialog.setValues(12, 10);
     expectNoFlaws(dialog);
 }
 
-void tst_DialogLooks::functionalConstraint()
+void tst_DialogLooks::thePickerOfAConstraintIsShownWhole()
 {
     SelectFCDialog dialog(nullptr);
     dialog.setFCList({"MX", "ST", "CF"});

@@ -155,9 +155,9 @@ private slots:
     void init();
     void cleanup();
 
-    void theFormHasItsTexts_data();
-    void theFormHasItsTexts();
-    void theFormHasItsLimits();
+    void theFormBearsTheTextsThatHostsKnow_data();
+    void theFormBearsTheTextsThatHostsKnow();
+    void theFormBearsItsTitlesAndLimitsItsNumbers();
     void theTitleBarHasNoHelpButton();
     void theMethodsAreInTheirOrder();
 
@@ -258,7 +258,7 @@ QList<Call> tst_ReportControl::callsOfPressing(ReportControl &dialog, const char
     return m_service->calls();
 }
 
-void tst_ReportControl::theFormHasItsTexts_data()
+void tst_ReportControl::theFormBearsTheTextsThatHostsKnow_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("text");
@@ -308,7 +308,7 @@ void tst_ReportControl::theFormHasItsTexts_data()
         QTest::newRow(name) << QString::fromLatin1(name) << QString::fromLatin1(text);
 }
 
-void tst_ReportControl::theFormHasItsTexts()
+void tst_ReportControl::theFormBearsTheTextsThatHostsKnow()
 {
     QFETCH(QString, name);
     const ReportControl dialog(deviceNo, 0, m_controller.get(), nullptr);
@@ -317,7 +317,7 @@ void tst_ReportControl::theFormHasItsTexts()
     QTEST(textOf(widget), "text");
 }
 
-void tst_ReportControl::theFormHasItsLimits()
+void tst_ReportControl::theFormBearsItsTitlesAndLimitsItsNumbers()
 {
     const ReportControl dialog(deviceNo, 0, m_controller.get(), nullptr);
     QCOMPARE(dialog.objectName(), QStringLiteral("ReportControl"));

@@ -186,7 +186,7 @@ class tst_SGCBDialog : public QObject
 private slots:
     void initTestCase() { qRegisterMetaType<QList<SGCBValue>>(); }
     void theWindowSaysWhatItIs();
-    void theSettingListIsConfigured();
+    void theSettingListIsReadableAndMarksWhatHasNoValue();
     void theSlotsStandInTheirOrder();
     void theTabKeyFollowsTheReadingOrder();
     void aReadableBlockIsReportedAsSuch();
@@ -245,7 +245,7 @@ void tst_SGCBDialog::theWindowSaysWhatItIs()
     QVERIFY(!desk.edCombo()->accessibleName().isEmpty());
 }
 
-void tst_SGCBDialog::theSettingListIsConfigured()
+void tst_SGCBDialog::theSettingListIsReadableAndMarksWhatHasNoValue()
 {
     const Desk desk;
     QVERIFY(desk.browser()->isHeaderVisible());
