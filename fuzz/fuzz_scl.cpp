@@ -35,7 +35,7 @@ void checkNode(const scl::LogicalNode &node, std::uint64_t limit)
     node.forEachDataObject([&walked](const scl::DataNode &object) { walk(object, walked); });
     require(walked.leaves == node.leafCount());
     require(walked.nodes <= limit);
-    for (const scl::ReportControl &report : node.reports) {
+    for (const scl::ReportControlBlock &report : node.reports) {
         require(!report.instanceNames.empty());
         require(!report.dataSet || report.dataSet->name == report.dataSetName);
     }

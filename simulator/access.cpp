@@ -16,7 +16,7 @@ WriteRules::WriteRules(std::initializer_list<Fc> writable)
         m_writable |= 1U << static_cast<unsigned>(fc);
 }
 
-std::optional<AccessResult> Object::read(Client &, const Part &)
+std::optional<AccessResult> Object::read(Peer &, const Part &)
 {
     return std::nullopt;
 }
@@ -33,7 +33,7 @@ void Access::attach(const Part &part, std::shared_ptr<Object> object)
     m_objects.insert_or_assign({part.logicalNode(), &part.node()}, std::move(object));
 }
 
-AccessResult Access::read(Client &client, const mms::VariableAccess &access)
+AccessResult Access::read(Peer &client, const mms::VariableAccess &access)
 {
     const auto *name = std::get_if<mms::ObjectName>(&access.variable);
     if (!name)
@@ -45,7 +45,7 @@ AccessResult Access::read(Client &client, const mms::VariableAccess &access)
     return select(client, part, access.parts);
 }
 
-AccessResult Access::read(Client &client, const Part &part)
+AccessResult Access::read(Peer &client, const Part &part)
 {
     if (m_objects.empty())
         return m_model.value(part);
@@ -59,7 +59,7 @@ AccessResult Access::read(Client &client, const Part &part)
     return m_model.value(part);
 }
 
-AccessResult Access::select(Client &client, const Part &part,
+AccessResult Access::select(Peer &client, const Part &part,
                             const std::vector<AlternateAccess> &parts)
 {
     if (parts.empty())
@@ -76,7 +76,7 @@ AccessResult Access::select(Client &client, const Part &part,
     return mms::Data::structure(std::move(members));
 }
 
-AccessResult Access::selectOne(Client &client, const Part &part, const AlternateAccess &selection)
+AccessResult Access::selectOne(Peer &client, const Part &part, const AlternateAccess &selection)
 {
     if (selection.kind == AlternateAccess::Kind::Component) {
         const Part component =
@@ -106,7 +106,7 @@ AccessResult Access::selectOne(Client &client, const Part &part, const Alternate
     return mms::Data::array(std::move(elements));
 }
 
-std::optional<DataAccessError> Access::write(Client &client, const mms::VariableAccess &access,
+std::optional<DataAccessError> Access::write(Peer &client, const mms::VariableAccess &access,
                                              const mms::Data &value)
 {
     const auto *name = std::get_if<mms::ObjectName>(&access.variable);
@@ -117,7 +117,7 @@ std::optional<DataAccessError> Access::write(Client &client, const mms::Variable
 }
 
 std::optional<DataAccessError>
-Access::writeElements(Client &client, const mms::VariableAccess &access, const mms::Data &value)
+Access::writeElements(Peer &client, const mms::VariableAccess &access, const mms::Data &value)
 {
     const Part array = m_model.find({access.variable, {}});
     if (!array.isValid() || !array.node().isArray() || access.parts.size() != 1)
@@ -145,8 +145,7 @@ Access::writeElements(Client &client, const mms::VariableAccess &access, const m
     return std::nullopt;
 }
 
-std::optional<DataAccessError> Access::write(Client &client, const Part &part,
-                                             const mms::Data &value)
+std::optional<DataAccessError> Access::write(Peer &client, const Part &part, const mms::Data &value)
 {
     if (Object *const object = around(part)) {
         const auto error = Model::check(part, value);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "simulator/client.h"
 #include "simulator/model.h"
+#include "simulator/peer.h"
 
 #include <cstdint>
 #include <initializer_list>
@@ -40,10 +40,10 @@ public:
     /// A client is about to read values of this object, perhaps among others.
     virtual void refresh() {}
     /// A client reads @p part, which is this object or inside it. None for the model's value.
-    virtual std::optional<mms::AccessResult> read(Client &client, const Part &part);
+    virtual std::optional<mms::AccessResult> read(Peer &client, const Part &part);
     /// A client writes @p part, which is this object or inside it. @p value is of the part's type;
     /// the object puts it into the model itself. None when it was written.
-    virtual std::optional<mms::DataAccessError> write(Client &client, const Part &part,
+    virtual std::optional<mms::DataAccessError> write(Peer &client, const Part &part,
                                                       const mms::Data &value) = 0;
 };
 
@@ -60,12 +60,12 @@ public:
     /// decides before it. Nothing stands there yet.
     void attach(const Part &part, std::shared_ptr<Object> object);
 
-    mms::AccessResult read(Client &client, const mms::VariableAccess &access);
-    mms::AccessResult read(Client &client, const Part &part);
+    mms::AccessResult read(Peer &client, const mms::VariableAccess &access);
+    mms::AccessResult read(Peer &client, const Part &part);
     /// None when it was written.
-    std::optional<mms::DataAccessError> write(Client &client, const mms::VariableAccess &access,
+    std::optional<mms::DataAccessError> write(Peer &client, const mms::VariableAccess &access,
                                               const mms::Data &value);
-    std::optional<mms::DataAccessError> write(Client &client, const Part &part,
+    std::optional<mms::DataAccessError> write(Peer &client, const Part &part,
                                               const mms::Data &value);
 
 private:
@@ -75,13 +75,13 @@ private:
     Object *around(const Part &part) const;
     bool hasObjectsWithin(const Part &part) const;
     void refreshWithin(const Part &part);
-    mms::AccessResult select(Client &client, const Part &part,
+    mms::AccessResult select(Peer &client, const Part &part,
                              const std::vector<mms::AlternateAccess> &parts);
-    mms::AccessResult selectOne(Client &client, const Part &part,
+    mms::AccessResult selectOne(Peer &client, const Part &part,
                                 const mms::AlternateAccess &selection);
     /// Some elements, or all elements, of an array.
     std::optional<mms::DataAccessError>
-    writeElements(Client &client, const mms::VariableAccess &access, const mms::Data &value);
+    writeElements(Peer &client, const mms::VariableAccess &access, const mms::Data &value);
 
     Model &m_model;
     WriteRules m_rules;

@@ -138,16 +138,16 @@ std::vector<std::pair<Fc, LayoutDraft>> controlBlocks(const scl::LogicalNode &lo
     std::vector<std::pair<Fc, LayoutDraft>> blocks;
     if (logicalNode.settingControl)
         blocks.emplace_back(Fc::SP, settingGroupBlock(firstEdition));
-    for (const scl::ReportControl &report : logicalNode.reports) {
+    for (const scl::ReportControlBlock &report : logicalNode.reports) {
         for (const std::string_view name : report.instanceNames)
             blocks.emplace_back(report.buffered ? Fc::BR : Fc::RP,
                                 reportBlock(name, report.buffered, firstEdition));
     }
-    for (const scl::LogControl &log : logicalNode.logControls)
+    for (const scl::LogControlBlock &log : logicalNode.logControls)
         blocks.emplace_back(Fc::LG, logBlock(log.name));
-    for (const scl::GooseControl &goose : logicalNode.gooseControls)
+    for (const scl::GooseControlBlock &goose : logicalNode.gooseControls)
         blocks.emplace_back(Fc::GO, gooseBlock(goose.name, firstEdition));
-    for (const scl::SampledValueControl &sampled : logicalNode.sampledValueControls)
+    for (const scl::SampledValueControlBlock &sampled : logicalNode.sampledValueControls)
         blocks.emplace_back(sampled.multicast ? Fc::MS : Fc::US,
                             sampledValueBlock(sampled.name, sampled.multicast, firstEdition));
     return blocks;

@@ -85,7 +85,7 @@ public:
 
     ControlMachine &machine() { return m_machine; }
 
-    std::optional<mms::AccessResult> read(Client &client, const Part &part) override
+    std::optional<mms::AccessResult> read(Peer &client, const Part &part) override
     {
         if (part == m_part || part.name() != "SBO")
             return std::nullopt;
@@ -95,7 +95,7 @@ public:
             mms::Data::visibleString(selected ? m_machine.reference() : std::string()));
     }
 
-    std::optional<mms::DataAccessError> write(Client &client, const Part &part,
+    std::optional<mms::DataAccessError> write(Peer &client, const Part &part,
                                               const mms::Data &value) override
     {
         for (const auto &[service, type] : m_types) {
@@ -114,7 +114,7 @@ public:
     }
 
 private:
-    std::optional<mms::DataAccessError> perform(Client &client, std::string_view service,
+    std::optional<mms::DataAccessError> perform(Peer &client, std::string_view service,
                                                 const ControlRequest &request,
                                                 const mms::Data &value)
     {
@@ -390,12 +390,12 @@ private:
             m_model.set(part.firstLeaf(), std::move(value));
     }
 
-    void send(Client &client, mms::InformationReport report) override
+    void send(Peer &client, mms::InformationReport report) override
     {
         client.report(std::move(report));
     }
 
-    void sendLater(Client &client, mms::InformationReport report) override
+    void sendLater(Peer &client, mms::InformationReport report) override
     {
         m_engine.sendLater(client, std::move(report));
     }
@@ -503,14 +503,14 @@ void ControlEngine::updateBehaviour(std::uint32_t domain)
     }
 }
 
-void ControlEngine::closed(Client &client)
+void ControlEngine::closed(Peer &client)
 {
     for (const auto &point : m_points)
         point->machine().closed(client);
     std::erase_if(m_later, [&](const auto &each) { return each.first == &client; });
 }
 
-void ControlEngine::sendLater(Client &client, mms::InformationReport report)
+void ControlEngine::sendLater(Peer &client, mms::InformationReport report)
 {
     m_later.emplace_back(&client, std::move(report));
     m_laterTimer->start(laterTime, [this] {

@@ -22,7 +22,7 @@ public:
     ControlEngine(const Host &host, const scl::Ied &ied);
     ~ControlEngine() override;
 
-    void closed(Client &client) override;
+    void closed(Peer &client) override;
 
 private:
     class Point;
@@ -30,7 +30,7 @@ private:
     void add(std::uint32_t domain, std::uint32_t node, const Part &part);
     void releaseInterlocks(const scl::LogicalDevice &device, const scl::LogicalNode &node);
     void updateBehaviour(std::uint32_t domain);
-    void sendLater(Client &client, mms::InformationReport report);
+    void sendLater(Peer &client, mms::InformationReport report);
     void startTimer();
     void wake();
 
@@ -38,7 +38,7 @@ private:
     std::vector<std::shared_ptr<Point>> m_points;
     std::unique_ptr<Timer> m_timer;
     /// What is sent after the answers to requests, and its timer.
-    std::vector<std::pair<Client *, mms::InformationReport>> m_later;
+    std::vector<std::pair<Peer *, mms::InformationReport>> m_later;
     std::unique_ptr<Timer> m_laterTimer;
 };
 

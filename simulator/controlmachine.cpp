@@ -92,7 +92,7 @@ ControlMachine::ControlMachine(std::string reference, ControlHost &host, const C
 {
 }
 
-bool ControlMachine::select(Client &client)
+bool ControlMachine::select(Peer &client)
 {
     const ControlSettings settings = m_host.settings();
     if (settings.model != ControlModel::SelectNormal || isBusy())
@@ -104,7 +104,7 @@ bool ControlMachine::select(Client &client)
     return true;
 }
 
-void ControlMachine::select(Client &client, const ControlSettings &settings)
+void ControlMachine::select(Peer &client, const ControlSettings &settings)
 {
     m_client = &client;
     m_sboTimeout = settings.sboTimeout;
@@ -121,8 +121,7 @@ void ControlMachine::setSelected(bool selected)
     m_host.selected(selected);
 }
 
-ControlMachine::Answer ControlMachine::selectWithValue(Client &client,
-                                                       const ControlRequest &request)
+ControlMachine::Answer ControlMachine::selectWithValue(Peer &client, const ControlRequest &request)
 {
     const ControlSettings settings = m_host.settings();
     AddCause cause = AddCause::None;
@@ -143,7 +142,7 @@ ControlMachine::Answer ControlMachine::selectWithValue(Client &client,
     return std::nullopt;
 }
 
-AddCause ControlMachine::mayOperate(const Client &client, const ControlRequest &request,
+AddCause ControlMachine::mayOperate(const Peer &client, const ControlRequest &request,
                                     const ControlSettings &settings) const
 {
     if (settings.model == ControlModel::StatusOnly)
@@ -166,7 +165,7 @@ AddCause ControlMachine::mayOperate(const Client &client, const ControlRequest &
     return m_host.check(request);
 }
 
-ControlMachine::Answer ControlMachine::operate(Client &client, const ControlRequest &request,
+ControlMachine::Answer ControlMachine::operate(Peer &client, const ControlRequest &request,
                                                const mms::Data &value)
 {
     const ControlSettings settings = m_host.settings();
@@ -201,7 +200,7 @@ void ControlMachine::start()
     m_host.started(m_request);
 }
 
-AddCause ControlMachine::mayCancel(const Client &client, const ControlRequest &request,
+AddCause ControlMachine::mayCancel(const Peer &client, const ControlRequest &request,
                                    const ControlSettings &settings) const
 {
     if (m_state == State::Idle)
@@ -218,7 +217,7 @@ AddCause ControlMachine::mayCancel(const Client &client, const ControlRequest &r
     return AddCause::None;
 }
 
-ControlMachine::Answer ControlMachine::cancel(Client &client, const ControlRequest &request)
+ControlMachine::Answer ControlMachine::cancel(Peer &client, const ControlRequest &request)
 {
     const AddCause cause = mayCancel(client, request, m_host.settings());
     if (cause != AddCause::None)
@@ -235,7 +234,7 @@ ControlMachine::Answer ControlMachine::cancel(Client &client, const ControlReque
     return std::nullopt;
 }
 
-void ControlMachine::closed(const Client &client)
+void ControlMachine::closed(const Peer &client)
 {
     if (m_client != &client)
         return;
@@ -339,7 +338,7 @@ acsi::LastApplError ControlMachine::lastApplError(std::string_view service,
     return error;
 }
 
-ControlMachine::Answer ControlMachine::refuse(Client &client, std::string_view service,
+ControlMachine::Answer ControlMachine::refuse(Peer &client, std::string_view service,
                                               const ControlRequest &request, AddCause cause)
 {
     auto report = acsi::toReport(lastApplError(service, request, cause));

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "simulator/client.h"
 #include "simulator/clock.h"
+#include "simulator/peer.h"
 
 #include "acsi/control.h"
 
@@ -89,9 +89,9 @@ public:
     virtual void finished(const acsi::ControlRequest &request) = 0;
     /// The operation ended before it was finished.
     virtual void stopped(const acsi::ControlRequest &request, AddCause cause) = 0;
-    virtual void send(Client &client, mms::InformationReport report) = 0;
+    virtual void send(Peer &client, mms::InformationReport report) = 0;
     /// After the answer to the request that is being served.
-    virtual void sendLater(Client &client, mms::InformationReport report) = 0;
+    virtual void sendLater(Peer &client, mms::InformationReport report) = 0;
 };
 
 /// The state machine of one controllable object for all control models (IEC 61850-7-2, 20). It is
@@ -108,14 +108,14 @@ public:
     const std::string &reference() const { return m_reference; }
 
     /// Select as a read: whether the client has the object now.
-    bool select(Client &client);
+    bool select(Peer &client);
     /// Select as a write. Here and below @p value is what @p request was read from.
-    Answer selectWithValue(Client &client, const acsi::ControlRequest &request);
-    Answer operate(Client &client, const acsi::ControlRequest &request, const mms::Data &value);
-    Answer cancel(Client &client, const acsi::ControlRequest &request);
+    Answer selectWithValue(Peer &client, const acsi::ControlRequest &request);
+    Answer operate(Peer &client, const acsi::ControlRequest &request, const mms::Data &value);
+    Answer cancel(Peer &client, const acsi::ControlRequest &request);
     /// The client has left. An operation goes on; a selection, and an operation that is still to
     /// come, do not.
-    void closed(const Client &client);
+    void closed(const Peer &client);
 
     bool isSelected() const { return m_selected; }
     bool isOperating() const { return m_state == State::Operating; }
@@ -128,15 +128,15 @@ public:
 private:
     enum class State : std::uint8_t { Idle, Selected, Waiting, Operating };
 
-    AddCause mayCancel(const Client &client, const acsi::ControlRequest &request,
+    AddCause mayCancel(const Peer &client, const acsi::ControlRequest &request,
                        const ControlSettings &settings) const;
-    AddCause mayOperate(const Client &client, const acsi::ControlRequest &request,
+    AddCause mayOperate(const Peer &client, const acsi::ControlRequest &request,
                         const ControlSettings &settings) const;
-    Answer refuse(Client &client, std::string_view service, const acsi::ControlRequest &request,
+    Answer refuse(Peer &client, std::string_view service, const acsi::ControlRequest &request,
                   AddCause cause);
     acsi::LastApplError lastApplError(std::string_view service, const acsi::ControlRequest &request,
                                       AddCause cause) const;
-    void select(Client &client, const ControlSettings &settings);
+    void select(Peer &client, const ControlSettings &settings);
     void setSelected(bool selected);
     void deselect();
     void start();
@@ -149,7 +149,7 @@ private:
 
     State m_state = State::Idle;
     /// Who selected or operates; null once it has left.
-    Client *m_client = nullptr;
+    Peer *m_client = nullptr;
     std::optional<acsi::ControlRequest> m_selection; ///< of a select with value
     acsi::ControlRequest m_request;
     mms::Data m_value;

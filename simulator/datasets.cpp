@@ -46,7 +46,7 @@ DataSets::DataSets(const Model &model, const scl::Ied &ied, DataSetLimits limits
                 auto dataSet = std::make_shared<DataSet>();
                 const std::string name = std::string(node.name) + "$" + std::string(described.name);
                 dataSet->name = mms::ObjectName::inDomain(device.name, name);
-                for (const scl::DataSetMember &member : described.members) {
+                for (const scl::Fcda &member : described.members) {
                     const auto parsed = acsi::parseReference(member.reference);
                     if (!parsed)
                         continue;
@@ -61,7 +61,7 @@ DataSets::DataSets(const Model &model, const scl::Ied &ied, DataSetLimits limits
     });
 }
 
-std::shared_ptr<DataSet> DataSets::find(const Client *client, const mms::ObjectName &name) const
+std::shared_ptr<DataSet> DataSets::find(const Peer *client, const mms::ObjectName &name) const
 {
     const Names *names = nullptr;
     if (name.scope == Scope::Domain) {
@@ -77,7 +77,7 @@ std::shared_ptr<DataSet> DataSets::find(const Client *client, const mms::ObjectN
     return found == names->end() ? nullptr : found->second;
 }
 
-std::shared_ptr<DataSet> DataSets::find(const Client *client, std::string_view reference) const
+std::shared_ptr<DataSet> DataSets::find(const Peer *client, std::string_view reference) const
 {
     if (reference.starts_with('@'))
         return find(client, mms::ObjectName::ofAssociation(reference.substr(1)));
@@ -94,7 +94,7 @@ std::string DataSets::reference(const DataSet &dataSet)
                                                     : dataSet.name.domain + "/" + dataSet.name.item;
 }
 
-DataSets::Names *DataSets::namesOf(const Client &client, const mms::ObjectName &name)
+DataSets::Names *DataSets::namesOf(const Peer &client, const mms::ObjectName &name)
 {
     if (name.scope == Scope::Association)
         return &m_clients[&client];
@@ -102,7 +102,7 @@ DataSets::Names *DataSets::namesOf(const Client &client, const mms::ObjectName &
     return name.scope == Scope::Domain && domain != m_domains.end() ? &domain->second : nullptr;
 }
 
-std::optional<ServiceError> DataSets::define(Client &client,
+std::optional<ServiceError> DataSets::define(Peer &client,
                                              const mms::DefineNamedVariableListRequest &request)
 {
     if (request.name.scope == Scope::Vmd)
@@ -134,7 +134,7 @@ std::optional<ServiceError> DataSets::define(Client &client,
 }
 
 std::variant<mms::DeleteNamedVariableListResponse, ServiceError>
-DataSets::remove(Client &client, const mms::DeleteNamedVariableListRequest &request)
+DataSets::remove(Peer &client, const mms::DeleteNamedVariableListRequest &request)
 {
     constexpr std::int32_t named = 0;
     constexpr std::int32_t ofAssociation = 1;
@@ -172,7 +172,7 @@ DataSets::remove(Client &client, const mms::DeleteNamedVariableListRequest &requ
     return response;
 }
 
-const DataSets::Names *DataSets::names(const Client &client, Scope scope,
+const DataSets::Names *DataSets::names(const Peer &client, Scope scope,
                                        std::string_view domain) const
 {
     if (scope == Scope::Vmd)
@@ -185,7 +185,7 @@ const DataSets::Names *DataSets::names(const Client &client, Scope scope,
     return found == m_domains.end() ? nullptr : &found->second;
 }
 
-void DataSets::forget(const Client &client)
+void DataSets::forget(const Peer &client)
 {
     m_clients.erase(&client);
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "simulator/client.h"
 #include "simulator/model.h"
+#include "simulator/peer.h"
 
 #include "mms/serviceerror.h"
 
@@ -53,28 +53,28 @@ public:
 
     /// @p client decides whose data sets the scope of the association means; may be null for
     /// others.
-    std::shared_ptr<DataSet> find(const Client *client, const mms::ObjectName &name) const;
+    std::shared_ptr<DataSet> find(const Peer *client, const mms::ObjectName &name) const;
     /// By a reference as in a control block: "LD/LN$name", or "@name" for @p client's own.
-    std::shared_ptr<DataSet> find(const Client *client, std::string_view reference) const;
+    std::shared_ptr<DataSet> find(const Peer *client, std::string_view reference) const;
     /// The reference of a data set, as find() takes it.
     static std::string reference(const DataSet &dataSet);
 
-    std::optional<mms::ServiceError> define(Client &client,
+    std::optional<mms::ServiceError> define(Peer &client,
                                             const mms::DefineNamedVariableListRequest &request);
     std::variant<mms::DeleteNamedVariableListResponse, mms::ServiceError>
-    remove(Client &client, const mms::DeleteNamedVariableListRequest &request);
+    remove(Peer &client, const mms::DeleteNamedVariableListRequest &request);
     /// Null for a domain that does not exist.
-    const Names *names(const Client &client, mms::Scope scope, std::string_view domain) const;
+    const Names *names(const Peer &client, mms::Scope scope, std::string_view domain) const;
     /// @p client has left; its own data sets go with it.
-    void forget(const Client &client);
+    void forget(const Peer &client);
 
 private:
-    Names *namesOf(const Client &client, const mms::ObjectName &name);
+    Names *namesOf(const Peer &client, const mms::ObjectName &name);
 
     const Model &m_model;
     DataSetLimits m_limits;
     std::map<std::string, Names, std::less<>> m_domains;
-    std::map<const Client *, Names> m_clients;
+    std::map<const Peer *, Names> m_clients;
     Names m_none;
 };
 

@@ -40,7 +40,7 @@ void setWhereEmpty(std::string &text, std::string_view otherwise)
 class FileCall
 {
 public:
-    FileCall(FileService &files, Client &client, FileService::Answer answer)
+    FileCall(FileService &files, Peer &client, FileService::Answer answer)
         : m_files(files)
         , m_client(client)
         , m_answer(std::move(answer))
@@ -83,7 +83,7 @@ public:
 
 private:
     template <typename Request>
-    bool call(void (FileService::*service)(Client &, const Request &, FileService::Answer),
+    bool call(void (FileService::*service)(Peer &, const Request &, FileService::Answer),
               const Request &request)
     {
         (m_files.*service)(m_client, request, std::move(m_answer));
@@ -91,13 +91,13 @@ private:
     }
 
     FileService &m_files;
-    Client &m_client;
+    Peer &m_client;
     FileService::Answer m_answer;
 };
 
 } // namespace
 
-class Device::AssociationClient : public Client
+class Device::AssociationClient : public Peer
 {
 public:
     explicit AssociationClient(std::shared_ptr<mms::Association> association)

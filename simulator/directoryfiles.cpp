@@ -96,7 +96,7 @@ std::size_t blockSize(std::size_t pduSize)
 class DirectoryFiles::Upload : public std::enable_shared_from_this<Upload>
 {
 public:
-    Upload(DirectoryFiles &service, Client &client, Place place, fs::path temporary, Answer answer)
+    Upload(DirectoryFiles &service, Peer &client, Place place, fs::path temporary, Answer answer)
         : m_service(&service)
         , m_client(&client)
         , m_place(std::move(place))
@@ -107,7 +107,7 @@ public:
 
     ~Upload() { discard(); }
 
-    const Client *client() const { return m_client; }
+    const Peer *client() const { return m_client; }
     const fs::path &path() const { return m_place.path; }
 
     void start(const mms::FileName &source)
@@ -220,7 +220,7 @@ private:
     }
 
     DirectoryFiles *m_service;
-    Client *m_client;
+    Peer *m_client;
     Place m_place;
     fs::path m_temporary;
     Answer m_answer;
@@ -311,7 +311,7 @@ bool DirectoryFiles::isBusy(const fs::path &path) const
                                [&path](const auto &upload) { return upload->path() == path; });
 }
 
-std::size_t DirectoryFiles::openFilesOf(const Client &client) const
+std::size_t DirectoryFiles::openFilesOf(const Peer &client) const
 {
     const auto open = std::ranges::count_if(
         m_open, [&client](const auto &entry) { return entry.second.client == &client; });
@@ -345,7 +345,7 @@ std::optional<mms::FileAttributes> DirectoryFiles::attributesOf(const fs::path &
     return attributes;
 }
 
-void DirectoryFiles::open(Client &client, const mms::FileOpenRequest &request, Answer answer)
+void DirectoryFiles::open(Peer &client, const mms::FileOpenRequest &request, Answer answer)
 {
     const auto found = placeOf(request.name);
     if (const auto *error = std::get_if<mms::ServiceError>(&found)) {
@@ -394,7 +394,7 @@ void DirectoryFiles::open(Client &client, const mms::FileOpenRequest &request, A
     answer(mms::ResponseService(mms::FileOpenResponse{m_lastId, *attributes}));
 }
 
-void DirectoryFiles::read(Client &client, const mms::FileReadRequest &request, Answer answer)
+void DirectoryFiles::read(Peer &client, const mms::FileReadRequest &request, Answer answer)
 {
     const auto found = m_open.find(request.frsmId);
     if (found == m_open.end() || found->second.client != &client) {
@@ -418,7 +418,7 @@ void DirectoryFiles::read(Client &client, const mms::FileReadRequest &request, A
     answer(mms::ResponseService(std::move(response)));
 }
 
-void DirectoryFiles::close(Client &client, const mms::FileCloseRequest &request, Answer answer)
+void DirectoryFiles::close(Peer &client, const mms::FileCloseRequest &request, Answer answer)
 {
     const auto found = m_open.find(request.frsmId);
     if (found == m_open.end() || found->second.client != &client) {
@@ -462,7 +462,7 @@ std::set<std::string> DirectoryFiles::namesBelow(const Place &place) const
     return names;
 }
 
-void DirectoryFiles::directory(Client &client, const mms::FileDirectoryRequest &request,
+void DirectoryFiles::directory(Peer &client, const mms::FileDirectoryRequest &request,
                                Answer answer)
 {
     const auto found = placeOf(request.specification.value_or(mms::FileName()));
@@ -513,7 +513,7 @@ void DirectoryFiles::directory(Client &client, const mms::FileDirectoryRequest &
     answer(mms::ResponseService(std::move(response)));
 }
 
-void DirectoryFiles::remove(Client &, const mms::FileDeleteRequest &request, Answer answer)
+void DirectoryFiles::remove(Peer &, const mms::FileDeleteRequest &request, Answer answer)
 {
     const auto found = placeOf(request.name);
     if (const auto *error = std::get_if<mms::ServiceError>(&found)) {
@@ -534,7 +534,7 @@ void DirectoryFiles::remove(Client &, const mms::FileDeleteRequest &request, Ans
         answer(mms::ResponseService(mms::FileDeleteResponse()));
 }
 
-void DirectoryFiles::rename(Client &, const mms::FileRenameRequest &request, Answer answer)
+void DirectoryFiles::rename(Peer &, const mms::FileRenameRequest &request, Answer answer)
 {
     const auto from = placeOf(request.currentName);
     const auto to = placeOf(request.newName);
@@ -561,7 +561,7 @@ void DirectoryFiles::rename(Client &, const mms::FileRenameRequest &request, Ans
         answer(mms::ResponseService(mms::FileRenameResponse()));
 }
 
-void DirectoryFiles::obtain(Client &client, const mms::ObtainFileRequest &request, Answer answer)
+void DirectoryFiles::obtain(Peer &client, const mms::ObtainFileRequest &request, Answer answer)
 {
     const auto found = placeOf(request.destination);
     if (const auto *error = std::get_if<mms::ServiceError>(&found)) {
@@ -603,7 +603,7 @@ void DirectoryFiles::finished(const Upload &upload)
     std::erase_if(m_uploads, [&upload](const auto &each) { return each.get() == &upload; });
 }
 
-void DirectoryFiles::closed(Client &client)
+void DirectoryFiles::closed(Peer &client)
 {
     std::erase_if(m_open, [&client](const auto &entry) { return entry.second.client == &client; });
     std::erase_if(m_uploads, [&client](const auto &upload) {

@@ -56,15 +56,14 @@ public:
     static mms::Result<std::shared_ptr<DirectoryFiles>> create(FileOptions options);
     ~DirectoryFiles() override;
 
-    void open(Client &client, const mms::FileOpenRequest &request, Answer answer) override;
-    void read(Client &client, const mms::FileReadRequest &request, Answer answer) override;
-    void close(Client &client, const mms::FileCloseRequest &request, Answer answer) override;
-    void directory(Client &client, const mms::FileDirectoryRequest &request,
-                   Answer answer) override;
-    void remove(Client &client, const mms::FileDeleteRequest &request, Answer answer) override;
-    void rename(Client &client, const mms::FileRenameRequest &request, Answer answer) override;
-    void obtain(Client &client, const mms::ObtainFileRequest &request, Answer answer) override;
-    void closed(Client &client) override;
+    void open(Peer &client, const mms::FileOpenRequest &request, Answer answer) override;
+    void read(Peer &client, const mms::FileReadRequest &request, Answer answer) override;
+    void close(Peer &client, const mms::FileCloseRequest &request, Answer answer) override;
+    void directory(Peer &client, const mms::FileDirectoryRequest &request, Answer answer) override;
+    void remove(Peer &client, const mms::FileDeleteRequest &request, Answer answer) override;
+    void rename(Peer &client, const mms::FileRenameRequest &request, Answer answer) override;
+    void obtain(Peer &client, const mms::ObtainFileRequest &request, Answer answer) override;
+    void closed(Peer &client) override;
 
 private:
     struct Closer
@@ -75,7 +74,7 @@ private:
 
     struct OpenFile
     {
-        const Client *client = nullptr;
+        const Peer *client = nullptr;
         std::filesystem::path path;
         File file;
         std::uint64_t left = 0;
@@ -97,7 +96,7 @@ private:
     std::variant<Place, mms::ServiceError> placeOf(const mms::FileName &name) const;
     bool isInside(const std::filesystem::path &path) const;
     bool isBusy(const std::filesystem::path &path) const;
-    std::size_t openFilesOf(const Client &client) const;
+    std::size_t openFilesOf(const Peer &client) const;
     std::optional<mms::FileAttributes> attributesOf(const std::filesystem::path &path) const;
     /// Complete names of what a listing has, sorted.
     std::set<std::string> namesBelow(const Place &place) const;

@@ -30,9 +30,9 @@ class Engine
 public:
     virtual ~Engine() = default;
 
-    virtual void opened(Client &) {}
+    virtual void opened(Peer &) {}
     /// The association has ended; nothing reaches the client any more.
-    virtual void closed(Client &) {}
+    virtual void closed(Peer &) {}
 };
 
 /// The engines that every device has, for the control blocks and controllable objects of @p ied.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "simulator/client.h"
+#include "simulator/peer.h"
 
 #include <functional>
 #include <variant>
@@ -18,17 +18,17 @@ public:
 
     virtual ~FileService() = default;
 
-    virtual void open(Client &client, const mms::FileOpenRequest &request, Answer answer) = 0;
-    virtual void read(Client &client, const mms::FileReadRequest &request, Answer answer) = 0;
-    virtual void close(Client &client, const mms::FileCloseRequest &request, Answer answer) = 0;
-    virtual void directory(Client &client, const mms::FileDirectoryRequest &request,
+    virtual void open(Peer &client, const mms::FileOpenRequest &request, Answer answer) = 0;
+    virtual void read(Peer &client, const mms::FileReadRequest &request, Answer answer) = 0;
+    virtual void close(Peer &client, const mms::FileCloseRequest &request, Answer answer) = 0;
+    virtual void directory(Peer &client, const mms::FileDirectoryRequest &request,
                            Answer answer) = 0;
-    virtual void remove(Client &client, const mms::FileDeleteRequest &request, Answer answer) = 0;
-    virtual void rename(Client &client, const mms::FileRenameRequest &request, Answer answer) = 0;
-    /// Fetch a file from the client with Client::call().
-    virtual void obtain(Client &client, const mms::ObtainFileRequest &request, Answer answer) = 0;
+    virtual void remove(Peer &client, const mms::FileDeleteRequest &request, Answer answer) = 0;
+    virtual void rename(Peer &client, const mms::FileRenameRequest &request, Answer answer) = 0;
+    /// Fetch a file from the client with Peer::call().
+    virtual void obtain(Peer &client, const mms::ObtainFileRequest &request, Answer answer) = 0;
     /// The client has left: its files are closed.
-    virtual void closed(Client &client) = 0;
+    virtual void closed(Peer &client) = 0;
 };
 
 } // namespace sim

@@ -19,7 +19,7 @@ Journals::Journals(const scl::Ied &ied)
         for (const scl::LogicalNode &node : device.nodes) {
             for (const std::string_view log : node.logs)
                 add(node, log.empty() ? unnamedLog : log);
-            for (const scl::LogControl &control : node.logControls) {
+            for (const scl::LogControlBlock &control : node.logControls) {
                 if (!control.logName.empty())
                     add(node, control.logName);
             }

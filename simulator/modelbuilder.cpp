@@ -248,13 +248,13 @@ void Model::Builder::describeBlocks(const Part &root, const scl::LogicalNode &no
                    ? std::string()
                    : std::string(domain) + "/" + std::string(node.name) + "$" + std::string(name);
     };
-    for (const scl::GooseControl &goose : node.gooseControls) {
+    for (const scl::GooseControlBlock &goose : node.gooseControls) {
         const Part block = root.child("GO").child(goose.name);
         setText(block.child("GoID"), goose.appId);
         setText(block.child("DatSet"), reference(goose.dataSetName));
         setNumber(block.child("ConfRev"), goose.confRev);
     }
-    for (const scl::SampledValueControl &sampled : node.sampledValueControls) {
+    for (const scl::SampledValueControlBlock &sampled : node.sampledValueControls) {
         const Part block = root.child(sampled.multicast ? "MS" : "US").child(sampled.name);
         setText(block.child(sampled.multicast ? "MsvID" : "UsvID"), sampled.svId);
         setText(block.child("DatSet"), reference(sampled.dataSetName));
@@ -262,7 +262,7 @@ void Model::Builder::describeBlocks(const Part &root, const scl::LogicalNode &no
         setNumber(block.child("SmpRate"), sampled.sampleRate);
         setNumber(block.child("noASDU"), sampled.asduCount);
     }
-    for (const scl::LogControl &log : node.logControls) {
+    for (const scl::LogControlBlock &log : node.logControls) {
         const Part block = root.child("LG").child(log.name);
         setText(block.child("LogRef"), reference(log.logName));
         setText(block.child("DatSet"), reference(log.dataSetName));

@@ -152,7 +152,7 @@ std::vector<acsi::Report> segments(acsi::Report report, std::size_t pduSize)
     return parts;
 }
 
-ReportBlock::ReportBlock(ReportBlockConfig config, ReportHost &host, const Clock &clock)
+ReportBlock::ReportBlock(ReportControlBlock config, ReportHost &host, const Clock &clock)
     : m_config(std::move(config))
     , m_host(host)
     , m_clock(clock)
@@ -220,7 +220,7 @@ std::optional<mms::Data> ReportBlock::value(std::string_view attribute) const
     return std::nullopt;
 }
 
-std::optional<DataAccessError> ReportBlock::mayConfigure(const Client &client) const
+std::optional<DataAccessError> ReportBlock::mayConfigure(const Peer &client) const
 {
     if (m_reserved && m_client != &client) {
         const bool returned = !m_client && !m_owner.empty() && m_owner == client.address();
@@ -232,7 +232,7 @@ std::optional<DataAccessError> ReportBlock::mayConfigure(const Client &client) c
     return std::nullopt;
 }
 
-std::optional<DataAccessError> ReportBlock::write(Client &client, std::string_view attribute,
+std::optional<DataAccessError> ReportBlock::write(Peer &client, std::string_view attribute,
                                                   const mms::Data &data)
 {
     if (attribute == "ConfRev" || attribute == "SqNum" || attribute == "Owner" ||
@@ -293,7 +293,7 @@ void ReportBlock::configure(std::string_view attribute, const mms::Data &data)
     }
 }
 
-std::optional<DataAccessError> ReportBlock::enable(Client &client)
+std::optional<DataAccessError> ReportBlock::enable(Peer &client)
 {
     if (m_enabled)
         return m_client == &client
@@ -326,7 +326,7 @@ std::optional<DataAccessError> ReportBlock::enable(Client &client)
     return std::nullopt;
 }
 
-std::optional<DataAccessError> ReportBlock::disable(const Client &client)
+std::optional<DataAccessError> ReportBlock::disable(const Peer &client)
 {
     if (m_client != &client && m_reserved && m_enabled)
         return DataAccessError::TemporarilyUnavailable;
@@ -359,14 +359,14 @@ void ReportBlock::release()
     m_reservedUntil.reset();
 }
 
-void ReportBlock::own(Client &client)
+void ReportBlock::own(Peer &client)
 {
     m_client = &client;
     m_owner = client.address();
     m_reservedUntil.reset();
 }
 
-std::optional<DataAccessError> ReportBlock::reserve(Client &client, const mms::Data &data)
+std::optional<DataAccessError> ReportBlock::reserve(Peer &client, const mms::Data &data)
 {
     if (!data.toBoolean().value_or(false)) {
         release();
@@ -378,7 +378,7 @@ std::optional<DataAccessError> ReportBlock::reserve(Client &client, const mms::D
     return std::nullopt;
 }
 
-std::optional<DataAccessError> ReportBlock::reserveFor(Client &client, std::int64_t seconds)
+std::optional<DataAccessError> ReportBlock::reserveFor(Peer &client, std::int64_t seconds)
 {
     if (seconds < 0 || seconds > std::numeric_limits<std::int16_t>::max())
         return DataAccessError::ObjectValueInvalid;
@@ -393,7 +393,7 @@ std::optional<DataAccessError> ReportBlock::reserveFor(Client &client, std::int6
     return std::nullopt;
 }
 
-std::optional<DataAccessError> ReportBlock::writeDatSet(Client &client, std::string_view text)
+std::optional<DataAccessError> ReportBlock::writeDatSet(Peer &client, std::string_view text)
 {
     if (text == m_datSet)
         return std::nullopt;
@@ -582,7 +582,7 @@ void ReportBlock::drain()
     }
 }
 
-Client *ReportBlock::heldBack() const
+Peer *ReportBlock::heldBack() const
 {
     return m_config.buffered && m_enabled && !m_resumes && m_nextId < endId() ? m_client : nullptr;
 }
@@ -618,7 +618,7 @@ void ReportBlock::send(const Entry &entry, std::uint64_t id)
     m_host.send(*m_client, std::move(report));
 }
 
-void ReportBlock::closed(const Client &client)
+void ReportBlock::closed(const Peer &client)
 {
     if (m_client == &client)
         leave();

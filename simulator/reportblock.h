@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "simulator/client.h"
 #include "simulator/clock.h"
 #include "simulator/datasets.h"
+#include "simulator/peer.h"
 
 #include "acsi/report.h"
 
@@ -18,7 +18,7 @@
 namespace sim {
 
 /// What a report control block is made with.
-struct ReportBlockConfig
+struct ReportControlBlock
 {
     bool buffered = false;
     std::string reference; ///< "LD/LN$BR$name"; the report id where none is given
@@ -46,16 +46,15 @@ public:
 
     /// Null for a reference that names none. @p client may be null: then only data sets of the
     /// device are found.
-    virtual std::shared_ptr<DataSet> dataSet(const Client *client,
-                                             const std::string &reference) = 0;
+    virtual std::shared_ptr<DataSet> dataSet(const Peer *client, const std::string &reference) = 0;
     /// "LD/LN$FC$DO" of a member.
     virtual std::string reference(const DataSet &dataSet, std::size_t member) = 0;
     virtual mms::AccessResult value(const DataSet &dataSet, std::size_t member) = 0;
     /// Whether a newer value of the member may take the place of one that waits to be reported.
     virtual bool isMeasured(const DataSet &dataSet, std::size_t member) = 0;
     /// Whether the network keeps up with what @p client is sent.
-    virtual bool isReady(const Client &client) = 0;
-    virtual void send(Client &client, acsi::Report report) = 0;
+    virtual bool isReady(const Peer &client) = 0;
+    virtual void send(Peer &client, acsi::Report report) = 0;
 };
 
 /// The state machine of a report control block (IEC 61850-7-2, 17.2). It is told of writes,
@@ -65,17 +64,17 @@ public:
 class ReportBlock
 {
 public:
-    ReportBlock(ReportBlockConfig config, ReportHost &host, const Clock &clock);
+    ReportBlock(ReportControlBlock config, ReportHost &host, const Clock &clock);
     ~ReportBlock();
     ReportBlock(const ReportBlock &) = delete;
     ReportBlock &operator=(const ReportBlock &) = delete;
 
-    const ReportBlockConfig &config() const { return m_config; }
+    const ReportControlBlock &config() const { return m_config; }
 
     /// The value of an attribute ("RptEna"); none for a name that no block has.
     std::optional<mms::Data> value(std::string_view attribute) const;
     /// @p data is of the attribute's type. None when it was written.
-    std::optional<mms::DataAccessError> write(Client &client, std::string_view attribute,
+    std::optional<mms::DataAccessError> write(Peer &client, std::string_view attribute,
                                               const mms::Data &data);
 
     /// Whether changes of the data set's members are to be told: enabled, or buffered with a data
@@ -94,13 +93,13 @@ public:
     /// The network may take more.
     void drain();
     /// The client has left.
-    void closed(const Client &client);
+    void closed(const Peer &client);
 
     /// When advance() wants to be called; none while there is nothing to wait for.
     std::optional<Clock::SteadyTime> deadline() const;
     void advance();
     /// The client for whom entries wait because it is behind; null when none do.
-    Client *heldBack() const;
+    Peer *heldBack() const;
 
     /// Reports that were not sent because the client was behind; their numbers are missing.
     std::uint64_t reportsLost() const { return m_lost; }
@@ -128,18 +127,18 @@ private:
         mms::AccessResult value = mms::Data();
     };
 
-    std::optional<mms::DataAccessError> mayConfigure(const Client &client) const;
-    std::optional<mms::DataAccessError> enable(Client &client);
-    std::optional<mms::DataAccessError> disable(const Client &client);
-    std::optional<mms::DataAccessError> reserve(Client &client, const mms::Data &data);
-    std::optional<mms::DataAccessError> reserveFor(Client &client, std::int64_t seconds);
-    std::optional<mms::DataAccessError> writeDatSet(Client &client, std::string_view text);
+    std::optional<mms::DataAccessError> mayConfigure(const Peer &client) const;
+    std::optional<mms::DataAccessError> enable(Peer &client);
+    std::optional<mms::DataAccessError> disable(const Peer &client);
+    std::optional<mms::DataAccessError> reserve(Peer &client, const mms::Data &data);
+    std::optional<mms::DataAccessError> reserveFor(Peer &client, std::int64_t seconds);
+    std::optional<mms::DataAccessError> writeDatSet(Peer &client, std::string_view text);
     std::optional<mms::DataAccessError> resumeAfter(mms::Bytes entryId);
     void configure(std::string_view attribute, const mms::Data &data);
     void stop();
     void leave();
     void release();
-    void own(Client &client);
+    void own(Peer &client);
     void useDataSet(std::shared_ptr<DataSet> dataSet);
     void startIntegrity();
     void purge();
@@ -151,7 +150,7 @@ private:
     std::uint64_t endId() const { return m_firstId + m_buffer.size(); }
     static std::vector<std::uint8_t> octetsOf(std::uint64_t id);
 
-    ReportBlockConfig m_config;
+    ReportControlBlock m_config;
     ReportHost &m_host;
     const Clock &m_clock;
 
@@ -164,13 +163,13 @@ private:
     std::uint32_t m_intgPd;
     std::shared_ptr<DataSet> m_dataSet;
     /// Whose the data set is, when it is one of an association.
-    const Client *m_dataSetClient = nullptr;
+    const Peer *m_dataSetClient = nullptr;
     std::uint64_t m_revision = 0;
 
     bool m_enabled = false;
     std::uint32_t m_sqNum = 0;
     /// Who has reserved or enabled the block, while it is connected.
-    Client *m_client = nullptr;
+    Peer *m_client = nullptr;
     /// The address of the client, also after it left while the reservation lasts.
     std::vector<std::uint8_t> m_owner;
     bool m_reserved = false;

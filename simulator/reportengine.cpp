@@ -28,7 +28,7 @@ acsi::OptFlds optFldsOf(const scl::ReportOptionalFields &fields)
     return result;
 }
 
-acsi::Triggers triggersOf(const scl::TriggerOptions &options)
+acsi::Triggers triggersOf(const scl::ConfiguredTriggers &options)
 {
     acsi::Triggers result;
     result.dataChange = options.dataChange;
@@ -61,7 +61,7 @@ public:
         }
     }
 
-    std::optional<mms::DataAccessError> write(Client &client, const Part &part,
+    std::optional<mms::DataAccessError> write(Peer &client, const Part &part,
                                               const mms::Data &value) override
     {
         // Attributes depend on each other, so that their order has to be the client's.
@@ -84,7 +84,7 @@ ReportEngine::ReportEngine(const Host &host, const scl::Ied &ied)
 {
     ied.forEachDevice([this](const scl::LogicalDevice &device) {
         for (const scl::LogicalNode &node : device.nodes) {
-            for (const scl::ReportControl &control : node.reports)
+            for (const scl::ReportControlBlock &control : node.reports)
                 add(device, node, control);
         }
     });
@@ -101,7 +101,7 @@ ReportEngine::~ReportEngine()
 }
 
 void ReportEngine::add(const scl::LogicalDevice &device, const scl::LogicalNode &node,
-                       const scl::ReportControl &control)
+                       const scl::ReportControlBlock &control)
 {
     for (const std::string_view name : control.instanceNames) {
         const std::string item =
@@ -109,7 +109,7 @@ void ReportEngine::add(const scl::LogicalDevice &device, const scl::LogicalNode 
         const Part part = m_host.model.find(device.name, item);
         if (!part.isValid())
             continue;
-        ReportBlockConfig config;
+        ReportControlBlock config;
         config.buffered = control.buffered;
         config.reference = std::string(device.name) + '/' + item;
         config.rptId = control.reportId;
@@ -134,7 +134,7 @@ void ReportEngine::add(const scl::LogicalDevice &device, const scl::LogicalNode 
     }
 }
 
-void ReportEngine::closed(Client &client)
+void ReportEngine::closed(Peer &client)
 {
     m_behind.erase(&client);
     for (std::size_t i = 0; i < m_blocks.size(); ++i) {
@@ -207,7 +207,7 @@ void ReportEngine::wakeFor(const ReportBlock &block)
 {
     if (const auto time = block.deadline())
         wakeAt(*time);
-    Client *behind = block.heldBack();
+    Peer *behind = block.heldBack();
     if (!behind || !m_behind.insert(behind).second)
         return;
     behind->whenQueued(fewQueued, [this, behind, alive = std::weak_ptr<int>(m_alive)] {
@@ -216,7 +216,7 @@ void ReportEngine::wakeFor(const ReportBlock &block)
     });
 }
 
-void ReportEngine::catchUp(const Client &client)
+void ReportEngine::catchUp(const Peer &client)
 {
     m_behind.erase(&client);
     for (const Place &place : m_blocks) {
@@ -247,7 +247,7 @@ void ReportEngine::wake()
     }
 }
 
-std::shared_ptr<DataSet> ReportEngine::dataSet(const Client *client, const std::string &reference)
+std::shared_ptr<DataSet> ReportEngine::dataSet(const Peer *client, const std::string &reference)
 {
     return reference.empty() ? nullptr : m_host.dataSets.find(client, reference);
 }
@@ -268,12 +268,12 @@ bool ReportEngine::isMeasured(const DataSet &dataSet, std::size_t member)
     return dataSet.members[member].part.fc() == Fc::MX;
 }
 
-bool ReportEngine::isReady(const Client &client)
+bool ReportEngine::isReady(const Peer &client)
 {
     return client.queued() < mostQueued;
 }
 
-void ReportEngine::send(Client &client, acsi::Report report)
+void ReportEngine::send(Peer &client, acsi::Report report)
 {
     for (const acsi::Report &segment : segments(std::move(report), client.pduSize()))
         client.report(acsi::encodeReport(segment));

@@ -19,7 +19,7 @@ public:
     ReportEngine(const Host &host, const scl::Ied &ied);
     ~ReportEngine() override;
 
-    void closed(Client &client) override;
+    void closed(Peer &client) override;
 
     std::size_t blockCount() const { return m_blocks.size(); }
     const ReportBlock &block(std::size_t index) const { return *m_blocks[index].block; }
@@ -42,20 +42,20 @@ private:
     };
 
     void changed(std::span<const Change> changes) override;
-    std::shared_ptr<DataSet> dataSet(const Client *client, const std::string &reference) override;
+    std::shared_ptr<DataSet> dataSet(const Peer *client, const std::string &reference) override;
     std::string reference(const DataSet &dataSet, std::size_t member) override;
     mms::AccessResult value(const DataSet &dataSet, std::size_t member) override;
     bool isMeasured(const DataSet &dataSet, std::size_t member) override;
-    bool isReady(const Client &client) override;
-    void send(Client &client, acsi::Report report) override;
+    bool isReady(const Peer &client) override;
+    void send(Peer &client, acsi::Report report) override;
 
     void add(const scl::LogicalDevice &device, const scl::LogicalNode &node,
-             const scl::ReportControl &control);
+             const scl::ReportControlBlock &control);
     void written(std::size_t index);
     void checkRevision(std::size_t index);
     void indexUses();
     void wakeFor(const ReportBlock &block);
-    void catchUp(const Client &client);
+    void catchUp(const Peer &client);
     void wakeAt(Clock::SteadyTime time);
     void wake();
 
@@ -66,7 +66,7 @@ private:
     bool m_usesOutdated = true;
     std::vector<std::uint32_t> m_touched;
     /// Clients whose network is to say when it has caught up.
-    std::set<const Client *> m_behind;
+    std::set<const Peer *> m_behind;
     std::shared_ptr<int> m_alive = std::make_shared<int>(0);
     std::unique_ptr<Timer> m_timer;
     Clock::SteadyTime m_wakeTime = Clock::SteadyTime::max();

@@ -34,7 +34,7 @@ class Services
 {
 public:
     Services(Access &access, DataSets &dataSets, const Journals &journals, const Identity &identity,
-             const Oddities &oddities, Client &client)
+             const Oddities &oddities, Peer &client)
         : m_access(access)
         , m_dataSets(dataSets)
         , m_journals(journals)
@@ -71,7 +71,7 @@ private:
     const Journals &m_journals;
     const Identity &m_identity;
     const Oddities &m_oddities;
-    Client &m_client;
+    Peer &m_client;
 };
 
 } // namespace sim

@@ -81,7 +81,7 @@ public:
         }
     }
 
-    std::optional<mms::DataAccessError> write(Client &client, const Part &part,
+    std::optional<mms::DataAccessError> write(Peer &client, const Part &part,
                                               const mms::Data &value) override
     {
         if (part == m_part)
@@ -107,7 +107,7 @@ public:
     {
     }
 
-    std::optional<mms::AccessResult> read(Client &, const Part &) override
+    std::optional<mms::AccessResult> read(Peer &, const Part &) override
     {
         if (m_engine.m_host.oddities.writeOnlyEdit)
             return mms::AccessResult(mms::DataAccessError::ObjectAccessDenied);
@@ -116,7 +116,7 @@ public:
         return mms::AccessResult(mms::DataAccessError::TemporarilyUnavailable);
     }
 
-    std::optional<mms::DataAccessError> write(Client &client, const Part &part,
+    std::optional<mms::DataAccessError> write(Peer &client, const Part &part,
                                               const mms::Data &value) override
     {
         if (const auto refused = m_block.groups().writeSetting(client))
@@ -145,7 +145,7 @@ SettingGroupEngine::SettingGroupEngine(const Host &host, const scl::Ied &ied)
         const Part part = m_host.model.find(device.name, std::string(node->name) + "$SP$SGCB");
         if (!part.isValid())
             return;
-        const scl::SettingControl &control = *node->settingControl;
+        const scl::SettingControlBlock &control = *node->settingControl;
         SettingGroups::Config config;
         config.count = std::max(control.groupCount, 1U);
         config.active = std::clamp(control.activeGroup, 1U, config.count);
@@ -168,7 +168,7 @@ SettingGroupEngine::SettingGroupEngine(const Host &host, const scl::Ied &ied)
 
 SettingGroupEngine::~SettingGroupEngine() = default;
 
-void SettingGroupEngine::closed(Client &client)
+void SettingGroupEngine::closed(Peer &client)
 {
     for (const auto &block : m_blocks)
         block->groups().closed(client);

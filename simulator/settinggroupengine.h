@@ -16,7 +16,7 @@ public:
     SettingGroupEngine(const Host &host, const scl::Ied &ied);
     ~SettingGroupEngine() override;
 
-    void closed(Client &client) override;
+    void closed(Peer &client) override;
 
 private:
     class Block;

@@ -34,7 +34,7 @@ std::optional<mms::Data> SettingGroups::value(std::string_view attribute) const
     return std::nullopt;
 }
 
-std::optional<DataAccessError> SettingGroups::write(Client &client, std::string_view attribute,
+std::optional<DataAccessError> SettingGroups::write(Peer &client, std::string_view attribute,
                                                     const mms::Data &data)
 {
     if (attribute == "ActSG") {
@@ -66,7 +66,7 @@ std::optional<DataAccessError> SettingGroups::write(Client &client, std::string_
     return DataAccessError::ObjectAccessDenied;
 }
 
-std::optional<DataAccessError> SettingGroups::selectEdited(Client &client, std::uint64_t group)
+std::optional<DataAccessError> SettingGroups::selectEdited(Peer &client, std::uint64_t group)
 {
     if (m_edited != 0 && m_client != &client)
         return DataAccessError::TemporarilyUnavailable;
@@ -83,7 +83,7 @@ std::optional<DataAccessError> SettingGroups::selectEdited(Client &client, std::
     return std::nullopt;
 }
 
-std::optional<DataAccessError> SettingGroups::writeSetting(const Client &client)
+std::optional<DataAccessError> SettingGroups::writeSetting(const Peer &client)
 {
     if (!mayEdit(client))
         return DataAccessError::TemporarilyUnavailable;
@@ -98,7 +98,7 @@ void SettingGroups::activate(std::uint32_t group)
     m_host.activate(m_active);
 }
 
-bool SettingGroups::mayEdit(const Client &client) const
+bool SettingGroups::mayEdit(const Peer &client) const
 {
     return m_edited != 0 && (m_client == &client || m_config.isShared);
 }
@@ -110,7 +110,7 @@ std::optional<Clock::SteadyTime> SettingGroups::deadline() const
     return std::min(*m_deadline, *m_activation);
 }
 
-void SettingGroups::closed(const Client &client)
+void SettingGroups::closed(const Peer &client)
 {
     if (m_client == &client)
         release();

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "simulator/client.h"
 #include "simulator/clock.h"
+#include "simulator/peer.h"
 
 #include <chrono>
 #include <cstdint>
@@ -49,22 +49,22 @@ public:
     /// The value of an attribute ("ActSG"); none for a name that no block has.
     std::optional<mms::Data> value(std::string_view attribute) const;
     /// @p data is of the attribute's type. None when it was written.
-    std::optional<mms::DataAccessError> write(Client &client, std::string_view attribute,
+    std::optional<mms::DataAccessError> write(Peer &client, std::string_view attribute,
                                               const mms::Data &data);
     /// None when @p client may change a setting of the group being edited now.
-    std::optional<mms::DataAccessError> writeSetting(const Client &client);
+    std::optional<mms::DataAccessError> writeSetting(const Peer &client);
     /// Whether there is something to read of a group being edited.
     bool isEditing() const { return m_edited != 0; }
-    void closed(const Client &client);
+    void closed(const Peer &client);
 
     /// When advance() has something to do.
     std::optional<Clock::SteadyTime> deadline() const;
     void advance();
 
 private:
-    std::optional<mms::DataAccessError> selectEdited(Client &client, std::uint64_t group);
+    std::optional<mms::DataAccessError> selectEdited(Peer &client, std::uint64_t group);
     void activate(std::uint32_t group);
-    bool mayEdit(const Client &client) const;
+    bool mayEdit(const Peer &client) const;
     void touch();
     void release();
 
@@ -73,7 +73,7 @@ private:
     const Clock &m_clock;
     std::uint32_t m_active;
     std::uint32_t m_edited = 0;
-    const Client *m_client = nullptr;
+    const Peer *m_client = nullptr;
     mms::UtcTime m_activatedAt;
     std::optional<Clock::SteadyTime> m_deadline; ///< of the reservation
     std::uint32_t m_next = 0;                    ///< becomes active at m_activation

@@ -22,12 +22,12 @@ public:
     {
     }
 
-    void opened(Client &) override
+    void opened(Peer &) override
     {
         ++m_open;
         m_log("association opened, " + std::to_string(m_open) + " now");
     }
-    void closed(Client &) override
+    void closed(Peer &) override
     {
         --m_open;
         m_log("association closed, " + std::to_string(m_open) + " left");
@@ -75,7 +75,7 @@ void logControls(const Log &log, const mms::VariableAccessSpecification &variabl
 
 } // namespace
 
-mms::Result<SimulatedDevice> simulate(asio::any_io_executor executor, const scl::Ied &ied,
+mms::Result<ListeningDevice> simulate(asio::any_io_executor executor, const scl::Ied &ied,
                                       SimulationOptions options)
 {
     DeviceOptions device;
@@ -129,7 +129,7 @@ mms::Result<SimulatedDevice> simulate(asio::any_io_executor executor, const scl:
             log("connection refused: " + reason);
         };
     }
-    SimulatedDevice result;
+    ListeningDevice result;
     result.device = Device::create(std::move(executor), ied, std::move(device));
     *target = result.device;
     if (options.animation) {

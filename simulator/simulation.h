@@ -45,7 +45,8 @@ struct SimulationOptions
     std::function<void(const std::string &line)> log;
 };
 
-struct SimulatedDevice
+/// A device and where it can be reached.
+struct ListeningDevice
 {
     std::shared_ptr<Device> device;
     std::uint16_t port = 0;
@@ -53,7 +54,7 @@ struct SimulatedDevice
 
 /// Makes a device of @p ied, of which nothing is kept, and lets it listen. The error says what of
 /// the options is wrong. Any thread; keep the executor running until the device has gone.
-mms::Result<SimulatedDevice> simulate(asio::any_io_executor executor, const scl::Ied &ied,
+mms::Result<ListeningDevice> simulate(asio::any_io_executor executor, const scl::Ied &ied,
                                       SimulationOptions options);
 
 } // namespace sim

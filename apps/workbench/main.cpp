@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "commandline.h"
-#include "embeddeddriver.h"
+#include "fileimport.h"
 #include "mainwindow.h"
 #include "modelcheck.h"
 #include "tour.h"

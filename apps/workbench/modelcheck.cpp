@@ -37,7 +37,7 @@ QJsonValue number(std::uint64_t value)
     return static_cast<qint64>(value);
 }
 
-QJsonObject describe(const scl::Ied &ied)
+QJsonObject toJson(const scl::Ied &ied)
 {
     const scl::IedCounts counts = scl::countsOf(ied);
     return {{QStringLiteral("name"), text(ied.name)},
@@ -51,7 +51,7 @@ QJsonObject describe(const scl::Ied &ied)
             {QStringLiteral("unbufferedReports"), number(counts.unbufferedReports)}};
 }
 
-QJsonObject describe(const scl::Finding &finding)
+QJsonObject toJson(const scl::Finding &finding)
 {
     return {{QStringLiteral("severity"), severityName(finding.severity)},
             {QStringLiteral("line"), static_cast<qint64>(finding.line)},
@@ -82,17 +82,17 @@ int checkModel(const QString &file, const QString &ied, QIODevice &out)
     QJsonArray ieds;
     if (ied.isEmpty()) {
         for (const scl::Ied &each : document.ieds)
-            ieds.append(describe(each));
+            ieds.append(toJson(each));
     } else {
         QString error;
         const scl::Ied *chosen = SclImport::chooseIed(document, ied, error);
         if (!chosen)
             return writeError(out, file, error);
-        ieds.append(describe(*chosen));
+        ieds.append(toJson(*chosen));
     }
     QJsonArray findings;
     for (const scl::Finding &finding : document.findings)
-        findings.append(describe(finding));
+        findings.append(toJson(finding));
 
     return write(
         out,

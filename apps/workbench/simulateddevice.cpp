@@ -41,7 +41,7 @@ public:
     QTemporaryDir files; ///< outlives the device, which serves it
     asio::io_context context;
     asio::executor_work_guard<asio::io_context::executor_type> work{context.get_executor()};
-    sim::SimulatedDevice simulated;
+    sim::ListeningDevice simulated;
     std::thread thread;
 };
 

@@ -53,7 +53,7 @@ bool waitFor(const std::function<bool()> &condition)
     return condition();
 }
 
-QString describe(const QWidget *widget)
+QString nameOf(const QWidget *widget)
 {
     if (const auto *box = qobject_cast<const QMessageBox *>(widget))
         return Texts::tr("a message: \"%1: %2\"").arg(box->windowTitle(), box->text());
@@ -272,7 +272,7 @@ bool Tour::openBrowser()
         return false;
     QString surprise;
     {
-        const ModalAttendant attendant([&](QWidget *modal) { surprise = describe(modal); });
+        const ModalAttendant attendant([&](QWidget *modal) { surprise = nameOf(modal); });
         action->trigger();
     }
     if (!surprise.isEmpty())
@@ -498,7 +498,7 @@ bool Tour::showDialog(const std::function<void()> &open, const QString &dialogNa
                 prepare(modal);
             saved = save(modal, picture);
         } else if (!qobject_cast<QMessageBox *>(modal)) {
-            fail(Texts::tr("Instead of \"%1\" came %2.").arg(dialogName, describe(modal)));
+            fail(Texts::tr("Instead of \"%1\" came %2.").arg(dialogName, nameOf(modal)));
         }
     });
     open();

@@ -169,7 +169,7 @@ QString ValueWords::text(const PhysicalDevice &device, const DataAttribute *attr
     return words.isEmpty() ? ValueConversion::text(value) : words;
 }
 
-void ValueWords::describe(DeviceChange &change, const PhysicalDevice &device)
+void ValueWords::addWords(DeviceChange &change, const PhysicalDevice &device)
 {
     const bool isCommand = change.operation == QLatin1String("selectObject") ||
                            change.operation == QLatin1String("controlObject") ||

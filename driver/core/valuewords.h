@@ -26,6 +26,6 @@ QString quality(const QString &bits);
 QString text(const PhysicalDevice &device, const DataAttribute *attribute, const QVariant &value);
 
 /// Fills DeviceChange::oldWords and newWords from the raw values.
-void describe(DeviceChange &change, const PhysicalDevice &device);
+void addWords(DeviceChange &change, const PhysicalDevice &device);
 
 } // namespace ValueWords

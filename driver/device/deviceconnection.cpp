@@ -720,7 +720,7 @@ void DeviceConnection::journal(DeviceChange change)
     change.number = m_configuration.number;
     change.device = m_configuration.name;
     if (const OnlineModel *known = model())
-        ValueWords::describe(change, known->device());
+        ValueWords::addWords(change, known->device());
     if (m_environment.changed)
         m_environment.changed(change);
 }

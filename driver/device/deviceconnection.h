@@ -257,7 +257,7 @@ private:
     /// One sentence why the device cannot be used; empty when its model is there.
     asio::awaitable<QString> getReady(ClientPointer client);
     /// Always the whole: a device may have become another under the same revision.
-    asio::awaitable<mms::Result<acsi::ServerDescription>> describe(ClientPointer client);
+    asio::awaitable<mms::Result<acsi::ServerDescription>> fetchDescription(ClientPointer client);
     asio::awaitable<void> readRevisions(ClientPointer client);
     asio::awaitable<void> readBlocks(ClientPointer client);
     asio::awaitable<void> poll(ClientPointer client);

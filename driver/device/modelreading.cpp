@@ -114,7 +114,7 @@ asio::awaitable<QString> DeviceConnection::getReady(ClientPointer client)
     }
     co_await identified(client);
     m_readingCancelled = std::make_shared<std::atomic<bool>>(false);
-    mms::Result<acsi::ServerDescription> description = co_await describe(client);
+    mms::Result<acsi::ServerDescription> description = co_await fetchDescription(client);
     const bool wasCancelled = *m_readingCancelled;
     m_readingCancelled.reset();
     // Who cancelled has withdrawn the wish already; one that stands now is newer.
@@ -250,14 +250,14 @@ asio::awaitable<void> DeviceConnection::refreshReportBlocks()
         const mms::AccessResult &value = (*values)[i];
         const std::optional<bool> enabled = value.ok() ? value.data().toBoolean() : std::nullopt;
         ReportControlBlock *const block =
-            m_model->reportBlock(places[i].device, places[i].reference);
+            m_model->reportControlBlock(places[i].device, places[i].reference);
         if (block && enabled)
             block->enabled = *enabled;
     }
 }
 
 asio::awaitable<mms::Result<acsi::ServerDescription>>
-DeviceConnection::describe(ClientPointer client)
+DeviceConnection::fetchDescription(ClientPointer client)
 {
     acsi::DiscoveryOptions options;
     options.cancelled = m_readingCancelled;

@@ -151,7 +151,8 @@ bool ReportSubscriptions::isCurrent(const SubscriptionPointer &subscription) con
 ReportControlBlock *ReportSubscriptions::shownInModel(const acsi::Reference &block) const
 {
     OnlineModel *const model = m_connection.model();
-    return model ? model->reportBlock(text(block.device), text(acsi::itemText(block))) : nullptr;
+    return model ? model->reportControlBlock(text(block.device), text(acsi::itemText(block)))
+                 : nullptr;
 }
 
 asio::awaitable<void> ReportSubscriptions::opened()
@@ -335,11 +336,11 @@ asio::awaitable<Outcome> ReportSubscriptions::start(SubscriptionPointer subscrip
         (former && former->life.isTaking()) || m_leftEnabled.count(subscription->reference) != 0;
     const acsi::ReportHolder holder = acsi::holderOf(*before, client->association().localAddress());
     if (belongsToOthers(holder, before->buffered, isOwn, attended == Attended::No)) {
-        const QString sentence = Texts::tr("%1 It was left alone.").arg(describe(block, holder));
+        const QString sentence = Texts::tr("%1 It was left alone.").arg(holderText(block, holder));
         co_return ended(subscription, attended, Result::Held, {}, {}, sentence);
     }
     if (subscription->settings.datSet.value_or(before->datSet).empty()) {
-        co_return ended(subscription, attended, Result::Refused, describe(*before), {},
+        co_return ended(subscription, attended, Result::Refused, settingsText(*before), {},
                         Texts::tr("The report control block %1 has no data set.").arg(text(block)));
     }
     // From here on the block is this subscription's.
@@ -363,18 +364,18 @@ asio::awaitable<Outcome> ReportSubscriptions::start(SubscriptionPointer subscrip
     else if (!enabled->rptEna)
         error = Texts::tr("The device has not enabled %1 although it said so.").arg(text(block));
     if (!error.isEmpty()) {
-        co_return ended(subscription, attended, Result::Refused, describe(*before), {}, error);
+        co_return ended(subscription, attended, Result::Refused, settingsText(*before), {}, error);
     }
     trace->changes.clear();
     m_leftEnabled.erase(subscription->reference);
-    QString newValue = describe(*enabled);
+    QString newValue = settingsText(*enabled);
     for (const mms::Text &note : enabled->notes)
         newValue += QStringLiteral("; ") + text(note);
     if (!enabled->optFlds.sequenceNumber)
         newValue += QStringLiteral("; ") +
                     Texts::tr("without sequence numbers lost reports cannot be noticed");
     const Outcome outcome =
-        ended(subscription, attended, Result::Enabled, describe(*before), newValue, {});
+        ended(subscription, attended, Result::Enabled, settingsText(*before), newValue, {});
     started(subscription, *enabled);
     // What changed between the last polling and the first report is in no report.
     subscription->mending.need();
@@ -511,7 +512,7 @@ asio::awaitable<Outcome> ReportSubscriptions::disable(acsi::Reference block)
         isOthers = holder.who == Who::OtherAddress || (wasWaiting && holder.isEnabled);
         if (isOthers)
             outcome =
-                Outcome::failed(Texts::tr("%1 It was left alone.").arg(describe(block, holder)));
+                Outcome::failed(Texts::tr("%1 It was left alone.").arg(holderText(block, holder)));
     }
     if (!isOthers) {
         const mms::Result<void> disabled = co_await acsi::disableReportBlock(client, block);

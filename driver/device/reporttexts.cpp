@@ -42,7 +42,7 @@ std::string ReportDataSet::wire(const acsi::Reference &block, const QString &sho
     return parsed ? acsi::dataSetText(*parsed) : name;
 }
 
-QString describe(const acsi::ReportBlock &block)
+QString settingsText(const acsi::ReportBlock &block)
 {
     const QString state = block.rptEna ? Texts::tr("enabled") : Texts::tr("disabled");
     return QStringLiteral("%1, RptID=%2, DatSet=%3, TrgOps=%4, OptFlds=%5, BufTm=%6, IntgPd=%7")
@@ -52,7 +52,7 @@ QString describe(const acsi::ReportBlock &block)
         .arg(block.intgPd);
 }
 
-QString describe(const acsi::Reference &block, const acsi::ReportHolder &holder)
+QString holderText(const acsi::Reference &block, const acsi::ReportHolder &holder)
 {
     const QString name = text(acsi::toText(block));
     const QString address = text(holder.address);

@@ -18,6 +18,6 @@ std::string wire(const acsi::Reference &block, const QString &shown);
 } // namespace ReportDataSet
 
 /// The settings of a block for a journal.
-QString describe(const acsi::ReportBlock &block);
+QString settingsText(const acsi::ReportBlock &block);
 /// Who has the block, one sentence; empty when nobody has.
-QString describe(const acsi::Reference &block, const acsi::ReportHolder &holder);
+QString holderText(const acsi::Reference &block, const acsi::ReportHolder &holder);

@@ -74,7 +74,7 @@ QString ReportSubscriptions::holderSentence(const acsi::Reference &block,
     const ClientPointer client = m_connection.client();
     if (isOwn || !client)
         return {};
-    return describe(block, acsi::holderOf(read, client->association().localAddress()));
+    return holderText(block, acsi::holderOf(read, client->association().localAddress()));
 }
 
 asio::awaitable<void> ReportSubscriptions::watch(ClientPointer client)

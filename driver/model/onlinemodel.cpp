@@ -333,7 +333,8 @@ LogicalNode *OnlineModel::node(const QString &device, const QString &node) const
     return m_shownNodes.value(device + QLatin1Char('/') + node);
 }
 
-ReportControlBlock *OnlineModel::reportBlock(const QString &device, const QString &reference) const
+ReportControlBlock *OnlineModel::reportControlBlock(const QString &device,
+                                                    const QString &reference) const
 {
     const LogicalNode *owner = node(device, reference.section(QLatin1Char('$'), 0, 0));
     if (!owner)

@@ -67,7 +67,7 @@ public:
     /// Remembers the quality that goes with the value of a leaf; true when it is another one.
     bool setQuality(std::uint32_t leaf, const mms::Data &quality);
     LogicalNode *node(const QString &device, const QString &node) const;
-    ReportControlBlock *reportBlock(const QString &device, const QString &reference) const;
+    ReportControlBlock *reportControlBlock(const QString &device, const QString &reference) const;
 
     /// Takes structured data apart to the leaves of the model, in the order of the type. False when
     /// the value does not have the shape of the live type, and when that is not known as a whole;

@@ -322,7 +322,7 @@ private:
             dataSet->state = 0;
             dataSet->name = shared(set.name);
             dataSet->members.reserve(static_cast<int>(set.members.size()));
-            for (const scl::DataSetMember &member : set.members) {
+            for (const scl::Fcda &member : set.members) {
                 QString reference = text(member.reference);
                 const QString device = reference.section(QLatin1Char('/'), 0, 0);
                 reference.replace(0, device.size(), m_choice.nameOf(device));
@@ -334,7 +334,7 @@ private:
 
     void addReports(const scl::LogicalNode &source, LogicalNode &node)
     {
-        for (const scl::ReportControl &report : source.reports) {
+        for (const scl::ReportControlBlock &report : source.reports) {
             ReportControlBlock block;
             block.state = report.dataSet || report.dataSetName.empty() ? 1 : 0;
             block.type = report.buffered ? QStringLiteral("BR") : QStringLiteral("RP");

@@ -68,7 +68,7 @@ void enterBlock(const DevicePointer &device, const acsi::Reference &block,
 {
     const QString logicalDevice = text(block.device);
     const QString reference = text(acsi::itemText(block));
-    if (ReportControlBlock *shown = device->model()->reportBlock(logicalDevice, reference))
+    if (ReportControlBlock *shown = device->model()->reportControlBlock(logicalDevice, reference))
         DiscoveredModel::setSettings(*shown, logicalDevice, read,
                                      device->configuredBlock(logicalDevice, reference));
 }

@@ -225,7 +225,7 @@ void IEDModelView::openReport()
     const BrowserWorkings::Use use(m_workings);
     const QPointer<IEDModelView> self(this);
     if (m_offline) {
-        ReportControl dialog(offlineReportBlock(*block), this);
+        ReportControl dialog(offlineReportControlBlock(*block), this);
         ModalLife(&dialog).exec();
         return;
     }

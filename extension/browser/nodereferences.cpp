@@ -5,7 +5,7 @@
 
 #include <devicemodel/dataobject.h>
 #include <devicemodel/dataset.h>
-#include <devicemodel/reportcontrol.h>
+#include <devicemodel/reportcontrolblock.h>
 
 namespace {
 

@@ -138,7 +138,7 @@ IEDNode::IEDNode(DataSetMember *member, IEDNode *parentNode)
 {
 }
 
-IEDNode::IEDNode(ReportControlList *list, IEDNode *parentNode)
+IEDNode::IEDNode(ReportControlBlockList *list, IEDNode *parentNode)
     : IEDNode(ReportControlGroupNode, list, parentNode)
 {
 }

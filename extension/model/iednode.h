@@ -16,7 +16,7 @@ struct LogicalDevice;
 struct LogicalNode;
 class PhysicalDevice;
 struct ReportControlBlock;
-struct ReportControlList;
+struct ReportControlBlockList;
 struct SettingGroupControl;
 
 /// What a node of the device tree stands for. The numbers are fixed: menus and services test them.
@@ -51,7 +51,7 @@ struct IEDNode final
     IEDNode(DataSetGroup *group, IEDNode *parentNode);
     IEDNode(DataSet *dataSet, IEDNode *parentNode);
     IEDNode(DataSetMember *member, IEDNode *parentNode);
-    IEDNode(ReportControlList *list, IEDNode *parentNode);
+    IEDNode(ReportControlBlockList *list, IEDNode *parentNode);
     IEDNode(ReportControlBlock *block, IEDNode *parentNode);
     ~IEDNode();
     Q_DISABLE_COPY(IEDNode)
@@ -65,9 +65,9 @@ struct IEDNode final
     DataSetGroup *dataSetGroup() const { return as<DataSetGroup>(DataSetGroupNode); }
     DataSet *dataSet() const { return as<DataSet>(DataSetNode); }
     DataSetMember *dataSetMember() const { return as<DataSetMember>(DataSetMemberNode); }
-    ReportControlList *reportControlList() const
+    ReportControlBlockList *reportControlList() const
     {
-        return as<ReportControlList>(ReportControlGroupNode);
+        return as<ReportControlBlockList>(ReportControlGroupNode);
     }
     ReportControlBlock *reportControl() const { return as<ReportControlBlock>(ReportControlNode); }
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "streportcontrolblock.h"
 
-#include <devicemodel/reportcontrol.h>
+#include <devicemodel/reportcontrolblock.h>
 
-stReportControlBlock offlineReportBlock(const ReportControlBlock &block)
+stReportControlBlock offlineReportControlBlock(const ReportControlBlock &block)
 {
     stReportControlBlock offline;
     offline.rptId = block.rptId;

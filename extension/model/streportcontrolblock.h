@@ -34,4 +34,4 @@ struct stReportControlBlock
 };
 
 /// The configured settings of a block of the device model.
-stReportControlBlock offlineReportBlock(const ReportControlBlock &block);
+stReportControlBlock offlineReportControlBlock(const ReportControlBlock &block);

@@ -24,27 +24,27 @@ void ControlReader::readControls(std::uint32_t element, std::string_view deviceI
             error(child, say("The data set has no name."));
         if (!m_dataSets.emplace(set.name, dataSets.size()).second)
             error(child, say("There is another data set \"%1\".", set.name));
-        std::vector<DataSetMember> members;
+        std::vector<Fcda> members;
         m_tree.forEachChild(child, [&](std::uint32_t entry, Tag entryTag) {
             if (entryTag == Tag::Fcda) {
-                DataSetMember member;
+                Fcda member;
                 member.line = m_tree.at(entry).line;
                 members.push_back(member);
             }
         });
         if (members.empty())
             warn(child, say("The data set has no members."));
-        const std::span<DataSetMember> kept = keepMutable(members);
+        const std::span<Fcda> kept = keepMutable(members);
         set.members = kept;
         m_pendingSets.push_back({child, kept.data(), deviceInst});
         dataSets.push_back(set);
     });
     node.dataSets = keep(dataSets);
 
-    std::vector<ReportControl> reports;
-    std::vector<LogControl> logControls;
-    std::vector<GooseControl> gooseControls;
-    std::vector<SampledValueControl> sampledValueControls;
+    std::vector<ReportControlBlock> reports;
+    std::vector<LogControlBlock> logControls;
+    std::vector<GooseControlBlock> gooseControls;
+    std::vector<SampledValueControlBlock> sampledValueControls;
     std::vector<std::string_view> logs;
     std::set<std::pair<Tag, std::string_view>> names; // unique among blocks of their kind
     const auto checkName = [&](std::uint32_t child, std::string_view name) {
@@ -101,9 +101,9 @@ const DataSet *ControlReader::dataSetOf(std::uint32_t element, const LogicalNode
     return nullptr;
 }
 
-TriggerOptions ControlReader::readTriggers(std::uint32_t element)
+ConfiguredTriggers ControlReader::readTriggers(std::uint32_t element)
 {
-    TriggerOptions triggers;
+    ConfiguredTriggers triggers;
     const std::uint32_t child = m_tree.firstChild(element, Tag::TrgOps);
     if (child == noElement)
         return triggers;
@@ -115,9 +115,9 @@ TriggerOptions ControlReader::readTriggers(std::uint32_t element)
     return triggers;
 }
 
-ReportControl ControlReader::readReport(std::uint32_t element, const LogicalNode &node)
+ReportControlBlock ControlReader::readReport(std::uint32_t element, const LogicalNode &node)
 {
-    ReportControl report;
+    ReportControlBlock report;
     report.line = m_tree.at(element).line;
     report.name = trimmed(value(element, Attr::Name));
     report.desc = value(element, Attr::Desc);
@@ -175,9 +175,9 @@ ReportControl ControlReader::readReport(std::uint32_t element, const LogicalNode
     return report;
 }
 
-LogControl ControlReader::readLogControl(std::uint32_t element, const LogicalNode &node)
+LogControlBlock ControlReader::readLogControl(std::uint32_t element, const LogicalNode &node)
 {
-    LogControl log;
+    LogControlBlock log;
     log.line = m_tree.at(element).line;
     log.name = trimmed(value(element, Attr::Name));
     log.desc = value(element, Attr::Desc);
@@ -195,9 +195,9 @@ LogControl ControlReader::readLogControl(std::uint32_t element, const LogicalNod
     return log;
 }
 
-GooseControl ControlReader::readGooseControl(std::uint32_t element, const LogicalNode &node)
+GooseControlBlock ControlReader::readGooseControl(std::uint32_t element, const LogicalNode &node)
 {
-    GooseControl goose;
+    GooseControlBlock goose;
     goose.line = m_tree.at(element).line;
     goose.name = trimmed(value(element, Attr::Name));
     goose.desc = value(element, Attr::Desc);
@@ -212,10 +212,10 @@ GooseControl ControlReader::readGooseControl(std::uint32_t element, const Logica
     return goose;
 }
 
-SampledValueControl ControlReader::readSampledValueControl(std::uint32_t element,
-                                                           const LogicalNode &node)
+SampledValueControlBlock ControlReader::readSampledValueControl(std::uint32_t element,
+                                                                const LogicalNode &node)
 {
-    SampledValueControl control;
+    SampledValueControlBlock control;
     control.line = m_tree.at(element).line;
     control.name = trimmed(value(element, Attr::Name));
     control.desc = value(element, Attr::Desc);
@@ -246,7 +246,7 @@ void ControlReader::readSettingControl(std::uint32_t element, LogicalNode &node)
               say("The logical node has another setting group control; the first is used."));
         return;
     }
-    SettingControl control;
+    SettingControlBlock control;
     control.line = m_tree.at(element).line;
     control.desc = value(element, Attr::Desc);
     control.groupCount = number(element, Attr::NumOfSgs, "numOfSGs", 1);
@@ -267,7 +267,7 @@ void ControlReader::readSettingControl(std::uint32_t element, LogicalNode &node)
     node.settingControl = keepOne(control);
 }
 
-void ControlReader::resolveMembers(const Ied &ied)
+void ControlReader::resolveFcdas(const Ied &ied)
 {
     if (!m_pendingSets.empty()) {
         KnownDevices devices;
@@ -282,19 +282,18 @@ void ControlReader::resolveMembers(const Ied &ied)
         for (const PendingSet &pending : m_pendingSets) {
             if (stopped())
                 break;
-            DataSetMember *member = pending.members;
+            Fcda *member = pending.members;
             m_tree.forEachChild(pending.element, [&](std::uint32_t entry, Tag tag) {
                 if (tag == Tag::Fcda)
-                    resolveMember(entry, ied, devices, pending.deviceInst, *member++);
+                    resolveFcda(entry, ied, devices, pending.deviceInst, *member++);
             });
         }
     }
     m_pendingSets.clear();
 }
 
-void ControlReader::resolveMember(std::uint32_t element, const Ied &ied,
-                                  const KnownDevices &devices, std::string_view homeDevice,
-                                  DataSetMember &member)
+void ControlReader::resolveFcda(std::uint32_t element, const Ied &ied, const KnownDevices &devices,
+                                std::string_view homeDevice, Fcda &member)
 {
     const std::string_view written = trimmed(value(element, Attr::LdInst));
     const std::string_view deviceInst = written.empty() ? homeDevice : written;
@@ -324,7 +323,7 @@ void ControlReader::resolveMember(std::uint32_t element, const Ied &ied,
         if (node == device->second.nodes.end()) {
             problem = say("There is no logical node \"%1\" in \"%2\"", nodeName, deviceInst);
         } else {
-            problem = walkMember(*node->second, objectParts, parts, arrayIndex, member);
+            problem = walkFcda(*node->second, objectParts, parts, arrayIndex, member);
         }
     }
 
@@ -347,9 +346,9 @@ void ControlReader::resolveMember(std::uint32_t element, const Ied &ied,
         error(element, say("%1, so the member \"%2\" does not exist.", problem, reference));
 }
 
-wording::Text ControlReader::walkMember(const LogicalNode &node, std::size_t objectParts,
-                                        std::vector<PathPart> &parts, std::int32_t arrayIndex,
-                                        DataSetMember &member)
+wording::Text ControlReader::walkFcda(const LogicalNode &node, std::size_t objectParts,
+                                      std::vector<PathPart> &parts, std::int32_t arrayIndex,
+                                      Fcda &member)
 {
     if (member.fc.empty())
         return say("There is no functional constraint (attribute fc)");

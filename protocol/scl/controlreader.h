@@ -23,8 +23,8 @@ public:
     /// @param deviceInst logical device of the node, for members that name none
     void readControls(std::uint32_t element, std::string_view deviceInst, LogicalNode &node);
 
-    /// Resolves the members of all data sets read since the last call, when the IED is complete.
-    void resolveMembers(const Ied &ied);
+    /// Resolves the FCDAs of all data sets read since the last call, when the IED is complete.
+    void resolveFcdas(const Ied &ied);
 
 private:
     static constexpr std::uint32_t maxReportInstances = 99;
@@ -32,7 +32,7 @@ private:
     struct PendingSet
     {
         std::uint32_t element;
-        DataSetMember *members;
+        Fcda *members;
         std::string_view deviceInst;
     };
 
@@ -44,18 +44,18 @@ private:
     using KnownDevices = std::unordered_map<std::string_view, KnownDevice>;
 
     const DataSet *dataSetOf(std::uint32_t element, const LogicalNode &node, std::string_view name);
-    TriggerOptions readTriggers(std::uint32_t element);
-    ReportControl readReport(std::uint32_t element, const LogicalNode &node);
-    LogControl readLogControl(std::uint32_t element, const LogicalNode &node);
-    GooseControl readGooseControl(std::uint32_t element, const LogicalNode &node);
-    SampledValueControl readSampledValueControl(std::uint32_t element, const LogicalNode &node);
+    ConfiguredTriggers readTriggers(std::uint32_t element);
+    ReportControlBlock readReport(std::uint32_t element, const LogicalNode &node);
+    LogControlBlock readLogControl(std::uint32_t element, const LogicalNode &node);
+    GooseControlBlock readGooseControl(std::uint32_t element, const LogicalNode &node);
+    SampledValueControlBlock readSampledValueControl(std::uint32_t element,
+                                                     const LogicalNode &node);
     void readSettingControl(std::uint32_t element, LogicalNode &node);
-    void resolveMember(std::uint32_t element, const Ied &ied, const KnownDevices &devices,
-                       std::string_view homeDevice, DataSetMember &member);
+    void resolveFcda(std::uint32_t element, const Ied &ied, const KnownDevices &devices,
+                     std::string_view homeDevice, Fcda &member);
     /// Empty when the member exists, else what is wrong, as the begin of a sentence.
-    wording::Text walkMember(const LogicalNode &node, std::size_t objectParts,
-                             std::vector<PathPart> &parts, std::int32_t arrayIndex,
-                             DataSetMember &member);
+    wording::Text walkFcda(const LogicalNode &node, std::size_t objectParts,
+                           std::vector<PathPart> &parts, std::int32_t arrayIndex, Fcda &member);
 
     const TypeResolver &m_types;
     std::vector<PendingSet> m_pendingSets;

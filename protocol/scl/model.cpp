@@ -247,7 +247,7 @@ IedCounts countsOf(const Ied &ied)
             counts.dataSets += node.dataSets.size();
             for (const DataSet &set : node.dataSets)
                 counts.dataSetMembers += set.members.size();
-            for (const ReportControl &report : node.reports) {
+            for (const ReportControlBlock &report : node.reports) {
                 (report.buffered ? counts.bufferedReports : counts.unbufferedReports) +=
                     report.instanceNames.size();
             }

@@ -203,8 +203,8 @@ private:
     std::int32_t m_element = -1;
 };
 
-/// A member of a data set (FCDA).
-struct DataSetMember
+/// An FCDA: a member of a data set.
+struct Fcda
 {
     std::string_view reference; ///< "LD/LN$FC$DO$DA", array elements as in "phsAHar(7)"
     std::string_view fc;
@@ -218,11 +218,11 @@ struct DataSet
 {
     std::string_view name;
     std::string_view desc;
-    std::span<const DataSetMember> members;
+    std::span<const Fcda> members;
     std::uint32_t line = 0;
 };
 
-struct TriggerOptions
+struct ConfiguredTriggers
 {
     bool dataChange = false;
     bool qualityChange = false;
@@ -255,8 +255,8 @@ struct ClientNode
     std::string_view lnInst;
 };
 
-/// A ReportControl element with the blocks that it stands for.
-struct ReportControl
+/// A ReportControl element: the configuration of the blocks that it stands for.
+struct ReportControlBlock
 {
     std::string_view name; ///< as written, without index
     std::string_view desc;
@@ -270,14 +270,14 @@ struct ReportControl
     std::uint32_t integrityPeriod = 0; ///< milliseconds
     std::uint32_t confRev = 0;
     std::uint32_t reservationTime = 0; ///< attribute `resvTms`, seconds; 0 when not given
-    TriggerOptions triggers;
+    ConfiguredTriggers triggers;
     ReportOptionalFields fields;
     std::span<const std::string_view> instanceNames; ///< "urcb01", "urcb02" …, or just the name
     std::span<const ClientNode> clients;
     std::uint32_t line = 0;
 };
 
-struct LogControl
+struct LogControlBlock
 {
     std::string_view name;
     std::string_view desc;
@@ -291,11 +291,11 @@ struct LogControl
     bool enabled = true;
     bool reasonCode = true;
     std::uint32_t integrityPeriod = 0; ///< milliseconds
-    TriggerOptions triggers;
+    ConfiguredTriggers triggers;
     std::uint32_t line = 0;
 };
 
-struct GooseControl
+struct GooseControlBlock
 {
     std::string_view name;
     std::string_view desc;
@@ -308,7 +308,7 @@ struct GooseControl
     std::uint32_t line = 0;
 };
 
-struct SampledValueControl
+struct SampledValueControlBlock
 {
     std::string_view name;
     std::string_view desc;
@@ -328,7 +328,7 @@ struct SampledValueControl
     std::uint32_t line = 0;
 };
 
-struct SettingControl
+struct SettingControlBlock
 {
     std::string_view desc;
     std::uint32_t groupCount = 1;
@@ -348,12 +348,12 @@ struct LogicalNode
     const Template *type = nullptr; ///< null when the file lacks the LNodeType
     std::span<const InstanceNode> instances;
     std::span<const DataSet> dataSets;
-    std::span<const ReportControl> reports;
-    std::span<const LogControl> logControls;
-    std::span<const GooseControl> gooseControls;
-    std::span<const SampledValueControl> sampledValueControls;
+    std::span<const ReportControlBlock> reports;
+    std::span<const LogControlBlock> logControls;
+    std::span<const GooseControlBlock> gooseControls;
+    std::span<const SampledValueControlBlock> sampledValueControls;
     std::span<const std::string_view> logs;
-    const SettingControl *settingControl = nullptr;
+    const SettingControlBlock *settingControl = nullptr;
     std::uint32_t line = 0;
 
     /// Calls @p visit with a `DataNode` for each data object, in the order of the type.

@@ -102,7 +102,7 @@ private:
         }
         const std::span<const AccessPoint> kept = keep(points);
         ied.accessPoints = kept;
-        m_controls.resolveMembers(ied);
+        m_controls.resolveFcdas(ied);
         return ied;
     }
 

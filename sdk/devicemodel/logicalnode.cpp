@@ -3,7 +3,7 @@
 
 LogicalNode::LogicalNode()
     : dataSetGroup(new DataSetGroup)
-    , reportControls(new ReportControlList)
+    , reportControls(new ReportControlBlockList)
 {
 }
 

@@ -4,7 +4,7 @@
 #include "dataobject.h"
 #include "dataset.h"
 #include "devicemodelglobal.h"
-#include "reportcontrol.h"
+#include "reportcontrolblock.h"
 
 #include <QtCore/QList>
 #include <QtCore/QString>
@@ -33,7 +33,7 @@ struct DEVICEMODEL_EXPORT LogicalNode
     QString name;    ///< prefix, class and instance: the name used in references
     QList<DataObject *> dataObjects;
     DataSetGroup *dataSetGroup;
-    ReportControlList *reportControls;
+    ReportControlBlockList *reportControls;
     SettingGroupControl *settingGroup = nullptr;
 
     /// The first data set of that name; null when there is none.

@@ -74,7 +74,7 @@ public:
 };
 
 /// The tree as indented lines; "[ ]", "[x]" and "[-]" are check boxes.
-void describe(const QTreeWidgetItem *item, int depth, QStringList &lines)
+void addLines(const QTreeWidgetItem *item, int depth, QStringList &lines)
 {
     QString line(depth, QLatin1Char(' '));
     if (item->flags().testFlag(Qt::ItemIsUserCheckable)) {
@@ -85,7 +85,7 @@ void describe(const QTreeWidgetItem *item, int depth, QStringList &lines)
     }
     lines << line + item->text(0);
     for (int row = 0; row < item->childCount(); ++row)
-        describe(item->child(row), depth + 1, lines);
+        addLines(item->child(row), depth + 1, lines);
 }
 
 } // namespace
@@ -204,7 +204,7 @@ QStringList tst_DatasetSelectWidget::lines() const
 {
     QStringList result;
     for (int row = 0; row < tree()->topLevelItemCount(); ++row)
-        describe(tree()->topLevelItem(row), 0, result);
+        addLines(tree()->topLevelItem(row), 0, result);
     return result;
 }
 

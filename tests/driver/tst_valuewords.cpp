@@ -122,7 +122,7 @@ void tst_ValueWords::changesAreSaidInWords()
     change.reference = reference;
     change.oldValue = raw.at(0);
     change.newValue = raw.at(1);
-    ValueWords::describe(change, m_device);
+    ValueWords::addWords(change, m_device);
     QCOMPARE(change.oldWords, words.at(0));
     QCOMPARE(change.newWords, words.at(1));
     QCOMPARE(change.oldValue, raw.at(0));

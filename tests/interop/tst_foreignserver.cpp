@@ -119,8 +119,9 @@ Bytes bytesOf(const QByteArray &octets)
             static_cast<std::size_t>(octets.size())};
 }
 
-asio::awaitable<void> describe(asio::any_io_executor executor, std::uint16_t port,
-                               std::function<void(Result<acsi::ServerDescription>)> finished)
+asio::awaitable<void>
+fetchDescription(asio::any_io_executor executor, std::uint16_t port,
+                 std::function<void(Result<acsi::ServerDescription>)> finished)
 {
     // Not as temporaries: GCC 12 does not keep them over a co_await.
     const std::string host = "127.0.0.1";
@@ -806,7 +807,7 @@ TEST_F(ForeignServerTest, isDiscovered)
     wiretest::Loop loop;
     wiretest::Awaited<Result<acsi::ServerDescription>> discovered;
     asio::co_spawn(loop.executor(),
-                   describe(loop.executor(), m_server->port(), discovered.setter()),
+                   fetchDescription(loop.executor(), m_server->port(), discovered.setter()),
                    asio::detached);
     const auto found = discovered.get();
     ASSERT_TRUE(found.ok()) << found.error().message;

@@ -18,19 +18,19 @@ QString s(const char *text)
 }
 
 /// Kind and name of each node, one line each, indented by depth.
-void describe(const IEDNode *node, int depth, QStringList &lines)
+void addLines(const IEDNode *node, int depth, QStringList &lines)
 {
     lines << QString(depth, QLatin1Char(' ')) + QString::number(node->type) + QLatin1Char(' ') +
                  node->name();
     for (const IEDNode *const child : node->children)
-        describe(child, depth + 1, lines);
+        addLines(child, depth + 1, lines);
 }
 
 QStringList described(const IEDModel &model)
 {
     QStringList lines;
     if (const IEDNode *const root = IEDModel::nodeAt(model.index(0, 0)))
-        describe(root, 0, lines);
+        addLines(root, 0, lines);
     return lines;
 }
 

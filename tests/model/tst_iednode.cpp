@@ -44,7 +44,7 @@ void tst_IEDNode::theKindFollowsFromTheObject()
     DataSetGroup group;
     DataSet dataSet;
     DataSetMember member;
-    ReportControlList list;
+    ReportControlBlockList list;
     ReportControlBlock block;
 
     IEDNode root(&device);

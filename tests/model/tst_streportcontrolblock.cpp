@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "model/streportcontrolblock.h"
 
-#include <devicemodel/reportcontrol.h>
+#include <devicemodel/reportcontrolblock.h>
 
 #include <QtTest/QtTest>
 
@@ -75,7 +75,7 @@ void tst_StReportControlBlock::textsAndNumbersAreTakenFromTheDeviceModel()
     block.confRev = 7;
     block.bufferTime = 250;
 
-    const stReportControlBlock record = offlineReportBlock(block);
+    const stReportControlBlock record = offlineReportControlBlock(block);
     QCOMPARE(record.name, QStringLiteral("brcbEvents01"));
     QCOMPARE(record.rptId, QStringLiteral("LD0/LLN0$BR$brcbEvents01"));
     QCOMPARE(record.datSet, QStringLiteral("LLN0$Events"));
@@ -98,7 +98,7 @@ void tst_StReportControlBlock::eachFlagIsTakenFromItsOwnSetting()
     QFETCH(bool stReportControlBlock::*, offline);
     ReportControlBlock block;
     block.*configured = true;
-    const stReportControlBlock record = offlineReportBlock(block);
+    const stReportControlBlock record = offlineReportControlBlock(block);
     for (const Flag &flag : flags)
         QCOMPARE(record.*flag.offline, flag.offline == offline);
 }

@@ -23,7 +23,7 @@ LITERALS_OF = ["apps/iedctl"]
 ALL_OF = [
     "driver/**/*.cpp",
     "apps/workbench/devicestore.cpp",
-    "apps/workbench/embeddeddriver.cpp",
+    "apps/workbench/fileimport.cpp",
     "apps/workbench/extensionloader.cpp",
     "sdk/propertybrowser/numberguard.cpp",
     "sdk/propertybrowser/propertyeditors.cpp",

@@ -22,7 +22,7 @@ SOURCES = {
     "driver/text/sentencetable.cpp": 'QT_TRANSLATE_NOOP("IedDriver", "The device is away."),',
     "apps/iedctl/a.cpp": 'mistake("There is nothing to read here.");',
     "apps/workbench/devicestore.cpp": "",
-    "apps/workbench/embeddeddriver.cpp": "",
+    "apps/workbench/fileimport.cpp": "",
     "apps/workbench/extensionloader.cpp": "",
     "extension/tool/a.cpp": 'showWarning(this, tr("Fail"), tr("Nothing was sent to the device"));',
     "sdk/propertybrowser/numberguard.cpp": 'tr("The value is too \\"%1\\" for %2.");',

@@ -157,7 +157,7 @@ TEST(Demonstration, hasIndexedAndSingleReportBlocksOfBothKinds)
     std::map<std::pair<bool, bool>, int> blocks;
     bool withoutDataSet = false;
     forEachNode([&](const scl::LogicalDevice &, const scl::LogicalNode &node) {
-        for (const scl::ReportControl &report : node.reports) {
+        for (const scl::ReportControlBlock &report : node.reports) {
             ++blocks[{report.buffered, report.indexed}];
             withoutDataSet = withoutDataSet || report.dataSetName.empty();
         }
@@ -178,7 +178,7 @@ TEST(Demonstration, holdsArraysOfHarmonicsAndADataSetThatNamesSomeOfThem)
     bool elementInDataSet = false;
     forEachNode([&](const scl::LogicalDevice &, const scl::LogicalNode &node) {
         for (const scl::DataSet &dataSet : node.dataSets) {
-            for (const scl::DataSetMember &member : dataSet.members) {
+            for (const scl::Fcda &member : dataSet.members) {
                 EXPECT_TRUE(member.resolved) << member.reference;
                 if (member.reference.find("phsAHar(3)") != std::string_view::npos)
                     elementInDataSet = true;

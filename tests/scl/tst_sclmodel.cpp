@@ -21,7 +21,7 @@ protected:
     {
         return *nodeNamed(document(), name);
     }
-    const scl::ReportControl &report(std::size_t index) const
+    const scl::ReportControlBlock &report(std::size_t index) const
     {
         return node("LLN0").reports[index];
     }
@@ -188,7 +188,7 @@ TEST_F(SclModel, resolvesMembersOfDataSets)
     EXPECT_EQ(state->members[1].reference, "BAY1CTRL/Q0CSWI1$ST$Pos");
     EXPECT_EQ(state->members[2].reference, "FeederMeasurements/MHAI1$MX$HA$phsAHar(2)$cVal$mag$f");
     EXPECT_EQ(state->members[3].reference, "FeederMeasurements/MHAI1$MX$HA$phsAHar(1)$q");
-    for (const scl::DataSetMember &member : state->members) {
+    for (const scl::Fcda &member : state->members) {
         EXPECT_TRUE(member.resolved) << member.reference;
         EXPECT_NE(member.node, nullptr) << member.reference;
     }
@@ -199,7 +199,7 @@ TEST_F(SclModel, resolvesMembersOfDataSets)
 TEST_F(SclModel, readsEverySettingOfAReportControlBlock)
 {
     ASSERT_EQ(node("LLN0").reports.size(), 3U);
-    const scl::ReportControl &buffered = report(0);
+    const scl::ReportControlBlock &buffered = report(0);
     EXPECT_EQ(buffered.name, "brcb");
     EXPECT_EQ(buffered.desc, "Events");
     EXPECT_EQ(buffered.reportId, "events");
@@ -224,7 +224,7 @@ TEST_F(SclModel, readsEverySettingOfAReportControlBlock)
     ASSERT_EQ(buffered.clients.size(), 1U);
     EXPECT_EQ(buffered.clients.front().iedName, "HMI");
 
-    const scl::ReportControl &unbuffered = report(1);
+    const scl::ReportControlBlock &unbuffered = report(1);
     EXPECT_FALSE(unbuffered.buffered);
     EXPECT_FALSE(unbuffered.triggers.generalInterrogation);
     EXPECT_TRUE(unbuffered.reportId.empty());
@@ -232,7 +232,7 @@ TEST_F(SclModel, readsEverySettingOfAReportControlBlock)
 
 TEST_F(SclModel, anIndexedReportControlBlockHasNumberedInstances)
 {
-    const auto names = [](const scl::ReportControl &control) {
+    const auto names = [](const scl::ReportControlBlock &control) {
         return std::vector<std::string>(control.instanceNames.begin(), control.instanceNames.end());
     };
     EXPECT_EQ(names(report(0)), (std::vector<std::string>{"brcb01", "brcb02", "brcb03"}));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "simulator/client.h"
+#include "simulator/peer.h"
 
 #include <functional>
 #include <utility>
@@ -10,7 +10,7 @@
 namespace simtest {
 
 /// A client that only keeps what it is sent.
-class RecordingClient : public sim::Client
+class RecordingClient : public sim::Peer
 {
 public:
     explicit RecordingClient(std::vector<std::uint8_t> address = {192, 0, 2, 1})

@@ -46,12 +46,12 @@ public:
     {
     }
     void refresh() override { ++refreshed; }
-    std::optional<mms::AccessResult> read(Client &, const Part &part) override
+    std::optional<mms::AccessResult> read(Peer &, const Part &part) override
     {
         lastRead = m_model.itemName(part);
         return answer;
     }
-    std::optional<DataAccessError> write(Client &, const Part &part, const Data &value) override
+    std::optional<DataAccessError> write(Peer &, const Part &part, const Data &value) override
     {
         lastWritten = m_model.itemName(part);
         m_model.set(part, value);

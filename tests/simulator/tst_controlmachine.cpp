@@ -27,7 +27,7 @@ public:
     {
         log += "stop" + std::to_string(static_cast<int>(cause)) + ' ';
     }
-    void send(sim::Client &client, mms::InformationReport report) override
+    void send(sim::Peer &client, mms::InformationReport report) override
     {
         const auto information = acsi::controlInformationFrom(report);
         ASSERT_TRUE(information.has_value());
@@ -43,7 +43,7 @@ public:
         receiver = &client;
     }
 
-    void sendLater(sim::Client &client, mms::InformationReport report) override
+    void sendLater(sim::Peer &client, mms::InformationReport report) override
     {
         log += "later ";
         send(client, std::move(report));
@@ -59,7 +59,7 @@ public:
     sim::ControlSettings configuration;
     AddCause forbidden = AddCause::None;
     std::string log;
-    const sim::Client *receiver = nullptr;
+    const sim::Peer *receiver = nullptr;
 };
 
 class ControlMachineTest : public testing::Test
@@ -79,16 +79,16 @@ protected:
     void use(ControlModel model) { m_process.configuration.model = model; }
 
     // Each is "+" or "-", and what happened meanwhile.
-    std::string selectByRead(sim::Client &client) { return told(m_machine.select(client)); }
-    std::string select(sim::Client &client)
+    std::string selectByRead(sim::Peer &client) { return told(m_machine.select(client)); }
+    std::string select(sim::Peer &client)
     {
         return told(!m_machine.selectWithValue(client, m_request));
     }
-    std::string operate(sim::Client &client)
+    std::string operate(sim::Peer &client)
     {
         return told(!m_machine.operate(client, m_request, Data::structure({Data::boolean(true)})));
     }
-    std::string cancel(sim::Client &client) { return told(!m_machine.cancel(client, m_request)); }
+    std::string cancel(sim::Peer &client) { return told(!m_machine.cancel(client, m_request)); }
 
     std::string pass(std::chrono::milliseconds time)
     {

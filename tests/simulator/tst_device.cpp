@@ -268,19 +268,19 @@ class WatchingEngine : public sim::Engine
 public:
     struct Seen
     {
-        std::vector<sim::Client *> clients;
+        std::vector<sim::Peer *> clients;
         wiretest::Awaited<bool> left;
     };
     explicit WatchingEngine(std::shared_ptr<Seen> seen)
         : m_seen(std::move(seen))
     {
     }
-    void opened(sim::Client &client) override
+    void opened(sim::Peer &client) override
     {
         m_seen->clients.push_back(&client);
         client.report({ObjectName::ofVmd("RPT"), {Data::boolean(true)}});
     }
-    void closed(sim::Client &client) override
+    void closed(sim::Peer &client) override
     {
         std::erase(m_seen->clients, &client);
         m_seen->left.setter()(true);

@@ -107,9 +107,9 @@ protected:
         };
     }
     template <typename Request>
-    Outcome ask(void (sim::FileService::*service)(sim::Client &, const Request &,
+    Outcome ask(void (sim::FileService::*service)(sim::Peer &, const Request &,
                                                   sim::FileService::Answer),
-                const Request &request, sim::Client &client)
+                const Request &request, sim::Peer &client)
     {
         std::optional<Outcome> outcome;
         (files().*service)(client, request, taking(outcome));

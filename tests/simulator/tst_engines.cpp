@@ -25,7 +25,7 @@ protected:
 
     sim::Part part(const std::string &item) const { return m_model.find("IED1LD", item); }
 
-    mms::AccessResult read(const std::string &item, sim::Client &client)
+    mms::AccessResult read(const std::string &item, sim::Peer &client)
     {
         return m_access.read(client, part(item));
     }
@@ -36,7 +36,7 @@ protected:
         return result.ok() ? result.data() : Data();
     }
     std::optional<DataAccessError> write(const std::string &item, const Data &value,
-                                         sim::Client &client)
+                                         sim::Peer &client)
     {
         return m_access.write(client, part(item), value);
     }
@@ -49,7 +49,7 @@ protected:
         m_model.set(part(item).firstLeaf(), std::move(value));
     }
 
-    void leave(sim::Client &client)
+    void leave(sim::Peer &client)
     {
         for (const auto &engine : m_engines)
             engine->closed(client);

@@ -21,7 +21,7 @@ namespace {
 class Plant : public sim::ReportHost
 {
 public:
-    std::shared_ptr<sim::DataSet> dataSet(const sim::Client *client,
+    std::shared_ptr<sim::DataSet> dataSet(const sim::Peer *client,
                                           const std::string &reference) override
     {
         if (reference.starts_with('@') && !client)
@@ -41,8 +41,8 @@ public:
     {
         return measured.count(member) != 0;
     }
-    bool isReady(const sim::Client &) override { return ready; }
-    void send(sim::Client &client, acsi::Report report) override
+    bool isReady(const sim::Peer &) override { return ready; }
+    void send(sim::Peer &client, acsi::Report report) override
     {
         receivers.push_back(&client);
         sent.push_back(std::move(report));
@@ -59,7 +59,7 @@ public:
     std::map<std::size_t, std::int64_t> values;
     std::set<std::size_t> measured;
     std::vector<acsi::Report> sent;
-    std::vector<const sim::Client *> receivers;
+    std::vector<const sim::Peer *> receivers;
     bool ready = true;
 };
 
@@ -91,17 +91,14 @@ protected:
     }
 
     /// "" when written, else the error's number.
-    std::string write(sim::Client &client, std::string_view attribute, const Data &data)
+    std::string write(sim::Peer &client, std::string_view attribute, const Data &data)
     {
         const auto refused = m_block->write(client, attribute, data);
         run();
         return refused ? mms::describe(*refused).english() : std::string();
     }
-    std::string enable(sim::Client &client) { return write(client, "RptEna", Data::boolean(true)); }
-    std::string disable(sim::Client &client)
-    {
-        return write(client, "RptEna", Data::boolean(false));
-    }
+    std::string enable(sim::Peer &client) { return write(client, "RptEna", Data::boolean(true)); }
+    std::string disable(sim::Peer &client) { return write(client, "RptEna", Data::boolean(false)); }
 
     void run()
     {
@@ -169,7 +166,7 @@ protected:
     Plant m_plant;
     simtest::RecordingClient m_client{{192, 0, 2, 1}};
     simtest::RecordingClient m_other{{192, 0, 2, 2}};
-    sim::ReportBlockConfig m_config;
+    sim::ReportControlBlock m_config;
     std::unique_ptr<sim::ReportBlock> m_block;
 };
 

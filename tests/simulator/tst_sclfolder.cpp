@@ -170,7 +170,7 @@ std::size_t blocksOf(const scl::LogicalNode &node)
 {
     std::size_t count = node.logControls.size() + node.gooseControls.size() +
                         node.sampledValueControls.size() + (node.settingControl ? 1 : 0);
-    for (const scl::ReportControl &report : node.reports)
+    for (const scl::ReportControlBlock &report : node.reports)
         count += report.instanceNames.size();
     return count;
 }

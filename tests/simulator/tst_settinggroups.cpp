@@ -34,15 +34,15 @@ private:
 class SettingGroupsTest : public testing::Test
 {
 protected:
-    std::optional<DataAccessError> active(sim::Client &client, std::uint64_t group)
+    std::optional<DataAccessError> active(sim::Peer &client, std::uint64_t group)
     {
         return m_groups.write(client, "ActSG", Data::unsignedInteger(group));
     }
-    std::optional<DataAccessError> edit(sim::Client &client, std::uint64_t group)
+    std::optional<DataAccessError> edit(sim::Peer &client, std::uint64_t group)
     {
         return m_groups.write(client, "EditSG", Data::unsignedInteger(group));
     }
-    std::optional<DataAccessError> confirm(sim::Client &client)
+    std::optional<DataAccessError> confirm(sim::Peer &client)
     {
         return m_groups.write(client, "CnfEdit", Data::boolean(true));
     }

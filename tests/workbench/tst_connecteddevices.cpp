@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The workbench with devices that are reached over MMS on the loopback interface.
-#include "workbench/embeddeddriver.h"
+#include "workbench/fileimport.h"
 #include "workbench/simulateddevice.h"
 #include "workbench/workbench.h"
 

@@ -3,7 +3,7 @@
 #include "driver/simulatedstation.h"
 
 #include "workbench/devicedialog.h"
-#include "workbench/embeddeddriver.h"
+#include "workbench/fileimport.h"
 #include "workbench/mainwindow.h"
 #include "workbench/simulateddevice.h"
 #include "workbench/tableview.h"

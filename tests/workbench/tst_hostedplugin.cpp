@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The real plug-in in the real window, loaded at run time.
-#include "workbench/embeddeddriver.h"
+#include "workbench/fileimport.h"
 #include "workbench/mainwindow.h"
 #include "workbench/workbench.h"
 

@@ -3,7 +3,7 @@
 // in one process: what the operator guide says of the tools.
 #include "support/modaldriver.h"
 
-#include "workbench/embeddeddriver.h"
+#include "workbench/fileimport.h"
 #include "workbench/mainwindow.h"
 #include "workbench/workbench.h"
 

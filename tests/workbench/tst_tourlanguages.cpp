@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The tour in the language of this process: English, or what LC_ALL names.
 #include "looks/lookcheck.h"
-#include "workbench/embeddeddriver.h"
+#include "workbench/fileimport.h"
 #include "workbench/mainwindow.h"
 #include "workbench/tour.h"
 #include "workbench/translators.h"

@@ -3,7 +3,7 @@
 #include "looks/lookcheck.h"
 #include "workbench/backgroundjobs.h"
 #include "workbench/devicedialog.h"
-#include "workbench/embeddeddriver.h"
+#include "workbench/fileimport.h"
 #include "workbench/iedchooser.h"
 #include "workbench/mainwindow.h"
 #include "workbench/tracedialog.h"

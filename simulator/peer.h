@@ -10,12 +10,13 @@
 
 namespace sim {
 
-/// Somebody who has an association with the device. Its address in memory says who it is; it lives
-/// from Engine::opened() until Engine::closed() has returned. Belongs to the device's strand.
-class Client
+/// A client that has an association with the device, as the device sees it. Its address in memory
+/// says who it is; it lives from Engine::opened() until Engine::closed() has returned. Belongs to
+/// the device's strand.
+class Peer
 {
 public:
-    virtual ~Client() = default;
+    virtual ~Peer() = default;
 
     /// Send a report. One that is longer than pduSize(), see mms::encodedSize(), is not sent.
     virtual void report(mms::InformationReport report) = 0;

@@ -41,11 +41,11 @@ struct ReportControlBlock
 };
 
 /// The report control blocks of one logical node. Owns them.
-struct DEVICEMODEL_EXPORT ReportControlList
+struct DEVICEMODEL_EXPORT ReportControlBlockList
 {
-    ReportControlList() = default;
-    ~ReportControlList();
-    Q_DISABLE_COPY(ReportControlList)
+    ReportControlBlockList() = default;
+    ~ReportControlBlockList();
+    Q_DISABLE_COPY(ReportControlBlockList)
 
     QString name = QStringLiteral("ReportControl");
     QList<ReportControlBlock *> blocks;

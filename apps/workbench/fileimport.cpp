@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "embeddeddriver.h"
+#include "fileimport.h"
 
 #include "simulateddevice.h"
 
@@ -13,7 +13,7 @@ namespace {
 
 struct Texts
 {
-    Q_DECLARE_TR_FUNCTIONS(EmbeddedDriver)
+    Q_DECLARE_TR_FUNCTIONS(EmbeddedDriver) // the catalogues' name for this file's sentences
 };
 
 QString text(std::string_view bytes)

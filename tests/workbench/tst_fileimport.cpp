@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "workbench/embeddeddriver.h"
+#include "workbench/fileimport.h"
 
 #include "workbench/simulateddevice.h"
 
@@ -37,7 +37,7 @@ QByteArray sclFile(const QByteArray &ieds)
 
 } // namespace
 
-class tst_EmbeddedDriver : public QObject
+class tst_FileImport : public QObject
 {
     Q_OBJECT
 
@@ -60,12 +60,12 @@ private:
     QTemporaryDir m_folder;
 };
 
-void tst_EmbeddedDriver::initTestCase()
+void tst_FileImport::initTestCase()
 {
     QVERIFY(m_folder.isValid());
 }
 
-QString tst_EmbeddedDriver::file(const QString &name, const QByteArray &content) const
+QString tst_FileImport::file(const QString &name, const QByteArray &content) const
 {
     QFile made(m_folder.filePath(name));
     if (!made.open(QIODevice::WriteOnly) || made.write(content) != content.size())
@@ -73,7 +73,7 @@ QString tst_EmbeddedDriver::file(const QString &name, const QByteArray &content)
     return made.fileName();
 }
 
-ImportResult tst_EmbeddedDriver::import(const QString &path, const QString &iedName, bool cancelled)
+ImportResult tst_FileImport::import(const QString &path, const QString &iedName, bool cancelled)
 {
     const std::atomic<bool> flag{cancelled};
     ImportRequest request;
@@ -82,7 +82,7 @@ ImportResult tst_EmbeddedDriver::import(const QString &path, const QString &iedN
     return importFromFile(request, flag, [](double) {});
 }
 
-void tst_EmbeddedDriver::theOnlyIedIsImported()
+void tst_FileImport::theOnlyIedIsImported()
 {
     const ImportResult result = import(file(QStringLiteral("one.icd"), sclFile(ied("BAY1"))));
     QVERIFY2(result.status == ImportResult::Imported, qPrintable(result.error));
@@ -92,7 +92,7 @@ void tst_EmbeddedDriver::theOnlyIedIsImported()
     QCOMPARE(result.attributes, 1U);
 }
 
-void tst_EmbeddedDriver::whatWasImportedIsWhatTheDriverAnswers()
+void tst_FileImport::whatWasImportedIsWhatTheDriverAnswers()
 {
     const ImportResult result = import(file(QStringLiteral("one.icd"), sclFile(ied("BAY1"))));
     QCOMPARE(result.status, ImportResult::Imported);
@@ -115,7 +115,7 @@ void tst_EmbeddedDriver::whatWasImportedIsWhatTheDriverAnswers()
     QVERIFY(!error.isEmpty());
 }
 
-void tst_EmbeddedDriver::severalIedsAskForAChoice()
+void tst_FileImport::severalIedsAskForAChoice()
 {
     const ImportResult result = import(
         file(QStringLiteral("two.scd"), sclFile(ied("BAY1") + ied("HMI", false) + ied("BAY2"))));
@@ -128,7 +128,7 @@ void tst_EmbeddedDriver::severalIedsAskForAChoice()
     QCOMPARE(result.ieds[1].logicalDevices, 0);
 }
 
-void tst_EmbeddedDriver::aNamedIedIsImported()
+void tst_FileImport::aNamedIedIsImported()
 {
     const ImportResult result =
         import(file(QStringLiteral("two.scd"), sclFile(ied("BAY1") + ied("BAY2"))),
@@ -137,7 +137,7 @@ void tst_EmbeddedDriver::aNamedIedIsImported()
     QCOMPARE(result.ied, QStringLiteral("BAY2"));
 }
 
-void tst_EmbeddedDriver::aCarelessChoiceGivesOneSentence_data()
+void tst_FileImport::aCarelessChoiceGivesOneSentence_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("iedName");
@@ -158,7 +158,7 @@ void tst_EmbeddedDriver::aCarelessChoiceGivesOneSentence_data()
                                << QStringLiteral("BAY9");
 }
 
-void tst_EmbeddedDriver::aCarelessChoiceGivesOneSentence()
+void tst_FileImport::aCarelessChoiceGivesOneSentence()
 {
     QFETCH(const QString, path);
     QFETCH(const QString, iedName);
@@ -168,7 +168,7 @@ void tst_EmbeddedDriver::aCarelessChoiceGivesOneSentence()
     QVERIFY(result.model.isEmpty());
 }
 
-void tst_EmbeddedDriver::aCancelledImportGivesNoDevice()
+void tst_FileImport::aCancelledImportGivesNoDevice()
 {
     const ImportResult result =
         import(file(QStringLiteral("one.icd"), sclFile(ied("BAY1"))), {}, true);
@@ -176,7 +176,7 @@ void tst_EmbeddedDriver::aCancelledImportGivesNoDevice()
     QVERIFY(result.model.isEmpty());
 }
 
-void tst_EmbeddedDriver::aSimulationIsADeviceOfTheFileOnTheLoopbackInterface()
+void tst_FileImport::aSimulationIsADeviceOfTheFileOnTheLoopbackInterface()
 {
     ImportRequest request;
     request.file = file(QStringLiteral("one.icd"), sclFile(ied("BAY1")));
@@ -198,7 +198,7 @@ void tst_EmbeddedDriver::aSimulationIsADeviceOfTheFileOnTheLoopbackInterface()
     QVERIFY(test.roundTrip.count() > 0);
 }
 
-void tst_EmbeddedDriver::aSimulationTakesThePortItHadBeforeWhenThatIsFree()
+void tst_FileImport::aSimulationTakesThePortItHadBeforeWhenThatIsFree()
 {
     ImportRequest request;
     request.file = file(QStringLiteral("one.icd"), sclFile(ied("BAY1")));
@@ -216,5 +216,5 @@ void tst_EmbeddedDriver::aSimulationTakesThePortItHadBeforeWhenThatIsFree()
     QCOMPARE(again.simulation->port(), request.port);
 }
 
-QTEST_GUILESS_MAIN(tst_EmbeddedDriver)
-#include "tst_embeddeddriver.moc"
+QTEST_GUILESS_MAIN(tst_FileImport)
+#include "tst_fileimport.moc"
