@@ -4,6 +4,8 @@
 
 #include "support/memoryuse.h"
 
+#include <devicemodel/physicaldevice.h>
+
 #include <QtCore/QElapsedTimer>
 #include <QtTest/QtTest>
 
@@ -131,6 +133,10 @@ private slots:
     void everyStepEndsWithASentenceAndHarmsNobody_data();
     void everyStepEndsWithASentenceAndHarmsNobody();
     void aServerThatIsExchangedInTheMiddleIsNotChanged();
+    void forgedNamesAreToldInASentenceOrShownAsTheyAre_data();
+    void forgedNamesAreToldInASentenceOrShownAsTheyAre();
+    void aListOfFilesWithoutAnEndIsGivenUp_data();
+    void aListOfFilesWithoutAnEndIsGivenUp();
 
 private:
     QTemporaryDir m_folder;
@@ -322,6 +328,140 @@ void tst_HostileServers::aServerThatIsExchangedInTheMiddleIsNotChanged()
         return status.state == DeviceState::Online && status.vendor != "Somebody else";
     }));
     QCOMPARE(driver.readVariable(1, first.domain(), {first.item(0)}, error), OperationSucceeded);
+}
+
+void tst_HostileServers::forgedNamesAreToldInASentenceOrShownAsTheyAre_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::newRow("for a terminal") << QByteArray("LLN0\x1b]0;owned\x07\x1b[2J\r\n");
+    QTest::newRow("of a path") << QByteArray("../../../etc/passwd");
+    QTest::newRow("of no length") << QByteArray();
+    QTest::newRow("of 60,000 octets") << QByteArray(60000, 'N');
+    QTest::newRow("with a zero in it") << QByteArray("LLN0\0ST", 7);
+    QTest::newRow("of steps only") << QByteArray("$$$$$$$$$$$$$$$$");
+    QTest::newRow("of no text") << QByteArray("\xff\xfe\x80LLN0");
+    QTest::newRow("of a table's formula") << QByteArray("=cmd|' /C calc'!A0,\"\n");
+    QTest::newRow("of rich text") << QByteArray("<img src=http://127.0.0.1/x>");
+}
+
+void tst_HostileServers::forgedNamesAreToldInASentenceOrShownAsTheyAre()
+{
+    QFETCH(QByteArray, name);
+    HostileDevice &device = *m_devices[2];
+    device.line().behave();
+    device.ied().stop();
+    device.ied().setRequestFilter([name](const std::shared_ptr<mms::Association> &association,
+                                         std::uint32_t invokeId, mms::RequestService &request) {
+        if (!std::holds_alternative<mms::GetNameListRequest>(request))
+            return false;
+        const std::string forged = name.toStdString();
+        association->respond(
+            invokeId, mms::GetNameListResponse{
+                          {"LD", forged, forged + "$ST$Ind1", "LLN0$ST$" + forged, forged}, false});
+        return true;
+    });
+    device.ied().start();
+    device.line().exchange(device.ied().port());
+
+    Listener listener;
+    IedDriver driver(listener.options());
+    DeviceConfiguration configuration = configurationOf(device, 1);
+    configuration.callTimeout = milliseconds(5000);
+    configuration.operationTimeout = milliseconds(15000);
+    driver.setDevice(configuration);
+    driver.connectDevice(1);
+    QVERIFY(listener.waitForStatus(1, [](const DeviceStatus &status) {
+        return status.state == DeviceState::Online ||
+               (status.state == DeviceState::Waiting && !status.reason.isEmpty());
+    }));
+    const DeviceStatus status = driver.status(1);
+    if (status.state == DeviceState::Online) {
+        QByteArray bytes;
+        QString error;
+        QCOMPARE(driver.getIEDModel(1, bytes, error), OperationSucceeded);
+        PhysicalDevice model;
+        QDataStream stream(bytes);
+        model.fromStream(stream);
+        QCOMPARE(stream.status(), QDataStream::Ok);
+        QVERIFY(stream.atEnd());
+    }
+    QVERIFY2(status.reason.isEmpty() || isSentence(status.reason), qPrintable(status.reason));
+
+    // With its own names again it is read again.
+    driver.disconnectDevice(1);
+    QVERIFY(listener.waitForState(1, DeviceState::Disconnected));
+    device.ied().stop();
+    device.ied().setRequestFilter({});
+    device.ied().start();
+    device.line().exchange(device.ied().port());
+    driver.connectDevice(1);
+    QString error;
+    QTRY_VERIFY2_WITH_TIMEOUT(driver.readVariable(1, device.domain(), {device.item(0)}, error) ==
+                                  OperationSucceeded,
+                              qPrintable(error), 30000);
+}
+
+void tst_HostileServers::aListOfFilesWithoutAnEndIsGivenUp_data()
+{
+    QTest::addColumn<int>("namesInAPage");
+    QTest::addColumn<bool>("areNew");
+    QTest::newRow("always the same names") << 100 << false;
+    QTest::newRow("always new names") << 100 << true;
+    QTest::newRow("pages without a name") << 0 << false;
+}
+
+void tst_HostileServers::aListOfFilesWithoutAnEndIsGivenUp()
+{
+    QFETCH(int, namesInAPage);
+    QFETCH(bool, areNew);
+    HostileDevice &device = *m_devices[3];
+    device.line().behave();
+    device.ied().stop();
+    const auto pages = std::make_shared<std::atomic<int>>(0);
+    device.ied().setRequestFilter([=](const std::shared_ptr<mms::Association> &association,
+                                      std::uint32_t invokeId, mms::RequestService &request) {
+        if (!std::holds_alternative<mms::FileDirectoryRequest>(request))
+            return false;
+        const int page = ++*pages;
+        mms::FileDirectoryResponse answer;
+        for (int i = 0; i < namesInAPage; ++i) {
+            const int number = areNew ? page * namesInAPage + i : i;
+            answer.entries.push_back({{"record" + std::to_string(number)}, {}});
+        }
+        answer.moreFollows = true;
+        association->respond(invokeId, std::move(answer));
+        return true;
+    });
+    device.ied().start();
+    device.line().exchange(device.ied().port());
+
+    Listener listener;
+    IedDriver driver(listener.options());
+    DeviceConfiguration configuration = configurationOf(device, 1);
+    configuration.callTimeout = milliseconds(3000);
+    configuration.operationTimeout = milliseconds(6000);
+    QCOMPARE(driver.setDevice(configuration), QStringList());
+    driver.connectDevice(1);
+    QVERIFY(listener.waitForState(1, DeviceState::Online));
+    const qint64 before = testsupport::memoryInUse();
+    QList<MMSFileEntry> entries;
+    QString error;
+    QVERIFY(driver.getFileDirectory(1, {}, {}, entries, error) != OperationSucceeded);
+    QVERIFY2(isSentence(error), qPrintable(error));
+    QVERIFY(*pages > 1);
+    const qint64 growth = testsupport::memoryInUse() - before;
+    QVERIFY2(growth < tolerableGrowth, qPrintable(QString::number(growth)));
+
+    // Nobody asks on for what nobody waits for, and other things go on.
+    QTRY_VERIFY2_WITH_TIMEOUT(driver.readVariable(1, device.domain(), {device.item(0)}, error) ==
+                                  OperationSucceeded,
+                              qPrintable(error), 30000);
+    const int asked = *pages;
+    QCOMPARE(driver.readVariable(1, device.domain(), {device.item(1)}, error), OperationSucceeded);
+    QCOMPARE(int(*pages), asked);
+    device.ied().stop();
+    device.ied().setRequestFilter({});
+    device.ied().start();
 }
 
 QTEST_GUILESS_MAIN(tst_HostileServers)
