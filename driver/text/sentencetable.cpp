@@ -412,7 +412,6 @@ constexpr const char *table[] = {
     QT_TRANSLATE_NOOP("IedDriver", "The peer ended the transport connection normally."),
     QT_TRANSLATE_NOOP("IedDriver", "The peer ended the transport connection with reason %1."),
     QT_TRANSLATE_NOOP("IedDriver", "The peer ended the transport connection without a reason."),
-    QT_TRANSLATE_NOOP("IedDriver", "The peer gave no sign of life in time."),
     QT_TRANSLATE_NOOP("IedDriver", "The peer has shown no certificate."),
     QT_TRANSLATE_NOOP("IedDriver", "The peer knows the certificate of this side and denies it access."),
     QT_TRANSLATE_NOOP("IedDriver", "The peer refuses a parameter code of the transport unit."),

@@ -620,13 +620,10 @@ void Association::startTimer()
     if (!m_open)
         return;
     auto deadline = m_table.nextDeadline();
-    const auto consider = [&deadline](CallTable::Clock::time_point time) {
-        deadline = deadline ? std::min(*deadline, time) : time;
-    };
-    if (m_options.keepAlive.count() > 0 && !m_isAskingForLife)
-        consider(m_nextLifeCheck);
-    if (m_options.idleLimit.count() > 0)
-        consider(m_link->lastHeard() + m_options.idleLimit);
+    if (m_options.idleLimit.count() > 0) {
+        const auto idle = m_link->lastHeard() + m_options.idleLimit;
+        deadline = deadline ? std::min(*deadline, idle) : idle;
+    }
     if (!deadline || (m_timerRuns && m_timer.expiry() <= *deadline))
         return;
     m_timer.expires_at(*deadline);
@@ -656,8 +653,6 @@ void Association::expireTimer()
         m_link->abort(say("The peer said nothing for %1 ms.", m_options.idleLimit.count()));
         return;
     }
-    if (m_open && m_options.keepAlive.count() > 0 && !m_isAskingForLife && now >= m_nextLifeCheck)
-        askForSignOfLife(now);
     sendCalls();
 }
 
@@ -675,30 +670,6 @@ bool Association::isIdle(CallTable::Clock::time_point now) const
            m_link->lastHeard() + m_options.idleLimit <= now;
 }
 
-void Association::askForSignOfLife(CallTable::Clock::time_point now)
-{
-    m_nextLifeCheck = m_link->lastHeard() + m_options.keepAlive;
-    if (m_nextLifeCheck > now)
-        return;
-    if (!m_table.hasPlace() || m_isConcluding) {
-        m_nextLifeCheck = now + m_options.keepAlive;
-        return;
-    }
-    m_isAskingForLife = true;
-    RequestService request = IdentifyRequest();
-    if (m_peerServices.test(static_cast<std::size_t>(Service::Status)))
-        request = StatusRequest();
-    const auto judge = [this, now](const CallOutcome &outcome) {
-        m_isAskingForLife = false;
-        m_nextLifeCheck = std::max(m_link->lastHeard(), now) + m_options.keepAlive;
-        const auto *none = std::get_if<CallFailure>(&outcome);
-        if (none && none->kind == CallFailure::Kind::TimedOut && m_link->lastHeard() < now)
-            m_link->abort(say("The peer gave no sign of life in time."));
-    };
-    const CallTable::Ticket ticket = m_table.add(now + m_options.keepAliveTimeout);
-    m_calls.emplace(ticket, Call{++m_lastId, std::move(request), judge});
-}
-
 bool Association::send(const Pdu &pdu)
 {
     ber::Writer writer;
@@ -714,7 +685,6 @@ void Association::open(const InitiateParameters &parameters)
     m_negotiated = parameters;
     m_pduSize = static_cast<std::size_t>(*parameters.maxPduSize);
     m_open = true;
-    m_nextLifeCheck = CallTable::Clock::now() + m_options.keepAlive;
     startTimer();
     if (auto opened = std::exchange(m_opened, nullptr))
         opened(parameters);

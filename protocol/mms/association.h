@@ -72,11 +72,6 @@ struct AssociationOptions
     BitString services;
     /// How long a call that was given up keeps its place.
     std::chrono::milliseconds grace{10000};
-    /// After so long a silence of the peer a sign of life is asked for, by Status or Identify; 0
-    /// for never. Calls that wait for their answer have their own deadlines and are not disturbed.
-    std::chrono::milliseconds keepAlive{0};
-    /// Until the sign of life must have come; the association is aborted otherwise.
-    std::chrono::milliseconds keepAliveTimeout{5000};
     /// How long conclude() waits for calls under way before it gives them up.
     std::chrono::milliseconds concludePatience{1000};
     /// A peer that says nothing for so long is cut off; 0 for never. Meant for servers.
@@ -225,7 +220,6 @@ private:
     void expireTimer();
     void tellCancelled(CallTable::Ticket ticket);
     bool isIdle(CallTable::Clock::time_point now) const;
-    void askForSignOfLife(CallTable::Clock::time_point now);
     bool send(const Pdu &pdu);
     void open(const InitiateParameters &parameters);
     void close(const Text &reason);
@@ -248,8 +242,6 @@ private:
     std::vector<std::uint32_t> m_openRequests;
     BitString m_peerServices;
     bool m_refusesCancel = false;
-    CallTable::Clock::time_point m_nextLifeCheck;
-    bool m_isAskingForLife = false;
     CallTable m_table;
     std::map<CallTable::Ticket, Call> m_calls;
     asio::steady_timer m_timer;

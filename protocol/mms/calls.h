@@ -64,8 +64,6 @@ public:
     /// All calls that are not over, oldest first. They are over now.
     std::vector<Ticket> clear();
 
-    /// A call that came now would be sent at once.
-    bool hasPlace() const { return m_waiting.empty() && m_sent.size() < m_limit; }
     std::size_t onTheWay() const { return m_sent.size(); }
     std::size_t waiting() const { return m_waiting.size(); }
     const Counters &counters() const { return m_counters; }

@@ -732,3 +732,23 @@ TEST_F(AssociationTest, AnAttemptUnderWayGoesWithItsContext)
     }
     EXPECT_TRUE(attempt.expired());
 }
+
+TEST_F(AssociationTest, AServerCutsOffAClientThatIsIdleForTooLong)
+{
+    ServerOptions server;
+    server.association.idleLimit = 150ms;
+    ASSERT_TRUE(connect(startServer(server), quickOptions()).ok());
+    EXPECT_EQ(m_device->end.get(), "The peer said nothing for 150 ms.");
+    EXPECT_EQ(m_clientEnd.get(), "The peer aborted the association.");
+}
+
+TEST_F(AssociationTest, AClientThatCallsNowAndThenIsNotIdle)
+{
+    ServerOptions server;
+    server.association.idleLimit = 1s;
+    ASSERT_TRUE(connect(startServer(server), quickOptions()).ok());
+    for (int i = 0; i < 4; ++i) {
+        std::this_thread::sleep_for(350ms);
+        EXPECT_NE(answerOf<IdentifyResponse>(call(IdentifyRequest())), nullptr);
+    }
+}
