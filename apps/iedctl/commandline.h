@@ -3,7 +3,7 @@
 
 #include "exitstatus.h"
 
-#include "driver/device/deviceconfiguration.h"
+#include "driver/administration/deviceconfiguration.h"
 
 #include <QtCore/QString>
 #include <QtCore/QStringList>

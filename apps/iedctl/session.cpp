@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "session.h"
 
-#include "driver/core/devicestatus.h"
+#include "driver/administration/publishcause.h"
 
 #include <QtCore/QDataStream>
 #include <QtCore/QSet>

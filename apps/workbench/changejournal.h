@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "driver/core/devicestatus.h"
+#include "driver/administration/devicechange.h"
 
 #include <QtCore/QAbstractTableModel>
 #include <QtCore/QFile>

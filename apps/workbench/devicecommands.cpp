@@ -83,6 +83,9 @@ void DeviceCommands::showDialog(const DeviceRecord &record)
     auto *dialog = new DeviceDialog(
         record, [this](const DeviceRecord &wanted) { return m_workbench.put(wanted); },
         [&driver = m_workbench.driver()](const DeviceConfiguration &configuration) {
+            return driver.faults(configuration);
+        },
+        [&driver = m_workbench.driver()](const DeviceConfiguration &configuration) {
             return driver.test(configuration);
         },
         m_jobs, &m_window);

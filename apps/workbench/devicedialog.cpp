@@ -55,12 +55,13 @@ QStringList originatorCategories()
 
 } // namespace
 
-DeviceDialog::DeviceDialog(const DeviceRecord &record, Save save, Test test, BackgroundJobs &jobs,
-                           QWidget *parent)
+DeviceDialog::DeviceDialog(const DeviceRecord &record, Save save, Check check, Test test,
+                           BackgroundJobs &jobs, QWidget *parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::DeviceDialog>())
     , m_original(record)
     , m_save(std::move(save))
+    , m_check(std::move(check))
     , m_test(std::move(test))
     , m_jobs(jobs)
 {
@@ -290,7 +291,7 @@ QStringList DeviceDialog::currentFaults() const
     QStringList faults;
     DeviceConfiguration configuration = record(faults).configuration;
     configuration.number = qMax(configuration.number, 1);
-    return faults + configuration.faults();
+    return faults + m_check(configuration);
 }
 
 void DeviceDialog::showFaults(const QStringList &faults)
@@ -343,12 +344,12 @@ void DeviceDialog::testConnection()
     }
     m_ui->test->setEnabled(false);
     m_ui->testResult->setText(tr("Connecting to %1…").arg(placeText()));
-    const auto result = std::make_shared<IedDriver::TestResult>();
+    const auto result = std::make_shared<DeviceTestResult>();
     m_jobs.run([result, configuration, test = m_test] { *result = test(configuration); }, this,
                [this, result] { showTestResult(*result); });
 }
 
-void DeviceDialog::showTestResult(const IedDriver::TestResult &result)
+void DeviceDialog::showTestResult(const DeviceTestResult &result)
 {
     m_ui->test->setEnabled(true);
     m_iedName = result.iedName;

@@ -3,7 +3,7 @@
 
 #include "devicestore.h"
 
-#include "driver/service/ieddriver.h"
+#include "driver/administration/devicetestresult.h"
 
 #include <QtWidgets/QDialog>
 
@@ -26,13 +26,15 @@ class DeviceDialog : public QDialog
 public:
     /// Takes the device; its faults, in which case nothing has happened.
     using Save = std::function<QStringList(const DeviceRecord &record)>;
+    /// What is wrong with a configuration, one sentence each.
+    using Check = std::function<QStringList(const DeviceConfiguration &configuration)>;
     /// Tries to reach the device; called in another thread.
-    using Test = std::function<IedDriver::TestResult(const DeviceConfiguration &configuration)>;
+    using Test = std::function<DeviceTestResult(const DeviceConfiguration &configuration)>;
 
     /// @param record what the fields begin with; number 0 for a new device
     /// @param jobs not owned; must outlive the dialog
-    DeviceDialog(const DeviceRecord &record, Save save, Test test, BackgroundJobs &jobs,
-                 QWidget *parent = nullptr);
+    DeviceDialog(const DeviceRecord &record, Save save, Check check, Test test,
+                 BackgroundJobs &jobs, QWidget *parent = nullptr);
     ~DeviceDialog() override;
 
     /// The device as the fields describe it. @param faults gets a sentence for each field that
@@ -57,11 +59,12 @@ private:
     void suggestName();
     QString placeText() const;
     void testConnection();
-    void showTestResult(const IedDriver::TestResult &result);
+    void showTestResult(const DeviceTestResult &result);
 
     const std::unique_ptr<Ui::DeviceDialog> m_ui;
     const DeviceRecord m_original;
     const Save m_save;
+    const Check m_check;
     const Test m_test;
     BackgroundJobs &m_jobs;
     QString m_iedName; ///< as the device itself says

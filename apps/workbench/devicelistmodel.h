@@ -3,7 +3,7 @@
 
 #include "devicestore.h"
 
-#include "driver/core/devicestatus.h"
+#include "driver/administration/devicestatus.h"
 #include "scl/findings.h"
 
 #include <QtCore/QAbstractTableModel>

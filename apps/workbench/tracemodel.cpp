@@ -23,7 +23,7 @@ void TraceModel::refresh()
     m_seen = exchanged;
     if (arrived == 0)
         return;
-    const QVector<PduCapture::Line> lines = m_driver.trace(
+    const QVector<TraceLine> lines = m_driver.trace(
         m_deviceNo,
         static_cast<int>(std::min<std::uint64_t>(arrived, static_cast<std::uint64_t>(m_capacity))));
     if (lines.isEmpty())
@@ -61,7 +61,7 @@ QVariant TraceModel::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    const PduCapture::Line &line = m_lines[static_cast<std::size_t>(index.row())];
+    const TraceLine &line = m_lines[static_cast<std::size_t>(index.row())];
     if (role == Qt::ToolTipRole && index.column() == TextColumn)
         return plainTip(line.text);
     if (role != Qt::DisplayRole)

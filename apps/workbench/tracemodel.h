@@ -37,5 +37,5 @@ private:
     const int m_deviceNo;
     const int m_capacity;
     std::uint64_t m_seen = 0; ///< PDUs of the device that were taken or left out
-    std::deque<PduCapture::Line> m_lines;
+    std::deque<TraceLine> m_lines;
 };

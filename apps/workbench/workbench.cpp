@@ -194,7 +194,7 @@ QStringList Workbench::put(const DeviceRecord &record)
     const bool isNew = record.number() == 0;
     if (isNew)
         wanted.configuration.number = m_store.nextNumber();
-    QStringList faults = wanted.configuration.faults();
+    QStringList faults = m_driver->faults(wanted.configuration);
     if (!faults.isEmpty())
         return faults;
     const int number = m_store.put(wanted);

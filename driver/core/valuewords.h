@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "devicestatus.h"
+#include "driver/administration/devicechange.h"
 
 #include <QtCore/QMap>
 #include <QtCore/QString>

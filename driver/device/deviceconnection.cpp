@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "deviceconnection.h"
 
+#include "configurationfiles.h"
 #include "driver/core/valuewords.h"
 #include "driver/model/discoveredmodel.h"
 #include "driver/text/connectiontext.h"
@@ -466,7 +467,7 @@ acsi::ClientOptions DeviceConnection::clientOptions() const
         capture->add(direction, pdu);
     };
     if (m_configuration.tls.enabled)
-        association.link.tls = m_configuration.tls.toOptions();
+        association.link.tls = ConfigurationFiles::tlsOptions(m_configuration.tls);
     osi::StackOptions &stack = association.link.stack;
     stack.transport.localSelector = octetsOf(m_configuration.local.transportSelector);
     stack.transport.remoteSelector = octetsOf(m_configuration.remote.transportSelector);

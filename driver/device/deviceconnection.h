@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "deviceconfiguration.h"
+#include "driver/administration/devicechange.h"
+#include "driver/administration/deviceconfiguration.h"
+#include "driver/administration/devicestatus.h"
+#include "driver/administration/publishcause.h"
+#include "driver/administration/reportevent.h"
 #include "driver/core/associationlife.h"
 #include "driver/core/deviceidentity.h"
-#include "driver/core/devicestatus.h"
 #include "driver/core/reportcoverage.h"
-#include "driver/core/reportevent.h"
 #include "driver/core/valuecurrency.h"
 #include "driver/model/onlinemodel.h"
 #include "livevalues.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "livevalues.h"
 
-#include "driver/core/devicestatus.h"
+#include "driver/administration/publishcause.h"
 
 #include <tavrix/tavrix.h>
 

@@ -57,8 +57,9 @@ void PduCapture::add(osi::Direction direction, mms::Bytes pdu)
         ++m_received;
         m_lastReceived = std::chrono::steady_clock::now().time_since_epoch().count();
     }
-    Entry entry{std::chrono::system_clock::now(), direction, {pdu.begin(), pdu.end()}};
+    Entry entry{0, std::chrono::system_clock::now(), direction, {pdu.begin(), pdu.end()}};
     const std::lock_guard<std::mutex> lock(m_mutex);
+    entry.number = ++m_lastNumber;
     m_octets += costOf(entry.pdu.size());
     m_entries.push_back(std::move(entry));
     while (m_octets > m_limit && m_entries.size() > 1) {
@@ -87,15 +88,16 @@ bool PduCapture::save(QIODevice &device) const
     });
 }
 
-QVector<PduCapture::Line> PduCapture::trace(int count) const
+QVector<TraceLine> PduCapture::trace(int most, std::uint64_t after) const
 {
-    const std::vector<Entry> entries = newest(static_cast<std::size_t>(std::max(count, 0)));
-    QVector<Line> lines;
+    const std::vector<Entry> entries = newest(static_cast<std::size_t>(std::max(most, 0)), after);
+    QVector<TraceLine> lines;
     lines.reserve(static_cast<int>(entries.size()));
     for (const Entry &entry : entries) {
         const auto sinceEpoch = entry.time.time_since_epoch();
         lines.append(
-            {QDateTime::fromMSecsSinceEpoch(
+            {entry.number,
+             QDateTime::fromMSecsSinceEpoch(
                  std::chrono::duration_cast<std::chrono::milliseconds>(sinceEpoch).count()),
              entry.direction == osi::Direction::Sent, textOf(entry.pdu)});
     }
@@ -120,9 +122,10 @@ std::chrono::steady_clock::time_point PduCapture::lastReceived() const
         std::chrono::steady_clock::duration(m_lastReceived.load()));
 }
 
-std::vector<PduCapture::Entry> PduCapture::newest(std::size_t count) const
+std::vector<PduCapture::Entry> PduCapture::newest(std::size_t most, std::uint64_t after) const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    const std::size_t taken = std::min(count, m_entries.size());
+    const auto younger = static_cast<std::size_t>(m_lastNumber - std::min(after, m_lastNumber));
+    const std::size_t taken = std::min({most, younger, m_entries.size()});
     return {m_entries.end() - static_cast<std::ptrdiff_t>(taken), m_entries.end()};
 }

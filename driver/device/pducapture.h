@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "driver/administration/traceline.h"
+
 #include "osi/trace.h"
 
-#include <QtCore/QDateTime>
-#include <QtCore/QString>
 #include <QtCore/QVector>
 
 #include <atomic>
@@ -23,13 +23,6 @@ class PduCapture
 public:
     static constexpr std::size_t defaultLimit = 4U << 20;
 
-    struct Line
-    {
-        QDateTime time; ///< local time
-        bool sent = false;
-        QString text;
-    };
-
     explicit PduCapture(std::size_t limit = defaultLimit);
 
     void add(osi::Direction direction, osi::Bytes pdu);
@@ -38,8 +31,8 @@ public:
     /// Writes what is there as a capture that protocol analysers open (pcapng). False when the
     /// device does not take it; its error text says why.
     bool save(QIODevice &device) const;
-    /// The newest PDUs as text, oldest first.
-    QVector<Line> trace(int count) const;
+    /// The newest PDUs as text, oldest first; at most @p most, and none up to number @p after.
+    QVector<TraceLine> trace(int most, std::uint64_t after = 0) const;
 
     std::size_t octets() const;
     std::uint64_t sent() const { return m_sent; }
@@ -52,16 +45,18 @@ public:
 private:
     struct Entry
     {
+        std::uint64_t number = 0; ///< from 1, in the order of the entries
         std::chrono::system_clock::time_point time;
         osi::Direction direction;
         std::vector<std::uint8_t> pdu;
     };
 
-    std::vector<Entry> newest(std::size_t count) const;
+    std::vector<Entry> newest(std::size_t most, std::uint64_t after = 0) const;
 
     const std::size_t m_limit;
     mutable std::mutex m_mutex;
     std::deque<Entry> m_entries;
+    std::uint64_t m_lastNumber = 0;
     std::size_t m_octets = 0;
     std::uint64_t m_dropped = 0;
     std::atomic<std::uint64_t> m_sent{0};

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ieddriver.h"
 
+#include "driver/device/configurationfiles.h"
 #include "driver/model/valueconversion.h"
 #include "driver/text/csvfield.h"
 #include "driverruntime.h"
@@ -57,12 +58,17 @@ IedDriver::IedDriver(IedDriverOptions options)
 
 IedDriver::~IedDriver() = default;
 
+QStringList IedDriver::faults(const DeviceConfiguration &configuration) const
+{
+    return configuration.faults() + ConfigurationFiles::faults(configuration);
+}
+
 QStringList IedDriver::setDevice(const DeviceConfiguration &configuration)
 {
-    QStringList faults = configuration.faults();
-    if (faults.isEmpty())
+    QStringList found = faults(configuration);
+    if (found.isEmpty())
         m_runtime->setDevice(configuration);
-    return faults;
+    return found;
 }
 
 void IedDriver::holdModel(long deviceNo, const QByteArray &model)
@@ -133,10 +139,10 @@ QString IedDriver::saveCapture(long deviceNo, QIODevice &out) const
     return {};
 }
 
-QVector<PduCapture::Line> IedDriver::trace(long deviceNo, int count) const
+QVector<TraceLine> IedDriver::trace(long deviceNo, int count) const
 {
     const auto device = m_runtime->connection(deviceNo);
-    return device ? device->capture().trace(count) : QVector<PduCapture::Line>();
+    return device ? device->capture().trace(count) : QVector<TraceLine>();
 }
 
 QString IedDriver::exportValues(long deviceNo, QIODevice &out)
@@ -182,43 +188,43 @@ QString commonName(const std::vector<std::string> &names)
 
 } // namespace
 
-IedDriver::TestResult IedDriver::test(const DeviceConfiguration &configuration)
+DeviceTestResult IedDriver::test(const DeviceConfiguration &configuration)
 {
-    TestResult result;
-    const QStringList faults = configuration.faults();
-    if (!faults.isEmpty() || configuration.host.isEmpty()) {
-        result.error = faults.isEmpty() ? Texts::tr("The device has no address.") : faults.first();
+    DeviceTestResult result;
+    const QStringList found = faults(configuration);
+    if (!found.isEmpty() || configuration.host.isEmpty()) {
+        result.error = found.isEmpty() ? Texts::tr("The device has no address.") : found.first();
         return result;
     }
     const auto device = m_runtime->separate(configuration);
     device->connect();
-    const auto found = std::make_shared<TestResult>();
+    const auto answer = std::make_shared<DeviceTestResult>();
     const Outcome outcome = device->perform(
         DeviceConnection::Need::Association,
         configuration.connectTimeout + configuration.callTimeout,
-        [found](std::shared_ptr<DeviceConnection> self) -> asio::awaitable<Outcome> {
+        [answer](std::shared_ptr<DeviceConnection> self) -> asio::awaitable<Outcome> {
             const std::shared_ptr<acsi::Client> client = self->client();
             const auto before = std::chrono::steady_clock::now();
             mms::Result<std::vector<std::string>> devices =
                 co_await client->nameList(mms::ObjectClass::Domain, mms::Scope::Vmd);
             if (!devices)
                 co_return Outcome::failed(devices.error());
-            found->roundTrip = std::chrono::duration_cast<std::chrono::microseconds>(
+            answer->roundTrip = std::chrono::duration_cast<std::chrono::microseconds>(
                 std::chrono::steady_clock::now() - before);
-            found->logicalDevices = static_cast<int>(devices->size());
-            found->iedName = commonName(*devices);
+            answer->logicalDevices = static_cast<int>(devices->size());
+            answer->iedName = commonName(*devices);
             // The connection asks who is there by itself.
             co_await self->identified(client);
             const DeviceStatus who = self->status();
-            found->vendor = who.vendor;
-            found->model = who.model;
-            found->revision = who.revision;
+            answer->vendor = who.vendor;
+            answer->model = who.model;
+            answer->revision = who.revision;
             co_return Outcome();
         });
     device->cancelReading();
     device->disconnect();
     if (outcome)
-        result = *found;
+        result = *answer;
     else
         result.error = outcome.error;
     return result;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "driver/core/devicestatus.h"
-#include "driver/core/reportevent.h"
-#include "driver/device/deviceconfiguration.h"
+#include "driver/administration/devicechange.h"
+#include "driver/administration/driveradministration.h"
+#include "driver/administration/reportevent.h"
 #include "driver/device/pducapture.h"
 
 #include "osi/hostlookup.h"
@@ -14,8 +14,6 @@
 
 #include <functional>
 #include <memory>
-
-class QIODevice;
 
 struct IedDriverOptions
 {
@@ -46,61 +44,34 @@ struct IedDriverOptions
 /// Every function may be called from any thread but the driver's own; controller operations block
 /// it until the device has answered, at the latest until the device's time is over. The destructor
 /// leaves all devices in an orderly way; no call may be under way.
-class IedDriver : public DriverService
+class IedDriver : public DriverService, public DriverAdministration
 {
 public:
     explicit IedDriver(IedDriverOptions options = {});
     ~IedDriver() override;
 
-    /// Add a device, or give a device of that number another configuration; it is disconnected
-    /// then. The faults of the configuration, in which case nothing is changed; empty when it was
-    /// taken.
-    QStringList setDevice(const DeviceConfiguration &configuration);
-    /// Answer for the number with a model that was imported before, in the form that
-    /// PhysicalDevice::fromStream() reads, as OfflineDriverService::holdModel().
-    void holdModel(long deviceNo, const QByteArray &model);
-    void removeDevice(long deviceNo);
+    QStringList faults(const DeviceConfiguration &configuration) const override;
+    QStringList setDevice(const DeviceConfiguration &configuration) override;
+    /// As OfflineDriverService::holdModel().
+    void holdModel(long deviceNo, const QByteArray &model) override;
+    void removeDevice(long deviceNo) override;
 
-    /// Want an association with the device; does nothing for one without an address.
-    void connectDevice(long deviceNo);
-    void disconnectDevice(long deviceNo);
-    /// Stop reading the device's model; it is then disconnected.
-    void cancelReading(long deviceNo);
-    /// End every operation that is under way on the device, whatever it waits for. Who called it is
-    /// told at once that it was cancelled; what the device was asked before may still be done.
-    void cancelOperations(long deviceNo);
+    void connectDevice(long deviceNo) override;
+    void disconnectDevice(long deviceNo) override;
+    void cancelReading(long deviceNo) override;
+    void cancelOperations(long deviceNo) override;
 
-    /// Number 0 when there is no such device, or none with an address.
-    DeviceStatus status(long deviceNo) const;
-    QVector<DeviceStatus> statuses() const;
+    DeviceStatus status(long deviceNo) const override;
+    QVector<DeviceStatus> statuses() const override;
 
-    /// Refuse every operation that changes something on a device.
-    void setReadOnly(bool readOnly);
-    bool isReadOnly() const;
+    void setReadOnly(bool readOnly) override;
+    bool isReadOnly() const override;
 
-    /// Write the device's last PDUs as a pcapng capture; one sentence when that fails.
-    QString saveCapture(long deviceNo, QIODevice &out) const;
-    QVector<PduCapture::Line> trace(long deviceNo, int count) const;
-    /// Write reference, functional constraint, type and last known value of every attribute as CSV
-    /// (RFC 4180, UTF-8); one sentence when that fails.
-    QString exportValues(long deviceNo, QIODevice &out);
+    QString saveCapture(long deviceNo, QIODevice &out) const override;
+    QVector<TraceLine> trace(long deviceNo, int count) const override;
+    QString exportValues(long deviceNo, QIODevice &out) override;
 
-    /// What a try to reach a device with this configuration came to.
-    struct TestResult
-    {
-        QString error; ///< one sentence; empty when the association was made
-        QString vendor;
-        QString model;
-        QString revision;
-        std::chrono::microseconds roundTrip{0};
-        int logicalDevices = 0;
-        /// What the names of the logical devices begin with, which is the IED's name as a rule;
-        /// empty when there is one only, or when they have nothing in common.
-        QString iedName;
-    };
-    /// Makes an association apart from the device list, asks who is there, and leaves. Blocks at
-    /// most for the time-outs of the configuration.
-    TestResult test(const DeviceConfiguration &configuration);
+    DeviceTestResult test(const DeviceConfiguration &configuration) override;
 
     OperationResult getIEDModel(long deviceNo, QByteArray &model, QString &error) override;
     OperationResult getServerDirectory(long deviceNo, QList<NameVaildValue> &list,

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "driver/core/reportevent.h"
+#include "driver/administration/reportevent.h"
 
 #include <asio/any_io_executor.hpp>
 #include <asio/strand.hpp>

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "driver/device/deviceconfiguration.h"
+#include "driver/administration/deviceconfiguration.h"
+#include "driver/device/configurationfiles.h"
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
@@ -122,7 +123,8 @@ void tst_DeviceConfiguration::eachFaultIsOneSentence()
     QFETCH(const QString, sentence);
     DeviceConfiguration configuration = usable();
     change(configuration);
-    QCOMPARE(configuration.faults(), QStringList(sentence));
+    QCOMPARE(configuration.faults() + ConfigurationFiles::faults(configuration),
+             QStringList(sentence));
 }
 
 void tst_DeviceConfiguration::severalFaultsAreAllNamed()
@@ -216,11 +218,11 @@ void tst_DeviceConfiguration::tlsFilesThatDoNotExistAreNamed()
 {
     DeviceConfiguration configuration = usable();
     configuration.tls.certificateFile = "/no/own.pem";
-    QCOMPARE(configuration.faults(), QStringList());
+    QCOMPARE(ConfigurationFiles::faults(configuration), QStringList());
     configuration.tls.enabled = true;
     configuration.tls.keyFile = "/no/own.key";
     configuration.tls.authorityFiles = QStringList("/no/ca.pem");
-    const QStringList faults = configuration.faults();
+    const QStringList faults = ConfigurationFiles::faults(configuration);
     QCOMPARE(faults.size(), 1);
     QVERIFY2(faults.first().contains("/no/own.pem"), qPrintable(faults.first()));
 }

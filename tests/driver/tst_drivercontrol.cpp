@@ -386,8 +386,8 @@ void tst_DriverControl::anEmptyOperateWithoutSelectionIsRefusedBeforeAnythingIsS
     command.model = 4;
     const auto mentions = [this] {
         int count = 0;
-        const QVector<PduCapture::Line> lines = m_driver->trace(1, 100000);
-        for (const PduCapture::Line &line : lines)
+        const QVector<TraceLine> lines = m_driver->trace(1, 100000);
+        for (const TraceLine &line : lines)
             count += line.text.contains("QA1CSWI1$CO$Pos") ||
                      line.text.contains("QA1CSWI1$CF$Pos$ctlModel");
         return count;

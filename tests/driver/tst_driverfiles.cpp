@@ -546,8 +546,8 @@ void tst_DriverFiles::oneFileOperationIsUnderWayAtATime()
         return m_driver->getFile(1, "COMTRADE\\fault1.dat", content, fetchError);
     });
     const auto isOpening = [this] {
-        const QVector<PduCapture::Line> lines = m_driver->trace(1, 100);
-        return std::any_of(lines.begin(), lines.end(), [](const PduCapture::Line &line) {
+        const QVector<TraceLine> lines = m_driver->trace(1, 100);
+        return std::any_of(lines.begin(), lines.end(), [](const TraceLine &line) {
             return line.sent && line.text.contains("fileOpen", Qt::CaseInsensitive);
         });
     };
@@ -560,7 +560,7 @@ void tst_DriverFiles::oneFileOperationIsUnderWayAtATime()
     // The listing was asked for when the file was closed again.
     int closed = -1;
     int listed = -1;
-    const QVector<PduCapture::Line> lines = m_driver->trace(1, 1000);
+    const QVector<TraceLine> lines = m_driver->trace(1, 1000);
     for (int i = 0; i < lines.size(); ++i) {
         if (lines[i].sent && lines[i].text.contains("fileClose", Qt::CaseInsensitive))
             closed = i;
@@ -582,8 +582,8 @@ void tst_DriverFiles::anOperationDoesNotWaitForATransferForLong()
         return m_driver->getFile(1, "COMTRADE\\fault1.dat", content, fetchError);
     });
     const auto isReading = [this] {
-        const QVector<PduCapture::Line> lines = m_driver->trace(1, 100);
-        return std::any_of(lines.begin(), lines.end(), [](const PduCapture::Line &line) {
+        const QVector<TraceLine> lines = m_driver->trace(1, 100);
+        return std::any_of(lines.begin(), lines.end(), [](const TraceLine &line) {
             return line.sent && line.text.contains("fileRead", Qt::CaseInsensitive);
         });
     };

@@ -137,8 +137,8 @@ QList<SGCBValue> tst_DriverSettingGroups::values(const char *fc)
 QStringList tst_DriverSettingGroups::sentWrites() const
 {
     QStringList result;
-    const QVector<PduCapture::Line> lines = m_driver->trace(1, 10000);
-    for (const PduCapture::Line &line : lines) {
+    const QVector<TraceLine> lines = m_driver->trace(1, 10000);
+    for (const TraceLine &line : lines) {
         if (line.sent && line.text.contains("write", Qt::CaseInsensitive))
             result.append(line.text);
     }

@@ -194,9 +194,9 @@ void tst_DriverValues::aValueThatDoesNotFitIsNeverSent()
              OperationFailed);
     QCOMPARE(m_error, QStringLiteral("The device has no BAY1E1CTRL/QA1CSWI1$CF$Pos$gone."));
     // Reading the first values may still go on.
-    const QVector<PduCapture::Line> lines =
+    const QVector<TraceLine> lines =
         m_driver->trace(1, static_cast<int>(m_driver->status(1).counters.sentPdus - before) * 2);
-    for (const PduCapture::Line &line : lines)
+    for (const TraceLine &line : lines)
         QVERIFY(!line.text.contains("write"));
 }
 

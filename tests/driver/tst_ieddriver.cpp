@@ -15,8 +15,8 @@ const QString station = QStringLiteral(STATION_FILE);
 int requests(const IedDriver &driver, int number, const QString &service)
 {
     int count = 0;
-    const QVector<PduCapture::Line> lines = driver.trace(number, 100000);
-    for (const PduCapture::Line &line : lines)
+    const QVector<TraceLine> lines = driver.trace(number, 100000);
+    for (const TraceLine &line : lines)
         count += line.sent && line.text.contains(service);
     return count;
 }
@@ -394,7 +394,7 @@ void tst_IedDriver::connectionsCanBeTriedWithoutTheDeviceList()
     SimulatedIed ied(station);
     Listener listener;
     IedDriver driver(listener.options());
-    const IedDriver::TestResult found = driver.test(configurationFor(ied));
+    const DeviceTestResult found = driver.test(configurationFor(ied));
     QCOMPARE(found.error, QString());
     QCOMPARE(found.logicalDevices, 4);
     QVERIFY(!found.vendor.isEmpty());
@@ -404,7 +404,7 @@ void tst_IedDriver::connectionsCanBeTriedWithoutTheDeviceList()
     nowhere.port = freePort();
     QElapsedTimer timer;
     timer.start();
-    const IedDriver::TestResult missing = driver.test(nowhere);
+    const DeviceTestResult missing = driver.test(nowhere);
     QVERIFY(timer.elapsed() < 12000);
     QVERIFY2(missing.error.contains("refused", Qt::CaseInsensitive), qPrintable(missing.error));
     nowhere.name.clear();

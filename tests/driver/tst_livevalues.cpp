@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "driver/core/devicestatus.h"
+#include "driver/administration/publishcause.h"
 #include "driver/device/livevalues.h"
 
 #include <tavrix/tavrix.h>

@@ -54,7 +54,7 @@ void tst_PduCapture::theNewestPdusAreToldAsTextOldestFirst()
     QCOMPARE(capture.received(), std::uint64_t(1));
     QVERIFY(capture.lastReceived() > std::chrono::steady_clock::time_point());
 
-    const QVector<PduCapture::Line> lines = capture.trace(2);
+    const QVector<TraceLine> lines = capture.trace(2);
     QCOMPARE(lines.size(), 2);
     QVERIFY(!lines.at(0).sent);
     QVERIFY(lines.at(0).text.contains("status"));

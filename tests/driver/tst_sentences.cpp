@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "driver/device/deviceconfiguration.h"
+#include "driver/administration/deviceconfiguration.h"
 #include "driver/model/sclimport.h"
 #include "driver/service/ieddriver.h"
 #include "driver/text/sentences.h"

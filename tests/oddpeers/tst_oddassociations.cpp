@@ -21,8 +21,8 @@ const QString exchanged =
 int requests(const IedDriver &driver, int number, const QString &service)
 {
     int count = 0;
-    const QVector<PduCapture::Line> lines = driver.trace(number, 100000);
-    for (const PduCapture::Line &line : lines)
+    const QVector<TraceLine> lines = driver.trace(number, 100000);
+    for (const TraceLine &line : lines)
         count += line.sent && line.text.contains(service);
     return count;
 }

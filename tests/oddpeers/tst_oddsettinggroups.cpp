@@ -145,8 +145,8 @@ int tst_OddSettingGroups::edited()
 QStringList tst_OddSettingGroups::sentWrites(const IedDriver &driver) const
 {
     QStringList result;
-    const QVector<PduCapture::Line> lines = driver.trace(1, 10000);
-    for (const PduCapture::Line &line : lines) {
+    const QVector<TraceLine> lines = driver.trace(1, 10000);
+    for (const TraceLine &line : lines) {
         if (line.sent && line.text.contains("write", Qt::CaseInsensitive))
             result.append(line.text);
     }

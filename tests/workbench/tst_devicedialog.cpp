@@ -59,7 +59,7 @@ private:
 
     QVector<DeviceRecord> m_saved;
     QStringList m_faults; ///< that saving gives back
-    std::function<IedDriver::TestResult(const DeviceConfiguration &)> m_test;
+    std::function<DeviceTestResult(const DeviceConfiguration &)> m_test;
     BackgroundJobs m_jobs;
 };
 
@@ -67,7 +67,7 @@ void tst_DeviceDialog::init()
 {
     m_saved.clear();
     m_faults.clear();
-    m_test = [](const DeviceConfiguration &) { return IedDriver::TestResult(); };
+    m_test = [](const DeviceConfiguration &) { return DeviceTestResult(); };
 }
 
 std::unique_ptr<DeviceDialog> tst_DeviceDialog::make(const DeviceRecord &record)
@@ -83,7 +83,8 @@ std::unique_ptr<DeviceDialog> tst_DeviceDialog::make(const DeviceRecord &record)
                 m_saved.append(wanted);
             return faults;
         },
-        m_test, m_jobs);
+        [](const DeviceConfiguration &configuration) { return configuration.faults(); }, m_test,
+        m_jobs);
     dialog->show();
     return dialog;
 }
@@ -206,7 +207,7 @@ void tst_DeviceDialog::aNewDeviceIsNamedByItsAddressUnlessItGetsAName()
 void tst_DeviceDialog::aNewDeviceIsNamedByWhatItAnswersToATest()
 {
     m_test = [](const DeviceConfiguration &) {
-        IedDriver::TestResult result;
+        DeviceTestResult result;
         result.iedName = QStringLiteral("BAY1E1");
         return result;
     };
@@ -288,7 +289,7 @@ void tst_DeviceDialog::aTestTellsWhoIsThereWhileTheWindowGoesOn()
     QSemaphore mayAnswer;
     m_test = [&mayAnswer](const DeviceConfiguration &configuration) {
         mayAnswer.acquire();
-        IedDriver::TestResult result;
+        DeviceTestResult result;
         result.vendor = configuration.host;
         result.model = QStringLiteral("M1");
         result.revision = QStringLiteral("2.0");
@@ -313,7 +314,7 @@ void tst_DeviceDialog::aTestTellsWhoIsThereWhileTheWindowGoesOn()
 void tst_DeviceDialog::aTestThatFailsTellsWhy()
 {
     m_test = [](const DeviceConfiguration &) {
-        IedDriver::TestResult result;
+        DeviceTestResult result;
         result.error = QStringLiteral("Nobody is there.");
         return result;
     };
@@ -328,7 +329,7 @@ void tst_DeviceDialog::faultsAreShownBeforeATestGoesOut()
     bool tested = false;
     m_test = [&tested](const DeviceConfiguration &) {
         tested = true;
-        return IedDriver::TestResult();
+        return DeviceTestResult();
     };
     const auto dialog = make({});
     QTest::mouseClick(child<QPushButton>(*dialog, "test"), Qt::LeftButton);
@@ -344,12 +345,13 @@ void tst_DeviceDialog::aDialogMayCloseWhileATestIsUnderWay()
     m_test = [&](const DeviceConfiguration &) {
         mayAnswer.acquire();
         answered = true;
-        return IedDriver::TestResult();
+        return DeviceTestResult();
     };
     {
         BackgroundJobs jobs;
         {
-            DeviceDialog dialog({}, {}, m_test, jobs);
+            DeviceDialog dialog(
+                {}, {}, [](const DeviceConfiguration &) { return QStringList(); }, m_test, jobs);
             dialog.show();
             enter(dialog, "host", QStringLiteral("10.0.0.4"));
             QTest::mouseClick(child<QPushButton>(dialog, "test"), Qt::LeftButton);

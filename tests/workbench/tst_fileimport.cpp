@@ -192,7 +192,7 @@ void tst_FileImport::aSimulationIsADeviceOfTheFileOnTheLoopbackInterface()
     configuration.name = result.ied;
     configuration.host = QStringLiteral("127.0.0.1");
     configuration.port = result.simulation->port();
-    const IedDriver::TestResult test = driver.test(configuration);
+    const DeviceTestResult test = driver.test(configuration);
     QVERIFY2(test.error.isEmpty(), qPrintable(test.error));
     QCOMPARE(test.logicalDevices, 1);
     QVERIFY(test.roundTrip.count() > 0);

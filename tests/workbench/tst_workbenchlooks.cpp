@@ -139,7 +139,7 @@ void tst_WorkbenchLooks::deviceForm()
 void tst_WorkbenchLooks::deviceFormWithFaultsAndATestResult()
 {
     const auto test = [](const DeviceConfiguration &) {
-        IedDriver::TestResult result;
+        DeviceTestResult result;
         result.vendor = "A vendor with a long name";
         result.model = "Bay unit 4000";
         result.revision = "12.3.4567";
@@ -148,7 +148,9 @@ void tst_WorkbenchLooks::deviceFormWithFaultsAndATestResult()
         return result;
     };
     DeviceDialog dialog(
-        {}, [](const DeviceRecord &record) { return record.configuration.faults(); }, test, m_jobs);
+        {}, [](const DeviceRecord &record) { return record.configuration.faults(); },
+        [](const DeviceConfiguration &configuration) { return configuration.faults(); }, test,
+        m_jobs);
     dialog.show();
     dialog.findChild<QLineEdit *>("host")->setText("bay-unit-17.substation.example");
     QTest::mouseClick(dialog.findChild<QPushButton *>("test"), Qt::LeftButton);

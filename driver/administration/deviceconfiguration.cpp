@@ -1,11 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "deviceconfiguration.h"
 
-#include "driver/text/sentences.h"
-
 #include <QtCore/QCoreApplication>
-#include <QtCore/QFile>
-#include <QtCore/QFileInfo>
 #include <QtCore/QJsonArray>
 #include <QtCore/QRegularExpression>
 
@@ -80,29 +76,6 @@ void checkTime(QStringList &faults, const QString &name, milliseconds time)
                           .arg(shortestTimeout.count())
                           .arg(longestTimeout.count()));
     }
-}
-
-void checkFile(QStringList &faults, const QString &name, const QString &file)
-{
-    if (!file.isEmpty() && !QFileInfo(file).isFile())
-        faults.append(Texts::tr("The %1 \"%2\" does not exist.").arg(name, file));
-}
-
-void checkTls(QStringList &faults, const TlsConfiguration &tls)
-{
-    if (!tls.enabled)
-        return;
-    const osi::Result<void> result = osi::validate(tls.toOptions());
-    if (!result)
-        faults.append(text(result.error().message));
-}
-
-std::vector<std::string> encodedNames(const QStringList &files)
-{
-    std::vector<std::string> names;
-    for (const QString &file : files)
-        names.push_back(QFile::encodeName(file).toStdString());
-    return names;
 }
 
 QString hex(const QByteArray &octets)
@@ -280,21 +253,6 @@ std::optional<QByteArray> octetsFromHex(const QString &text)
     return QByteArray::fromHex(digits);
 }
 
-osi::TlsOptions TlsConfiguration::toOptions() const
-{
-    osi::TlsOptions options;
-    options.certificateFile = QFile::encodeName(certificateFile).toStdString();
-    options.keyFile = QFile::encodeName(keyFile).toStdString();
-    options.keyPassword = keyPassword.toStdString();
-    options.authorityFiles = encodedNames(authorityFiles);
-    options.revocationFiles = encodedNames(revocationFiles);
-    for (const QString &pin : pins)
-        options.pins.push_back(pin.toStdString());
-    options.peerName = peerName.toStdString();
-    options.acceptsOtherNames = acceptsOtherNames;
-    return options;
-}
-
 QStringList DeviceConfiguration::faults() const
 {
     QStringList faults;
@@ -308,11 +266,8 @@ QStringList DeviceConfiguration::faults() const
         faults.append(Texts::tr("\"%1\" is no address or host name.").arg(host));
     if (port < 1 || port > 65535)
         faults.append(Texts::tr("The port must be from 1 to 65535."));
-    if (!sclFile.startsWith(QLatin1Char(':')))
-        checkFile(faults, Texts::tr("SCL file"), sclFile);
     checkAddress(faults, local, Texts::tr("client"));
     checkAddress(faults, remote, Texts::tr("device"));
-    checkTls(faults, tls);
     checkTime(faults, Texts::tr("connecting"), connectTimeout);
     checkTime(faults, Texts::tr("requests"), callTimeout);
     checkTime(faults, Texts::tr("operations"), operationTimeout);

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "osi/tls.h"
-
 #include <QtCore/QByteArray>
 #include <QtCore/QJsonObject>
 #include <QtCore/QString>
@@ -22,7 +20,7 @@ struct AssociationAddress
 };
 
 /// How the device and the driver prove to each other who they are (IEC 62351-3); files in PEM, the
-/// members as osi::TlsOptions explains them.
+/// files are on the computer of the driver.
 struct TlsConfiguration
 {
     bool enabled = false;
@@ -33,10 +31,9 @@ struct TlsConfiguration
     QStringList revocationFiles;
     QStringList pins; ///< SHA-256 fingerprints of device certificates, hexadecimal
     QString peerName; ///< the device's host unless given
-    /// Take certificates that are made out to others, too; osi::TlsOptions tells what that means.
+    /// Take certificates that are made out to others, too: whoever holds the key of any of them can
+    /// pose as the device.
     bool acceptsOtherNames = false;
-
-    osi::TlsOptions toOptions() const;
 };
 
 /// All that the driver has to know about a device. A value type.
@@ -76,7 +73,8 @@ struct DeviceConfiguration
     static constexpr int longestOriginator = 64;
     static constexpr int smallestPduSize = 1000;
 
-    /// One sentence for each fault; empty for a configuration that can be used.
+    /// One sentence for each fault of form; whether its files can be used says the driver,
+    /// DriverAdministration::faults().
     QStringList faults() const;
 
     /// "Device 3 (AA1E1Q01)".

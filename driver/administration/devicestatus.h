@@ -59,31 +59,3 @@ struct DeviceStatus
     int refusedObjects = 0; ///< that the device did not describe
     DeviceCounters counters;
 };
-
-/// A change that the driver made on a device, or tried to, for a host's journal.
-struct DeviceChange
-{
-    QDateTime time; ///< local time
-    int number = 0; ///< of the device
-    QString device;
-    QString operation; ///< name of the controller operation
-    QString reference; ///< logical device "/" ...
-    QString oldValue;  ///< empty where it is not known
-    QString newValue;
-    /// The same in words with the raw value behind them, "on (2)"; empty where that says no more.
-    QString oldWords;
-    QString newWords;
-    QString error;           ///< empty when it was done
-    QString additionalCause; ///< of a refused control
-};
-
-/// Why a value was published: MMSValue::cause.
-namespace PublishCause {
-enum : std::uint32_t {
-    Read = 1, ///< the operator asked for it, or it was read back
-    Polled = 2,
-    /// Of a report; the bits of its reasons for inclusion are added: 1 data change, 2 quality
-    /// change, 4 data update, 8 integrity, 16 general interrogation.
-    Report = 0x100,
-};
-}
