@@ -243,7 +243,7 @@ void useModel(Material &material, acsi::ServerDescription server)
     for (const acsi::DeviceDescription &device : copy.devices) {
         for (const acsi::NodeDescription &node : device.nodes) {
             useData(material, model, {device.name, node.name, {}, {}});
-            for (const auto &group : node.type.components) {
+            for (const auto &group : node.type->components) {
                 const auto constraint = acsi::functionalConstraintFrom(group.name);
                 if (!constraint)
                     continue;

@@ -117,7 +117,7 @@ void DeviceConnection::makeCurrency(const ClientPointer &client)
     m_problems.remove(refusedValues);
     for (const acsi::DeviceDescription &device : m_model->description().devices) {
         for (const acsi::NodeDescription &node : device.nodes) {
-            for (const mms::TypeDescription::Component &component : node.type.components) {
+            for (const mms::TypeDescription::Component &component : node.type->components) {
                 const auto constraint = acsi::functionalConstraintFrom(component.name);
                 const std::optional<Pace> pace = constraint ? paceOf(*constraint) : std::nullopt;
                 if (!pace)

@@ -1,19 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "discoveredmodel.h"
 
+#include "classguess.h"
+#include "dataobjectbuilder.h"
 #include "filecomparison.h"
-#include "standard/standardtypes.h"
-#include "valueconversion.h"
+#include "nodecopy.h"
 
-#include "acsi/functionalconstraint.h"
-#include "acsi/reference.h"
+#include "acsi/typedvalue.h"
 
 #include <QtCore/QHash>
-#include <QtCore/QSet>
 #include <QtCore/QVector>
 
-#include <algorithm>
-#include <limits>
+#include <map>
+#include <utility>
 
 using namespace FileComparison;
 using mms::TypeDescription;
@@ -25,143 +24,12 @@ QString text(std::string_view utf8)
     return QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
 }
 
-qint32 bounded(std::uint64_t number)
-{
-    constexpr std::uint64_t highest = std::numeric_limits<qint32>::max();
-    return static_cast<qint32>(std::min(number, highest));
-}
-
-/// Data of one name under one functional constraint.
-struct Part
-{
-    QString fc;
-    const TypeDescription *type;
-};
-using Parts = QVector<Part>;
-
-/// Puts names together that come in several orders: each order is kept as far as they agree.
-class NameOrder
-{
-public:
-    void add(const QStringList &names)
-    {
-        int position = -1;
-        for (int i = 0; i < names.size(); ++i) {
-            const int known = m_names.indexOf(names.at(i));
-            if (known >= 0) {
-                position = known;
-            } else if (position >= 0) {
-                m_names.insert(++position, names.at(i));
-            } else {
-                position = beforeKnown(names, i);
-                m_names.insert(position, names.at(i));
-            }
-        }
-    }
-
-    const QStringList &names() const { return m_names; }
-
-private:
-    int beforeKnown(const QStringList &names, int from) const
-    {
-        for (int i = from + 1; i < names.size(); ++i) {
-            const int known = m_names.indexOf(names.at(i));
-            if (known >= 0)
-                return known;
-        }
-        return m_names.size();
-    }
-
-    QStringList m_names;
-};
-
-const TypeDescription *componentOf(const TypeDescription &type, std::string_view name)
-{
-    for (const TypeDescription::Component &component : type.components) {
-        if (component.name == name)
-            return &component.type;
-    }
-    return nullptr;
-}
-
-/// "XCBR" of "Q0XCBR1"; as it stands when it has no such form.
-QString nodeClass(const QString &name)
-{
-    constexpr int classLength = 4;
-    if (name == QLatin1String("LLN0"))
-        return name;
-    int end = name.size();
-    while (end > 0 && name.at(end - 1).isDigit())
-        --end;
-    const QString candidate = name.left(end).right(classLength);
-    const bool isClass =
-        candidate.size() == classLength &&
-        std::all_of(candidate.begin(), candidate.end(), [](QChar c) { return c.isUpper(); });
-    return isClass ? candidate : name;
-}
-
-/// The common data class by what is there, for data that the standard's classes do not name.
-QString inferredClass(const Parts &parts)
-{
-    using Kind = TypeDescription::Kind;
-    QHash<QString, const TypeDescription *> all;
-    for (const Part &part : parts) {
-        for (const TypeDescription::Component &component : part.type->components)
-            all.insert(text(component.name), &component.type);
-    }
-    const auto kindOf = [&all](const char *name) {
-        const TypeDescription *type = all.value(QLatin1String(name));
-        return type ? type->kind : Kind::TypeName;
-    };
-    const auto has = [&all](const char *name) { return all.contains(QLatin1String(name)); };
-
-    if (const TypeDescription *oper = all.value(QStringLiteral("Oper"))) {
-        const TypeDescription *value = componentOf(*oper, "ctlVal");
-        const Kind kind = value ? value->kind : Kind::TypeName;
-        if (has("valWTr"))
-            return kind == Kind::BitString ? QStringLiteral("BSC") : QStringLiteral("ISC");
-        if (kind == Kind::Boolean)
-            return kindOf("stVal") == Kind::BitString ? QStringLiteral("DPC")
-                                                      : QStringLiteral("SPC");
-        if (kind == Kind::Integer)
-            return QStringLiteral("INC");
-        if (kind == Kind::Structure || kind == Kind::FloatingPoint)
-            return QStringLiteral("APC");
-    }
-    switch (kindOf("stVal")) {
-    case Kind::Boolean:
-        return QStringLiteral("SPS");
-    case Kind::BitString:
-        return QStringLiteral("DPS");
-    case Kind::Integer:
-        return QStringLiteral("INS");
-    default:
-        break;
-    }
-    if (has("general"))
-        return has("dirGeneral") ? QStringLiteral("ACD") : QStringLiteral("ACT");
-    static const std::pair<const char *, const char *> marks[] = {
-        {"actVal", "BCR"}, {"cVal", "CMV"},  {"mag", "MV"},     {"phsAB", "DEL"}, {"phsA", "WYE"},
-        {"c1", "SEQ"},     {"swRev", "LPL"}, {"setMag", "ASG"}, {"vendor", "DPL"}};
-    for (const auto &mark : marks) {
-        if (has(mark.first))
-            return QLatin1String(mark.second);
-    }
-    switch (kindOf("setVal")) {
-    case Kind::Boolean:
-        return QStringLiteral("SPG");
-    case Kind::Integer:
-        return QStringLiteral("ING");
-    default:
-        return {};
-    }
-}
-
 class Builder
 {
 public:
     explicit Builder(const PhysicalDevice *file)
         : m_file(file)
+        , m_builder(file != nullptr)
     {
     }
 
@@ -177,6 +45,10 @@ public:
         for (const acsi::DeviceDescription &each : description.devices) {
             names.append(text(each.name));
             described.insert(names.last(), &each);
+        }
+        for (const acsi::DeviceDescription &each : description.devices) {
+            for (const acsi::NodeDescription &node : each.nodes)
+                ++m_nodesOfType[&*node.type];
         }
         const FileItems<LogicalDevice> file(m_file ? &m_file->logicalDevices : nullptr);
         const QStringList order = file.order(names);
@@ -223,17 +95,8 @@ public:
     }
 
 private:
-    /// Where the standard's classes know the data from: attributes below a common data class.
-    struct Context
-    {
-        QString commonDataClass;
-        QStringList path;
-
-        Context below(const QString &name) const
-        {
-            return {commonDataClass, path + QStringList(name)};
-        }
-    };
+    /// Nodes of one form have the same data objects, attribute for attribute.
+    using Form = std::pair<const TypeDescription *, QString>; ///< type and class
 
     static void addAssociationDataSets(PhysicalDevice &device,
                                        const acsi::ServerDescription &description)
@@ -284,260 +147,43 @@ private:
     {
         auto node = std::make_unique<LogicalNode>();
         node->name = text(source.name);
-        node->lnClass = file ? file->lnClass : nodeClass(node->name);
-        m_lnClass = node->lnClass;
-        m_base = deviceName + QLatin1Char('/') + node->name + QLatin1Char('$');
-        m_nodeName = node->name;
-        m_source = &source;
-
-        const bool hasActiveSettings = componentOf(source.type, "SG") != nullptr;
-        QHash<QString, Parts> data;
-        NameOrder order;
-        for (const TypeDescription::Component &constraint : source.type.components) {
-            const auto known = acsi::functionalConstraintFrom(constraint.name);
-            if (!known || !acsi::isOfData(*known))
-                continue;
-            // What can be edited is shown as the value in force.
-            if (hasActiveSettings && *known == acsi::FunctionalConstraint::SE)
-                continue;
-            QStringList names;
-            for (const TypeDescription::Component &object : constraint.type.components) {
-                const QString name = text(object.name);
-                if (isSettingGroupControl(*known, name, node->name))
-                    continue;
-                names.append(name);
-                data[name].append({text(constraint.name), &object.type});
-            }
-            order.add(names);
-        }
-        const FileItems<DataObject> fileObjects(file ? &file->dataObjects : nullptr);
-        const QStringList names = fileObjects.order(order.names());
-        for (const QString &name : names) {
-            const DataObject *fileObject = fileObjects.find(name);
-            const Parts parts = data.value(name);
-            node->dataObjects.append(parts.isEmpty()
-                                         ? absentCopy(*fileObject).release()
-                                         : dataObject(name, parts, fileObject).release());
-        }
+        node->lnClass =
+            m_texts.shared(file ? file->lnClass : ClassGuess::logicalNodeClass(node->name));
+        addDataObjects(*node, source, deviceName + QLatin1Char('/') + node->name + QLatin1Char('$'),
+                       file);
         addDataSets(*node, dataSets, file);
-        addBlocks(*node, source.type, file);
+        addBlocks(*node, *source.type, file);
         return node;
     }
 
-    static bool isSettingGroupControl(acsi::FunctionalConstraint constraint, const QString &name,
-                                      const QString &node)
+    /// Nodes that are compared with a file are each of their own form.
+    void addDataObjects(LogicalNode &node, const acsi::NodeDescription &source, const QString &base,
+                        const LogicalNode *file)
     {
-        return constraint == acsi::FunctionalConstraint::SP && name == QLatin1String("SGCB") &&
-               node == QLatin1String("LLN0");
-    }
-
-    std::unique_ptr<DataObject> dataObject(const QString &name, const Parts &parts,
-                                           const DataObject *file)
-    {
-        auto object = std::make_unique<DataObject>();
-        object->name = name;
-        m_dataObject = name;
-        object->type = file ? file->type : StandardTypes::commonDataClass(m_lnClass, name);
-        if (object->type.isEmpty())
-            object->type = inferredClass(parts);
-        const FileItems<DAO> fileItems(file ? &file->attributes : (m_file ? &m_nothing : nullptr));
-        addChildren(object->attributes, parts, fileItems, {object->type, {}},
-                    QLatin1Char('$') + name);
-        return object;
-    }
-
-    /// The members of structures of one name under several constraints.
-    void addChildren(QList<DAO *> &children, const Parts &parts, const FileItems<DAO> &file,
-                     const Context &context, const QString &path)
-    {
-        QHash<QString, Parts> data;
-        NameOrder order;
-        for (const Part &part : parts) {
-            QStringList names;
-            for (const TypeDescription::Component &component : part.type->components) {
-                names.append(text(component.name));
-                data[names.last()].append({part.fc, &component.type});
-            }
-            order.add(names);
-        }
-        const QSet<QString> moved =
-            file.isGiven() ? movedMembers(parts, file, path) : QSet<QString>();
-        const QStringList names = file.order(order.names());
-        for (const QString &name : names) {
-            const DAO *fileNode = file.find(name);
-            const Parts found = data.value(name);
-            if (found.isEmpty()) {
-                children.append(absentCopy(*fileNode).release());
-                continue;
-            }
-            const int before = children.size();
-            addNode(children, name, found, fileNode, file.isGiven(), context, path);
-            for (int i = before; moved.contains(name) && i < children.size(); ++i) {
-                if (children.at(i)->state == agreeing)
-                    children.at(i)->state = differing;
-            }
-        }
-    }
-
-    /// The members that stand at other places of their structures than in the file.
-    QSet<QString> movedMembers(const Parts &parts, const FileItems<DAO> &file,
-                               const QString &path) const
-    {
-        QSet<QString> moved;
-        for (const Part &part : parts) {
-            const QString item = m_nodeName + QLatin1Char('$') + part.fc + path;
-            if (part.type->kind != TypeDescription::Kind::Structure ||
-                !acsi::isToldWhole(*m_source, item.toStdString()))
-                continue;
-            QStringList names;
-            for (const TypeDescription::Component &component : part.type->components)
-                names.append(text(component.name));
-            moved += outOfOrder(names, file.order({}));
-        }
-        return moved;
-    }
-
-    void addNode(QList<DAO *> &children, const QString &name, const Parts &parts, const DAO *file,
-                 bool isCompared, const Context &context, const QString &path)
-    {
-        const TypeDescription &first = *parts.first().type;
-        const bool isGroup = first.kind == TypeDescription::Kind::Structure ||
-                             first.kind == TypeDescription::Kind::Array;
-        const QString ownPath = path + QLatin1Char('$') + name;
-        if (isGroup) {
-            children.append(group(name, parts, file, isCompared, context, ownPath).release());
+        if (m_file) {
+            pattern(node, source, base, file).copyTo(node, base);
             return;
         }
-        for (const Part &part : parts) {
-            auto node = std::make_unique<DAO>();
-            node->attribute = new DataAttribute;
-            node->state = leaf(*node->attribute, name, part, file, context.below(name), ownPath);
-            if (isCompared && !file)
-                node->state = additional;
-            children.append(node.release());
+        const Form form{&*source.type, node.lnClass};
+        const auto known = m_patterns.find(form);
+        if (known != m_patterns.end()) {
+            known->second.copyTo(node, base);
+            return;
         }
+        NodePattern made = pattern(node, source, base, nullptr);
+        made.copyTo(node, base);
+        if (m_nodesOfType.value(&*source.type) > 1)
+            m_patterns.emplace(form, std::move(made));
     }
 
-    /// Fills a leaf; its state.
-    quint32 leaf(DataAttribute &attribute, const QString &name, const Part &part, const DAO *file,
-                 const Context &context, const QString &path) const
+    NodePattern pattern(const LogicalNode &node, const acsi::NodeDescription &source,
+                        const QString &base, const LogicalNode *file)
     {
-        attribute.name = name;
-        attribute.fc = part.fc;
-        attribute.reference = m_base + part.fc + path;
-        const DataAttribute *configured = file ? file->attribute : nullptr;
-        if (configured && ValueConversion::fits(configured->basicType, *part.type)) {
-            attribute.basicType = configured->basicType;
-            attribute.enumTypeId = configured->enumTypeId;
-            return configured->fc == part.fc ? agreeing : differing;
-        }
-        const StandardTypes::AttributeType standard = StandardTypes::attribute(
-            m_lnClass, m_dataObject, context.commonDataClass, context.path);
-        if (!standard.basicType.isEmpty() && standard.basicType != QLatin1String("Struct") &&
-            ValueConversion::fits(standard.basicType, *part.type)) {
-            attribute.basicType = standard.basicType;
-            attribute.enumTypeId = standard.enumTypeId;
-        } else {
-            attribute.basicType = ValueConversion::basicTypeOf(*part.type);
-        }
-        return file ? differing : agreeing;
-    }
-
-    /// A structure or an array.
-    std::unique_ptr<DAO> group(const QString &name, const Parts &parts, const DAO *file,
-                               bool isCompared, const Context &context, const QString &path)
-    {
-        const TypeDescription &first = *parts.first().type;
-        const bool isArray = first.kind == TypeDescription::Kind::Array;
-        const QString innerClass = context.path.isEmpty()
-                                       ? StandardTypes::innerClass(context.commonDataClass, name)
-                                       : QString();
-        auto node = std::make_unique<DAO>();
-        if (isCompared && !file)
-            node->state = additional;
-        const FileItems<DAO> fileItems(file ? &file->children
-                                            : (isCompared ? &m_nothing : nullptr));
-
-        if (isArray) {
-            QString typeName = file && file->subDataObject ? file->subDataObject->type : innerClass;
-            if (typeName.isEmpty() && !first.components.empty())
-                typeName = ValueConversion::basicTypeOf(first.components.front().type);
-            node->subDataObject = new SubDataObject{name, typeName};
-            if (file && (!file->subDataObject ||
-                         file->children.size() != static_cast<int>(first.elementCount)))
-                node->state = differing;
-            addElements(*node, name, parts, fileItems, isCompared, context, path);
-            return node;
-        }
-
-        if (isDataObject(name, parts, file, innerClass, context)) {
-            QString type = file && file->subDataObject ? file->subDataObject->type : innerClass;
-            if (type.isEmpty())
-                type = inferredClass(parts);
-            node->subDataObject = new SubDataObject{name, type};
-            if (file && !file->subDataObject)
-                node->state = differing;
-            addChildren(node->children, parts, fileItems, {type, {}}, path);
-        } else {
-            node->attribute = new DataAttribute;
-            node->attribute->name = name;
-            node->attribute->fc = parts.first().fc;
-            node->attribute->basicType = QStringLiteral("Struct");
-            node->attribute->reference = m_base + parts.first().fc + path;
-            if (file &&
-                (!file->attribute || file->attribute->basicType != QLatin1String("Struct") ||
-                 file->attribute->fc != parts.first().fc))
-                node->state = differing;
-            addChildren(node->children, parts, fileItems, context.below(name), path);
-        }
-        return node;
-    }
-
-    void addElements(DAO &array, const QString &name, const Parts &parts,
-                     const FileItems<DAO> &file, bool isCompared, const Context &context,
-                     const QString &path)
-    {
-        QStringList names;
-        QHash<QString, Parts> elements;
-        for (const Part &part : parts) {
-            if (part.type->components.empty())
-                continue;
-            for (std::uint32_t i = 0; i < part.type->elementCount; ++i) {
-                const QString element = QStringLiteral("%1(%2)").arg(name).arg(i);
-                if (!elements.contains(element))
-                    names.append(element);
-                elements[element].append({part.fc, &part.type->components.front().type});
-            }
-        }
-        // The element takes the array's place in a reference.
-        const QString before = path.left(path.size() - name.size() - 1);
-        const QStringList order = file.order(names);
-        for (const QString &element : order) {
-            const DAO *fileElement = file.find(element);
-            const Parts found = elements.value(element);
-            if (found.isEmpty())
-                array.children.append(absentCopy(*fileElement).release());
-            else
-                addNode(array.children, element, found, fileElement, isCompared, context, before);
-        }
-    }
-
-    /// Whether a structure is a data object inside a data object; otherwise it is an attribute.
-    bool isDataObject(const QString &name, const Parts &parts, const DAO *file,
-                      const QString &innerClass, const Context &context) const
-    {
-        if (file)
-            return file->subDataObject != nullptr;
-        if (!innerClass.isEmpty())
-            return true;
-        const Context inside = context.below(name);
-        const bool isKnownAttribute =
-            StandardTypes::attribute(m_lnClass, m_dataObject, inside.commonDataClass, inside.path)
-                .basicType == QLatin1String("Struct");
-        if (isKnownAttribute || !context.path.isEmpty())
-            return false;
-        const TypeDescription &type = *parts.first().type;
-        return parts.size() > 1 || (componentOf(type, "q") && componentOf(type, "t"));
+        auto draft = std::make_unique<LogicalNode>();
+        draft->name = node.name;
+        draft->lnClass = node.lnClass;
+        m_builder.addDataObjects(*draft, source, base, file);
+        return NodePattern(std::move(draft), base, m_texts);
     }
 
     void addDataSets(LogicalNode &node, const QVector<const acsi::DataSetDescription *> &sets,
@@ -573,7 +219,7 @@ private:
         QHash<QString, ReportControlBlock> described;
         QStringList references;
         for (const char *kind : {"BR", "RP"}) {
-            const TypeDescription *blocks = componentOf(type, kind);
+            const TypeDescription *blocks = acsi::componentOf(type, kind);
             if (!blocks)
                 continue;
             for (const TypeDescription::Component &component : blocks->components) {
@@ -599,9 +245,9 @@ private:
             node.reportControls->blocks.append(shown);
         }
 
-        const TypeDescription *setPoints = componentOf(type, "SP");
-        const bool hasGroups =
-            node.name == QLatin1String("LLN0") && setPoints && componentOf(*setPoints, "SGCB");
+        const TypeDescription *setPoints = acsi::componentOf(type, "SP");
+        const bool hasGroups = node.name == QLatin1String("LLN0") && setPoints &&
+                               acsi::componentOf(*setPoints, "SGCB");
         const SettingGroupControl *fileGroups = file ? file->settingGroup : nullptr;
         if (!hasGroups && !fileGroups)
             return;
@@ -613,33 +259,11 @@ private:
     }
 
     const PhysicalDevice *m_file;
-    const QList<DAO *> m_nothing;
-    QString m_lnClass;
-    QString m_dataObject;
-    QString m_nodeName;
-    const acsi::NodeDescription *m_source = nullptr; ///< of the node that is being built
-    QString m_base; ///< of references: logical device, logical node and "$"
+    DataObjectBuilder m_builder;
+    SharedTexts m_texts;
+    QHash<const TypeDescription *, int> m_nodesOfType;
+    std::map<Form, NodePattern> m_patterns; ///< of types that several nodes have
 };
-
-/// The leaf that holds the configuration revision of a logical device; null when it has none.
-DAO *revisionOf(const PhysicalDevice &device, const QString &logicalDevice)
-{
-    for (const LogicalDevice *each : device.logicalDevices) {
-        if (each->name != logicalDevice)
-            continue;
-        for (const LogicalNode *node : each->logicalNodes) {
-            if (node->name != QLatin1String("LLN0"))
-                continue;
-            for (const DataObject *object : node->dataObjects) {
-                if (object->name != QLatin1String("NamPlt"))
-                    continue;
-                DAO *leaf = object->getDAOByName(QStringLiteral("configRev"));
-                return leaf && leaf->attribute ? leaf : nullptr;
-            }
-        }
-    }
-    return nullptr;
-}
 
 } // namespace
 
@@ -665,88 +289,4 @@ QString DiscoveredModel::dataSetName(const QString &text)
     if (name.startsWith(QLatin1Char('@')))
         name.remove(0, 1);
     return name;
-}
-
-void DiscoveredModel::setSettings(ReportControlBlock &block, const QString &logicalDevice,
-                                  const acsi::ReportBlock &read, const ReportControlBlock *fromFile)
-{
-    block.enabled = read.rptEna;
-    block.rptId = text(read.rptId);
-    block.dataSet = dataSetName(text(read.datSet));
-    block.confRev = bounded(read.confRev);
-    block.integrityPeriod = bounded(read.intgPd);
-    block.bufferTime = bounded(read.bufTm);
-    block.triggerDataChange = read.trgOps.dataChange;
-    block.triggerQualityChange = read.trgOps.qualityChange;
-    block.triggerDataUpdate = read.trgOps.dataUpdate;
-    block.triggerIntegrity = read.trgOps.integrity;
-    block.triggerGeneralInterrogation = read.trgOps.generalInterrogation;
-    block.optSequenceNumber = read.optFlds.sequenceNumber;
-    block.optTimeStamp = read.optFlds.timeStamp;
-    block.optReasonForInclusion = read.optFlds.reasonForInclusion;
-    block.optDataSetName = read.optFlds.dataSetName;
-    block.optDataReference = read.optFlds.dataReference;
-    block.optBufferOverflow = read.optFlds.bufferOverflow;
-    block.optEntryId = read.optFlds.entryId;
-    block.optConfRevision = read.optFlds.confRevision;
-    if (!fromFile)
-        return;
-    block.state =
-        isAsConfigured(block, logicalDevice, read.datSet, *fromFile) ? agreeing : differing;
-}
-
-void DiscoveredModel::setRevision(PhysicalDevice &device, const QString &logicalDevice,
-                                  const QString &revision, const PhysicalDevice *fromFile)
-{
-    const QString reference = logicalDevice + QStringLiteral("/LLN0$DC$NamPlt$configRev");
-    DAO *node = revisionOf(device, logicalDevice);
-    if (!node)
-        return;
-    if (!revision.isEmpty())
-        node->attribute->value = revision;
-    const DataAttribute *configured = fromFile ? fromFile->findTag(reference) : nullptr;
-    const QString expected = configured ? configured->value.toString() : QString();
-    if (node->state == agreeing && !expected.isEmpty() && expected != revision)
-        node->state = differing;
-}
-
-void DiscoveredModel::setGroups(SettingGroupControl &control, const mms::TypeDescription &type,
-                                const mms::Data &value)
-{
-    const auto number = [&](std::string_view name) -> qint32 {
-        const std::span<const mms::Data> members = value.children();
-        for (std::size_t i = 0; i < type.components.size() && i < members.size(); ++i) {
-            if (type.components[i].name == name)
-                return bounded(members[i].toUnsigned().value_or(0));
-        }
-        return 0;
-    };
-    const bool isCompared = control.numOfSG != 0;
-    const qint32 configured = control.numOfSG;
-    control.numOfSG = number("NumOfSG");
-    control.activeGroup = number("ActSG");
-    if (isCompared && control.state == agreeing && configured != control.numOfSG)
-        control.state = differing;
-}
-
-const ReportControlBlock *DiscoveredModel::blockOf(const PhysicalDevice *device,
-                                                   const QString &logicalDevice,
-                                                   const QString &reference)
-{
-    if (!device)
-        return nullptr;
-    const QString nodeName = reference.section(QLatin1Char('$'), 0, 0);
-    for (const LogicalDevice *each : device->logicalDevices) {
-        if (each->name != logicalDevice)
-            continue;
-        for (const LogicalNode *node : each->logicalNodes) {
-            if (node->name != nodeName)
-                continue;
-            for (const ReportControlBlock *block : qAsConst(node->reportControls->blocks)) {
-                if (block->reference == reference)
-                    return block;
-            }
-        }
-    }
-    return nullptr;
 }

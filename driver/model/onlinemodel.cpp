@@ -9,7 +9,10 @@
 #include <QtCore/QIODevice>
 
 #include <algorithm>
+#include <limits>
+#include <map>
 #include <span>
+#include <unordered_map>
 
 using mms::Data;
 using mms::TypeDescription;
@@ -38,16 +41,8 @@ std::uint32_t leavesBelow(const TypeDescription &type)
     return count;
 }
 
-const TypeDescription *componentOf(const TypeDescription &type, std::string_view name)
-{
-    for (const TypeDescription::Component &component : type.components) {
-        if (component.name == name)
-            return &component.type;
-    }
-    return nullptr;
-}
-
-/// Numbers the leaves below a type; those of an array's later elements have no entry of their own.
+/// Numbers the leaves below a type from @p first on; the number behind the last. Those of an
+/// array's later elements have no entry of their own.
 std::uint32_t number(const TypeDescription &type, std::uint32_t first,
                      std::vector<std::pair<const TypeDescription *, std::uint32_t>> &places)
 {
@@ -65,20 +60,60 @@ std::uint32_t number(const TypeDescription &type, std::uint32_t first,
     return first;
 }
 
-/// The same device as it comes out of its bytes: its texts shared and side by side. As it was put
-/// together they lie all over the memory, which is most of the time that writing it takes.
-std::unique_ptr<PhysicalDevice> compacted(std::unique_ptr<PhysicalDevice> device)
+/// The attributes of a node as they are shown, from the first to the last.
+class ShownAttributes
 {
-    QByteArray bytes;
-    QDataStream out(&bytes, QIODevice::WriteOnly);
-    device->toStream(out);
-    auto compact = std::make_unique<PhysicalDevice>();
-    QDataStream in(bytes);
-    compact->fromStream(in);
-    const bool isWhole =
-        out.status() == QDataStream::Ok && in.status() == QDataStream::Ok && in.atEnd();
-    return isWhole ? std::move(compact) : std::move(device);
-}
+public:
+    explicit ShownAttributes(const LogicalNode &node)
+    {
+        for (const DataObject *object : node.dataObjects)
+            add(object->attributes);
+    }
+
+    const std::vector<DataAttribute *> &all() const { return m_all; }
+
+private:
+    void add(const QList<DAO *> &nodes)
+    {
+        for (const DAO *node : nodes) {
+            if (node->attribute)
+                m_all.push_back(node->attribute);
+            add(node->children);
+        }
+    }
+
+    std::vector<DataAttribute *> m_all;
+};
+
+/// Where the leaves of a node stand among its shown attributes; the same for all nodes of a form.
+class LeafPlaces
+{
+public:
+    LeafPlaces(const LogicalNode &node, std::span<DataAttribute *const> leaves)
+    {
+        const ShownAttributes shown(node);
+        std::unordered_map<const DataAttribute *, std::size_t> places;
+        for (std::size_t i = 0; i < shown.all().size(); ++i)
+            places.emplace(shown.all()[i], i);
+        for (const DataAttribute *leaf : leaves) {
+            const auto place = places.find(leaf);
+            m_places.push_back(place == places.end() ? notShown : place->second);
+        }
+    }
+
+    /// Enters the attributes of another node from the first of its leaves on.
+    void fill(const LogicalNode &node, std::span<DataAttribute *> leaves) const
+    {
+        const ShownAttributes shown(node);
+        for (std::size_t i = 0; i < m_places.size(); ++i)
+            leaves[i] = m_places[i] == notShown ? nullptr : shown.all()[m_places[i]];
+    }
+
+private:
+    static constexpr std::size_t notShown = std::numeric_limits<std::size_t>::max();
+
+    std::vector<std::size_t> m_places;
+};
 
 } // namespace
 
@@ -182,22 +217,80 @@ struct OnlineModel::Walk
 OnlineModel::OnlineModel(acsi::ServerDescription description, const QString &name,
                          const PhysicalDevice *fromFile)
     : m_description(std::make_unique<acsi::ServerDescription>(std::move(description)))
-    , m_device(compacted(DiscoveredModel::makeDevice(*m_description, name, fromFile)))
+    , m_device(DiscoveredModel::makeDevice(*m_description, name, fromFile))
 {
+    addNodes();
+    findAttributes(fromFile != nullptr);
+}
+
+void OnlineModel::addNodes()
+{
+    std::uint32_t count = 0;
+    std::unordered_map<const TypeDescription *, std::uint32_t> leaves;
     for (const acsi::DeviceDescription &device : m_description->devices) {
-        for (const acsi::NodeDescription &node : device.nodes)
-            m_nodes.insert(text(device.name) + QLatin1Char('/') + text(node.name), &node);
+        for (const acsi::NodeDescription &node : device.nodes) {
+            const TypeDescription &type = *node.type;
+            const auto [known, isNew] = leaves.try_emplace(&type);
+            if (isNew)
+                known->second = ::number(type, 0, m_firstLeaves);
+            m_nodes.insert(text(device.name) + QLatin1Char('/') + text(node.name),
+                           {&node, nullptr, count});
+            count += known->second;
+        }
     }
-    numberLeaves();
+    std::sort(m_firstLeaves.begin(), m_firstLeaves.end());
+    m_firstLeaves.shrink_to_fit();
+    m_attributes.resize(count);
+    m_qualities.resize(count);
     for (const LogicalDevice *device : qAsConst(m_device->logicalDevices)) {
         for (LogicalNode *node : device->logicalNodes)
-            m_shownNodes.insert(device->name + QLatin1Char('/') + node->name, node);
+            m_nodes[device->name + QLatin1Char('/') + node->name].shown = node;
     }
+}
+
+void OnlineModel::findAttributes(bool isCompared)
+{
+    const std::vector<DataAttribute *> none(m_attributes.size());
+    const LeafVisitor remember = [this](const Leaf &leaf) {
+        m_attributes[leaf.number] = m_device->findTag(leaf.reference);
+    };
+    std::map<std::pair<const TypeDescription *, QString>, LeafPlaces> forms;
+    for (const acsi::DeviceDescription &device : m_description->devices) {
+        for (const acsi::NodeDescription &each : device.nodes) {
+            const QString name = text(device.name) + QLatin1Char('/') + text(each.name);
+            const Node node = m_nodes.value(name);
+            // Octets that are no UTF-8 may give two nodes one name; the last of them has it.
+            if (node.description != &each)
+                continue;
+            const std::pair form(&*each.type, node.shown ? node.shown->lnClass : QString());
+            const auto known = forms.find(form);
+            if (known != forms.end()) {
+                known->second.fill(*node.shown, std::span(m_attributes).subspan(node.firstLeaf));
+                continue;
+            }
+            Walk walk{none, remember, name, node.firstLeaf};
+            walk.visit(*each.type, nullptr, nullptr, nullptr);
+            // What a file says of a node is said of that node alone.
+            if (node.shown && !isCompared) {
+                const auto leaves =
+                    std::span(m_attributes).subspan(node.firstLeaf, walk.number - node.firstLeaf);
+                forms.emplace(form, LeafPlaces(*node.shown, leaves));
+            }
+        }
+    }
+}
+
+const OnlineModel::Node *OnlineModel::nodeOf(const acsi::Reference &reference) const
+{
+    const auto found =
+        m_nodes.find(text(reference.device) + QLatin1Char('/') + text(reference.node));
+    return found == m_nodes.end() ? nullptr : &*found;
 }
 
 const acsi::NodeDescription *OnlineModel::description(const acsi::Reference &reference) const
 {
-    return m_nodes.value(text(reference.device) + QLatin1Char('/') + text(reference.node));
+    const Node *node = nodeOf(reference);
+    return node ? node->description : nullptr;
 }
 
 bool OnlineModel::isWholeKnown(const acsi::Reference &reference) const
@@ -228,14 +321,16 @@ const mms::TypeDescription *OnlineModel::type(const acsi::Reference &reference) 
 /// several steps.
 OnlineModel::Place OnlineModel::placeOf(const acsi::Reference &reference) const
 {
-    const acsi::NodeDescription *node = description(reference);
-    Place place{node ? &node->type : nullptr};
-    if (!place.type || !reference.constraint)
+    const Node *node = nodeOf(reference);
+    if (!node || !node->description)
+        return {};
+    Place place{&*node->description->type, node->firstLeaf};
+    if (!reference.constraint)
         return place;
-    place.type = componentOf(*place.type, acsi::toText(*reference.constraint));
+    place.type = acsi::componentOf(*place.type, acsi::toText(*reference.constraint));
     for (const acsi::PathStep &step : reference.path) {
         if (place.type)
-            place.type = componentOf(*place.type, step.name);
+            place.type = acsi::componentOf(*place.type, step.name);
         if (!place.type || !step.element)
             continue;
         const TypeDescription &array = *place.type;
@@ -243,7 +338,7 @@ OnlineModel::Place OnlineModel::placeOf(const acsi::Reference &reference) const
                              !array.components.empty() && *step.element < array.elementCount;
         place.type = isThere ? &array.components.front().type : nullptr;
         if (place.type)
-            place.skipped += *step.element * leavesBelow(*place.type);
+            place.before += *step.element * leavesBelow(*place.type);
     }
     return place;
 }
@@ -251,33 +346,6 @@ OnlineModel::Place OnlineModel::placeOf(const acsi::Reference &reference) const
 const mms::TypeDescription *OnlineModel::describedType(const acsi::Reference &reference) const
 {
     return placeOf(reference).type;
-}
-
-void OnlineModel::numberLeaves()
-{
-    std::uint32_t count = 0;
-    for (const acsi::DeviceDescription &device : m_description->devices) {
-        for (const acsi::NodeDescription &node : device.nodes)
-            count = number(node.type, count, m_firstLeaves);
-    }
-    std::sort(m_firstLeaves.begin(), m_firstLeaves.end());
-    m_attributes.resize(count);
-    m_qualities.resize(count);
-    const std::vector<DataAttribute *> none(count);
-    std::vector<DataAttribute *> &attributes = m_attributes;
-    PhysicalDevice &shown = *m_device;
-    const LeafVisitor remember = [&attributes, &shown](const Leaf &leaf) {
-        attributes[leaf.number] = shown.findTag(leaf.reference);
-    };
-    std::uint32_t first = 0;
-    for (const acsi::DeviceDescription &device : m_description->devices) {
-        for (const acsi::NodeDescription &node : device.nodes) {
-            Walk walk{none, remember, text(device.name) + QLatin1Char('/') + text(node.name),
-                      first};
-            walk.visit(node.type, nullptr, nullptr, nullptr);
-            first = walk.number;
-        }
-    }
 }
 
 std::uint32_t OnlineModel::firstLeafOf(const TypeDescription *type) const
@@ -293,7 +361,7 @@ LeafRange OnlineModel::leafRange(const acsi::Reference &reference) const
     const Place place = placeOf(reference);
     if (!place.type)
         return {};
-    return {firstLeafOf(place.type) + place.skipped, leavesBelow(*place.type)};
+    return {place.before + firstLeafOf(place.type), leavesBelow(*place.type)};
 }
 
 std::vector<acsi::Reference> OnlineModel::partsOf(const acsi::Reference &reference) const
@@ -330,7 +398,7 @@ bool OnlineModel::setQuality(std::uint32_t leaf, const mms::Data &quality)
 
 LogicalNode *OnlineModel::node(const QString &device, const QString &node) const
 {
-    return m_shownNodes.value(device + QLatin1Char('/') + node);
+    return m_nodes.value(device + QLatin1Char('/') + node).shown;
 }
 
 ReportControlBlock *OnlineModel::reportControlBlock(const QString &device,

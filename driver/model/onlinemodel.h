@@ -85,25 +85,34 @@ public:
 private:
     struct Walk;
 
-    const acsi::NodeDescription *description(const acsi::Reference &reference) const;
+    struct Node
+    {
+        const acsi::NodeDescription *description = nullptr; ///< null for one of the file alone
+        LogicalNode *shown = nullptr;
+        std::uint32_t firstLeaf = 0;
+    };
     /// Where a type stands among the others.
     struct Place
     {
         const mms::TypeDescription *type = nullptr; ///< null for what was not described
-        std::uint32_t skipped = 0; ///< leaves before the wanted elements in the arrays on the way
+        /// Leaves before its node, and before the wanted elements in the arrays on the way.
+        std::uint32_t before = 0;
     };
+
+    void addNodes();
+    void findAttributes(bool isCompared);
+    const Node *nodeOf(const acsi::Reference &reference) const;
+    const acsi::NodeDescription *description(const acsi::Reference &reference) const;
     Place placeOf(const acsi::Reference &reference) const;
     const mms::TypeDescription *describedType(const acsi::Reference &reference) const;
-    void numberLeaves();
     std::uint32_t firstLeafOf(const mms::TypeDescription *type) const;
 
     std::unique_ptr<acsi::ServerDescription> m_description;
     std::unique_ptr<PhysicalDevice> m_device;
-    QHash<QString, const acsi::NodeDescription *> m_nodes; ///< by "LD/LN"
-    /// The number of the first leaf of each type, in the order of the addresses; of the first
-    /// element's in arrays.
+    QHash<QString, Node> m_nodes; ///< by "LD/LN"
+    /// The number of the first leaf of each type in its node, in the order of the addresses; of the
+    /// first element's in arrays.
     std::vector<std::pair<const mms::TypeDescription *, std::uint32_t>> m_firstLeaves;
-    std::vector<DataAttribute *> m_attributes;  ///< by number of the leaf; null for one not shown
-    std::vector<std::uint32_t> m_qualities;     ///< by number of the leaf; 0 until there was one
-    QHash<QString, LogicalNode *> m_shownNodes; ///< by "LD/LN"
+    std::vector<DataAttribute *> m_attributes; ///< by number of the leaf; null for one not shown
+    std::vector<std::uint32_t> m_qualities;    ///< by number of the leaf; 0 until there was one
 };

@@ -192,13 +192,13 @@ Client::nameList(mms::ObjectClass objectClass, mms::Scope scope, std::string dom
     const auto self = shared_from_this();
     NamePages pages(objectClass, scope, std::move(domain));
     while (!pages.complete()) {
-        auto page = co_await ask<mms::GetNameListResponse>(pages.request());
+        const auto page = co_await ask<mms::GetNameListResponse>(pages.request());
         if (!page)
             co_return page.error();
-        if (const auto taken = pages.take(std::move(*page)); !taken)
+        if (const auto taken = pages.take(*page); !taken)
             co_return taken.error();
     }
-    co_return std::move(pages).names();
+    co_return pages.names();
 }
 
 asio::awaitable<mms::Result<mms::TypeDescription>> Client::type(mms::ObjectName variable)

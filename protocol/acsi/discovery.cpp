@@ -3,6 +3,7 @@
 
 #include "acsi/callgroup.h"
 #include "acsi/discoveryplan.h"
+#include "acsi/typedvalue.h"
 
 #include <asio/this_coro.hpp>
 
@@ -39,20 +40,11 @@ bool isTimeout(const mms::CallOutcome &outcome)
     return failure && failure->kind == mms::CallFailure::Kind::TimedOut;
 }
 
-const mms::TypeDescription *component(const mms::TypeDescription &type, std::string_view name)
-{
-    const auto found =
-        std::ranges::find(type.components, name, &mms::TypeDescription::Component::name);
-    return type.kind == mms::TypeDescription::Kind::Structure && found != type.components.end()
-               ? &found->type
-               : nullptr;
-}
-
 /// The type of "har" or "har(3)" in a structure.
 const mms::TypeDescription *stepBelow(const mms::TypeDescription &type, std::string_view step)
 {
     const std::size_t open = step.find('(');
-    const mms::TypeDescription *below = component(type, step.substr(0, open));
+    const mms::TypeDescription *below = componentOf(type, step.substr(0, open));
     if (!below || open == step.npos)
         return below;
     const char *const end = step.data() + step.size() - 1;
@@ -130,7 +122,7 @@ asio::awaitable<mms::Result<ServerDescription>> discoverDataSets(std::shared_ptr
 const mms::TypeDescription *typeBelow(const mms::TypeDescription &node, std::string_view constraint,
                                       std::string_view path)
 {
-    const mms::TypeDescription *type = component(node, constraint);
+    const mms::TypeDescription *type = componentOf(node, constraint);
     while (type && !path.empty()) {
         const std::size_t end = path.find('$');
         type = stepBelow(*type, path.substr(0, end));
@@ -149,11 +141,11 @@ std::vector<std::string> partsToldWhole(const NodeDescription &node, const std::
     if (isToldWhole(node, item))
         return {item};
     // What stands in parts was reached by names alone, never through an array.
-    const mms::TypeDescription *type = &node.type;
+    const mms::TypeDescription *type = &*node.type;
     std::string_view rest = item;
     for (std::size_t end = rest.find('$'); type && end != rest.npos; end = rest.find('$')) {
         rest.remove_prefix(end + 1);
-        type = component(*type, rest.substr(0, rest.find('$')));
+        type = componentOf(*type, rest.substr(0, rest.find('$')));
     }
     std::vector<std::string> parts;
     if (!type)

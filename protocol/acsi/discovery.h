@@ -2,6 +2,7 @@
 #pragma once
 
 #include "acsi/client.h"
+#include "acsi/sharedtype.h"
 #include "mms/typedescription.h"
 
 #include <atomic>
@@ -29,8 +30,8 @@ struct NodeDescription
 {
     std::string name;
     /// A structure of functional constraints, each a structure of data: in the order of the
-    /// server's model. Empty when the server refused it.
-    mms::TypeDescription type;
+    /// server's model. Empty when the server refused it. Nodes of equal type share one.
+    SharedType type;
     /// The structures, "LN", "LN$ST", "LN$ST$Pos", that were described part by part because the
     /// server does not tell them whole: what is in them is known, but not in which order. Sorted;
     /// with a structure stand all those around it.

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "acsi/discoveryplan.h"
 
-#include "acsi/functionalconstraint.h"
+#include "acsi/discoveryanswer.h"
 
 #include <algorithm>
-#include <numeric>
+#include <iterator>
 #include <set>
 #include <utility>
 
@@ -22,73 +22,6 @@ using mms::Scope;
 constexpr char separator = '$';
 /// Time-outs in a row, one call at a time, after which a device is taken for dead.
 constexpr std::size_t tolerableSilences = 2;
-/// Counts of values end here; the product of two of them fits 64 bits.
-constexpr std::uint64_t most = 0xFFFFFFFF;
-
-/// What the type of a variable holds when all elements of arrays are counted.
-std::uint64_t valuesIn(const mms::TypeDescription &type)
-{
-    using Kind = mms::TypeDescription::Kind;
-    if (type.kind != Kind::Structure && type.kind != Kind::Array)
-        return 1;
-    std::uint64_t values = 0;
-    for (const mms::TypeDescription::Component &component : type.components)
-        values = std::min(most, values + valuesIn(component.type));
-    if (type.kind == Kind::Structure)
-        return values;
-    // What is empty costs a place all the same.
-    return std::min(most, std::max<std::uint64_t>(values, 1) * type.elementCount);
-}
-
-std::size_t levelsOf(const mms::TypeDescription &type)
-{
-    std::size_t below = 0;
-    for (const mms::TypeDescription::Component &component : type.components)
-        below = std::max(below, levelsOf(component.type));
-    return below + (type.components.empty() ? 0 : 1);
-}
-
-/// Whether a reference can name it: nobody could tell such a name from several steps, or an
-/// element.
-bool isName(std::string_view name)
-{
-    return !name.empty() && name.find_first_of("$/()") == name.npos;
-}
-
-/// Names that several components of the structure have, sorted.
-std::vector<std::string> repeatedNames(const mms::TypeDescription &type)
-{
-    std::vector<std::string_view> names;
-    names.reserve(type.components.size());
-    for (const mms::TypeDescription::Component &component : type.components)
-        names.push_back(component.name);
-    std::ranges::sort(names);
-    std::vector<std::string> repeated;
-    for (std::size_t i = 1; i < names.size(); ++i) {
-        if (names[i] == names[i - 1] && (repeated.empty() || repeated.back() != names[i]))
-            repeated.emplace_back(names[i]);
-    }
-    return repeated;
-}
-
-/// Whether references can name everything in it.
-bool isNameable(const mms::TypeDescription &type)
-{
-    const bool isStructure = type.kind == mms::TypeDescription::Kind::Structure;
-    if (isStructure && !repeatedNames(type).empty())
-        return false;
-    return std::ranges::all_of(type.components, [isStructure](const auto &component) {
-        return (!isStructure || isName(component.name)) && isNameable(component.type);
-    });
-}
-
-std::size_t octetsOf(const mms::TypeDescription &type)
-{
-    std::size_t octets = sizeof(mms::TypeDescription);
-    for (const mms::TypeDescription::Component &component : type.components)
-        octets += component.name.size() + octetsOf(component.type);
-    return octets;
-}
 
 /// 1000000 as "1,000,000".
 std::string grouped(std::uint64_t number)
@@ -99,58 +32,6 @@ std::string grouped(std::uint64_t number)
         text.insert(i, 1, ',');
     }
     return text;
-}
-
-bool isRefusal(const mms::RejectPdu &reject)
-{
-    return reject.rejected == mms::RejectedPdu::ConfirmedRequest &&
-           reject.code == mms::rejectcodes::requestUnrecognizedService;
-}
-
-/// The peer answers, but not the question.
-bool isConfusion(const CallOutcome &outcome)
-{
-    if (const auto *failure = std::get_if<CallFailure>(&outcome)) {
-        return failure->kind == CallFailure::Kind::TimedOut ||
-               failure->kind == CallFailure::Kind::Malformed;
-    }
-    if (const auto *reject = std::get_if<mms::RejectPdu>(&outcome))
-        return !isRefusal(*reject);
-    return std::holds_alternative<mms::ResponseService>(outcome);
-}
-
-bool endsAll(const CallOutcome &outcome)
-{
-    const auto *failure = std::get_if<CallFailure>(&outcome);
-    return failure && (failure->kind == CallFailure::Kind::NotOpen ||
-                       failure->kind == CallFailure::Kind::Lost ||
-                       failure->kind == CallFailure::Kind::Cancelled);
-}
-
-/// Whether parts may be had of what is refused as a whole.
-bool mayHaveParts(const CallOutcome &outcome)
-{
-    const auto *error = std::get_if<mms::ServiceError>(&outcome);
-    return !error || error->errorClass != mms::ErrorClass::Access ||
-           (error->code != mms::serviceerrors::accessNonExistent &&
-            error->code != mms::serviceerrors::accessDenied &&
-            error->code != mms::serviceerrors::accessInvalidated);
-}
-
-mms::Text whyNot(const CallOutcome &outcome)
-{
-    const mms::Text text = mms::failureText(outcome);
-    return text.empty() ? say("The answer does not match the question.") : text;
-}
-
-mms::Text unnameable(const std::string &name)
-{
-    return say("%1 has a name that is none, or that something else has; it is left out.", name);
-}
-
-mms::Text excessive(const std::string &name)
-{
-    return say("%1 is larger, or nested deeper, than what is taken; it is left out.", name);
 }
 
 } // namespace
@@ -331,7 +212,7 @@ void DiscoveryPlan::answered(std::size_t stepId, CallOutcome outcome)
         m_silences = 0;
         return;
     }
-    if (endsAll(outcome)) {
+    if (endsDiscovery(outcome)) {
         m_error = mms::Error{mms::failureText(outcome), 0};
         return;
     }
@@ -373,7 +254,7 @@ bool DiscoveryPlan::take(const Step &step, mms::ResponseService &response)
         break;
     case Kind::Names:
         if (auto *page = std::get_if<mms::GetNameListResponse>(&response)) {
-            const mms::Result<void> taken = m_lists[step.list].pages.take(std::move(*page));
+            const mms::Result<void> taken = m_lists[step.list].pages.take(*page);
             takeNames(step);
             const NamePages &pages = m_lists[step.list].pages;
             if (!taken)
@@ -406,7 +287,8 @@ void DiscoveryPlan::takeNames(const Step &step)
 {
     // New lists may be added below.
     const NameList &list = m_lists[step.list];
-    for (const std::string &name : list.pages.newNames()) {
+    for (std::size_t i = list.pages.firstNew(); i < list.pages.count(); ++i) {
+        const std::string_view name = list.pages.name(i);
         m_octets += name.size();
         if (++m_names > m_limits.names || m_octets > m_limits.octets) {
             stop(say(
@@ -429,7 +311,7 @@ void DiscoveryPlan::takeNames(const Step &step)
             addList(ObjectClass::NamedVariableList, Scope::Domain, device);
             addList(ObjectClass::Journal, Scope::Domain, device);
         } else if (list.objectClass == ObjectClass::NamedVariable) {
-            takeNode(list.device, std::string_view(name).substr(0, name.find(separator)));
+            takeNode(list.device, name.substr(0, name.find(separator)));
         } else if (list.objectClass == ObjectClass::NamedVariableList) {
             Step members;
             members.kind = Kind::DataSetMembers;
@@ -440,7 +322,7 @@ void DiscoveryPlan::takeNames(const Step &step)
                     : mms::ObjectName::inDomain(m_server.devices[list.device].name, name);
             add(std::move(members));
         } else {
-            m_server.devices[list.device].journals.push_back(name);
+            m_server.devices[list.device].journals.emplace_back(name);
         }
     }
 }
@@ -449,7 +331,8 @@ void DiscoveryPlan::takeNode(std::size_t device, std::string_view item)
 {
     auto &nodes = m_server.devices[device].nodes;
     auto &known = m_devices[device].nodes;
-    if (known.contains(item))
+    // Names of one node mostly stand together.
+    if ((!nodes.empty() && nodes.back().name == item) || known.contains(item))
         return;
     if (m_nodes >= m_limits.nodes) {
         leaveOut(say("The device has more than %1 logical nodes; the others are left out.",
@@ -483,71 +366,61 @@ void DiscoveryPlan::namesEnded(std::size_t list)
 
 void DiscoveryPlan::takeType(const Step &step, mms::TypeDescription type)
 {
+    NodeDescription &node = m_server.devices[step.device].nodes[step.node];
     const bool isNode = step.object.item.find(separator) == std::string::npos;
     if (isNode && type.kind != mms::TypeDescription::Kind::Structure) {
         refuse(step, say("It is not a logical node."));
         return;
     }
-    const auto above = std::ranges::count(step.object.item, separator);
-    const auto depth = static_cast<std::size_t>(above);
-    const bool isArray = type.kind == mms::TypeDescription::Kind::Array;
-    const bool isExcessive =
-        isArray && (valuesIn(type) > m_limits.elements || depth + levelsOf(type) > m_limits.depth);
-    const bool isOdd = isArray && !isNameable(type);
-    mms::TypeDescription *const place = typeOf(step);
-    if (isExcessive || isOdd || !place) {
-        m_devices[step.device].refusedParts.push_back(step);
-        if (isExcessive || isOdd)
-            leaveOut(isExcessive ? excessive(mms::toText(step.object))
-                                 : unnameable(mms::toText(step.object)));
+    if (!isNode) {
+        mms::TypeDescription *const place = typeOf(step);
+        if (!place || !reduce(step.object, type, node.inParts)) {
+            m_devices[step.device].refusedParts.push_back(step);
+            return;
+        }
+        if (addUp(step, measureOf(type)))
+            *place = std::move(type);
         return;
     }
-    withoutExcess(type, step, step.object.item);
-    m_octets += octetsOf(type);
-    m_values += valuesIn(type);
-    if (m_octets > m_limits.octets || m_values > m_limits.values) {
-        m_devices[step.device].refusedParts.push_back(step);
-        stop(say(
-            "The device describes more than the %1 values in %2 octets that are taken; the rest is left out.",
-            grouped(m_limits.values), grouped(m_limits.octets)));
+    SharedType whole(std::move(type));
+    const auto known = m_types.find(whole);
+    if (known != m_types.end()) {
+        if (addUp(step, known->second))
+            node.type = known->first;
         return;
     }
-    *place = std::move(type);
+    reduce(step.object, whole.edit(), node.inParts);
+    const TypeMeasure measure = measureOf(*whole);
+    if (!addUp(step, measure))
+        return;
+    // What had to be changed is changed again for the next node, which is told of as well.
+    node.type =
+        node.inParts.empty() ? m_types.emplace(std::move(whole), measure).first->first : whole;
 }
 
-/// Takes arrays that are too large, what is nested too deeply, and what no reference can name out
-/// of a structure. What is left of that is read part by part, since the device goes on sending the
-/// whole.
-void DiscoveryPlan::withoutExcess(mms::TypeDescription &type, const Step &step,
-                                  const std::string &item)
+/// Takes out of the type what is beyond the limits; false when that is the whole of it.
+bool DiscoveryPlan::reduce(const mms::ObjectName &variable, mms::TypeDescription &type,
+                           std::vector<std::string> &inParts)
 {
-    if (type.kind != mms::TypeDescription::Kind::Structure)
-        return;
-    auto &inParts = m_server.devices[step.device].nodes[step.node].inParts;
-    const auto depth = static_cast<std::size_t>(std::ranges::count(item, separator));
-    const std::size_t before = type.components.size();
-    const std::size_t marks = inParts.size();
-    const std::vector<std::string> repeated = repeatedNames(type);
-    std::erase_if(type.components, [&](mms::TypeDescription::Component &component) {
-        const std::string name = item + separator + component.name;
-        const bool isArray = component.type.kind == mms::TypeDescription::Kind::Array;
-        const std::size_t levels = depth + 1 + levelsOf(component.type);
-        const bool isExcessive =
-            isArray ? valuesIn(component.type) > m_limits.elements || levels > m_limits.depth
-                    : depth + 1 >= m_limits.depth && !component.type.components.empty();
-        const bool isOdd = !isName(component.name) ||
-                           std::ranges::binary_search(repeated, component.name) ||
-                           (isArray && !isNameable(component.type));
-        if (isExcessive || isOdd) {
-            leaveOut(isExcessive ? excessive(step.object.domain + '/' + name)
-                                 : unnameable(step.object.domain + '/' + name));
-            return true;
-        }
-        withoutExcess(component.type, step, name);
-        return false;
-    });
-    if (type.components.size() != before || inParts.size() != marks)
-        inParts.push_back(item);
+    TypeReduction reduction = reduced(type, variable, m_limits);
+    for (mms::Text &sentence : reduction.leftOut)
+        leaveOut(std::move(sentence));
+    std::ranges::move(reduction.inParts, std::back_inserter(inParts));
+    return reduction.isTaken;
+}
+
+/// Adds to what there is already; false when that is more than is taken.
+bool DiscoveryPlan::addUp(const Step &step, const TypeMeasure &measure)
+{
+    m_octets += measure.octets;
+    m_values += measure.values;
+    if (m_octets <= m_limits.octets && m_values <= m_limits.values)
+        return true;
+    m_devices[step.device].refusedParts.push_back(step);
+    stop(say(
+        "The device describes more than the %1 values in %2 octets that are taken; the rest is left out.",
+        grouped(m_limits.values), grouped(m_limits.octets)));
+    return false;
 }
 
 void DiscoveryPlan::takeMembers(const Step &step,
@@ -562,7 +435,7 @@ void DiscoveryPlan::takeMembers(const Step &step,
 
 void DiscoveryPlan::failed(const Step &step, const CallOutcome &outcome)
 {
-    const mms::Text why = whyNot(outcome);
+    const mms::Text why = whyUndescribed(outcome);
     if (step.kind == Kind::Type && mayHaveParts(outcome)) {
         Device &device = m_devices[step.device];
         if (!device.namesKnown && !m_stopped) {
@@ -597,7 +470,9 @@ bool DiscoveryPlan::descend(const Step &step)
     const auto depth = static_cast<std::size_t>(std::ranges::count(step.object.item, separator));
     if (m_stopped || depth >= m_limits.depth)
         return false;
-    const std::vector<std::string> parts = partsOf(m_devices[step.device], step.object.item);
+    Device &device = m_devices[step.device];
+    const std::vector<std::string> parts =
+        device.parts.below(m_lists[device.variables].pages, step.object.item);
     mms::TypeDescription *type = typeOf(step);
     if (parts.empty() || !type)
         return false;
@@ -613,54 +488,10 @@ bool DiscoveryPlan::descend(const Step &step)
     return true;
 }
 
-/// The parts of @p item that the names of the device know. In the order in which the device lists
-/// them; functional constraints of a logical node have an order of their own.
-std::vector<std::string> DiscoveryPlan::partsOf(Device &device, const std::string &item) const
-{
-    const auto &names = m_lists[device.variables].pages.names();
-    auto &sorted = device.sorted;
-    if (sorted.empty()) {
-        sorted.resize(names.size());
-        std::iota(sorted.begin(), sorted.end(), 0U);
-        std::ranges::sort(sorted, {}, [&names](std::uint32_t place) -> const std::string & {
-            return names[place];
-        });
-    }
-    const std::string prefix = item + separator;
-    std::vector<std::pair<std::uint32_t, std::string_view>> found;
-    auto place = std::ranges::lower_bound(
-        sorted, prefix, {},
-        [&names](std::uint32_t each) -> const std::string & { return names[each]; });
-    for (; place != sorted.end() && names[*place].starts_with(prefix); ++place) {
-        const std::string_view rest = std::string_view(names[*place]).substr(prefix.size());
-        const std::string_view part = rest.substr(0, rest.find(separator));
-        if (part.empty())
-            continue;
-        if (found.empty() || found.back().second != part)
-            found.emplace_back(*place, part);
-        else
-            found.back().first = std::min(found.back().first, *place);
-    }
-    const bool isNode = item.find(separator) == std::string::npos;
-    std::ranges::sort(found, {}, [isNode](const auto &each) {
-        const auto constraint = functionalConstraintFrom(each.second);
-        return std::pair(isNode ? (constraint ? static_cast<int>(*constraint) : 256) : 0,
-                         each.first);
-    });
-    std::vector<std::string> parts;
-    std::set<std::string_view> known;
-    for (const auto &each : found) {
-        // A name may hold what sorts before the separator, and tear a part's names apart.
-        if (known.insert(each.second).second)
-            parts.emplace_back(each.second);
-    }
-    return parts;
-}
-
 /// The place of a type or of a part of it in the logical node.
 mms::TypeDescription *DiscoveryPlan::typeOf(const Step &step)
 {
-    mms::TypeDescription *type = &m_server.devices[step.device].nodes[step.node].type;
+    mms::TypeDescription *type = &m_server.devices[step.device].nodes[step.node].type.edit();
     std::string_view rest = step.object.item;
     for (std::size_t end = rest.find(separator); end != rest.npos; end = rest.find(separator)) {
         rest.remove_prefix(end + 1);
@@ -711,6 +542,8 @@ mms::Result<ServerDescription> DiscoveryPlan::take()
             std::ranges::sort(node.inParts);
             node.inParts.erase(std::unique(node.inParts.begin(), node.inParts.end()),
                                node.inParts.end());
+            if (!node.inParts.empty())
+                node.type = m_types.emplace(std::move(node.type), TypeMeasure()).first->first;
         }
     }
     return std::move(m_server);

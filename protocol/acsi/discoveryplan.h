@@ -2,7 +2,10 @@
 #pragma once
 
 #include "acsi/discovery.h"
+#include "acsi/namedparts.h"
 #include "acsi/namepages.h"
+#include "acsi/sharedtype.h"
+#include "acsi/typelimits.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -11,6 +14,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -89,9 +93,8 @@ private:
     {
         std::map<std::string, std::size_t, std::less<>> nodes;
         std::size_t variables = 0; ///< the list of its variables
-        /// Positions in that list, sorted by name; once something had to be taken in parts.
-        std::vector<std::uint32_t> sorted;
-        bool namesKnown = false; ///< or as many as can be had
+        NamedParts parts;          ///< as that list tells them
+        bool namesKnown = false;   ///< or as many as can be had
         /// Types that cannot be had as a whole, with the reason, until the names of their parts
         /// are known.
         std::vector<std::pair<Step, mms::Text>> tooLarge;
@@ -116,10 +119,11 @@ private:
     void takeNode(std::size_t device, std::string_view item);
     void namesEnded(std::size_t list);
     void takeType(const Step &step, mms::TypeDescription type);
-    void withoutExcess(mms::TypeDescription &type, const Step &step, const std::string &item);
+    bool reduce(const mms::ObjectName &variable, mms::TypeDescription &type,
+                std::vector<std::string> &inParts);
+    bool addUp(const Step &step, const TypeMeasure &measure);
     void leaveOut(mms::Text sentence);
     void stop(mms::Text sentence);
-    std::vector<std::string> partsOf(Device &device, const std::string &item) const;
     void takeMembers(const Step &step, mms::GetNamedVariableListAttributesResponse answer);
 
     void silent(const Step &step);
@@ -146,6 +150,8 @@ private:
     std::deque<Step> m_others;
     std::map<std::size_t, Step> m_asked;
     std::deque<NameList> m_lists;
+    /// As they came, where all of them was taken.
+    std::unordered_map<SharedType, TypeMeasure, SharedType::Hash> m_types;
     std::deque<Device> m_devices; ///< in the order of ServerDescription::devices
     ServerDescription m_server;
     std::optional<mms::Error> m_error;

@@ -200,9 +200,9 @@ std::vector<SettingLeaf> settingLeaves(const DeviceDescription &device,
 {
     std::vector<SettingLeaf> leaves;
     for (const NodeDescription &node : device.nodes) {
-        const auto group = std::ranges::find(node.type.components, toText(constraint),
+        const auto group = std::ranges::find(node.type->components, toText(constraint),
                                              &TypeDescription::Component::name);
-        if (group == node.type.components.end())
+        if (group == node.type->components.end())
             continue;
         collectLeaves({device.name, node.name, constraint, {}}, group->type, leaves);
     }

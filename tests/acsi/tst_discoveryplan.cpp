@@ -209,6 +209,22 @@ TEST(DiscoveryPlan, FindsEverythingWithinItsWindow)
     }
 }
 
+TEST(DiscoveryPlan, NodesOfEqualTypeShareOneDescription)
+{
+    PlanDriver driver(5);
+    const auto server = driver.run();
+    expectWhole(server);
+    const TypeDescription &first = server->devices[0].nodes[0].type;
+    for (const DeviceDescription &device : server->devices) {
+        for (const NodeDescription &node : device.nodes)
+            EXPECT_EQ(&*node.type, &first) << node.name;
+    }
+    // Who changes one changes no other.
+    SharedType changed = server->devices[0].nodes[0].type;
+    changed.edit().components.clear();
+    EXPECT_EQ(server->devices[0].nodes[0].type, nodeType());
+}
+
 TEST(DiscoveryPlan, NeedsFewRoundTripsForALargeDevice)
 {
     PlanDriver driver(5);
