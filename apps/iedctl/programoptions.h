@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "driver/device/deviceconfiguration.h"
+#include "driver/administration/deviceconfiguration.h"
 
 #include <QtCore/QString>
 
