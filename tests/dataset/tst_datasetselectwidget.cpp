@@ -95,7 +95,7 @@ class tst_DatasetSelectWidget : public QObject
     Q_OBJECT
 
 private slots:
-    void dialogIsLaidOutAsItsFormSays();
+    void theDialogBearsTheNamesAndTextsThatHostsKnow();
     void longTranslationsAreShownWhole();
     void treeListsStatusAndMeasurementByConstraint();
     void objectOfBothConstraintsIsListedUnderEach();
@@ -218,7 +218,7 @@ ShownMessage tst_DatasetSelectWidget::pressOkAndReadWarning()
     return message;
 }
 
-void tst_DatasetSelectWidget::dialogIsLaidOutAsItsFormSays()
+void tst_DatasetSelectWidget::theDialogBearsTheNamesAndTextsThatHostsKnow()
 {
     openBay();
     QCOMPARE(m_dialog->objectName(), "DatasetSelectWidget");

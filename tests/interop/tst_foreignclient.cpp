@@ -183,7 +183,7 @@ QJsonArray texts(std::initializer_list<const char *> list)
 
 } // namespace
 
-TEST_F(ForeignClientTest, associates)
+TEST_F(ForeignClientTest, associatesWithOurDevice)
 {
     row("Initiate");
     connect();
@@ -605,7 +605,7 @@ TEST_F(ForeignClientTest, hearsInformationReports)
               (QJsonObject{{"text", "Measured"}}));
 }
 
-TEST_F(ForeignClientTest, concludes)
+TEST_F(ForeignClientTest, concludesTheAssociation)
 {
     row("Conclude and release");
     connect();
@@ -613,7 +613,7 @@ TEST_F(ForeignClientTest, concludes)
     EXPECT_TRUE(ask("awaitclosed").toBool());
 }
 
-TEST_F(ForeignClientTest, aborts)
+TEST_F(ForeignClientTest, abortsTheAssociation)
 {
     row("Abort");
     connect();

@@ -132,7 +132,7 @@ protected:
     simtest::DescribedIed m_ied{nodes, types};
 };
 
-TEST(LnClass, IsFoundBetweenPrefixAndNumber)
+TEST(LnClass, isFoundBetweenPrefixAndNumber)
 {
     EXPECT_EQ(sim::lnClassOf("QA1XCBR1"), "XCBR");
     EXPECT_EQ(sim::lnClassOf("LLN0"), "LLN0");
@@ -141,7 +141,7 @@ TEST(LnClass, IsFoundBetweenPrefixAndNumber)
     EXPECT_EQ(sim::lnClassOf("someNode1"), "");
 }
 
-TEST_F(AnimationTest, MeasurementsOfThreePhasesAgree)
+TEST_F(AnimationTest, measurementsOfThreePhasesAgree)
 {
     Animated bay(*m_ied);
     for (int i = 0; i < 50; ++i) {
@@ -164,7 +164,7 @@ TEST_F(AnimationTest, MeasurementsOfThreePhasesAgree)
     }
 }
 
-TEST_F(AnimationTest, EveryMeasurementMovesWithinASecondAndBearsItsTime)
+TEST_F(AnimationTest, everyMeasurementMovesWithinASecondAndBearsItsTime)
 {
     Animated bay(*m_ied);
     bay.advance(0ms);
@@ -176,7 +176,7 @@ TEST_F(AnimationTest, EveryMeasurementMovesWithinASecondAndBearsItsTime)
     EXPECT_EQ(bay.value("MMXU1$MX$Hz$t").toUtcTime()->seconds, 1614834368U);
 }
 
-TEST_F(AnimationTest, TheSameSeedGivesTheSameCourse)
+TEST_F(AnimationTest, theSameSeedGivesTheSameCourse)
 {
     const auto courseOf = [this](std::uint64_t seed) {
         Animated bay(*m_ied, {seed, 250ms, true});
@@ -188,7 +188,7 @@ TEST_F(AnimationTest, TheSameSeedGivesTheSameCourse)
     EXPECT_FALSE(first == courseOf(8));
 }
 
-TEST_F(AnimationTest, SwitchesStartWhereABayInServiceHasThem)
+TEST_F(AnimationTest, switchesStartWhereABayInServiceHasThem)
 {
     Animated bay(*m_ied);
     EXPECT_EQ(bay.position("QA1XCBR1"), DoublePosition::On);
@@ -197,7 +197,7 @@ TEST_F(AnimationTest, SwitchesStartWhereABayInServiceHasThem)
     EXPECT_EQ(bay.position("QC1XSWI1"), DoublePosition::Off);
 }
 
-TEST_F(AnimationTest, NoCurrentFlowsThroughASwitchThatAnOperatorOpened)
+TEST_F(AnimationTest, noCurrentFlowsThroughASwitchThatAnOperatorOpened)
 {
     Animated bay(*m_ied);
     for (const std::string name : {"QA1XCBR1", "QB1XSWI1"}) {
@@ -215,7 +215,7 @@ TEST_F(AnimationTest, NoCurrentFlowsThroughASwitchThatAnOperatorOpened)
     }
 }
 
-TEST_F(AnimationTest, ABreakerThatOpensByItselfClosesSecondsLater)
+TEST_F(AnimationTest, aBreakerThatOpensByItselfClosesSecondsLater)
 {
     Animated bay(*m_ied);
     bay.advance(1s);
@@ -232,7 +232,7 @@ TEST_F(AnimationTest, ABreakerThatOpensByItselfClosesSecondsLater)
     EXPECT_EQ(bay.number("QA1XCBR1$ST$OpCnt$stVal"), 2);
 }
 
-TEST_F(AnimationTest, AFaultStartsTripsIsRecordedAndIsReclosed)
+TEST_F(AnimationTest, aFaultStartsTripsIsRecordedAndIsReclosed)
 {
     Animated bay(*m_ied);
     bay.advance(1s);
@@ -274,7 +274,7 @@ TEST_F(AnimationTest, AFaultStartsTripsIsRecordedAndIsReclosed)
     EXPECT_TRUE(bay.animation().startFault());
 }
 
-TEST_F(AnimationTest, AFaultShowsInCurrentsAndVoltages)
+TEST_F(AnimationTest, aFaultShowsInCurrentsAndVoltages)
 {
     Animated bay(*m_ied, {1, 10ms, false});
     bay.advance(1s);
@@ -287,7 +287,7 @@ TEST_F(AnimationTest, AFaultShowsInCurrentsAndVoltages)
     }
 }
 
-TEST_F(AnimationTest, EventsComeByThemselvesWhenAskedFor)
+TEST_F(AnimationTest, eventsComeByThemselvesWhenAskedFor)
 {
     Animated bay(*m_ied, {1, 250ms, true});
     bay.advance(5min);
@@ -299,7 +299,7 @@ TEST_F(AnimationTest, EventsComeByThemselvesWhenAskedFor)
     EXPECT_EQ(quiet.number("QA1XCBR1$ST$OpCnt$stVal"), 0);
 }
 
-TEST_F(AnimationTest, SubstitutedValuesStay)
+TEST_F(AnimationTest, substitutedValuesStay)
 {
     Animated bay(*m_ied);
     bay.advance(1s);
@@ -312,7 +312,7 @@ TEST_F(AnimationTest, SubstitutedValuesStay)
     EXPECT_NEAR(bay.measured("Hz"), 50, 0.1);
 }
 
-TEST_F(AnimationTest, EnergyIsCountedInItsDirection)
+TEST_F(AnimationTest, energyIsCountedInItsDirection)
 {
     Animated bay(*m_ied);
     bay.advance(1h);
@@ -321,7 +321,7 @@ TEST_F(AnimationTest, EnergyIsCountedInItsDirection)
     EXPECT_EQ(bay.number("MMTR1$ST$SupWh$actVal"), 0);
 }
 
-TEST_F(AnimationTest, TheTimerRunsOnlyWhenSomethingIsDue)
+TEST_F(AnimationTest, theTimerRunsOnlyWhenSomethingIsDue)
 {
     struct Counting : sim::ChangeListener
     {
@@ -336,7 +336,7 @@ TEST_F(AnimationTest, TheTimerRunsOnlyWhenSomethingIsDue)
     EXPECT_LE(listener.count, 100);
 }
 
-TEST(AnimationOfAnyFile, ValuesStayWithinTheirTypes)
+TEST(AnimationOfAnyFile, valuesStayWithinTheirTypes)
 {
     int devices = 0;
     std::vector<std::filesystem::path> files{DEMONSTRATION_FILE};
@@ -363,7 +363,7 @@ TEST(AnimationOfAnyFile, ValuesStayWithinTheirTypes)
     EXPECT_GT(devices, 10);
 }
 
-TEST(AnimationOfAnyFile, EveryMeasuredMagnitudeOfTheDemonstrationMoves)
+TEST(AnimationOfAnyFile, everyMeasuredMagnitudeOfTheDemonstrationMoves)
 {
     const auto read = scl::readFile(DEMONSTRATION_FILE);
     ASSERT_TRUE(read.document);

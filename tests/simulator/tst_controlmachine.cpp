@@ -116,7 +116,7 @@ private:
 
 } // namespace
 
-TEST_F(ControlMachineTest, StatusOnlyObjectsCannotBeControlled)
+TEST_F(ControlMachineTest, statusOnlyObjectsCannotBeControlled)
 {
     use(ControlModel::StatusOnly);
     EXPECT_EQ(selectByRead(m_client), "-");
@@ -126,7 +126,7 @@ TEST_F(ControlMachineTest, StatusOnlyObjectsCannotBeControlled)
     EXPECT_EQ(m_process.receiver, &m_client);
 }
 
-TEST_F(ControlMachineTest, DirectControlMovesTheProcessWithoutATermination)
+TEST_F(ControlMachineTest, directControlMovesTheProcessWithoutATermination)
 {
     EXPECT_EQ(operate(m_client), "+ start");
     EXPECT_TRUE(m_machine.isOperating());
@@ -136,7 +136,7 @@ TEST_F(ControlMachineTest, DirectControlMovesTheProcessWithoutATermination)
     EXPECT_EQ(operate(m_other), "+ start");
 }
 
-TEST_F(ControlMachineTest, WhatTheProcessForbidsIsToldBeforeTheRefusal)
+TEST_F(ControlMachineTest, whatTheProcessForbidsIsToldBeforeTheRefusal)
 {
     m_process.forbidden = AddCause::BlockedByInterlocking;
     EXPECT_EQ(operate(m_client), "- Oper:10");
@@ -144,7 +144,7 @@ TEST_F(ControlMachineTest, WhatTheProcessForbidsIsToldBeforeTheRefusal)
     EXPECT_EQ(select(m_client), "- SBOw:10");
 }
 
-TEST_F(ControlMachineTest, NoSecondControlWhileOneIsExecuted)
+TEST_F(ControlMachineTest, noSecondControlWhileOneIsExecuted)
 {
     operate(m_client);
     EXPECT_EQ(operate(m_client), "- Oper:12");
@@ -152,7 +152,7 @@ TEST_F(ControlMachineTest, NoSecondControlWhileOneIsExecuted)
     EXPECT_EQ(pass(100ms), "finish");
 }
 
-TEST_F(ControlMachineTest, EnhancedControlIsTerminatedPositively)
+TEST_F(ControlMachineTest, enhancedControlIsTerminatedPositively)
 {
     use(ControlModel::DirectEnhanced);
     EXPECT_EQ(operate(m_client), "+ start");
@@ -160,7 +160,7 @@ TEST_F(ControlMachineTest, EnhancedControlIsTerminatedPositively)
     EXPECT_EQ(m_process.receiver, &m_client);
 }
 
-TEST_F(ControlMachineTest, AProcessThatDoesNotFollowIsTerminatedNegatively)
+TEST_F(ControlMachineTest, aProcessThatDoesNotFollowIsTerminatedNegatively)
 {
     use(ControlModel::DirectEnhanced);
     m_process.configuration.operatingTime.reset();
@@ -172,7 +172,7 @@ TEST_F(ControlMachineTest, AProcessThatDoesNotFollowIsTerminatedNegatively)
     EXPECT_EQ(pass(500ms), "stop16 term- Oper:16");
 }
 
-TEST_F(ControlMachineTest, SelectionByReadBelongsToOneClient)
+TEST_F(ControlMachineTest, selectionByReadBelongsToOneClient)
 {
     use(ControlModel::SelectNormal);
     EXPECT_EQ(operate(m_client), "- Oper:18");
@@ -186,7 +186,7 @@ TEST_F(ControlMachineTest, SelectionByReadBelongsToOneClient)
     EXPECT_EQ(selectByRead(m_other), "+ select");
 }
 
-TEST_F(ControlMachineTest, SelectionWithValueBelongsToOneClient)
+TEST_F(ControlMachineTest, selectionWithValueBelongsToOneClient)
 {
     use(ControlModel::SelectEnhanced);
     EXPECT_EQ(selectByRead(m_client), "-");
@@ -198,7 +198,7 @@ TEST_F(ControlMachineTest, SelectionWithValueBelongsToOneClient)
     EXPECT_EQ(pass(100ms), "finish term+");
 }
 
-TEST_F(ControlMachineTest, TheWrongWayToSelectIsRefused)
+TEST_F(ControlMachineTest, theWrongWayToSelectIsRefused)
 {
     use(ControlModel::SelectNormal);
     EXPECT_EQ(select(m_client), "- SBOw:1");
@@ -209,7 +209,7 @@ TEST_F(ControlMachineTest, TheWrongWayToSelectIsRefused)
     EXPECT_EQ(select(m_client), "- SBOw:1");
 }
 
-TEST_F(ControlMachineTest, AnOperateThatDiffersFromTheSelectionIsRefusedAndEndsIt)
+TEST_F(ControlMachineTest, anOperateThatDiffersFromTheSelectionIsRefusedAndEndsIt)
 {
     use(ControlModel::SelectEnhanced);
     const ControlRequest selected = m_request;
@@ -234,7 +234,7 @@ TEST_F(ControlMachineTest, AnOperateThatDiffersFromTheSelectionIsRefusedAndEndsI
     EXPECT_EQ(operate(m_client), "+ deselect start");
 }
 
-TEST_F(ControlMachineTest, ASelectionEndsByItself)
+TEST_F(ControlMachineTest, aSelectionEndsByItself)
 {
     use(ControlModel::SelectNormal);
     selectByRead(m_client);
@@ -245,7 +245,7 @@ TEST_F(ControlMachineTest, ASelectionEndsByItself)
     EXPECT_EQ(operate(m_client), "- Oper:18");
 }
 
-TEST_F(ControlMachineTest, ASelectionThatMayOperateOftenLastsBeyondTheOperation)
+TEST_F(ControlMachineTest, aSelectionThatMayOperateOftenLastsBeyondTheOperation)
 {
     use(ControlModel::SelectEnhanced);
     m_process.configuration.operateMany = true;
@@ -259,7 +259,7 @@ TEST_F(ControlMachineTest, ASelectionThatMayOperateOftenLastsBeyondTheOperation)
     EXPECT_EQ(pass(1ms), "deselect");
 }
 
-TEST_F(ControlMachineTest, CancellingEndsASelection)
+TEST_F(ControlMachineTest, cancellingEndsASelection)
 {
     use(ControlModel::SelectNormal);
     selectByRead(m_client);
@@ -268,7 +268,7 @@ TEST_F(ControlMachineTest, CancellingEndsASelection)
     EXPECT_EQ(cancel(m_client), "- Cancel:18");
 }
 
-TEST_F(ControlMachineTest, CancellingStopsAnOperation)
+TEST_F(ControlMachineTest, cancellingStopsAnOperation)
 {
     use(ControlModel::DirectEnhanced);
     operate(m_client);
@@ -277,7 +277,7 @@ TEST_F(ControlMachineTest, CancellingStopsAnOperation)
     EXPECT_EQ(operate(m_client), "+ start");
 }
 
-TEST_F(ControlMachineTest, CancellingStopsAnOperationOfAKeptSelection)
+TEST_F(ControlMachineTest, cancellingStopsAnOperationOfAKeptSelection)
 {
     use(ControlModel::SelectEnhanced);
     m_process.configuration.operateMany = true;
@@ -287,7 +287,7 @@ TEST_F(ControlMachineTest, CancellingStopsAnOperationOfAKeptSelection)
     EXPECT_EQ(operate(m_client), "- Oper:18");
 }
 
-TEST_F(ControlMachineTest, ACancelOfAnotherCommandThanTheOneThatRunsIsRefused)
+TEST_F(ControlMachineTest, aCancelOfAnotherCommandThanTheOneThatRunsIsRefused)
 {
     use(ControlModel::DirectEnhanced);
     operate(m_client);
@@ -305,7 +305,7 @@ TEST_F(ControlMachineTest, ACancelOfAnotherCommandThanTheOneThatRunsIsRefused)
     EXPECT_EQ(cancel(m_client), "+ stop15 term- Oper:15");
 }
 
-TEST_F(ControlMachineTest, ACancelRepeatsASelectionWithValue)
+TEST_F(ControlMachineTest, aCancelRepeatsASelectionWithValue)
 {
     use(ControlModel::SelectEnhanced);
     select(m_client);
@@ -316,7 +316,7 @@ TEST_F(ControlMachineTest, ACancelRepeatsASelectionWithValue)
     EXPECT_EQ(cancel(m_client), "+ deselect");
 }
 
-TEST_F(ControlMachineTest, ADeviceMayBeUnableToCancelWhatItExecutes)
+TEST_F(ControlMachineTest, aDeviceMayBeUnableToCancelWhatItExecutes)
 {
     use(ControlModel::DirectEnhanced);
     m_process.configuration.cancelsOperations = false;
@@ -325,7 +325,7 @@ TEST_F(ControlMachineTest, ADeviceMayBeUnableToCancelWhatItExecutes)
     EXPECT_EQ(pass(100ms), "finish term+");
 }
 
-TEST_F(ControlMachineTest, AStrictDeviceWantsToKnowWhoOperates)
+TEST_F(ControlMachineTest, aStrictDeviceWantsToKnowWhoOperates)
 {
     m_request.originator.category = 0;
     EXPECT_EQ(operate(m_client), "+ start");
@@ -334,14 +334,14 @@ TEST_F(ControlMachineTest, AStrictDeviceWantsToKnowWhoOperates)
     EXPECT_EQ(operate(m_client), "- Oper:26");
 }
 
-TEST_F(ControlMachineTest, ACauseMayFollowTheAnswer)
+TEST_F(ControlMachineTest, aCauseMayFollowTheAnswer)
 {
     m_process.configuration.causes.followsAnswer = true;
     m_process.forbidden = AddCause::BlockedByInterlocking;
     EXPECT_EQ(operate(m_client), "- later Oper:10");
 }
 
-TEST_F(ControlMachineTest, ALostClientLosesItsSelection)
+TEST_F(ControlMachineTest, aLostClientLosesItsSelection)
 {
     use(ControlModel::SelectNormal);
     selectByRead(m_client);
@@ -352,7 +352,7 @@ TEST_F(ControlMachineTest, ALostClientLosesItsSelection)
     EXPECT_EQ(selectByRead(m_other), "+ select");
 }
 
-TEST_F(ControlMachineTest, AnOperationGoesOnWithoutItsClientButTellsNobody)
+TEST_F(ControlMachineTest, anOperationGoesOnWithoutItsClientButTellsNobody)
 {
     use(ControlModel::DirectEnhanced);
     operate(m_client);
@@ -361,7 +361,7 @@ TEST_F(ControlMachineTest, AnOperationGoesOnWithoutItsClientButTellsNobody)
     EXPECT_EQ(pass(100ms), "finish");
 }
 
-TEST_F(ControlMachineTest, AnOperationForLaterStartsAtItsTime)
+TEST_F(ControlMachineTest, anOperationForLaterStartsAtItsTime)
 {
     use(ControlModel::DirectEnhanced);
     const auto now = m_clock.utcTime();
@@ -374,7 +374,7 @@ TEST_F(ControlMachineTest, AnOperationForLaterStartsAtItsTime)
     EXPECT_EQ(pass(100ms), "finish term+");
 }
 
-TEST_F(ControlMachineTest, AnOperationForLaterCanBeCancelledAndIsCheckedAgain)
+TEST_F(ControlMachineTest, anOperationForLaterCanBeCancelledAndIsCheckedAgain)
 {
     use(ControlModel::DirectEnhanced);
     m_request.operateTime = mms::UtcTime{m_clock.utcTime().seconds + 3, 0, 0};
@@ -386,7 +386,7 @@ TEST_F(ControlMachineTest, AnOperationForLaterCanBeCancelledAndIsCheckedAgain)
     EXPECT_EQ(operate(m_client), "- Oper:26");
 }
 
-TEST_F(ControlMachineTest, AnOperationForLaterOfALostClientIsForgotten)
+TEST_F(ControlMachineTest, anOperationForLaterOfALostClientIsForgotten)
 {
     m_request.operateTime = mms::UtcTime{m_clock.utcTime().seconds + 3, 0, 0};
     operate(m_client);
@@ -395,13 +395,13 @@ TEST_F(ControlMachineTest, AnOperationForLaterOfALostClientIsForgotten)
     EXPECT_FALSE(m_machine.isBusy());
 }
 
-TEST_F(ControlMachineTest, AnOperateTimeOfZeroMeansNow)
+TEST_F(ControlMachineTest, anOperateTimeOfZeroMeansNow)
 {
     m_request.operateTime = mms::UtcTime{0, 0, 0};
     EXPECT_EQ(operate(m_client), "+ start");
 }
 
-TEST_F(ControlMachineTest, ImplausibleOriginatorsAreRefused)
+TEST_F(ControlMachineTest, implausibleOriginatorsAreRefused)
 {
     m_request.originator.category = 9;
     EXPECT_EQ(operate(m_client), "- Oper:26");

@@ -264,7 +264,7 @@ protected:
 
 } // namespace
 
-TEST_F(DeviceRobustness, EveryRequestIsAnsweredAndTheModelStaysWhole)
+TEST_F(DeviceRobustness, everyRequestIsAnsweredAndTheModelStaysWhole)
 {
     for (std::uint32_t seed = 1; seed <= 3; ++seed) {
         Caller first(m_loop.executor(), m_running.port, {}, handlers());

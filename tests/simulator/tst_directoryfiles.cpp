@@ -220,7 +220,7 @@ protected:
 
 using Names = std::vector<std::string>;
 
-TEST_F(DirectoryFilesTest, ADirectoryThatDoesNotExistIsNotServed)
+TEST_F(DirectoryFilesTest, aDirectoryThatDoesNotExistIsNotServed)
 {
     m_options.directory = m_root / "missing";
     const auto missing = DirectoryFiles::create(m_options);
@@ -234,7 +234,7 @@ TEST_F(DirectoryFilesTest, ADirectoryThatDoesNotExistIsNotServed)
               "\"" + (m_root / "config.txt").string() + "\" is not a directory.");
 }
 
-TEST_F(DirectoryFilesTest, ListsOneLevelWithCompleteNames)
+TEST_F(DirectoryFilesTest, listsOneLevelWithCompleteNames)
 {
     const Names root{"COMTRADE/", "config.txt"};
     EXPECT_EQ(names(std::nullopt), root);
@@ -250,7 +250,7 @@ TEST_F(DirectoryFilesTest, ListsOneLevelWithCompleteNames)
     EXPECT_EQ(names(FileName{"config.txt"}), Names{"config.txt"});
 }
 
-TEST_F(DirectoryFilesTest, ListsSizesAndTimesInUtc)
+TEST_F(DirectoryFilesTest, listsSizesAndTimesInUtc)
 {
     using namespace std::chrono;
     const sys_time<milliseconds> stamp = sys_days(2021y / March / 4d) + 5h + 6min + 7s + 89ms;
@@ -263,14 +263,14 @@ TEST_F(DirectoryFilesTest, ListsSizesAndTimesInUtc)
     EXPECT_FALSE(root.moreFollows);
 }
 
-TEST_F(DirectoryFilesTest, AFlatListingHasAllFilesBelowAndNoDirectories)
+TEST_F(DirectoryFilesTest, aFlatListingHasAllFilesBelowAndNoDirectories)
 {
     m_options.flatListing = true;
     EXPECT_EQ(names(std::nullopt), (Names{"COMTRADE/a.cfg", "COMTRADE/old/b.cfg", "config.txt"}));
     EXPECT_EQ(names(FileName{"COMTRADE/old"}), Names{"COMTRADE/old/b.cfg"});
 }
 
-TEST_F(DirectoryFilesTest, LongListingsComeInPagesThatFitThePduAndAreComplete)
+TEST_F(DirectoryFilesTest, longListingsComeInPagesThatFitThePduAndAreComplete)
 {
     for (int i = 0; i < 300; ++i)
         put(m_root / "COMTRADE" / ("fault-" + std::to_string(1000 + i) + ".dat"), "x");
@@ -295,7 +295,7 @@ TEST_F(DirectoryFilesTest, LongListingsComeInPagesThatFitThePduAndAreComplete)
     EXPECT_EQ(std::ranges::adjacent_find(all), all.end());
 }
 
-TEST_F(DirectoryFilesTest, PagesGoOnBehindAFileThatVanishedAndBehindADirectory)
+TEST_F(DirectoryFilesTest, pagesGoOnBehindAFileThatVanishedAndBehindADirectory)
 {
     EXPECT_EQ(page(std::nullopt, FileName{"COMTRADE/"}).entries.size(), 1U);
     EXPECT_EQ(page(std::nullopt, FileName{"COMTRADE"}).entries.size(), 1U);
@@ -303,7 +303,7 @@ TEST_F(DirectoryFilesTest, PagesGoOnBehindAFileThatVanishedAndBehindADirectory)
     EXPECT_EQ(page(std::nullopt, FileName{"config.txt"}).entries.size(), 0U);
 }
 
-TEST_F(DirectoryFilesTest, ReadsFilesInBlocksThatFillThePdu)
+TEST_F(DirectoryFilesTest, readsFilesInBlocksThatFillThePdu)
 {
     std::string content;
     for (int i = 0; i < 200000; ++i)
@@ -321,7 +321,7 @@ TEST_F(DirectoryFilesTest, ReadsFilesInBlocksThatFillThePdu)
     }
 }
 
-TEST_F(DirectoryFilesTest, ReadsFromAPositionAndEmptyFiles)
+TEST_F(DirectoryFilesTest, readsFromAPositionAndEmptyFiles)
 {
     EXPECT_EQ(wholeFile({"/config.txt"}), "0123456789");
     const FileReadResponse rest = read(frsmIdOf(open({"config.txt"}, 7)));
@@ -335,7 +335,7 @@ TEST_F(DirectoryFilesTest, ReadsFromAPositionAndEmptyFiles)
     EXPECT_EQ(wholeFile({"empty"}), "");
 }
 
-TEST_F(DirectoryFilesTest, NamesMayHaveSeveralPartsAndEitherSlash)
+TEST_F(DirectoryFilesTest, namesMayHaveSeveralPartsAndEitherSlash)
 {
     for (const FileName &name :
          {FileName{"COMTRADE/old/b.cfg"}, FileName{"\\COMTRADE\\old\\b.cfg"},
@@ -346,14 +346,14 @@ TEST_F(DirectoryFilesTest, NamesMayHaveSeveralPartsAndEitherSlash)
     EXPECT_EQ(codeOf(open({"comtrade/old/b.cfg"})), serviceerrors::fileNonExistent);
 }
 
-TEST_F(DirectoryFilesTest, PeersWithOnePartNamesRefuseSeveral)
+TEST_F(DirectoryFilesTest, peersWithOnePartNamesRefuseSeveral)
 {
     m_options.onePartNames = true;
     EXPECT_EQ(codeOf(open({"COMTRADE", "a.cfg"})), serviceerrors::fileNameSyntaxError);
     EXPECT_EQ(wholeFile({"COMTRADE/a.cfg"}), "aa");
 }
 
-TEST_F(DirectoryFilesTest, NothingOutsideTheDirectoryCanBeReached)
+TEST_F(DirectoryFilesTest, nothingOutsideTheDirectoryCanBeReached)
 {
     fs::create_symlink(m_outside / "secret.txt", m_root / "link.txt");
     fs::create_directory_symlink(m_outside, m_root / "out");
@@ -389,7 +389,7 @@ TEST_F(DirectoryFilesTest, NothingOutsideTheDirectoryCanBeReached)
     EXPECT_FALSE(fs::exists(m_outside / "unborn.txt"));
 }
 
-TEST_F(DirectoryFilesTest, FiveFilesMayBeOpenAtATimeForEachClient)
+TEST_F(DirectoryFilesTest, fiveFilesMayBeOpenAtATimeForEachClient)
 {
     std::int32_t last = 0;
     for (int i = 0; i < 5; ++i)
@@ -406,7 +406,7 @@ TEST_F(DirectoryFilesTest, FiveFilesMayBeOpenAtATimeForEachClient)
     EXPECT_TRUE(answers<FileOpenResponse>(open({"config.txt"})));
 }
 
-TEST_F(DirectoryFilesTest, OpenFilesBelongToTheirClient)
+TEST_F(DirectoryFilesTest, openFilesBelongToTheirClient)
 {
     const std::int32_t frsmId = frsmIdOf(open({"config.txt"}));
     FileClient other;
@@ -416,7 +416,7 @@ TEST_F(DirectoryFilesTest, OpenFilesBelongToTheirClient)
     EXPECT_EQ(read(frsmId).data.size(), 10U);
 }
 
-TEST_F(DirectoryFilesTest, AFileThatBecomesShorterEndsEarlier)
+TEST_F(DirectoryFilesTest, aFileThatBecomesShorterEndsEarlier)
 {
     put(m_root / "log.txt", std::string(3000, 'x'));
     m_client.longestPdu = 1000;
@@ -426,7 +426,7 @@ TEST_F(DirectoryFilesTest, AFileThatBecomesShorterEndsEarlier)
     EXPECT_FALSE(read(frsmId).moreFollows);
 }
 
-TEST_F(DirectoryFilesTest, DeletesFilesButNoDirectoriesAndNoneThatAreInUse)
+TEST_F(DirectoryFilesTest, deletesFilesButNoDirectoriesAndNoneThatAreInUse)
 {
     EXPECT_EQ(codeOf(remove({"missing"})), serviceerrors::fileNonExistent);
     EXPECT_EQ(codeOf(remove({"COMTRADE"})), serviceerrors::fileAccessDenied);
@@ -438,7 +438,7 @@ TEST_F(DirectoryFilesTest, DeletesFilesButNoDirectoriesAndNoneThatAreInUse)
     EXPECT_FALSE(fs::exists(m_root / "config.txt"));
 }
 
-TEST_F(DirectoryFilesTest, RenamesToNamesThatAreFree)
+TEST_F(DirectoryFilesTest, renamesToNamesThatAreFree)
 {
     EXPECT_TRUE(answers<FileRenameResponse>(rename({"config.txt"}, {"COMTRADE\\new.txt"})));
     EXPECT_EQ(contentOf(m_root / "COMTRADE" / "new.txt"), "0123456789");
@@ -450,7 +450,7 @@ TEST_F(DirectoryFilesTest, RenamesToNamesThatAreFree)
     EXPECT_EQ(codeOf(rename({"/"}, {"x"})), serviceerrors::fileNonExistent);
 }
 
-TEST_F(DirectoryFilesTest, AReadOnlyDirectoryCanBeReadOnly)
+TEST_F(DirectoryFilesTest, aReadOnlyDirectoryCanBeReadOnly)
 {
     m_options.readOnly = true;
     EXPECT_EQ(wholeFile({"config.txt"}), "0123456789");
@@ -459,7 +459,7 @@ TEST_F(DirectoryFilesTest, AReadOnlyDirectoryCanBeReadOnly)
     EXPECT_EQ(codeOf(obtain({"x"}).value()), serviceerrors::fileAccessDenied);
 }
 
-TEST_F(DirectoryFilesTest, FetchesAFileFromTheClient)
+TEST_F(DirectoryFilesTest, fetchesAFileFromTheClient)
 {
     const auto &result = obtain({"/COMTRADE/new.bin"});
     EXPECT_EQ(m_client.answer<FileOpenRequest>(ResponseService(FileOpenResponse{17, {6, {}}})),
@@ -480,7 +480,7 @@ TEST_F(DirectoryFilesTest, FetchesAFileFromTheClient)
     EXPECT_TRUE(m_client.calls.empty());
 }
 
-TEST_F(DirectoryFilesTest, AFetchedFileReplacesTheOldOneOnlyWhenItIsComplete)
+TEST_F(DirectoryFilesTest, aFetchedFileReplacesTheOldOneOnlyWhenItIsComplete)
 {
     const auto &result = obtain({"config.txt"});
     m_client.answer<FileOpenRequest>(ResponseService(FileOpenResponse{1, {}}));
@@ -495,7 +495,7 @@ TEST_F(DirectoryFilesTest, AFetchedFileReplacesTheOldOneOnlyWhenItIsComplete)
     EXPECT_TRUE(answers<ObtainFileResponse>(*result));
 }
 
-TEST_F(DirectoryFilesTest, AFetchThatFailsLeavesNoHalfFile)
+TEST_F(DirectoryFilesTest, aFetchThatFailsLeavesNoHalfFile)
 {
     const Names before = everything();
     m_options.maxFileSize = 100;
@@ -539,7 +539,7 @@ TEST_F(DirectoryFilesTest, AFetchThatFailsLeavesNoHalfFile)
     EXPECT_EQ(everything(), before);
 }
 
-TEST_F(DirectoryFilesTest, AClientThatRefusesToOpenEndsTheFetch)
+TEST_F(DirectoryFilesTest, aClientThatRefusesToOpenEndsTheFetch)
 {
     const auto &result = obtain({"new.bin"});
     m_client.answer<FileOpenRequest>(
@@ -548,7 +548,7 @@ TEST_F(DirectoryFilesTest, AClientThatRefusesToOpenEndsTheFetch)
     EXPECT_FALSE(fs::exists(m_root / "new.bin"));
 }
 
-TEST_F(DirectoryFilesTest, FetchesThatCannotSucceedAreRefusedAtOnce)
+TEST_F(DirectoryFilesTest, fetchesThatCannotSucceedAreRefusedAtOnce)
 {
     m_options.keepExisting = true;
     EXPECT_EQ(codeOf(obtain({"config.txt"}).value()), serviceerrors::fileDuplicateName);

@@ -126,7 +126,7 @@ protected:
 
 } // namespace
 
-TEST_F(EnginesTest, ReportBlocksShowWhatTheFileConfigures)
+TEST_F(EnginesTest, reportBlocksShowWhatTheFileConfigures)
 {
     EXPECT_EQ(read("LLN0$BR$brcb01$RptID"), Data::visibleString("b"));
     EXPECT_EQ(read("LLN0$BR$brcb01$DatSet"), Data::visibleString("IED1LD/LLN0$Positions"));
@@ -138,7 +138,7 @@ TEST_F(EnginesTest, ReportBlocksShowWhatTheFileConfigures)
     EXPECT_TRUE(part("LLN0$RP$urcb02").isValid());
 }
 
-TEST_F(EnginesTest, AChangeOfTheModelIsReportedByTheMemberThatHoldsIt)
+TEST_F(EnginesTest, aChangeOfTheModelIsReportedByTheMemberThatHoldsIt)
 {
     ASSERT_EQ(write("LLN0$RP$urcb01$RptEna", on()), std::nullopt);
     set("XCBR1$ST$Pos$stVal", position("10"));
@@ -161,7 +161,7 @@ TEST_F(EnginesTest, AChangeOfTheModelIsReportedByTheMemberThatHoldsIt)
     EXPECT_EQ(read("LLN0$RP$urcb01$Owner"), Data::octetString(m_client.address()));
 }
 
-TEST_F(EnginesTest, ValuesThatAreSetTogetherAreReportedTogether)
+TEST_F(EnginesTest, valuesThatAreSetTogetherAreReportedTogether)
 {
     write("LLN0$RP$urcb01$RptEna", on());
     {
@@ -174,7 +174,7 @@ TEST_F(EnginesTest, ValuesThatAreSetTogetherAreReportedTogether)
     EXPECT_EQ(received[0].members.size(), 2U);
 }
 
-TEST_F(EnginesTest, EachInstanceOfABlockServesAnotherClient)
+TEST_F(EnginesTest, eachInstanceOfABlockServesAnotherClient)
 {
     write("LLN0$RP$urcb01$RptEna", on());
     EXPECT_EQ(write("LLN0$RP$urcb01$RptEna", on(), m_other),
@@ -190,7 +190,7 @@ TEST_F(EnginesTest, EachInstanceOfABlockServesAnotherClient)
     EXPECT_EQ(read("LLN0$RP$urcb01$RptEna"), off());
 }
 
-TEST_F(EnginesTest, TimesOfBlocksAreKept)
+TEST_F(EnginesTest, timesOfBlocksAreKept)
 {
     write("LLN0$RP$meas$RptEna", on());
     set("MMXU1$MX$Hz$mag$f", Data::float32(50));
@@ -210,7 +210,7 @@ TEST_F(EnginesTest, TimesOfBlocksAreKept)
     EXPECT_EQ(m_client.reports.size(), 5U);
 }
 
-TEST_F(EnginesTest, ABufferedBlockIsReplayedAfterItsWriteWasAnswered)
+TEST_F(EnginesTest, aBufferedBlockIsReplayedAfterItsWriteWasAnswered)
 {
     set("XCBR1$ST$Pos$stVal", position("10"));
     set("XCBR1$ST$Pos$stVal", position("01"));
@@ -232,7 +232,7 @@ TEST_F(EnginesTest, ABufferedBlockIsReplayedAfterItsWriteWasAnswered)
     EXPECT_EQ(reports(m_client).size(), 1U);
 }
 
-TEST_F(EnginesTest, AClientWhoseNetworkIsFullGetsTheBufferOnceItHasRoom)
+TEST_F(EnginesTest, aClientWhoseNetworkIsFullGetsTheBufferOnceItHasRoom)
 {
     write("LLN0$BR$brcb01$RptEna", on());
     m_clock.advance(0ms);
@@ -246,7 +246,7 @@ TEST_F(EnginesTest, AClientWhoseNetworkIsFullGetsTheBufferOnceItHasRoom)
     EXPECT_EQ(reports(m_client).size(), 2U);
 }
 
-TEST_F(EnginesTest, ADataSetThatABlockUsesIsNotDeleted)
+TEST_F(EnginesTest, aDataSetThatABlockUsesIsNotDeleted)
 {
     mms::DefineNamedVariableListRequest define;
     define.name = mms::ObjectName::inDomain("IED1LD", "LLN0$Mine");
@@ -273,7 +273,7 @@ TEST_F(EnginesTest, ADataSetThatABlockUsesIsNotDeleted)
     EXPECT_EQ(deletedOf(), 1U);
 }
 
-TEST_F(EnginesTest, ALongReportComesInSegmentsThatFitTheClient)
+TEST_F(EnginesTest, aLongReportComesInSegmentsThatFitTheClient)
 {
     m_client.longestPdu = 150;
     write("LLN0$RP$urcb01$TrgOps", Data::bitString(mms::BitString::fromText("011001")));
@@ -291,7 +291,7 @@ TEST_F(EnginesTest, ALongReportComesInSegmentsThatFitTheClient)
     EXPECT_EQ(whole->members.size(), 3U);
 }
 
-TEST_F(EnginesTest, ASwitchIsSelectedAndGoesThroughItsIntermediatePosition)
+TEST_F(EnginesTest, aSwitchIsSelectedAndGoesThroughItsIntermediatePosition)
 {
     const auto close = request(on());
     EXPECT_EQ(control("CSWI1$CO$Pos", "Oper", close), "18");
@@ -318,13 +318,13 @@ TEST_F(EnginesTest, ASwitchIsSelectedAndGoesThroughItsIntermediatePosition)
     EXPECT_EQ(control("CSWI1$CO$Pos", "SBOw", close), "5");
 }
 
-TEST_F(EnginesTest, ASwitchObjectThatOnlyShowsItsStateIsNotOperated)
+TEST_F(EnginesTest, aSwitchObjectThatOnlyShowsItsStateIsNotOperated)
 {
     EXPECT_EQ(operate("XCBR1$CO$Pos", on()), "1");
     EXPECT_EQ(read("XCBR1$CO$Pos$SBO"), Data::visibleString(""));
 }
 
-TEST_F(EnginesTest, ReadingTheSelectionSelectsAndReadingAroundItDoesNot)
+TEST_F(EnginesTest, readingTheSelectionSelectsAndReadingAroundItDoesNot)
 {
     EXPECT_TRUE(read("GGIO1$CO$SPCSO2", m_client).ok());
     EXPECT_EQ(operate("GGIO1$CO$SPCSO2", on()), "18");
@@ -336,7 +336,7 @@ TEST_F(EnginesTest, ReadingTheSelectionSelectsAndReadingAroundItDoesNot)
     EXPECT_EQ(m_client.reports.size(), 0U);
 }
 
-TEST_F(EnginesTest, TheSelectionTimeIsTheConfiguredOne)
+TEST_F(EnginesTest, theSelectionTimeIsTheConfiguredOne)
 {
     EXPECT_EQ(write("GGIO1$CF$SPCSO2$sboTimeout", Data::unsignedInteger(200)), std::nullopt);
     read("GGIO1$CO$SPCSO2$SBO");
@@ -344,7 +344,7 @@ TEST_F(EnginesTest, TheSelectionTimeIsTheConfiguredOne)
     EXPECT_EQ(operate("GGIO1$CO$SPCSO2", on()), "18");
 }
 
-TEST_F(EnginesTest, ALostClientLosesItsSelection)
+TEST_F(EnginesTest, aLostClientLosesItsSelection)
 {
     read("GGIO1$CO$SPCSO2$SBO");
     leave(m_client);
@@ -352,7 +352,7 @@ TEST_F(EnginesTest, ALostClientLosesItsSelection)
               Data::visibleString("IED1LD/GGIO1$CO$SPCSO2"));
 }
 
-TEST_F(EnginesTest, InterlockingAndSynchrocheckAreThoseOfTheBay)
+TEST_F(EnginesTest, interlockingAndSynchrocheckAreThoseOfTheBay)
 {
     auto close = request(on());
     close.interlockCheck = true;
@@ -371,7 +371,7 @@ TEST_F(EnginesTest, InterlockingAndSynchrocheckAreThoseOfTheBay)
     EXPECT_EQ(control("CSWI1$CO$Pos", "SBOw", close), "24");
 }
 
-TEST_F(EnginesTest, WhoSwitchesTheBayToLocalKeepsTheStationAway)
+TEST_F(EnginesTest, whoSwitchesTheBayToLocalKeepsTheStationAway)
 {
     set("LLN0$ST$Loc$stVal", on());
     EXPECT_EQ(operate("GGIO1$CO$SPCSO1", on()), "2");
@@ -380,7 +380,7 @@ TEST_F(EnginesTest, WhoSwitchesTheBayToLocalKeepsTheStationAway)
     EXPECT_EQ(control("GGIO1$CO$SPCSO1", "Oper", atTheBay), "+");
 }
 
-TEST_F(EnginesTest, TheModeOfTheDeviceReachesItsNodesAndTheirControls)
+TEST_F(EnginesTest, theModeOfTheDeviceReachesItsNodesAndTheirControls)
 {
     EXPECT_EQ(operate("LLN0$CO$Mod", Data::integer(3)), "+");
     m_clock.advance(1s);
@@ -403,7 +403,7 @@ TEST_F(EnginesTest, TheModeOfTheDeviceReachesItsNodesAndTheirControls)
     EXPECT_EQ(operate("LLN0$CO$Mod", Data::integer(7)), "-");
 }
 
-TEST_F(EnginesTest, SetPointsAndStepsFollowTheirControls)
+TEST_F(EnginesTest, setPointsAndStepsFollowTheirControls)
 {
     EXPECT_EQ(operate("GGIO1$CO$ISCSO1", Data::integer(7)), "+");
     EXPECT_EQ(operate("GGIO1$CO$AnOut1", Data::structure({Data::float32(12.5F)})), "+");
@@ -419,7 +419,7 @@ TEST_F(EnginesTest, SetPointsAndStepsFollowTheirControls)
     EXPECT_EQ(operate("ATCC1$CO$TapPos", Data::integer(64)), "7");
 }
 
-TEST_F(EnginesTest, AnOperationForLaterHappensThen)
+TEST_F(EnginesTest, anOperationForLaterHappensThen)
 {
     auto later = request(on());
     later.operateTime = mms::UtcTime{m_clock.utcTime().seconds + 2, 0, 0};
@@ -431,13 +431,13 @@ TEST_F(EnginesTest, AnOperationForLaterHappensThen)
     EXPECT_EQ(m_client.reports.size(), 1U);
 }
 
-TEST_F(EnginesTest, PartsOfAControlCannotBeWritten)
+TEST_F(EnginesTest, partsOfAControlCannotBeWritten)
 {
     EXPECT_EQ(write("GGIO1$CO$SPCSO1$Oper$ctlVal", on()), DataAccessError::ObjectAccessDenied);
     EXPECT_EQ(write("GGIO1$CO$SPCSO1$Oper$Test", on()), DataAccessError::ObjectAccessDenied);
 }
 
-TEST_F(EnginesTest, EachSettingGroupHasValuesOfItsOwn)
+TEST_F(EnginesTest, eachSettingGroupHasValuesOfItsOwn)
 {
     EXPECT_EQ(read("LLN0$SP$SGCB$NumOfSG"), Data::unsignedInteger(3));
     EXPECT_EQ(read("LLN0$SP$SGCB$ActSG"), Data::unsignedInteger(2));
@@ -450,7 +450,7 @@ TEST_F(EnginesTest, EachSettingGroupHasValuesOfItsOwn)
               DataAccessError::ObjectAccessDenied);
 }
 
-TEST_F(EnginesTest, SettingsAreEditedBesideTheActiveOnesAndConfirmed)
+TEST_F(EnginesTest, settingsAreEditedBesideTheActiveOnesAndConfirmed)
 {
     const std::string edited = "PTOC1$SE$StrVal$setMag$f";
     EXPECT_EQ(read(edited, m_client), mms::AccessResult(DataAccessError::TemporarilyUnavailable));
@@ -467,7 +467,7 @@ TEST_F(EnginesTest, SettingsAreEditedBesideTheActiveOnesAndConfirmed)
     EXPECT_EQ(read("LLN0$SP$SGCB$CnfEdit"), off());
 }
 
-TEST_F(EnginesTest, AnEditThatIsNotConfirmedIsForgotten)
+TEST_F(EnginesTest, anEditThatIsNotConfirmedIsForgotten)
 {
     const std::string edited = "PTOC1$SE$StrVal$setMag$f";
     write("LLN0$SP$SGCB$EditSG", Data::unsignedInteger(1));

@@ -52,13 +52,13 @@ protected:
 
 } // namespace
 
-TEST(Faults, ScriptsOfCommentsAndBlankLinesDoNothing)
+TEST(Faults, scriptsOfCommentsAndBlankLinesDoNothing)
 {
     EXPECT_EQ(errorOf(""), "");
     EXPECT_EQ(errorOf("# nothing\n\n   \t\n  # delay\r\n"), "");
 }
 
-TEST(Faults, EveryCaseHasAnExampleThatIsAScript)
+TEST(Faults, everyCaseHasAnExampleThatIsAScript)
 {
     EXPECT_EQ(sim::faultCases().size(), 13U);
     for (const sim::FaultCase &each : sim::faultCases()) {
@@ -69,7 +69,7 @@ TEST(Faults, EveryCaseHasAnExampleThatIsAScript)
     }
 }
 
-TEST(Faults, MistakesInAScriptAreToldWithTheirLine)
+TEST(Faults, mistakesInAScriptAreToldWithTheirLine)
 {
     EXPECT_EQ(errorOf("drop\nexplode on read"), "Line 2: \"explode\" is not a fault.");
     EXPECT_EQ(errorOf("drop on raed"), "Line 1: \"raed\" is not a service.");
@@ -96,7 +96,7 @@ TEST(Faults, MistakesInAScriptAreToldWithTheirLine)
               "Line 1: \"refuse\" is possible only for confirmed services.");
 }
 
-TEST(Faults, AScriptThatCannotBeReadIsToldWithItsName)
+TEST(Faults, aScriptThatCannotBeReadIsToldWithItsName)
 {
     const auto missing = Faults::load("/nowhere/script");
     ASSERT_FALSE(missing.ok());
@@ -111,7 +111,7 @@ TEST(Faults, AScriptThatCannotBeReadIsToldWithItsName)
     EXPECT_FALSE(directory.ok());
 }
 
-TEST_F(FaultsTest, DelayedAnswersComeLateAndOthersPassThem)
+TEST_F(FaultsTest, delayedAnswersComeLateAndOthersPassThem)
 {
     start("delay 400ms on read");
     const auto begin = std::chrono::steady_clock::now();
@@ -123,7 +123,7 @@ TEST_F(FaultsTest, DelayedAnswersComeLateAndOthersPassThem)
     EXPECT_GE(std::chrono::steady_clock::now() - begin, 400ms);
 }
 
-TEST_F(FaultsTest, DelaysThatAreUnderWayEndWithTheAssociation)
+TEST_F(FaultsTest, delaysThatAreUnderWayEndWithTheAssociation)
 {
     start("delay 1h on read");
     Awaited<CallOutcome> late;
@@ -133,7 +133,7 @@ TEST_F(FaultsTest, DelaysThatAreUnderWayEndWithTheAssociation)
     EXPECT_EQ(failureOf(late.get()), CallFailure::Kind::Lost);
 }
 
-TEST_F(FaultsTest, DroppedAnswersNeverCome)
+TEST_F(FaultsTest, droppedAnswersNeverCome)
 {
     start("drop on read nth 2");
     EXPECT_NE(answerOf<ReadResponse>(readSome()), nullptr);
@@ -141,7 +141,7 @@ TEST_F(FaultsTest, DroppedAnswersNeverCome)
     EXPECT_NE(answerOf<ReadResponse>(readSome()), nullptr);
 }
 
-TEST_F(FaultsTest, IgnoredRequestsDoNotReachTheDevice)
+TEST_F(FaultsTest, ignoredRequestsDoNotReachTheDevice)
 {
     start("ignore times 12");
     for (int i = 0; i < 12; ++i)
@@ -149,7 +149,7 @@ TEST_F(FaultsTest, IgnoredRequestsDoNotReachTheDevice)
     EXPECT_TRUE(isAnswered());
 }
 
-TEST_F(FaultsTest, ASecondAnswerToTheSameCallIsCountedAsLate)
+TEST_F(FaultsTest, aSecondAnswerToTheSameCallIsCountedAsLate)
 {
     start("duplicate on identify");
     EXPECT_TRUE(isAnswered());
@@ -157,7 +157,7 @@ TEST_F(FaultsTest, ASecondAnswerToTheSameCallIsCountedAsLate)
     EXPECT_EQ(m_client->counters().late, 1U);
 }
 
-TEST_F(FaultsTest, AnswersOfAnotherCallAreCountedAndTheCallTimesOut)
+TEST_F(FaultsTest, answersOfAnotherCallAreCountedAndTheCallTimesOut)
 {
     start("wrong-invoke-id on read");
     EXPECT_EQ(failureOf(readSome(150ms)), CallFailure::Kind::TimedOut);
@@ -165,7 +165,7 @@ TEST_F(FaultsTest, AnswersOfAnotherCallAreCountedAndTheCallTimesOut)
     EXPECT_EQ(m_client->counters().unknown, 1U);
 }
 
-TEST_F(FaultsTest, TruncatedAnswersAreNoAnswers)
+TEST_F(FaultsTest, truncatedAnswersAreNoAnswers)
 {
     start("truncate on read\ntruncate 1 on getNameList");
     EXPECT_EQ(failureOf(readSome(100ms)), CallFailure::Kind::TimedOut);
@@ -174,7 +174,7 @@ TEST_F(FaultsTest, TruncatedAnswersAreNoAnswers)
     EXPECT_EQ(m_client->counters().malformed, 2U);
 }
 
-TEST_F(FaultsTest, GarbageInAnswersEndsEveryCallInTime)
+TEST_F(FaultsTest, garbageInAnswersEndsEveryCallInTime)
 {
     start("seed 3\ngarbage on read\ngarbage 3 on identify");
     for (int i = 0; i < 50; ++i) {
@@ -185,14 +185,14 @@ TEST_F(FaultsTest, GarbageInAnswersEndsEveryCallInTime)
     EXPECT_GT(counters.malformed + counters.unknown + counters.late, 20U);
 }
 
-TEST_F(FaultsTest, NoiseOnTheNetworkEndsTheAssociation)
+TEST_F(FaultsTest, noiseOnTheNetworkEndsTheAssociation)
 {
     start("seed 1\nnoise 200 on identify");
     call(IdentifyRequest(), 5s);
     EXPECT_FALSE(m_clientEnd.get().empty());
 }
 
-TEST_F(FaultsTest, OversizeAnswersAreLongerThanWasAgreed)
+TEST_F(FaultsTest, oversizeAnswersAreLongerThanWasAgreed)
 {
     const std::uint16_t port = startWithFaults("oversize on read");
     AssociationOptions options = quickOptions();
@@ -208,7 +208,7 @@ TEST_F(FaultsTest, OversizeAnswersAreLongerThanWasAgreed)
     EXPECT_LT(longest, 2100U);
 }
 
-TEST_F(FaultsTest, RefusedServicesAnswerWithTheErrorThatWasAskedFor)
+TEST_F(FaultsTest, refusedServicesAnswerWithTheErrorThatWasAskedFor)
 {
     start("refuse on read times 1\nrefuse file-busy on fileOpen\nreject on identify");
     const auto denied = readSome();
@@ -224,7 +224,7 @@ TEST_F(FaultsTest, RefusedServicesAnswerWithTheErrorThatWasAskedFor)
     EXPECT_EQ(std::get<RejectPdu>(rejected).code, rejectcodes::requestUnrecognizedService);
 }
 
-TEST_F(FaultsTest, AResetInMidAnswerLosesTheCallAndBothEndsHearOfIt)
+TEST_F(FaultsTest, aResetInMidAnswerLosesTheCallAndBothEndsHearOfIt)
 {
     start("reset 20 on read");
     EXPECT_TRUE(isAnswered());
@@ -233,13 +233,13 @@ TEST_F(FaultsTest, AResetInMidAnswerLosesTheCallAndBothEndsHearOfIt)
     EXPECT_FALSE(m_device->end.get().empty());
 }
 
-TEST_F(FaultsTest, AnAssociationThatIsNeverConfirmedEndsInTime)
+TEST_F(FaultsTest, anAssociationThatIsNeverConfirmedEndsInTime)
 {
     const std::uint16_t port = startWithFaults("drop on initiate");
     EXPECT_FALSE(connect(port, quickOptions()).ok());
 }
 
-TEST_F(FaultsTest, ReportsCanBeDropped)
+TEST_F(FaultsTest, reportsCanBeDropped)
 {
     m_device->reportOnOpening = true;
     const std::uint16_t port = startWithFaults("drop on informationReport");
@@ -251,7 +251,7 @@ TEST_F(FaultsTest, ReportsCanBeDropped)
     EXPECT_EQ(reports, 0);
 }
 
-TEST_F(FaultsTest, ClockJumpsAndWhatWasAppliedAreTold)
+TEST_F(FaultsTest, clockJumpsAndWhatWasAppliedAreTold)
 {
     std::chrono::milliseconds sum{0};
     std::vector<std::string> applied;
@@ -270,7 +270,7 @@ TEST_F(FaultsTest, ClockJumpsAndWhatWasAppliedAreTold)
                                                  "3 clock -1.5s on identify from 3"}));
 }
 
-TEST_F(FaultsTest, ConditionsNameWhichRequestsGoWrong)
+TEST_F(FaultsTest, conditionsNameWhichRequestsGoWrong)
 {
     start("refuse on identify from 2 every 3 times 2");
     std::string pattern;
@@ -279,7 +279,7 @@ TEST_F(FaultsTest, ConditionsNameWhichRequestsGoWrong)
     EXPECT_EQ(pattern, ".x..x.....");
 }
 
-TEST_F(FaultsTest, TheSameSeedGivesTheSameFaults)
+TEST_F(FaultsTest, theSameSeedGivesTheSameFaults)
 {
     const auto patternOf = [this](std::string_view script) {
         start(script);

@@ -53,7 +53,7 @@ protected:
 
 } // namespace
 
-TEST_F(Iedsim, ADeviceIsServedUntilASignalEndsTheProgram)
+TEST_F(Iedsim, aDeviceIsServedUntilASignalEndsTheProgram)
 {
     for (const int number : {SIGTERM, SIGINT}) {
         Program program({device, "--port", "0"});
@@ -70,7 +70,7 @@ TEST_F(Iedsim, ADeviceIsServedUntilASignalEndsTheProgram)
     }
 }
 
-TEST_F(Iedsim, IedsOfSeveralFilesListenSideBySide)
+TEST_F(Iedsim, iedsOfSeveralFilesListenSideBySide)
 {
     Program program({device, DEMONSTRATION_FILE, "--port", "0"});
     const std::uint16_t first = program.port();
@@ -80,7 +80,7 @@ TEST_F(Iedsim, IedsOfSeveralFilesListenSideBySide)
         EXPECT_TRUE(Caller(m_loop.executor(), port).isOpen());
 }
 
-TEST_F(Iedsim, SeveralIedsListenOnConsecutivePorts)
+TEST_F(Iedsim, severalIedsListenOnConsecutivePorts)
 {
     for (int base = 23450; base < 23650; base += 10) {
         Program program({device, DEMONSTRATION_FILE, "--ied", "BAY1E1", "--ied", "BAY1", "--port",
@@ -96,7 +96,7 @@ TEST_F(Iedsim, SeveralIedsListenOnConsecutivePorts)
     FAIL() << "no two ports were free";
 }
 
-TEST_F(Iedsim, BlocksOfADeviceOfTheFirstEditionHaveNoOwner)
+TEST_F(Iedsim, blocksOfADeviceOfTheFirstEditionHaveNoOwner)
 {
     const auto attributesOf = [this](const std::string &version) {
         const std::string path =
@@ -116,7 +116,7 @@ TEST_F(Iedsim, BlocksOfADeviceOfTheFirstEditionHaveNoOwner)
     EXPECT_EQ(attributesOf(R"(version="2007" revision="B")"), 1);
 }
 
-TEST_F(Iedsim, TheListTellsTheIedsOfAFile)
+TEST_F(Iedsim, theListTellsTheIedsOfAFile)
 {
     Program program({"--list", device, fixtures + "report-instances.icd"});
     EXPECT_TRUE(program.line().starts_with("BAY1: 2 logical devices, 5 logical nodes, "));
@@ -125,7 +125,7 @@ TEST_F(Iedsim, TheListTellsTheIedsOfAFile)
     EXPECT_EQ(program.status(), 0);
 }
 
-TEST_F(Iedsim, MistakesOnTheCommandLineAreToldInOneLine)
+TEST_F(Iedsim, mistakesOnTheCommandLineAreToldInOneLine)
 {
     const std::vector<std::vector<std::string>> mistakes = {
         {},
@@ -154,7 +154,7 @@ TEST_F(Iedsim, MistakesOnTheCommandLineAreToldInOneLine)
         EXPECT_TRUE(complaintOf(arguments, 2).ends_with(". Try \"iedsim --help\"."));
 }
 
-TEST_F(Iedsim, WhatCannotBeServedIsToldInOneLine)
+TEST_F(Iedsim, whatCannotBeServedIsToldInOneLine)
 {
     using Arguments = std::vector<std::string>;
     const auto complaint = [](Arguments arguments) { return complaintOf(arguments, 1); };
@@ -183,7 +183,7 @@ TEST_F(Iedsim, WhatCannotBeServedIsToldInOneLine)
               "there are not enough ports behind 65535.");
 }
 
-TEST_F(Iedsim, ATakenPortIsTold)
+TEST_F(Iedsim, aTakenPortIsTold)
 {
     const wiretest::RawPeer other;
     const std::string port = std::to_string(other.port());
@@ -191,7 +191,7 @@ TEST_F(Iedsim, ATakenPortIsTold)
               "BAY1: Cannot listen on 127.0.0.1 port " + port + ": Address already in use.");
 }
 
-TEST_F(Iedsim, AssociationsAndFaultsAreTold)
+TEST_F(Iedsim, associationsAndFaultsAreTold)
 {
     const std::string script = file("script", "refuse access-denied on identify nth 1\n");
     Program program({device, "--port", "0", "--faults", script});
@@ -209,7 +209,7 @@ TEST_F(Iedsim, AssociationsAndFaultsAreTold)
     EXPECT_NE(program.lineWith("BAY1: association closed, 0 left"), "");
 }
 
-TEST_F(Iedsim, AQuietProgramTellsOnlyWhereItListens)
+TEST_F(Iedsim, aQuietProgramTellsOnlyWhereItListens)
 {
     Program program({device, "--port", "0", "--quiet"});
     EXPECT_TRUE(Caller(m_loop.executor(), program.port()).isOpen());
@@ -217,7 +217,7 @@ TEST_F(Iedsim, AQuietProgramTellsOnlyWhereItListens)
     EXPECT_EQ(program.line(), "Ended.");
 }
 
-TEST_F(Iedsim, AnAssociationBeyondTheLimitIsTurnedAwayAndTold)
+TEST_F(Iedsim, anAssociationBeyondTheLimitIsTurnedAwayAndTold)
 {
     Program program({device, "--port", "0", "--max-associations", "1"});
     const std::uint16_t port = program.port();
@@ -227,7 +227,7 @@ TEST_F(Iedsim, AnAssociationBeyondTheLimitIsTurnedAwayAndTold)
     EXPECT_NE(program.lineWith("connection refused: There are 1 associations already"), "");
 }
 
-TEST_F(Iedsim, OneClientCannotTakeAllPlacesWithConnectionsThatAreNoAssociations)
+TEST_F(Iedsim, oneClientCannotTakeAllPlacesWithConnectionsThatAreNoAssociations)
 {
     Program program({device, "--port", "0", "--max-half-open", "1"});
     const std::uint16_t port = program.port();
@@ -239,7 +239,7 @@ TEST_F(Iedsim, OneClientCannotTakeAllPlacesWithConnectionsThatAreNoAssociations)
     EXPECT_NE(program.lineWith("connection refused: The peer 127.0.0.1 has 1 connections"), "");
 }
 
-TEST_F(Iedsim, AClientThatSaysNothingForLongIsCutOff)
+TEST_F(Iedsim, aClientThatSaysNothingForLongIsCutOff)
 {
     Program program({device, "--port", "0", "--idle-limit", "1"});
     const Caller idle(m_loop.executor(), program.port());
@@ -247,7 +247,7 @@ TEST_F(Iedsim, AClientThatSaysNothingForLongIsCutOff)
     EXPECT_NE(program.lineWith("association closed"), "");
 }
 
-TEST_F(Iedsim, WhoDoesNotGiveThePasswordIsRefusedAndTold)
+TEST_F(Iedsim, whoDoesNotGiveThePasswordIsRefusedAndTold)
 {
     Program program({device, "--port", "0", "--password-file", file("password", "secret\r\nmore")});
     const std::uint16_t port = program.port();
@@ -259,7 +259,7 @@ TEST_F(Iedsim, WhoDoesNotGiveThePasswordIsRefusedAndTold)
     EXPECT_NE(program.lineWith("connection refused: "), "");
 }
 
-TEST_F(Iedsim, FilesOfADirectoryAreServed)
+TEST_F(Iedsim, filesOfADirectoryAreServed)
 {
     const std::filesystem::path record = file("fault.txt", "it tripped");
     Program program({device, "--port", "0", "--files", record.parent_path().string()});
@@ -271,7 +271,7 @@ TEST_F(Iedsim, FilesOfADirectoryAreServed)
     EXPECT_EQ(std::string(part.data.begin(), part.data.end()), "it tripped");
 }
 
-TEST_F(Iedsim, WithTlsOnlyACertificateOfATrustedAuthorityGetsIn)
+TEST_F(Iedsim, withTlsOnlyACertificateOfATrustedAuthorityGetsIn)
 {
     const auto authority = m_files.authority("Authority");
     const auto server = m_files.issue(authority, "IED");
@@ -286,7 +286,7 @@ TEST_F(Iedsim, WithTlsOnlyACertificateOfATrustedAuthorityGetsIn)
     EXPECT_TRUE(Caller(m_loop.executor(), port, options).isOpen());
 }
 
-TEST_F(Iedsim, MeasurementsMoveWhenAnimated)
+TEST_F(Iedsim, measurementsMoveWhenAnimated)
 {
     Program program({DEMONSTRATION_FILE, "--port", "0", "--animate", "--interval", "10"});
     Caller caller(m_loop.executor(), program.port());
@@ -298,7 +298,7 @@ TEST_F(Iedsim, MeasurementsMoveWhenAnimated)
         ASSERT_LT(std::chrono::steady_clock::now(), limit);
 }
 
-TEST_F(Iedsim, HelpAndManualPageNameEveryOption)
+TEST_F(Iedsim, helpAndManualPageNameEveryOption)
 {
     Program help({"--help"});
     const std::string text = help.output();

@@ -36,7 +36,7 @@ void expectPosition(const ControlTarget &target, const Data &position)
 
 } // namespace
 
-TEST(Process, EveryControllableClassIsKnown)
+TEST(Process, everyControllableClassIsKnown)
 {
     for (const char *cdc : {"SPC", "DPC", "INC", "ENC", "BSC", "ISC", "APC", "BAC"})
         EXPECT_TRUE(sim::controlKindOf(cdc).has_value()) << cdc;
@@ -44,7 +44,7 @@ TEST(Process, EveryControllableClassIsKnown)
     EXPECT_FALSE(sim::controlKindOf("").has_value());
 }
 
-TEST(Process, DoublePointsKeepTheOrderOfTheirBits)
+TEST(Process, doublePointsKeepTheOrderOfTheirBits)
 {
     EXPECT_EQ(sim::toData(DoublePosition::Off), command("01"));
     EXPECT_EQ(sim::toData(DoublePosition::On), command("10"));
@@ -52,7 +52,7 @@ TEST(Process, DoublePointsKeepTheOrderOfTheirBits)
     EXPECT_EQ(sim::doublePositionFrom(command("11")), DoublePosition::Bad);
 }
 
-TEST(Process, ASwitchMovesUnlessItIsThere)
+TEST(Process, aSwitchMovesUnlessItIsThere)
 {
     const Data on = Data::boolean(true);
     const Data off = Data::boolean(false);
@@ -67,7 +67,7 @@ TEST(Process, ASwitchMovesUnlessItIsThere)
     expectPosition(sim::targetOf(ControlKind::SinglePoint, on, on, {}), on);
 }
 
-TEST(Process, NumbersStayWithinTheirLimits)
+TEST(Process, numbersStayWithinTheirLimits)
 {
     const auto to = [](std::int64_t value) {
         return sim::targetOf(ControlKind::Number, Data::integer(value), Data::integer(0),
@@ -78,7 +78,7 @@ TEST(Process, NumbersStayWithinTheirLimits)
     EXPECT_EQ(to(-6).cause, AddCause::InconsistentParameters);
 }
 
-TEST(Process, TapsGoOneStepAndNotBeyondTheLast)
+TEST(Process, tapsGoOneStepAndNotBeyondTheLast)
 {
     const auto at = [](const char *bits, std::int64_t step) {
         return sim::targetOf(ControlKind::BinaryStep, command(bits), Data::integer(step), {});
@@ -99,7 +99,7 @@ TEST(Process, TapsGoOneStepAndNotBeyondTheLast)
         AddCause::StepLimit);
 }
 
-TEST(Process, SetPointsKeepTheFormOfTheMeasuredValue)
+TEST(Process, setPointsKeepTheFormOfTheMeasuredValue)
 {
     const Data five = Data::structure({Data::float32(5)});
     expectPosition(sim::targetOf(ControlKind::AnalogueSet, five, Data::float32(0), {}),
@@ -123,7 +123,7 @@ TEST(Process, SetPointsKeepTheFormOfTheMeasuredValue)
               AddCause::StepLimit);
 }
 
-TEST(Process, TheModeDecidesAboutTestAndRealControls)
+TEST(Process, theModeDecidesAboutTestAndRealControls)
 {
     const auto forbidden = [](std::int32_t behaviour, bool test, bool controlsMode = false) {
         ControlConditions conditions;
@@ -144,7 +144,7 @@ TEST(Process, TheModeDecidesAboutTestAndRealControls)
     EXPECT_EQ(forbidden(5, false, true), AddCause::None);
 }
 
-TEST(Process, LocalControlKeepsOthersAway)
+TEST(Process, localControlKeepsOthersAway)
 {
     ControlConditions conditions;
     conditions.local = true;
@@ -162,7 +162,7 @@ TEST(Process, LocalControlKeepsOthersAway)
     EXPECT_EQ(from(7), AddCause::None);
 }
 
-TEST(Process, InterlockingAndSynchrocheckAreAskedOnlyWhenTheControlSaysSo)
+TEST(Process, interlockingAndSynchrocheckAreAskedOnlyWhenTheControlSaysSo)
 {
     ControlConditions conditions;
     conditions.interlocked = true;
@@ -176,7 +176,7 @@ TEST(Process, InterlockingAndSynchrocheckAreAskedOnlyWhenTheControlSaysSo)
     EXPECT_EQ(sim::forbids(conditions, request, false), AddCause::BlockedByInterlocking);
 }
 
-TEST(Process, BlockingAndBadHealthForbidWhateverIsAsked)
+TEST(Process, blockingAndBadHealthForbidWhateverIsAsked)
 {
     ControlConditions conditions;
     conditions.blocked = true;

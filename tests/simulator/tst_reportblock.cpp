@@ -172,7 +172,7 @@ protected:
 
 } // namespace
 
-TEST_F(ReportBlockTest, AnEnabledBlockReportsChangesItsOptionsAskFor)
+TEST_F(ReportBlockTest, anEnabledBlockReportsChangesItsOptionsAskFor)
 {
     m_config.trgOps.qualityChange = true;
     make(false);
@@ -187,7 +187,7 @@ TEST_F(ReportBlockTest, AnEnabledBlockReportsChangesItsOptionsAskFor)
     EXPECT_EQ(sent(), "");
 }
 
-TEST_F(ReportBlockTest, ChangesThatHappenTogetherComeInOneReport)
+TEST_F(ReportBlockTest, changesThatHappenTogetherComeInOneReport)
 {
     make(false);
     enable(m_client);
@@ -199,7 +199,7 @@ TEST_F(ReportBlockTest, ChangesThatHappenTogetherComeInOneReport)
     EXPECT_EQ(sent(), "#0 0=10d 2=12d");
 }
 
-TEST_F(ReportBlockTest, AnUpdateWithoutAChangeIsTriggeredByItsOwnOption)
+TEST_F(ReportBlockTest, anUpdateWithoutAChangeIsTriggeredByItsOwnOption)
 {
     m_config.trgOps.dataUpdate = true;
     make(false);
@@ -209,7 +209,7 @@ TEST_F(ReportBlockTest, AnUpdateWithoutAChangeIsTriggeredByItsOwnOption)
     EXPECT_EQ(sent(), "#0 0=1u | #1 0=2d");
 }
 
-TEST_F(ReportBlockTest, BufferTimeGathersChangesFromTheFirstOne)
+TEST_F(ReportBlockTest, bufferTimeGathersChangesFromTheFirstOne)
 {
     m_config.bufTm = 100;
     make(false);
@@ -225,7 +225,7 @@ TEST_F(ReportBlockTest, BufferTimeGathersChangesFromTheFirstOne)
     EXPECT_EQ(sent(), "");
 }
 
-TEST_F(ReportBlockTest, ASecondStatusWithinTheBufferTimeSendsTheFirstOneAtOnce)
+TEST_F(ReportBlockTest, aSecondStatusWithinTheBufferTimeSendsTheFirstOneAtOnce)
 {
     m_config.bufTm = 100;
     make(false);
@@ -238,7 +238,7 @@ TEST_F(ReportBlockTest, ASecondStatusWithinTheBufferTimeSendsTheFirstOneAtOnce)
     EXPECT_EQ(sent(), "#1 0=2d");
 }
 
-TEST_F(ReportBlockTest, ASecondMeasurementWithinTheBufferTimeReplacesTheFirstOne)
+TEST_F(ReportBlockTest, aSecondMeasurementWithinTheBufferTimeReplacesTheFirstOne)
 {
     m_plant.measured = {0};
     m_config.bufTm = 100;
@@ -250,7 +250,7 @@ TEST_F(ReportBlockTest, ASecondMeasurementWithinTheBufferTimeReplacesTheFirstOne
     EXPECT_EQ(sent(), "#0 0=2d");
 }
 
-TEST_F(ReportBlockTest, GeneralInterrogationReportsEverythingBehindWhatWaits)
+TEST_F(ReportBlockTest, generalInterrogationReportsEverythingBehindWhatWaits)
 {
     m_config.bufTm = 1000;
     make(false);
@@ -264,7 +264,7 @@ TEST_F(ReportBlockTest, GeneralInterrogationReportsEverythingBehindWhatWaits)
     EXPECT_EQ(write(m_other, "GI", Data::boolean(true)), busy());
 }
 
-TEST_F(ReportBlockTest, GeneralInterrogationIsRefusedWhereItsOptionIsOff)
+TEST_F(ReportBlockTest, generalInterrogationIsRefusedWhereItsOptionIsOff)
 {
     m_config.trgOps.generalInterrogation = false;
     make(false);
@@ -273,7 +273,7 @@ TEST_F(ReportBlockTest, GeneralInterrogationIsRefusedWhereItsOptionIsOff)
     EXPECT_EQ(sent(), "");
 }
 
-TEST_F(ReportBlockTest, IntegrityReportsComeInTheirPeriodAndMissedOnesAreLeftOut)
+TEST_F(ReportBlockTest, integrityReportsComeInTheirPeriodAndMissedOnesAreLeftOut)
 {
     m_config.trgOps.integrity = true;
     m_config.intgPd = 50;
@@ -290,7 +290,7 @@ TEST_F(ReportBlockTest, IntegrityReportsComeInTheirPeriodAndMissedOnesAreLeftOut
     EXPECT_EQ(sent(), "#2 0=0i 1=0i 2=0i");
 }
 
-TEST_F(ReportBlockTest, WhileEnabledItsAttributesCannotBeWritten)
+TEST_F(ReportBlockTest, whileEnabledItsAttributesCannotBeWritten)
 {
     make(true);
     enable(m_client);
@@ -304,7 +304,7 @@ TEST_F(ReportBlockTest, WhileEnabledItsAttributesCannotBeWritten)
     EXPECT_EQ(value("BufTm"), Data::unsignedInteger(3));
 }
 
-TEST_F(ReportBlockTest, WhatTheDeviceSetsCannotBeWritten)
+TEST_F(ReportBlockTest, whatTheDeviceSetsCannotBeWritten)
 {
     make(true);
     EXPECT_EQ(write(m_client, "ConfRev", Data::unsignedInteger(1)), denied());
@@ -313,7 +313,7 @@ TEST_F(ReportBlockTest, WhatTheDeviceSetsCannotBeWritten)
     EXPECT_EQ(write(m_client, "TimeofEntry", value("TimeofEntry")), denied());
 }
 
-TEST_F(ReportBlockTest, ABlockWithoutADataSetCannotBeEnabled)
+TEST_F(ReportBlockTest, aBlockWithoutADataSetCannotBeEnabled)
 {
     m_config.datSet.clear();
     make(false);
@@ -325,7 +325,7 @@ TEST_F(ReportBlockTest, ABlockWithoutADataSetCannotBeEnabled)
     EXPECT_EQ(enable(m_client), "");
 }
 
-TEST_F(ReportBlockTest, AnotherDataSetCountsTheConfigurationRevisionAndHoldsTheSet)
+TEST_F(ReportBlockTest, anotherDataSetCountsTheConfigurationRevisionAndHoldsTheSet)
 {
     make(false);
     EXPECT_EQ(m_plant.sets["LD/LLN0$events"]->users, 1U);
@@ -339,7 +339,7 @@ TEST_F(ReportBlockTest, AnotherDataSetCountsTheConfigurationRevisionAndHoldsTheS
     EXPECT_EQ(m_plant.sets["LD/LLN0$other"]->users, 0U);
 }
 
-TEST_F(ReportBlockTest, DataSetsOfAnAssociationServeOnlyItsUnbufferedBlocks)
+TEST_F(ReportBlockTest, dataSetsOfAnAssociationServeOnlyItsUnbufferedBlocks)
 {
     make(true);
     EXPECT_EQ(write(m_client, "DatSet", Data::visibleString("@own")), invalid());
@@ -352,7 +352,7 @@ TEST_F(ReportBlockTest, DataSetsOfAnAssociationServeOnlyItsUnbufferedBlocks)
     EXPECT_EQ(m_plant.sets["@own"]->users, 0U);
 }
 
-TEST_F(ReportBlockTest, AnUnbufferedBlockBelongsToWhoReservedIt)
+TEST_F(ReportBlockTest, anUnbufferedBlockBelongsToWhoReservedIt)
 {
     make(false);
     EXPECT_EQ(write(m_client, "Resv", Data::boolean(true)), "");
@@ -371,7 +371,7 @@ TEST_F(ReportBlockTest, AnUnbufferedBlockBelongsToWhoReservedIt)
     EXPECT_EQ(enable(m_other), "");
 }
 
-TEST_F(ReportBlockTest, EnablingReservesUntilDisabled)
+TEST_F(ReportBlockTest, enablingReservesUntilDisabled)
 {
     make(false);
     enable(m_client);
@@ -383,7 +383,7 @@ TEST_F(ReportBlockTest, EnablingReservesUntilDisabled)
     EXPECT_EQ(enable(m_other), "");
 }
 
-TEST_F(ReportBlockTest, AnUnbufferedBlockIsFreeWhenItsClientHasLeft)
+TEST_F(ReportBlockTest, anUnbufferedBlockIsFreeWhenItsClientHasLeft)
 {
     make(false);
     write(m_client, "Resv", Data::boolean(true));
@@ -399,7 +399,7 @@ TEST_F(ReportBlockTest, AnUnbufferedBlockIsFreeWhenItsClientHasLeft)
     EXPECT_EQ(m_plant.receivers.back(), &m_other);
 }
 
-TEST_F(ReportBlockTest, ABufferedBlockStaysReservedForAWhileAfterItsClientHasLeft)
+TEST_F(ReportBlockTest, aBufferedBlockStaysReservedForAWhileAfterItsClientHasLeft)
 {
     make(true);
     EXPECT_EQ(write(m_client, "ResvTms", Data::integer(-1)), invalid());
@@ -419,7 +419,7 @@ TEST_F(ReportBlockTest, ABufferedBlockStaysReservedForAWhileAfterItsClientHasLef
     EXPECT_EQ(enable(m_other), "");
 }
 
-TEST_F(ReportBlockTest, WritingNoReservationTimeFreesABufferedBlock)
+TEST_F(ReportBlockTest, writingNoReservationTimeFreesABufferedBlock)
 {
     make(true);
     write(m_client, "ResvTms", Data::integer(5));
@@ -428,7 +428,7 @@ TEST_F(ReportBlockTest, WritingNoReservationTimeFreesABufferedBlock)
     EXPECT_EQ(enable(m_other), "");
 }
 
-TEST_F(ReportBlockTest, ABufferedBlockKeepsWhatHappensWhileNobodyListens)
+TEST_F(ReportBlockTest, aBufferedBlockKeepsWhatHappensWhileNobodyListens)
 {
     make(true);
     change(0, 1);
@@ -443,7 +443,7 @@ TEST_F(ReportBlockTest, ABufferedBlockKeepsWhatHappensWhileNobodyListens)
     EXPECT_EQ(sent(), "#0 0=1d | #1 1=2d | #2 2=3d");
 }
 
-TEST_F(ReportBlockTest, ResumingBehindAnEntrySendsOnlyWhatCameAfterIt)
+TEST_F(ReportBlockTest, resumingBehindAnEntrySendsOnlyWhatCameAfterIt)
 {
     make(true);
     change(0, 1);
@@ -470,7 +470,7 @@ TEST_F(ReportBlockTest, ResumingBehindAnEntrySendsOnlyWhatCameAfterIt)
     EXPECT_EQ(sent(), "#0 0=1d | #1 0=2d | #2 0=3d | #3 0=4d");
 }
 
-TEST_F(ReportBlockTest, ResumingBehindAnUnknownEntryIsRefused)
+TEST_F(ReportBlockTest, resumingBehindAnUnknownEntryIsRefused)
 {
     make(true);
     change(0, 1);
@@ -484,7 +484,7 @@ TEST_F(ReportBlockTest, ResumingBehindAnUnknownEntryIsRefused)
               invalid());
 }
 
-TEST_F(ReportBlockTest, PurgingForgetsTheBuffer)
+TEST_F(ReportBlockTest, purgingForgetsTheBuffer)
 {
     make(true);
     change(0, 1);
@@ -496,7 +496,7 @@ TEST_F(ReportBlockTest, PurgingForgetsTheBuffer)
     EXPECT_EQ(sent(), "");
 }
 
-TEST_F(ReportBlockTest, OtherTriggersForgetTheBufferAndTheSameOnesDoNot)
+TEST_F(ReportBlockTest, otherTriggersForgetTheBufferAndTheSameOnesDoNot)
 {
     make(true);
     change(0, 1);
@@ -507,7 +507,7 @@ TEST_F(ReportBlockTest, OtherTriggersForgetTheBufferAndTheSameOnesDoNot)
     EXPECT_EQ(m_block->bufferedEntries(), 0U);
 }
 
-TEST_F(ReportBlockTest, AnOverflowingBufferLosesTheOldestAndTellsItOnce)
+TEST_F(ReportBlockTest, anOverflowingBufferLosesTheOldestAndTellsItOnce)
 {
     m_config.bufferOctets = 1000;
     make(true);
@@ -524,7 +524,7 @@ TEST_F(ReportBlockTest, AnOverflowingBufferLosesTheOldestAndTellsItOnce)
     EXPECT_EQ(m_plant.sent.back().members[0].value.data(), Data::integer(19));
 }
 
-TEST_F(ReportBlockTest, EntriesThatWereSentLeaveTheBufferWithoutAnOverflow)
+TEST_F(ReportBlockTest, entriesThatWereSentLeaveTheBufferWithoutAnOverflow)
 {
     m_config.bufferOctets = 1000;
     make(true);
@@ -536,7 +536,7 @@ TEST_F(ReportBlockTest, EntriesThatWereSentLeaveTheBufferWithoutAnOverflow)
     EXPECT_EQ(m_block->entriesLost(), 0U);
 }
 
-TEST_F(ReportBlockTest, AClientThatIsBehindGetsTheRestOfTheBufferLater)
+TEST_F(ReportBlockTest, aClientThatIsBehindGetsTheRestOfTheBufferLater)
 {
     make(true);
     enable(m_client);
@@ -551,7 +551,7 @@ TEST_F(ReportBlockTest, AClientThatIsBehindGetsTheRestOfTheBufferLater)
     EXPECT_EQ(m_block->heldBack(), nullptr);
 }
 
-TEST_F(ReportBlockTest, AnUnbufferedReportThatIsLostLeavesAGapInTheNumbers)
+TEST_F(ReportBlockTest, anUnbufferedReportThatIsLostLeavesAGapInTheNumbers)
 {
     make(false);
     enable(m_client);
@@ -565,7 +565,7 @@ TEST_F(ReportBlockTest, AnUnbufferedReportThatIsLostLeavesAGapInTheNumbers)
     EXPECT_EQ(m_block->reportsLost(), 2U);
 }
 
-TEST_F(ReportBlockTest, SequenceNumbersStartAnewAndWrapAtTheirWidth)
+TEST_F(ReportBlockTest, sequenceNumbersStartAnewAndWrapAtTheirWidth)
 {
     make(false);
     enable(m_client);
@@ -580,7 +580,7 @@ TEST_F(ReportBlockTest, SequenceNumbersStartAnewAndWrapAtTheirWidth)
     EXPECT_EQ(sent(), "#0 0=1d");
 }
 
-TEST_F(ReportBlockTest, ReportsCarryWhatTheBlockIsCalled)
+TEST_F(ReportBlockTest, reportsCarryWhatTheBlockIsCalled)
 {
     m_config.rptId.clear();
     m_config.optFlds.dataReference = true;
@@ -600,7 +600,7 @@ TEST_F(ReportBlockTest, ReportsCarryWhatTheBlockIsCalled)
     EXPECT_EQ(value("TimeofEntry"), Data::binaryTime(*report.timeOfEntry));
 }
 
-TEST(ReportSegments, ALongReportIsDividedSoThatEachPartFits)
+TEST(ReportSegments, aLongReportIsDividedSoThatEachPartFits)
 {
     acsi::Report report;
     report.rptId = "long";
@@ -628,7 +628,7 @@ TEST(ReportSegments, ALongReportIsDividedSoThatEachPartFits)
     EXPECT_EQ(members, 200U);
 }
 
-TEST(ReportSegments, AReportThatFitsStaysWhole)
+TEST(ReportSegments, aReportThatFitsStaysWhole)
 {
     acsi::Report report;
     report.dataSetSize = 1;
@@ -638,7 +638,7 @@ TEST(ReportSegments, AReportThatFitsStaysWhole)
     EXPECT_FALSE(parts[0].optFlds.segmentation);
 }
 
-TEST(ReportSegments, AMemberThatFitsNoPduIsToldAsAnError)
+TEST(ReportSegments, aMemberThatFitsNoPduIsToldAsAnError)
 {
     acsi::Report report;
     report.dataSetSize = 2;
@@ -651,7 +651,7 @@ TEST(ReportSegments, AMemberThatFitsNoPduIsToldAsAnError)
     EXPECT_TRUE(parts[0].members[1].value.ok());
 }
 
-TEST(ReportSegments, SizesOfValuesAreThoseOnTheWire)
+TEST(ReportSegments, sizesOfValuesAreThoseOnTheWire)
 {
     for (const Data &data :
          {Data::boolean(true), Data::integer(0), Data::integer(127), Data::integer(128),

@@ -61,7 +61,7 @@ constexpr auto denied = DataAccessError::ObjectAccessDenied;
 
 } // namespace
 
-TEST_F(SettingGroupsTest, StartsWithWhatIsConfigured)
+TEST_F(SettingGroupsTest, startsWithWhatIsConfigured)
 {
     EXPECT_EQ(value("NumOfSG"), Data::unsignedInteger(4));
     EXPECT_EQ(value("ActSG"), Data::unsignedInteger(2));
@@ -71,7 +71,7 @@ TEST_F(SettingGroupsTest, StartsWithWhatIsConfigured)
     EXPECT_FALSE(m_groups.value("Other").has_value());
 }
 
-TEST_F(SettingGroupsTest, AnotherActiveGroupTakesEffectAtOnceWithItsTime)
+TEST_F(SettingGroupsTest, anotherActiveGroupTakesEffectAtOnceWithItsTime)
 {
     m_clock.advance(5s);
     EXPECT_EQ(active(m_client, 3), std::nullopt);
@@ -83,7 +83,7 @@ TEST_F(SettingGroupsTest, AnotherActiveGroupTakesEffectAtOnceWithItsTime)
     EXPECT_EQ(m_store.take(), "");
 }
 
-TEST_F(SettingGroupsTest, AConfirmedEditIsKept)
+TEST_F(SettingGroupsTest, aConfirmedEditIsKept)
 {
     EXPECT_EQ(edit(m_client, 3), std::nullopt);
     EXPECT_TRUE(m_groups.isEditing());
@@ -96,14 +96,14 @@ TEST_F(SettingGroupsTest, AConfirmedEditIsKept)
     EXPECT_EQ(confirm(m_client), busy);
 }
 
-TEST_F(SettingGroupsTest, AConfirmedEditOfTheActiveGroupTakesEffect)
+TEST_F(SettingGroupsTest, aConfirmedEditOfTheActiveGroupTakesEffect)
 {
     edit(m_client, 2);
     confirm(m_client);
     EXPECT_EQ(m_store.take(), "edit2 keep2 activate2");
 }
 
-TEST_F(SettingGroupsTest, OnlyOneClientEdits)
+TEST_F(SettingGroupsTest, onlyOneClientEdits)
 {
     edit(m_client, 1);
     EXPECT_EQ(edit(m_other, 1), busy);
@@ -114,7 +114,7 @@ TEST_F(SettingGroupsTest, OnlyOneClientEdits)
     EXPECT_EQ(active(m_other, 1), std::nullopt);
 }
 
-TEST_F(SettingGroupsTest, AnEditThatIsGivenUpIsForgotten)
+TEST_F(SettingGroupsTest, anEditThatIsGivenUpIsForgotten)
 {
     edit(m_client, 1);
     EXPECT_EQ(edit(m_client, 0), std::nullopt);
@@ -125,7 +125,7 @@ TEST_F(SettingGroupsTest, AnEditThatIsGivenUpIsForgotten)
     EXPECT_EQ(value("EditSG"), Data::unsignedInteger(4));
 }
 
-TEST_F(SettingGroupsTest, AClientThatLeavesEndsItsEdit)
+TEST_F(SettingGroupsTest, aClientThatLeavesEndsItsEdit)
 {
     edit(m_client, 1);
     m_groups.closed(m_other);
@@ -135,7 +135,7 @@ TEST_F(SettingGroupsTest, AClientThatLeavesEndsItsEdit)
     EXPECT_EQ(edit(m_other, 1), std::nullopt);
 }
 
-TEST_F(SettingGroupsTest, AnEditWithoutActivityEnds)
+TEST_F(SettingGroupsTest, anEditWithoutActivityEnds)
 {
     edit(m_client, 1);
     m_clock.advance(59s);
@@ -150,14 +150,14 @@ TEST_F(SettingGroupsTest, AnEditWithoutActivityEnds)
     EXPECT_EQ(m_groups.deadline(), std::nullopt);
 }
 
-TEST_F(SettingGroupsTest, WhatTheDeviceSetsCannotBeWritten)
+TEST_F(SettingGroupsTest, whatTheDeviceSetsCannotBeWritten)
 {
     EXPECT_EQ(m_groups.write(m_client, "NumOfSG", Data::unsignedInteger(1)), denied);
     EXPECT_EQ(m_groups.write(m_client, "LActTm", Data::utcTime({})), denied);
     EXPECT_EQ(m_groups.write(m_client, "ResvTms", Data::unsignedInteger(1)), denied);
 }
 
-TEST_F(SettingGroupsTest, AnActivationMayTakeItsTime)
+TEST_F(SettingGroupsTest, anActivationMayTakeItsTime)
 {
     sim::SettingGroups::Config config{4, 2, 60s};
     config.activationDelay = 500ms;
@@ -176,7 +176,7 @@ TEST_F(SettingGroupsTest, AnActivationMayTakeItsTime)
     EXPECT_FALSE(groups.deadline().has_value());
 }
 
-TEST_F(SettingGroupsTest, AConfirmedGroupMayStayTheEditedOne)
+TEST_F(SettingGroupsTest, aConfirmedGroupMayStayTheEditedOne)
 {
     sim::SettingGroups::Config config{4, 2, 60s};
     config.keepsEdited = true;
@@ -189,7 +189,7 @@ TEST_F(SettingGroupsTest, AConfirmedGroupMayStayTheEditedOne)
     EXPECT_EQ(groups.value("EditSG"), Data::unsignedInteger(0));
 }
 
-TEST_F(SettingGroupsTest, AnEditMayBeEverybodys)
+TEST_F(SettingGroupsTest, anEditMayBeEverybodys)
 {
     sim::SettingGroups::Config config{4, 2, 60s};
     config.isShared = true;
