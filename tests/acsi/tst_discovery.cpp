@@ -47,7 +47,7 @@ protected:
     }
 };
 
-TEST_F(AcsiDiscovery, FindsAWholeDevice)
+TEST_F(AcsiDiscovery, findsAWholeDevice)
 {
     fill();
     connect();
@@ -80,7 +80,7 @@ TEST_F(AcsiDiscovery, FindsAWholeDevice)
     EXPECT_EQ(device->requests().size(), lastDone);
 }
 
-TEST_F(AcsiDiscovery, TypesTooLargeForThePduAreTakenInParts)
+TEST_F(AcsiDiscovery, typesTooLargeForThePduAreTakenInParts)
 {
     serverOptions.maxPduSize = 1000;
     device->pageSize = 20;
@@ -96,7 +96,7 @@ TEST_F(AcsiDiscovery, TypesTooLargeForThePduAreTakenInParts)
     EXPECT_NE(typeBelow(type, "CF", "Mod$ctlModel"), nullptr);
 }
 
-TEST_F(AcsiDiscovery, SilentRequestIsAskedAgainAlone)
+TEST_F(AcsiDiscovery, silentRequestIsAskedAgainAlone)
 {
     fill();
     clientOptions.callTimeout = 500ms;
@@ -114,7 +114,7 @@ TEST_F(AcsiDiscovery, SilentRequestIsAskedAgainAlone)
         EXPECT_EQ(node.type, nodeType());
 }
 
-TEST_F(AcsiDiscovery, CancellingFromAnotherThreadEndsItSoon)
+TEST_F(AcsiDiscovery, cancellingFromAnotherThreadEndsItSoon)
 {
     fill();
     DiscoveryOptions options;
@@ -136,7 +136,7 @@ TEST_F(AcsiDiscovery, CancellingFromAnotherThreadEndsItSoon)
     EXPECT_TRUE(client->isOpen());
 }
 
-TEST_F(AcsiDiscovery, LostAssociationIsTheReasonOfTheError)
+TEST_F(AcsiDiscovery, lostAssociationIsTheReasonOfTheError)
 {
     fill();
     device->intercept = [](const auto &association, std::uint32_t,
@@ -152,7 +152,7 @@ TEST_F(AcsiDiscovery, LostAssociationIsTheReasonOfTheError)
     EXPECT_EQ(server.error().message, ended.get());
 }
 
-TEST(TypeBelow, FindsDataAndElements)
+TEST(TypeBelow, findsDataAndElements)
 {
     const TypeDescription type = nodeType();
     EXPECT_EQ(typeBelow(type, "MX", ""), &type.components[0].type);
@@ -162,7 +162,7 @@ TEST(TypeBelow, FindsDataAndElements)
     EXPECT_EQ(typeBelow(type, "MX", "har")->kind, TypeDescription::Kind::Array);
 }
 
-TEST(TypeBelow, FindsNothingElse)
+TEST(TypeBelow, findsNothingElse)
 {
     const TypeDescription type = nodeType();
     for (const char *path : {"har(16)", "har()", "har(", "har(x)", "har(1)x", "har$mag", "har(0)$x",

@@ -11,7 +11,7 @@
 
 using namespace wiretest;
 
-TEST_F(AssociationTest, InitiatesIdentifiesReadsAndConcludes)
+TEST_F(AssociationTest, initiatesIdentifiesReadsAndConcludes)
 {
     const auto negotiated = connect(startServer(), quickOptions());
     ASSERT_TRUE(negotiated.ok()) << negotiated.error().message;
@@ -33,7 +33,7 @@ TEST_F(AssociationTest, InitiatesIdentifiesReadsAndConcludes)
     EXPECT_EQ(failureOf(call(IdentifyRequest())), CallFailure::Kind::NotOpen);
 }
 
-TEST_F(AssociationTest, CoroutinesConnectCallAndConclude)
+TEST_F(AssociationTest, coroutinesConnectCallAndConclude)
 {
     const std::uint16_t port = startServer();
     m_client = Association::create(m_loop.executor(), quickOptions(), {});
@@ -55,7 +55,7 @@ TEST_F(AssociationTest, CoroutinesConnectCallAndConclude)
     EXPECT_EQ(done.get(), "model");
 }
 
-TEST_F(AssociationTest, ErrorsAndRejectsOfTheServiceReachTheCaller)
+TEST_F(AssociationTest, errorsAndRejectsOfTheServiceReachTheCaller)
 {
     ASSERT_TRUE(connect(startServer(), quickOptions()).ok());
     const auto refused = call(FileDeleteRequest{{"x"}});
@@ -68,7 +68,7 @@ TEST_F(AssociationTest, ErrorsAndRejectsOfTheServiceReachTheCaller)
     EXPECT_EQ(std::get<RejectPdu>(rejected).code, rejectcodes::requestUnrecognizedService);
 }
 
-TEST_F(AssociationTest, ReportsReachTheClient)
+TEST_F(AssociationTest, reportsReachTheClient)
 {
     m_device->reportOnOpening = true;
     Awaited<InformationReport> report;
@@ -78,7 +78,7 @@ TEST_F(AssociationTest, ReportsReachTheClient)
     EXPECT_EQ(report.get(), (InformationReport{ObjectName::ofVmd("RPT"), {Data::float32(1.5F)}}));
 }
 
-TEST_F(AssociationTest, ThePduSizeIsKeptInBothDirections)
+TEST_F(AssociationTest, thePduSizeIsKeptInBothDirections)
 {
     AssociationOptions options = quickOptions();
     options.maxPduSize = 10;
@@ -94,7 +94,7 @@ TEST_F(AssociationTest, ThePduSizeIsKeptInBothDirections)
     EXPECT_NE(answerOf<IdentifyResponse>(call(IdentifyRequest())), nullptr);
 }
 
-TEST_F(AssociationTest, LongAnswersArriveThroughManyTransportUnits)
+TEST_F(AssociationTest, longAnswersArriveThroughManyTransportUnits)
 {
     AssociationOptions options = quickOptions();
     options.link.stack.transport.unitSize = 128;
@@ -107,7 +107,7 @@ TEST_F(AssociationTest, LongAnswersArriveThroughManyTransportUnits)
     EXPECT_EQ(answerOf<GetNameListResponse>(names)->names.size(), 9000U);
 }
 
-TEST_F(AssociationTest, ACallWithoutAnswerEndsAtItsDeadlineAndOthersGoOn)
+TEST_F(AssociationTest, aCallWithoutAnswerEndsAtItsDeadlineAndOthersGoOn)
 {
     ASSERT_TRUE(connect(startServer(), quickOptions()).ok());
     Awaited<CallOutcome> silent;
@@ -120,7 +120,7 @@ TEST_F(AssociationTest, ACallWithoutAnswerEndsAtItsDeadlineAndOthersGoOn)
     EXPECT_LT(took, 3s);
 }
 
-TEST_F(AssociationTest, CallsBeyondTheOutstandingLimitWaitAndAllAreAnswered)
+TEST_F(AssociationTest, callsBeyondTheOutstandingLimitWaitAndAllAreAnswered)
 {
     ServerOptions server;
     server.association.maxOutstandingCalled = 3;
@@ -141,7 +141,7 @@ TEST_F(AssociationTest, CallsBeyondTheOutstandingLimitWaitAndAllAreAnswered)
     EXPECT_EQ(all.get(), calls);
 }
 
-TEST_F(AssociationTest, ACancelledCallEndsAtOnce)
+TEST_F(AssociationTest, aCancelledCallEndsAtOnce)
 {
     ASSERT_TRUE(connect(startServer(), quickOptions()).ok());
     Awaited<CallOutcome> outcome;
@@ -150,7 +150,7 @@ TEST_F(AssociationTest, ACancelledCallEndsAtOnce)
     EXPECT_EQ(failureOf(outcome.get()), CallFailure::Kind::Cancelled);
 }
 
-TEST_F(AssociationTest, AnAbortEndsCallsOnThisSideAndTheAssociationOnTheOther)
+TEST_F(AssociationTest, anAbortEndsCallsOnThisSideAndTheAssociationOnTheOther)
 {
     ASSERT_TRUE(connect(startServer(), quickOptions()).ok());
     Awaited<CallOutcome> outcome;
@@ -162,7 +162,7 @@ TEST_F(AssociationTest, AnAbortEndsCallsOnThisSideAndTheAssociationOnTheOther)
     EXPECT_EQ(m_device->end.get(), "The peer aborted the association.");
 }
 
-TEST_F(AssociationTest, OnlyTheRightPasswordOpensAnAssociation)
+TEST_F(AssociationTest, onlyTheRightPasswordOpensAnAssociation)
 {
     ServerOptions server;
     server.association.link.stack.association.authentication =
@@ -183,7 +183,7 @@ TEST_F(AssociationTest, OnlyTheRightPasswordOpensAnAssociation)
     EXPECT_TRUE(connect(port, right).ok());
 }
 
-TEST_F(AssociationTest, AServerTakesTheSmallPduSizeThatAPeerProposes)
+TEST_F(AssociationTest, aServerTakesTheSmallPduSizeThatAPeerProposes)
 {
     const std::uint16_t port = startServer();
     RawPeer peer;
@@ -203,7 +203,7 @@ TEST_F(AssociationTest, AServerTakesTheSmallPduSizeThatAPeerProposes)
     EXPECT_EQ(response->parameters.maxPduSize, 512);
 }
 
-TEST_F(AssociationTest, AServerRefusesAPduSizeThatIsTooSmallToWorkWith)
+TEST_F(AssociationTest, aServerRefusesAPduSizeThatIsTooSmallToWorkWith)
 {
     const std::uint16_t port = startServer();
     RawPeer peer;
@@ -221,7 +221,7 @@ TEST_F(AssociationTest, AServerRefusesAPduSizeThatIsTooSmallToWorkWith)
     EXPECT_TRUE(peer.receive().empty());
 }
 
-TEST_F(AssociationTest, ConnectionsBeyondTheLimitAreClosedAndTheOthersLive)
+TEST_F(AssociationTest, connectionsBeyondTheLimitAreClosedAndTheOthersLive)
 {
     ServerOptions server;
     server.maxAssociations = 1;
@@ -234,7 +234,7 @@ TEST_F(AssociationTest, ConnectionsBeyondTheLimitAreClosedAndTheOthersLive)
     EXPECT_NE(answerOf<IdentifyResponse>(call(IdentifyRequest())), nullptr);
 }
 
-TEST_F(AssociationTest, AServerCutsOffAPeerThatSaysNothing)
+TEST_F(AssociationTest, aServerCutsOffAPeerThatSaysNothing)
 {
     ServerOptions server;
     server.association.link.establishTimeout = 100ms;
@@ -243,7 +243,7 @@ TEST_F(AssociationTest, AServerCutsOffAPeerThatSaysNothing)
     EXPECT_TRUE(peer.receive().empty());
 }
 
-TEST_F(AssociationTest, AServerCutsOffAPeerThatDoesNotReadAnswers)
+TEST_F(AssociationTest, aServerCutsOffAPeerThatDoesNotReadAnswers)
 {
     ServerOptions server;
     server.association.link.sendTimeout = 200ms;
@@ -267,7 +267,7 @@ TEST_F(AssociationTest, AServerCutsOffAPeerThatDoesNotReadAnswers)
     EXPECT_EQ(m_device->end.get(), "The peer does not read what it is sent.");
 }
 
-TEST_F(AssociationTest, TheFirstCallAfterASilenceIsOnItsWayBeforeTheCallerGoesOn)
+TEST_F(AssociationTest, theFirstCallAfterASilenceIsOnItsWayBeforeTheCallerGoesOn)
 {
     RawPeer peer;
     osi::Stack stack(osi::Stack::Role::Responder, {});
@@ -294,7 +294,7 @@ TEST_F(AssociationTest, TheFirstCallAfterASilenceIsOnItsWayBeforeTheCallerGoesOn
     EXPECT_TRUE(wasInTime.get());
 }
 
-TEST_F(AssociationTest, WhatTheNetworkDoesNotTakeAtOnceFollowsWhole)
+TEST_F(AssociationTest, whatTheNetworkDoesNotTakeAtOnceFollowsWhole)
 {
     // More than the buffers of both ends hold.
     constexpr std::int32_t pduSize = 14000000;
@@ -333,7 +333,7 @@ TEST_F(AssociationTest, WhatTheNetworkDoesNotTakeAtOnceFollowsWhole)
         std::holds_alternative<IdentifyRequest>(std::get<ConfirmedRequestPdu>(arrived[1]).request));
 }
 
-TEST_F(AssociationTest, GarbageInsteadOfAnAssociationIsCutOff)
+TEST_F(AssociationTest, garbageInsteadOfAnAssociationIsCutOff)
 {
     ServerOptions server;
     server.association.link.establishTimeout = 200ms;
@@ -350,7 +350,7 @@ TEST_F(AssociationTest, GarbageInsteadOfAnAssociationIsCutOff)
     EXPECT_TRUE(connect(port, quickOptions()).ok());
 }
 
-TEST_F(AssociationTest, ASilentPeerEndsTheAttemptToConnectInTime)
+TEST_F(AssociationTest, aSilentPeerEndsTheAttemptToConnectInTime)
 {
     RawPeer peer;
     AssociationOptions options = quickOptions();
@@ -362,7 +362,7 @@ TEST_F(AssociationTest, ASilentPeerEndsTheAttemptToConnectInTime)
     EXPECT_LT(std::chrono::steady_clock::now() - begin, 3s);
 }
 
-TEST_F(AssociationTest, ARefusedConnectionIsSaidWithHostAndPort)
+TEST_F(AssociationTest, aRefusedConnectionIsSaidWithHostAndPort)
 {
     const std::uint16_t port = RawPeer().port();
     const auto opened = connect(port, quickOptions());
@@ -371,7 +371,7 @@ TEST_F(AssociationTest, ARefusedConnectionIsSaidWithHostAndPort)
               std::string::npos);
 }
 
-TEST_F(AssociationTest, AConclusionThatIsNotAnsweredEndsByItsDeadline)
+TEST_F(AssociationTest, aConclusionThatIsNotAnsweredEndsByItsDeadline)
 {
     RawPeer peer;
     osi::Stack stack(osi::Stack::Role::Responder, {});
@@ -390,7 +390,7 @@ TEST_F(AssociationTest, AConclusionThatIsNotAnsweredEndsByItsDeadline)
     EXPECT_EQ(result.error().message, "The peer did not answer the release in time.");
 }
 
-TEST_F(AssociationTest, LateAndUnknownAnswersAreCountedAndDropped)
+TEST_F(AssociationTest, lateAndUnknownAnswersAreCountedAndDropped)
 {
     RawPeer peer;
     osi::Stack stack(osi::Stack::Role::Responder, {});
@@ -416,7 +416,7 @@ TEST_F(AssociationTest, LateAndUnknownAnswersAreCountedAndDropped)
     EXPECT_GE(m_client->counters().unknown, 1U);
 }
 
-TEST_F(AssociationTest, AMalformedAnswerIsRejectedAndEndsOnlyItsCall)
+TEST_F(AssociationTest, aMalformedAnswerIsRejectedAndEndsOnlyItsCall)
 {
     RawPeer peer;
     osi::Stack stack(osi::Stack::Role::Responder, {});
@@ -436,7 +436,7 @@ TEST_F(AssociationTest, AMalformedAnswerIsRejectedAndEndsOnlyItsCall)
     EXPECT_EQ(m_client->counters().malformed, 1U);
 }
 
-TEST_F(AssociationTest, AMalformedRequestIsRejectedByTheServer)
+TEST_F(AssociationTest, aMalformedRequestIsRejectedByTheServer)
 {
     RawPeer peer;
     peer.connect(startServer());
@@ -460,7 +460,7 @@ TEST_F(AssociationTest, AMalformedRequestIsRejectedByTheServer)
     EXPECT_EQ(std::get<RejectPdu>(*unknown).rejected, RejectedPdu::PduError);
 }
 
-TEST_F(AssociationTest, ALostConnectionEndsAllCallsAndSaysSo)
+TEST_F(AssociationTest, aLostConnectionEndsAllCallsAndSaysSo)
 {
     RawPeer peer;
     osi::Stack stack(osi::Stack::Role::Responder, {});
@@ -474,7 +474,7 @@ TEST_F(AssociationTest, ALostConnectionEndsAllCallsAndSaysSo)
     EXPECT_EQ(m_clientEnd.get(), "The peer closed the network connection.");
 }
 
-TEST_F(AssociationTest, TheTraceSeesEveryPduInBothDirections)
+TEST_F(AssociationTest, theTraceSeesEveryPduInBothDirections)
 {
     AssociationOptions options = quickOptions();
     std::vector<std::string> lines;
@@ -507,7 +507,7 @@ public:
 
 } // namespace
 
-TEST_F(AssociationTest, AHandlerThatThrowsEndsItsAssociationAndNoOther)
+TEST_F(AssociationTest, aHandlerThatThrowsEndsItsAssociationAndNoOther)
 {
     m_device = std::make_shared<ThrowingDevice>();
     const std::uint16_t port = startServer();
@@ -518,7 +518,7 @@ TEST_F(AssociationTest, AHandlerThatThrowsEndsItsAssociationAndNoOther)
     EXPECT_NE(answerOf<IdentifyResponse>(call(IdentifyRequest())), nullptr);
 }
 
-TEST_F(AssociationTest, ConcludingWaitsForTheCallsThatAreUnderWay)
+TEST_F(AssociationTest, concludingWaitsForTheCallsThatAreUnderWay)
 {
     RawPeer peer;
     osi::Stack stack{osi::Stack::Role::Responder, {}};
@@ -550,7 +550,7 @@ TEST_F(AssociationTest, ConcludingWaitsForTheCallsThatAreUnderWay)
     EXPECT_FALSE(concluded.get().ok());
 }
 
-TEST_F(AssociationTest, CallsWithoutAnAnswerAreGivenUpWhenTheAssociationIsConcluded)
+TEST_F(AssociationTest, callsWithoutAnAnswerAreGivenUpWhenTheAssociationIsConcluded)
 {
     AssociationOptions options = quickOptions();
     options.concludePatience = 50ms;
@@ -568,7 +568,7 @@ TEST_F(AssociationTest, CallsWithoutAnAnswerAreGivenUpWhenTheAssociationIsConclu
     EXPECT_FALSE(concluded.get().ok());
 }
 
-TEST_F(AssociationTest, AServerConcludesAfterItsAnswers)
+TEST_F(AssociationTest, aServerConcludesAfterItsAnswers)
 {
     class SlowDevice : public TestDevice
     {
@@ -606,7 +606,7 @@ TEST_F(AssociationTest, AServerConcludesAfterItsAnswers)
     EXPECT_TRUE(std::holds_alternative<ConcludeResponsePdu>(answers[1]));
 }
 
-TEST_F(AssociationTest, ACallThatFoundNoPlaceSaysSo)
+TEST_F(AssociationTest, aCallThatFoundNoPlaceSaysSo)
 {
     AssociationOptions options = quickOptions();
     options.maxOutstandingCalling = 1;
@@ -621,7 +621,7 @@ TEST_F(AssociationTest, ACallThatFoundNoPlaceSaysSo)
                                    "that the peer has not answered.");
 }
 
-TEST_F(AssociationTest, ACallThatLeavesItsPlaceHoldsNobodyUp)
+TEST_F(AssociationTest, aCallThatLeavesItsPlaceHoldsNobodyUp)
 {
     AssociationOptions options = quickOptions();
     options.maxOutstandingCalling = 1;
@@ -633,7 +633,7 @@ TEST_F(AssociationTest, ACallThatLeavesItsPlaceHoldsNobodyUp)
     EXPECT_NE(answerOf<IdentifyResponse>(call(IdentifyRequest())), nullptr);
 }
 
-TEST_F(AssociationTest, ConnectionsOfOnePeerThatAreNoAssociationsAreLimited)
+TEST_F(AssociationTest, connectionsOfOnePeerThatAreNoAssociationsAreLimited)
 {
     ServerOptions server;
     server.maxHalfOpenOfPeer = 2;
@@ -659,7 +659,7 @@ TEST_F(AssociationTest, ConnectionsOfOnePeerThatAreNoAssociationsAreLimited)
     fourth.close();
 }
 
-TEST(HostLookup, AddressesAreTakenAsTheyAre)
+TEST(HostLookup, addressesAreTakenAsTheyAre)
 {
     EXPECT_EQ(osi::numericAddress("10.1.2.3"), asio::ip::make_address("10.1.2.3"));
     EXPECT_EQ(osi::numericAddress("::1"), asio::ip::make_address("::1"));
@@ -670,7 +670,7 @@ TEST(HostLookup, AddressesAreTakenAsTheyAre)
     EXPECT_FALSE(osi::numericAddress(""));
 }
 
-TEST(HostLookup, ANameIsAskedForOnceAtATime)
+TEST(HostLookup, aNameIsAskedForOnceAtATime)
 {
     std::promise<void> gate;
     const auto opened = gate.get_future().share();
@@ -694,7 +694,7 @@ TEST(HostLookup, ANameIsAskedForOnceAtATime)
     EXPECT_EQ(asked, 1);
 }
 
-TEST(HostLookup, AFunctionThatThrowsFoundNothing)
+TEST(HostLookup, aFunctionThatThrowsFoundNothing)
 {
     Awaited<osi::HostAddresses> found;
     const osi::HostLookup lookup(
@@ -704,7 +704,7 @@ TEST(HostLookup, AFunctionThatThrowsFoundNothing)
     EXPECT_EQ(found.get().error, "it broke");
 }
 
-TEST_F(AssociationTest, AnAddressInBracketsIsReached)
+TEST_F(AssociationTest, anAddressInBracketsIsReached)
 {
     ServerOptions options;
     options.address = "::1";
@@ -719,7 +719,7 @@ TEST_F(AssociationTest, AnAddressInBracketsIsReached)
     EXPECT_TRUE(opened.get().ok());
 }
 
-TEST_F(AssociationTest, AnAttemptUnderWayGoesWithItsContext)
+TEST_F(AssociationTest, anAttemptUnderWayGoesWithItsContext)
 {
     RawPeer peer;
     std::weak_ptr<Association> attempt;
@@ -733,7 +733,7 @@ TEST_F(AssociationTest, AnAttemptUnderWayGoesWithItsContext)
     EXPECT_TRUE(attempt.expired());
 }
 
-TEST_F(AssociationTest, AServerCutsOffAClientThatIsIdleForTooLong)
+TEST_F(AssociationTest, aServerCutsOffAClientThatIsIdleForTooLong)
 {
     ServerOptions server;
     server.association.idleLimit = 150ms;
@@ -742,7 +742,7 @@ TEST_F(AssociationTest, AServerCutsOffAClientThatIsIdleForTooLong)
     EXPECT_EQ(m_clientEnd.get(), "The peer aborted the association.");
 }
 
-TEST_F(AssociationTest, AClientThatCallsNowAndThenIsNotIdle)
+TEST_F(AssociationTest, aClientThatCallsNowAndThenIsNotIdle)
 {
     ServerOptions server;
     server.association.idleLimit = 1s;

@@ -14,7 +14,7 @@ const CallTable::Clock::time_point start{};
 
 } // namespace
 
-TEST(CallTable, OnlyTheLimitIsOnTheWayAndTheOthersWaitInOrder)
+TEST(CallTable, onlyTheLimitIsOnTheWayAndTheOthersWaitInOrder)
 {
     CallTable table(2, 1s);
     const auto first = table.add(start + 1s);
@@ -32,7 +32,7 @@ TEST(CallTable, OnlyTheLimitIsOnTheWayAndTheOthersWaitInOrder)
     EXPECT_EQ(table.waiting(), 0U);
 }
 
-TEST(CallTable, AnswersMayComeInAnyOrderAndOnlyOnce)
+TEST(CallTable, answersMayComeInAnyOrderAndOnlyOnce)
 {
     CallTable table(2, 1s);
     const auto first = table.add(start);
@@ -47,7 +47,7 @@ TEST(CallTable, AnswersMayComeInAnyOrderAndOnlyOnce)
     EXPECT_EQ(table.counters().unknown, 1U);
 }
 
-TEST(CallTable, ADeadlineEndsACallWhetherItWaitsOrIsOnTheWay)
+TEST(CallTable, aDeadlineEndsACallWhetherItWaitsOrIsOnTheWay)
 {
     CallTable table(1, 10s);
     const auto sent = table.add(start + 3s);
@@ -62,7 +62,7 @@ TEST(CallTable, ADeadlineEndsACallWhetherItWaitsOrIsOnTheWay)
     EXPECT_EQ(table.counters().late, 1U);
 }
 
-TEST(CallTable, ACallThatWasGivenUpKeepsItsPlaceUntilItsGraceIsOver)
+TEST(CallTable, aCallThatWasGivenUpKeepsItsPlaceUntilItsGraceIsOver)
 {
     CallTable table(1, 10s);
     const auto givenUp = table.add(start + 1s);
@@ -76,7 +76,7 @@ TEST(CallTable, ACallThatWasGivenUpKeepsItsPlaceUntilItsGraceIsOver)
     EXPECT_EQ(table.next()->ticket, other);
 }
 
-TEST(CallTable, ACallThatWaitsIsCancelledWithoutATrace)
+TEST(CallTable, aCallThatWaitsIsCancelledWithoutATrace)
 {
     CallTable table(1, 10s);
     table.add(start + 1s);
@@ -87,7 +87,7 @@ TEST(CallTable, ACallThatWaitsIsCancelledWithoutATrace)
     EXPECT_EQ(table.waiting(), 0U);
 }
 
-TEST(CallTable, TheEndOfAnAssociationEndsAllCallsThatAreNotOver)
+TEST(CallTable, theEndOfAnAssociationEndsAllCallsThatAreNotOver)
 {
     CallTable table(2, 10s);
     const auto first = table.add(start + 1s);
@@ -101,7 +101,7 @@ TEST(CallTable, TheEndOfAnAssociationEndsAllCallsThatAreNotOver)
     EXPECT_FALSE(table.nextDeadline());
 }
 
-TEST(CallTable, InvokeIdsBeginAgainAfterTheLargest)
+TEST(CallTable, invokeIdsBeginAgainAfterTheLargest)
 {
     CallTable table(3, 1s, 0x7ffffffe);
     const auto first = table.add(start);
@@ -116,7 +116,7 @@ TEST(CallTable, InvokeIdsBeginAgainAfterTheLargest)
     EXPECT_EQ(table.counters().unknown, 0U);
 }
 
-TEST(CallTable, ACallThatThePeerForgotFreesItsPlaceOnlyWhenItWasGivenUp)
+TEST(CallTable, aCallThatThePeerForgotFreesItsPlaceOnlyWhenItWasGivenUp)
 {
     CallTable table(1, 1h);
     const auto ticket = table.add(start + 1s);

@@ -40,13 +40,13 @@ private slots:
     void init();
     void cleanup();
 
-    void deviceForm();
-    void deviceFormWithFaultsAndATestResult();
-    void trace();
-    void windowWithItsDocks();
-    void windowThatIsReadOnly();
-    void questionBeforeARemoval();
-    void deviceThatIsSlowToAnswer();
+    void theFormOfADeviceIsShownWhole();
+    void theFormWithFaultsAndATestResultIsShownWhole();
+    void theTraceIsShownWhole();
+    void theWindowWithItsDocksIsShownWhole();
+    void theWindowThatIsReadOnlyIsShownWhole();
+    void theQuestionBeforeARemovalIsShownWhole();
+    void theWaitForASlowDeviceIsShownWhole();
 
 private:
     void expectNoFlaws(QWidget &window, const QString &state);
@@ -116,7 +116,7 @@ void tst_WorkbenchLooks::expectNoFlaws(QWidget &window, const QString &state)
     QVERIFY2(flaws.isEmpty(), qPrintable(state + ": " + flaws.join('\n')));
 }
 
-void tst_WorkbenchLooks::deviceForm()
+void tst_WorkbenchLooks::theFormOfADeviceIsShownWhole()
 {
     DeviceDialog dialog({}, {}, {}, m_jobs);
     dialog.show();
@@ -136,7 +136,7 @@ void tst_WorkbenchLooks::deviceForm()
     expectNoFlaws(dialog, "other names");
 }
 
-void tst_WorkbenchLooks::deviceFormWithFaultsAndATestResult()
+void tst_WorkbenchLooks::theFormWithFaultsAndATestResultIsShownWhole()
 {
     const auto test = [](const DeviceConfiguration &) {
         DeviceTestResult result;
@@ -162,7 +162,7 @@ void tst_WorkbenchLooks::deviceFormWithFaultsAndATestResult()
     expectNoFlaws(dialog, "faults");
 }
 
-void tst_WorkbenchLooks::trace()
+void tst_WorkbenchLooks::theTraceIsShownWhole()
 {
     m_workbench->simulate(":/workbench/unfinished.icd");
     QTRY_VERIFY(m_workbench->devices().device(1) && m_workbench->devices().device(1)->isUsable());
@@ -179,7 +179,7 @@ std::unique_ptr<MainWindow> tst_WorkbenchLooks::makeWindow()
     return window;
 }
 
-void tst_WorkbenchLooks::windowWithItsDocks()
+void tst_WorkbenchLooks::theWindowWithItsDocksIsShownWhole()
 {
     const auto window = makeWindow();
     DeviceRecord away;
@@ -200,7 +200,7 @@ void tst_WorkbenchLooks::windowWithItsDocks()
     }
 }
 
-void tst_WorkbenchLooks::questionBeforeARemoval()
+void tst_WorkbenchLooks::theQuestionBeforeARemovalIsShownWhole()
 {
     const auto window = makeWindow();
     m_workbench->simulate(":/workbench/unfinished.icd");
@@ -212,7 +212,7 @@ void tst_WorkbenchLooks::questionBeforeARemoval()
     expectNoFlaws(*box, "question");
 }
 
-void tst_WorkbenchLooks::deviceThatIsSlowToAnswer()
+void tst_WorkbenchLooks::theWaitForASlowDeviceIsShownWhole()
 {
     std::promise<void> answered;
     std::future<void> isAnswered = answered.get_future();
@@ -236,7 +236,7 @@ void tst_WorkbenchLooks::deviceThatIsSlowToAnswer()
     QVERIFY(wasShown);
 }
 
-void tst_WorkbenchLooks::windowThatIsReadOnly()
+void tst_WorkbenchLooks::theWindowThatIsReadOnlyIsShownWhole()
 {
     m_workbench->setReadOnly(true);
     const auto window = makeWindow();
