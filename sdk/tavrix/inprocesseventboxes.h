@@ -23,6 +23,7 @@ public:
     explicit InProcessEventBoxes(Clock clock = &std::chrono::steady_clock::now);
     ~InProcessEventBoxes() override;
 
+    Result connect() override { return Success; }
     Result createBox(Owner creator, std::string_view name, std::size_t capacity,
                      std::chrono::milliseconds timeToLive) override;
     Result setPersistent(std::string_view name, bool persistent) override;

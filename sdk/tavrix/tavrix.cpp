@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "tavrix.h"
 
-#include "inprocesseventboxes.h"
+#include "eventbackends.h"
+#include "openports.h"
 
 #include <QtCore/QThreadStorage>
 
@@ -9,53 +10,73 @@
 #include <atomic>
 #include <cstring>
 #include <string_view>
+#include <utility>
 
 namespace Tavrix {
 
 namespace {
 
-/// Never destroyed: threads may end after the statics of this library are gone.
-EventBackend &localBackend()
+/// What the process has of the middleware. Never destroyed: threads may end after the statics of
+/// this library are gone.
+struct State
 {
-    static EventBackend *const backend = new InProcessEventBoxes;
-    return *backend;
+    EventBackends backends;
+    OpenPorts ports;
+    std::atomic<Owner> lastOwner{0};
+};
+
+State &state()
+{
+    static State *const state = new State;
+    return *state;
 }
 
-EventBackend *backendAt(const char *address, const char *domain)
-{
-    return address == nullptr && domain == nullptr ? &localBackend() : nullptr;
-}
-
-class OwnerGuard
+/// A thread that creates boxes and opens ports.
+class OwningThread
 {
 public:
-    OwnerGuard()
-        : m_owner(++s_lastOwner)
+    OwningThread() = default;
+    ~OwningThread()
     {
+        for (const auto &backend : m_backends) {
+            backend->ownerGone(m_owner);
+        }
+        state().ports.ownerGone(m_owner);
     }
-    ~OwnerGuard() { localBackend().ownerGone(m_owner); }
-    OwnerGuard(const OwnerGuard &) = delete;
-    OwnerGuard &operator=(const OwnerGuard &) = delete;
+    OwningThread(const OwningThread &) = delete;
+    OwningThread &operator=(const OwningThread &) = delete;
 
-    Owner owner() const { return m_owner; }
+    /// The thread's number, for something of its own at the backend.
+    Owner ownerAt(const std::shared_ptr<EventBackend> &backend)
+    {
+        if (std::find(m_backends.begin(), m_backends.end(), backend) == m_backends.end()) {
+            m_backends.push_back(backend);
+        }
+        return m_owner;
+    }
 
 private:
-    static inline std::atomic<Owner> s_lastOwner{0};
-    const Owner m_owner;
+    const Owner m_owner = ++state().lastOwner;
+    std::vector<std::shared_ptr<EventBackend>> m_backends;
 };
 
 /// In Qt's thread storage, because QThread::wait() does not wait for the end of thread_local
 /// objects.
-Owner currentOwner()
+OwningThread &currentThread()
 {
-    static auto *const guards = new QThreadStorage<OwnerGuard>;
-    return guards->localData().owner();
+    static auto *const threads = new QThreadStorage<OwningThread>;
+    return threads->localData();
 }
 
 bool isText(const char *text, int maxLength)
 {
     return text != nullptr &&
            std::memchr(text, '\0', static_cast<std::size_t>(maxLength) + 1) != nullptr;
+}
+
+bool isGiven(const char *text)
+{
+    return text != nullptr && *text != '\0';
 }
 
 bool isName(const char *text)
@@ -65,29 +86,41 @@ bool isName(const char *text)
 
 } // namespace
 
+int RegisterMiddleware(const char *scheme, BackendFactory factory)
+{
+    return state().backends.add(scheme, std::move(factory));
+}
+
+int ChooseMiddleware(const char *address, const char *domain)
+{
+    return state().backends.choose(address, domain);
+}
+
 int ConnectMid(const char *address)
 {
-    return backendAt(address, nullptr) != nullptr ? Success : MiddlewareUnavailable;
+    const auto backend = state().backends.find(address, nullptr);
+    return backend ? backend->connect() : MiddlewareUnavailable;
 }
 
 int CreateEventBox(const char *boxName, int capacity, int timeToLiveMs, const char *address,
                    const char *domain)
 {
-    EventBackend *const backend = backendAt(address, domain);
-    if (backend == nullptr) {
+    const auto backend = state().backends.find(address, domain);
+    if (!backend) {
         return MiddlewareUnavailable;
     }
     if (!isName(boxName) || capacity < 1 || timeToLiveMs < 1) {
         return InvalidArgument;
     }
-    return backend->createBox(currentOwner(), boxName, static_cast<std::size_t>(capacity),
+    return backend->createBox(currentThread().ownerAt(backend), boxName,
+                              static_cast<std::size_t>(capacity),
                               std::chrono::milliseconds(timeToLiveMs));
 }
 
 int SetPersistent(const char *boxName, bool persistent, const char *address, const char *domain)
 {
-    EventBackend *const backend = backendAt(address, domain);
-    if (backend == nullptr) {
+    const auto backend = state().backends.find(address, domain);
+    if (!backend) {
         return MiddlewareUnavailable;
     }
     return isName(boxName) ? backend->setPersistent(boxName, persistent) : InvalidArgument;
@@ -96,33 +129,52 @@ int SetPersistent(const char *boxName, bool persistent, const char *address, con
 int ConnectPortForRecv(const char *boxName, unsigned int &port, const char *address,
                        const char *domain)
 {
-    EventBackend *const backend = backendAt(address, domain);
-    if (backend == nullptr) {
+    const auto backend = state().backends.find(address, domain);
+    if (!backend) {
         return MiddlewareUnavailable;
     }
-    return isName(boxName) ? backend->connectPort(currentOwner(), boxName, port) : InvalidArgument;
+    if (!isName(boxName)) {
+        return InvalidArgument;
+    }
+    const Owner owner = currentThread().ownerAt(backend);
+    OpenPorts::Place place{backend, 0};
+    const Result result = backend->connectPort(owner, boxName, place.port);
+    if (result == Success) {
+        port = state().ports.add(owner, std::move(place));
+    }
+    return result;
 }
 
 int DisconnectPort(unsigned int port)
 {
-    return localBackend().disconnectPort(port);
+    const auto place = state().ports.take(port);
+    return place ? place->backend->disconnectPort(place->port) : NoSuchEventBox;
 }
 
 int ReceiveEventN(unsigned int port, TavrixDataList &out, const char *key, int waitMs, int count,
                   const char *address, const char *domain)
 {
     DestoryTavrixDataList(&out);
-    EventBackend *const backend = backendAt(address, domain);
-    if (backend == nullptr) {
+    const bool isAddressed = isGiven(address) || isGiven(domain);
+    const auto backend = state().backends.find(address, domain);
+    if (!backend) {
         return MiddlewareUnavailable;
     }
     const char *const wanted = key == nullptr ? "" : key;
     if (!isText(wanted, maxNameLength) || waitMs < 0 || count < 1) {
         return InvalidArgument;
     }
+    const auto place = state().ports.find(port);
+    if (!place || (isAddressed && place->backend != backend)) {
+        return NoSuchEventBox;
+    }
     std::vector<std::shared_ptr<const Event>> events;
-    const Result result = backend->receive(port, wanted, std::chrono::milliseconds(waitMs),
-                                           static_cast<std::size_t>(count), events);
+    const Result result =
+        place->backend->receive(place->port, wanted, std::chrono::milliseconds(waitMs),
+                                static_cast<std::size_t>(count), events);
+    if (result == NoSuchEventBox) {
+        state().ports.closed(port, *place);
+    }
     std::size_t records = 0;
     for (const auto &event : events) {
         records += event->recordCount();
@@ -144,8 +196,8 @@ int ReceiveEventN(unsigned int port, TavrixDataList &out, const char *key, int w
 int PostEvent(const char *boxNamePrefix, const char *key, const QList<QByteArray> &records,
               const char *address, const char *domain)
 {
-    EventBackend *const backend = backendAt(address, domain);
-    if (backend == nullptr) {
+    const auto backend = state().backends.find(address, domain);
+    if (!backend) {
         return MiddlewareUnavailable;
     }
     if (!isText(boxNamePrefix, maxNameLength) || !isName(key) ||

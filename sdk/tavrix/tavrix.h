@@ -5,7 +5,8 @@
 ///
 /// An event is a list of records under one key; a record is a block of 512 bytes. A box is a named
 /// queue: each event in it goes to one receiver, so whoever wants every event creates a box of its
-/// own. Boxes live in this process.
+/// own. Boxes live in a middleware: in this process, unless the host chose another one
+/// (middleware.h).
 ///
 /// Limits of a box: the capacity in events and the time to live given to CreateEventBox(), and
 /// `maxBoxBytes` of events in all. Past a limit the oldest events are dropped, silently. Boxes that
@@ -27,8 +28,9 @@
 /// Errors: each function returns a Tavrix::Result, 0 for success, and does nothing at all when the
 /// result is another. Texts are bytes that end with a zero; the middleware copies what it keeps.
 ///
-/// The trailing `address` and `domain` name another middleware than the one of ConnectMid(). Null
-/// for both is this process, the only one there is so far; a call that gives either returns
+/// The trailing `address` and `domain` name another middleware than the one that the host chose,
+/// which null for both means; boxes of the same name in two middlewares have nothing to do with
+/// each other. Where nothing is known or nothing answers, the result is
 /// Tavrix::MiddlewareUnavailable.
 
 #include "tavrixglobal.h"
@@ -41,8 +43,9 @@ class TavrixDataList;
 
 namespace Tavrix {
 
-/// Choose the middleware of this process: null is the boxes inside it, which need no connection.
-/// @return Success for null, else MiddlewareUnavailable.
+/// Get a middleware ready, as often as wanted; null is the one that the host chose. The boxes
+/// inside this process are always ready.
+/// @return Success, MiddlewareUnavailable.
 TAVRIX_EXPORT int ConnectMid(const char *address);
 
 /// Make an empty, persistent box.
@@ -65,7 +68,8 @@ TAVRIX_EXPORT int SetPersistent(const char *boxName, bool persistent, const char
 TAVRIX_EXPORT int ConnectPortForRecv(const char *boxName, unsigned int &port,
                                      const char *address = nullptr, const char *domain = nullptr);
 
-/// Close a port. Whoever waits on it returns with NoSuchEventBox.
+/// Close a port, whatever middleware it is open on. Whoever waits on it returns with
+/// NoSuchEventBox.
 /// @return Success; NoSuchEventBox when the port is not open.
 TAVRIX_EXPORT int DisconnectPort(unsigned int port);
 
@@ -75,6 +79,7 @@ TAVRIX_EXPORT int DisconnectPort(unsigned int port);
 ///             is an event without records.
 /// @param key  take only events of this key and leave the others; null or empty takes every event
 /// @param waitMs  how long to wait when no such event is there, in milliseconds, 0 for not at all
+/// @param address @param domain  null for both: where the port is open; else they have to name that
 /// @param count  at most so many events, at least 1; returns as soon as there is one, and stops
 ///             before the list would exceed `maxRecordsPerEvent` records
 /// @return Success, NothingReceived, NoSuchEventBox when the port is not open or is closed

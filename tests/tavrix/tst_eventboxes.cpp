@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <tavrix/inprocesseventboxes.h>
-
-#include <gtest/gtest.h>
+#include "tavrix/backendkinds.h"
 
 #include <initializer_list>
 
@@ -25,7 +23,7 @@ std::shared_ptr<Event> eventOf(std::string_view key,
     return event;
 }
 
-class EventBoxes : public testing::Test
+class EventBoxes : public testing::TestWithParam<BackendKind>
 {
 protected:
     unsigned int open(std::string_view name, Owner owner = thisThread)
@@ -71,21 +69,30 @@ protected:
     }
 
     InProcessEventBoxes::TimePoint now{};
-    InProcessEventBoxes boxes{[this] { return now; }};
+    const std::unique_ptr<EventBackend> m_backend = GetParam().make([this] { return now; });
+    EventBackend &boxes = *m_backend;
+};
+
+/// What only the boxes inside this process promise: they share an event and free it when due.
+class EventBoxesInProcess : public EventBoxes
+{
 };
 
 using Records = std::vector<std::string>;
 
+INSTANTIATE_TEST_SUITE_P(Over, EventBoxes, testing::ValuesIn(backendKinds), kindName);
+INSTANTIATE_TEST_SUITE_P(Over, EventBoxesInProcess, testing::Values(backendKinds[0]), kindName);
+
 } // namespace
 
-TEST_F(EventBoxes, connectingToAMissingBoxSaysSoAndLeavesThePort)
+TEST_P(EventBoxes, connectingToAMissingBoxSaysSoAndLeavesThePort)
 {
     unsigned int port = 42;
     EXPECT_EQ(boxes.connectPort(thisThread, "A", port), NoSuchEventBox);
     EXPECT_EQ(port, 42u);
 }
 
-TEST_F(EventBoxes, aSecondBoxOfTheSameNameIsRefusedAndTheFirstKept)
+TEST_P(EventBoxes, aSecondBoxOfTheSameNameIsRefusedAndTheFirstKept)
 {
     const unsigned int port = openNew("A", 1);
     EXPECT_EQ(boxes.createBox(thisThread, "A", 100, 30s), EventBoxExists);
@@ -94,7 +101,7 @@ TEST_F(EventBoxes, aSecondBoxOfTheSameNameIsRefusedAndTheFirstKept)
     EXPECT_EQ(drain(port), Records({"2"}));
 }
 
-TEST_F(EventBoxes, eventsComeInTheOrderOfTheirPosting)
+TEST_P(EventBoxes, eventsComeInTheOrderOfTheirPosting)
 {
     const unsigned int port = openNew("A");
     post("A", "1");
@@ -103,7 +110,7 @@ TEST_F(EventBoxes, eventsComeInTheOrderOfTheirPosting)
     EXPECT_EQ(drain(port), Records({"1", "2", "3"}));
 }
 
-TEST_F(EventBoxes, anEmptyBoxHasNothingToReceive)
+TEST_P(EventBoxes, anEmptyBoxHasNothingToReceive)
 {
     const unsigned int port = openNew("A");
     Events events;
@@ -111,7 +118,7 @@ TEST_F(EventBoxes, anEmptyBoxHasNothingToReceive)
     EXPECT_TRUE(events.empty());
 }
 
-TEST_F(EventBoxes, anEmptyBoxIsWaitedForAsLongAsAsked)
+TEST_P(EventBoxes, anEmptyBoxIsWaitedForAsLongAsAsked)
 {
     const unsigned int port = openNew("A");
     Events events;
@@ -120,7 +127,7 @@ TEST_F(EventBoxes, anEmptyBoxIsWaitedForAsLongAsAsked)
     EXPECT_GE(std::chrono::steady_clock::now() - start, 30ms);
 }
 
-TEST_F(EventBoxes, anEventIsReceivedOnceAmongThePortsOfABox)
+TEST_P(EventBoxes, anEventIsReceivedOnceAmongThePortsOfABox)
 {
     const unsigned int first = openNew("A");
     const unsigned int second = open("A");
@@ -130,7 +137,7 @@ TEST_F(EventBoxes, anEventIsReceivedOnceAmongThePortsOfABox)
     EXPECT_EQ(drain(first), Records());
 }
 
-TEST_F(EventBoxes, aPostReachesEveryBoxWithThePrefixAndNoOther)
+TEST_P(EventBoxes, aPostReachesEveryBoxWithThePrefixAndNoOther)
 {
     const unsigned int one = openNew("DATA:1");
     const unsigned int two = openNew("DATA:2");
@@ -145,7 +152,7 @@ TEST_F(EventBoxes, aPostReachesEveryBoxWithThePrefixAndNoOther)
     EXPECT_EQ(drain(other), Records());
 }
 
-TEST_F(EventBoxes, anEmptyPrefixReachesEveryBox)
+TEST_P(EventBoxes, anEmptyPrefixReachesEveryBox)
 {
     const unsigned int one = openNew("A");
     const unsigned int two = openNew("B");
@@ -154,7 +161,7 @@ TEST_F(EventBoxes, anEmptyPrefixReachesEveryBox)
     EXPECT_EQ(drain(two), Records({"x"}));
 }
 
-TEST_F(EventBoxes, boxesShareOneEvent)
+TEST_P(EventBoxesInProcess, boxesShareOneEvent)
 {
     const unsigned int one = openNew("A1");
     const unsigned int two = openNew("A2");
@@ -168,7 +175,7 @@ TEST_F(EventBoxes, boxesShareOneEvent)
     EXPECT_EQ(ofTwo.front(), event);
 }
 
-TEST_F(EventBoxes, aKeyTakesItsEventsAndLeavesTheOthers)
+TEST_P(EventBoxes, aKeyTakesItsEventsAndLeavesTheOthers)
 {
     const unsigned int port = openNew("A");
     post("A", "1", "X");
@@ -180,7 +187,7 @@ TEST_F(EventBoxes, aKeyTakesItsEventsAndLeavesTheOthers)
     EXPECT_EQ(drain(port, {}), Records({"1", "3"}));
 }
 
-TEST_F(EventBoxes, aReceiveGathersAtMostTheEventsAskedFor)
+TEST_P(EventBoxes, aReceiveGathersAtMostTheEventsAskedFor)
 {
     const unsigned int port = openNew("A");
     for (const std::string_view record : {"1", "2", "3", "4", "5"}) {
@@ -195,7 +202,7 @@ TEST_F(EventBoxes, aReceiveGathersAtMostTheEventsAskedFor)
     EXPECT_EQ(drain(port), Records({"2", "5"}));
 }
 
-TEST_F(EventBoxes, aReceiveStopsBeforeItsRecordsExceedThoseOfTheLargestEvent)
+TEST_P(EventBoxes, aReceiveStopsBeforeItsRecordsExceedThoseOfTheLargestEvent)
 {
     const unsigned int port = openNew("A");
     const auto large = std::make_shared<Event>("K", 3000, 0);
@@ -212,7 +219,7 @@ TEST_F(EventBoxes, aReceiveStopsBeforeItsRecordsExceedThoseOfTheLargestEvent)
     EXPECT_EQ(events.size(), 1u);
 }
 
-TEST_F(EventBoxes, anEventWithoutRecordsIsReceived)
+TEST_P(EventBoxes, anEventWithoutRecordsIsReceived)
 {
     const unsigned int port = openNew("A");
     boxes.post("A", eventOf("K", {}));
@@ -221,7 +228,7 @@ TEST_F(EventBoxes, anEventWithoutRecordsIsReceived)
     EXPECT_EQ(events.front()->recordCount(), 0u);
 }
 
-TEST_F(EventBoxes, aFullBoxDropsItsOldestEvents)
+TEST_P(EventBoxes, aFullBoxDropsItsOldestEvents)
 {
     const unsigned int port = openNew("A", 3);
     for (const std::string_view record : {"1", "2", "3", "4", "5"}) {
@@ -230,7 +237,7 @@ TEST_F(EventBoxes, aFullBoxDropsItsOldestEvents)
     EXPECT_EQ(drain(port), Records({"3", "4", "5"}));
 }
 
-TEST_F(EventBoxes, aBoxKeepsNoMoreBytesThanItsLimit)
+TEST_P(EventBoxes, aBoxKeepsNoMoreBytesThanItsLimit)
 {
     const unsigned int port = openNew("A", 20005);
     const std::string record(rawValueSize, 'x');
@@ -259,7 +266,7 @@ TEST_F(EventBoxes, aBoxKeepsNoMoreBytesThanItsLimit)
     EXPECT_GE(received, fitting);
 }
 
-TEST_F(EventBoxes, takenEventsMakeRoomAgain)
+TEST_P(EventBoxes, takenEventsMakeRoomAgain)
 {
     const unsigned int port = openNew("A", 20005);
     const std::string record(rawValueSize, 'x');
@@ -276,7 +283,7 @@ TEST_F(EventBoxes, takenEventsMakeRoomAgain)
     EXPECT_EQ(drain(port), Records({"1", record}));
 }
 
-TEST_F(EventBoxes, anEventThatNobodyReceivedInTimeIsDropped)
+TEST_P(EventBoxes, anEventThatNobodyReceivedInTimeIsDropped)
 {
     const unsigned int port = openNew("A", 100, 1000ms);
     post("A", "old");
@@ -286,7 +293,7 @@ TEST_F(EventBoxes, anEventThatNobodyReceivedInTimeIsDropped)
     EXPECT_EQ(drain(port), Records({"young"}));
 }
 
-TEST_F(EventBoxes, eachBoxHasItsOwnTimeToLive)
+TEST_P(EventBoxes, eachBoxHasItsOwnTimeToLive)
 {
     const unsigned int shortLived = openNew("A1", 100, 10ms);
     const unsigned int longLived = openNew("A2", 100, 1000ms);
@@ -296,7 +303,7 @@ TEST_F(EventBoxes, eachBoxHasItsOwnTimeToLive)
     EXPECT_EQ(drain(longLived), Records({"x"}));
 }
 
-TEST_F(EventBoxes, anExpiredEventIsFreedByTheNextPost)
+TEST_P(EventBoxesInProcess, anExpiredEventIsFreedByTheNextPost)
 {
     openNew("A", 100, 10ms);
     auto event = eventOf("K", {"x"});
@@ -309,7 +316,7 @@ TEST_F(EventBoxes, anExpiredEventIsFreedByTheNextPost)
     EXPECT_TRUE(watched.expired());
 }
 
-TEST_F(EventBoxes, aPortThatWasNeverOpenedIsNotUsable)
+TEST_P(EventBoxes, aPortThatWasNeverOpenedIsNotUsable)
 {
     Events events;
     EXPECT_EQ(boxes.receive(0, {}, 10s, 1, events), NoSuchEventBox);
@@ -317,7 +324,7 @@ TEST_F(EventBoxes, aPortThatWasNeverOpenedIsNotUsable)
     EXPECT_EQ(boxes.disconnectPort(7), NoSuchEventBox);
 }
 
-TEST_F(EventBoxes, aClosedPortIsNotUsable)
+TEST_P(EventBoxes, aClosedPortIsNotUsable)
 {
     const unsigned int port = openNew("A");
     post("A", "1");
@@ -328,14 +335,25 @@ TEST_F(EventBoxes, aClosedPortIsNotUsable)
     EXPECT_EQ(drain(open("A")), Records({"1"}));
 }
 
-TEST_F(EventBoxes, aPersistentBoxKeepsItsEventsWithoutAPort)
+TEST_P(EventBoxes, aPersistentBoxKeepsItsEventsWithoutAPort)
 {
     boxes.disconnectPort(openNew("A"));
     post("A", "1");
     EXPECT_EQ(drain(open("A")), Records({"1"}));
 }
 
-TEST_F(EventBoxes, aBoxThatIsNotPersistentDiesWithItsLastPort)
+TEST_P(EventBoxes, aBoxThatIsNotPersistentDiesWithItsLastPort)
+{
+    const unsigned int first = openNew("A");
+    const unsigned int second = open("A");
+    EXPECT_EQ(boxes.setPersistent("A", false), Success);
+    boxes.disconnectPort(first);
+    EXPECT_TRUE(exists("A"));
+    boxes.disconnectPort(second);
+    EXPECT_FALSE(exists("A"));
+}
+
+TEST_P(EventBoxesInProcess, theEventsOfABoxAreFreedWithItsLastPort)
 {
     const unsigned int first = openNew("A");
     const unsigned int second = open("A");
@@ -348,11 +366,10 @@ TEST_F(EventBoxes, aBoxThatIsNotPersistentDiesWithItsLastPort)
     boxes.disconnectPort(first);
     EXPECT_FALSE(watched.expired());
     boxes.disconnectPort(second);
-    EXPECT_FALSE(exists("A"));
     EXPECT_TRUE(watched.expired());
 }
 
-TEST_F(EventBoxes, aBoxThatIsNotPersistentWaitsForItsFirstPort)
+TEST_P(EventBoxes, aBoxThatIsNotPersistentWaitsForItsFirstPort)
 {
     EXPECT_EQ(boxes.createBox(thisThread, "A", 100, 30s), Success);
     EXPECT_EQ(boxes.setPersistent("A", false), Success);
@@ -360,14 +377,14 @@ TEST_F(EventBoxes, aBoxThatIsNotPersistentWaitsForItsFirstPort)
     EXPECT_FALSE(exists("A"));
 }
 
-TEST_F(EventBoxes, aBoxWithoutPortsDiesWhenItIsMadeNonPersistent)
+TEST_P(EventBoxes, aBoxWithoutPortsDiesWhenItIsMadeNonPersistent)
 {
     boxes.disconnectPort(openNew("A"));
     EXPECT_EQ(boxes.setPersistent("A", false), Success);
     EXPECT_FALSE(exists("A"));
 }
 
-TEST_F(EventBoxes, aBoxMadePersistentAgainOutlivesItsPorts)
+TEST_P(EventBoxes, aBoxMadePersistentAgainOutlivesItsPorts)
 {
     const unsigned int port = openNew("A");
     boxes.setPersistent("A", false);
@@ -376,12 +393,12 @@ TEST_F(EventBoxes, aBoxMadePersistentAgainOutlivesItsPorts)
     EXPECT_TRUE(exists("A"));
 }
 
-TEST_F(EventBoxes, persistenceOfAMissingBoxIsAnError)
+TEST_P(EventBoxes, persistenceOfAMissingBoxIsAnError)
 {
     EXPECT_EQ(boxes.setPersistent("A", false), NoSuchEventBox);
 }
 
-TEST_F(EventBoxes, portsEndWithTheThreadThatOpenedThem)
+TEST_P(EventBoxes, portsEndWithTheThreadThatOpenedThem)
 {
     const unsigned int ours = openNew("A");
     const unsigned int theirs = open("A", otherThread);
@@ -394,7 +411,7 @@ TEST_F(EventBoxes, portsEndWithTheThreadThatOpenedThem)
     EXPECT_FALSE(exists("A"));
 }
 
-TEST_F(EventBoxes, aBoxThatNeverHadAPortEndsWithItsCreatorUnlessPersistent)
+TEST_P(EventBoxes, aBoxThatNeverHadAPortEndsWithItsCreatorUnlessPersistent)
 {
     boxes.createBox(otherThread, "persistent", 100, 30s);
     boxes.createBox(otherThread, "orphan", 100, 30s);
@@ -407,7 +424,7 @@ TEST_F(EventBoxes, aBoxThatNeverHadAPortEndsWithItsCreatorUnlessPersistent)
     EXPECT_TRUE(exists("of the other thread"));
 }
 
-TEST_F(EventBoxes, aBoxWithPortsOfOtherThreadsOutlivesItsCreator)
+TEST_P(EventBoxes, aBoxWithPortsOfOtherThreadsOutlivesItsCreator)
 {
     EXPECT_EQ(boxes.createBox(otherThread, "A", 100, 30s), Success);
     boxes.setPersistent("A", false);

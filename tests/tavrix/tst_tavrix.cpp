@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "tavrix/forwardingbackend.h"
+
+#include <tavrix/middleware.h>
 #include <tavrix/tavrix.h>
 
 #include <QtTest/QtTest>
@@ -12,8 +15,9 @@ class tst_Tavrix : public QObject
     Q_OBJECT
 
 private slots:
-    void theMiddlewareOfThisProcessNeedsNoAddress();
-    void anotherMiddlewareIsUnavailableToEveryFunction();
+    void initTestCase_data();
+    void aMiddlewareIsConnectedAsOftenAsAsked();
+    void anUnknownMiddlewareIsUnavailableToEveryFunction();
     void aPostedRecordArrivesFilledUpWithZeros();
     void recordsKeepTheirOrderAlsoAcrossEvents();
     void aRecordMayHoldZerosAndTheWholeBlock();
@@ -27,7 +31,6 @@ private slots:
     void tooManyRecordsAreRefusedAndNothingIsPosted();
     void theMostRecordsOfOneEventArrive();
     void postingWhereNobodyListensSucceeds();
-    void badArgumentsAreRefused_data();
     void badArgumentsAreRefused();
     void aFinishedThreadTakesItsPortsAndItsBoxWithIt();
     void aFinishedThreadEndsTheWaitOfOthersOnItsPort();
@@ -39,6 +42,14 @@ namespace {
 constexpr int noWait = 0;
 constexpr int never = 60000;
 
+/// The middleware that the test runs over; null is the boxes inside this process. A suite for
+/// another one is one more row of initTestCase_data().
+const char *address()
+{
+    QFETCH_GLOBAL(const QByteArray, middleware);
+    return middleware.isNull() ? nullptr : middleware.constData();
+}
+
 /// A box of the test that runs, and a port on it.
 class Box
 {
@@ -46,9 +57,9 @@ public:
     explicit Box(const char *name = QTest::currentTestFunction())
         : m_name(name)
     {
-        Tavrix::CreateEventBox(m_name, 100, 30000);
-        Tavrix::ConnectPortForRecv(m_name, m_port);
-        Tavrix::SetPersistent(m_name, false);
+        Tavrix::CreateEventBox(m_name, 100, 30000, address());
+        Tavrix::ConnectPortForRecv(m_name, m_port, address());
+        Tavrix::SetPersistent(m_name, false, address());
     }
     ~Box() { Tavrix::DisconnectPort(m_port); }
     Q_DISABLE_COPY(Box)
@@ -57,11 +68,11 @@ public:
     unsigned int port() const { return m_port; }
     int post(const QList<QByteArray> &records) const
     {
-        return Tavrix::PostEvent(m_name, "K", records);
+        return Tavrix::PostEvent(m_name, "K", records, address());
     }
     int receive(TavrixDataList &list, int count = 1) const
     {
-        return Tavrix::ReceiveEventN(m_port, list, "K", noWait, count);
+        return Tavrix::ReceiveEventN(m_port, list, "K", noWait, count, address());
     }
 
 private:
@@ -81,13 +92,23 @@ QByteArray filledUp(QByteArray record)
 
 } // namespace
 
-void tst_Tavrix::theMiddlewareOfThisProcessNeedsNoAddress()
+void tst_Tavrix::initTestCase_data()
 {
-    QCOMPARE(Tavrix::ConnectMid(nullptr), 0);
-    QCOMPARE(Tavrix::ConnectMid(nullptr), 0);
+    Tavrix::RegisterMiddleware("forwarding", [](const std::string &, const std::string &) {
+        return std::make_shared<ForwardingBackend>(&std::chrono::steady_clock::now);
+    });
+    QTest::addColumn<QByteArray>("middleware");
+    QTest::newRow("in this process") << QByteArray();
+    QTest::newRow("by address") << QByteArray("forwarding:suite");
 }
 
-void tst_Tavrix::anotherMiddlewareIsUnavailableToEveryFunction()
+void tst_Tavrix::aMiddlewareIsConnectedAsOftenAsAsked()
+{
+    QCOMPARE(Tavrix::ConnectMid(address()), 0);
+    QCOMPARE(Tavrix::ConnectMid(address()), 0);
+}
+
+void tst_Tavrix::anUnknownMiddlewareIsUnavailableToEveryFunction()
 {
     const Box box;
     unsigned int port = 0;
@@ -99,7 +120,7 @@ void tst_Tavrix::anotherMiddlewareIsUnavailableToEveryFunction()
     QCOMPARE(Tavrix::ReceiveEventN(box.port(), list, "K", 0, 1, "broker"), 2005);
     QCOMPARE(Tavrix::PostEvent(box.name(), "K", {}, nullptr, "domain"), 2005);
     QCOMPARE(box.receive(list), 2000);
-    QCOMPARE(Tavrix::ConnectPortForRecv("other", port), 2001);
+    QCOMPARE(Tavrix::ConnectPortForRecv("other", port, address()), 2001);
 }
 
 void tst_Tavrix::aPostedRecordArrivesFilledUpWithZeros()
@@ -142,7 +163,7 @@ void tst_Tavrix::aReceiverOwnsItsCopyOfTheBlock()
 {
     const Box one("copies 1");
     const Box two("copies 2");
-    Tavrix::PostEvent("copies", "K", {"abc"});
+    Tavrix::PostEvent("copies", "K", {"abc"}, address());
     TavrixDataList list;
     QCOMPARE(one.receive(list), 0);
     std::memset(list.array[0]->GetRawValue(), 'z', 512);
@@ -246,75 +267,72 @@ void tst_Tavrix::theMostRecordsOfOneEventArrive()
 
 void tst_Tavrix::postingWhereNobodyListensSucceeds()
 {
-    QCOMPARE(Tavrix::PostEvent("nobody", "K", {"x"}), 0);
-}
-
-void tst_Tavrix::badArgumentsAreRefused_data()
-{
-    QTest::addColumn<int>("result");
-
-    static const QByteArray overlong(256, 'x');
-    static const QByteArray longest(255, 'x');
-    TavrixDataList list;
-    const unsigned int noPort = 0;
-    unsigned int port = 0;
-    QTest::newRow("box without a name") << Tavrix::CreateEventBox(nullptr, 1, 1);
-    QTest::newRow("box with an empty name") << Tavrix::CreateEventBox("", 1, 1);
-    QTest::newRow("box with too long a name") << Tavrix::CreateEventBox(overlong.constData(), 1, 1);
-    QTest::newRow("box for no event") << Tavrix::CreateEventBox("bad", 0, 1);
-    QTest::newRow("box with a negative capacity") << Tavrix::CreateEventBox("bad", -1, 1);
-    QTest::newRow("box with no time to live") << Tavrix::CreateEventBox("bad", 1, 0);
-    QTest::newRow("persistence without a name") << Tavrix::SetPersistent(nullptr, true);
-    QTest::newRow("connection without a name") << Tavrix::ConnectPortForRecv(nullptr, port);
-    QTest::newRow("connection with too long a name")
-        << Tavrix::ConnectPortForRecv(overlong.constData(), port);
-    QTest::newRow("receive of no event") << Tavrix::ReceiveEventN(noPort, list, "K", 0, 0);
-    QTest::newRow("receive with a negative wait")
-        << Tavrix::ReceiveEventN(noPort, list, "K", -1, 1);
-    QTest::newRow("receive with too long a key")
-        << Tavrix::ReceiveEventN(noPort, list, overlong.constData(), 0, 1);
-    QTest::newRow("post without a prefix") << Tavrix::PostEvent(nullptr, "K", {});
-    QTest::newRow("post without a key") << Tavrix::PostEvent("A", nullptr, {});
-    QTest::newRow("post with an empty key") << Tavrix::PostEvent("A", "", {});
-    QTest::newRow("post with too long a key") << Tavrix::PostEvent("A", overlong.constData(), {});
-    QTest::newRow("post with too long a prefix")
-        << Tavrix::PostEvent(overlong.constData(), "K", {});
-
-    QCOMPARE(Tavrix::PostEvent(longest.constData(), longest.constData(), {}), 0);
-    QCOMPARE(Tavrix::ConnectPortForRecv("bad", port), 2001);
+    QCOMPARE(Tavrix::PostEvent("nobody", "K", {"x"}, address()), 0);
 }
 
 void tst_Tavrix::badArgumentsAreRefused()
 {
-    QFETCH(int, result);
-    QCOMPARE(result, 2003);
+    const QByteArray overlong(256, 'x');
+    const QByteArray longest(255, 'x');
+    const unsigned int noPort = 0;
+    const char *const at = address();
+    TavrixDataList list;
+    unsigned int port = 0;
+    const std::vector<std::pair<const char *, int>> results{
+        {"box without a name", Tavrix::CreateEventBox(nullptr, 1, 1, at)},
+        {"box with an empty name", Tavrix::CreateEventBox("", 1, 1, at)},
+        {"box with too long a name", Tavrix::CreateEventBox(overlong.constData(), 1, 1, at)},
+        {"box for no event", Tavrix::CreateEventBox("bad", 0, 1, at)},
+        {"box with a negative capacity", Tavrix::CreateEventBox("bad", -1, 1, at)},
+        {"box with no time to live", Tavrix::CreateEventBox("bad", 1, 0, at)},
+        {"persistence without a name", Tavrix::SetPersistent(nullptr, true, at)},
+        {"connection without a name", Tavrix::ConnectPortForRecv(nullptr, port, at)},
+        {"connection with too long a name",
+         Tavrix::ConnectPortForRecv(overlong.constData(), port, at)},
+        {"receive of no event", Tavrix::ReceiveEventN(noPort, list, "K", 0, 0, at)},
+        {"receive with a negative wait", Tavrix::ReceiveEventN(noPort, list, "K", -1, 1, at)},
+        {"receive with too long a key",
+         Tavrix::ReceiveEventN(noPort, list, overlong.constData(), 0, 1, at)},
+        {"post without a prefix", Tavrix::PostEvent(nullptr, "K", {}, at)},
+        {"post without a key", Tavrix::PostEvent("A", nullptr, {}, at)},
+        {"post with an empty key", Tavrix::PostEvent("A", "", {}, at)},
+        {"post with too long a key", Tavrix::PostEvent("A", overlong.constData(), {}, at)},
+        {"post with too long a prefix", Tavrix::PostEvent(overlong.constData(), "K", {}, at)},
+    };
+    for (const auto &[call, result] : results) {
+        QVERIFY2(result == 2003, call);
+    }
+    QCOMPARE(Tavrix::PostEvent(longest.constData(), longest.constData(), {}, at), 0);
+    QCOMPARE(Tavrix::ConnectPortForRecv("bad", port, at), 2001);
 }
 
 void tst_Tavrix::aFinishedThreadTakesItsPortsAndItsBoxWithIt()
 {
     const char *const name = QTest::currentTestFunction();
+    const char *const at = address();
     unsigned int port = 0;
     int connected = -1;
     std::thread([&] {
-        Tavrix::CreateEventBox(name, 100, 30000);
-        Tavrix::SetPersistent(name, false);
-        connected = Tavrix::ConnectPortForRecv(name, port);
+        Tavrix::CreateEventBox(name, 100, 30000, at);
+        Tavrix::SetPersistent(name, false, at);
+        connected = Tavrix::ConnectPortForRecv(name, port, at);
     }).join();
     QCOMPARE(connected, 0);
     TavrixDataList list;
     QCOMPARE(Tavrix::ReceiveEventN(port, list, nullptr, never, 1), 2001);
-    QCOMPARE(Tavrix::ConnectPortForRecv(name, port), 2001);
+    QCOMPARE(Tavrix::ConnectPortForRecv(name, port, at), 2001);
 }
 
 void tst_Tavrix::aFinishedThreadEndsTheWaitOfOthersOnItsPort()
 {
     const Box box;
+    const char *const at = address();
     for (int round = 0; round < 100; ++round) {
         std::vector<int> results(2, -1);
         std::vector<std::thread> receivers;
         std::thread opener([&] {
             unsigned int port = 0;
-            Tavrix::ConnectPortForRecv(box.name(), port);
+            Tavrix::ConnectPortForRecv(box.name(), port, at);
             for (int &result : results) {
                 receivers.emplace_back([port, &result] {
                     TavrixDataList list;
@@ -333,12 +351,13 @@ void tst_Tavrix::aFinishedThreadEndsTheWaitOfOthersOnItsPort()
 void tst_Tavrix::aThreadThatNeverConnectedLeavesNoBox()
 {
     const char *const name = QTest::currentTestFunction();
+    const char *const at = address();
     std::thread([&] {
-        Tavrix::CreateEventBox(name, 100, 30000);
-        Tavrix::SetPersistent(name, false);
+        Tavrix::CreateEventBox(name, 100, 30000, at);
+        Tavrix::SetPersistent(name, false, at);
     }).join();
     unsigned int port = 0;
-    QCOMPARE(Tavrix::ConnectPortForRecv(name, port), 2001);
+    QCOMPARE(Tavrix::ConnectPortForRecv(name, port, at), 2001);
 }
 
 QTEST_APPLESS_MAIN(tst_Tavrix)
