@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <string_view>
 
 namespace {
@@ -14,19 +15,6 @@ using acsi::Reference;
 constexpr std::array<std::string_view, 14> untold = {
     "instMag",    "instCVal",   "origin", "ctlNum",  "originSrc", "operTm", "operTmPhsA",
     "operTmPhsB", "operTmPhsC", "addr",   "addInfo", "sev",       "seqT",   "frTm"};
-
-bool isAtOrBelow(const Reference &reference, const Reference &ancestor)
-{
-    return reference.device == ancestor.device && reference.node == ancestor.node &&
-           reference.constraint == ancestor.constraint &&
-           reference.path.size() >= ancestor.path.size() &&
-           std::equal(ancestor.path.begin(), ancestor.path.end(), reference.path.begin(),
-                      [](const acsi::PathStep &above, const acsi::PathStep &below) {
-                          // A whole array has all of its elements.
-                          return above.name == below.name &&
-                                 (!above.element || above.element == below.element);
-                      });
-}
 
 } // namespace
 
@@ -63,15 +51,6 @@ bool areTold(const LeafTriggers &needed, const LeafTriggers &on)
            (on.qualityChange || !needed.qualityChange) && (on.dataUpdate || !needed.dataUpdate);
 }
 
-void ReportedData::forEachMember(
-    const std::function<void(const Reference &, const ReportCoverage &)> &visitor) const
-{
-    for (const Source &source : m_sources) {
-        for (const Reference &member : source.members)
-            visitor(member, source.coverage);
-    }
-}
-
 void ReportedData::set(const QString &source, const std::vector<Reference> &references,
                        const ReportCoverage &coverage)
 {
@@ -87,39 +66,45 @@ void ReportedData::set(const QString &source, const std::vector<Reference> &refe
         m_sources.insert(source, std::move(entry));
 }
 
-std::set<std::string> ReportedData::constraints() const
+std::vector<LeafRange>
+ReportedData::coveredLeaves(const std::function<LeafRange(const Reference &)> &leavesOf,
+                            const std::function<LeafTriggers(std::uint32_t)> &triggersOf,
+                            std::chrono::milliseconds pollInterval) const
 {
-    std::set<std::string> result;
+    struct Told
+    {
+        LeafTriggers on;
+        bool isAlways = false;
+    };
+    std::map<std::uint32_t, Told> told;
     for (const Source &source : m_sources) {
-        for (const Reference &member : source.members)
-            result.insert(
-                acsi::toText(Reference{member.device, member.node, member.constraint, {}}));
-    }
-    return result;
-}
-
-bool ReportedData::covers(const Reference &leaf, const std::optional<LeafTriggers> &declared,
-                          std::chrono::milliseconds pollInterval) const
-{
-    const LeafTriggers standard = standardTriggers(leaf);
-    const bool isTime = !leaf.path.empty() && leaf.path.back().name == "t";
-    // Files give times no trigger, since they are told with what they belong to.
-    const LeafTriggers needed = declared && !isTime ? *declared : standard;
-    LeafTriggers on;
-    for (const Source &source : m_sources) {
+        const ReportCoverage &coverage = source.coverage;
+        const bool isAlways = coverage.integrityPeriod > std::chrono::milliseconds::zero() &&
+                              coverage.integrityPeriod <= pollInterval;
         for (const Reference &member : source.members) {
-            if (!isAtOrBelow(leaf, member))
-                continue;
-            const std::chrono::milliseconds period = source.coverage.integrityPeriod;
-            if (period.count() > 0 && period <= pollInterval)
-                return true;
+            const LeafRange leaves = leavesOf(member);
             // A time that is a member by itself has nothing that it could be told with.
-            if (isTime && member.path.size() == leaf.path.size())
-                continue;
-            on.dataChange = on.dataChange || source.coverage.dataChange;
-            on.qualityChange = on.qualityChange || source.coverage.qualityChange;
-            on.dataUpdate = on.dataUpdate || source.coverage.dataUpdate;
+            const bool isLoneTime =
+                leaves.count == 1 && !member.path.empty() && member.path.back().name == "t";
+            for (std::uint32_t leaf = leaves.first; leaf < leaves.end(); ++leaf) {
+                Told &each = told[leaf];
+                each.isAlways = each.isAlways || isAlways;
+                if (isLoneTime)
+                    continue;
+                each.on.dataChange = each.on.dataChange || coverage.dataChange;
+                each.on.qualityChange = each.on.qualityChange || coverage.qualityChange;
+                each.on.dataUpdate = each.on.dataUpdate || coverage.dataUpdate;
+            }
         }
     }
-    return areTold(needed, on);
+    std::vector<LeafRange> covered;
+    for (const auto &[leaf, each] : told) {
+        if (!each.isAlways && !areTold(triggersOf(leaf), each.on))
+            continue;
+        if (!covered.empty() && covered.back().end() == leaf)
+            ++covered.back().count;
+        else
+            covered.push_back({leaf, 1});
+    }
+    return covered;
 }

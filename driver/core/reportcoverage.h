@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "driver/model/leafrange.h"
+
 #include "acsi/reference.h"
 
 #include <QtCore/QHash>
 #include <QtCore/QString>
 
 #include <chrono>
+#include <cstdint>
 #include <functional>
-#include <optional>
-#include <set>
-#include <string>
 #include <vector>
 
 /// The kinds of change that the reports of a source (a report control block) tell: what its enabled
@@ -61,19 +61,14 @@ public:
     void clear() { m_sources.clear(); }
     bool isEmpty() const { return m_sources.isEmpty(); }
 
-    /// Every reported member with what its source tells of it.
-    void forEachMember(
-        const std::function<void(const acsi::Reference &, const ReportCoverage &)> &visitor) const;
-
-    /// "LD/LN$FC" of everything that some source reports something of.
-    std::set<std::string> constraints() const;
-
-    /// Whether the leaf may leave the fast polling.
-    /// @param leaf a single value, not a structure
-    /// @param declared the triggers that the device's file gives the leaf; the standard's otherwise
+    /// The leaves that may leave the fast polling, in their order.
+    /// @param leavesOf the leaves of a member
+    /// @param triggersOf what may change a leaf
     /// @param pollInterval of the fast polling
-    bool covers(const acsi::Reference &leaf, const std::optional<LeafTriggers> &declared,
-                std::chrono::milliseconds pollInterval) const;
+    std::vector<LeafRange>
+    coveredLeaves(const std::function<LeafRange(const acsi::Reference &)> &leavesOf,
+                  const std::function<LeafTriggers(std::uint32_t leaf)> &triggersOf,
+                  std::chrono::milliseconds pollInterval) const;
 
 private:
     struct Source

@@ -3,6 +3,7 @@
 
 #include "driver/core/controlorder.h"
 #include "driver/text/sentences.h"
+#include "valuepublishing.h"
 
 #include <asio/co_spawn.hpp>
 
@@ -75,8 +76,8 @@ void showStatus(DevicePointer device, const acsi::Reference &object)
     const auto read = [](DevicePointer owner, acsi::Reference what) -> asio::awaitable<void> {
         std::vector<acsi::Reference> references;
         references.push_back(std::move(what));
-        static_cast<void>(
-            co_await owner->readAndPublish(std::move(references), DeviceConnection::Publication()));
+        static_cast<void>(co_await owner->values().readAndPublish(std::move(references),
+                                                                  ValuePublishing::Publication()));
     };
     const auto strand = device->strand();
     asio::co_spawn(strand, read(std::move(device), *status), [](const std::exception_ptr &) {});

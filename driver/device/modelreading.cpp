@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
-// DeviceConnection's way from an association to a model: who is there, whether it is still the
-// device whose model is known, and what it describes.
+#include "modelreading.h"
+
 #include "deviceconnection.h"
+#include "valuepolling.h"
+#include "valuepublishing.h"
 
 #include "driver/model/discoveredmodel.h"
 #include "driver/model/filechoice.h"
@@ -47,13 +49,45 @@ constexpr milliseconds identifyLimit{2000};
 
 } // namespace
 
-asio::awaitable<void> DeviceConnection::identify(ClientPointer client)
+ModelReading::ModelReading(DeviceConnection &connection)
+    : m_connection(connection)
 {
-    const Deadline before = steady_clock::now();
+}
+
+void ModelReading::cancel()
+{
+    if (m_cancelled)
+        *m_cancelled = true;
+}
+
+const ReportControlBlock *ModelReading::configuredBlock(const QString &logicalDevice,
+                                                        const QString &reference) const
+{
+    return DiscoveredModel::blockOf(m_fromFile.get(), logicalDevice, reference);
+}
+
+/// Beside everything else: some devices say that they can tell and never do.
+void ModelReading::beginIdentifying(const ClientPointer &client)
+{
+    if (!m_answersIdentify || m_isIdentifying)
+        return;
+    m_isIdentifying = true;
+    asio::co_spawn(m_connection.strand(), identify(client),
+                   [this, self = m_connection.shared_from_this(),
+                    client](const std::exception_ptr &exception) {
+                       m_isIdentifying = false;
+                       self->wake();
+                       self->fail(client, exception);
+                   });
+}
+
+asio::awaitable<void> ModelReading::identify(ClientPointer client)
+{
+    const auto before = steady_clock::now();
     const mms::CallOutcome outcome = co_await client->association().call(
-        mms::IdentifyRequest(), std::min(identifyLimit, m_configuration.callTimeout),
+        mms::IdentifyRequest(), std::min(identifyLimit, m_connection.configuration().callTimeout),
         mms::GivenUpCall::LeavesItsPlace);
-    if (client != m_client)
+    if (client != m_connection.client())
         co_return;
     const auto *failure = std::get_if<mms::CallFailure>(&outcome);
     if (failure && failure->kind == mms::CallFailure::Kind::TimedOut && failure->wasSent)
@@ -61,7 +95,7 @@ asio::awaitable<void> DeviceConnection::identify(ClientPointer client)
     const auto *answer = mms::answerOf<mms::IdentifyResponse>(outcome);
     const auto time =
         std::chrono::duration_cast<std::chrono::microseconds>(steady_clock::now() - before);
-    updateStatus([&](DeviceStatus &status) {
+    m_connection.board().update([&](DeviceStatus &status) {
         if (!failure)
             status.roundTrip = time;
         if (!answer)
@@ -72,99 +106,106 @@ asio::awaitable<void> DeviceConnection::identify(ClientPointer client)
     });
 }
 
-asio::awaitable<void> DeviceConnection::identified(ClientPointer client)
+asio::awaitable<void> ModelReading::identified(ClientPointer client)
 {
     while (m_isIdentifying && client->isOpen())
-        co_await pause(identifyLimit);
+        co_await m_connection.pause(identifyLimit);
 }
 
-QString DeviceConnection::loadFile(const QStringList &logicalDevices)
+QString ModelReading::loadFile(const QStringList &logicalDevices)
 {
-    if (m_configuration.sclFile.isEmpty() || (m_fileRead && m_fileFor == logicalDevices))
+    const DeviceConfiguration &configuration = m_connection.configuration();
+    if (configuration.sclFile.isEmpty() || (m_fileRead && m_fileFor == logicalDevices))
         return {};
     m_fileRead = true;
     m_fileFor = logicalDevices;
     m_fromFile.reset();
-    const scl::ReadResult read = SclImport::readFile(m_configuration.sclFile);
+    const scl::ReadResult read = SclImport::readFile(configuration.sclFile);
     if (!read.document)
         return SclImport::errorText(read);
     QString error;
-    const scl::Ied *ied = SclImport::chooseIed(*read.document, m_configuration.ied, error);
+    const scl::Ied *ied = SclImport::chooseIed(*read.document, configuration.ied, error);
     if (!ied)
         return error;
     const FileChoice choice =
         chooseServer(*read.document, *ied,
-                     {m_configuration.accessPoint, m_configuration.host, logicalDevices}, error);
+                     {configuration.accessPoint, configuration.host, logicalDevices}, error);
     if (!error.isEmpty())
         return error;
     m_fromFile = SclImport::makeDevice(*ied, choice);
     return {};
 }
 
-asio::awaitable<QString> DeviceConnection::getReady(ClientPointer client)
+asio::awaitable<ModelReading::Refusal> ModelReading::read(ClientPointer client)
 {
-    if (m_answersIdentify && !m_isIdentifying) {
-        m_isIdentifying = true;
-        asio::co_spawn(m_strand, identify(client),
-                       [self = shared_from_this(), client](const std::exception_ptr &exception) {
-                           self->m_isIdentifying = false;
-                           self->wake();
-                           self->fail(client, exception);
-                       });
-    }
+    beginIdentifying(client);
     co_await identified(client);
-    m_readingCancelled = std::make_shared<std::atomic<bool>>(false);
-    mms::Result<acsi::ServerDescription> description = co_await fetchDescription(client);
-    const bool wasCancelled = *m_readingCancelled;
-    m_readingCancelled.reset();
-    // Who cancelled has withdrawn the wish already; one that stands now is newer.
-    if (wasCancelled)
-        co_return Texts::tr("Reading the model was cancelled.");
-    if (!description)
-        co_return text(description.error().message);
+    Refusal refusal;
+    m_cancelled = std::make_shared<std::atomic<bool>>(false);
+    mms::Result<acsi::ServerDescription> description = co_await fetchDescription(client, refusal);
+    const bool wasCancelled = *std::exchange(m_cancelled, nullptr);
+    if (wasCancelled) {
+        // Who cancelled has withdrawn the wish already; one that stands now is newer.
+        refusal.sentence = Texts::tr("Reading the model was cancelled.");
+        co_return refusal;
+    }
+    if (!description) {
+        refusal.sentence = text(description.error().message);
+        co_return refusal;
+    }
     QStringList names;
     for (const acsi::DeviceDescription &device : description->devices)
         names.append(text(device.name));
-    const bool isFileOther = m_fileFor != names;
-    const QString problem = loadFile(names);
+    takeDescription(std::move(*description), names);
+    co_await readRevisions(client);
+    takeIdentity(client, names);
+    m_connection.values().forgetUnwritten();
+    m_connection.polling().begin(client);
+    co_await readBlocks(client);
+    // The browser offers controls by their control model, so it comes with the model.
+    co_await m_connection.polling().readConfiguration(client);
+    co_return refusal;
+}
+
+void ModelReading::takeDescription(acsi::ServerDescription description,
+                                   const QStringList &logicalDevices)
+{
+    const bool isFileOther = m_fileFor != logicalDevices;
+    const QString problem = loadFile(logicalDevices);
     if (isFileOther)
-        setProblem(QStringLiteral("SCL"),
-                   problem.isEmpty() ? QString()
-                                     : Texts::tr("The SCL file is not used: %1").arg(problem));
+        m_connection.setProblem(
+            QStringLiteral("SCL"),
+            problem.isEmpty() ? QString() : Texts::tr("The SCL file is not used: %1").arg(problem));
     // Values are kept with the model as long as the device is in every way the same.
-    if (!m_model || isFileOther || m_model->description() != *description) {
+    if (!m_model || isFileOther || m_model->description() != description) {
         m_model = std::make_unique<OnlineModel>(
-            std::move(*description), m_fromFile ? m_fromFile->name : m_configuration.name,
-            m_fromFile.get());
-        m_triggers.clear();
-        m_knowsTriggers.clear();
+            std::move(description),
+            m_fromFile ? m_fromFile->name : m_connection.configuration().name, m_fromFile.get());
     }
     const std::vector<mms::Text> &leftOut = m_model->description().leftOut;
     QStringList sentences;
     for (std::size_t i = 0; i < leftOut.size() && i < namedOmissions; ++i)
         sentences.append(text(leftOut[i]));
-    setProblem(QStringLiteral("limits"), sentences.join(QLatin1Char(' ')));
-    co_await readRevisions(client);
-    updateStatus([this](DeviceStatus &status) {
+    m_connection.setProblem(QStringLiteral("limits"), sentences.join(QLatin1Char(' ')));
+}
+
+void ModelReading::takeIdentity(const ClientPointer &client, const QStringList &logicalDevices)
+{
+    m_connection.board().update([this](DeviceStatus &status) {
         status.refusedObjects = static_cast<int>(m_model->description().refused.size());
     });
-    const DeviceStatus who = status();
-    m_identity.address =
-        QStringLiteral("%1:%2").arg(m_configuration.host).arg(m_configuration.port);
+    const DeviceConfiguration &configuration = m_connection.configuration();
+    const DeviceStatus who = m_connection.status();
+    m_identity.address = QStringLiteral("%1:%2").arg(configuration.host).arg(configuration.port);
     m_identity.vendor = who.vendor;
     m_identity.model = who.model;
-    m_identity.logicalDevices = names;
+    m_identity.logicalDevices = logicalDevices;
     m_identity.revisions = m_revisions;
     const std::optional<osi::TlsPeer> peer = client->association().tlsPeer();
     m_identity.certificate = peer ? text(peer->fingerprint) : QString();
-    makeCurrency(client);
-    co_await readBlocks(client);
-    // The browser offers controls by their control model, so it comes with the model.
-    co_await readConfiguration(client);
-    co_return client->isOpen() ? QString() : m_endReason;
 }
 
-asio::awaitable<void> DeviceConnection::readRevisions(ClientPointer client)
+asio::awaitable<void> ModelReading::readRevisions(ClientPointer client)
 {
     std::vector<mms::VariableAccess> revisions;
     for (const acsi::DeviceDescription &device : m_model->description().devices) {
@@ -191,9 +232,9 @@ asio::awaitable<void> DeviceConnection::readRevisions(ClientPointer client)
     }
 }
 
-asio::awaitable<void> DeviceConnection::refreshDataSets()
+asio::awaitable<void> ModelReading::refreshDataSets()
 {
-    const ClientPointer client = m_client;
+    const ClientPointer client = m_connection.client();
     if (!client || !m_model)
         co_return;
     std::vector<std::string> devices;
@@ -204,7 +245,7 @@ asio::awaitable<void> DeviceConnection::refreshDataSets()
     options.cancelled = std::make_shared<std::atomic<bool>>(false);
     const mms::Result<acsi::ServerDescription> read =
         co_await acsi::discoverDataSets(client, std::move(devices), std::move(options));
-    if (!read || !read->leftOut.empty() || !m_model || client != m_client)
+    if (!read || !read->leftOut.empty() || !m_model || client != m_connection.client())
         co_return;
     const std::vector<mms::Text> &known = m_model->description().refused;
     const bool isRefusalNew =
@@ -215,9 +256,9 @@ asio::awaitable<void> DeviceConnection::refreshDataSets()
         m_model->setDataSets(*read, m_fromFile.get());
 }
 
-asio::awaitable<void> DeviceConnection::refreshReportBlocks()
+asio::awaitable<void> ModelReading::refreshReportBlocks()
 {
-    const ClientPointer client = m_client;
+    const ClientPointer client = m_connection.client();
     if (!client || !m_model)
         co_return;
     struct Place
@@ -244,7 +285,7 @@ asio::awaitable<void> DeviceConnection::refreshReportBlocks()
         co_return;
     const mms::Result<std::vector<mms::AccessResult>> values =
         co_await client->read(std::move(attributes));
-    if (!values || !m_model || client != m_client)
+    if (!values || !m_model || client != m_connection.client())
         co_return;
     for (std::size_t i = 0; i < places.size() && i < values->size(); ++i) {
         const mms::AccessResult &value = (*values)[i];
@@ -257,24 +298,23 @@ asio::awaitable<void> DeviceConnection::refreshReportBlocks()
 }
 
 asio::awaitable<mms::Result<acsi::ServerDescription>>
-DeviceConnection::fetchDescription(ClientPointer client)
+ModelReading::fetchDescription(ClientPointer client, Refusal &refusal)
 {
     acsi::DiscoveryOptions options;
-    options.cancelled = m_readingCancelled;
-    options.identity = identityOf(status());
-    options.devicesKnown = [this](const std::vector<std::string> &devices) {
+    options.cancelled = m_cancelled;
+    options.identity = identityOf(m_connection.status());
+    options.devicesKnown = [this, &refusal](const std::vector<std::string> &devices) {
         QStringList names;
         for (const std::string &device : devices)
             names.append(text(device));
-        const QString conflict = m_environment.claim(names);
+        const QString conflict = m_connection.environment().claim(names);
         if (!conflict.isEmpty())
-            m_ending = AssociationLife::Ending::Conflict;
+            refusal.kind = AssociationLife::Failure::Conflict;
         return mms::verbatim(conflict.toStdString());
     };
-    const std::weak_ptr<DeviceConnection> weak = weak_from_this();
-    options.progress = [weak](std::size_t done, std::size_t total) {
-        if (const auto self = weak.lock()) {
-            self->updateStatus([&](DeviceStatus &status) {
+    options.progress = [weak = m_connection.weak_from_this()](std::size_t done, std::size_t total) {
+        if (const auto connection = weak.lock()) {
+            connection->board().update([&](DeviceStatus &status) {
                 status.modelStepsDone = static_cast<int>(done);
                 status.modelSteps = static_cast<int>(total);
             });
@@ -283,7 +323,7 @@ DeviceConnection::fetchDescription(ClientPointer client)
     co_return co_await acsi::discover(client, options);
 }
 
-asio::awaitable<void> DeviceConnection::readBlocks(ClientPointer client)
+asio::awaitable<void> ModelReading::readBlocks(ClientPointer client)
 {
     struct Block
     {

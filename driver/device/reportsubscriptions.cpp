@@ -5,6 +5,7 @@
 
 #include "driver/model/discoveredmodel.h"
 #include "driver/text/sentences.h"
+#include "modelreading.h"
 
 #include "acsi/blockvalue.h"
 #include "acsi/dataset.h"
@@ -404,9 +405,9 @@ void ReportSubscriptions::started(const SubscriptionPointer &subscription,
     settings.trgOps = enabled.trgOps;
     settings.intgPd = enabled.intgPd;
     if (ReportControlBlock *shown = shownInModel(block)) {
-        DiscoveredModel::setSettings(
-            *shown, text(block.device), enabled,
-            m_connection.configuredBlock(text(block.device), text(acsi::itemText(block))));
+        DiscoveredModel::setSettings(*shown, text(block.device), enabled,
+                                     m_connection.modelReading().configuredBlock(
+                                         text(block.device), text(acsi::itemText(block))));
     }
     if (enabled.resumed == false) {
         m_entries.forget(text(subscription->reference));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "deviceconnection.h"
+#include "driver/core/reportcoverage.h"
 #include "driver/core/reportstream.h"
 #include "driver/core/subscriptionlife.h"
 #include "lastentries.h"

@@ -5,6 +5,8 @@
 #include "driver/model/valueconversion.h"
 #include "driver/text/connectiontext.h"
 #include "driver/text/sentences.h"
+#include "valuepolling.h"
+#include "valuepublishing.h"
 
 #include "acsi/dataset.h"
 
@@ -275,7 +277,7 @@ bool ReportSubscriptions::take(const mms::InformationReport &information)
         if (subscription->faults.erase(ReportFault::Overflow) != 0)
             tell(*subscription);
     }
-    m_connection.countReport();
+    m_connection.count(&DeviceCounters::reports);
     return true;
 }
 
@@ -325,7 +327,7 @@ void ReportSubscriptions::publish(Subscription &subscription, const ReportStream
             continue;
         }
         const std::string name = acsi::toText(reference);
-        DeviceConnection::Publication publication;
+        ValuePublishing::Publication publication;
         publication.cause = causeOf(member);
         publication.quality = companions.quality(name);
         publication.time = companions.time(name);
@@ -335,7 +337,7 @@ void ReportSubscriptions::publish(Subscription &subscription, const ReportStream
             unknown = Texts::tr("The device described %1 in parts only, so what the reports of %2 "
                                 "say of it cannot be understood; it is polled.")
                           .arg(text(name), block);
-        } else if (!m_connection.publish(reference, member.value.data(), publication)) {
+        } else if (!m_connection.values().publish(reference, member.value.data(), publication)) {
             unknown = Texts::tr("A value of %1 in the reports of %2 does not have the form of its "
                                 "type.")
                           .arg(text(name), block);
@@ -433,7 +435,8 @@ void ReportSubscriptions::trust(Subscription &subscription, bool trusted)
     std::vector<acsi::Reference> members;
     if (trusted && block)
         members = block->members;
-    m_connection.setReported(text(subscription.reference), members, subscription.coverage);
+    m_connection.polling().setReported(text(subscription.reference), members,
+                                       subscription.coverage);
 }
 
 void ReportSubscriptions::mend(const SubscriptionPointer &subscription)
@@ -527,7 +530,7 @@ ReportSubscriptions::readMembers(SubscriptionPointer subscription, ClientPointer
         co_return mended;
     }
     const std::uint64_t asked = subscription->reports;
-    DeviceConnection::Publication publication;
+    ValuePublishing::Publication publication;
     publication.cause = PublishCause::Polled;
     publication.onlyChanges = true;
     publication.asOf = steady_clock::now();
@@ -570,7 +573,8 @@ ReportSubscriptions::readMembers(SubscriptionPointer subscription, ClientPointer
                          ConnectionText::withoutPeriod(text(mms::describe(value.error()))));
         } else if (isDescribedInParts(m_connection.model(), members[i])) {
             inParts.push_back(members[i]);
-        } else if (!isNewer && !m_connection.publish(members[i], value.data(), publication)) {
+        } else if (!isNewer &&
+                   !m_connection.values().publish(members[i], value.data(), publication)) {
             mended.disturbance =
                 Texts::tr("A value of %1 in the data set of %2 does not have the form of its type.")
                     .arg(text(members[i]), block);
@@ -578,7 +582,7 @@ ReportSubscriptions::readMembers(SubscriptionPointer subscription, ClientPointer
     }
     if (!inParts.empty()) {
         const Outcome outcome =
-            co_await m_connection.readAndPublish(std::move(inParts), publication);
+            co_await m_connection.values().readAndPublish(std::move(inParts), publication);
         if (!outcome)
             mended.disturbance = outcome.error;
     }

@@ -79,12 +79,12 @@ QString ReportSubscriptions::holderSentence(const acsi::Reference &block,
 
 asio::awaitable<void> ReportSubscriptions::watch(ClientPointer client)
 {
-    while (client->isOpen() && m_connection.isWanted()) {
+    while (client->isOpen() && m_connection.isKept()) {
         const auto next = steady_clock::now() + watchInterval;
         for (auto now = steady_clock::now();
-             now < next && client->isOpen() && m_connection.isWanted(); now = steady_clock::now())
+             now < next && client->isOpen() && m_connection.isKept(); now = steady_clock::now())
             co_await m_connection.pause(std::chrono::ceil<milliseconds>(next - now));
-        if (!client->isOpen() || !m_connection.isWanted())
+        if (!client->isOpen() || !m_connection.isKept())
             break;
         const auto now = steady_clock::now();
         const bool stoodStill = now - next > standstill;
@@ -99,7 +99,7 @@ asio::awaitable<void> ReportSubscriptions::watch(ClientPointer client)
         for (const auto &each : m_subscriptions)
             all.push_back(each.second);
         for (const SubscriptionPointer &each : all) {
-            if (!client->isOpen() || !m_connection.isWanted())
+            if (!client->isOpen() || !m_connection.isKept())
                 break;
             if (each->life.isDue(steady_clock::now()))
                 co_await resume(each, Texts::tr("enabled again"));

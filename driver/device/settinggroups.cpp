@@ -3,6 +3,7 @@
 
 #include "driver/text/connectiontext.h"
 #include "journalentry.h"
+#include "valuepublishing.h"
 
 #include <asio/co_spawn.hpp>
 
@@ -101,8 +102,8 @@ asio::awaitable<void> SettingGroups::publishActive(QString ldName)
         co_return;
     const std::vector<acsi::Reference> nodes =
         SettingModel::nodes(*m_connection.model(), ldName, FunctionalConstraint::SG);
-    const DeviceConnection::Publication publication;
-    static_cast<void>(co_await m_connection.readAndPublish(nodes, publication));
+    const ValuePublishing::Publication publication;
+    static_cast<void>(co_await m_connection.values().readAndPublish(nodes, publication));
 }
 
 asio::awaitable<void> SettingGroups::watch(std::shared_ptr<acsi::Client> client)

@@ -6,6 +6,7 @@
 #include "driver/text/sentences.h"
 #include "journalentry.h"
 #include "settinggroups.h"
+#include "valuepublishing.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QHash>
@@ -114,7 +115,7 @@ SettingValues::read(std::shared_ptr<DeviceConnection> device, QString ldName,
     std::vector<mms::VariableAccess> variables;
     for (const acsi::Reference &node : nodes)
         variables.push_back(acsi::accessOf(node));
-    DeviceConnection::Publication publication;
+    ValuePublishing::Publication publication;
     publication.asOf = std::chrono::steady_clock::now();
     const mms::Result<std::vector<mms::AccessResult>> values =
         co_await client->read(std::move(variables));
@@ -130,7 +131,7 @@ SettingValues::read(std::shared_ptr<DeviceConnection> device, QString ldName,
             settings.push_back({leaf.reference, *leaf.data, QString()});
         };
         if (value.ok() && device->model()->forEachLeaf(nodes[i], value.data(), take)) {
-            device->publish(nodes[i], value.data(), publication);
+            device->values().publish(nodes[i], value.data(), publication);
             continue;
         }
         // What is refused as a whole is asked for one by one.

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
-// DeviceConnection's way from what a device answers to published values: taking data apart to the
-// leaves of the model, what is new of them, reading for an operator.
+#include "valuepublishing.h"
+
 #include "deviceconnection.h"
+#include "livevalues.h"
+#include "valuepolling.h"
 
 #include "driver/model/valueconversion.h"
 #include "driver/text/connectiontext.h"
@@ -117,26 +119,43 @@ const DataAttribute *companionOf(const PhysicalDevice &device, const QString &le
 
 } // namespace
 
-void DeviceConnection::send(std::vector<MMSValue> records)
+ValuePublishing::ValuePublishing(DeviceConnection &connection)
+    : m_connection(connection)
+{
+}
+
+OnlineModel *ValuePublishing::model() const
+{
+    return m_connection.model();
+}
+
+ValueCurrency *ValuePublishing::currency() const
+{
+    return m_connection.polling().currency();
+}
+
+void ValuePublishing::send(std::vector<MMSValue> records)
 {
     if (m_recentUsers > 0) {
         for (const MMSValue &record : records)
             m_recent.insert(record.reference, record);
     }
-    m_published += records.size();
-    m_environment.values->publish(std::move(records));
+    m_connection.count(&DeviceCounters::publishedValues, records.size());
+    m_connection.environment().values->publish(std::move(records));
 }
 
-bool DeviceConnection::publish(const acsi::Reference &reference, const mms::Data &data,
-                               const Publication &publication)
+bool ValuePublishing::publish(const acsi::Reference &reference, const mms::Data &data,
+                              const Publication &publication)
 {
-    if (!m_model)
+    OnlineModel *const known = model();
+    if (!known)
         return false;
+    ValueCurrency *const account = currency();
     const ValueCurrency::Source source = sourceOf(publication.cause);
-    const Deadline asOf = publication.asOf == Deadline() ? steady_clock::now() : publication.asOf;
+    const Time asOf = publication.asOf == Time() ? steady_clock::now() : publication.asOf;
     std::vector<MMSValue> records;
     const auto visit = [&](const OnlineModel::Leaf &leaf) {
-        const bool isNew = !m_currency || m_currency->take(leaf.number, source, asOf);
+        const bool isNew = !account || account->take(leaf.number, source, asOf);
         if (!leaf.attribute)
             return;
         if (!isNew) {
@@ -146,7 +165,7 @@ bool DeviceConnection::publish(const acsi::Reference &reference, const mms::Data
         }
         QVariant value = ValueConversion::toVariant(leaf.attribute->basicType, *leaf.data);
         const mms::Data *quality = leaf.quality ? leaf.quality : publication.quality;
-        const bool hasOtherQuality = quality && m_model->setQuality(leaf.number, *quality);
+        const bool hasOtherQuality = quality && known->setQuality(leaf.number, *quality);
         if (publication.onlyChanges && !hasOtherQuality && isSame(value, leaf.attribute->value) &&
             m_unwritten.count(leaf.number) == 0)
             return;
@@ -158,25 +177,25 @@ bool DeviceConnection::publish(const acsi::Reference &reference, const mms::Data
             record.quality = ValueConversion::qualityText(*quality).left(qualityLength);
         if (const mms::Data *time = leaf.time ? leaf.time : publication.time)
             record.timeStamp = ValueConversion::timeText(*time);
-        record.deviceNo = m_configuration.number;
+        record.deviceNo = m_connection.configuration().number;
         record.cause = publication.cause;
         records.push_back(std::move(record));
     };
-    const bool fits = m_model->forEachLeaf(reference, data, visit);
+    const bool fits = known->forEachLeaf(reference, data, visit);
     send(std::move(records));
     if (fits && isQuality(reference, data))
         publishQualityOf(reference, data, publication);
     return fits;
 }
 
-MMSValue DeviceConnection::knownRecord(const DataAttribute &attribute, std::uint32_t cause) const
+MMSValue ValuePublishing::knownRecord(const DataAttribute &attribute, std::uint32_t cause) const
 {
     MMSValue record;
     record.value = attribute.value;
     record.reference = attribute.reference;
-    record.deviceNo = m_configuration.number;
+    record.deviceNo = m_connection.configuration().number;
     record.cause = cause;
-    const PhysicalDevice &device = m_model->device();
+    const PhysicalDevice &device = model()->device();
     if (const auto *quality = companionOf(device, attribute.reference, QStringLiteral("q")))
         record.quality = quality->value.toString().left(qualityLength);
     if (const auto *time = companionOf(device, attribute.reference, QStringLiteral("t")))
@@ -185,98 +204,98 @@ MMSValue DeviceConnection::knownRecord(const DataAttribute &attribute, std::uint
 }
 
 /// A quality that came alone belongs to values that are known already.
-void DeviceConnection::publishQualityOf(const acsi::Reference &quality, const mms::Data &data,
-                                        const Publication &publication)
+void ValuePublishing::publishQualityOf(const acsi::Reference &quality, const mms::Data &data,
+                                       const Publication &publication)
 {
     acsi::Reference parent = quality;
     parent.path.pop_back();
     const QString own = text(acsi::toText(quality));
     std::vector<MMSValue> records;
-    for (const OnlineModel::Leaf &leaf : m_model->leavesOf(parent)) {
+    for (const OnlineModel::Leaf &leaf : model()->leavesOf(parent)) {
         if (!leaf.attribute || !leaf.attribute->value.isValid() || leaf.reference == own)
             continue;
         const DataAttribute *companion =
-            companionOf(m_model->device(), leaf.reference, QStringLiteral("q"));
-        if (companion && companion->reference == own && m_model->setQuality(leaf.number, data))
+            companionOf(model()->device(), leaf.reference, QStringLiteral("q"));
+        if (companion && companion->reference == own && model()->setQuality(leaf.number, data))
             records.push_back(knownRecord(*leaf.attribute, publication.cause));
     }
     send(std::move(records));
 }
 
-void DeviceConnection::publishKnown(const LeafRange &leaves, std::uint32_t cause)
+void ValuePublishing::publishKnown(const LeafRange &leaves, std::uint32_t cause)
 {
     std::vector<MMSValue> records;
-    for (std::uint32_t leaf = leaves.first; m_model && leaf < leaves.end(); ++leaf) {
-        const DataAttribute *attribute = m_model->attribute(leaf);
+    for (std::uint32_t leaf = leaves.first; model() && leaf < leaves.end(); ++leaf) {
+        const DataAttribute *attribute = model()->attribute(leaf);
         if (attribute && attribute->value.isValid())
             records.push_back(knownRecord(*attribute, cause));
     }
     send(std::move(records));
 }
 
-void DeviceConnection::haveWritten(const acsi::Reference &reference)
+void ValuePublishing::haveWritten(const acsi::Reference &reference)
 {
-    if (!m_model || !m_currency)
+    if (!model() || !currency())
         return;
-    const LeafRange leaves = m_model->leafRange(reference);
+    const LeafRange leaves = model()->leafRange(reference);
     for (std::uint32_t leaf = leaves.first; leaf < leaves.end(); ++leaf) {
-        m_currency->take(leaf, ValueCurrency::Source::Write, steady_clock::now());
+        currency()->take(leaf, ValueCurrency::Source::Write, steady_clock::now());
         m_unwritten.erase(leaf);
     }
 }
 
-void DeviceConnection::showUnwritten(const acsi::Reference &reference)
+void ValuePublishing::showUnwritten(const acsi::Reference &reference)
 {
-    if (!m_model)
+    if (!model())
         return;
-    const LeafRange leaves = m_model->leafRange(reference);
+    const LeafRange leaves = model()->leafRange(reference);
     bool isShown = leaves.count > 0;
     for (std::uint32_t leaf = leaves.first; leaf < leaves.end(); ++leaf)
         isShown = !m_unwritten.insert(leaf).second && isShown;
     publishKnown(leaves, PublishCause::Read);
     // One that is running already goes on.
     if (!isShown)
-        asio::co_spawn(m_strand, keepShowing(reference),
-                       [self = shared_from_this()](const std::exception_ptr &) {});
+        asio::co_spawn(m_connection.strand(), keepShowing(reference),
+                       [self = m_connection.shared_from_this()](const std::exception_ptr &) {});
 }
 
-asio::awaitable<void> DeviceConnection::keepShowing(acsi::Reference reference)
+asio::awaitable<void> ValuePublishing::keepShowing(acsi::Reference reference)
 {
-    const ClientPointer client = m_client;
-    if (!client || !m_model)
+    const std::shared_ptr<acsi::Client> client = m_connection.client();
+    if (!client || !model())
         co_return;
-    const Deadline end = steady_clock::now() + showingTime;
-    const std::uint32_t leaf = m_model->leafRange(reference).first;
+    const Time end = steady_clock::now() + showingTime;
+    const std::uint32_t leaf = model()->leafRange(reference).first;
     const Publication publication;
     std::vector<acsi::Reference> references;
     references.push_back(reference);
     static_cast<void>(co_await readAndPublish(std::move(references), publication));
     const auto isWanted = [&] {
-        return m_client == client && client->isOpen() && m_model && m_unwritten.count(leaf) != 0;
+        return m_connection.client() == client && client->isOpen() && model() &&
+               m_unwritten.count(leaf) != 0;
     };
-    for (Deadline next = steady_clock::now(); isWanted() && next < end;) {
+    for (Time next = steady_clock::now(); isWanted() && next < end;) {
         next += showingInterval;
-        for (Deadline now = steady_clock::now(); isWanted() && now < next;
-             now = steady_clock::now())
-            co_await pause(std::chrono::ceil<milliseconds>(next - now));
+        for (Time now = steady_clock::now(); isWanted() && now < next; now = steady_clock::now())
+            co_await m_connection.pause(std::chrono::ceil<milliseconds>(next - now));
         if (isWanted())
-            publishKnown(m_model->leafRange(reference), PublishCause::Polled);
+            publishKnown(model()->leafRange(reference), PublishCause::Polled);
     }
-    if (m_client != client || !m_model)
+    if (m_connection.client() != client || !model())
         co_return;
-    const LeafRange shown = m_model->leafRange(reference);
+    const LeafRange shown = model()->leafRange(reference);
     for (std::uint32_t each = shown.first; each < shown.end(); ++each)
         m_unwritten.erase(each);
 }
 
 std::vector<acsi::Reference>
-DeviceConnection::inReadableParts(const std::vector<acsi::Reference> &references) const
+ValuePublishing::inReadableParts(const std::vector<acsi::Reference> &references) const
 {
     std::vector<acsi::Reference> result;
     for (const acsi::Reference &reference : references) {
         std::vector<acsi::Reference> parts;
-        if (m_model)
-            parts = m_model->readableParts(reference);
+        if (model())
+            parts = model()->readableParts(reference);
         // The device itself shall say what it thinks of a name that it did not describe.
         if (parts.empty())
             parts.push_back(reference);
@@ -285,12 +304,12 @@ DeviceConnection::inReadableParts(const std::vector<acsi::Reference> &references
     return result;
 }
 
-asio::awaitable<Outcome> DeviceConnection::readAndPublish(std::vector<acsi::Reference> references,
-                                                          Publication publication)
+asio::awaitable<Outcome> ValuePublishing::readAndPublish(std::vector<acsi::Reference> references,
+                                                         Publication publication)
 {
-    const ClientPointer client = m_client;
+    const std::shared_ptr<acsi::Client> client = m_connection.client();
     if (!client) {
-        const QString sentence = notConnectedSentence();
+        const QString sentence = m_connection.notConnectedSentence();
         co_return Outcome{OperationNotConnected, sentence};
     }
     struct Part
@@ -333,15 +352,15 @@ asio::awaitable<Outcome> DeviceConnection::readAndPublish(std::vector<acsi::Refe
                 error = Texts::tr("the value does not have the form of its type");
             } else {
                 origin.hasValues = true;
-                if (m_currency && m_model)
-                    m_currency->haveRead(m_model->leafRange(reference), steady_clock::now());
+                if (currency() && model())
+                    currency()->haveRead(model()->leafRange(reference), steady_clock::now());
                 continue;
             }
             if (origin.error.isEmpty())
                 origin.error = error;
             std::vector<ValueCurrency::Part> divided;
             if (result.kind != acsi::ReadResult::Kind::Missing)
-                divided = partsOf({reference, {}, 0});
+                divided = m_connection.polling().partsOf({reference, {}, 0});
             for (ValueCurrency::Part &part : divided)
                 smaller.push_back({std::move(part.reference), parts[i].origin});
             if (divided.empty())
@@ -360,25 +379,26 @@ asio::awaitable<Outcome> DeviceConnection::readAndPublish(std::vector<acsi::Refe
     co_return failures.outcome();
 }
 
-QByteArray DeviceConnection::modelBytes()
+QByteArray ValuePublishing::modelBytes()
 {
     ++m_recentUsers;
-    asio::co_spawn(m_strand, republish(),
-                   [self = shared_from_this()](const std::exception_ptr &) {});
-    return m_model->toBytes();
+    asio::co_spawn(m_connection.strand(), republish(),
+                   [self = m_connection.shared_from_this()](const std::exception_ptr &) {});
+    return model()->toBytes();
 }
 
-asio::awaitable<void> DeviceConnection::republish()
+asio::awaitable<void> ValuePublishing::republish()
 {
-    const Deadline end = steady_clock::now() + browserStart;
+    const Time end = steady_clock::now() + browserStart;
     // Without an association nothing is left to change the values.
-    for (Deadline now = steady_clock::now(); now < end && m_client; now = steady_clock::now())
-        co_await pause(std::chrono::ceil<milliseconds>(end - now));
+    for (Time now = steady_clock::now(); now < end && m_connection.client();
+         now = steady_clock::now())
+        co_await m_connection.pause(std::chrono::ceil<milliseconds>(end - now));
     std::vector<MMSValue> values;
     values.reserve(static_cast<std::size_t>(m_recent.size()));
     for (const MMSValue &value : qAsConst(m_recent))
         values.push_back(value);
     if (--m_recentUsers == 0)
         m_recent.clear();
-    m_environment.values->publish(std::move(values));
+    m_connection.environment().values->publish(std::move(values));
 }

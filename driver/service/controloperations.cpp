@@ -2,6 +2,7 @@
 #include "driver/core/controlorder.h"
 #include "driver/device/controlpart.h"
 #include "driver/device/journalentry.h"
+#include "driver/device/valuepublishing.h"
 #include "driver/model/valueconversion.h"
 #include "driver/text/sentences.h"
 #include "driverruntime.h"
@@ -274,8 +275,8 @@ private:
             co_return knownPosition();
         std::vector<acsi::Reference> references;
         references.push_back(*reference);
-        static_cast<void>(co_await m_device->readAndPublish(std::move(references),
-                                                            DeviceConnection::Publication()));
+        static_cast<void>(co_await m_device->values().readAndPublish(
+            std::move(references), ValuePublishing::Publication()));
         co_return knownPosition();
     }
 

@@ -2,6 +2,8 @@
 #include "ieddriver.h"
 
 #include "driver/device/configurationfiles.h"
+#include "driver/device/modelreading.h"
+#include "driver/device/valuepublishing.h"
 #include "driver/model/valueconversion.h"
 #include "driver/text/csvfield.h"
 #include "driverruntime.h"
@@ -214,7 +216,7 @@ DeviceTestResult IedDriver::test(const DeviceConfiguration &configuration)
             answer->logicalDevices = static_cast<int>(devices->size());
             answer->iedName = commonName(*devices);
             // The connection asks who is there by itself.
-            co_await self->identified(client);
+            co_await self->modelReading().identified(client);
             const DeviceStatus who = self->status();
             answer->vendor = who.vendor;
             answer->model = who.model;
@@ -239,9 +241,9 @@ OperationResult IedDriver::getIEDModel(long deviceNo, QByteArray &model, QString
     const OperationResult result = m_runtime->run(
         deviceNo, Runtime::Effect::Reads, error,
         [bytes, identity](std::shared_ptr<DeviceConnection> device) -> asio::awaitable<Outcome> {
-            co_await device->refreshDataSets();
-            co_await device->refreshReportBlocks();
-            *bytes = device->modelBytes();
+            co_await device->modelReading().refreshDataSets();
+            co_await device->modelReading().refreshReportBlocks();
+            *bytes = device->values().modelBytes();
             *identity = device->identity();
             co_return Outcome();
         });

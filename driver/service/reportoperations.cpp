@@ -2,6 +2,7 @@
 #include "driverruntime.h"
 
 #include "driver/device/journalentry.h"
+#include "driver/device/modelreading.h"
 #include "driver/device/reportsubscriptions.h"
 #include "driver/model/discoveredmodel.h"
 #include "driver/text/sentences.h"
@@ -69,8 +70,9 @@ void enterBlock(const DevicePointer &device, const acsi::Reference &block,
     const QString logicalDevice = text(block.device);
     const QString reference = text(acsi::itemText(block));
     if (ReportControlBlock *shown = device->model()->reportControlBlock(logicalDevice, reference))
-        DiscoveredModel::setSettings(*shown, logicalDevice, read,
-                                     device->configuredBlock(logicalDevice, reference));
+        DiscoveredModel::setSettings(
+            *shown, logicalDevice, read,
+            device->modelReading().configuredBlock(logicalDevice, reference));
 }
 
 ReportBlock toRecord(const acsi::Reference &reference, const acsi::ReportBlock &read)
@@ -105,7 +107,8 @@ asio::awaitable<Outcome> readBlock(DevicePointer device, QString ldName, QString
         co_return Outcome::failed(read.error());
     *record = toRecord(*block, *read);
     device->part<ReportSubscriptions>().setShown(*block, {*record, *read});
-    const ReportControlBlock *configured = device->configuredBlock(ldName, record->reference);
+    const ReportControlBlock *configured =
+        device->modelReading().configuredBlock(ldName, record->reference);
     if (configured) {
         record->clientRptId =
             configured->rptId.isEmpty() ? text(acsi::toText(*block)) : configured->rptId;

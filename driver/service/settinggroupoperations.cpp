@@ -2,6 +2,7 @@
 #include "driver/device/journalentry.h"
 #include "driver/device/settinggroups.h"
 #include "driver/device/settingvalues.h"
+#include "driver/device/valuepublishing.h"
 #include "driver/text/connectiontext.h"
 #include "driver/text/sentences.h"
 #include "driverruntime.h"
@@ -268,8 +269,8 @@ asio::awaitable<Outcome> setValues(DevicePointer device, QString ldName, acsi::R
             active.push_back(value.reference);
             active.back().constraint = FunctionalConstraint::SG;
         }
-        const DeviceConnection::Publication publication;
-        static_cast<void>(co_await device->readAndPublish(std::move(active), publication));
+        const ValuePublishing::Publication publication;
+        static_cast<void>(co_await device->values().readAndPublish(std::move(active), publication));
     }
     co_return outcome;
 }

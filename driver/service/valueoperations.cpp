@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "driver/device/valuepublishing.h"
 #include "driver/model/valueconversion.h"
 #include "driver/text/sentences.h"
 #include "driverruntime.h"
@@ -39,8 +40,8 @@ asio::awaitable<Outcome> readVariables(DevicePointer device, QString ldName, QSt
         errors.append(Texts::tr("There is nothing to read."));
     Outcome outcome;
     if (!references.empty()) {
-        const DeviceConnection::Publication publication;
-        outcome = co_await device->readAndPublish(std::move(references), publication);
+        const ValuePublishing::Publication publication;
+        outcome = co_await device->values().readAndPublish(std::move(references), publication);
         if (outcome.result != OperationSucceeded && outcome.result != OperationFailed)
             co_return outcome;
     }
@@ -63,7 +64,7 @@ asio::awaitable<Outcome> readDataSet(DevicePointer device, QString ldName, QStri
         co_await acsi::dataSetDirectory(client, *set);
     if (!directory)
         co_return Outcome::failed(directory.error());
-    DeviceConnection::Publication publication;
+    ValuePublishing::Publication publication;
     publication.asOf = std::chrono::steady_clock::now();
     const mms::Result<std::vector<mms::AccessResult>> values = co_await client->readList(*set);
     if (!values)
@@ -89,13 +90,13 @@ asio::awaitable<Outcome> readDataSet(DevicePointer device, QString ldName, QStri
             inParts.push_back(*member);
         else if (!value.ok())
             failures.append(Texts::tr("%1: %2").arg(reference, text(mms::describe(value.error()))));
-        else if (!member || !device->publish(*member, value.data(), publication))
+        else if (!member || !device->values().publish(*member, value.data(), publication))
             failures.append(
                 Texts::tr("%1: the value does not have the form of its type.").arg(reference));
     }
     Outcome outcome;
     if (!inParts.empty())
-        outcome = co_await device->readAndPublish(std::move(inParts), publication);
+        outcome = co_await device->values().readAndPublish(std::move(inParts), publication);
     if (!outcome)
         failures.append(outcome.error);
     if (!failures.isEmpty())
@@ -132,9 +133,9 @@ asio::awaitable<Outcome> write(DevicePointer device, QString ldName, QString nam
         outcome = Outcome::failed(data.error());
     }
     if (outcome)
-        device->haveWritten(*reference);
+        device->values().haveWritten(*reference);
     else
-        device->showUnwritten(*reference);
+        device->values().showUnwritten(*reference);
     DeviceChange change;
     change.operation = QStringLiteral("writeVariable");
     change.reference = full;

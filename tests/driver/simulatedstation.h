@@ -190,6 +190,13 @@ public:
         });
     }
 
+    /// As it was told last.
+    DeviceState lastState(int number) const
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return m_statuses.value(number).state;
+    }
+
     bool waitForState(int number, DeviceState state)
     {
         return waitForStatus(number,

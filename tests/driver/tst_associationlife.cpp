@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "driver/core/associationlife.h"
 #include "driver/core/deviceidentity.h"
+#include "driver/core/signoflife.h"
 #include "driver/device/transferpace.h"
 
 #include <QtTest/QtTest>
@@ -13,6 +14,7 @@
 using namespace std::chrono_literals;
 using Life = AssociationLife;
 using What = Life::Step::What;
+using Admission = Life::Admission::What;
 
 namespace {
 
@@ -26,10 +28,11 @@ Life plainLife()
 
 /// An attempt that comes to nothing; how long the pause behind it is.
 std::chrono::milliseconds pauseAfterFailure(Life &life, Life::Time now,
-                                            Life::Ending how = Life::Ending::Failed)
+                                            Life::Failure how = Life::Failure::Lost)
 {
     life.connecting();
-    life.ended(now, how);
+    life.failed("It does not answer.", how);
+    life.clearedUp(now);
     const Life::Step step = life.next(now);
     return step.what == What::Wait
                ? std::chrono::duration_cast<std::chrono::milliseconds>(step.until - now)
@@ -40,7 +43,13 @@ void beOnline(Life &life, Life::Time from)
 {
     life.connecting();
     life.associated();
-    life.online(from);
+    life.ready(from);
+}
+
+void beLost(Life &life, Life::Time now)
+{
+    life.closed("The device is away.");
+    life.clearedUp(now);
 }
 
 DeviceIdentity feeder()
@@ -56,15 +65,24 @@ class tst_AssociationLife : public QObject
 
 private slots:
     void aWantedDeviceIsConnectedAtOnce();
+    void anAssociationGoesFromStepToStep();
+    void whatFailsOrIsClosedIsClearedUpBeforeTheNextAttempt();
+    void onlyADeviceThatWasOnlineIsTakenLeaveOf();
     void pausesGrowAndEnd();
     void shortPausesComeBackOnlyAfterAWhileOnline();
+    void aLostDeviceIsTriedAgainWithinASecond();
     void devicesThatAreLostTogetherComeBackApart();
     void aConflictIsWaitedForLongUnlessNamesAreReleased();
     void wantingAgainEndsAPause();
     void whatWasGivenUpIsNoAttemptOfANewWish();
+    void whatIsLeftIsLeftBeforeItIsConnectedAgain();
+    void theReasonIsTheEndsOrTheLeavings();
     void anOutageBeginsOnceHoweverManyAttemptsThereAre();
     void theFirstAttemptIsWaitedFor();
+    void nobodyWaitsForADeviceThatIsAway();
+    void aModelThatIsBeingReadIsWaitedForAMomentOnly();
     void anAbortedDeviceIsDormant();
+    void onlyAReadingIsCancelled();
     void aDeviceIsAskedForWhatItHas();
     void silenceIsJudgedOnlyAfterAQuestion();
     void whatADeviceSendsByItselfIsASignOfLife();
@@ -75,13 +93,82 @@ private slots:
 void tst_AssociationLife::aWantedDeviceIsConnectedAtOnce()
 {
     Life life = plainLife();
-    QVERIFY(life.next(start).what == What::End);
+    QVERIFY(life.next(start).what == What::Rest);
     life.want(start);
     QVERIFY(life.next(start).what == What::Connect);
     life.leave();
-    QVERIFY(life.next(start).what == What::End);
-    life.over();
+    QVERIFY(life.next(start).what == What::ClearUp);
+    life.clearedUp(start);
+    QVERIFY(life.next(start).what == What::Rest);
     QVERIFY(life.phase() == Life::Phase::Left);
+}
+
+void tst_AssociationLife::anAssociationGoesFromStepToStep()
+{
+    Life life = plainLife();
+    life.want(start);
+    QVERIFY(life.phase() == Life::Phase::Waiting && !life.isKept());
+    life.connecting();
+    QVERIFY(life.next(start).what == What::Connect && !life.isKept());
+    life.associated();
+    QVERIFY(life.next(start).what == What::Read && life.isKept());
+    life.ready(start);
+    QVERIFY(life.next(start).what == What::Serve && life.isKept());
+    QVERIFY(life.phase() == Life::Phase::Online);
+    life.leave();
+    QVERIFY(life.next(start).what == What::TakeLeave && !life.isKept());
+    life.clearedUp(start);
+    QVERIFY(life.next(start).what == What::Rest);
+    // What comes too late changes nothing.
+    life.connecting();
+    life.associated();
+    life.ready(start);
+    life.failed("late");
+    life.closed("late");
+    life.clearedUp(start);
+    QVERIFY(life.phase() == Life::Phase::Left);
+    QCOMPARE(life.reason(), QString());
+}
+
+void tst_AssociationLife::whatFailsOrIsClosedIsClearedUpBeforeTheNextAttempt()
+{
+    Life life = plainLife();
+    life.want(start);
+    life.connecting();
+    life.failed("refused");
+    QVERIFY(life.next(start).what == What::ClearUp);
+    // An attempt that comes about all the same is no association.
+    life.associated();
+    QVERIFY(life.phase() == Life::Phase::Ending);
+    life.clearedUp(start);
+    QVERIFY(life.next(start).what == What::Wait);
+    life.want(start);
+    life.connecting();
+    life.associated();
+    life.closed("cut");
+    QVERIFY(life.next(start).what == What::ClearUp);
+    life.ready(start);
+    QVERIFY(life.phase() == Life::Phase::Ending);
+}
+
+void tst_AssociationLife::onlyADeviceThatWasOnlineIsTakenLeaveOf()
+{
+    Life life = plainLife();
+    life.want(start);
+    life.connecting();
+    life.associated();
+    life.leave();
+    QVERIFY(life.next(start).what == What::ClearUp);
+    life.clearedUp(start);
+    life.want(start);
+    beOnline(life, start);
+    life.leave();
+    QVERIFY(life.next(start).what == What::TakeLeave);
+    life.clearedUp(start);
+    life.want(start);
+    life.connecting();
+    life.failed("refused");
+    QVERIFY(life.next(start).what == What::ClearUp);
 }
 
 void tst_AssociationLife::pausesGrowAndEnd()
@@ -102,11 +189,23 @@ void tst_AssociationLife::shortPausesComeBackOnlyAfterAWhileOnline()
     for (int i = 0; i < 4; ++i)
         pauseAfterFailure(life, start);
     beOnline(life, start);
-    life.ended(start + 9999ms, Life::Ending::Failed);
+    beLost(life, start + 9999ms);
     QVERIFY(life.next(start + 9999ms).until == start + 9999ms + 2000ms);
     beOnline(life, start);
-    life.ended(start + 10000ms, Life::Ending::Failed);
+    beLost(life, start + 10000ms);
     QVERIFY(life.next(start + 10000ms).until == start + 10000ms + 200ms);
+}
+
+void tst_AssociationLife::aLostDeviceIsTriedAgainWithinASecond()
+{
+    Life life([] { return 1.0; });
+    life.want(start);
+    beOnline(life, start);
+    beLost(life, start + 1min);
+    QVERIFY(life.next(start + 1min + 1s).what == What::Connect);
+    // However long it is away, the next attempt is never further off than this.
+    for (int i = 0; i < 100; ++i)
+        QVERIFY(pauseAfterFailure(life, start + 2min) <= 3s);
 }
 
 void tst_AssociationLife::devicesThatAreLostTogetherComeBackApart()
@@ -118,7 +217,7 @@ void tst_AssociationLife::devicesThatAreLostTogetherComeBackApart()
         Life life([&] { return fractions(engine); });
         life.want(start);
         beOnline(life, start);
-        life.ended(start + 1min, Life::Ending::Failed);
+        beLost(life, start + 1min);
         pauses.insert(std::chrono::duration_cast<std::chrono::milliseconds>(
             life.next(start + 1min).until - (start + 1min)));
     }
@@ -133,7 +232,7 @@ void tst_AssociationLife::aConflictIsWaitedForLongUnlessNamesAreReleased()
 {
     Life life = plainLife();
     life.want(start);
-    QVERIFY(pauseAfterFailure(life, start, Life::Ending::Conflict) == 30s);
+    QVERIFY(pauseAfterFailure(life, start, Life::Failure::Conflict) == 30s);
     life.namesReleased(start + 1s);
     QVERIFY(life.next(start + 1s).until == start + 1s + 200ms);
     // What has nothing to do with names is not hurried by them.
@@ -146,7 +245,7 @@ void tst_AssociationLife::wantingAgainEndsAPause()
 {
     Life life = plainLife();
     life.want(start);
-    pauseAfterFailure(life, start, Life::Ending::Conflict);
+    pauseAfterFailure(life, start, Life::Failure::Conflict);
     life.want(start + 1s);
     QVERIFY(life.next(start + 1s).what == What::Connect);
 }
@@ -158,12 +257,60 @@ void tst_AssociationLife::whatWasGivenUpIsNoAttemptOfANewWish()
     life.connecting();
     life.leave();
     life.want(start + 1s);
-    life.ended(start + 2s, Life::Ending::Failed);
+    QVERIFY(life.next(start + 1s).what == What::ClearUp);
+    life.clearedUp(start + 2s);
     QVERIFY(life.isFirstAttempt());
     QVERIFY(life.next(start + 2s).what == What::Connect);
     // The next one counts, as the first.
     QCOMPARE(pauseAfterFailure(life, start + 3s), Life::firstPause);
     QVERIFY(!life.isFirstAttempt());
+}
+
+void tst_AssociationLife::whatIsLeftIsLeftBeforeItIsConnectedAgain()
+{
+    Life life = plainLife();
+    life.want(start);
+    beOnline(life, start);
+    life.leave();
+    life.want(start + 1s);
+    QVERIFY(life.isWanted() && !life.isKept());
+    QVERIFY(life.next(start + 1s).what == What::TakeLeave);
+    QVERIFY(life.admit(true, start + 1s, start + 1s, start + 9s).what == Admission::Wait);
+    life.clearedUp(start + 2s);
+    QVERIFY(life.next(start + 2s).what == What::Connect);
+    QVERIFY(life.awaySince() == start + 1s);
+    // Who leaves in a pause has nothing to wait for either.
+    life.leave();
+    life.want(start + 3s);
+    life.leave();
+    life.clearedUp(start + 3s);
+    QVERIFY(life.phase() == Life::Phase::Left);
+}
+
+void tst_AssociationLife::theReasonIsTheEndsOrTheLeavings()
+{
+    Life life = plainLife();
+    life.want(start);
+    life.connecting();
+    life.failed("refused");
+    life.clearedUp(start);
+    QCOMPARE(life.reason(), QString("refused"));
+    life.connecting();
+    QCOMPARE(life.reason(), QString("refused"));
+    life.associated();
+    QCOMPARE(life.reason(), QString());
+    // Why the model cannot be read says more than that the association was closed.
+    life.closed("closed");
+    QCOMPARE(life.reason(), QString("closed"));
+    life.failed("no names");
+    life.clearedUp(start);
+    QCOMPARE(life.reason(), QString("no names"));
+    beOnline(life, start);
+    life.leave("left");
+    life.closed("released");
+    QCOMPARE(life.reason(), QString("released"));
+    life.clearedUp(start);
+    QCOMPARE(life.reason(), QString("left"));
 }
 
 void tst_AssociationLife::anOutageBeginsOnceHoweverManyAttemptsThereAre()
@@ -177,7 +324,7 @@ void tst_AssociationLife::anOutageBeginsOnceHoweverManyAttemptsThereAre()
     QVERIFY(life.awaySince() == start);
     beOnline(life, start + 3s);
     QVERIFY(!life.awaySince());
-    life.ended(start + 1min, Life::Ending::Failed);
+    beLost(life, start + 1min);
     pauseAfterFailure(life, start + 2min);
     life.connecting();
     life.associated();
@@ -199,16 +346,88 @@ void tst_AssociationLife::theFirstAttemptIsWaitedFor()
     QVERIFY(life.isFirstAttempt());
 }
 
+void tst_AssociationLife::nobodyWaitsForADeviceThatIsAway()
+{
+    Life life = plainLife();
+    const auto ask = [&](Life::Time now) { return life.admit(true, now, start, start + 30s); };
+    QVERIFY(ask(start).what == Admission::NotConnected);
+    life.want(start);
+    life.connecting();
+    QVERIFY(ask(start).what == Admission::Wait);
+    QVERIFY(ask(start).until == start + 30s);
+    QVERIFY(ask(start + 30s).what == Admission::NotConnected);
+    life.failed("refused");
+    QVERIFY(ask(start + 1s).what == Admission::Wait);
+    life.clearedUp(start + 1s);
+    QVERIFY(ask(start + 1s).what == Admission::NotConnected);
+    // Nor for its next attempts.
+    life.connecting();
+    QVERIFY(ask(start + 2s).what == Admission::NotConnected);
+    life.associated();
+    life.ready(start + 3s);
+    QVERIFY(ask(start + 3s).what == Admission::Enter);
+    life.closed("cut");
+    QVERIFY(ask(start + 4s).what == Admission::NotConnected);
+}
+
+void tst_AssociationLife::aModelThatIsBeingReadIsWaitedForAMomentOnly()
+{
+    Life life = plainLife();
+    life.want(start);
+    life.connecting();
+    life.associated();
+    const auto ask = [&](bool needsModel, Life::Time now, Life::Time deadline) {
+        return life.admit(needsModel, now, start, deadline);
+    };
+    QVERIFY(ask(false, start, start + 30s).what == Admission::Enter);
+    QVERIFY(ask(true, start, start + 30s).what == Admission::Wait);
+    QVERIFY(ask(true, start, start + 30s).until == start + 500ms);
+    QVERIFY(ask(true, start + 500ms, start + 30s).what == Admission::ModelIsUnread);
+    QVERIFY(ask(true, start, start + 100ms).until == start + 100ms);
+    QVERIFY(ask(true, start + 100ms, start + 100ms).what == Admission::ModelIsUnread);
+    life.ready(start);
+    QVERIFY(ask(true, start + 500ms, start + 30s).what == Admission::Enter);
+}
+
 void tst_AssociationLife::anAbortedDeviceIsDormant()
 {
     Life life = plainLife();
-    life.abort();
+    QVERIFY(!life.abort("Aborted."));
     QVERIFY(!life.isDormant());
     life.want(start);
-    life.abort();
+    beOnline(life, start);
+    QVERIFY(life.abort("Aborted."));
     QVERIFY(life.isDormant() && !life.isWanted());
+    QVERIFY(life.admit(true, start, start, start + 30s).what == Admission::Want);
+    life.clearedUp(start);
+    QCOMPARE(life.reason(), QString("Aborted."));
+    QVERIFY(life.isDormant() && life.phase() == Life::Phase::Left);
+    QVERIFY(life.admit(true, start, start, start + 30s).what == Admission::Want);
     life.want(start);
     QVERIFY(!life.isDormant() && life.isWanted());
+    QVERIFY(life.admit(true, start, start, start + 30s).what == Admission::Wait);
+    // A device that is left sleeps no more.
+    life.abort("Aborted.");
+    life.leave();
+    QVERIFY(!life.isDormant());
+}
+
+void tst_AssociationLife::onlyAReadingIsCancelled()
+{
+    Life life = plainLife();
+    life.want(start);
+    life.connecting();
+    QVERIFY(!life.cancelReading("Cancelled."));
+    life.associated();
+    QVERIFY(life.cancelReading("Cancelled."));
+    QVERIFY(!life.cancelReading("Cancelled."));
+    life.clearedUp(start);
+    QVERIFY(life.phase() == Life::Phase::Left);
+    QCOMPARE(life.reason(), QString("Cancelled."));
+    life.want(start);
+    beOnline(life, start);
+    QVERIFY(!life.cancelReading("Cancelled."));
+    QVERIFY(life.isKept());
 }
 
 void tst_AssociationLife::aDeviceIsAskedForWhatItHas()

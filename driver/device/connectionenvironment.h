@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "driver/administration/devicechange.h"
+#include "driver/administration/devicestatus.h"
+#include "driver/administration/reportevent.h"
+#include "livevalues.h"
+#include "pducapture.h"
+
+#include "osi/hostlookup.h"
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <memory>
+
+/// What a connection needs of the driver. Called in the strands of connections, several at a time.
+struct ConnectionEnvironment
+{
+    std::shared_ptr<LiveValues> values;
+    std::function<void(const DeviceStatus &)> statusChanged;
+    std::function<void(const DeviceChange &)> changed;
+    /// Takes every report, in order for each device; null when nobody wants them. Gives the number
+    /// of older events of the device that had to be dropped for it.
+    std::function<std::uint64_t(ReportEvent)> reportReceived;
+    /// Claims the names of logical devices for the device that goes online; a sentence when another
+    /// device has one of them, otherwise empty.
+    std::function<QString(const QStringList &logicalDevices)> claim;
+    std::function<void()> release;
+    /// Whether nothing may be changed on devices at present.
+    std::function<bool()> isReadOnly;
+    /// Folder of what is remembered of devices between starts; empty for none.
+    QString cacheFolder;
+    std::size_t captureOctets = PduCapture::defaultLimit;
+    /// Looks up hosts' names; without, the system does.
+    osi::HostLookup::Function lookUp;
+};
