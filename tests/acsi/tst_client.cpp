@@ -50,7 +50,7 @@ protected:
 
 using AcsiClient = ClientTest;
 
-TEST_F(AcsiClient, FailedConnectionSaysWhyAndClosesNothing)
+TEST_F(AcsiClient, failedConnectionSaysWhyAndClosesNothing)
 {
     const std::uint16_t port = wiretest::RawPeer().port();
     const auto connected = tryToConnect(port);
@@ -59,7 +59,7 @@ TEST_F(AcsiClient, FailedConnectionSaysWhyAndClosesNothing)
               std::string::npos);
 }
 
-TEST_F(AcsiClient, ItDeclaresWhatItServes)
+TEST_F(AcsiClient, itDeclaresWhatItServes)
 {
     const auto sent = std::make_shared<mms::Octets>();
     clientOptions.association.link.trace = [sent](osi::Direction direction, mms::Bytes pdu) {
@@ -81,7 +81,7 @@ TEST_F(AcsiClient, ItDeclaresWhatItServes)
     EXPECT_EQ(declared, (std::vector<std::size_t>{72, 73, 74, 79, 83}));
 }
 
-TEST_F(AcsiClient, ClosingConcludesAndIsHeardOnce)
+TEST_F(AcsiClient, closingConcludesAndIsHeardOnce)
 {
     connect();
     EXPECT_TRUE(client->isOpen());
@@ -92,7 +92,7 @@ TEST_F(AcsiClient, ClosingConcludesAndIsHeardOnce)
     asio::co_spawn(client->strand(), client->close(), asio::use_future).get();
 }
 
-TEST_F(AcsiClient, CallsAfterTheEndFailWithItsReason)
+TEST_F(AcsiClient, callsAfterTheEndFailWithItsReason)
 {
     connect();
     client->abort(mms::verbatim("Enough of it."));
@@ -105,7 +105,7 @@ TEST_F(AcsiClient, CallsAfterTheEndFailWithItsReason)
     EXPECT_EQ(names.error().message, "Enough of it.");
 }
 
-TEST_F(AcsiClient, AssociationEndsWithTheClient)
+TEST_F(AcsiClient, associationEndsWithTheClient)
 {
     Awaited<mms::Text> gone;
     class Watching : public ScriptedDevice
@@ -122,7 +122,7 @@ TEST_F(AcsiClient, AssociationEndsWithTheClient)
     EXPECT_FALSE(gone.get().empty());
 }
 
-TEST_F(AcsiClient, NamesComePageByPage)
+TEST_F(AcsiClient, namesComePageByPage)
 {
     device->pageSize = 3;
     for (const char *name : {"A", "B", "C", "D", "E", "F", "G"})
@@ -136,7 +136,7 @@ TEST_F(AcsiClient, NamesComePageByPage)
     EXPECT_EQ(asked[2].continueAfter, "F");
 }
 
-TEST_F(AcsiClient, RepeatedPagesEndWithAnError)
+TEST_F(AcsiClient, repeatedPagesEndWithAnError)
 {
     device->intercept = [](const auto &association, std::uint32_t invokeId, const auto &) {
         association->respond(invokeId, mms::GetNameListResponse{{"A", "B"}, true});
@@ -149,7 +149,7 @@ TEST_F(AcsiClient, RepeatedPagesEndWithAnError)
     EXPECT_EQ(device->requests().size(), 2U);
 }
 
-TEST_F(AcsiClient, PageMayBeginWithTheNameItFollowsOrBeEmpty)
+TEST_F(AcsiClient, pageMayBeginWithTheNameItFollowsOrBeEmpty)
 {
     device->intercept = [](const auto &association, std::uint32_t invokeId, auto &request) {
         const auto after = std::get<mms::GetNameListRequest>(request).continueAfter;
@@ -168,7 +168,7 @@ TEST_F(AcsiClient, PageMayBeginWithTheNameItFollowsOrBeEmpty)
     EXPECT_EQ(*names, (std::vector<std::string>{"A", "B", "C"}));
 }
 
-TEST_F(AcsiClient, TypeIsAskedForByName)
+TEST_F(AcsiClient, typeIsAskedForByName)
 {
     const auto type = mms::TypeDescription::structure({{"ST", mms::TypeDescription::boolean()}});
     device->domains["LD0"].nodes["GGIO1"] = type;
@@ -181,7 +181,7 @@ TEST_F(AcsiClient, TypeIsAskedForByName)
     EXPECT_EQ(missing.error().message, "The object does not exist.");
 }
 
-TEST_F(AcsiClient, LongListsAreReadInSeveralRequestsInOrder)
+TEST_F(AcsiClient, longListsAreReadInSeveralRequestsInOrder)
 {
     serverOptions.maxPduSize = 1000;
     const auto variables = addNumbers(200);
@@ -201,7 +201,7 @@ TEST_F(AcsiClient, LongListsAreReadInSeveralRequestsInOrder)
     EXPECT_EQ(asked.size(), octets / 1000 + 1);
 }
 
-TEST_F(AcsiClient, SingleRequestIsUsedWhileItFits)
+TEST_F(AcsiClient, singleRequestIsUsedWhileItFits)
 {
     const auto variables = addNumbers(500);
     connect();
@@ -212,7 +212,7 @@ TEST_F(AcsiClient, SingleRequestIsUsedWhileItFits)
     EXPECT_EQ(device->requests().size(), 1U);
 }
 
-TEST_F(AcsiClient, RequestsOfALongListAreOnTheWayTogether)
+TEST_F(AcsiClient, requestsOfALongListAreOnTheWayTogether)
 {
     serverOptions.maxPduSize = 1000;
     serverOptions.maxOutstandingCalled = 3;
@@ -239,7 +239,7 @@ TEST_F(AcsiClient, RequestsOfALongListAreOnTheWayTogether)
         EXPECT_EQ((*results)[i], AccessResult(Data::unsignedInteger(i)));
 }
 
-TEST_F(AcsiClient, AnswersTooLargeForThePduAreAskedForInHalves)
+TEST_F(AcsiClient, answersTooLargeForThePduAreAskedForInHalves)
 {
     serverOptions.maxPduSize = 1000;
     std::vector<VariableAccess> variables;
@@ -259,7 +259,7 @@ TEST_F(AcsiClient, AnswersTooLargeForThePduAreAskedForInHalves)
     }
 }
 
-TEST_F(AcsiClient, ValueTooLargeForThePduIsAnError)
+TEST_F(AcsiClient, valueTooLargeForThePduIsAnError)
 {
     serverOptions.maxPduSize = 1000;
     addText("GGIO1$DC$Long", 2000);
@@ -270,7 +270,7 @@ TEST_F(AcsiClient, ValueTooLargeForThePduIsAnError)
     EXPECT_FALSE(run(client->readOne(variable("GGIO1$DC$Long"))).ok());
 }
 
-TEST_F(AcsiClient, VariableThatConfusesThePeerDoesNotSpoilTheOthers)
+TEST_F(AcsiClient, variableThatConfusesThePeerDoesNotSpoilTheOthers)
 {
     const auto variables = addNumbers(50);
     device->refused[toText(variables[17])] = denied;
@@ -283,7 +283,7 @@ TEST_F(AcsiClient, VariableThatConfusesThePeerDoesNotSpoilTheOthers)
     }
 }
 
-TEST_F(AcsiClient, AnswerOfTheWrongLengthIsAskedForAgainInHalves)
+TEST_F(AcsiClient, answerOfTheWrongLengthIsAskedForAgainInHalves)
 {
     const auto variables = addNumbers(8);
     device->intercept = [](const auto &association, std::uint32_t invokeId, auto &request) {
@@ -302,7 +302,7 @@ TEST_F(AcsiClient, AnswerOfTheWrongLengthIsAskedForAgainInHalves)
         EXPECT_EQ((*results)[i], AccessResult(Data::unsignedInteger(i)));
 }
 
-TEST_F(AcsiClient, MissingServiceIsAskedForOnce)
+TEST_F(AcsiClient, missingServiceIsAskedForOnce)
 {
     const auto variables = addNumbers(50);
     device->intercept = [](const auto &association, std::uint32_t invokeId, const auto &) {
@@ -314,7 +314,7 @@ TEST_F(AcsiClient, MissingServiceIsAskedForOnce)
     EXPECT_EQ(device->requests().size(), 1U);
 }
 
-TEST_F(AcsiClient, SilentDeviceEndsAReadAtItsTimeLimit)
+TEST_F(AcsiClient, silentDeviceEndsAReadAtItsTimeLimit)
 {
     clientOptions.callTimeout = 30ms;
     const auto variables = addNumbers(2);
@@ -326,7 +326,7 @@ TEST_F(AcsiClient, SilentDeviceEndsAReadAtItsTimeLimit)
     EXPECT_TRUE(client->isOpen());
 }
 
-TEST_F(AcsiClient, AssociationLostInTheMiddleOfAReadEndsItWithTheReason)
+TEST_F(AcsiClient, associationLostInTheMiddleOfAReadEndsItWithTheReason)
 {
     serverOptions.maxPduSize = 1000;
     const auto variables = addNumbers(200);
@@ -340,7 +340,7 @@ TEST_F(AcsiClient, AssociationLostInTheMiddleOfAReadEndsItWithTheReason)
     EXPECT_EQ(results.error().message, ended.get());
 }
 
-TEST_F(AcsiClient, AccessErrorOfOneVariableIsASentence)
+TEST_F(AcsiClient, accessErrorOfOneVariableIsASentence)
 {
     connect();
     const auto value = run(client->readOne(variable("GGIO1$MX$None")));
@@ -348,7 +348,7 @@ TEST_F(AcsiClient, AccessErrorOfOneVariableIsASentence)
     EXPECT_EQ(value.error().message, mms::describe(DataAccessError::ObjectNonExistent));
 }
 
-TEST_F(AcsiClient, DataSetIsReadAsAWhole)
+TEST_F(AcsiClient, dataSetIsReadAsAWhole)
 {
     auto &list = device->domains["LD0"].lists["LLN0$ds"];
     list.members = addNumbers(5);
@@ -359,7 +359,7 @@ TEST_F(AcsiClient, DataSetIsReadAsAWhole)
     EXPECT_EQ(device->requests().size(), 1U);
 }
 
-TEST_F(AcsiClient, DataSetTooLargeForThePduIsReadInParts)
+TEST_F(AcsiClient, dataSetTooLargeForThePduIsReadInParts)
 {
     serverOptions.maxPduSize = 1000;
     auto &list = device->domains["LD0"].lists["LLN0$ds"];
@@ -376,7 +376,7 @@ TEST_F(AcsiClient, DataSetTooLargeForThePduIsReadInParts)
         EXPECT_EQ(result.data().text(), std::string(200, 'x'));
 }
 
-TEST_F(AcsiClient, RefusedDataSetSaysWhy)
+TEST_F(AcsiClient, refusedDataSetSaysWhy)
 {
     device->domains["LD0"].lists["LLN0$ds"].members = addNumbers(2);
     device->refused["LD0/LLN0$ds"] = denied;
@@ -386,7 +386,7 @@ TEST_F(AcsiClient, RefusedDataSetSaysWhy)
     EXPECT_EQ(results.error().message, mms::describe(denied));
 }
 
-TEST_F(AcsiClient, LongListsAreWrittenInSeveralRequests)
+TEST_F(AcsiClient, longListsAreWrittenInSeveralRequests)
 {
     serverOptions.maxPduSize = 1000;
     const auto variables = addNumbers(100);
@@ -404,7 +404,7 @@ TEST_F(AcsiClient, LongListsAreWrittenInSeveralRequests)
     EXPECT_FALSE(run(client->write(variables, {})).ok());
 }
 
-TEST_F(AcsiClient, VariableThatCannotBeWrittenDoesNotSpoilTheOthers)
+TEST_F(AcsiClient, variableThatCannotBeWrittenDoesNotSpoilTheOthers)
 {
     const auto variables = addNumbers(6);
     device->refused[toText(variables[3])] = denied;
@@ -420,7 +420,7 @@ TEST_F(AcsiClient, VariableThatCannotBeWrittenDoesNotSpoilTheOthers)
     }
 }
 
-TEST_F(AcsiClient, WriteTooLargeForThePduIsAnErrorAndSendsNothing)
+TEST_F(AcsiClient, writeTooLargeForThePduIsAnErrorAndSendsNothing)
 {
     serverOptions.maxPduSize = 1000;
     addText("GGIO1$DC$Long", 1);
@@ -432,7 +432,7 @@ TEST_F(AcsiClient, WriteTooLargeForThePduIsAnErrorAndSendsNothing)
     EXPECT_TRUE(device->requests().empty());
 }
 
-TEST_F(AcsiClient, WriteWithAnUnreadableAnswerIsNotRepeated)
+TEST_F(AcsiClient, writeWithAnUnreadableAnswerIsNotRepeated)
 {
     const auto variables = addNumbers(4);
     device->intercept = [](const auto &association, std::uint32_t invokeId, const auto &) {
@@ -444,7 +444,7 @@ TEST_F(AcsiClient, WriteWithAnUnreadableAnswerIsNotRepeated)
     EXPECT_EQ(device->requests().size(), 1U);
 }
 
-TEST_F(AcsiClient, ReportsGoToTheFirstHandlerThatTakesThem)
+TEST_F(AcsiClient, reportsGoToTheFirstHandlerThatTakesThem)
 {
     connect();
     const auto heard = std::make_shared<std::vector<std::string>>();
@@ -483,7 +483,7 @@ TEST_F(AcsiClient, ReportsGoToTheFirstHandlerThatTakesThem)
     EXPECT_EQ(*heard, (std::vector<std::string>{"first", "third", "first", "third"}));
 }
 
-TEST_F(AcsiClient, RequestsOfThePeerAreTakenOrRejected)
+TEST_F(AcsiClient, requestsOfThePeerAreTakenOrRejected)
 {
     connect();
     const auto addHandler = [&]() -> asio::awaitable<Client::Registration> {
@@ -512,7 +512,7 @@ TEST_F(AcsiClient, RequestsOfThePeerAreTakenOrRejected)
     EXPECT_TRUE(std::holds_alternative<mms::RejectPdu>(callBack(mms::IdentifyRequest())));
 }
 
-TEST_F(AcsiClient, CancelledReadGivesUpItsCallsAndLeavesTheClientUsable)
+TEST_F(AcsiClient, cancelledReadGivesUpItsCallsAndLeavesTheClientUsable)
 {
     serverOptions.maxPduSize = 1000;
     const auto variables = addNumbers(200);
@@ -546,7 +546,7 @@ TEST_F(AcsiClient, CancelledReadGivesUpItsCallsAndLeavesTheClientUsable)
     EXPECT_EQ((*results)[199], AccessResult(Data::unsignedInteger(199)));
 }
 
-TEST_F(AcsiClient, CancelledConnectionAttemptEndsAtOnce)
+TEST_F(AcsiClient, cancelledConnectionAttemptEndsAtOnce)
 {
     wiretest::RawPeer peer;
     asio::cancellation_signal signal;

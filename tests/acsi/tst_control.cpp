@@ -136,7 +136,7 @@ private:
 
 } // namespace
 
-TEST_F(ControlTest, OpeningReadsTheModelTheTypesAndTheTimeOuts)
+TEST_F(ControlTest, openingReadsTheModelTheTypesAndTheTimeOuts)
 {
     open(ControlModel::SelectEnhanced);
     ASSERT_TRUE(control);
@@ -146,7 +146,7 @@ TEST_F(ControlTest, OpeningReadsTheModelTheTypesAndTheTimeOuts)
     EXPECT_FALSE(control->operateTimeout());
 }
 
-TEST_F(ControlTest, AnObjectWithoutAControlModelCannotBeOpened)
+TEST_F(ControlTest, anObjectWithoutAControlModelCannotBeOpened)
 {
     connect();
     const auto opened = run(ControlObject::open(client, *parseReference("LD/CSWI1$CO$Pos")));
@@ -156,7 +156,7 @@ TEST_F(ControlTest, AnObjectWithoutAControlModelCannotBeOpened)
         0U);
 }
 
-TEST_F(ControlTest, NamesThatAreNoDataObjectsCannotBeOpened)
+TEST_F(ControlTest, namesThatAreNoDataObjectsCannotBeOpened)
 {
     connect();
     for (const char *text : {"LD", "LD/CSWI1", "LD/CSWI1$CO", "LD/CSWI1$CO$Pos(3)"}) {
@@ -165,14 +165,14 @@ TEST_F(ControlTest, NamesThatAreNoDataObjectsCannotBeOpened)
     EXPECT_TRUE(device->requests().empty());
 }
 
-TEST_F(ControlTest, AnUnknownControlModelIsAnErrorInsteadOfAGuess)
+TEST_F(ControlTest, anUnknownControlModelIsAnErrorInsteadOfAGuess)
 {
     device->values["LD/CSWI1$CF$Pos$ctlModel"] = Data::integer(5);
     connect();
     EXPECT_FALSE(run(ControlObject::open(client, *parseReference("LD/CSWI1$CO$Pos"))).ok());
 }
 
-TEST_F(ControlTest, AStatusOnlyObjectCannotBeControlled)
+TEST_F(ControlTest, aStatusOnlyObjectCannotBeControlled)
 {
     open(ControlModel::StatusOnly);
     EXPECT_FALSE(run(control->select(request())).ok);
@@ -181,7 +181,7 @@ TEST_F(ControlTest, AStatusOnlyObjectCannotBeControlled)
     EXPECT_TRUE(device->requestsOf<mms::WriteRequest>().empty());
 }
 
-TEST_F(ControlTest, SelectionWithNormalSecurityIsARead)
+TEST_F(ControlTest, selectionWithNormalSecurityIsARead)
 {
     open(ControlModel::SelectNormal);
     EXPECT_TRUE(run(control->select(request())).ok);
@@ -190,7 +190,7 @@ TEST_F(ControlTest, SelectionWithNormalSecurityIsARead)
     EXPECT_TRUE(device->requestsOf<mms::WriteRequest>().empty());
 }
 
-TEST_F(ControlTest, AnEmptyAnswerToASelectionIsARefusal)
+TEST_F(ControlTest, anEmptyAnswerToASelectionIsARefusal)
 {
     open(ControlModel::SelectNormal);
     device->values["LD/CSWI1$CO$Pos$SBO"] = Data::visibleString("");
@@ -200,7 +200,7 @@ TEST_F(ControlTest, AnEmptyAnswerToASelectionIsARefusal)
                               "client may have selected the object.");
 }
 
-TEST_F(ControlTest, SelectionWithEnhancedSecurityIsAWriteOfTheCommand)
+TEST_F(ControlTest, selectionWithEnhancedSecurityIsAWriteOfTheCommand)
 {
     open(ControlModel::SelectEnhanced);
     EXPECT_TRUE(run(control->select(request())).ok);
@@ -210,20 +210,20 @@ TEST_F(ControlTest, SelectionWithEnhancedSecurityIsAWriteOfTheCommand)
     EXPECT_EQ(writes[0].values[0], *controlValue(commandType(true), request()));
 }
 
-TEST_F(ControlTest, ModelsWithoutSelectionSaySo)
+TEST_F(ControlTest, modelsWithoutSelectionSaySo)
 {
     open(ControlModel::DirectNormal);
     const ControlResult result = run(control->select(request()));
     EXPECT_EQ(result.message, "LD/CSWI1.Pos: its control model knows no selection.");
 }
 
-TEST_F(ControlTest, NormalModelsDoNotWaitForATermination)
+TEST_F(ControlTest, normalModelsDoNotWaitForATermination)
 {
     open(ControlModel::DirectNormal);
     EXPECT_TRUE(run(control->operate(request(), 1h)).ok);
 }
 
-TEST_F(ControlTest, ARefusalGivesTheAdditionalCause)
+TEST_F(ControlTest, aRefusalGivesTheAdditionalCause)
 {
     open(ControlModel::DirectNormal);
     reaction.errorBefore = error(10);
@@ -234,7 +234,7 @@ TEST_F(ControlTest, ARefusalGivesTheAdditionalCause)
     EXPECT_EQ(result.applError, error(10));
 }
 
-TEST_F(ControlTest, TheTestThatFailedIsNamedBesideTheCause)
+TEST_F(ControlTest, theTestThatFailedIsNamedBesideTheCause)
 {
     open(ControlModel::DirectNormal);
     reaction.errorBefore = error(16);
@@ -245,7 +245,7 @@ TEST_F(ControlTest, TheTestThatFailedIsNamedBesideTheCause)
               "failed).");
 }
 
-TEST_F(ControlTest, ARefusalWithoutACauseGivesTheAccessError)
+TEST_F(ControlTest, aRefusalWithoutACauseGivesTheAccessError)
 {
     open(ControlModel::DirectNormal);
     reaction.refusal = DataAccessError::ObjectAccessDenied;
@@ -256,7 +256,7 @@ TEST_F(ControlTest, ARefusalWithoutACauseGivesTheAccessError)
         std::string::npos);
 }
 
-TEST_F(ControlTest, CausesOfOtherCommandsAreNotTakenForThisOne)
+TEST_F(ControlTest, causesOfOtherCommandsAreNotTakenForThisOne)
 {
     open(ControlModel::DirectNormal);
     reaction.refusal = DataAccessError::ObjectAccessDenied;
@@ -270,7 +270,7 @@ TEST_F(ControlTest, CausesOfOtherCommandsAreNotTakenForThisOne)
     EXPECT_EQ(client->unclaimedReports(), others.size());
 }
 
-TEST_F(ControlTest, ACauseOfThePreviousCommandIsForgotten)
+TEST_F(ControlTest, aCauseOfThePreviousCommandIsForgotten)
 {
     open(ControlModel::DirectNormal);
     reaction.errorBefore = error(10);
@@ -280,21 +280,21 @@ TEST_F(ControlTest, ACauseOfThePreviousCommandIsForgotten)
     EXPECT_FALSE(run(control->operate(request())).applError);
 }
 
-TEST_F(ControlTest, EnhancedModelsWaitForTheTermination)
+TEST_F(ControlTest, enhancedModelsWaitForTheTermination)
 {
     open(ControlModel::DirectEnhanced);
     reaction.terminates = true;
     EXPECT_TRUE(run(control->operate(request(), 1h)).ok);
 }
 
-TEST_F(ControlTest, ATerminationThatOvertakesTheAnswerCounts)
+TEST_F(ControlTest, aTerminationThatOvertakesTheAnswerCounts)
 {
     open(ControlModel::DirectEnhanced);
     reaction.terminatesFirst = true;
     EXPECT_TRUE(run(control->operate(request(), 1h)).ok);
 }
 
-TEST_F(ControlTest, ANegativeTerminationGivesTheAdditionalCause)
+TEST_F(ControlTest, aNegativeTerminationGivesTheAdditionalCause)
 {
     open(ControlModel::SelectEnhanced);
     reaction.terminates = true;
@@ -305,7 +305,7 @@ TEST_F(ControlTest, ANegativeTerminationGivesTheAdditionalCause)
     EXPECT_EQ(result.applError, error(17));
 }
 
-TEST_F(ControlTest, AnErrorAfterAcceptanceEndsTheCommandWithoutSuccess)
+TEST_F(ControlTest, anErrorAfterAcceptanceEndsTheCommandWithoutSuccess)
 {
     open(ControlModel::DirectEnhanced);
     reaction.errorAfter = error(16);
@@ -314,7 +314,7 @@ TEST_F(ControlTest, AnErrorAfterAcceptanceEndsTheCommandWithoutSuccess)
     EXPECT_EQ(result.applError, error(16));
 }
 
-TEST_F(ControlTest, TheTerminationOfAnotherCommandDoesNotCount)
+TEST_F(ControlTest, theTerminationOfAnotherCommandDoesNotCount)
 {
     open(ControlModel::DirectEnhanced);
     reaction.terminates = true;
@@ -324,7 +324,7 @@ TEST_F(ControlTest, TheTerminationOfAnotherCommandDoesNotCount)
     EXPECT_EQ(client->unclaimedReports(), 1U);
 }
 
-TEST_F(ControlTest, AMissingTerminationIsNoSuccess)
+TEST_F(ControlTest, aMissingTerminationIsNoSuccess)
 {
     open(ControlModel::DirectEnhanced);
     const ControlResult result = run(control->operate(request(), 100ms));
@@ -333,7 +333,7 @@ TEST_F(ControlTest, AMissingTerminationIsNoSuccess)
                               "within 0.1 s how it ended.");
 }
 
-TEST_F(ControlTest, TheEndOfTheAssociationEndsTheWaitForATermination)
+TEST_F(ControlTest, theEndOfTheAssociationEndsTheWaitForATermination)
 {
     open(ControlModel::DirectEnhanced);
     reaction.aborts = true;
@@ -346,7 +346,7 @@ TEST_F(ControlTest, TheEndOfTheAssociationEndsTheWaitForATermination)
         << result.message;
 }
 
-TEST_F(ControlTest, ACauseThatComesJustAfterTheRefusalCounts)
+TEST_F(ControlTest, aCauseThatComesJustAfterTheRefusalCounts)
 {
     open(ControlModel::DirectNormal);
     reaction.refusal = DataAccessError::ObjectAccessDenied;
@@ -356,7 +356,7 @@ TEST_F(ControlTest, ACauseThatComesJustAfterTheRefusalCounts)
     EXPECT_EQ(result.outcome, ControlOutcome::Refused);
 }
 
-TEST_F(ControlTest, ACauseIsUnderstoodWhenOnlyOneCallCanBeMeant)
+TEST_F(ControlTest, aCauseIsUnderstoodWhenOnlyOneCallCanBeMeant)
 {
     open(ControlModel::SelectEnhanced);
     reaction.refusal = DataAccessError::ObjectAccessDenied;
@@ -371,7 +371,7 @@ TEST_F(ControlTest, ACauseIsUnderstoodWhenOnlyOneCallCanBeMeant)
     }
 }
 
-TEST_F(ControlTest, ARefusalWithoutACauseInItsErrorGivesTheAccessError)
+TEST_F(ControlTest, aRefusalWithoutACauseInItsErrorGivesTheAccessError)
 {
     open(ControlModel::DirectNormal);
     reaction.refusal = DataAccessError::TemporarilyUnavailable;
@@ -382,7 +382,7 @@ TEST_F(ControlTest, ARefusalWithoutACauseInItsErrorGivesTheAccessError)
                   mms::describe(DataAccessError::TemporarilyUnavailable).english());
 }
 
-TEST_F(ControlTest, ARefusalByServiceErrorOrRejectIsARefusal)
+TEST_F(ControlTest, aRefusalByServiceErrorOrRejectIsARefusal)
 {
     open(ControlModel::DirectNormal);
     bool rejects = false;
@@ -409,7 +409,7 @@ TEST_F(ControlTest, ARefusalByServiceErrorOrRejectIsARefusal)
     }
 }
 
-TEST_F(ControlTest, AnErrorOfNoneInATerminationIsSuccess)
+TEST_F(ControlTest, anErrorOfNoneInATerminationIsSuccess)
 {
     open(ControlModel::DirectEnhanced);
     reaction.terminates = true;
@@ -420,7 +420,7 @@ TEST_F(ControlTest, AnErrorOfNoneInATerminationIsSuccess)
     EXPECT_FALSE(run(control->operate(request(), 1h)).ok);
 }
 
-TEST_F(ControlTest, TheCauseOfAnotherObjectInATerminationIsNotShown)
+TEST_F(ControlTest, theCauseOfAnotherObjectInATerminationIsNotShown)
 {
     open(ControlModel::DirectEnhanced);
     reaction.terminates = true;
@@ -432,7 +432,7 @@ TEST_F(ControlTest, TheCauseOfAnotherObjectInATerminationIsNotShown)
                               "not say why.");
 }
 
-TEST_F(ControlTest, ATerminationThatNobodyWaitsForAnyMoreIsHeard)
+TEST_F(ControlTest, aTerminationThatNobodyWaitsForAnyMoreIsHeard)
 {
     open(ControlModel::DirectEnhanced);
     wiretest::Awaited<ControlResult> late;
@@ -446,7 +446,7 @@ TEST_F(ControlTest, ATerminationThatNobodyWaitsForAnyMoreIsHeard)
     EXPECT_EQ(told.applError, error(17));
 }
 
-TEST_F(ControlTest, AnAnswerThatNobodyWaitsForAnyMoreIsHeard)
+TEST_F(ControlTest, anAnswerThatNobodyWaitsForAnyMoreIsHeard)
 {
     clientOptions.callTimeout = 500ms;
     open(ControlModel::DirectNormal);
@@ -467,7 +467,7 @@ TEST_F(ControlTest, AnAnswerThatNobodyWaitsForAnyMoreIsHeard)
     EXPECT_EQ(late.get().outcome, ControlOutcome::Done);
 }
 
-TEST_F(ControlTest, TheEndOfTheAssociationLeavesACommandUnknown)
+TEST_F(ControlTest, theEndOfTheAssociationLeavesACommandUnknown)
 {
     open(ControlModel::DirectNormal);
     device->intercept = [](const auto &association, std::uint32_t, mms::RequestService &service) {
@@ -480,7 +480,7 @@ TEST_F(ControlTest, TheEndOfTheAssociationLeavesACommandUnknown)
     EXPECT_EQ(run(control->operate(request())).outcome, ControlOutcome::NotSent);
 }
 
-TEST_F(ControlTest, CancelWritesTheCommandWithoutChecks)
+TEST_F(ControlTest, cancelWritesTheCommandWithoutChecks)
 {
     open(ControlModel::SelectNormal);
     EXPECT_TRUE(run(control->cancel(request())).ok);
@@ -489,7 +489,7 @@ TEST_F(ControlTest, CancelWritesTheCommandWithoutChecks)
     EXPECT_EQ(writes[0].values[0], *controlValue(commandType(false), request()));
 }
 
-TEST_F(ControlTest, WhatACancelHasNoPlaceForKeepsNobodyFromCancelling)
+TEST_F(ControlTest, whatACancelHasNoPlaceForKeepsNobodyFromCancelling)
 {
     open(ControlModel::SelectNormal);
     ControlRequest given = request();
@@ -500,7 +500,7 @@ TEST_F(ControlTest, WhatACancelHasNoPlaceForKeepsNobodyFromCancelling)
               *controlValue(commandType(false), request()));
 }
 
-TEST_F(ControlTest, ACommandCanBeCancelledWhileItIsExecuted)
+TEST_F(ControlTest, aCommandCanBeCancelledWhileItIsExecuted)
 {
     open(ControlModel::DirectEnhanced);
     device->intercept = [this](const auto &association, std::uint32_t invokeId,
@@ -526,7 +526,7 @@ TEST_F(ControlTest, ACommandCanBeCancelledWhileItIsExecuted)
     EXPECT_EQ(result.applError, error(15));
 }
 
-TEST_F(ControlTest, WhatDoesNotFitTheDeviceIsNotSent)
+TEST_F(ControlTest, whatDoesNotFitTheDeviceIsNotSent)
 {
     open(ControlModel::DirectNormal);
     ControlRequest bad = request();
@@ -537,7 +537,7 @@ TEST_F(ControlTest, WhatDoesNotFitTheDeviceIsNotSent)
     EXPECT_TRUE(device->requestsOf<mms::WriteRequest>().empty());
 }
 
-TEST_F(ControlTest, AfterTheEndOfTheAssociationACommandFailsAtOnce)
+TEST_F(ControlTest, afterTheEndOfTheAssociationACommandFailsAtOnce)
 {
     open(ControlModel::DirectNormal);
     asio::co_spawn(client->strand(), client->close(), asio::use_future).get();

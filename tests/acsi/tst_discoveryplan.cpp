@@ -189,7 +189,7 @@ void expectWhole(const mms::Result<ServerDescription> &server)
     }
 }
 
-TEST(DiscoveryPlan, FindsEverythingWithinItsWindow)
+TEST(DiscoveryPlan, findsEverythingWithinItsWindow)
 {
     for (const std::size_t window : {1U, 2U, 5U, 100U}) {
         PlanDriver driver(window);
@@ -209,7 +209,7 @@ TEST(DiscoveryPlan, FindsEverythingWithinItsWindow)
     }
 }
 
-TEST(DiscoveryPlan, NodesOfEqualTypeShareOneDescription)
+TEST(DiscoveryPlan, nodesOfEqualTypeShareOneDescription)
 {
     PlanDriver driver(5);
     const auto server = driver.run();
@@ -225,7 +225,7 @@ TEST(DiscoveryPlan, NodesOfEqualTypeShareOneDescription)
     EXPECT_EQ(server->devices[0].nodes[0].type, nodeType());
 }
 
-TEST(DiscoveryPlan, NeedsFewRoundTripsForALargeDevice)
+TEST(DiscoveryPlan, needsFewRoundTripsForALargeDevice)
 {
     PlanDriver driver(5);
     driver.devices = {"LD0", "LD1", "LD2", "LD3"};
@@ -242,7 +242,7 @@ TEST(DiscoveryPlan, NeedsFewRoundTripsForALargeDevice)
     EXPECT_LE(driver.roundTrips, driver.requests / 5 + 3);
 }
 
-TEST(DiscoveryPlan, PagesOfADomainAreNeverAskedTwice)
+TEST(DiscoveryPlan, pagesOfADomainAreNeverAskedTwice)
 {
     PlanDriver driver(5);
     std::vector<std::pair<std::string, std::string>> asked;
@@ -259,7 +259,7 @@ TEST(DiscoveryPlan, PagesOfADomainAreNeverAskedTwice)
     EXPECT_GT(asked.size(), 2U);
 }
 
-TEST(DiscoveryPlan, TypeTooLargeIsAskedForByConstraintAndThenByData)
+TEST(DiscoveryPlan, typeTooLargeIsAskedForByConstraintAndThenByData)
 {
     for (const std::size_t window : {1U, 5U}) {
         PlanDriver driver(window);
@@ -285,7 +285,7 @@ TEST(DiscoveryPlan, TypeTooLargeIsAskedForByConstraintAndThenByData)
     }
 }
 
-TEST(DiscoveryPlan, WhatWasDescribedInPartsIsMarked)
+TEST(DiscoveryPlan, whatWasDescribedInPartsIsMarked)
 {
     PlanDriver driver(5);
     driver.instead = [](const auto &request) -> std::optional<CallOutcome> {
@@ -310,7 +310,7 @@ TEST(DiscoveryPlan, WhatWasDescribedInPartsIsMarked)
     EXPECT_EQ(partsToldWhole(whole, "XCBR10$ST"), std::vector<std::string>{"XCBR10$ST"});
 }
 
-TEST(DiscoveryPlan, OrderOfPartsIsThatOfTheNamesAndConstraintsHaveTheirOwn)
+TEST(DiscoveryPlan, orderOfPartsIsThatOfTheNamesAndConstraintsHaveTheirOwn)
 {
     PlanDriver driver(5);
     driver.instead = [](const auto &request) -> std::optional<CallOutcome> {
@@ -338,7 +338,7 @@ auto typesOf(std::map<std::string, TypeDescription> types)
     };
 }
 
-TEST(DiscoveryPlan, ArraysOfEnormousCountsAreLeftOutAndTheRestIsReadInParts)
+TEST(DiscoveryPlan, arraysOfEnormousCountsAreLeftOutAndTheRestIsReadInParts)
 {
     const TypeDescription plain =
         TypeDescription::structure({{"stVal", TypeDescription::boolean()}});
@@ -386,7 +386,7 @@ TEST(DiscoveryPlan, ArraysOfEnormousCountsAreLeftOutAndTheRestIsReadInParts)
                   "is left out."}));
 }
 
-TEST(DiscoveryPlan, WhatIsNestedTooDeeplyIsLeftOut)
+TEST(DiscoveryPlan, whatIsNestedTooDeeplyIsLeftOut)
 {
     TypeDescription deep = TypeDescription::boolean();
     for (int i = 0; i < 40; ++i)
@@ -401,7 +401,7 @@ TEST(DiscoveryPlan, WhatIsNestedTooDeeplyIsLeftOut)
     EXPECT_TRUE(partsToldWhole(server->devices[0].nodes[0], "LLN0$ST").empty());
 }
 
-TEST(DiscoveryPlan, LimitsEndTheReadingWithASentence)
+TEST(DiscoveryPlan, limitsEndTheReadingWithASentence)
 {
     const auto leftOut = [](DiscoveryLimits limits, auto change) {
         PlanDriver driver(5, limits);
@@ -445,7 +445,7 @@ TEST(DiscoveryPlan, LimitsEndTheReadingWithASentence)
                                        "octets that are taken; the rest is left out."});
 }
 
-TEST(DiscoveryPlan, WhatWasNotToldInTimeIsLeftOut)
+TEST(DiscoveryPlan, whatWasNotToldInTimeIsLeftOut)
 {
     DiscoveryPlan plan(5);
     ASSERT_TRUE(plan.next());
@@ -458,7 +458,7 @@ TEST(DiscoveryPlan, WhatWasNotToldInTimeIsLeftOut)
                                        "what it had not told by then is left out."});
 }
 
-TEST(DiscoveryPlan, AKnownIdentityIsNotAskedFor)
+TEST(DiscoveryPlan, aKnownIdentityIsNotAskedFor)
 {
     DiscoveryPlan plan(5, {}, mms::IdentifyResponse{"known", {}, {}, {}});
     while (const auto request = plan.next())
@@ -467,7 +467,7 @@ TEST(DiscoveryPlan, AKnownIdentityIsNotAskedFor)
     EXPECT_EQ(plan.take()->identity.vendor, "known");
 }
 
-TEST(DiscoveryPlan, RefusedObjectsAreNamedAndLeftOut)
+TEST(DiscoveryPlan, refusedObjectsAreNamedAndLeftOut)
 {
     PlanDriver driver(5);
     driver.dataSets = {"LLN0$a", "LLN0$b"};
@@ -503,7 +503,7 @@ TEST(DiscoveryPlan, RefusedObjectsAreNamedAndLeftOut)
                                                  "LD1/XCBR1: Access to the object is denied."}));
 }
 
-TEST(DiscoveryPlan, NamesThatNoReferenceCanHaveAreLeftOutAndTheRestIsReadInParts)
+TEST(DiscoveryPlan, namesThatNoReferenceCanHaveAreLeftOutAndTheRestIsReadInParts)
 {
     PlanDriver driver(5);
     driver.devices = {"LD0"};
@@ -542,7 +542,7 @@ TEST(DiscoveryPlan, NamesThatNoReferenceCanHaveAreLeftOutAndTheRestIsReadInParts
     }
 }
 
-TEST(DiscoveryPlan, RefusedNamesOfOneDeviceDoNotSpoilTheOthers)
+TEST(DiscoveryPlan, refusedNamesOfOneDeviceDoNotSpoilTheOthers)
 {
     PlanDriver driver(5);
     driver.instead = [](const auto &request) -> std::optional<CallOutcome> {
@@ -561,7 +561,7 @@ TEST(DiscoveryPlan, RefusedNamesOfOneDeviceDoNotSpoilTheOthers)
                   "The names of the data of LD0: Access to the object is denied."}));
 }
 
-TEST(DiscoveryPlan, DeviceThatListsNothingIsAnError)
+TEST(DiscoveryPlan, deviceThatListsNothingIsAnError)
 {
     PlanDriver driver(5);
     driver.instead = [](const auto &request) -> std::optional<CallOutcome> {
@@ -575,7 +575,7 @@ TEST(DiscoveryPlan, DeviceThatListsNothingIsAnError)
                                       "the object is denied.");
 }
 
-TEST(DiscoveryPlan, PeerConfusedBySeveralRequestsIsAskedOneByOne)
+TEST(DiscoveryPlan, peerConfusedBySeveralRequestsIsAskedOneByOne)
 {
     const std::vector<CallOutcome> confusions = {
         rejected,
@@ -597,7 +597,7 @@ TEST(DiscoveryPlan, PeerConfusedBySeveralRequestsIsAskedOneByOne)
     }
 }
 
-TEST(DiscoveryPlan, AnswersOfAConfusedPeerThatFitAreKept)
+TEST(DiscoveryPlan, answersOfAConfusedPeerThatFitAreKept)
 {
     PlanDriver driver(5);
     bool first = true;
@@ -611,7 +611,7 @@ TEST(DiscoveryPlan, AnswersOfAConfusedPeerThatFitAreKept)
     EXPECT_EQ(driver.askedTypes.size(), 6U);
 }
 
-TEST(DiscoveryPlan, RejectedJournalsAndListsOfTheAssociationAreNoConfusion)
+TEST(DiscoveryPlan, rejectedJournalsAndListsOfTheAssociationAreNoConfusion)
 {
     PlanDriver driver(5);
     driver.instead = [](const auto &request) -> std::optional<CallOutcome> {
@@ -627,7 +627,7 @@ TEST(DiscoveryPlan, RejectedJournalsAndListsOfTheAssociationAreNoConfusion)
     EXPECT_FALSE(driver.plan.isSequential());
 }
 
-TEST(DiscoveryPlan, SilenceAboutJournalsIsNotTheEnd)
+TEST(DiscoveryPlan, silenceAboutJournalsIsNotTheEnd)
 {
     PlanDriver driver(1);
     std::size_t asked = 0;
@@ -642,7 +642,7 @@ TEST(DiscoveryPlan, SilenceAboutJournalsIsNotTheEnd)
     EXPECT_EQ(asked, 1U);
 }
 
-TEST(DiscoveryPlan, SilenceAboutOneObjectIsNamed)
+TEST(DiscoveryPlan, silenceAboutOneObjectIsNamed)
 {
     PlanDriver driver(1);
     driver.dataSets = {"LLN0$a", "LLN0$b"};
@@ -661,7 +661,7 @@ TEST(DiscoveryPlan, SilenceAboutOneObjectIsNamed)
     EXPECT_EQ(server->devices[1].dataSets.size(), 1U);
 }
 
-TEST(DiscoveryPlan, DeadDeviceIsGivenUpSoon)
+TEST(DiscoveryPlan, deadDeviceIsGivenUpSoon)
 {
     PlanDriver driver(5);
     driver.instead = [&driver](const auto &) -> std::optional<CallOutcome> {
@@ -676,7 +676,7 @@ TEST(DiscoveryPlan, DeadDeviceIsGivenUpSoon)
     EXPECT_LE(driver.requests, 30U);
 }
 
-TEST(DiscoveryPlan, LostAssociationEndsIt)
+TEST(DiscoveryPlan, lostAssociationEndsIt)
 {
     PlanDriver driver(5);
     driver.instead = [&driver](const auto &) -> std::optional<CallOutcome> {
@@ -690,7 +690,7 @@ TEST(DiscoveryPlan, LostAssociationEndsIt)
     EXPECT_EQ(server.error().message, "The peer closed the network connection.");
 }
 
-TEST(DiscoveryPlan, RepeatedPagesAreNamedAndEndTheList)
+TEST(DiscoveryPlan, repeatedPagesAreNamedAndEndTheList)
 {
     PlanDriver driver(5);
     driver.instead = [](const auto &request) -> std::optional<CallOutcome> {
@@ -705,7 +705,7 @@ TEST(DiscoveryPlan, RepeatedPagesAreNamedAndEndTheList)
     EXPECT_EQ(server->refused.size(), 2U);
 }
 
-TEST(DiscoveryPlan, NodeIsFoundByTheNamesOfItsParts)
+TEST(DiscoveryPlan, nodeIsFoundByTheNamesOfItsParts)
 {
     PlanDriver driver(5);
     driver.devices = {"LD0"};
@@ -724,7 +724,7 @@ TEST(DiscoveryPlan, NodeIsFoundByTheNamesOfItsParts)
     EXPECT_EQ(*typeBelow(type, "ST", "Pos$stVal"), TypeDescription::boolean());
 }
 
-TEST(DiscoveryPlan, VariableThatIsNoLogicalNodeIsNamed)
+TEST(DiscoveryPlan, variableThatIsNoLogicalNodeIsNamed)
 {
     PlanDriver driver(5);
     driver.instead = [](const auto &request) -> std::optional<CallOutcome> {

@@ -173,7 +173,7 @@ private:
 
 } // namespace
 
-TEST_F(DeviceBehaviourTest, ControlsOfEveryModelReachTheProcess)
+TEST_F(DeviceBehaviourTest, controlsOfEveryModelReachTheProcess)
 {
     EXPECT_EQ(operate("IED1LD/CSWI1$CO$Pos"), "done");
     Caller caller(m_loop.executor(), m_running.port);
@@ -184,7 +184,7 @@ TEST_F(DeviceBehaviourTest, ControlsOfEveryModelReachTheProcess)
     EXPECT_EQ(read(caller, "GGIO1$ST$SPCSO3$stVal"), Data::boolean(true));
 }
 
-TEST_F(DeviceBehaviourTest, RefusedControlsSayWhy)
+TEST_F(DeviceBehaviourTest, refusedControlsSayWhy)
 {
     set("CILO1$ST$EnaCls$stVal", Data::boolean(false));
     EXPECT_EQ(operate("IED1LD/CSWI1$CO$Pos"), "select 10");
@@ -192,7 +192,7 @@ TEST_F(DeviceBehaviourTest, RefusedControlsSayWhy)
     EXPECT_EQ(operate("IED1LD/GGIO1$CO$SPCSO3"), "operate 2");
 }
 
-TEST_F(DeviceBehaviourTest, AnOperationIsReportedToWhoListens)
+TEST_F(DeviceBehaviourTest, anOperationIsReportedToWhoListens)
 {
     Inbox inbox;
     Caller listener(m_loop.executor(), m_running.port, {}, inbox.handlers());
@@ -210,7 +210,7 @@ TEST_F(DeviceBehaviourTest, AnOperationIsReportedToWhoListens)
     EXPECT_EQ(positions, (std::vector<std::string>{"00", "10"}));
 }
 
-TEST_F(DeviceBehaviourTest, AGeneralInterrogationFollowsItsAnswer)
+TEST_F(DeviceBehaviourTest, aGeneralInterrogationFollowsItsAnswer)
 {
     Inbox inbox;
     Caller listener(m_loop.executor(), m_running.port, {}, inbox.handlers());
@@ -222,7 +222,7 @@ TEST_F(DeviceBehaviourTest, AGeneralInterrogationFollowsItsAnswer)
     EXPECT_EQ(report.members[1].value.data(), position("01"));
 }
 
-TEST_F(DeviceBehaviourTest, ABufferedBlockResumesOnTheNextAssociation)
+TEST_F(DeviceBehaviourTest, aBufferedBlockResumesOnTheNextAssociation)
 {
     std::vector<std::uint8_t> seen;
     {
@@ -248,7 +248,7 @@ TEST_F(DeviceBehaviourTest, ABufferedBlockResumesOnTheNextAssociation)
     EXPECT_EQ(last.bufOvfl, false);
 }
 
-TEST_F(DeviceBehaviourTest, ABlockIsFreeOnceItsClientHasLeft)
+TEST_F(DeviceBehaviourTest, aBlockIsFreeOnceItsClientHasLeft)
 {
     Caller second(m_loop.executor(), m_running.port);
     {
@@ -266,7 +266,7 @@ TEST_F(DeviceBehaviourTest, ABlockIsFreeOnceItsClientHasLeft)
     EXPECT_EQ(refused, "");
 }
 
-TEST_F(DeviceBehaviourTest, AReportLongerThanThePduComesInSegments)
+TEST_F(DeviceBehaviourTest, aReportLongerThanThePduComesInSegments)
 {
     Inbox inbox;
     mms::AssociationOptions options;
@@ -297,7 +297,7 @@ TEST_F(DeviceBehaviourTest, AReportLongerThanThePduComesInSegments)
     EXPECT_EQ(whole->members.size(), 24U);
 }
 
-TEST_F(DeviceBehaviourTest, SettingsAreChangedByGroupAndByEdit)
+TEST_F(DeviceBehaviourTest, settingsAreChangedByGroupAndByEdit)
 {
     Caller caller(m_loop.executor(), m_running.port);
     const std::string active = "PTOC1$SG$StrVal$setMag$f";
