@@ -24,18 +24,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
             const auto accessed = acsi::referenceOf(acsi::accessOf(*first));
             check(accessed && *accessed == *first);
         }
-        if (first->constraint) {
-            const auto dotted =
-                acsi::parseObjectReference(acsi::objectReferenceText(*first), *first->constraint);
-            check(dotted && *dotted == *first);
-        }
     } else {
         check(!first.error().message.empty());
-    }
-    const auto dotted = acsi::parseObjectReference(text, acsi::FunctionalConstraint::MX);
-    if (dotted) {
-        const auto printed = acsi::parseReference(acsi::toText(*dotted));
-        check(printed && *printed == *dotted);
     }
     return 0;
 }

@@ -88,12 +88,6 @@ std::shared_ptr<DataSet> DataSets::find(const Peer *client, std::string_view ref
                 mms::ObjectName::inDomain(reference.substr(0, slash), reference.substr(slash + 1)));
 }
 
-std::string DataSets::reference(const DataSet &dataSet)
-{
-    return dataSet.name.scope == Scope::Association ? "@" + dataSet.name.item
-                                                    : dataSet.name.domain + "/" + dataSet.name.item;
-}
-
 DataSets::Names *DataSets::namesOf(const Peer &client, const mms::ObjectName &name)
 {
     if (name.scope == Scope::Association)

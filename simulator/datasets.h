@@ -56,8 +56,6 @@ public:
     std::shared_ptr<DataSet> find(const Peer *client, const mms::ObjectName &name) const;
     /// By a reference as in a control block: "LD/LN$name", or "@name" for @p client's own.
     std::shared_ptr<DataSet> find(const Peer *client, std::string_view reference) const;
-    /// The reference of a data set, as find() takes it.
-    static std::string reference(const DataSet &dataSet);
 
     std::optional<mms::ServiceError> define(Peer &client,
                                             const mms::DefineNamedVariableListRequest &request);

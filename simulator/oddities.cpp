@@ -8,6 +8,15 @@ namespace sim {
 
 namespace {
 
+/// One oddity that can be asked for by name.
+struct OddityCase
+{
+    std::string_view name;    ///< "sorted-names"
+    std::string_view purpose; ///< one sentence
+    bool Oddities::*flag;
+};
+
+/// In the order of the documentation.
 constexpr std::array cases = {
     // Names and types
     OddityCase{"names-in-type-order",
@@ -68,11 +77,6 @@ constexpr std::array cases = {
 };
 
 } // namespace
-
-std::span<const OddityCase> oddityCases()
-{
-    return cases;
-}
 
 mms::Result<void> addOddity(Oddities &oddities, std::string_view name)
 {

@@ -3,7 +3,6 @@
 
 #include "mms/vocabulary.h"
 
-#include <span>
 #include <string>
 #include <string_view>
 
@@ -53,17 +52,6 @@ struct Oddities
 
     bool noStatus = false;
 };
-
-/// One oddity that can be asked for by name.
-struct OddityCase
-{
-    std::string_view name;    ///< "sorted-names"
-    std::string_view purpose; ///< one sentence
-    bool Oddities::*flag;
-};
-
-/// Every one, in the order of the documentation.
-std::span<const OddityCase> oddityCases();
 
 /// @p oddities with the one of that name. The error names those that there are.
 mms::Result<void> addOddity(Oddities &oddities, std::string_view name);

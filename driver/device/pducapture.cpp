@@ -69,14 +69,6 @@ void PduCapture::add(osi::Direction direction, mms::Bytes pdu)
     }
 }
 
-void PduCapture::clear()
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_entries.clear();
-    m_octets = 0;
-    m_dropped = 0;
-}
-
 bool PduCapture::save(QIODevice &device) const
 {
     // Copied, so that a slow disk does not hold up the association.

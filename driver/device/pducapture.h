@@ -26,7 +26,6 @@ public:
     explicit PduCapture(std::size_t limit = defaultLimit);
 
     void add(osi::Direction direction, osi::Bytes pdu);
-    void clear();
 
     /// Writes what is there as a capture that protocol analysers open (pcapng). False when the
     /// device does not take it; its error text says why.

@@ -367,13 +367,4 @@ asio::awaitable<mms::Result<void>> deleteFile(std::shared_ptr<Client> client, st
     co_return mms::Result<void>();
 }
 
-asio::awaitable<mms::Result<void>> renameFile(std::shared_ptr<Client> client, std::string from,
-                                              std::string to)
-{
-    const mms::CallOutcome renamed = co_await renameCall(std::move(client), from, std::move(to));
-    if (!mms::answerOf<mms::FileRenameResponse>(renamed))
-        co_return mms::Error{say("%1: %2.", from, errorOf(renamed).message), 0};
-    co_return mms::Result<void>();
-}
-
 } // namespace acsi

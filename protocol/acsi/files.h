@@ -70,7 +70,5 @@ asio::awaitable<mms::Result<void>> upload(std::shared_ptr<Client> client, std::s
                                           FileSource source);
 
 asio::awaitable<mms::Result<void>> deleteFile(std::shared_ptr<Client> client, std::string name);
-asio::awaitable<mms::Result<void>> renameFile(std::shared_ptr<Client> client, std::string from,
-                                              std::string to);
 
 } // namespace acsi

@@ -40,11 +40,11 @@ bool isPartName(std::string_view text)
 
 /// The text before the next separator, which is taken away together with it. Nothing after the
 /// last part.
-std::optional<std::string_view> takePart(std::optional<std::string_view> &rest, char separator)
+std::optional<std::string_view> takePart(std::optional<std::string_view> &rest)
 {
     if (!rest)
         return std::nullopt;
-    const std::size_t end = rest->find(separator);
+    const std::size_t end = rest->find(wireSeparator);
     const std::string_view part = rest->substr(0, end);
     if (end == std::string_view::npos)
         rest.reset();
@@ -74,10 +74,10 @@ std::optional<PathStep> stepFrom(std::string_view text)
 }
 
 /// Appends what is behind the functional constraint; the error's text when it is wrong.
-std::optional<mms::Text> appendPath(std::optional<std::string_view> rest, char separator,
+std::optional<mms::Text> appendPath(std::optional<std::string_view> rest,
                                     std::vector<PathStep> &path)
 {
-    while (const auto part = takePart(rest, separator)) {
+    while (const auto part = takePart(rest)) {
         auto step = stepFrom(*part);
         if (!step)
             return say("%1 is no name of data.", mms::quoted(*part));
@@ -94,15 +94,15 @@ mms::Result<Reference> parseItem(std::string_view whole, std::string_view device
         return wrong(whole, say("the name of the logical device is missing or wrong."));
     reference.device = device;
     std::optional<std::string_view> rest = item;
-    reference.node = *takePart(rest, wireSeparator);
+    reference.node = *takePart(rest);
     if (!isPartName(reference.node))
         return wrong(whole, say("the name of the logical node is missing or wrong."));
-    if (const auto constraint = takePart(rest, wireSeparator)) {
+    if (const auto constraint = takePart(rest)) {
         reference.constraint = functionalConstraintFrom(*constraint);
         if (!reference.constraint)
             return wrong(whole, say("%1 is no functional constraint.", mms::quoted(*constraint)));
     }
-    if (const auto error = appendPath(rest, wireSeparator, reference.path))
+    if (const auto error = appendPath(rest, reference.path))
         return wrong(whole, *error);
     return reference;
 }
@@ -157,25 +157,6 @@ mms::Result<Reference> parseReference(std::string_view text)
 mms::Result<Reference> parseReference(std::string_view device, std::string_view text)
 {
     return parseItem(text, device, text);
-}
-
-mms::Result<Reference> parseObjectReference(std::string_view text, FunctionalConstraint constraint)
-{
-    const std::size_t slash = text.find('/');
-    Reference reference;
-    reference.device = text.substr(0, slash);
-    if (!isDeviceName(reference.device))
-        return wrong(text, say("the name of the logical device is missing or wrong."));
-    std::optional<std::string_view> rest;
-    if (slash != std::string_view::npos)
-        rest = text.substr(slash + 1);
-    reference.node = takePart(rest, referenceSeparator).value_or(std::string_view());
-    if (!isPartName(reference.node))
-        return wrong(text, say("the name of the logical node is missing or wrong."));
-    reference.constraint = constraint;
-    if (const auto error = appendPath(rest, referenceSeparator, reference.path))
-        return wrong(text, *error);
-    return reference;
 }
 
 std::string toText(const Reference &reference)
@@ -245,7 +226,7 @@ mms::Result<Reference> referenceOf(const mms::VariableAccess &access)
             if (!reference->constraint)
                 return wrong(mms::toText(access), say("the functional constraint is missing."));
             // Some peers name a component of a component at once.
-            if (const auto error = appendPath(part.component, wireSeparator, path))
+            if (const auto error = appendPath(part.component, path))
                 return wrong(mms::toText(access), *error);
         } else if (part.kind == mms::AlternateAccess::Kind::Index && !path.empty() &&
                    !path.back().element) {

@@ -40,8 +40,6 @@ struct Reference
 mms::Result<Reference> parseReference(std::string_view text);
 /// The same without "LD/", within the logical device @p device.
 mms::Result<Reference> parseReference(std::string_view device, std::string_view text);
-/// Reads the notation of IEC 61850-7-2, "LD/LN.Data.har(3).mag", which carries no constraint.
-mms::Result<Reference> parseObjectReference(std::string_view text, FunctionalConstraint constraint);
 
 std::string toText(const Reference &reference);
 /// "LN$FC$Data$har(3)$mag": without the logical device.

@@ -55,31 +55,6 @@ asio::awaitable<SettingWrite> writeGroup(std::shared_ptr<Client> client, Referen
     co_return std::move(result);
 }
 
-/// What a device says of its arrays must not fill the memory.
-constexpr std::uint32_t maxElements = 10000;
-
-void collectLeaves(const Reference &reference, const TypeDescription &type,
-                   std::vector<SettingLeaf> &leaves)
-{
-    if (type.kind == TypeDescription::Kind::Structure) {
-        for (const TypeDescription::Component &component : type.components) {
-            Reference below = reference;
-            below.path.push_back({component.name, {}});
-            collectLeaves(below, component.type, leaves);
-        }
-    } else if (type.kind == TypeDescription::Kind::Array && type.elementCount <= maxElements) {
-        if (type.components.empty() || reference.path.empty())
-            return;
-        for (std::uint32_t i = 0; i < type.elementCount; ++i) {
-            Reference element = reference;
-            element.path.back().element = i;
-            collectLeaves(element, type.components.front().type, leaves);
-        }
-    } else {
-        leaves.push_back({reference, type});
-    }
-}
-
 } // namespace
 
 mms::Result<SettingGroupBlock> settingGroupBlockFrom(const TypeDescription &type, const Data &value)
@@ -193,20 +168,6 @@ asio::awaitable<std::vector<SettingWrite>> writeSettings(std::shared_ptr<Client>
             break;
     }
     co_return results;
-}
-
-std::vector<SettingLeaf> settingLeaves(const DeviceDescription &device,
-                                       FunctionalConstraint constraint)
-{
-    std::vector<SettingLeaf> leaves;
-    for (const NodeDescription &node : device.nodes) {
-        const auto group = std::ranges::find(node.type->components, toText(constraint),
-                                             &TypeDescription::Component::name);
-        if (group == node.type->components.end())
-            continue;
-        collectLeaves({device.name, node.name, constraint, {}}, group->type, leaves);
-    }
-    return leaves;
 }
 
 } // namespace acsi

@@ -64,15 +64,4 @@ asio::awaitable<std::vector<SettingWrite>> writeSettings(std::shared_ptr<Client>
                                                          std::vector<mms::VariableAccess> variables,
                                                          std::vector<mms::Data> values);
 
-struct SettingLeaf
-{
-    Reference reference;
-    mms::TypeDescription type;
-};
-
-/// Every setting of a logical device under SG or SE, down to single values, in the order of the
-/// model. An array of more than 10,000 elements stays whole.
-std::vector<SettingLeaf> settingLeaves(const DeviceDescription &device,
-                                       FunctionalConstraint constraint);
-
 } // namespace acsi

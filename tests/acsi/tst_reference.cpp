@@ -76,17 +76,6 @@ TEST(Reference, itemIsReadWithinALogicalDevice)
     EXPECT_EQ(*reference, harmonic());
 }
 
-TEST(Reference, notationWithDotsIsReadWithItsConstraint)
-{
-    const auto reference =
-        parseObjectReference("E1Q1MEAS/MHAI1.HA.phsAHar(3).cVal.mag", FunctionalConstraint::MX);
-    ASSERT_TRUE(reference.ok());
-    EXPECT_EQ(*reference, harmonic());
-    const auto node = parseObjectReference("LD0/LLN0", FunctionalConstraint::ST);
-    ASSERT_TRUE(node.ok());
-    EXPECT_EQ(toText(*node), "LD0/LLN0$ST");
-}
-
 TEST(Reference, wrongTextIsRefusedWithASentenceThatQuotesIt)
 {
     for (const char *text : {"",
@@ -121,9 +110,6 @@ TEST(Reference, wrongTextIsRefusedWithASentenceThatQuotesIt)
     }
     EXPECT_FALSE(parseReference("LD0", "").ok());
     EXPECT_FALSE(parseReference("", "LLN0").ok());
-    EXPECT_FALSE(parseObjectReference("LD0", FunctionalConstraint::ST).ok());
-    EXPECT_FALSE(parseObjectReference("LD0/LLN0.", FunctionalConstraint::ST).ok());
-    EXPECT_FALSE(parseObjectReference("LD0/LLN0$Mod", FunctionalConstraint::ST).ok());
 }
 
 TEST(Reference, dataIsAccessedByItsName)

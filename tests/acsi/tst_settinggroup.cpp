@@ -73,32 +73,6 @@ TEST(SettingGroupValue, whatDoesNotFitIsNamed)
     EXPECT_FALSE(settingGroupBlockFrom(blockType(), Data::structure({})).ok());
 }
 
-TEST(SettingLeaves, areTheSingleValuesInTheOrderOfTheModel)
-{
-    const Type analogue = Type::structure({{"f", Type::float32()}});
-    const Type point = Type::structure({{"x", Type::float32()}, {"y", Type::float32()}});
-    DeviceDescription device;
-    device.name = "LD";
-    device.nodes.push_back(
-        {"PTOC1",
-         Type::structure(
-             {{"ST", Type::structure({{"Op", Type::boolean()}})},
-              {"SG", Type::structure({{"StrVal", Type::structure({{"setMag", analogue}})},
-                                      {"Crv", Type::structure({{"pts", Type::array(2, point)}})},
-                                      {"Huge", Type::array(4000000000U, Type::boolean())}})}})});
-    device.nodes.push_back({"LLN0", Type::structure({{"SP", Type::structure({})}})});
-    std::vector<std::string> texts;
-    for (const SettingLeaf &leaf : settingLeaves(device, FunctionalConstraint::SG))
-        texts.push_back(toText(leaf.reference) + ' ' + mms::toText(leaf.type));
-    EXPECT_EQ(texts, (std::vector<std::string>{"LD/PTOC1$SG$StrVal$setMag$f floating-point(32)",
-                                               "LD/PTOC1$SG$Crv$pts(0)$x floating-point(32)",
-                                               "LD/PTOC1$SG$Crv$pts(0)$y floating-point(32)",
-                                               "LD/PTOC1$SG$Crv$pts(1)$x floating-point(32)",
-                                               "LD/PTOC1$SG$Crv$pts(1)$y floating-point(32)",
-                                               "LD/PTOC1$SG$Huge [4000000000] boolean"}));
-    EXPECT_TRUE(settingLeaves(device, FunctionalConstraint::SE).empty());
-}
-
 TEST_F(SettingGroupTest, theBlockIsReadFromTheDevice)
 {
     const auto read = run(readSettingGroupBlock(client, block));

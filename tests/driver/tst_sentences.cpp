@@ -272,9 +272,6 @@ void TestSentences::wrongNamesAreInTheReadersLanguage()
         const auto reference = acsi::parseReference(name);
         if (!reference)
             check(reference.error().message);
-        const auto object = acsi::parseObjectReference(name, acsi::FunctionalConstraint::ST);
-        if (!object)
-            check(object.error().message);
         const auto set = acsi::dataSetName("LD", name);
         if (!set)
             check(set.error().message);

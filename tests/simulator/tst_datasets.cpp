@@ -54,7 +54,7 @@ TEST_F(DataSetsTest, thoseOfTheFileAreThereWithTheirMembers)
     EXPECT_EQ(model.itemName(found->members[0].part), "XCBR1$ST$Pos");
     EXPECT_EQ(model.itemName(found->members[1].part), "MHAI1$MX$HA$phsAHar(2)$cVal$mag$f");
     EXPECT_EQ(std::get<ObjectName>(found->members[1].access.variable).item, "MHAI1$MX$HA$phsAHar");
-    EXPECT_EQ(found, dataSets.find(nullptr, DataSets::reference(*found)));
+    EXPECT_EQ(found, dataSets.find(nullptr, "IED1LD/LLN0$Positions"));
 }
 
 TEST_F(DataSetsTest, oneThatWasMadeCanBeFoundAndDeleted)
