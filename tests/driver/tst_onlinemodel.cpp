@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "driver/model/onlinemodel.h"
+#include "support/memoryuse.h"
 
 #include <QtCore/QDataStream>
+#include <QtCore/QHash>
 #include <QtTest/QtTest>
 
 using mms::TypeDescription;
@@ -64,6 +66,8 @@ class tst_OnlineModel : public QObject
 private slots:
     void nodesOfOneTypeHaveAttributesOfTheirOwn();
     void nodesOfOneTypeAndOtherClassesAreShownByTheirClass();
+    void equalTextsOfAModelAreKeptOnce();
+    void anAttributeTakesLittleMemory();
     void theBytesAreThoseOfTheDeviceThatIsReadFromThem();
 };
 
@@ -97,6 +101,52 @@ void tst_OnlineModel::nodesOfOneTypeAndOtherClassesAreShownByTheirClass()
     QCOMPARE(breaker->dataObjects.size(), 3);
     QCOMPARE(control->dataObjects.size(), 3);
     QCOMPARE(breaker->dataObjects.first()->type, QStringLiteral("DPC"));
+}
+
+void tst_OnlineModel::equalTextsOfAModelAreKeptOnce()
+{
+    // Of two types, each of which has a pattern of its own.
+    acsi::ServerDescription server = describedServer({"XCBR1", "XCBR2"}, nodeType());
+    Type other = nodeType();
+    other.components.pop_back();
+    server.devices[1].nodes[0].type = other;
+    const OnlineModel model(std::move(server), {}, nullptr);
+    QHash<QString, const QChar *> texts;
+    for (const OnlineModel::Leaf &leaf : leavesOf(model)) {
+        if (!leaf.attribute)
+            continue;
+        for (const QString *text :
+             {&leaf.attribute->name, &leaf.attribute->fc, &leaf.attribute->basicType}) {
+            const QChar *const known = texts.value(*text, text->constData());
+            QVERIFY2(known == text->constData(), qPrintable(leaf.reference));
+            texts.insert(*text, known);
+        }
+    }
+    QVERIFY(texts.size() > 5);
+}
+
+void tst_OnlineModel::anAttributeTakesLittleMemory()
+{
+    constexpr int objects = 20;
+    constexpr std::int64_t limit = 400; // octets, most of which are the reference and the node
+    std::vector<Type::Component> data;
+    for (int i = 1; i <= objects; ++i) {
+        data.push_back({"Ind" + std::to_string(i), Type::structure({{"stVal", Type::boolean()},
+                                                                    {"q", Type::bitString(-13)},
+                                                                    {"t", Type::utcTime()},
+                                                                    {"subEna", Type::boolean()}})});
+    }
+    const acsi::SharedType type(Type::structure({{"ST", Type::structure(std::move(data))}}));
+    std::vector<std::string> nodes;
+    for (int i = 1; i <= 150; ++i)
+        nodes.push_back("GGIO" + std::to_string(i));
+    const auto made = [&] { return OnlineModel(describedServer(nodes, type), {}, nullptr); };
+    // What the first one leaves behind is not the second one's.
+    QCOMPARE(made().leafCount(), 2U * 150 * objects * 4);
+    const std::int64_t before = testsupport::memoryInUse();
+    const OnlineModel model = made();
+    const std::int64_t taken = testsupport::memoryInUse() - before;
+    QVERIFY2(taken <= limit * model.leafCount(), qPrintable(QString::number(taken)));
 }
 
 void tst_OnlineModel::theBytesAreThoseOfTheDeviceThatIsReadFromThem()
