@@ -6,6 +6,7 @@
 #include "simulator/faults.h"
 #include "simulator/recordingclient.h"
 
+#include "driver/administration/publishcause.h"
 #include "driver/service/ieddriver.h"
 
 #include <devicemodel/mmsvalue.h>

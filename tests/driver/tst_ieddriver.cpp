@@ -47,6 +47,7 @@ private slots:
     void anOperationOnASilentDeviceEndsInTime();
     void anAbortedDeviceIsConnectedAgainByItsNextUse();
     void aDisconnectedDeviceStaysSo();
+    void whoConnectsALeftDeviceGetsANewAssociation();
     void devicesWithTheSameLogicalDevicesAreNotOnlineAtOnce();
     void anEditedDeviceKeepsItsNames();
     void readingTheModelCanBeCancelled();
@@ -298,6 +299,26 @@ void tst_IedDriver::aDisconnectedDeviceStaysSo()
     QList<NameVaildValue> list;
     QCOMPARE(driver.getServerDirectory(1, list, error), OperationNotConnected);
     QCOMPARE(error, QStringLiteral("Device 1 (IED1) is not connected."));
+}
+
+void tst_IedDriver::whoConnectsALeftDeviceGetsANewAssociation()
+{
+    SimulatedIed ied(station);
+    Listener listener;
+    IedDriver driver(listener.options());
+    driver.setDevice(configurationFor(ied));
+    driver.connectDevice(1);
+    QVERIFY(listener.waitForState(1, DeviceState::Online));
+    driver.disconnectDevice(1);
+    driver.connectDevice(1);
+    // It waits for that association as for a first one.
+    QString error;
+    QList<NameVaildValue> list;
+    QVERIFY2(driver.getServerDirectory(1, list, error) == OperationSucceeded, qPrintable(error));
+    QVERIFY(listener.waitForStatus(1, [](const DeviceStatus &status) {
+        return status.state == DeviceState::Online && status.counters.connections == 2;
+    }));
+    QCOMPARE(requests(driver, 1, "conclude"), 1);
 }
 
 void tst_IedDriver::devicesWithTheSameLogicalDevicesAreNotOnlineAtOnce()
