@@ -274,7 +274,7 @@ private:
     {
         IedDriverOptions options;
         options.poster = [](const QList<QByteArray> &) {};
-        options.statusChanged = [this](const DeviceStatus &status) {
+        options.observer.statusChanged = [this](const DeviceStatus &status) {
             if (status.state != DeviceState::Online)
                 return;
             const std::lock_guard<std::mutex> lock(m_mutex);

@@ -101,7 +101,7 @@ public:
     {
         const auto online = std::make_shared<std::atomic<bool>>(false);
         IedDriverOptions options;
-        options.statusChanged = [online](const DeviceStatus &status) {
+        options.observer.statusChanged = [online](const DeviceStatus &status) {
             *online = *online || status.state == DeviceState::Online;
         };
         m_driver = std::make_shared<IedDriver>(options);

@@ -120,7 +120,7 @@ public:
         IedDriverOptions options;
         options.threads = 2;
         options.poster = [this](const QList<QByteArray> &records) { take(records); };
-        options.statusChanged = [this](const DeviceStatus &status) {
+        options.observer.statusChanged = [this](const DeviceStatus &status) {
             const std::lock_guard<std::mutex> lock(m_mutex);
             m_states[status.number] = status.state;
             m_changed.notify_all();

@@ -14,7 +14,7 @@ class EventReceiver
 public:
     /// Events are kept from now on; those before are of no command.
     void listen();
-    /// For IedDriverOptions::reportReceived.
+    /// For DriverObserver::reportReceived.
     void take(const ReportEvent &event);
     /// Events that came, oldest first; waits for one at most @p waitMs milliseconds.
     QList<ReportEvent> receive(int waitMs);

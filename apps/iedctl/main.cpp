@@ -6,7 +6,7 @@
 #include "output.h"
 #include "session.h"
 
-#include "driver/service/ieddriver.h"
+#include "driver/service/embeddeddriver.h"
 #include <remoteclient/driverserviceregistry.h>
 
 #include <QtCore/QCoreApplication>
@@ -40,11 +40,12 @@ bool askAtTerminal(Output &output, const QString &sentence)
 ExitStatus run(const Invocation &invocation, Output &output)
 {
     DeviceObserver observer;
-    IedDriverOptions options;
     const auto events = std::make_shared<EventReceiver>();
-    options.reportReceived = [events](const ReportEvent &event) { events->take(event); };
-    options.statusChanged = [&observer](const DeviceStatus &status) { observer.take(status); };
-    const auto driver = std::make_shared<IedDriver>(options);
+    DriverObserver told;
+    told.reportReceived = [events](const ReportEvent &event) { events->take(event); };
+    told.statusChanged = [&observer](const DeviceStatus &status) { observer.take(status); };
+    const auto [driver, service] = startEmbeddedDriver({});
+    const auto subscription = driver->subscribe(told);
     const QStringList faults = driver->setDevice(invocation.device);
     if (!faults.isEmpty()) {
         output.complain(faults.join(QLatin1Char(' ')));
@@ -56,7 +57,8 @@ ExitStatus run(const Invocation &invocation, Output &output)
             "Warning: certificates that are made out to others are accepted; whoever holds the key "
             "of any of them can pose as this device."));
     }
-    const Interruption interruption([&driver] { driver->cancelOperations(deviceNumber); });
+    const Interruption interruption(
+        [driver = driver.get()] { driver->cancelOperations(deviceNumber); });
     if (!invocation.device.host.isEmpty()) {
         driver->connectDevice(deviceNumber);
         QString reason;
@@ -65,7 +67,7 @@ ExitStatus run(const Invocation &invocation, Output &output)
             return ExitStatus::NotConnected;
         }
     }
-    DriverServiceRegistry::add(driverAddress, driver);
+    DriverServiceRegistry::add(driverAddress, service);
     ExitStatus status = ExitStatus::Done;
     {
         Session session(driverAddress, deviceNumber, output, &observer);

@@ -134,7 +134,7 @@ void ActivityMarks::cancel()
     if (m_loadIsSlow)
         m_workbench.loader().cancel();
     else if (const DeviceListModel::Device *device = readingDevice(m_workbench.devices()))
-        m_workbench.driver().cancelReading(device->record.number());
+        m_workbench.administration().cancelReading(device->record.number());
 }
 
 void ActivityMarks::showAway()

@@ -50,20 +50,30 @@ ChangeJournal::ChangeJournal(const QString &file, int capacity, QObject *parent)
 {
 }
 
+void ChangeJournal::write(const DeviceChange &change)
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        if (m_file.fileName().isEmpty())
+            return;
+        const QString problem =
+            append(rowOf(change))
+                ? QString()
+                : tr("The journal \"%1\" cannot be written: %2")
+                      .arg(QDir::toNativeSeparators(m_file.fileName()), m_file.errorString());
+        if (problem == m_problem)
+            return;
+        m_problem = problem;
+        m_problemIsNew = true;
+    }
+    QMetaObject::invokeMethod(this, "takeChanges", Qt::QueuedConnection);
+}
+
 void ChangeJournal::add(const DeviceChange &change)
 {
     bool first = false;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        if (!m_file.fileName().isEmpty()) {
-            const QString problem =
-                append(rowOf(change))
-                    ? QString()
-                    : tr("The journal \"%1\" cannot be written: %2")
-                          .arg(QDir::toNativeSeparators(m_file.fileName()), m_file.errorString());
-            m_problemIsNew = m_problemIsNew || problem != m_problem;
-            m_problem = problem;
-        }
         first = m_mailbox.empty();
         m_mailbox.push_back(change);
         if (m_mailbox.size() > static_cast<std::size_t>(m_capacity))

@@ -11,9 +11,8 @@
 
 /// Everything that was changed on devices, or was tried to, as a table, the newest last, with
 /// values in words where there are any, the raw ones behind; and with raw values in a file to which
-/// rows are only ever appended: CSV (RFC 4180, UTF-8) with a heading, one row for each change,
-/// written before add() returns. The model belongs to the GUI thread; changes may come from any
-/// thread and appear when the GUI thread next runs its event loop.
+/// rows are only ever appended: CSV (RFC 4180, UTF-8) with a heading, one row for each change. The
+/// model belongs to the GUI thread; changes may come from any thread.
 class ChangeJournal : public QAbstractTableModel
 {
     Q_OBJECT
@@ -38,7 +37,9 @@ public:
     explicit ChangeJournal(const QString &file, int capacity = defaultCapacity,
                            QObject *parent = nullptr);
 
-    /// Any thread.
+    /// Appends a row to the file before it returns. Any thread.
+    void write(const DeviceChange &change);
+    /// Appends a row to the table when the GUI thread next runs its event loop. Any thread.
     void add(const DeviceChange &change);
 
     QString file() const { return m_file.fileName(); }

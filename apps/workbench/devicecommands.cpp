@@ -82,10 +82,10 @@ void DeviceCommands::showDialog(const DeviceRecord &record)
 {
     auto *dialog = new DeviceDialog(
         record, [this](const DeviceRecord &wanted) { return m_workbench.put(wanted); },
-        [&driver = m_workbench.driver()](const DeviceConfiguration &configuration) {
+        [&driver = m_workbench.administration()](const DeviceConfiguration &configuration) {
             return driver.faults(configuration);
         },
-        [&driver = m_workbench.driver()](const DeviceConfiguration &configuration) {
+        [&driver = m_workbench.administration()](const DeviceConfiguration &configuration) {
             return driver.test(configuration);
         },
         m_jobs, &m_window);
@@ -98,7 +98,8 @@ void DeviceCommands::showTrace(int number)
     const DeviceListModel::Device *device = m_workbench.devices().device(number);
     if (!device)
         return;
-    auto *trace = new TraceDialog(m_workbench.driver(), number, device->record.name(), &m_window);
+    auto *trace =
+        new TraceDialog(m_workbench.administration(), number, device->record.name(), &m_window);
     trace->setAttribute(Qt::WA_DeleteOnClose);
     connect(trace, &TraceDialog::captureWanted, this, &DeviceCommands::saveCapture);
     trace->show();
@@ -111,7 +112,7 @@ void DeviceCommands::saveCapture(int number)
         return;
     writeFile(Texts::tr("Save Capture"), device->record.name() + QStringLiteral(".pcapng"),
               Texts::tr("Captures (*.pcapng)"),
-              [&driver = m_workbench.driver(), number](QIODevice &out) {
+              [&driver = m_workbench.administration(), number](QIODevice &out) {
                   return driver.saveCapture(number, out);
               });
 }
@@ -123,7 +124,7 @@ void DeviceCommands::exportValues(int number)
         return;
     writeFile(Texts::tr("Export Values"), device->record.name() + QStringLiteral(".csv"),
               Texts::tr("Tables (*.csv)"),
-              [&driver = m_workbench.driver(), number](QIODevice &out) {
+              [&driver = m_workbench.administration(), number](QIODevice &out) {
                   return driver.exportValues(number, out);
               });
 }

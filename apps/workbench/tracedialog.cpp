@@ -7,15 +7,7 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QScrollBar>
 
-#include <chrono>
-
-namespace {
-
-constexpr std::chrono::milliseconds refreshInterval{500};
-
-} // namespace
-
-TraceDialog::TraceDialog(const IedDriver &driver, int deviceNo, const QString &deviceName,
+TraceDialog::TraceDialog(DriverAdministration &driver, int deviceNo, const QString &deviceName,
                          QWidget *parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::TraceDialog>())
@@ -42,17 +34,19 @@ TraceDialog::TraceDialog(const IedDriver &driver, int deviceNo, const QString &d
         button->setAutoDefault(false);
     connect(save, &QPushButton::clicked, this, [this, deviceNo] { emit captureWanted(deviceNo); });
     connect(clear, &QPushButton::clicked, &m_model, &TraceModel::clear);
-    m_timer.setInterval(refreshInterval);
-    connect(&m_timer, &QTimer::timeout, this, [this] {
-        if (m_ui->pause->isChecked() || !isVisible())
-            return;
-        const QScrollBar *bar = m_ui->lines->verticalScrollBar();
-        const bool follows = bar->value() == bar->maximum();
-        m_model.refresh();
-        if (follows)
-            m_ui->lines->scrollToBottom();
-    });
-    m_timer.start();
+    connect(&m_model, &TraceModel::exchanged, this, &TraceDialog::refresh);
+    connect(m_ui->pause, &QAbstractButton::toggled, this, &TraceDialog::refresh);
+}
+
+void TraceDialog::refresh()
+{
+    if (m_ui->pause->isChecked())
+        return;
+    const QScrollBar *bar = m_ui->lines->verticalScrollBar();
+    const bool follows = bar->value() == bar->maximum();
+    m_model.refresh();
+    if (follows)
+        m_ui->lines->scrollToBottom();
 }
 
 TraceDialog::~TraceDialog() = default;

@@ -3,7 +3,6 @@
 
 #include "tracemodel.h"
 
-#include <QtCore/QTimer>
 #include <QtWidgets/QDialog>
 
 #include <memory>
@@ -18,8 +17,7 @@ class TraceDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// @param driver not owned; must outlive the dialog
-    TraceDialog(const IedDriver &driver, int deviceNo, const QString &deviceName,
+    TraceDialog(DriverAdministration &driver, int deviceNo, const QString &deviceName,
                 QWidget *parent = nullptr);
     ~TraceDialog() override;
 
@@ -28,7 +26,8 @@ signals:
     void captureWanted(int deviceNo);
 
 private:
+    void refresh();
+
     const std::unique_ptr<Ui::TraceDialog> m_ui;
     TraceModel m_model;
-    QTimer m_timer;
 };

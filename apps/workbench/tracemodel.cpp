@@ -5,37 +5,46 @@
 
 #include <algorithm>
 
-TraceModel::TraceModel(const IedDriver &driver, int deviceNo, int capacity, QObject *parent)
+TraceModel::TraceModel(DriverAdministration &driver, int deviceNo, int capacity, QObject *parent)
     : QAbstractTableModel(parent)
-    , m_driver(driver)
-    , m_deviceNo(deviceNo)
     , m_capacity(std::max(capacity, 1))
 {
-    refresh();
+    connect(&m_bell, &Doorbell::rung, this, &TraceModel::exchanged);
+    m_subscription = driver.followTrace(deviceNo, m_capacity,
+                                        [this](const QVector<TraceLine> &lines) { take(lines); });
+}
+
+TraceModel::~TraceModel() = default;
+
+void TraceModel::take(const QVector<TraceLine> &lines)
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_arrived.insert(m_arrived.end(), lines.begin(), lines.end());
+        const int surplus = static_cast<int>(m_arrived.size()) - m_capacity;
+        m_arrived.erase(m_arrived.begin(), m_arrived.begin() + std::max(surplus, 0));
+    }
+    m_bell.ring();
 }
 
 void TraceModel::refresh()
 {
-    const DeviceCounters counters = m_driver.status(m_deviceNo).counters;
-    const std::uint64_t exchanged = counters.sentPdus + counters.receivedPdus;
-    // A device that was configured anew counts from the beginning.
-    const std::uint64_t arrived = exchanged >= m_seen ? exchanged - m_seen : exchanged;
-    m_seen = exchanged;
-    if (arrived == 0)
-        return;
-    const QVector<TraceLine> lines = m_driver.trace(
-        m_deviceNo,
-        static_cast<int>(std::min<std::uint64_t>(arrived, static_cast<std::uint64_t>(m_capacity))));
-    if (lines.isEmpty())
+    std::deque<TraceLine> lines;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        lines.swap(m_arrived);
+    }
+    if (lines.empty())
         return;
     const int kept = static_cast<int>(m_lines.size());
-    if (const int surplus = std::min(kept, kept + lines.size() - m_capacity); surplus > 0) {
+    const int added = static_cast<int>(lines.size());
+    if (const int surplus = std::min(kept, kept + added - m_capacity); surplus > 0) {
         beginRemoveRows({}, 0, surplus - 1);
         m_lines.erase(m_lines.begin(), m_lines.begin() + surplus);
         endRemoveRows();
     }
     const int position = static_cast<int>(m_lines.size());
-    beginInsertRows({}, position, position + lines.size() - 1);
+    beginInsertRows({}, position, position + added - 1);
     m_lines.insert(m_lines.end(), lines.begin(), lines.end());
     endInsertRows();
 }

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "driver/service/ieddriver.h"
+#include "doorbell.h"
+
+#include "driver/administration/driveradministration.h"
 
 #include <QtCore/QAbstractTableModel>
 
 #include <deque>
+#include <memory>
+#include <mutex>
 
 /// The PDUs that were exchanged with one device, the newest last. GUI thread.
 class TraceModel : public QAbstractTableModel
@@ -17,12 +21,12 @@ public:
 
     static constexpr int defaultCapacity = 1000;
 
-    /// @param driver not owned; must outlive the model
     /// @param capacity rows kept; the oldest go first
-    TraceModel(const IedDriver &driver, int deviceNo, int capacity = defaultCapacity,
+    TraceModel(DriverAdministration &driver, int deviceNo, int capacity = defaultCapacity,
                QObject *parent = nullptr);
+    ~TraceModel() override;
 
-    /// Take what was exchanged since the last time.
+    /// Show what was exchanged since the last time.
     void refresh();
     void clear();
 
@@ -32,10 +36,18 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation,
                         int role = Qt::DisplayRole) const override;
 
+signals:
+    /// Something was exchanged, and refresh() shows it; some times a second at most.
+    void exchanged();
+
 private:
-    const IedDriver &m_driver;
-    const int m_deviceNo;
+    /// In the thread of the subscription.
+    void take(const QVector<TraceLine> &lines);
+
     const int m_capacity;
-    std::uint64_t m_seen = 0; ///< PDUs of the device that were taken or left out
     std::deque<TraceLine> m_lines;
+    Doorbell m_bell;
+    std::mutex m_mutex;
+    std::deque<TraceLine> m_arrived; ///< under the mutex; not shown yet
+    std::unique_ptr<DriverSubscription> m_subscription;
 };

@@ -11,13 +11,10 @@
 #include <QtCore/QLocale>
 #include <QtCore/QSettings>
 
-#include <chrono>
 #include <utility>
 
 namespace {
 
-/// Counts change all the time and are told by nobody.
-constexpr std::chrono::milliseconds statusInterval{1000};
 const QString readOnlyKey = QStringLiteral("readOnly");
 const QString confirmedKey = QStringLiteral("confirm");
 
@@ -62,7 +59,7 @@ Workbench::Workbench(const Options &options, QObject *parent)
     , m_lock(options.settingsFile + QStringLiteral(".in-use"))
     , m_store(options.settingsFile)
     , m_changes(options.journalFile)
-    , m_waiting([this](long deviceNo) { m_driver->cancelOperations(deviceNo); })
+    , m_waiting([this](long deviceNo) { m_driver.administration->cancelOperations(deviceNo); })
     , m_console(m_devices)
     , m_loader(options.import)
 {
@@ -79,16 +76,13 @@ Workbench::Workbench(const Options &options, QObject *parent)
     } else {
         DeviceStore::makePrivate(m_settingsFile);
     }
-    IedDriverOptions driver;
+    EmbeddedDriverOptions driver;
     driver.cacheFolder = options.cacheFolder;
-    driver.statusChanged = [this](const DeviceStatus &) {
-        if (!m_statusesChanged.exchange(true))
-            QMetaObject::invokeMethod(this, "takeStatuses", Qt::QueuedConnection);
-    };
-    driver.changed = [this](const DeviceChange &change) { m_changes.add(change); };
-    m_driver = std::make_shared<IedDriver>(std::move(driver));
+    driver.journal = [this](const DeviceChange &change) { m_changes.write(change); };
+    m_driver = options.driver(driver);
+    subscribe();
     const QSettings settings(m_settingsFile, QSettings::IniFormat);
-    m_driver->setReadOnly(settings.value(readOnlyKey).toBool());
+    m_driver.administration->setReadOnly(settings.value(readOnlyKey).toBool());
     const int scope = scopeNames.indexOf(settings.value(confirmedKey).toString());
     m_confirmation.setScope(scope < 0 ? CallConfirmation::Commands
                                       : CallConfirmation::Scope(scope));
@@ -102,9 +96,6 @@ Workbench::Workbench(const Options &options, QObject *parent)
         if (!failures.isEmpty())
             emit openFailed(failures);
     });
-    m_statusTimer.setInterval(statusInterval);
-    connect(&m_statusTimer, &QTimer::timeout, this, &Workbench::takeStatuses);
-    m_statusTimer.start();
     const auto deviceName = [this](long deviceNo) {
         const DeviceListModel::Device *device = m_devices.device(static_cast<int>(deviceNo));
         return device ? tr("%1 (%2)").arg(device->record.name(), QString::number(deviceNo))
@@ -116,7 +107,7 @@ Workbench::Workbench(const Options &options, QObject *parent)
     m_confirmation.setLookup([this](long deviceNo, const QStringList &references) {
         return knownValue(deviceNo, references);
     });
-    DriverServiceRegistry::add(EmbeddedConsole::address, m_driver);
+    DriverServiceRegistry::add(EmbeddedConsole::address, m_driver.service);
     ControllerCallObserver::install(&m_journal);
     ControllerCallGuard::install(&m_confirmation);
     ControllerCallRunner::install(&m_waiting);
@@ -194,7 +185,7 @@ QStringList Workbench::put(const DeviceRecord &record)
     const bool isNew = record.number() == 0;
     if (isNew)
         wanted.configuration.number = m_store.nextNumber();
-    QStringList faults = m_driver->faults(wanted.configuration);
+    QStringList faults = m_driver.administration->faults(wanted.configuration);
     if (!faults.isEmpty())
         return faults;
     const int number = m_store.put(wanted);
@@ -209,7 +200,7 @@ QStringList Workbench::put(const DeviceRecord &record)
     if (wanted.simulated && previous.state == DeviceListModel::Ready) {
         reach(wanted, previous.content, previous.findings);
     } else if (previous.state != DeviceListModel::Stopped) {
-        m_driver->removeDevice(number);
+        m_driver.administration->removeDevice(number);
         begin(wanted);
     }
     return {};
@@ -262,7 +253,7 @@ void Workbench::remove(int number)
         m_removed.append(device->record);
     m_store.remove(number);
     m_devices.remove(number);
-    m_driver->removeDevice(number);
+    m_driver.administration->removeDevice(number);
     m_simulations.remove(number);
 }
 
@@ -280,14 +271,14 @@ void Workbench::setConnects(int number, bool connects)
 void Workbench::connectDevice(int number)
 {
     setConnects(number, true);
-    m_driver->connectDevice(number);
+    m_driver.administration->connectDevice(number);
 }
 
 void Workbench::disconnectDevice(int number)
 {
     setConnects(number, false);
-    m_driver->cancelReading(number);
-    m_driver->disconnectDevice(number);
+    m_driver.administration->cancelReading(number);
+    m_driver.administration->disconnectDevice(number);
 }
 
 void Workbench::startSimulation(int number)
@@ -304,7 +295,7 @@ void Workbench::stopSimulation(int number)
     const DeviceListModel::Device *device = m_devices.device(number);
     if (!device || !m_simulations.contains(number))
         return;
-    m_driver->removeDevice(number);
+    m_driver.administration->removeDevice(number);
     m_simulations.remove(number);
     m_devices.setStopped(number);
 }
@@ -313,7 +304,7 @@ void Workbench::setReadOnly(bool readOnly)
 {
     if (readOnly == isReadOnly())
         return;
-    m_driver->setReadOnly(readOnly);
+    m_driver.administration->setReadOnly(readOnly);
     if (keepsSettings())
         QSettings(m_settingsFile, QSettings::IniFormat).setValue(readOnlyKey, readOnly);
     emit readOnlyChanged(readOnly);
@@ -330,7 +321,7 @@ CallConfirmation::KnownValue Workbench::knownValue(long deviceNo, const QStringL
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    if (!m_driver->exportValues(deviceNo, buffer).isEmpty())
+    if (!m_driver.administration->exportValues(deviceNo, buffer).isEmpty())
         return {};
     const QString csv = QString::fromUtf8(buffer.data());
     for (const QString &reference : references) {
@@ -344,11 +335,35 @@ CallConfirmation::KnownValue Workbench::knownValue(long deviceNo, const QStringL
     return {};
 }
 
+void Workbench::subscribe()
+{
+    const auto keep = [this](const DeviceStatus &status) {
+        {
+            const std::lock_guard<std::mutex> lock(m_statusMutex);
+            m_statuses.insert(status.number, status);
+        }
+        m_statusBell.ring();
+    };
+    DriverObserver observer;
+    observer.statusChanged = keep;
+    observer.deviceRemoved = [keep](int number) {
+        DeviceStatus none;
+        none.number = number;
+        keep(none);
+    };
+    observer.changed = [this](const DeviceChange &change) { m_changes.add(change); };
+    connect(&m_statusBell, &Doorbell::rung, this, &Workbench::takeStatuses);
+    m_subscription = m_driver.administration->subscribe(std::move(observer));
+}
+
 void Workbench::takeStatuses()
 {
-    m_statusesChanged = false;
-    const QVector<DeviceStatus> statuses = m_driver->statuses();
-    for (const DeviceStatus &status : statuses)
+    QHash<int, DeviceStatus> statuses;
+    {
+        const std::lock_guard<std::mutex> lock(m_statusMutex);
+        statuses.swap(m_statuses);
+    }
+    for (const DeviceStatus &status : qAsConst(statuses))
         m_devices.setStatus(status);
 }
 
@@ -415,7 +430,7 @@ void Workbench::takeListed(const DeviceListModel::Device &previous, const Import
             m_store.put(record);
             reach(record, content, result.findings);
         } else {
-            m_driver->holdModel(number, result.model);
+            m_driver.administration->holdModel(number, result.model);
             m_devices.setReady(number, content, result.findings);
         }
         break;
@@ -430,7 +445,7 @@ void Workbench::takeListed(const DeviceListModel::Device &previous, const Import
         break;
     case ImportResult::ChoiceNeeded:
     case ImportResult::Failed:
-        m_driver->removeDevice(number);
+        m_driver.administration->removeDevice(number);
         m_devices.setFailed(number, result.error);
         break;
     }
@@ -440,13 +455,14 @@ void Workbench::takeListed(const DeviceListModel::Device &previous, const Import
 void Workbench::reach(const DeviceRecord &record, const QString &content,
                       const QVector<scl::Finding> &findings)
 {
-    const QStringList faults = m_driver->setDevice(record.configuration);
+    const QStringList faults = m_driver.administration->setDevice(record.configuration);
     if (!faults.isEmpty()) {
         m_devices.setFailed(record.number(), faults.first());
         return;
     }
     m_devices.setReady(record.number(), content, findings);
+    // What was told of it before is of another association.
+    m_devices.setStatus(m_driver.administration->status(record.number()));
     if (record.connects)
-        m_driver->connectDevice(record.number());
-    takeStatuses();
+        m_driver.administration->connectDevice(record.number());
 }

@@ -6,11 +6,12 @@
 #include "devicelistmodel.h"
 #include "deviceloader.h"
 #include "devicestore.h"
+#include "doorbell.h"
 #include "embeddedconsole.h"
 #include "journalmodel.h"
 #include "waitingcalls.h"
 
-#include "driver/service/ieddriver.h"
+#include "driver/service/embeddeddriver.h"
 
 #include <host/hosttaskcontext.h>
 
@@ -18,10 +19,10 @@
 #include <QtCore/QLockFile>
 #include <QtCore/QObject>
 #include <QtCore/QStringList>
-#include <QtCore/QTimer>
 
-#include <atomic>
+#include <functional>
 #include <memory>
+#include <mutex>
 
 /// The workbench without its windows: the devices, the embedded driver, simulated devices, the
 /// journals. It registers the driver's service, observes the controller calls and lets them be
@@ -38,6 +39,7 @@ public:
         QString journalFile; ///< of changes; empty for none
         QString cacheFolder; ///< of what is remembered of devices between starts; empty for none
         ImportFunction import;
+        std::function<EmbeddedDriver(const EmbeddedDriverOptions &)> driver = startEmbeddedDriver;
     };
 
     static const QString demonstrationFile;
@@ -45,9 +47,7 @@ public:
     explicit Workbench(const Options &options, QObject *parent = nullptr);
     ~Workbench() override;
 
-    /// In a thread other than this one only test(), saveCapture() and exportValues() are to be
-    /// called.
-    IedDriver &driver() { return *m_driver; }
+    DriverAdministration &administration() { return *m_driver.administration; }
     DeviceListModel &devices() { return m_devices; }
     JournalModel &journal() { return m_journal; }
     ChangeJournal &changes() { return m_changes; }
@@ -94,7 +94,7 @@ public:
 
     /// Let the driver refuse whatever changes something on a device; remembered between starts.
     void setReadOnly(bool readOnly);
-    bool isReadOnly() const { return m_driver->isReadOnly(); }
+    bool isReadOnly() const { return m_driver.administration->isReadOnly(); }
 
     /// Who confirms what the tools are about to send; the main window enters its question.
     CallConfirmation &confirmation() { return m_confirmation; }
@@ -126,8 +126,9 @@ private:
         DeviceListModel::Device previous; ///< number 0: a device that is being opened
     };
 
-    // By name, so that nothing but the call passes from thread to thread.
-    Q_INVOKABLE void takeStatuses();
+    void subscribe();
+    /// What the driver has told since the last time.
+    void takeStatuses();
     void open(const ImportRequest &request);
     void begin(const DeviceRecord &record);
     void loadListed(const DeviceRecord &record);
@@ -151,10 +152,12 @@ private:
     EmbeddedConsole m_console;
     HostTaskContext m_context;
     QHash<int, std::shared_ptr<SimulatedDevice>> m_simulations; ///< by device number
-    std::atomic<bool> m_statusesChanged{false};
+    std::mutex m_statusMutex;
+    QHash<int, DeviceStatus> m_statuses; ///< under the mutex; told and not taken yet, by number
+    Doorbell m_statusBell;
     /// Ends before the simulated devices, so that it can leave them in an orderly way.
-    std::shared_ptr<IedDriver> m_driver;
-    QTimer m_statusTimer;
+    EmbeddedDriver m_driver;
+    std::unique_ptr<DriverSubscription> m_subscription;
     QHash<int, Pending> m_pending; ///< by ticket
     QVector<DeviceRecord> m_removed;
     QStringList m_failures;

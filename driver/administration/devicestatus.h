@@ -29,7 +29,9 @@ struct DeviceCounters
     std::uint64_t reportGaps = 0;
     std::uint64_t unreadableReports = 0; ///< that could not be decoded or brought other data
     std::uint64_t dataSetReadings = 0;   ///< data sets read whole to make good for such
-    std::uint64_t droppedEvents = 0;     ///< report events that the host did not take in time
+    std::uint64_t droppedEvents = 0;     ///< report events that an observer did not take in time
+
+    friend bool operator==(const DeviceCounters &, const DeviceCounters &) = default;
 };
 
 /// A device as the driver sees it. A value type.
@@ -58,4 +60,6 @@ struct DeviceStatus
     int modelSteps = 0;
     int refusedObjects = 0; ///< that the device did not describe
     DeviceCounters counters;
+
+    friend bool operator==(const DeviceStatus &, const DeviceStatus &) = default;
 };

@@ -4,12 +4,13 @@
 #include "deviceconfiguration.h"
 #include "devicestatus.h"
 #include "devicetestresult.h"
-#include "traceline.h"
+#include "driverobserver.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
-#include <QtCore/QVector>
+
+#include <memory>
 
 class QIODevice;
 
@@ -17,8 +18,8 @@ class QIODevice;
 /// whether it reaches them, what it has exchanged with them. Devices are told apart by their
 /// number, from 1.
 ///
-/// Every function may be called from any thread but the driver's own. Those that say nothing of a
-/// device that is not there do nothing for it.
+/// Every function may be called from any thread but the driver's own; observers may call all of
+/// them. Those that say nothing of a device that is not there do nothing for it.
 class DriverAdministration
 {
 public:
@@ -33,8 +34,8 @@ public:
     /// then. The faults of the configuration, in which case nothing is changed; empty when it was
     /// taken.
     virtual QStringList setDevice(const DeviceConfiguration &configuration) = 0;
-    /// Answer for the number with a model that was imported before, in the form that
-    /// PhysicalDevice::fromStream() reads; there is no association then.
+    /// Answer for the number, as a device without an address, with a model that was imported
+    /// before, in the form that PhysicalDevice::fromStream() reads.
     virtual void holdModel(long deviceNo, const QByteArray &model) = 0;
     virtual void removeDevice(long deviceNo) = 0;
 
@@ -49,7 +50,14 @@ public:
 
     /// Number 0 when there is no such device, or none with an address.
     virtual DeviceStatus status(long deviceNo) const = 0;
-    virtual QVector<DeviceStatus> statuses() const = 0;
+
+    /// Tells the observer of all devices from now on, as long as the subscription lives.
+    [[nodiscard]] virtual std::unique_ptr<DriverSubscription>
+    subscribe(DriverObserver observer) = 0;
+    /// The same for what is exchanged with a device, be it on the driver already or not, whatever
+    /// associations it belongs to. @param most lines that a call tells; older ones are left out
+    [[nodiscard]] virtual std::unique_ptr<DriverSubscription>
+    followTrace(long deviceNo, int most, TraceObserver observer) = 0;
 
     /// Refuse every operation that changes something on a device.
     virtual void setReadOnly(bool readOnly) = 0;
@@ -57,7 +65,6 @@ public:
 
     /// Write the device's last PDUs as a pcapng capture; one sentence when that fails.
     virtual QString saveCapture(long deviceNo, QIODevice &out) const = 0;
-    virtual QVector<TraceLine> trace(long deviceNo, int count) const = 0;
     /// Write reference, functional constraint, type and last known value of every attribute as CSV
     /// (RFC 4180, UTF-8); one sentence when that fails.
     virtual QString exportValues(long deviceNo, QIODevice &out) = 0;

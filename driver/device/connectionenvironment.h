@@ -2,7 +2,6 @@
 #pragma once
 
 #include "driver/administration/devicechange.h"
-#include "driver/administration/devicestatus.h"
 #include "driver/administration/reportevent.h"
 #include "livevalues.h"
 #include "pducapture.h"
@@ -17,15 +16,22 @@
 #include <functional>
 #include <memory>
 
+class DeviceConnection;
+
 /// What a connection needs of the driver. Called in the strands of connections, several at a time.
 struct ConnectionEnvironment
 {
     std::shared_ptr<LiveValues> values;
-    std::function<void(const DeviceStatus &)> statusChanged;
+    /// The status of that connection is another one.
+    std::function<void(const DeviceConnection &)> statusChanged;
+    /// A PDU was sent or received, and is in the capture.
+    std::function<void()> exchanged;
     std::function<void(const DeviceChange &)> changed;
-    /// Takes every report, in order for each device; null when nobody wants them. Gives the number
-    /// of older events of the device that had to be dropped for it.
-    std::function<std::uint64_t(ReportEvent)> reportReceived;
+    /// Whether anybody wants reports.
+    std::function<bool()> wantsReports;
+    /// Takes every report, in order for each device. Gives the number of older events of the device
+    /// that had to be dropped for it.
+    std::function<std::uint64_t(const ReportEvent &)> reportReceived;
     /// Claims the names of logical devices for the device that goes online; a sentence when another
     /// device has one of them, otherwise empty.
     std::function<QString(const QStringList &logicalDevices)> claim;

@@ -80,7 +80,11 @@ DeviceConnection::DeviceConnection(Private, asio::any_io_executor executor,
     , m_environment(std::move(environment))
     , m_strand(asio::make_strand(std::move(executor)))
     , m_capture(std::make_shared<PduCapture>(m_environment.captureOctets))
-    , m_board(m_configuration, m_capture, m_environment.statusChanged)
+    , m_board(m_configuration, m_capture,
+              [this] {
+                  if (m_environment.statusChanged)
+                      m_environment.statusChanged(*this);
+              })
     , m_operations(m_strand)
     , m_life(randomSource())
     , m_reading(std::make_unique<ModelReading>(*this))
@@ -268,10 +272,13 @@ asio::awaitable<void> DeviceConnection::attempt(std::shared_ptr<DeviceConnection
 {
     acsi::ClientOptions options = clientOptionsFor(self->m_configuration);
     options.association.link.lookUp = self->m_environment.lookUp;
-    options.association.link.trace = [capture = self->m_capture](osi::Direction direction,
-                                                                 mms::Bytes pdu) {
-        capture->add(direction, pdu);
-    };
+    options.association.link.trace =
+        [capture = self->m_capture,
+         exchanged = self->m_environment.exchanged](osi::Direction direction, mms::Bytes pdu) {
+            capture->add(direction, pdu);
+            if (exchanged)
+                exchanged();
+        };
     const std::function<void(const mms::Text &)> closed =
         [weak = self->weak_from_this(), of = std::weak_ptr(attempt)](const mms::Text &reason) {
             const auto connection = weak.lock();

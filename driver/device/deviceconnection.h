@@ -69,6 +69,7 @@ public:
     const ConnectionEnvironment &environment() const { return m_environment; }
     const Strand &strand() const { return m_strand; }
     PduCapture &capture() const { return *m_capture; }
+    std::shared_ptr<const PduCapture> trace() const { return m_capture; }
     StatusBoard &board() { return m_board; }
     DeviceStatus status() const { return m_board.status(); }
     /// Adds to one of the counters of the status.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "driver/administration/traceline.h"
+#include "driver/administration/tracesource.h"
 
 #include "osi/trace.h"
 
@@ -18,7 +18,7 @@ class QIODevice;
 
 /// The last PDUs of a device, whatever association they belonged to: at most a number of octets,
 /// the oldest give way. Any thread.
-class PduCapture
+class PduCapture : public TraceSource
 {
 public:
     static constexpr std::size_t defaultLimit = 4U << 20;
@@ -31,7 +31,7 @@ public:
     /// device does not take it; its error text says why.
     bool save(QIODevice &device) const;
     /// The newest PDUs as text, oldest first; at most @p most, and none up to number @p after.
-    QVector<TraceLine> trace(int most, std::uint64_t after = 0) const;
+    QVector<TraceLine> trace(int most, std::uint64_t after) const override;
 
     std::size_t octets() const;
     std::uint64_t sent() const { return m_sent; }

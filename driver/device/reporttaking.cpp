@@ -363,8 +363,8 @@ void ReportSubscriptions::publish(Subscription &subscription, const ReportStream
 
 void ReportSubscriptions::post(const Subscription &subscription, const ReportStream::Taken &taken)
 {
-    const auto &receiver = m_connection.environment().reportReceived;
-    if (!receiver)
+    const ConnectionEnvironment &environment = m_connection.environment();
+    if (!environment.wantsReports || !environment.wantsReports())
         return;
     const acsi::Report &report = *taken.report;
     ReportEvent event;
@@ -385,13 +385,13 @@ void ReportSubscriptions::post(const Subscription &subscription, const ReportStr
         event.members +=
             eventMembers(m_connection.model(), taken.references[i], report.members[i], companions);
     }
-    m_connection.count(&DeviceCounters::droppedEvents, receiver(std::move(event)));
+    m_connection.count(&DeviceCounters::droppedEvents, environment.reportReceived(event));
 }
 
 void ReportSubscriptions::post(const Subscription &subscription, const QString &missing)
 {
-    const auto &receiver = m_connection.environment().reportReceived;
-    if (!receiver)
+    const ConnectionEnvironment &environment = m_connection.environment();
+    if (!environment.wantsReports || !environment.wantsReports())
         return;
     ReportEvent event;
     event.number = m_connection.configuration().number;
@@ -399,7 +399,7 @@ void ReportSubscriptions::post(const Subscription &subscription, const QString &
     event.block = text(subscription.reference);
     event.arrival = QDateTime::currentDateTime();
     event.missing = missing;
-    m_connection.count(&DeviceCounters::droppedEvents, receiver(std::move(event)));
+    m_connection.count(&DeviceCounters::droppedEvents, environment.reportReceived(event));
 }
 
 void ReportSubscriptions::fault(const SubscriptionPointer &subscription, ReportFault fault,

@@ -56,8 +56,7 @@ void StatusBoard::update(const std::function<void(DeviceStatus &)> &change)
         const std::lock_guard<std::mutex> lock(m_mutex);
         change(m_status);
     }
-    if (m_changed)
-        m_changed(status());
+    m_changed();
 }
 
 void StatusBoard::count(std::uint64_t DeviceCounters::*counter, std::uint64_t by)

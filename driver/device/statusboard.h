@@ -18,9 +18,9 @@ struct DeviceConfiguration;
 class StatusBoard
 {
 public:
-    using Changed = std::function<void(const DeviceStatus &)>;
+    using Changed = std::function<void()>;
 
-    /// @p changed is called in the thread of the change; it may be null.
+    /// @p changed is called in the thread of the change.
     StatusBoard(const DeviceConfiguration &configuration, std::shared_ptr<const PduCapture> capture,
                 Changed changed);
 

@@ -3,6 +3,9 @@
 
 #include <remoteclient/controllercaller.h>
 
+#include <asio/post.hpp>
+#include <asio/strand.hpp>
+
 #include <QtCore/QCoreApplication>
 
 #include <algorithm>
@@ -21,6 +24,8 @@ struct Texts
 constexpr milliseconds leavePatience{3000};
 /// Of that, for what has to end after associations were cut off.
 constexpr milliseconds cutOffPatience{500};
+/// Counts change with everything that a device says.
+constexpr milliseconds countInterval{1000};
 
 /// The operation, refused where another device answers now.
 DeviceConnection::Operation onlyOn(DeviceIdentity opened, DeviceConnection::Operation operation)
@@ -41,9 +46,18 @@ IedDriver::Runtime::Runtime(IedDriverOptions options)
     : m_options(std::move(options))
     , m_work(asio::make_work_guard(m_context))
     , m_values(LiveValues::create(m_context.get_executor(), m_options.poster))
+    , m_observers(std::make_shared<DriverObservers>(
+          [this](int deviceNo) -> std::optional<DriverObservers::Device> {
+              const auto device = connection(deviceNo);
+              if (!device)
+                  return std::nullopt;
+              return DriverObservers::Device{device->status(), device->trace()};
+          }))
+    , m_countTimer(asio::make_strand(m_context))
 {
-    if (m_options.reportReceived)
-        m_events = ReportEvents::create(m_context.get_executor(), m_options.reportReceived);
+    if (!m_options.observer.isEmpty())
+        m_observer = m_observers->add(m_options.observer);
+    tellCounts();
     m_running = static_cast<std::size_t>(std::max(m_options.threads, 1));
     for (std::size_t i = 0; i < m_running; ++i)
         m_threads.emplace_back([this] { runContext(); });
@@ -96,6 +110,8 @@ IedDriver::Runtime::~Runtime()
     for (const auto &each : connections())
         each->cutOff();
     m_values->flush();
+    m_isEnding = true;
+    asio::post(m_countTimer.get_executor(), [this] { m_countTimer.cancel(); });
     // Attempts to connect that nobody wants any more have been cancelled, and need a moment to end.
     m_work.reset();
     {
@@ -105,8 +121,19 @@ IedDriver::Runtime::~Runtime()
     m_context.stop();
     for (std::thread &thread : m_threads)
         thread.join();
-    if (m_events)
-        m_events->flush();
+    m_observers->close();
+    m_observer.reset();
+}
+
+void IedDriver::Runtime::tellCounts()
+{
+    m_countTimer.expires_after(countInterval);
+    m_countTimer.async_wait([this](const std::error_code &) {
+        if (m_isEnding)
+            return;
+        m_observers->devicesChanged();
+        tellCounts();
+    });
 }
 
 void IedDriver::Runtime::setDevice(const DeviceConfiguration &configuration)
@@ -117,13 +144,24 @@ void IedDriver::Runtime::setDevice(const DeviceConfiguration &configuration)
     } else {
         ConnectionEnvironment environment;
         environment.values = m_values;
-        environment.statusChanged = m_options.statusChanged;
-        environment.changed = m_options.changed;
-        if (m_events) {
-            environment.reportReceived = [events = m_events](ReportEvent event) {
-                return events->push(std::move(event));
-            };
-        }
+        // One that was replaced, and is being left, is no device any more.
+        environment.statusChanged = [this](const DeviceConnection &device) {
+            if (connection(device.configuration().number).get() == &device)
+                m_observers->deviceChanged(device.configuration().number);
+        };
+        environment.exchanged = [observers = m_observers, number = configuration.number] {
+            observers->exchanged(number);
+        };
+        environment.changed = [observers = m_observers,
+                               journal = m_options.journal](const DeviceChange &change) {
+            if (journal)
+                journal(change);
+            observers->tell(change);
+        };
+        environment.wantsReports = [observers = m_observers] { return observers->wantReports(); };
+        environment.reportReceived = [observers = m_observers](const ReportEvent &event) {
+            return observers->tell(event);
+        };
         Holder holder;
         holder.number = configuration.number;
         {
@@ -154,6 +192,7 @@ void IedDriver::Runtime::setDevice(const DeviceConfiguration &configuration)
             m_offlineNumbers.insert(configuration.number);
         }
     }
+    m_observers->deviceChanged(configuration.number);
     if (replaced)
         replaced->disconnect();
 }
@@ -179,6 +218,7 @@ void IedDriver::Runtime::removeDevice(long deviceNo)
         removed = found->second;
         m_connections.erase(found);
     }
+    m_observers->deviceChanged(static_cast<int>(deviceNo));
     removed->disconnect();
 }
 

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "driver/administration/driverobservers.h"
 #include "driver/device/deviceconnection.h"
 #include "driver/device/livevalues.h"
 #include "ieddriver.h"
 #include "offlinedriverservice.h"
-#include "reportevents.h"
 
 #include <asio/executor_work_guard.hpp>
 #include <asio/io_context.hpp>
+#include <asio/steady_timer.hpp>
 
 #include <atomic>
 #include <condition_variable>
@@ -41,6 +42,7 @@ public:
     /// A connection that is in no list and claims no names.
     std::shared_ptr<DeviceConnection> separate(const DeviceConfiguration &configuration);
     OfflineDriverService &offline() { return m_offline; }
+    DriverObservers &observers() { return *m_observers; }
 
     void setReadOnly(bool readOnly) { m_readOnly = readOnly; }
     bool isReadOnly() const { return m_readOnly; }
@@ -73,12 +75,18 @@ private:
     void release(Holder holder);
     void runContext();
     std::optional<DeviceIdentity> boundTo(long deviceNo) const;
+    /// Lets observers know of counts that grow by themselves, again and again.
+    void tellCounts();
 
     const IedDriverOptions m_options;
     asio::io_context m_context;
     asio::executor_work_guard<asio::io_context::executor_type> m_work;
     std::shared_ptr<LiveValues> m_values;
-    std::shared_ptr<ReportEvents> m_events; ///< null when the host wants none
+    /// Shared with what operations leave behind at the end, which tells that they were cancelled.
+    const std::shared_ptr<DriverObservers> m_observers;
+    std::unique_ptr<DriverSubscription> m_observer; ///< of the options
+    asio::steady_timer m_countTimer;                ///< in a strand of its own
+    std::atomic<bool> m_isEnding{false};
     OfflineDriverService m_offline;
     std::atomic<bool> m_readOnly{false};
     mutable std::mutex m_mutex;

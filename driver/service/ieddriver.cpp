@@ -123,12 +123,15 @@ DeviceStatus IedDriver::status(long deviceNo) const
     return device ? device->status() : DeviceStatus();
 }
 
-QVector<DeviceStatus> IedDriver::statuses() const
+std::unique_ptr<DriverSubscription> IedDriver::subscribe(DriverObserver observer)
 {
-    QVector<DeviceStatus> result;
-    for (const auto &device : m_runtime->connections())
-        result.append(device->status());
-    return result;
+    return m_runtime->observers().add(std::move(observer));
+}
+
+std::unique_ptr<DriverSubscription> IedDriver::followTrace(long deviceNo, int most,
+                                                           TraceObserver observer)
+{
+    return m_runtime->observers().addTrace(static_cast<int>(deviceNo), most, std::move(observer));
 }
 
 QString IedDriver::saveCapture(long deviceNo, QIODevice &out) const
@@ -139,12 +142,6 @@ QString IedDriver::saveCapture(long deviceNo, QIODevice &out) const
     if (!device->capture().save(out))
         return Texts::tr("The capture cannot be written: %1").arg(out.errorString());
     return {};
-}
-
-QVector<TraceLine> IedDriver::trace(long deviceNo, int count) const
-{
-    const auto device = m_runtime->connection(deviceNo);
-    return device ? device->capture().trace(count) : QVector<TraceLine>();
 }
 
 QString IedDriver::exportValues(long deviceNo, QIODevice &out)

@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "driver/administration/devicechange.h"
 #include "driver/administration/driveradministration.h"
-#include "driver/administration/reportevent.h"
 #include "driver/device/pducapture.h"
 
 #include "osi/hostlookup.h"
 
 #include <remoteclient/driverservice.h>
-
-#include <QtCore/QVector>
 
 #include <functional>
 #include <memory>
@@ -25,16 +21,12 @@ struct IedDriverOptions
     /// Takes the records of live-value events, in one thread at a time; the event middleware unless
     /// given.
     std::function<void(const QList<QByteArray> &records)> poster;
-    /// Told of every change of a device's state, in one of the driver's threads, several devices at
-    /// a time. Must not call the driver.
-    std::function<void(const DeviceStatus &)> statusChanged;
-    /// Told of every change that the driver makes on a device, or tries to; like statusChanged.
-    std::function<void(const DeviceChange &)> changed;
-    /// Takes every report as it came, none left out, those of one device in their order; in a
-    /// thread of the driver, one at a time. Must not call the driver. A host that does not keep up
-    /// loses the oldest that wait; the next event says so, and DeviceCounters::droppedEvents
-    /// counts.
-    std::function<void(const ReportEvent &)> reportReceived;
+    /// Writes down every change that the driver makes on a device, or tries to, before who wanted
+    /// it is answered; in one of the driver's threads, several devices at a time. Must not call the
+    /// driver. Who only wants to know of changes subscribes.
+    std::function<void(const DeviceChange &)> journal;
+    /// Subscribes before anything happens; is told all until the driver's end.
+    DriverObserver observer;
     /// Looks up names of hosts; the system unless given. Called in any thread, several at a time.
     osi::HostLookup::Function lookUp;
 };
@@ -62,13 +54,14 @@ public:
     void cancelOperations(long deviceNo) override;
 
     DeviceStatus status(long deviceNo) const override;
-    QVector<DeviceStatus> statuses() const override;
+    std::unique_ptr<DriverSubscription> subscribe(DriverObserver observer) override;
+    std::unique_ptr<DriverSubscription> followTrace(long deviceNo, int most,
+                                                    TraceObserver observer) override;
 
     void setReadOnly(bool readOnly) override;
     bool isReadOnly() const override;
 
     QString saveCapture(long deviceNo, QIODevice &out) const override;
-    QVector<TraceLine> trace(long deviceNo, int count) const override;
     QString exportValues(long deviceNo, QIODevice &out) override;
 
     DeviceTestResult test(const DeviceConfiguration &configuration) override;

@@ -168,12 +168,12 @@ public:
     {
         IedDriverOptions options;
         options.poster = [this](const QList<QByteArray> &records) { take(records); };
-        options.statusChanged = [this](const DeviceStatus &status) {
+        options.observer.statusChanged = [this](const DeviceStatus &status) {
             const std::lock_guard<std::mutex> lock(m_mutex);
             m_statuses.insert(status.number, status);
             m_changed.notify_all();
         };
-        options.changed = [this](const DeviceChange &change) {
+        options.journal = [this](const DeviceChange &change) {
             const std::lock_guard<std::mutex> lock(m_mutex);
             m_changes.append(change);
             m_changed.notify_all();
@@ -311,6 +311,20 @@ inline DeviceConfiguration configurationFor(const SimulatedIed &ied, int number 
     configuration.host = QStringLiteral("127.0.0.1");
     configuration.port = ied.port();
     return configuration;
+}
+
+/// What was exchanged with the device until now, as far as the driver remembers.
+inline QVector<TraceLine> traceOf(IedDriver &driver, long deviceNo)
+{
+    // The observer may be called again before the subscription ends.
+    std::promise<QVector<TraceLine>> first;
+    bool hasCome = false;
+    const auto subscription =
+        driver.followTrace(deviceNo, 100000, [&](const QVector<TraceLine> &lines) {
+            if (!std::exchange(hasCome, true))
+                first.set_value(lines);
+        });
+    return first.get_future().get();
 }
 
 /// The bytes as a device.

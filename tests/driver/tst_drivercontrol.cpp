@@ -387,7 +387,7 @@ void tst_DriverControl::anEmptyOperateWithoutSelectionIsRefusedBeforeAnythingIsS
     command.model = 4;
     const auto mentions = [this] {
         int count = 0;
-        const QVector<TraceLine> lines = m_driver->trace(1, 100000);
+        const QVector<TraceLine> lines = traceOf(*m_driver, 1);
         for (const TraceLine &line : lines)
             count += line.text.contains("QA1CSWI1$CO$Pos") ||
                      line.text.contains("QA1CSWI1$CF$Pos$ctlModel");

@@ -176,7 +176,7 @@ void tst_DriverFiles::start(const std::string &faults, std::chrono::milliseconds
 
 int tst_DriverFiles::requests(const QString &service) const
 {
-    const QVector<TraceLine> lines = m_driver->trace(1, 1000);
+    const QVector<TraceLine> lines = traceOf(*m_driver, 1);
     return static_cast<int>(
         std::count_if(lines.begin(), lines.end(), [&service](const TraceLine &line) {
             return line.sent && line.text.contains(service, Qt::CaseInsensitive);
@@ -557,7 +557,7 @@ void tst_DriverFiles::oneFileOperationIsUnderWayAtATime()
         return m_driver->getFile(1, "COMTRADE\\fault1.dat", content, fetchError);
     });
     const auto isOpening = [this] {
-        const QVector<TraceLine> lines = m_driver->trace(1, 100);
+        const QVector<TraceLine> lines = traceOf(*m_driver, 1);
         return std::any_of(lines.begin(), lines.end(), [](const TraceLine &line) {
             return line.sent && line.text.contains("fileOpen", Qt::CaseInsensitive);
         });
@@ -571,7 +571,7 @@ void tst_DriverFiles::oneFileOperationIsUnderWayAtATime()
     // The listing was asked for when the file was closed again.
     int closed = -1;
     int listed = -1;
-    const QVector<TraceLine> lines = m_driver->trace(1, 1000);
+    const QVector<TraceLine> lines = traceOf(*m_driver, 1);
     for (int i = 0; i < lines.size(); ++i) {
         if (lines[i].sent && lines[i].text.contains("fileClose", Qt::CaseInsensitive))
             closed = i;
@@ -593,7 +593,7 @@ void tst_DriverFiles::anOperationDoesNotWaitForATransferForLong()
         return m_driver->getFile(1, "COMTRADE\\fault1.dat", content, fetchError);
     });
     const auto isReading = [this] {
-        const QVector<TraceLine> lines = m_driver->trace(1, 100);
+        const QVector<TraceLine> lines = traceOf(*m_driver, 1);
         return std::any_of(lines.begin(), lines.end(), [](const TraceLine &line) {
             return line.sent && line.text.contains("fileRead", Qt::CaseInsensitive);
         });

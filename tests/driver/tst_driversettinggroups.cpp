@@ -138,7 +138,7 @@ QList<SGCBValue> tst_DriverSettingGroups::values(const char *fc)
 QStringList tst_DriverSettingGroups::sentWrites() const
 {
     QStringList result;
-    const QVector<TraceLine> lines = m_driver->trace(1, 10000);
+    const QVector<TraceLine> lines = traceOf(*m_driver, 1);
     for (const TraceLine &line : lines) {
         if (line.sent && line.text.contains("write", Qt::CaseInsensitive))
             result.append(line.text);

@@ -117,7 +117,8 @@ void tst_DriverSoak::manyDevicesReportForALongTime()
             QVERIFY(listener.waitForValue(files[device].reference(i) + "$stVal", i % 3 == 0));
     }
     std::uint64_t reports = 0;
-    for (const DeviceStatus &status : driver.statuses()) {
+    for (std::size_t device = 0; device < ieds.size(); ++device) {
+        const DeviceStatus status = driver.status(static_cast<long>(device) + 1);
         QCOMPARE(status.state, DeviceState::Online);
         QCOMPARE(status.reason, QString());
         QCOMPARE(status.counters.connections, std::uint64_t(1));

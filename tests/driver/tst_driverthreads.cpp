@@ -52,6 +52,13 @@ QByteArray command(std::mt19937 &chance)
     return bytes;
 }
 
+DriverObserver ignoringObserver()
+{
+    DriverObserver observer;
+    observer.statusChanged = [](const DeviceStatus &) {};
+    return observer;
+}
+
 std::vector<Call> calls(const DeviceConfiguration &configuration, const QString &localFile)
 {
     const auto error = [] {
@@ -165,8 +172,8 @@ std::vector<Call> calls(const DeviceConfiguration &configuration, const QString 
         {"status",
          [](IedDriver &driver, long device, std::mt19937 &) {
              driver.status(device);
-             driver.statuses();
-             driver.trace(device, 10);
+             const auto all = driver.subscribe(ignoringObserver());
+             traceOf(driver, device);
              QBuffer out;
              out.open(QIODevice::WriteOnly);
              driver.saveCapture(device, out);
@@ -231,7 +238,7 @@ void tst_DriverThreads::everyCallFromSeveralThreadsAtOnce()
     IedDriverOptions options = listener.options();
     options.cacheFolder = folder.filePath("cache");
     std::atomic<int> events{0};
-    options.reportReceived = [&events](const ReportEvent &) { ++events; };
+    options.observer.reportReceived = [&events](const ReportEvent &) { ++events; };
     DeviceConfiguration configuration = configurationFor(ied);
     configuration.pollInterval = std::chrono::milliseconds(100);
     configuration.callTimeout = std::chrono::milliseconds(2000);

@@ -54,7 +54,7 @@ void tst_PduCapture::theNewestPdusAreToldAsTextOldestFirst()
     QCOMPARE(capture.received(), std::uint64_t(1));
     QVERIFY(capture.lastReceived() > std::chrono::steady_clock::time_point());
 
-    const QVector<TraceLine> lines = capture.trace(2);
+    const QVector<TraceLine> lines = capture.trace(2, 0);
     QCOMPARE(lines.size(), 2);
     QVERIFY(!lines.at(0).sent);
     QVERIFY(lines.at(0).text.contains("status"));
@@ -62,9 +62,9 @@ void tst_PduCapture::theNewestPdusAreToldAsTextOldestFirst()
     QVERIFY(lines.at(1).sent);
     QCOMPARE(lines.at(1).text,
              QString::fromStdString(mms::toText(*mms::decodePdu(statusRequest(3)))));
-    QCOMPARE(capture.trace(-1).size(), 0);
+    QCOMPARE(capture.trace(-1, 0).size(), 0);
     capture.clear();
-    QCOMPARE(capture.trace(10).size(), 0);
+    QCOMPARE(capture.trace(10, 0).size(), 0);
 }
 
 void tst_PduCapture::theOldestPdusGiveWay()
@@ -73,10 +73,10 @@ void tst_PduCapture::theOldestPdusGiveWay()
     for (int i = 0; i < 100; ++i)
         capture.add(osi::Direction::Received, std::vector<std::uint8_t>(1000, 0));
     QVERIFY(capture.octets() <= 10000);
-    QCOMPARE(capture.trace(1000).size() + static_cast<int>(capture.dropped()), 100);
+    QCOMPARE(capture.trace(1000, 0).size() + static_cast<int>(capture.dropped()), 100);
     QVERIFY(capture.dropped() >= 90);
     capture.add(osi::Direction::Received, std::vector<std::uint8_t>(50000, 0));
-    QCOMPARE(capture.trace(1000).size(), 1);
+    QCOMPARE(capture.trace(1000, 0).size(), 1);
 }
 
 void tst_PduCapture::whatIsNoPduIsShownWithItsFault()
@@ -84,7 +84,7 @@ void tst_PduCapture::whatIsNoPduIsShownWithItsFault()
     PduCapture capture;
     const std::vector<std::uint8_t> octets = {0xFF, 0x01};
     capture.add(osi::Direction::Received, octets);
-    QCOMPARE(capture.trace(1).first().text,
+    QCOMPARE(capture.trace(1, 0).first().text,
              QString::fromStdString(mms::decodePdu(octets).error().message.english()));
 }
 

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "driver/core/subscriptionlife.h"
 #include "driver/device/lastentries.h"
-#include "driver/service/reportevents.h"
-
-#include <asio/io_context.hpp>
 
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
@@ -19,14 +16,6 @@ using State = Life::State;
 const Life::Time start = Life::Time() + 1h;
 const QString held = QStringLiteral("held");
 const QString refused = QStringLiteral("refused");
-
-ReportEvent eventOf(int number, quint32 sequence)
-{
-    ReportEvent result;
-    result.number = number;
-    result.sequenceNumber = sequence;
-    return result;
-}
 
 } // namespace
 
@@ -46,7 +35,6 @@ private slots:
     void entriesAreKeptByTheirTerms();
     void entriesOutliveTheDriver();
     void entriesOfAnotherDeviceAndBrokenFilesAreNothing();
-    void eventsAreHandedOverInOrderAndLossesAreTold();
 };
 
 void tst_SubscriptionLife::anEnabledBlockIsTakenUntilItStops()
@@ -219,35 +207,6 @@ void tst_SubscriptionLife::entriesOfAnotherDeviceAndBrokenFilesAreNothing()
         const LastEntries entries(folder.path(), "device");
         QVERIFY(!entries.find("block", terms));
     }
-}
-
-void tst_SubscriptionLife::eventsAreHandedOverInOrderAndLossesAreTold()
-{
-    asio::io_context context;
-    QStringList taken;
-    const auto events = ReportEvents::create(
-        context.get_executor(),
-        [&taken](const ReportEvent &each) {
-            taken.append(each.sequenceNumber
-                             ? QStringLiteral("%1:%2").arg(each.number).arg(*each.sequenceNumber)
-                             : QStringLiteral("%1:%2").arg(each.number).arg(each.missing.left(2)));
-        },
-        3);
-    for (quint32 i = 0; i < 3; ++i)
-        QCOMPARE(events->push(eventOf(1, i)), std::uint64_t(0));
-    QCOMPARE(events->push(eventOf(2, 0)), std::uint64_t(0));
-    context.run();
-    QCOMPARE(taken, (QStringList{"1:0", "1:1", "1:2", "2:0"}));
-    taken.clear();
-    for (quint32 i = 3; i < 8; ++i)
-        QCOMPARE(events->push(eventOf(1, i)), std::uint64_t(i < 6 ? 0 : 1));
-    context.restart();
-    context.run();
-    QCOMPARE(taken, (QStringList{"1:2 ", "1:5", "1:6", "1:7"}));
-    taken.clear();
-    events->push(eventOf(1, 8));
-    events->flush();
-    QCOMPARE(taken, QStringList("1:8"));
 }
 
 QTEST_GUILESS_MAIN(tst_SubscriptionLife)

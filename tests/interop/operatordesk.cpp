@@ -45,7 +45,7 @@ QString plain(QString text)
 OperatorDesk::OperatorDesk(const DeviceConfiguration &device)
 {
     IedDriverOptions options;
-    options.statusChanged = [this](const DeviceStatus &status) {
+    options.observer.statusChanged = [this](const DeviceStatus &status) {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_state = status.state;
         m_reason = status.reason;

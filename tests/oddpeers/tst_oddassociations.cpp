@@ -2,6 +2,8 @@
 // Devices that exchange themselves, say nothing, or say it late; names that nobody resolves.
 #include "driver/simulatedstation.h"
 
+#include "driver/device/deviceconnection.h"
+
 #include <QtCore/QDataStream>
 #include <QtTest/QtTest>
 
@@ -17,10 +19,10 @@ const QString station = QStringLiteral(STATION_FILE);
 const QString exchanged =
     QStringLiteral("This is not the device that the window was opened for: open it again.");
 
-int requests(const IedDriver &driver, int number, const QString &service)
+int requests(IedDriver &driver, int number, const QString &service)
 {
     int count = 0;
-    const QVector<TraceLine> lines = driver.trace(number, 100000);
+    const QVector<TraceLine> lines = traceOf(driver, number);
     for (const TraceLine &line : lines)
         count += line.sent && line.text.contains(service);
     return count;
@@ -353,21 +355,39 @@ void tst_OddAssociations::anOutageHasOneBeginning()
 void tst_OddAssociations::anExceptionEndsInAStateWithAReason()
 {
     SimulatedIed ied(station);
-    Listener listener;
-    IedDriverOptions options = listener.options();
-    std::atomic<int> throws{1};
-    options.statusChanged = [&, inner = options.statusChanged](const DeviceStatus &status) {
-        inner(status);
-        if (status.state == DeviceState::ReadingModel && throws-- > 0)
+    asio::io_context context;
+    ConnectionEnvironment environment;
+    environment.values = LiveValues::create(context.get_executor(), [](const auto &) {});
+    environment.claim = [](const QStringList &) { return QString(); };
+    environment.release = [] {};
+    bool mayThrow = true;
+    QString reason;
+    QVector<DeviceState> states;
+    environment.statusChanged = [&](const DeviceConnection &connection) {
+        const DeviceStatus status = connection.status();
+        states.append(status.state);
+        if (status.state == DeviceState::Waiting)
+            reason = status.reason;
+        if (status.state == DeviceState::ReadingModel && std::exchange(mayThrow, false))
             throw std::runtime_error("out of ideas");
     };
-    IedDriver driver(options);
-    driver.setDevice(configurationFor(ied));
-    driver.connectDevice(1);
-    QVERIFY(listener.waitForState(1, DeviceState::Waiting));
-    QCOMPARE(driver.status(1).reason,
+    const auto connection = DeviceConnection::create(context.get_executor(), configurationFor(ied),
+                                                     std::move(environment));
+    connection->connect();
+    // In this thread, so that what is told needs no lock.
+    const auto runUntil = [&](DeviceState state) {
+        const auto end = std::chrono::steady_clock::now() + Listener::patience;
+        while (!states.contains(state) && std::chrono::steady_clock::now() < end)
+            context.run_one_for(std::chrono::milliseconds(100));
+        return states.contains(state);
+    };
+    QVERIFY(runUntil(DeviceState::Waiting));
+    QCOMPARE(reason,
              QString("An internal error of the driver ended the association: out of ideas."));
-    QVERIFY(listener.waitForState(1, DeviceState::Online));
+    QVERIFY(runUntil(DeviceState::Online));
+    connection->disconnect();
+    connection->cutOff();
+    context.run_for(std::chrono::seconds(1));
 }
 
 void tst_OddAssociations::aDrippingFileCanBeCancelled()

@@ -111,8 +111,8 @@ public:
     explicit Station(DeviceConfiguration configuration, const QString &cacheFolder = {})
     {
         IedDriverOptions options = m_listener.options();
-        const auto changed = options.statusChanged;
-        options.statusChanged = [this, changed](const DeviceStatus &status) {
+        const auto changed = options.observer.statusChanged;
+        options.observer.statusChanged = [this, changed](const DeviceStatus &status) {
             {
                 const std::lock_guard<std::mutex> lock(m_mutex);
                 if (!status.reason.isEmpty() && !m_reasons.contains(status.reason))
@@ -120,7 +120,7 @@ public:
             }
             changed(status);
         };
-        options.reportReceived = [this](const ReportEvent &event) {
+        options.observer.reportReceived = [this](const ReportEvent &event) {
             const std::lock_guard<std::mutex> lock(m_mutex);
             m_events.append(event);
         };

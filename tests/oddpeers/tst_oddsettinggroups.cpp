@@ -85,7 +85,7 @@ private:
                sim::Device::RequestFilter filter = {}, sim::DeviceOptions options = {});
     QList<SGCBValue> values(const char *fc);
     int edited();
-    QStringList sentWrites(const IedDriver &driver) const;
+    QStringList sentWrites(IedDriver &driver) const;
 
     std::unique_ptr<SimulatedIed> m_ied;
     std::unique_ptr<Listener> m_listener;
@@ -142,10 +142,10 @@ int tst_OddSettingGroups::edited()
         m_ied->value(protection, "LLN0$SP$SGCB$EditSG").toUnsigned().value_or(99));
 }
 
-QStringList tst_OddSettingGroups::sentWrites(const IedDriver &driver) const
+QStringList tst_OddSettingGroups::sentWrites(IedDriver &driver) const
 {
     QStringList result;
-    const QVector<TraceLine> lines = driver.trace(1, 10000);
+    const QVector<TraceLine> lines = traceOf(driver, 1);
     for (const TraceLine &line : lines) {
         if (line.sent && line.text.contains("write", Qt::CaseInsensitive))
             result.append(line.text);

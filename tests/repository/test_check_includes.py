@@ -35,6 +35,17 @@ class CheckIncludes(unittest.TestCase):
         self.assertIn("protocol/osi/acse.h: protocol/osi may not include mms/pdu.h of protocol/mms",
                       self.faults({"protocol/osi/acse.h": '#include "mms/pdu.h"\n'}))
 
+    def test_a_program_sees_a_driver_only_by_its_door(self):
+        service = {"driver/service/ieddriver.h": "", "driver/service/embeddeddriver.h": ""}
+        seen = '#include "driver/service/embeddeddriver.h"\n'
+        self.assertEqual(self.faults({**service, "apps/iedctl/main.cpp": seen}), [])
+        for program in ("iedctl", "workbench"):
+            source = f"apps/{program}/main.cpp"
+            inside = '#include "driver/service/ieddriver.h"\n'
+            self.assertEqual(self.faults({**service, source: inside}),
+                             [f"{source}: apps/{program} may not see driver/service/ieddriver.h of "
+                              "driver/service"])
+
     def test_a_link_to_a_room_above_is_found(self):
         build = "add_library(osi tpkt.h)\ntarget_link_libraries(osi PRIVATE mms)"
         self.assertIn("protocol/osi/CMakeLists.txt: protocol/osi may not link mms of protocol/mms",

@@ -6,6 +6,7 @@
 
 #include "driver/model/sclimport.h"
 
+#include <remoteclient/driverserviceregistry.h>
 #include <remoteclient/records.h>
 
 #include <QtCore/QDataStream>
@@ -56,6 +57,10 @@ private slots:
 
 private:
     void start();
+    static DriverService &service()
+    {
+        return *DriverServiceRegistry::find(EmbeddedConsole::address);
+    }
     const DeviceListModel::Device &device(int number)
     {
         const DeviceListModel::Device *found = m_workbench->devices().device(number);
@@ -133,7 +138,7 @@ void tst_ConnectedDevices::theFirstStartIsConnectedToASimulatedBayWhoseValuesMov
     QTRY_VERIFY_WITH_TIMEOUT(device(1).status.counters.publishedValues > published, 20000);
     QByteArray model;
     QString error;
-    QCOMPARE(m_workbench->driver().getIEDModel(1, model, error), OperationSucceeded);
+    QCOMPARE(service().getIEDModel(1, model, error), OperationSucceeded);
     QVERIFY(!model.isEmpty());
 }
 
@@ -295,8 +300,8 @@ void tst_ConnectedDevices::readOnlyRefusesChangesInTheDriverAndIsRemembered()
     m_workbench->setReadOnly(true);
     QCOMPARE(changed.size(), 1);
     QString error;
-    QVERIFY(m_workbench->driver().writeVariable(1, logicalDevice, controlModel, encoded(4),
-                                                error) != OperationSucceeded);
+    QVERIFY(service().writeVariable(1, logicalDevice, controlModel, encoded(4), error) !=
+            OperationSucceeded);
     QVERIFY2(error.contains(QStringLiteral("read-only")), qPrintable(error));
 
     start();
@@ -312,7 +317,7 @@ void tst_ConnectedDevices::whatIsWrittenIsInTheJournalWithItsOldAndNewValue()
     QVERIFY(m_workbench->put(recordFor(*simulated)).isEmpty());
     QTRY_VERIFY(isOnline(1));
     QString error;
-    QCOMPARE(m_workbench->driver().writeVariable(1, logicalDevice, controlModel, encoded(4), error),
+    QCOMPARE(service().writeVariable(1, logicalDevice, controlModel, encoded(4), error),
              OperationSucceeded);
     ChangeJournal &changes = m_workbench->changes();
     QTRY_COMPARE(changes.rowCount(), 1);
@@ -334,7 +339,7 @@ void tst_ConnectedDevices::everyKindOfChangeIsInTheJournalWithItsResult()
 {
     m_workbench->openDemonstration();
     QTRY_VERIFY_WITH_TIMEOUT(isOnline(1), 20000);
-    IedDriver &driver = m_workbench->driver();
+    DriverService &driver = service();
     ControlBlock command;
     command.objectReference = QStringLiteral("GGIO2$CO$SPCSO2");
     command.controlModel = 1;

@@ -254,10 +254,10 @@ void tst_DeviceWindow::readOnlyIsVisibleInTheWindow()
     QVERIFY(!mark->isVisible());
     action("actionReadOnly")->trigger();
     QVERIFY(mark->isVisible());
-    QVERIFY(m_workbench->driver().isReadOnly());
+    QVERIFY(m_workbench->administration().isReadOnly());
     action("actionReadOnly")->trigger();
     QVERIFY(!mark->isVisible());
-    QVERIFY(!m_workbench->driver().isReadOnly());
+    QVERIFY(!m_workbench->administration().isReadOnly());
 }
 
 void tst_DeviceWindow::devicesThatAreAwayAreCountedInTheStatusStrip()
@@ -308,8 +308,8 @@ void tst_DeviceWindow::theTraceGrowsAndPauses()
     auto *trace = m_window->findChild<TraceDialog *>();
     QVERIFY(trace && trace->isVisible());
     const QAbstractItemModel *lines = trace->findChild<TableView *>()->model();
+    QTRY_VERIFY(lines->rowCount() > 2);
     const int before = lines->rowCount();
-    QVERIFY(before > 2);
     const QString first = lines->index(0, TraceModel::TextColumn).data().toString();
     QVERIFY2(first.contains("initiate", Qt::CaseInsensitive), qPrintable(first));
     QTRY_VERIFY(lines->rowCount() > before);
@@ -317,7 +317,9 @@ void tst_DeviceWindow::theTraceGrowsAndPauses()
     trace->findChild<QPushButton *>("clear")->click();
     QCOMPARE(lines->rowCount(), 0);
     trace->findChild<QCheckBox *>("pause")->setChecked(true);
-    const auto exchanged = [this] { return m_workbench->driver().status(1).counters.sentPdus; };
+    const auto exchanged = [this] {
+        return m_workbench->administration().status(1).counters.sentPdus;
+    };
     const auto sent = exchanged();
     QTRY_VERIFY(exchanged() > sent + 1);
     QCOMPARE(lines->rowCount(), 0);
