@@ -155,17 +155,19 @@ int ReceiveEventN(unsigned int port, TavrixDataList &out, const char *key, int w
                   const char *address, const char *domain)
 {
     DestoryTavrixDataList(&out);
-    const bool isAddressed = isGiven(address) || isGiven(domain);
-    const auto backend = state().backends.find(address, domain);
-    if (!backend) {
-        return MiddlewareUnavailable;
+    std::shared_ptr<EventBackend> addressed;
+    if (isGiven(address) || isGiven(domain)) {
+        addressed = state().backends.find(address, domain);
+        if (!addressed) {
+            return MiddlewareUnavailable;
+        }
     }
     const char *const wanted = key == nullptr ? "" : key;
     if (!isText(wanted, maxNameLength) || waitMs < 0 || count < 1) {
         return InvalidArgument;
     }
     const auto place = state().ports.find(port);
-    if (!place || (isAddressed && place->backend != backend)) {
+    if (!place || (addressed && place->backend != addressed)) {
         return NoSuchEventBox;
     }
     std::vector<std::shared_ptr<const Event>> events;
