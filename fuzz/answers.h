@@ -4,6 +4,7 @@
 #include "material.h"
 
 #include "mms/data.h"
+#include "mms/datacodec.h"
 #include "mms/typedescription.h"
 
 namespace fuzz {

@@ -9,6 +9,7 @@
 #include "valuepublishing.h"
 
 #include "acsi/dataset.h"
+#include "mms/datatext.h"
 
 #include <asio/co_spawn.hpp>
 

@@ -6,6 +6,7 @@
 #include "driver/device/reportsubscriptions.h"
 #include "driver/model/discoveredmodel.h"
 #include "driver/text/sentences.h"
+#include "mms/datatext.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QtEndian>

@@ -2,6 +2,7 @@
 #include "acsi/blockvalue.h"
 
 #include "acsi/typedvalue.h"
+#include "mms/datatext.h"
 
 #include <algorithm>
 

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "acsi/control.h"
 
+#include "acsi/controlcalls.h"
 #include "acsi/typedvalue.h"
+#include "mms/datatext.h"
 
 #include <asio/co_spawn.hpp>
 #include <asio/detached.hpp>
@@ -30,19 +32,6 @@ bool isEnhanced(Model model)
 
 /// How much longer than a call may take its answer is still heard.
 constexpr std::chrono::milliseconds latePatience{10000};
-
-/// A LastApplError that says that there is no error.
-bool isNone(const LastApplError &error)
-{
-    constexpr std::int32_t noCause = 25;
-    return error.error == 0 && error.addCause == noCause;
-}
-
-mms::Text reasonOf(const LastApplError &error)
-{
-    const mms::Text cause = additionalCauseText(error.addCause);
-    return error.error > 1 ? say("%1 (%2)", cause, controlErrorText(error.error)) : cause;
-}
 
 /// From now until a moment of the wall clock, none when it has passed.
 std::chrono::milliseconds until(const mms::UtcTime &time)
@@ -79,36 +68,6 @@ std::string secondsText(std::chrono::milliseconds time)
 }
 
 } // namespace
-
-/// A service on the way, or a command whose termination is awaited or may still come.
-struct ControlObject::Call
-{
-    enum class State : std::uint8_t {
-        Waiting,  ///< for its response
-        Refused,  ///< the reason may follow
-        Accepted, ///< the termination is awaited
-        Silent,   ///< there will be no response; a termination may come all the same
-        Over,
-    };
-
-    Call(const osi::Link::Strand &strand, std::string wanted, std::optional<std::uint8_t> number)
-        : component(std::move(wanted))
-        , ctlNum(number)
-        , wake(strand, asio::steady_timer::time_point::max())
-    {
-    }
-
-    std::string component;
-    std::optional<std::uint8_t> ctlNum;
-    asio::steady_timer wake;
-    State state = State::Waiting;
-    ControlResult result;
-    mms::Text reason; ///< of a refusal
-    std::optional<LastApplError> applError;
-    bool isNamed = false; ///< the error names the service of this call
-    std::optional<ControlInformation> termination;
-    bool isLeft = false; ///< nobody waits for it any more
-};
 
 /// Somebody waits for the call as long as it lives.
 class ControlObject::Leaving
@@ -245,32 +204,6 @@ mms::VariableAccess ControlObject::component(const std::string &name) const
     return accessOf(reference);
 }
 
-ControlResult ControlObject::refusal(const Call &call) const
-{
-    ControlResult result;
-    result.outcome = ControlOutcome::Refused;
-    result.applError = call.applError;
-    const bool saysWhy = call.applError && !isNone(*call.applError);
-    result.message = say("%1: the device refuses %2: %3.", name(), call.component,
-                         saysWhy ? reasonOf(*call.applError) : call.reason);
-    return result;
-}
-
-ControlResult ControlObject::ending(const Call &call) const
-{
-    ControlResult result;
-    result.ok = call.termination->positive;
-    result.outcome = result.ok ? ControlOutcome::Done : ControlOutcome::Failed;
-    if (result.ok)
-        return result;
-    result.applError = call.termination->applError;
-    result.message =
-        result.applError
-            ? say("%1: the command ended without success: %2.", name(), reasonOf(*result.applError))
-            : say("%1: the command ended without success: the device does not say why.", name());
-    return result;
-}
-
 ControlObject::CallPointer ControlObject::begin(std::string component,
                                                 std::optional<std::uint8_t> ctlNum)
 {
@@ -278,7 +211,7 @@ ControlObject::CallPointer ControlObject::begin(std::string component,
     std::erase_if(m_calls, [&](const CallPointer &each) {
         return each->isLeft && each->component == component && each->ctlNum == ctlNum;
     });
-    auto call = std::make_shared<Call>(m_client->strand(), std::move(component), ctlNum);
+    auto call = std::make_shared<ControlCall>(m_client->strand(), std::move(component), ctlNum);
     m_calls.push_back(call);
     return call;
 }
@@ -296,13 +229,13 @@ asio::awaitable<void> ControlObject::exchange(std::shared_ptr<ControlObject> sel
 
 void ControlObject::answered(const CallPointer &call, const mms::CallOutcome &outcome)
 {
-    if (call->state == Call::State::Over)
+    if (call->state == ControlCall::State::Over)
         return;
     const auto refused = [&](mms::Text reason) {
         call->reason = std::move(reason);
-        call->state = Call::State::Refused;
+        call->state = ControlCall::State::Refused;
         if (call->isLeft)
-            tellLate(call, refusal(*call));
+            tellLate(call, refusal(*call, name()));
         else
             call->wake.cancel();
     };
@@ -313,7 +246,7 @@ void ControlObject::answered(const CallPointer &call, const mms::CallOutcome &ou
         call->result.outcome = isUnsent ? ControlOutcome::NotSent : ControlOutcome::Unknown;
         call->result.message = say("%1: %2 got no answer: %3.", name(), call->component,
                                    isLost ? m_client->closeReason() : failure->message);
-        call->state = Call::State::Silent;
+        call->state = ControlCall::State::Silent;
         call->wake.cancel();
         forget(call);
         return;
@@ -345,7 +278,7 @@ void ControlObject::answered(const CallPointer &call, const mms::CallOutcome &ou
     call->result.outcome = ControlOutcome::Unknown;
     call->result.message =
         say("%1: %2 got an answer that does not match the question.", name(), call->component);
-    call->state = Call::State::Silent;
+    call->state = ControlCall::State::Silent;
     call->wake.cancel();
     forget(call);
 }
@@ -353,9 +286,9 @@ void ControlObject::answered(const CallPointer &call, const mms::CallOutcome &ou
 void ControlObject::forget(const CallPointer &call)
 {
     // A response is still to come, or a termination.
-    const bool mayBeHeardOf =
-        call->state == Call::State::Waiting ||
-        (call->state != Call::State::Over && call->component == "Oper" && isEnhanced(m_model));
+    const bool mayBeHeardOf = call->state == ControlCall::State::Waiting ||
+                              (call->state != ControlCall::State::Over &&
+                               call->component == "Oper" && isEnhanced(m_model));
     if (!call->isLeft || mayBeHeardOf)
         return;
     const CallPointer kept = call;
@@ -366,8 +299,8 @@ void ControlObject::accepted(const CallPointer &call)
 {
     const bool terminates = call->component == "Oper" && isEnhanced(m_model);
     const std::optional<LastApplError> error = std::exchange(call->applError, std::nullopt);
-    call->state = Call::State::Accepted;
-    if (error && call->isNamed && terminates && !isNone(*error) && !call->termination) {
+    call->state = ControlCall::State::Accepted;
+    if (error && call->isNamed && terminates && !saysNoError(*error) && !call->termination) {
         // The error of an accepted command may come before its answer.
         terminate(call, ControlInformation{std::nullopt, false, error, std::nullopt});
         return;
@@ -375,10 +308,10 @@ void ControlObject::accepted(const CallPointer &call)
     // What this call was accepted in spite of means the command that is being executed.
     if (error && !call->isNamed) {
         const auto running = std::ranges::find_if(m_calls, [&](const CallPointer &each) {
-            return each != call && each->state == Call::State::Accepted && !each->termination &&
-                   (error->ctlNum == 0 || each->ctlNum == error->ctlNum);
+            return each != call && each->state == ControlCall::State::Accepted &&
+                   !each->termination && (error->ctlNum == 0 || each->ctlNum == error->ctlNum);
         });
-        if (running != m_calls.end() && !isNone(*error))
+        if (running != m_calls.end() && !saysNoError(*error))
             terminate(*running, ControlInformation{std::nullopt, false, error, std::nullopt});
     }
     if (!call->isLeft) {
@@ -397,7 +330,7 @@ void ControlObject::terminate(const CallPointer &call, ControlInformation inform
 {
     call->termination = std::move(information);
     if (call->isLeft)
-        tellLate(call, ending(*call));
+        tellLate(call, ending(*call, name()));
     else
         call->wake.cancel();
 }
@@ -407,7 +340,7 @@ void ControlObject::tellLate(const CallPointer &call, ControlResult result)
     const auto self = shared_from_this();
     const CallPointer kept = call;
     if (result.outcome != ControlOutcome::Accepted) {
-        kept->state = Call::State::Over;
+        kept->state = ControlCall::State::Over;
         std::erase(m_calls, kept);
     }
     if (kept->component == "Oper" && m_lateHandler)
@@ -420,21 +353,22 @@ asio::awaitable<void> ControlObject::perform(CallPointer call, mms::RequestServi
     const auto deadline = Clock::now() + m_client->options().callTimeout;
     asio::co_spawn(m_client->strand(), exchange(shared_from_this(), call, std::move(request)),
                    asio::detached);
-    while (call->state == Call::State::Waiting && !call->termination && Clock::now() < deadline) {
+    while (call->state == ControlCall::State::Waiting && !call->termination &&
+           Clock::now() < deadline) {
         call->wake.expires_at(deadline);
         co_await call->wake.async_wait(asTuple);
     }
-    if (call->state == Call::State::Refused && !call->applError && m_client->isOpen()) {
+    if (call->state == ControlCall::State::Refused && !call->applError && m_client->isOpen()) {
         const auto end = Clock::now() + causePatience;
         while (!call->applError && m_client->isOpen() && Clock::now() < end) {
             call->wake.expires_at(end);
             co_await call->wake.async_wait(asTuple);
         }
     }
-    if (call->state == Call::State::Refused) {
-        call->result = refusal(*call);
-        call->state = Call::State::Over;
-    } else if (call->state == Call::State::Waiting && !call->termination) {
+    if (call->state == ControlCall::State::Refused) {
+        call->result = refusal(*call, name());
+        call->state = ControlCall::State::Over;
+    } else if (call->state == ControlCall::State::Waiting && !call->termination) {
         call->result.outcome = ControlOutcome::Unknown;
         call->result.message = say("%1: %2 got no answer within %3.", name(), call->component,
                                    secondsText(m_client->options().callTimeout));
@@ -447,7 +381,7 @@ asio::awaitable<void> ControlObject::write(CallPointer call, const mms::TypeDesc
     auto value = controlValue(type, request, m_scale);
     if (!value) {
         call->result.message = say("%1: %2.", name(), value.error().message);
-        call->state = Call::State::Over;
+        call->state = ControlCall::State::Over;
         co_return;
     }
     mms::WriteRequest service;
@@ -472,7 +406,7 @@ asio::awaitable<ControlResult> ControlObject::select(ControlRequest request)
     } else {
         co_await write(call, m_selectType, request);
     }
-    if (call->state != Call::State::Accepted)
+    if (call->state != ControlCall::State::Accepted)
         co_return call->result;
     co_return ControlResult{true, {}, {}, ControlOutcome::Done};
 }
@@ -488,23 +422,23 @@ asio::awaitable<ControlResult> ControlObject::operate(ControlRequest request,
     const CallPointer call = begin("Oper", request.ctlNum);
     const Leaving leaving(*this, call);
     co_await write(call, m_operType, request);
-    if (call->state == Call::State::Accepted && !isEnhanced(m_model)) {
-        call->state = Call::State::Over;
+    if (call->state == ControlCall::State::Accepted && !isEnhanced(m_model)) {
+        call->state = ControlCall::State::Over;
         co_return ControlResult{true, {}, {}, ControlOutcome::Done};
     }
     const auto patience = terminationTimeout + (request.operateTime ? until(*request.operateTime)
                                                                     : std::chrono::milliseconds(0));
     const auto deadline = Clock::now() + patience;
-    while (call->state == Call::State::Accepted && !call->termination && m_client->isOpen() &&
-           Clock::now() < deadline) {
+    while (call->state == ControlCall::State::Accepted && !call->termination &&
+           m_client->isOpen() && Clock::now() < deadline) {
         call->wake.expires_at(deadline);
         co_await call->wake.async_wait(asTuple);
     }
     if (call->termination) {
-        call->state = Call::State::Over;
-        co_return ending(*call);
+        call->state = ControlCall::State::Over;
+        co_return ending(*call, name());
     }
-    if (call->state != Call::State::Accepted)
+    if (call->state != ControlCall::State::Accepted)
         co_return call->result;
     ControlResult result;
     result.outcome = ControlOutcome::Accepted;
@@ -535,65 +469,9 @@ asio::awaitable<ControlResult> ControlObject::cancel(ControlRequest request)
     const CallPointer call = begin("Cancel", request.ctlNum);
     const Leaving leaving(*this, call);
     co_await write(call, m_cancelType, request);
-    if (call->state != Call::State::Accepted)
+    if (call->state != ControlCall::State::Accepted)
         co_return call->result;
     co_return ControlResult{true, {}, {}, ControlOutcome::Done};
-}
-
-ControlObject::CallPointer ControlObject::terminated(const ControlInformation &information) const
-{
-    std::vector<CallPointer> candidates;
-    for (const CallPointer &call : m_calls) {
-        if (call->component == "Oper" && !call->termination && call->state != Call::State::Over &&
-            call->state != Call::State::Refused)
-            candidates.push_back(call);
-    }
-    std::optional<std::uint8_t> number;
-    if (information.oper) {
-        if (const auto request = controlRequestFrom(m_operType, *information.oper))
-            number = request->ctlNum;
-    }
-    if (number.value_or(0) != 0) {
-        const auto found = std::ranges::find(candidates, number, &Call::ctlNum);
-        return found == candidates.end() ? nullptr : *found;
-    }
-    return candidates.size() == 1 ? candidates.front() : nullptr;
-}
-
-ControlObject::CallPointer ControlObject::meant(const LastApplError &error) const
-{
-    const auto named = controlledNameFrom(error.controlObject);
-    if (!named || named->object != name())
-        return nullptr;
-    // Some devices name the operate service whichever they refuse.
-    const auto mayMean = [&](const CallPointer &call) {
-        return named->service.empty() || named->service == call->component ||
-               named->service == "Oper";
-    };
-    std::vector<CallPointer> waiting;
-    std::vector<CallPointer> running;
-    for (const CallPointer &call : m_calls) {
-        const bool isOther = error.ctlNum != 0 && call->ctlNum && *call->ctlNum != error.ctlNum;
-        if (isOther || call->termination || !mayMean(call))
-            continue;
-        if (call->state == Call::State::Accepted && call->component == "Oper")
-            running.push_back(call);
-        else if ((call->state == Call::State::Waiting || call->state == Call::State::Refused) &&
-                 !call->applError)
-            waiting.push_back(call);
-    }
-    for (const std::vector<CallPointer> &group : {waiting, running}) {
-        if (group.size() == 1)
-            return group.front();
-        const auto isNamed = [&](const CallPointer &call) {
-            return call->component == named->service;
-        };
-        if (std::ranges::count_if(group, isNamed) == 1)
-            return *std::ranges::find_if(group, isNamed);
-        if (!group.empty())
-            return nullptr;
-    }
-    return nullptr;
 }
 
 bool ControlObject::handle(const mms::InformationReport &report)
@@ -604,7 +482,7 @@ bool ControlObject::handle(const mms::InformationReport &report)
     if (information->terminated) {
         if (*information->terminated != m_object)
             return false;
-        const CallPointer call = terminated(*information);
+        const CallPointer call = callTerminatedBy(*information, m_calls, m_operType);
         if (!call)
             return false;
         // The cause of another object is none of this one.
@@ -618,11 +496,11 @@ bool ControlObject::handle(const mms::InformationReport &report)
     }
     if (!information->applError)
         return false;
-    const CallPointer call = meant(*information->applError);
+    const CallPointer call = callMeantBy(*information->applError, m_calls, name());
     if (!call)
         return false;
-    if (call->state == Call::State::Accepted) {
-        if (!isNone(*information->applError))
+    if (call->state == ControlCall::State::Accepted) {
+        if (!saysNoError(*information->applError))
             terminate(call, *std::move(information));
         return true;
     }

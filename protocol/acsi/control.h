@@ -139,6 +139,8 @@ mms::InformationReport toReport(const LastApplError &error);
 mms::InformationReport commandTermination(const Reference &object, mms::Data oper,
                                           const std::optional<LastApplError> &error = {});
 
+struct ControlCall;
+
 /// A controllable data object of a server ("LD/LN$CO$Pos"). In the client's strand, where it is
 /// destroyed as well. Calls may overlap: what the device says is given to the call that is meant,
 /// so all calls of one object in one association belong to one ControlObject.
@@ -194,9 +196,8 @@ public:
     void setLateHandler(LateHandler handler) { m_lateHandler = std::move(handler); }
 
 private:
-    struct Call;
     class Leaving;
-    using CallPointer = std::shared_ptr<Call>;
+    using CallPointer = std::shared_ptr<ControlCall>;
 
     asio::awaitable<mms::Result<void>> readTypes();
     CallPointer begin(std::string component, std::optional<std::uint8_t> ctlNum);
@@ -211,11 +212,7 @@ private:
     void forget(const CallPointer &call);
     void terminate(const CallPointer &call, ControlInformation information);
     void tellLate(const CallPointer &call, ControlResult result);
-    ControlResult refusal(const Call &call) const;
-    ControlResult ending(const Call &call) const;
     bool handle(const mms::InformationReport &report);
-    CallPointer terminated(const ControlInformation &information) const;
-    CallPointer meant(const LastApplError &error) const;
     mms::VariableAccess component(const std::string &name) const;
     std::string name() const { return objectReferenceText(m_object); }
 

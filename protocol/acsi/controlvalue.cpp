@@ -2,6 +2,7 @@
 #include "acsi/control.h"
 
 #include "acsi/typedvalue.h"
+#include "mms/datatext.h"
 
 #include <algorithm>
 #include <array>

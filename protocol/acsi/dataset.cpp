@@ -2,6 +2,7 @@
 #include "acsi/dataset.h"
 
 #include "mms/data.h"
+#include "mms/datatext.h"
 
 #include <utility>
 

@@ -2,6 +2,7 @@
 #include "acsi/reference.h"
 
 #include "mms/data.h"
+#include "mms/datatext.h"
 
 #include <algorithm>
 #include <charconv>

@@ -3,6 +3,7 @@
 
 #include "acsi/blockvalue.h"
 #include "acsi/typedvalue.h"
+#include "mms/datatext.h"
 
 #include <asio/ip/address.hpp>
 

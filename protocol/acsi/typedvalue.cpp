@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "acsi/typedvalue.h"
 
+#include "mms/datatext.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>

@@ -48,6 +48,12 @@ inline std::string withoutFullStop(const Text &sentence)
     return sentence.english().substr(0, sentence.english().find_last_not_of('.') + 1);
 }
 
+/// A flag within the text of a trace.
+inline std::string yesNo(const char *name, bool value)
+{
+    return std::string(name) + (value ? " true" : " false");
+}
+
 /// Elements separated by ", ".
 template <typename Range, typename Function>
 std::string joined(const Range &range, Function function)

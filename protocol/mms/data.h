@@ -180,7 +180,16 @@ private:
     void stealBorrowed(Data &other) noexcept;
     void copyFrom(const Data &other);
     /// Room for octets of a value that holds none yet.
-    std::uint8_t *makeRoom(Kind kind, std::size_t size);
+    std::uint8_t *makeRoom(Kind kind, std::size_t size)
+    {
+        m_kind = kind;
+        m_size = static_cast<std::uint32_t>(size);
+        const std::size_t octets = octetCount();
+        if (octets <= insideSize)
+            return m_content.inside;
+        m_content.octets = new std::uint8_t[octets];
+        return m_content.octets;
+    }
 
     union Content {
         std::uint64_t bits;
@@ -251,43 +260,5 @@ private:
 
     Data m_data;
 };
-
-/// Reading and writing of values as elements.
-class DataCodec
-{
-public:
-    /// The value that @a element is; an empty structure after a failure.
-    static Data read(ber::Reader &reader, const ber::Element &element);
-    /// The next element, which must be there, as a value.
-    static Data readNext(ber::Reader &reader);
-    /// Every element that is left.
-    static std::vector<Data> readAll(ber::Reader &reader);
-    static std::vector<AccessResult> readResults(ber::Reader &reader);
-    static void write(ber::Writer &writer, const Data &data);
-    static void write(ber::Writer &writer, const AccessResult &result);
-
-private:
-    /// Where the children of groups within another one are put.
-    struct Room
-    {
-        Data *next = nullptr;
-        Data *end = nullptr;
-    };
-
-    static void readInto(ber::Reader &reader, const ber::Element &element, Data &data,
-                         Room *room = nullptr);
-};
-
-/// Whole input as one value.
-Result<Data> decodeData(Bytes bytes, const ber::Limits &limits = {});
-std::vector<std::uint8_t> encode(const Data &data);
-
-/// For traces: numbers as they are, text in quotation marks, bits and octets as ASN.1 writes them,
-/// times in UTC, structures in braces and arrays in brackets.
-std::string toText(const Data &data);
-std::string toText(const AccessResult &result);
-
-/// Text in quotation marks; octets that do not print as "\x" and two digits.
-std::string quoted(std::string_view text);
 
 } // namespace mms

@@ -3,6 +3,7 @@
 
 #include "mms/codec.h"
 #include "mms/data.h"
+#include "mms/datatext.h"
 
 namespace mms {
 

@@ -2,9 +2,9 @@
 #include "mms/pdu.h"
 
 #include "mms/codec.h"
+#include "mms/datacodec.h"
+#include "mms/datatext.h"
 
-#include <limits>
-#include <span>
 #include <type_traits>
 #include <utility>
 
@@ -195,104 +195,17 @@ std::string text(const UnconfirmedPdu &pdu)
 
 void read(Reader &outer, const Element &element, RejectPdu &pdu)
 {
-    Reader reader = outer.enter(element);
-    Element next;
-    if (reader.takeIf(Tag::context(0), next))
-        pdu.invokeId = reader.unsigned32(next);
-    reader.next(next);
-    const std::uint32_t number = next.tag.number();
-    if (!next.tag.isContext() || next.tag.isConstructed() || number < 1 || number > 11)
-        reader.fail(say("The element %1 is missing or of an unknown kind.", "rejectReason"));
-    pdu.rejected = static_cast<RejectedPdu>(number);
-    pdu.code = reader.integer32(next);
-    reader.expectEnd("rejectPDU");
+    pdu = RejectPdu::read(outer, element);
 }
 
 void write(Writer &writer, const RejectPdu &pdu)
 {
-    writer.integer(Tag::context(static_cast<std::uint32_t>(pdu.rejected)), pdu.code);
-    if (pdu.invokeId)
-        writer.unsignedInteger(Tag::context(0), *pdu.invokeId);
-}
-
-struct RejectReasons
-{
-    std::string_view name;
-    wording::Pattern<1> sentence;
-    std::span<const std::string_view> codes;
-};
-
-constexpr std::string_view requestCodes[] = {"other",
-                                             "unrecognized-service",
-                                             "unrecognized-modifier",
-                                             "invalid-invokeID",
-                                             "invalid-argument",
-                                             "invalid-modifier",
-                                             "max-serv-outstanding-exceeded",
-                                             "",
-                                             "max-recursion-exceeded",
-                                             "value-out-of-range"};
-constexpr std::string_view responseCodes[] = {
-    "other", "unrecognized-service",   "invalid-invokeID",  "invalid-result",
-    "",      "max-recursion-exceeded", "value-out-of-range"};
-constexpr std::string_view errorCodes[] = {"other", "unrecognized-service", "invalid-invokeID",
-                                           "invalid-serviceError", "value-out-of-range"};
-constexpr std::string_view unconfirmedCodes[] = {"other", "unrecognized-service",
-                                                 "invalid-argument", "max-recursion-exceeded",
-                                                 "value-out-of-range"};
-constexpr std::string_view pduCodes[] = {"unknown-pdu-type", "invalid-pdu", "illegal-acse-mapping"};
-constexpr std::string_view cancelCodes[] = {"other", "invalid-invokeID"};
-constexpr std::string_view cancelErrorCodes[] = {"other", "invalid-invokeID",
-                                                 "invalid-serviceError", "value-out-of-range"};
-constexpr std::string_view concludeRequestCodes[] = {"other", "invalid-argument"};
-constexpr std::string_view concludeResponseCodes[] = {"other", "invalid-result"};
-constexpr std::string_view concludeErrorCodes[] = {"other", "invalid-serviceError",
-                                                   "value-out-of-range"};
-
-/// In the order of RejectedPdu, which begins with 1.
-constexpr RejectReasons rejectReasons[] = {
-    {"confirmed-requestPDU", wording::pattern<1>("The device rejects a request (%1)."),
-     requestCodes},
-    {"confirmed-responsePDU", wording::pattern<1>("The device rejects an answer (%1)."),
-     responseCodes},
-    {"confirmed-errorPDU", wording::pattern<1>("The device rejects an error (%1)."), errorCodes},
-    {"unconfirmedPDU", wording::pattern<1>("The device rejects an unconfirmed message (%1)."),
-     unconfirmedCodes},
-    {"pdu-error", wording::pattern<1>("The device rejects a message that it cannot read (%1)."),
-     pduCodes},
-    {"cancel-requestPDU", wording::pattern<1>("The device rejects a cancel (%1)."), cancelCodes},
-    {"cancel-responsePDU", wording::pattern<1>("The device rejects the answer to a cancel (%1)."),
-     cancelCodes},
-    {"cancel-errorPDU", wording::pattern<1>("The device rejects the refusal of a cancel (%1)."),
-     cancelErrorCodes},
-    {"conclude-requestPDU", wording::pattern<1>("The device rejects a conclude (%1)."),
-     concludeRequestCodes},
-    {"conclude-responsePDU",
-     wording::pattern<1>("The device rejects the answer to a conclude (%1)."),
-     concludeResponseCodes},
-    {"conclude-errorPDU", wording::pattern<1>("The device rejects the refusal of a conclude (%1)."),
-     concludeErrorCodes}};
-
-const RejectReasons &reasonsOf(const RejectPdu &pdu)
-{
-    return rejectReasons[static_cast<std::size_t>(pdu.rejected) - 1];
-}
-
-std::string codeOf(const RejectPdu &pdu)
-{
-    const auto codes = reasonsOf(pdu).codes;
-    const auto index = static_cast<std::size_t>(pdu.code);
-    if (pdu.code >= 0 && index < codes.size() && !codes[index].empty())
-        return std::string(codes[index]);
-    return std::to_string(pdu.code);
+    pdu.write(writer);
 }
 
 std::string text(const RejectPdu &pdu)
 {
-    std::string result = "rejectPDU ";
-    if (pdu.invokeId)
-        result += std::to_string(*pdu.invokeId) + ' ';
-    return result + std::string(reasonsOf(pdu).name) + ": " + codeOf(pdu);
+    return "rejectPDU " + pdu.text();
 }
 
 void read(Reader &outer, const Element &element, CancelRequestPdu &pdu)
@@ -346,97 +259,34 @@ std::string text(const CancelErrorPdu &pdu)
     return "cancel-ErrorPDU " + std::to_string(pdu.invokeId) + ' ' + toText(pdu.error);
 }
 
-std::int16_t integer16(Reader &reader, Tag tag, std::string_view what)
-{
-    return static_cast<std::int16_t>(reader.integer(reader.expect(tag, what),
-                                                    std::numeric_limits<std::int16_t>::min(),
-                                                    std::numeric_limits<std::int16_t>::max()));
-}
-
-InitiateParameters readParameters(Reader &outer, const Element &element)
-{
-    Reader reader = outer.enter(element);
-    InitiateParameters parameters;
-    Element optional;
-    if (reader.takeIf(Tag::context(0), optional))
-        parameters.maxPduSize = reader.integer32(optional);
-    parameters.maxOutstandingCalling =
-        integer16(reader, Tag::context(1), "maxServOutstandingCalling");
-    parameters.maxOutstandingCalled =
-        integer16(reader, Tag::context(2), "maxServOutstandingCalled");
-    if (reader.takeIf(Tag::context(3), optional))
-        parameters.nestingLevel = static_cast<std::int8_t>(
-            reader.integer(optional, std::numeric_limits<std::int8_t>::min(),
-                           std::numeric_limits<std::int8_t>::max()));
-    Reader detail = reader.expectGroup(Tag::group(4), "initRequestDetail");
-    parameters.version = integer16(detail, Tag::context(0), "versionNumber");
-    parameters.parameters = detail.bitString(detail.expect(Tag::context(1), "parameterCBB"));
-    parameters.services = detail.bitString(detail.expect(Tag::context(2), "servicesSupported"));
-    // Later editions append fields that say nothing to IEC 61850.
-    while (detail.next(optional)) {
-        if (!optional.tag.isContext())
-            detail.fail(say("Something stands behind the end of %1.", "initRequestDetail"));
-    }
-    reader.expectEnd("initiate-PDU");
-    return parameters;
-}
-
-void writeParameters(Writer &writer, const InitiateParameters &parameters)
-{
-    const std::size_t mark = writer.size();
-    writer.bitString(Tag::context(2), parameters.services);
-    writer.bitString(Tag::context(1), parameters.parameters);
-    writer.integer(Tag::context(0), parameters.version);
-    writer.close(Tag::group(4), mark);
-    if (parameters.nestingLevel)
-        writer.integer(Tag::context(3), *parameters.nestingLevel);
-    writer.integer(Tag::context(2), parameters.maxOutstandingCalled);
-    writer.integer(Tag::context(1), parameters.maxOutstandingCalling);
-    if (parameters.maxPduSize)
-        writer.integer(Tag::context(0), *parameters.maxPduSize);
-}
-
-std::string parametersText(const InitiateParameters &parameters)
-{
-    std::string result;
-    if (parameters.maxPduSize)
-        result += "PDU size " + std::to_string(*parameters.maxPduSize) + ", ";
-    result += "outstanding calls " + std::to_string(parameters.maxOutstandingCalling) + " and " +
-              std::to_string(parameters.maxOutstandingCalled);
-    if (parameters.nestingLevel)
-        result += ", nesting level " + std::to_string(*parameters.nestingLevel);
-    return result + ", version " + std::to_string(parameters.version) + ", parameters '" +
-           parameters.parameters.toText() + "'B, services '" + parameters.services.toText() + "'B";
-}
-
 void read(Reader &outer, const Element &element, InitiateRequestPdu &pdu)
 {
-    pdu.parameters = readParameters(outer, element);
+    pdu.parameters = InitiateParameters::read(outer, element);
 }
 
 void write(Writer &writer, const InitiateRequestPdu &pdu)
 {
-    writeParameters(writer, pdu.parameters);
+    pdu.parameters.write(writer);
 }
 
 std::string text(const InitiateRequestPdu &pdu)
 {
-    return "initiate-RequestPDU " + parametersText(pdu.parameters);
+    return "initiate-RequestPDU " + pdu.parameters.text();
 }
 
 void read(Reader &outer, const Element &element, InitiateResponsePdu &pdu)
 {
-    pdu.parameters = readParameters(outer, element);
+    pdu.parameters = InitiateParameters::read(outer, element);
 }
 
 void write(Writer &writer, const InitiateResponsePdu &pdu)
 {
-    writeParameters(writer, pdu.parameters);
+    pdu.parameters.write(writer);
 }
 
 std::string text(const InitiateResponsePdu &pdu)
 {
-    return "initiate-ResponsePDU " + parametersText(pdu.parameters);
+    return "initiate-ResponsePDU " + pdu.parameters.text();
 }
 
 void read(Reader &outer, const Element &element, InitiateErrorPdu &pdu)
@@ -591,58 +441,9 @@ std::optional<PduHead> peekPdu(Bytes bytes, const ber::Limits &limits)
     return head;
 }
 
-std::string_view serviceName(std::uint32_t tagNumber)
-{
-    switch (tagNumber) {
-    case 0:
-        return "status";
-    case 1:
-        return "getNameList";
-    case 2:
-        return "identify";
-    case 3:
-        return "rename";
-    case 4:
-        return "read";
-    case 5:
-        return "write";
-    case 6:
-        return "getVariableAccessAttributes";
-    case 11:
-        return "defineNamedVariableList";
-    case 12:
-        return "getNamedVariableListAttributes";
-    case 13:
-        return "deleteNamedVariableList";
-    case 46:
-        return "obtainFile";
-    case 65:
-        return "readJournal";
-    case 72:
-        return "fileOpen";
-    case 73:
-        return "fileRead";
-    case 74:
-        return "fileClose";
-    case 75:
-        return "fileRename";
-    case 76:
-        return "fileDelete";
-    case 77:
-        return "fileDirectory";
-    default:
-        return {};
-    }
-}
-
 std::string toText(const Pdu &pdu)
 {
     return std::visit([](const auto &alternative) { return text(alternative); }, pdu);
-}
-
-Text describe(const RejectPdu &reject)
-{
-    return say(reasonsOf(reject).sentence, codeOf(reject));
 }
 
 } // namespace mms

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "mms/initiate.h"
 #include "mms/pdufiles.h"
+#include "mms/pdujournals.h"
+#include "mms/pdulists.h"
 #include "mms/pduservices.h"
+#include "mms/reject.h"
 #include "mms/serviceerror.h"
 
 #include <cstdint>
@@ -13,53 +17,6 @@
 #include <vector>
 
 namespace mms {
-
-/// Optional features (ISO 9506-2, ParameterSupportOptions); the numbers are the bits.
-enum class Parameter : std::uint8_t {
-    Arrays = 0,
-    Structures = 1,
-    NamedVariables = 2,
-    AlternateAccess = 3,
-    Addresses = 4,
-    ScatteredAccess = 5,
-    NamedTypes = 6,
-    NamedVariableLists = 7,
-    Real = 8,
-    ConditionalEvents = 10,
-};
-inline constexpr std::size_t parameterBits = 11;
-
-/// Services (ISO 9506-2, ServiceSupportOptions); the numbers are the bits, and for confirmed
-/// services the tags as well.
-enum class Service : std::uint8_t {
-    Status = 0,
-    GetNameList = 1,
-    Identify = 2,
-    Rename = 3,
-    Read = 4,
-    Write = 5,
-    GetVariableAccessAttributes = 6,
-    DefineNamedVariableList = 11,
-    GetNamedVariableListAttributes = 12,
-    DeleteNamedVariableList = 13,
-    ObtainFile = 46,
-    ReadJournal = 65,
-    FileOpen = 72,
-    FileRead = 73,
-    FileClose = 74,
-    FileRename = 75,
-    FileDelete = 76,
-    FileDirectory = 77,
-    UnsolicitedStatus = 78,
-    InformationReport = 79,
-    EventNotification = 80,
-    Conclude = 83,
-    Cancel = 84,
-};
-inline constexpr std::size_t serviceBits = 85;
-
-/// The standard's name of a confirmed service's tag, such as "getNameList".
-std::string_view serviceName(std::uint32_t tagNumber);
 
 /// A service that is not read further: its element as it stands.
 struct UnknownService
@@ -119,49 +76,6 @@ struct UnconfirmedPdu
     friend bool operator==(const UnconfirmedPdu &, const UnconfirmedPdu &) = default;
 };
 
-/// What a rejected PDU was; the numbers are the tags of the reason.
-enum class RejectedPdu : std::uint8_t {
-    ConfirmedRequest = 1,
-    ConfirmedResponse = 2,
-    ConfirmedError = 3,
-    Unconfirmed = 4,
-    PduError = 5,
-    CancelRequest = 6,
-    CancelResponse = 7,
-    CancelError = 8,
-    ConcludeRequest = 9,
-    ConcludeResponse = 10,
-    ConcludeError = 11,
-};
-
-// Reject codes that this side gives.
-namespace rejectcodes {
-inline constexpr std::int32_t requestOther = 0;
-inline constexpr std::int32_t requestUnrecognizedService = 1;
-inline constexpr std::int32_t requestUnrecognizedModifier = 2;
-inline constexpr std::int32_t requestInvalidInvokeId = 3;
-inline constexpr std::int32_t requestInvalidArgument = 4;
-inline constexpr std::int32_t requestMaxOutstandingExceeded = 6;
-inline constexpr std::int32_t requestMaxRecursionExceeded = 8;
-inline constexpr std::int32_t requestValueOutOfRange = 9;
-inline constexpr std::int32_t responseUnrecognizedService = 1;
-inline constexpr std::int32_t responseInvalidInvokeId = 2;
-inline constexpr std::int32_t responseInvalidResult = 3;
-inline constexpr std::int32_t pduUnknownType = 0;
-inline constexpr std::int32_t pduInvalid = 1;
-inline constexpr std::int32_t cancelInvalidInvokeId = 1;
-} // namespace rejectcodes
-
-struct RejectPdu
-{
-    std::optional<std::uint32_t> invokeId;
-    RejectedPdu rejected = RejectedPdu::PduError;
-    /// Among the reasons for this kind of PDU; a number that the standard does not know is kept.
-    std::int32_t code = 0;
-
-    friend bool operator==(const RejectPdu &, const RejectPdu &) = default;
-};
-
 struct CancelRequestPdu
 {
     std::uint32_t invokeId = 0;
@@ -182,34 +96,6 @@ struct CancelErrorPdu
     ServiceError error;
 
     friend bool operator==(const CancelErrorPdu &, const CancelErrorPdu &) = default;
-};
-
-/// What two sides of an association agree on: proposed in a request, decided in a response.
-struct InitiateParameters
-{
-    /// The longest PDU in octets; absent for no limit.
-    std::optional<std::int32_t> maxPduSize;
-    /// Confirmed calls of the side that calls that may wait for their answer at the same time.
-    std::int16_t maxOutstandingCalling = 1;
-    /// Likewise of the side that is called.
-    std::int16_t maxOutstandingCalled = 1;
-    std::optional<std::int8_t> nestingLevel;
-    std::int16_t version = 1;
-    /// Bits of Parameter.
-    BitString parameters = BitString(parameterBits);
-    /// Bits of Service, of the side that sends this.
-    BitString services = BitString(serviceBits);
-
-    bool supports(Service service) const
-    {
-        return services.test(static_cast<std::size_t>(service));
-    }
-    bool supports(Parameter parameter) const
-    {
-        return parameters.test(static_cast<std::size_t>(parameter));
-    }
-
-    friend bool operator==(const InitiateParameters &, const InitiateParameters &) = default;
 };
 
 struct InitiateRequestPdu
@@ -273,6 +159,12 @@ void write(ber::Writer &writer, const Pdu &pdu);
 /// that is malformed, or to reject a request.
 struct PduHead
 {
+    // Some of the types.
+    static constexpr std::uint32_t confirmedRequest = 0;
+    static constexpr std::uint32_t confirmedResponse = 1;
+    static constexpr std::uint32_t confirmedError = 2;
+    static constexpr std::uint32_t reject = 4;
+
     /// The tag of the PDU, 0 to 13.
     std::uint32_t type = 0;
     std::optional<std::uint32_t> invokeId;
@@ -287,7 +179,5 @@ std::optional<PduHead> peekPdu(Bytes bytes, const ber::Limits &limits = {});
 
 /// One line for traces: the standard's name of the PDU, the invoke id, the service and its content.
 std::string toText(const Pdu &pdu);
-/// A sentence for the operator.
-Text describe(const RejectPdu &reject);
 
 } // namespace mms

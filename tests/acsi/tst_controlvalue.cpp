@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "acsi/control.h"
 #include "acsi/typedvalue.h"
+#include "mms/datatext.h"
 
 #include <gtest/gtest.h>
 

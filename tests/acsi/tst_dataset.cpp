@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "acsi/dataset.h"
 
+#include "mms/datatext.h"
 #include "scripteddevice.h"
 
 namespace {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "acsi/report.h"
 
+#include "mms/datatext.h"
 #include "mms/pdu.h"
 #include "osi/bytes.h"
 

@@ -2,6 +2,7 @@
 #include "acsi/reportblock.h"
 
 #include "acsi/scripteddevice.h"
+#include "mms/datatext.h"
 
 #include <set>
 

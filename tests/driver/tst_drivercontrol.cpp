@@ -2,6 +2,7 @@
 #include "driver/simulatedstation.h"
 
 #include "driver/core/controlorder.h"
+#include "mms/datatext.h"
 
 #include "acsi/control.h"
 

@@ -9,6 +9,7 @@
 #include "acsi/reference.h"
 #include "acsi/report.h"
 #include "acsi/uploadsteps.h"
+#include "mms/datacodec.h"
 #include "mms/pdu.h"
 #include "osi/acse.h"
 #include "osi/cotp.h"

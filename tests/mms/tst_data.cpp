@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mms/data.h"
+#include "mms/datacodec.h"
+#include "mms/datatext.h"
 #include "mms/typedescription.h"
 
 #include "osi/bytes.h"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mms/data.h"
+#include "mms/datacodec.h"
 #include "mms/times.h"
 
 #include "osi/bytes.h"

@@ -738,4 +738,5 @@ void tst_OddControl::categoriesEndWithEight()
 }
 
 QTEST_GUILESS_MAIN(tst_OddControl)
+#include "mms/datatext.h"
 #include "tst_oddcontrol.moc"

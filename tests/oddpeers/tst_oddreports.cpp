@@ -4,6 +4,7 @@
 #include "indicatorfile.h"
 
 #include "acsi/report.h"
+#include "mms/datatext.h"
 #include "mms/pdu.h"
 #include "osi/interference.h"
 
