@@ -2,7 +2,7 @@
 #include "scl/reader.h"
 
 #include "resolver.h"
-#include "xmltree.h"
+#include "xmlparser.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,145 +1,17 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "xmlnames.h"
+
 #include "scl/reader.h"
 
 #include <cstdint>
-#include <functional>
-#include <memory_resource>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace scl {
-
-/// Elements that the reader looks at. Everything else (Private, Text, Substation, other name
-/// spaces …) is skipped with all it holds, except below Services, where every name counts.
-enum class Tag : std::uint8_t {
-    Other,
-    Scl,
-    Header,
-    Communication,
-    SubNetwork,
-    ConnectedAp,
-    Address,
-    P,
-    Gse,
-    Smv,
-    MinTime,
-    MaxTime,
-    Ied,
-    Services,
-    AccessPoint,
-    Server,
-    ServerAt,
-    LDevice,
-    Ln0,
-    Ln,
-    DataSet,
-    Fcda,
-    ReportControl,
-    TrgOps,
-    OptFields,
-    RptEnabled,
-    ClientLn,
-    LogControl,
-    Log,
-    GseControl,
-    SampledValueControl,
-    SmvOpts,
-    SettingControl,
-    Doi,
-    Sdi,
-    Dai,
-    Val,
-    DataTypeTemplates,
-    LNodeType,
-    Do,
-    DoType,
-    Sdo,
-    Da,
-    DaType,
-    Bda,
-    EnumType,
-    EnumVal
-};
-
-enum class Attr : std::uint8_t {
-    Other,
-    ActSg,
-    ApName,
-    AppId,
-    BType,
-    BufOvfl,
-    BufTime,
-    Buffered,
-    CbName,
-    Cdc,
-    ConfRev,
-    ConfigRef,
-    ConfigVersion,
-    Count,
-    DaName,
-    DatSet,
-    DataRef,
-    DataSet,
-    Dchg,
-    Desc,
-    DoName,
-    Dupd,
-    EntryId,
-    Fc,
-    FixedOffs,
-    Gi,
-    Id,
-    IedName,
-    Indexed,
-    Inst,
-    IntgPd,
-    Ix,
-    LdInst,
-    LdName,
-    LnClass,
-    LnInst,
-    LnType,
-    LogEna,
-    LogName,
-    Manufacturer,
-    Max,
-    Multicast,
-    Name,
-    NameLength,
-    NofAsdu,
-    NumOfSgs,
-    Ord,
-    Period,
-    Prefix,
-    Qchg,
-    ReasonCode,
-    RefreshTime,
-    Release,
-    ResvTms,
-    Revision,
-    RptId,
-    SAddr,
-    SGroup,
-    SampleRate,
-    SampleSynchronized,
-    Security,
-    Segmentation,
-    SeqNum,
-    SmpMod,
-    SmpRate,
-    SmvId,
-    Timeout,
-    TimeStamp,
-    ToolId,
-    Transient,
-    Type,
-    ValKind,
-    Version
-};
 
 struct XmlAttribute
 {
@@ -164,7 +36,7 @@ struct XmlElement
 };
 
 /// The elements of an SCL file that matter, in one vector, parents before children. Texts live in
-/// the memory resource that was given to `parseXml`.
+/// the memory resource that was given to parseXml().
 class XmlTree
 {
 public:
@@ -191,23 +63,12 @@ public:
     std::string pathOf(std::uint32_t element) const;
 };
 
-/// Gives up to `size` further bytes of the file; 0 at its end, negative on a read error.
-using ByteSource = std::function<std::ptrdiff_t(char *buffer, std::size_t size)>;
-
+/// What makes a file unusable.
 struct XmlError
 {
     ReadError error = ReadError::None;
     wording::Text text;
     std::uint32_t line = 0;
 };
-
-/// Parses what @p source gives into @p tree.
-/// @param totalBytes size of the file for the progress; 0 when it is not known
-/// @param progress called with 0 … 1, may be empty
-XmlError parseXml(const ByteSource &source, std::uint64_t totalBytes, const ReadOptions &options,
-                  const std::function<void(double)> &progress, std::pmr::memory_resource &memory,
-                  XmlTree &tree);
-
-std::string_view tagName(Tag tag);
 
 } // namespace scl
