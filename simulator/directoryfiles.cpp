@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "simulator/directoryfiles.h"
 
+#include "simulator/fileerrors.h"
+#include "simulator/fileupload.h"
+
 #include "mms/pdu.h"
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <limits>
 #include <random>
 #include <utility>
@@ -17,47 +19,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::string_view temporaryPrefix = ".upload-";
-
-mms::ServiceError fileError(std::int32_t code)
-{
-    return {mms::ErrorClass::File, code, {}, {}, {}};
-}
-
-mms::ServiceError fileError(std::int32_t code, std::string description)
-{
-    return {mms::ErrorClass::File, code, {}, std::move(description), {}};
-}
-
-mms::ServiceError tooManyOpen()
-{
-    return {mms::ErrorClass::Resource,
-            mms::serviceerrors::resourceCapabilityUnavailable,
-            {},
-            "too many open files",
-            {}};
-}
-
-/// What the operating system says, in the terms of the protocol.
-mms::ServiceError fileError(const std::error_code &error)
-{
-    using namespace mms::serviceerrors;
-    std::int32_t code = 0;
-    if (error == std::errc::no_such_file_or_directory)
-        code = fileNonExistent;
-    else if (error == std::errc::permission_denied || error == std::errc::read_only_file_system ||
-             error == std::errc::is_a_directory || error == std::errc::not_a_directory)
-        code = fileAccessDenied;
-    else if (error == std::errc::filename_too_long || error == std::errc::invalid_argument)
-        code = fileNameSyntaxError;
-    else if (error == std::errc::no_space_on_device)
-        code = fileInsufficientSpace;
-    return fileError(code, error.message());
-}
-
-std::error_code lastError()
-{
-    return {errno, std::generic_category()};
-}
 
 /// "20210304050607.123Z"
 std::string generalizedTime(fs::file_time_type time)
@@ -91,143 +52,6 @@ std::size_t blockSize(std::size_t pduSize)
 }
 
 } // namespace
-
-/// A file on its way from a client. The client's answers keep it alive.
-class DirectoryFiles::Upload : public std::enable_shared_from_this<Upload>
-{
-public:
-    Upload(DirectoryFiles &service, Peer &client, Place place, fs::path temporary, Answer answer)
-        : m_service(&service)
-        , m_client(&client)
-        , m_place(std::move(place))
-        , m_temporary(std::move(temporary))
-        , m_answer(std::move(answer))
-    {
-    }
-
-    ~Upload() { discard(); }
-
-    const Peer *client() const { return m_client; }
-    const fs::path &path() const { return m_place.path; }
-
-    void start(const mms::FileName &source)
-    {
-        m_file.reset(std::fopen(m_temporary.c_str(), "wb"));
-        if (!m_file) {
-            end(fileError(lastError()));
-            return;
-        }
-        call(mms::FileOpenRequest{source, 0}, [this](const mms::CallOutcome &outcome) {
-            const auto *opened = mms::answerOf<mms::FileOpenResponse>(outcome);
-            if (!opened) {
-                end(errorOf(outcome));
-                return;
-            }
-            m_frsmId = opened->frsmId;
-            readNext();
-        });
-    }
-
-    /// The client, or the service, is gone.
-    void abandon()
-    {
-        m_client = nullptr;
-        m_service = nullptr;
-        discard();
-    }
-
-private:
-    void call(mms::RequestService request, std::function<void(const mms::CallOutcome &)> handler)
-    {
-        m_client->call(std::move(request), m_service->m_options.callTimeout,
-                       [self = shared_from_this(),
-                        handler = std::move(handler)](const mms::CallOutcome &outcome) {
-                           if (self->m_client)
-                               handler(outcome);
-                       });
-    }
-
-    void readNext()
-    {
-        call(mms::FileReadRequest{*m_frsmId}, [this](const mms::CallOutcome &outcome) {
-            const auto *block = mms::answerOf<mms::FileReadResponse>(outcome);
-            if (!block) {
-                closeAndEnd(errorOf(outcome));
-                return;
-            }
-            m_size += block->data.size();
-            if (m_size > m_service->m_options.maxFileSize) {
-                closeAndEnd(fileError(mms::serviceerrors::fileInsufficientSpace));
-            } else if (!block->data.empty() &&
-                       std::fwrite(block->data.data(), 1, block->data.size(), m_file.get()) !=
-                           block->data.size()) {
-                closeAndEnd(fileError(lastError()));
-            } else if (block->moreFollows && block->data.empty()) {
-                closeAndEnd(fileError(0, "the file never ends"));
-            } else if (block->moreFollows) {
-                readNext();
-            } else {
-                closeAndEnd(takePlace());
-            }
-        });
-    }
-
-    std::optional<mms::ServiceError> takePlace()
-    {
-        if (std::fflush(m_file.get()) != 0)
-            return fileError(lastError());
-        m_file.reset();
-        std::error_code error;
-        fs::rename(m_temporary, m_place.path, error);
-        if (error)
-            return fileError(error);
-        m_temporary.clear();
-        return std::nullopt;
-    }
-
-    void closeAndEnd(std::optional<mms::ServiceError> error)
-    {
-        // The file stands, or does not, whatever the client says to that.
-        call(mms::FileCloseRequest{*m_frsmId},
-             [this, error = std::move(error)](const mms::CallOutcome &) { end(error); });
-    }
-
-    void end(const std::optional<mms::ServiceError> &error)
-    {
-        discard();
-        const auto self = shared_from_this();
-        m_service->finished(*this);
-        m_client = nullptr;
-        if (error)
-            m_answer(*error);
-        else
-            m_answer(mms::ResponseService(mms::ObtainFileResponse()));
-    }
-
-    void discard()
-    {
-        m_file.reset();
-        std::error_code ignored;
-        if (!m_temporary.empty())
-            fs::remove(std::exchange(m_temporary, fs::path()), ignored);
-    }
-
-    static mms::ServiceError errorOf(const mms::CallOutcome &outcome)
-    {
-        if (const auto *error = std::get_if<mms::ServiceError>(&outcome))
-            return *error;
-        return fileError(0, mms::failureText(outcome).english());
-    }
-
-    DirectoryFiles *m_service;
-    Peer *m_client;
-    Place m_place;
-    fs::path m_temporary;
-    Answer m_answer;
-    File m_file;
-    std::optional<std::int32_t> m_frsmId;
-    std::uint64_t m_size = 0;
-};
 
 mms::Result<std::shared_ptr<DirectoryFiles>> DirectoryFiles::create(FileOptions options)
 {
@@ -585,8 +409,19 @@ void DirectoryFiles::obtain(Peer &client, const mms::ObtainFileRequest &request,
     else if (openFilesOf(client) >= m_options.maxOpen)
         answer(tooManyOpen());
     else {
-        const auto upload =
-            std::make_shared<Upload>(*this, client, place, temporaryPath(), std::move(answer));
+        const auto upload = std::make_shared<FileUpload>(
+            client, FileUpload::Limits{m_options.callTimeout, m_options.maxFileSize}, place.path,
+            temporaryPath(),
+            [this, path = place.path,
+             answer = std::move(answer)](const std::optional<mms::ServiceError> &failure) {
+                // No second one may be on its way to the same place.
+                std::erase_if(m_uploads,
+                              [&path](const auto &each) { return each->path() == path; });
+                if (failure)
+                    answer(*failure);
+                else
+                    answer(mms::ResponseService(mms::ObtainFileResponse()));
+            });
         m_uploads.insert(upload);
         upload->start(request.source);
     }
@@ -596,11 +431,6 @@ fs::path DirectoryFiles::temporaryPath()
 {
     return m_options.directory / (std::string(temporaryPrefix) + std::to_string(m_token) + "-" +
                                   std::to_string(++m_lastTemporary));
-}
-
-void DirectoryFiles::finished(const Upload &upload)
-{
-    std::erase_if(m_uploads, [&upload](const auto &each) { return each.get() == &upload; });
 }
 
 void DirectoryFiles::closed(Peer &client)

@@ -20,6 +20,8 @@
 
 namespace sim {
 
+class FileUpload;
+
 /// Which files are served, and which habits of real devices are imitated.
 struct FileOptions
 {
@@ -87,8 +89,6 @@ private:
         std::filesystem::path path;
     };
 
-    class Upload;
-
     explicit DirectoryFiles(FileOptions options);
 
     std::optional<std::string> cleanName(const mms::FileName &name) const;
@@ -101,7 +101,6 @@ private:
     /// Complete names of what a listing has, sorted.
     std::set<std::string> namesBelow(const Place &place) const;
     std::filesystem::path temporaryPath();
-    void finished(const Upload &upload);
 
     FileOptions m_options;
     /// Another service may serve the same directory.
@@ -109,7 +108,7 @@ private:
     std::map<std::int32_t, OpenFile> m_open;
     std::int32_t m_lastId = 0;
     std::uint64_t m_lastTemporary = 0;
-    std::set<std::shared_ptr<Upload>> m_uploads;
+    std::set<std::shared_ptr<FileUpload>> m_uploads;
     bool m_lastPageWasEmpty = false;
 };
 

@@ -199,11 +199,4 @@ private:
     std::uint64_t m_entriesLost = 0;
 };
 
-/// Octets of a value in a report.
-std::size_t reportedSize(const mms::AccessResult &value);
-
-/// The parts of a report that fit PDUs of @p pduSize octets: the report itself when it fits. A
-/// member that fits no PDU is told as one that cannot be accessed.
-std::vector<acsi::Report> segments(acsi::Report report, std::size_t pduSize);
-
 } // namespace sim

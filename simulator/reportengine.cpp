@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "simulator/reportengine.h"
 
+#include "simulator/reportsegments.h"
+
 #include "acsi/reference.h"
 
 #include <utility>

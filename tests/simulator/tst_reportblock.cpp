@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "simulator/reportsegments.h"
 #include "simulator/manualclock.h"
 #include "simulator/recordingclient.h"
 
+#include "mms/datatext.h"
 #include "mms/pdu.h"
 #include "simulator/reportblock.h"
 
