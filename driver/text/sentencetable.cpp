@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Made by generate_sentencetable.py; a sentence is changed where it is made.
+// Long because it is one table, made by generate_sentencetable.py; a sentence is changed where it is
+// made.
 // clang-format off
 #include "sentences.h"
 
