@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "simulator/reportsegments.h"
 #include "simulator/manualclock.h"
 #include "simulator/recordingclient.h"
+#include "simulator/reportsegments.h"
 
 #include "mms/datatext.h"
 #include "mms/pdu.h"
