@@ -18,9 +18,9 @@ LITERAL = r'"(?:[^"\\\n]|\\.)*"'
 WORDS = re.compile(
     rf"\b(?:say|pattern(?:<\d>)?|Pattern<\d> \w+ =)\s*\(?\s*({LITERAL}(?:\s*{LITERAL})*)")
 HEAD = """// SPDX-License-Identifier: Apache-2.0
+// clang-format off
 // Long because it is one table, made by generate_sentencetable.py; a sentence is changed where it is
 // made.
-// clang-format off
 #include "sentences.h"
 
 #include <QtCore/QCoreApplication>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
+// clang-format off
 // Long because it is one table, made by generate_sentencetable.py; a sentence is changed where it is
 // made.
-// clang-format off
 #include "sentences.h"
 
 #include <QtCore/QCoreApplication>
