@@ -61,8 +61,9 @@ endfunction()
 
 # project_add_test(NAME SOURCES file... [LINK target...] [LABELS label...] [GTEST] [TIMEOUT seconds]
 #     [ENVIRONMENT NAME=value...])
-# A test executable registered with ctest under its own name. Qt tests bring their own main
-# (QTEST_MAIN and the like); with GTEST the test links GoogleTest and its main.
+# A test executable registered with ctest under its own name, labelled with its folder
+# ("tests/driver"). Qt tests bring their own main (QTEST_MAIN and the like); with GTEST the test links
+# GoogleTest and its main.
 function(project_add_test name)
     cmake_parse_arguments(arg "GTEST" "TIMEOUT" "SOURCES;LINK;LABELS;ENVIRONMENT" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
@@ -80,13 +81,14 @@ function(project_add_test name)
         target_link_libraries(${name} PRIVATE Qt5::Test)
     endif()
     add_test(NAME ${name} COMMAND ${name})
+    get_filename_component(folder ${CMAKE_CURRENT_SOURCE_DIR} NAME)
     if(NOT arg_TIMEOUT)
         set(arg_TIMEOUT 120)
     endif()
     set(suppressions ${PROJECT_SOURCE_DIR}/tests/support)
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${arg_TIMEOUT}
-        LABELS "${arg_LABELS}"
+        LABELS "tests/${folder};${arg_LABELS}"
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_FONT_DPI=96;LC_ALL=C.UTF-8;LSAN_OPTIONS=suppressions=${suppressions}/lsan.supp;TSAN_OPTIONS=ignore_noninstrumented_modules=1 suppressions=${suppressions}/tsan.supp;UBSAN_OPTIONS=print_stacktrace=1;${arg_ENVIRONMENT}")
     set_property(GLOBAL APPEND PROPERTY IEC61850_TEST_EXECUTABLES ${name})
 endfunction()
