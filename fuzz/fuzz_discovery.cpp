@@ -300,7 +300,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         const std::size_t which = event % asked.size();
         const acsi::DiscoveryPlan::Request request = std::move(asked[which]);
         asked.erase(asked.begin() + static_cast<std::ptrdiff_t>(which));
-        plan.answered(request.step, answer(material, request.service));
+        plan.answered(request.step, answer(material, request.service.service()));
         plan.deviceNames();
         if (event == 255)
             asked.clear();

@@ -28,7 +28,7 @@ asio::awaitable<mms::CallOutcome> askForSignOfLife(DeviceConnection &connection,
                                                    ClientPointer client)
 {
     const mms::InitiateParameters &agreed = client->association().negotiated();
-    mms::RequestService request;
+    acsi::ReadingRequest request = mms::IdentifyRequest();
     switch (SignOfLife::questionFor(agreed.supports(mms::Service::Status),
                                     agreed.supports(mms::Service::Identify),
                                     connection.modelReading().answersIdentify())) {
@@ -36,7 +36,6 @@ asio::awaitable<mms::CallOutcome> askForSignOfLife(DeviceConnection &connection,
         request = mms::StatusRequest();
         break;
     case SignOfLife::Question::Identify:
-        request = mms::IdentifyRequest();
         break;
     case SignOfLife::Question::Read: {
         // Every logical device has it; where not, the error is an answer as well.
@@ -51,8 +50,7 @@ asio::awaitable<mms::CallOutcome> askForSignOfLife(DeviceConnection &connection,
         break;
     }
     }
-    co_return co_await client->association().call(std::move(request),
-                                                  connection.configuration().callTimeout);
+    co_return co_await client->call(std::move(request), connection.configuration().callTimeout);
 }
 
 } // namespace

@@ -84,7 +84,7 @@ void ModelReading::beginIdentifying(const ClientPointer &client)
 asio::awaitable<void> ModelReading::identify(ClientPointer client)
 {
     const auto before = steady_clock::now();
-    const mms::CallOutcome outcome = co_await client->association().call(
+    const mms::CallOutcome outcome = co_await client->call(
         mms::IdentifyRequest(), std::min(identifyLimit, m_connection.configuration().callTimeout),
         mms::GivenUpCall::LeavesItsPlace);
     if (client != m_connection.client())

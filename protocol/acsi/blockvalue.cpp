@@ -89,8 +89,8 @@ asio::awaitable<mms::Result<LiveBlock>> readBlock(std::shared_ptr<Client> client
     co_return live;
 }
 
-asio::awaitable<mms::Result<void>> writeBlock(std::shared_ptr<Client> client, Reference block,
-                                              const mms::TypeDescription &type,
+asio::awaitable<mms::Result<void>> writeBlock(std::shared_ptr<ChangingClient> client,
+                                              Reference block, const mms::TypeDescription &type,
                                               std::string attribute, mms::Data value)
 {
     const std::string name = blockText(block);

@@ -70,8 +70,8 @@ asio::awaitable<mms::Result<LiveBlock>> readBlock(std::shared_ptr<Client> client
 
 /// Writes an attribute of a block in the type that the block has for it. The error names the
 /// attribute.
-asio::awaitable<mms::Result<void>> writeBlock(std::shared_ptr<Client> client, Reference block,
-                                              const mms::TypeDescription &type,
+asio::awaitable<mms::Result<void>> writeBlock(std::shared_ptr<ChangingClient> client,
+                                              Reference block, const mms::TypeDescription &type,
                                               std::string attribute, mms::Data value);
 
 /// "LD/LN.name"

@@ -18,18 +18,27 @@ CallGroup::CallGroup(std::shared_ptr<Client> client)
 CallGroup::~CallGroup()
 {
     for (const auto &[id, call] : m_calls)
-        m_client->association().cancel(call);
+        m_client->cancel(call);
 }
 
-void CallGroup::start(std::size_t id, mms::RequestService request,
-                      std::chrono::milliseconds timeout)
+mms::Association::CallHandler CallGroup::handlerOf(std::size_t id) const
 {
-    // The handler may run before call() returns.
-    auto handler = [state = m_state, id](mms::CallOutcome outcome) {
+    // It may run before call() returns.
+    return [state = m_state, id](mms::CallOutcome outcome) {
         state->arrived.push_back({id, std::move(outcome)});
         state->wake.cancel();
     };
-    m_calls[id] = m_client->association().call(std::move(request), timeout, std::move(handler));
+}
+
+void CallGroup::start(std::size_t id, ReadingRequest request, std::chrono::milliseconds timeout)
+{
+    m_calls[id] = m_client->call(std::move(request), timeout, handlerOf(id));
+}
+
+void CallGroup::start(ChangingClient &client, std::size_t id, mms::RequestService request,
+                      std::chrono::milliseconds timeout)
+{
+    m_calls[id] = client.association().call(std::move(request), timeout, handlerOf(id));
 }
 
 asio::awaitable<std::optional<CallGroup::Arrival>>

@@ -31,7 +31,10 @@ public:
     CallGroup &operator=(const CallGroup &) = delete;
 
     /// @p id comes back with the outcome; each may be on the way once at a time.
-    void start(std::size_t id, mms::RequestService request, std::chrono::milliseconds timeout);
+    void start(std::size_t id, ReadingRequest request, std::chrono::milliseconds timeout);
+    /// The same with a request that changes something; @p client is the one of the group.
+    void start(ChangingClient &client, std::size_t id, mms::RequestService request,
+               std::chrono::milliseconds timeout);
     std::size_t onTheWay() const { return m_calls.size(); }
 
     /// The next call that ends. None when nothing is on the way, when @p patience has passed, and
@@ -40,6 +43,8 @@ public:
     next(std::optional<std::chrono::milliseconds> patience = {});
 
 private:
+    mms::Association::CallHandler handlerOf(std::size_t id) const;
+
     struct State
     {
         asio::steady_timer wake;

@@ -52,11 +52,11 @@ mms::RequestService writeRequest(std::vector<mms::VariableAccess> variables,
 
 } // namespace
 
-asio::awaitable<mms::Result<std::shared_ptr<Client>>>
+asio::awaitable<mms::Result<std::shared_ptr<ChangingClient>>>
 Client::connect(asio::any_io_executor executor, std::string host, std::uint16_t port,
                 ClientOptions options, std::function<void(const mms::Text &)> closed)
 {
-    const auto client = std::make_shared<Client>(Private(), std::move(options));
+    const auto client = std::make_shared<ChangingClient>(Private(), std::move(options));
     client->m_closed = std::move(closed);
     client->m_association = mms::Association::create(
         executor, withOwnServices(client->m_options.association), client->handlers());
@@ -178,7 +178,24 @@ void Client::abort(const mms::Text &reason)
     m_association->abort(reason);
 }
 
-asio::awaitable<CallOutcome> Client::call(mms::RequestService request)
+asio::awaitable<CallOutcome> Client::call(ReadingRequest request)
+{
+    return send(std::move(request).service());
+}
+
+asio::awaitable<CallOutcome> Client::call(ReadingRequest request, std::chrono::milliseconds timeout,
+                                          mms::GivenUpCall givenUp)
+{
+    return m_association->call(std::move(request).service(), timeout, givenUp);
+}
+
+mms::Association::CallId Client::call(ReadingRequest request, std::chrono::milliseconds timeout,
+                                      mms::Association::CallHandler handler)
+{
+    return m_association->call(std::move(request).service(), timeout, std::move(handler));
+}
+
+asio::awaitable<CallOutcome> Client::send(mms::RequestService request)
 {
     const auto self = shared_from_this();
     if (!m_open)
@@ -270,8 +287,18 @@ asio::awaitable<mms::Result<mms::Data>> Client::readOne(mms::VariableAccess vari
     co_return std::move(result).data();
 }
 
+ChangingClient::ChangingClient(Private, ClientOptions options)
+    : Client(Private(), std::move(options))
+{
+}
+
+asio::awaitable<CallOutcome> ChangingClient::call(mms::RequestService request)
+{
+    return send(std::move(request));
+}
+
 asio::awaitable<mms::Result<std::vector<std::optional<DataAccessError>>>>
-Client::write(std::vector<mms::VariableAccess> variables, std::vector<mms::Data> values)
+ChangingClient::write(std::vector<mms::VariableAccess> variables, std::vector<mms::Data> values)
 {
     const auto self = shared_from_this();
     if (variables.size() != values.size())
@@ -313,7 +340,8 @@ Client::write(std::vector<mms::VariableAccess> variables, std::vector<mms::Data>
     co_return results;
 }
 
-asio::awaitable<mms::Result<void>> Client::writeOne(mms::VariableAccess variable, mms::Data value)
+asio::awaitable<mms::Result<void>> ChangingClient::writeOne(mms::VariableAccess variable,
+                                                            mms::Data value)
 {
     std::vector<mms::VariableAccess> variables;
     variables.push_back(std::move(variable));

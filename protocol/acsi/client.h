@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "acsi/readingrequest.h"
 #include "mms/association.h"
 
 #include <asio/any_io_executor.hpp>
@@ -26,9 +27,14 @@ struct ClientOptions
     int outstandingFileReads = 1;
 };
 
+class ChangingClient;
+
 /// The client side of an association with a server of IEC 61850-8-1: the generic services, split
 /// and paged as the negotiated PDU size wants it. Data sets, reports, control, setting groups and
 /// files are functions and classes of their own that take a client.
+///
+/// By itself it reads only: what changes something on the server takes a ChangingClient, so that
+/// whoever makes the association decides who may change anything.
 ///
 /// Thread: every member function is called, and every awaitable awaited, in strand(); handlers are
 /// called there. Each call ends within ClientOptions::callTimeout for each request that it sends;
@@ -48,7 +54,7 @@ public:
 
     /// Connect and associate. Afterwards @p closed hears once, with one sentence, that the
     /// association has ended; it is not called when connecting fails.
-    static asio::awaitable<mms::Result<std::shared_ptr<Client>>>
+    static asio::awaitable<mms::Result<std::shared_ptr<ChangingClient>>>
     connect(asio::any_io_executor executor, std::string host, std::uint16_t port,
             ClientOptions options, std::function<void(const mms::Text &reason)> closed = {});
 
@@ -60,7 +66,8 @@ public:
 
     const osi::Link::Strand &strand() const { return m_association->strand(); }
     const ClientOptions &options() const { return m_options; }
-    mms::Association &association() { return *m_association; }
+    /// What was agreed, and who is at either end.
+    const mms::Association &association() const { return *m_association; }
     bool isOpen() const { return m_open; }
     /// Requests that the peer takes at a time.
     std::size_t outstanding() const;
@@ -71,17 +78,20 @@ public:
     asio::awaitable<void> close();
     void abort(const mms::Text &reason);
 
-    asio::awaitable<mms::CallOutcome> call(mms::RequestService request);
+    asio::awaitable<mms::CallOutcome> call(ReadingRequest request);
+    asio::awaitable<mms::CallOutcome>
+    call(ReadingRequest request, std::chrono::milliseconds timeout,
+         mms::GivenUpCall givenUp = mms::GivenUpCall::KeepsItsPlace);
+    /// As the same function of Association.
+    mms::Association::CallId call(ReadingRequest request, std::chrono::milliseconds timeout,
+                                  mms::Association::CallHandler handler);
+    void cancel(mms::Association::CallId id) { m_association->cancel(id); }
     /// The answer of the service that was called, or one sentence why there is none.
     template <typename Response>
-    asio::awaitable<mms::Result<Response>> ask(mms::RequestService request)
+    asio::awaitable<mms::Result<Response>> ask(ReadingRequest request)
     {
-        mms::CallOutcome outcome = co_await call(std::move(request));
-        if (const Response *response = mms::answerOf<Response>(outcome))
-            co_return *response;
-        const mms::Text text = mms::failureText(outcome);
-        co_return mms::Error{text.empty() ? mms::say("The device answered another service.") : text,
-                             0};
+        const mms::CallOutcome outcome = co_await call(std::move(request));
+        co_return responseOf<Response>(outcome);
     }
 
     /// All names of a class in a scope, page after page. Ends with an error when a peer repeats
@@ -102,17 +112,11 @@ public:
     /// One variable; the access error becomes a sentence.
     asio::awaitable<mms::Result<mms::Data>> readOne(mms::VariableAccess variable);
 
-    /// Writes in as few requests as fit. Nothing for each variable that was written. An error when
-    /// the device refused all as a whole, and when an answer is missing: some may be written then.
-    asio::awaitable<mms::Result<std::vector<std::optional<mms::DataAccessError>>>>
-    write(std::vector<mms::VariableAccess> variables, std::vector<mms::Data> values);
-    asio::awaitable<mms::Result<void>> writeOne(mms::VariableAccess variable, mms::Data value);
-
     /// Hear the information reports of the peer, until removed. Handlers are asked in the order of
     /// their registration until one takes the report (returns true).
     Registration addInformationHandler(InformationHandler handler);
     /// Hear the requests of the peer (it fetches files that this side offers). A request that no
-    /// handler takes is rejected; one that takes it answers on association().
+    /// handler takes is rejected; one that takes it answers on ChangingClient::association().
     Registration addRequestHandler(RequestHandler handler);
     /// Hear that the association has ended, before those who connected hear it.
     Registration addEndHandler(EndHandler handler);
@@ -121,7 +125,25 @@ public:
     /// Information reports that no handler took.
     std::uint64_t unclaimedReports() const { return m_unclaimed; }
 
+protected:
+    /// Any request, also one that changes something.
+    asio::awaitable<mms::CallOutcome> send(mms::RequestService request);
+    template <typename Response>
+    static mms::Result<Response> responseOf(const mms::CallOutcome &outcome)
+    {
+        if (const Response *response = mms::answerOf<Response>(outcome))
+            return *response;
+        const mms::Text text = mms::failureText(outcome);
+        return mms::Error{text.empty() ? mms::say("The device answered another service.") : text,
+                          0};
+    }
+    mms::Error endError(const mms::CallOutcome &outcome) const;
+
+    std::shared_ptr<mms::Association> m_association;
+
 private:
+    friend class ChangingClient;
+
     /// A handler that may be removed while it, or another, is being called.
     template <typename Function>
     struct Entry
@@ -145,10 +167,8 @@ private:
                                                    std::uint16_t port);
     mms::Association::Handlers handlers();
     void ended(const mms::Text &reason);
-    mms::Error endError(const mms::CallOutcome &outcome) const;
 
     ClientOptions m_options;
-    std::shared_ptr<mms::Association> m_association;
     std::shared_ptr<const Entries<InformationHandler>> m_informationHandlers;
     std::shared_ptr<const Entries<RequestHandler>> m_requestHandlers;
     std::shared_ptr<const Entries<EndHandler>> m_endHandlers;
@@ -157,6 +177,29 @@ private:
     Registration m_lastRegistration = 0;
     std::uint64_t m_unclaimed = 0;
     bool m_open = false;
+};
+
+/// A client that may change what the server has. Whoever is handed one as a Client cannot.
+class ChangingClient final : public Client
+{
+public:
+    ChangingClient(Private, ClientOptions options);
+
+    mms::Association &association() { return *m_association; }
+
+    asio::awaitable<mms::CallOutcome> call(mms::RequestService request);
+    template <typename Response>
+    asio::awaitable<mms::Result<Response>> ask(mms::RequestService request)
+    {
+        const mms::CallOutcome outcome = co_await call(std::move(request));
+        co_return responseOf<Response>(outcome);
+    }
+
+    /// Writes in as few requests as fit. Nothing for each variable that was written. An error when
+    /// the device refused all as a whole, and when an answer is missing: some may be written then.
+    asio::awaitable<mms::Result<std::vector<std::optional<mms::DataAccessError>>>>
+    write(std::vector<mms::VariableAccess> variables, std::vector<mms::Data> values);
+    asio::awaitable<mms::Result<void>> writeOne(mms::VariableAccess variable, mms::Data value);
 };
 
 } // namespace acsi

@@ -216,14 +216,15 @@ ControlObject::CallPointer ControlObject::begin(std::string component,
     return call;
 }
 
-asio::awaitable<void> ControlObject::exchange(std::shared_ptr<ControlObject> self, CallPointer call,
-                                              mms::RequestService request)
+asio::awaitable<void> ControlObject::exchange(std::shared_ptr<ControlObject> self,
+                                              std::shared_ptr<ChangingClient> client,
+                                              CallPointer call, mms::RequestService request)
 {
     mms::CallOutcome outcome =
-        mms::CallFailure{mms::CallFailure::Kind::NotOpen, self->m_client->closeReason()};
-    if (self->m_client->isOpen())
-        outcome = co_await self->m_client->association().call(
-            std::move(request), self->m_client->options().callTimeout + latePatience);
+        mms::CallFailure{mms::CallFailure::Kind::NotOpen, client->closeReason()};
+    if (client->isOpen())
+        outcome = co_await client->association().call(std::move(request),
+                                                      client->options().callTimeout + latePatience);
     self->answered(call, outcome);
 }
 
@@ -347,12 +348,13 @@ void ControlObject::tellLate(const CallPointer &call, ControlResult result)
         m_lateHandler(kept->ctlNum.value_or(0), result);
 }
 
-asio::awaitable<void> ControlObject::perform(CallPointer call, mms::RequestService request)
+asio::awaitable<void> ControlObject::perform(std::shared_ptr<ChangingClient> client,
+                                             CallPointer call, mms::RequestService request)
 {
     using Clock = asio::steady_timer::clock_type;
     const auto deadline = Clock::now() + m_client->options().callTimeout;
-    asio::co_spawn(m_client->strand(), exchange(shared_from_this(), call, std::move(request)),
-                   asio::detached);
+    auto exchanging = exchange(shared_from_this(), std::move(client), call, std::move(request));
+    asio::co_spawn(m_client->strand(), std::move(exchanging), asio::detached);
     while (call->state == ControlCall::State::Waiting && !call->termination &&
            Clock::now() < deadline) {
         call->wake.expires_at(deadline);
@@ -375,7 +377,8 @@ asio::awaitable<void> ControlObject::perform(CallPointer call, mms::RequestServi
     }
 }
 
-asio::awaitable<void> ControlObject::write(CallPointer call, const mms::TypeDescription &type,
+asio::awaitable<void> ControlObject::write(std::shared_ptr<ChangingClient> client, CallPointer call,
+                                           const mms::TypeDescription &type,
                                            const ControlRequest &request)
 {
     auto value = controlValue(type, request, m_scale);
@@ -387,10 +390,11 @@ asio::awaitable<void> ControlObject::write(CallPointer call, const mms::TypeDesc
     mms::WriteRequest service;
     service.variables = std::vector{component(call->component)};
     service.values.push_back(*std::move(value));
-    co_await perform(call, std::move(service));
+    co_await perform(std::move(client), call, std::move(service));
 }
 
-asio::awaitable<ControlResult> ControlObject::select(ControlRequest request)
+asio::awaitable<ControlResult> ControlObject::select(std::shared_ptr<ChangingClient> client,
+                                                     ControlRequest request)
 {
     const auto self = shared_from_this();
     if (m_model != Model::SelectEnhanced && m_model != Model::SelectNormal)
@@ -402,16 +406,17 @@ asio::awaitable<ControlResult> ControlObject::select(ControlRequest request)
     if (isRead) {
         mms::ReadRequest service;
         service.variables = std::vector{component(call->component)};
-        co_await perform(call, std::move(service));
+        co_await perform(std::move(client), call, std::move(service));
     } else {
-        co_await write(call, m_selectType, request);
+        co_await write(std::move(client), call, m_selectType, request);
     }
     if (call->state != ControlCall::State::Accepted)
         co_return call->result;
     co_return ControlResult{true, {}, {}, ControlOutcome::Done};
 }
 
-asio::awaitable<ControlResult> ControlObject::operate(ControlRequest request,
+asio::awaitable<ControlResult> ControlObject::operate(std::shared_ptr<ChangingClient> client,
+                                                      ControlRequest request,
                                                       std::chrono::milliseconds terminationTimeout)
 {
     using Clock = asio::steady_timer::clock_type;
@@ -421,7 +426,7 @@ asio::awaitable<ControlResult> ControlObject::operate(ControlRequest request,
             false, say("%1: it shows its status and cannot be operated.", name()), {}};
     const CallPointer call = begin("Oper", request.ctlNum);
     const Leaving leaving(*this, call);
-    co_await write(call, m_operType, request);
+    co_await write(std::move(client), call, m_operType, request);
     if (call->state == ControlCall::State::Accepted && !isEnhanced(m_model)) {
         call->state = ControlCall::State::Over;
         co_return ControlResult{true, {}, {}, ControlOutcome::Done};
@@ -454,7 +459,8 @@ asio::awaitable<ControlResult> ControlObject::operate(ControlRequest request,
     co_return result;
 }
 
-asio::awaitable<ControlResult> ControlObject::cancel(ControlRequest request)
+asio::awaitable<ControlResult> ControlObject::cancel(std::shared_ptr<ChangingClient> client,
+                                                     ControlRequest request)
 {
     const auto self = shared_from_this();
     if (m_cancelType.components.empty())
@@ -468,7 +474,7 @@ asio::awaitable<ControlResult> ControlObject::cancel(ControlRequest request)
         request.operateTime.reset();
     const CallPointer call = begin("Cancel", request.ctlNum);
     const Leaving leaving(*this, call);
-    co_await write(call, m_cancelType, request);
+    co_await write(std::move(client), call, m_cancelType, request);
     if (call->state != ControlCall::State::Accepted)
         co_return call->result;
     co_return ControlResult{true, {}, {}, ControlOutcome::Done};

@@ -143,7 +143,8 @@ struct ControlCall;
 
 /// A controllable data object of a server ("LD/LN$CO$Pos"). In the client's strand, where it is
 /// destroyed as well. Calls may overlap: what the device says is given to the call that is meant,
-/// so all calls of one object in one association belong to one ControlObject.
+/// so all calls of one object in one association belong to one ControlObject. What changes the
+/// object takes the client that may change something, which is the one of the object.
 ///
 /// A call without an answer ends after the client's call time-out, but what the device says of a
 /// command later is still heard, see setLateHandler().
@@ -181,14 +182,16 @@ public:
     bool isOperateMany() const { return m_isOperateMany; }
 
     /// SelectNormal reads SBO, SelectEnhanced writes SBOw; an error for the other models.
-    asio::awaitable<ControlResult> select(ControlRequest request);
+    asio::awaitable<ControlResult> select(std::shared_ptr<ChangingClient> client,
+                                          ControlRequest request);
     /// Enhanced models wait for the command termination, at most @p terminationTimeout; of a
     /// time-activated command that counts from the time at which the device shall operate.
     asio::awaitable<ControlResult>
-    operate(ControlRequest request,
+    operate(std::shared_ptr<ChangingClient> client, ControlRequest request,
             std::chrono::milliseconds terminationTimeout = std::chrono::seconds(30));
     /// Checks belong to no Cancel; they are left out, as is what the device has no place for.
-    asio::awaitable<ControlResult> cancel(ControlRequest request);
+    asio::awaitable<ControlResult> cancel(std::shared_ptr<ChangingClient> client,
+                                          ControlRequest request);
 
     /// Hears what the device says of a command after operate() has ended, or was given up, without
     /// knowing: accepted, refused, done or failed. It may hear first that, then how it ended.
@@ -201,10 +204,12 @@ private:
 
     asio::awaitable<mms::Result<void>> readTypes();
     CallPointer begin(std::string component, std::optional<std::uint8_t> ctlNum);
-    asio::awaitable<void> perform(CallPointer call, mms::RequestService request);
-    asio::awaitable<void> write(CallPointer call, const mms::TypeDescription &type,
-                                const ControlRequest &request);
-    static asio::awaitable<void> exchange(std::shared_ptr<ControlObject> self, CallPointer call,
+    asio::awaitable<void> perform(std::shared_ptr<ChangingClient> client, CallPointer call,
+                                  mms::RequestService request);
+    asio::awaitable<void> write(std::shared_ptr<ChangingClient> client, CallPointer call,
+                                const mms::TypeDescription &type, const ControlRequest &request);
+    static asio::awaitable<void> exchange(std::shared_ptr<ControlObject> self,
+                                          std::shared_ptr<ChangingClient> client, CallPointer call,
                                           mms::RequestService request);
     void answered(const CallPointer &call, const mms::CallOutcome &outcome);
     void accepted(const CallPointer &call);

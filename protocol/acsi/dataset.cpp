@@ -71,7 +71,7 @@ asio::awaitable<mms::Result<DataSetDescription>> dataSetDirectory(std::shared_pt
     co_return description;
 }
 
-asio::awaitable<mms::Result<void>> createDataSet(std::shared_ptr<Client> client,
+asio::awaitable<mms::Result<void>> createDataSet(std::shared_ptr<ChangingClient> client,
                                                  mms::ObjectName name,
                                                  std::vector<mms::VariableAccess> members)
 {
@@ -85,7 +85,7 @@ asio::awaitable<mms::Result<void>> createDataSet(std::shared_ptr<Client> client,
     co_return mms::Result<void>();
 }
 
-asio::awaitable<mms::Result<void>> deleteDataSet(std::shared_ptr<Client> client,
+asio::awaitable<mms::Result<void>> deleteDataSet(std::shared_ptr<ChangingClient> client,
                                                  mms::ObjectName name)
 {
     const std::string text = mms::quoted(dataSetText(name));

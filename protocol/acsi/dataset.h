@@ -18,11 +18,11 @@ std::string dataSetText(const mms::ObjectName &name);
 
 asio::awaitable<mms::Result<DataSetDescription>> dataSetDirectory(std::shared_ptr<Client> client,
                                                                   mms::ObjectName name);
-asio::awaitable<mms::Result<void>> createDataSet(std::shared_ptr<Client> client,
+asio::awaitable<mms::Result<void>> createDataSet(std::shared_ptr<ChangingClient> client,
                                                  mms::ObjectName name,
                                                  std::vector<mms::VariableAccess> members);
 /// An error as well when the server has no such data set or must keep it.
-asio::awaitable<mms::Result<void>> deleteDataSet(std::shared_ptr<Client> client,
+asio::awaitable<mms::Result<void>> deleteDataSet(std::shared_ptr<ChangingClient> client,
                                                  mms::ObjectName name);
 
 } // namespace acsi

@@ -179,7 +179,7 @@ std::optional<DiscoveryPlan::Request> DiscoveryPlan::next()
     return request;
 }
 
-mms::RequestService DiscoveryPlan::requestOf(const Step &step) const
+ReadingRequest DiscoveryPlan::requestOf(const Step &step) const
 {
     switch (step.kind) {
     case Kind::Identity:

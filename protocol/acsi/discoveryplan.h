@@ -33,7 +33,7 @@ public:
     struct Request
     {
         std::size_t step = 0;
-        mms::RequestService service;
+        ReadingRequest service;
     };
 
     /// @p window is the number of requests on the way at a time.
@@ -112,7 +112,7 @@ private:
     bool isOptional(const Step &step) const;
     void add(Step step);
     void addList(mms::ObjectClass objectClass, mms::Scope scope, std::size_t device = 0);
-    mms::RequestService requestOf(const Step &step) const;
+    ReadingRequest requestOf(const Step &step) const;
 
     bool take(const Step &step, mms::ResponseService &response);
     void takeNames(const Step &step);

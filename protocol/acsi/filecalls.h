@@ -4,23 +4,19 @@
 
 #include "acsi/client.h"
 
-#include <functional>
 #include <memory>
 #include <string>
 
 namespace acsi {
 
-/// Calls a service with each spelling of a name until the peer knows the name. Where it knows none,
-/// the refusal that tells most.
-asio::awaitable<mms::CallOutcome>
-callBySpelling(std::shared_ptr<Client> client, std::string name,
-               std::function<mms::RequestService(const std::string &spelling)> requestFor);
+// These try each spelling of a name until the peer knows the name. Where it knows none they give
+// the refusal that tells most.
 
-/// Opens a file; one that the peer opens only after ClientOptions::callTimeout is closed again.
-asio::awaitable<mms::CallOutcome> openFile(std::shared_ptr<Client> client,
-                                           mms::FileOpenRequest request);
-
-asio::awaitable<mms::CallOutcome> renameCall(std::shared_ptr<Client> client, std::string from,
-                                             std::string to);
+/// A file that the peer opens only after ClientOptions::callTimeout is closed again.
+asio::awaitable<mms::CallOutcome> openCall(std::shared_ptr<Client> client, std::string name);
+asio::awaitable<mms::CallOutcome> deleteCall(std::shared_ptr<ChangingClient> client,
+                                             std::string name);
+asio::awaitable<mms::CallOutcome> renameCall(std::shared_ptr<ChangingClient> client,
+                                             std::string from, std::string to);
 
 } // namespace acsi

@@ -75,19 +75,6 @@ asio::awaitable<Listing> listPages(std::shared_ptr<Client> client,
     }
 }
 
-/// The answer in the spelling that the peer knows, or one sentence that names the file.
-template <typename Response>
-asio::awaitable<mms::Result<Response>>
-askBySpelling(std::shared_ptr<Client> client, std::string name,
-              std::function<mms::RequestService(const std::string &spelling)> requestFor)
-{
-    const mms::CallOutcome outcome =
-        co_await callBySpelling(std::move(client), name, std::move(requestFor));
-    if (const auto *response = mms::answerOf<Response>(outcome))
-        co_return *response;
-    co_return mms::Error{say("%1: %2.", name, errorOf(outcome).message), 0};
-}
-
 /// How much a refusal tells: one for another reason than the name more than that there is no such
 /// file, and that more than that the name is written wrongly.
 int weight(const mms::CallOutcome &outcome)
@@ -217,21 +204,14 @@ mms::FileRenameRequest renameRequest(const std::string &from, const std::string 
     return request;
 }
 
-} // namespace
+using SpelledCall = std::function<asio::awaitable<mms::CallOutcome>(const std::string &spelling)>;
 
-asio::awaitable<mms::CallOutcome>
-callBySpelling(std::shared_ptr<Client> client, std::string name,
-               std::function<mms::RequestService(const std::string &spelling)> requestFor)
+/// Calls a service with each spelling of a name until the peer knows the name.
+asio::awaitable<mms::CallOutcome> callBySpelling(std::string name, SpelledCall call)
 {
     std::optional<mms::CallOutcome> telling;
     for (const std::string &spelling : spellingsOf(name)) {
-        const mms::RequestService request = requestFor(spelling);
-        const auto *open = std::get_if<mms::FileOpenRequest>(&request);
-        mms::CallOutcome outcome;
-        if (open)
-            outcome = co_await openFile(client, *open);
-        else
-            outcome = co_await client->call(request);
+        mms::CallOutcome outcome = co_await call(spelling);
         if (!isUnknownName(outcome))
             co_return outcome;
         if (!telling || weight(outcome) > weight(*telling))
@@ -269,10 +249,9 @@ asio::awaitable<mms::CallOutcome> openFile(std::shared_ptr<Client> client,
             return;
         mms::FileCloseRequest close;
         close.frsmId = opened->frsmId;
-        self->association().call(close, self->options().callTimeout,
-                                 [](const mms::CallOutcome &) {});
+        self->call(close, self->options().callTimeout, [](const mms::CallOutcome &) {});
     };
-    client->association().call(request, mayComeLate ? patience + latePatience : patience, handler);
+    client->call(request, mayComeLate ? patience + latePatience : patience, handler);
     const Clock::time_point deadline = Clock::now() + patience;
     bool isCancelled = false;
     while (!state->outcome && !isCancelled && (!mayComeLate || Clock::now() < deadline)) {
@@ -289,12 +268,36 @@ asio::awaitable<mms::CallOutcome> openFile(std::shared_ptr<Client> client,
     co_return Failure{Failure::Kind::TimedOut, say("The peer did not answer in time.")};
 }
 
-asio::awaitable<mms::CallOutcome> renameCall(std::shared_ptr<Client> client, std::string from,
-                                             std::string to)
+} // namespace
+
+asio::awaitable<mms::CallOutcome> openCall(std::shared_ptr<Client> client, std::string name)
 {
-    const std::function<mms::RequestService(const std::string &)> requestFor =
-        [from, to](const std::string &spelling) { return renameRequest(from, to, spelling); };
-    co_return co_await callBySpelling(std::move(client), from, requestFor);
+    SpelledCall call = [client](const std::string &spelling) {
+        mms::FileOpenRequest request;
+        request.name = {spelling};
+        return openFile(client, std::move(request));
+    };
+    return callBySpelling(std::move(name), std::move(call));
+}
+
+asio::awaitable<mms::CallOutcome> deleteCall(std::shared_ptr<ChangingClient> client,
+                                             std::string name)
+{
+    SpelledCall call = [client](const std::string &spelling) {
+        mms::FileDeleteRequest request;
+        request.name = {spelling};
+        return client->call(std::move(request));
+    };
+    return callBySpelling(std::move(name), std::move(call));
+}
+
+asio::awaitable<mms::CallOutcome> renameCall(std::shared_ptr<ChangingClient> client,
+                                             std::string from, std::string to)
+{
+    SpelledCall call = [client, from, to](const std::string &spelling) {
+        return client->call(renameRequest(from, to, spelling));
+    };
+    return callBySpelling(std::move(from), std::move(call));
 }
 
 asio::awaitable<mms::Result<std::vector<FileEntry>>> listDirectory(std::shared_ptr<Client> client,
@@ -328,14 +331,10 @@ download(std::shared_ptr<Client> client, std::string name,
          std::function<void(std::uint32_t)> announced,
          std::function<void(const mms::Text &)> notClosed)
 {
-    const auto opened = co_await askBySpelling<mms::FileOpenResponse>(
-        client, name, [](const std::string &spelling) {
-            mms::FileOpenRequest request;
-            request.name = {spelling};
-            return request;
-        });
+    const mms::CallOutcome opening = co_await openCall(client, name);
+    const auto *opened = mms::answerOf<mms::FileOpenResponse>(opening);
     if (!opened)
-        co_return opened.error();
+        co_return mms::Error{say("%1: %2.", name, errorOf(opening).message), 0};
     if (announced)
         announced(opened->attributes.size);
     auto received = co_await BlockReader(client, *opened, std::move(sink)).read();
@@ -354,16 +353,12 @@ download(std::shared_ptr<Client> client, std::string name,
     co_return received;
 }
 
-asio::awaitable<mms::Result<void>> deleteFile(std::shared_ptr<Client> client, std::string name)
+asio::awaitable<mms::Result<void>> deleteFile(std::shared_ptr<ChangingClient> client,
+                                              std::string name)
 {
-    const auto deleted = co_await askBySpelling<mms::FileDeleteResponse>(
-        std::move(client), std::move(name), [](const std::string &spelling) {
-            mms::FileDeleteRequest request;
-            request.name = {spelling};
-            return request;
-        });
-    if (!deleted)
-        co_return deleted.error();
+    const mms::CallOutcome deleted = co_await deleteCall(std::move(client), name);
+    if (!mms::answerOf<mms::FileDeleteResponse>(deleted))
+        co_return mms::Error{say("%1: %2.", name, errorOf(deleted).message), 0};
     co_return mms::Result<void>();
 }
 

@@ -66,9 +66,10 @@ struct FileSource
 /// exists, the old file is deleted first. A half file is deleted where the peer refused the rest of
 /// it, never after a request without an answer. The error says what is left, or what is not known
 /// and which names to look at.
-asio::awaitable<mms::Result<void>> upload(std::shared_ptr<Client> client, std::string name,
+asio::awaitable<mms::Result<void>> upload(std::shared_ptr<ChangingClient> client, std::string name,
                                           FileSource source);
 
-asio::awaitable<mms::Result<void>> deleteFile(std::shared_ptr<Client> client, std::string name);
+asio::awaitable<mms::Result<void>> deleteFile(std::shared_ptr<ChangingClient> client,
+                                              std::string name);
 
 } // namespace acsi

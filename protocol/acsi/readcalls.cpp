@@ -13,7 +13,7 @@ namespace acsi {
 
 using wording::say;
 
-mms::RequestService readRequest(std::vector<mms::VariableAccess> variables)
+mms::ReadRequest readRequest(std::vector<mms::VariableAccess> variables)
 {
     mms::ReadRequest request;
     request.variables = std::move(variables);

@@ -28,7 +28,7 @@ struct ReadAnswer
     mms::Text reason; ///< one sentence without results
 };
 
-mms::RequestService readRequest(std::vector<mms::VariableAccess> variables);
+mms::ReadRequest readRequest(std::vector<mms::VariableAccess> variables);
 /// Octets that a request to read nothing takes at most.
 std::size_t readFrameSize();
 /// Octets that the variable adds to a request.

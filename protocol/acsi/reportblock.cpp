@@ -49,7 +49,8 @@ std::vector<Change> changes(const ReportBlock &block, const ReportSettings &sett
 class Setup
 {
 public:
-    Setup(std::shared_ptr<Client> client, Reference block, std::shared_ptr<ReportBlockTrace> trace)
+    Setup(std::shared_ptr<ChangingClient> client, Reference block,
+          std::shared_ptr<ReportBlockTrace> trace)
         : m_client(std::move(client))
         , m_reference(std::move(block))
         , m_trace(std::move(trace))
@@ -247,7 +248,7 @@ private:
         co_return say("The block belongs to the client %1.", owner);
     }
 
-    std::shared_ptr<Client> m_client;
+    std::shared_ptr<ChangingClient> m_client;
     Reference m_reference;
     std::shared_ptr<ReportBlockTrace> m_trace;
     mms::TypeDescription m_type;
@@ -344,7 +345,7 @@ asio::awaitable<mms::Result<ReportBlock>> readReportBlock(std::shared_ptr<Client
     co_return result;
 }
 
-asio::awaitable<mms::Result<void>> writeReportAttribute(std::shared_ptr<Client> client,
+asio::awaitable<mms::Result<void>> writeReportAttribute(std::shared_ptr<ChangingClient> client,
                                                         Reference block, std::string attribute,
                                                         Data value)
 {
@@ -358,7 +359,7 @@ asio::awaitable<mms::Result<void>> writeReportAttribute(std::shared_ptr<Client> 
     co_return mms::Result<void>();
 }
 
-asio::awaitable<mms::Result<ReportBlock>> enableReportBlock(std::shared_ptr<Client> client,
+asio::awaitable<mms::Result<ReportBlock>> enableReportBlock(std::shared_ptr<ChangingClient> client,
                                                             Reference block,
                                                             ReportSettings settings,
                                                             std::shared_ptr<ReportBlockTrace> trace)
@@ -370,7 +371,7 @@ asio::awaitable<mms::Result<ReportBlock>> enableReportBlock(std::shared_ptr<Clie
     co_return co_await setup.enable(settings, leavesUncertain);
 }
 
-asio::awaitable<bool> undoReportBlock(std::shared_ptr<Client> client, Reference block,
+asio::awaitable<bool> undoReportBlock(std::shared_ptr<ChangingClient> client, Reference block,
                                       std::shared_ptr<ReportBlockTrace> trace,
                                       std::chrono::steady_clock::time_point deadline)
 {
@@ -379,7 +380,7 @@ asio::awaitable<bool> undoReportBlock(std::shared_ptr<Client> client, Reference 
     co_return trace->changes.empty();
 }
 
-asio::awaitable<mms::Result<void>> disableReportBlock(std::shared_ptr<Client> client,
+asio::awaitable<mms::Result<void>> disableReportBlock(std::shared_ptr<ChangingClient> client,
                                                       Reference block)
 {
     Setup setup(std::move(client), std::move(block), std::make_shared<ReportBlockTrace>());

@@ -68,7 +68,7 @@ mms::Result<ReportBlock> reportBlockFrom(const mms::TypeDescription &type, const
 /// Reads a block; @p block is the reference of the block, "LD/LN$BR$name".
 asio::awaitable<mms::Result<ReportBlock>> readReportBlock(std::shared_ptr<Client> client,
                                                           Reference block);
-asio::awaitable<mms::Result<void>> writeReportAttribute(std::shared_ptr<Client> client,
+asio::awaitable<mms::Result<void>> writeReportAttribute(std::shared_ptr<ChangingClient> client,
                                                         Reference block, std::string attribute,
                                                         mms::Data value);
 
@@ -113,17 +113,17 @@ struct ReportBlockTrace
 /// unless an answer was missing and @p trace was given: then it stays there for
 /// undoReportBlock(), as it does when the coroutine is cancelled.
 asio::awaitable<mms::Result<ReportBlock>>
-enableReportBlock(std::shared_ptr<Client> client, Reference block, ReportSettings settings,
+enableReportBlock(std::shared_ptr<ChangingClient> client, Reference block, ReportSettings settings,
                   std::shared_ptr<ReportBlockTrace> trace = {});
 /// Writes back what the trace says, the newest first, until @p deadline. What stands in the trace
 /// afterwards was left behind on the device: true when that is nothing. Cancelled, it can be called
 /// again.
-asio::awaitable<bool> undoReportBlock(std::shared_ptr<Client> client, Reference block,
+asio::awaitable<bool> undoReportBlock(std::shared_ptr<ChangingClient> client, Reference block,
                                       std::shared_ptr<ReportBlockTrace> trace,
                                       std::chrono::steady_clock::time_point deadline);
 /// Disables the block and gives up the reservation, unless the configuration made it. When the
 /// device does not disable it, the reservation stays.
-asio::awaitable<mms::Result<void>> disableReportBlock(std::shared_ptr<Client> client,
+asio::awaitable<mms::Result<void>> disableReportBlock(std::shared_ptr<ChangingClient> client,
                                                       Reference block);
 
 } // namespace acsi

@@ -33,7 +33,7 @@ bool hasNoAnswer(const mms::CallOutcome &outcome)
            failure->kind != mms::CallFailure::Kind::TooLarge;
 }
 
-asio::awaitable<SettingWrite> writeGroup(std::shared_ptr<Client> client, Reference block,
+asio::awaitable<SettingWrite> writeGroup(std::shared_ptr<ChangingClient> client, Reference block,
                                          std::string attribute, Data value)
 {
     const std::string name = blockText(block);
@@ -91,8 +91,8 @@ readSettingGroupBlock(std::shared_ptr<Client> client, Reference block)
     co_return result;
 }
 
-asio::awaitable<SettingWrite> selectActiveGroup(std::shared_ptr<Client> client, Reference block,
-                                                std::uint32_t group)
+asio::awaitable<SettingWrite> selectActiveGroup(std::shared_ptr<ChangingClient> client,
+                                                Reference block, std::uint32_t group)
 {
     if (group == 0) {
         co_return SettingWrite{
@@ -104,20 +104,20 @@ asio::awaitable<SettingWrite> selectActiveGroup(std::shared_ptr<Client> client, 
                                   Data::unsignedInteger(group));
 }
 
-asio::awaitable<SettingWrite> selectEditGroup(std::shared_ptr<Client> client, Reference block,
-                                              std::uint32_t group)
+asio::awaitable<SettingWrite> selectEditGroup(std::shared_ptr<ChangingClient> client,
+                                              Reference block, std::uint32_t group)
 {
     co_return co_await writeGroup(std::move(client), std::move(block), "EditSG",
                                   Data::unsignedInteger(group));
 }
 
-asio::awaitable<SettingWrite> confirmEdit(std::shared_ptr<Client> client, Reference block)
+asio::awaitable<SettingWrite> confirmEdit(std::shared_ptr<ChangingClient> client, Reference block)
 {
     co_return co_await writeGroup(std::move(client), std::move(block), "CnfEdit",
                                   Data::boolean(true));
 }
 
-asio::awaitable<std::vector<SettingWrite>> writeSettings(std::shared_ptr<Client> client,
+asio::awaitable<std::vector<SettingWrite>> writeSettings(std::shared_ptr<ChangingClient> client,
                                                          std::vector<mms::VariableAccess> variables,
                                                          std::vector<Data> values)
 {

@@ -51,16 +51,16 @@ struct [[nodiscard]] SettingWrite
 /// @p block is "LD/LN$SP$SGCB" in the functions below.
 asio::awaitable<mms::Result<SettingGroupBlock>>
 readSettingGroupBlock(std::shared_ptr<Client> client, Reference block);
-asio::awaitable<SettingWrite> selectActiveGroup(std::shared_ptr<Client> client, Reference block,
-                                                std::uint32_t group);
+asio::awaitable<SettingWrite> selectActiveGroup(std::shared_ptr<ChangingClient> client,
+                                                Reference block, std::uint32_t group);
 /// Group 0 gives up editing.
-asio::awaitable<SettingWrite> selectEditGroup(std::shared_ptr<Client> client, Reference block,
-                                              std::uint32_t group);
-asio::awaitable<SettingWrite> confirmEdit(std::shared_ptr<Client> client, Reference block);
+asio::awaitable<SettingWrite> selectEditGroup(std::shared_ptr<ChangingClient> client,
+                                              Reference block, std::uint32_t group);
+asio::awaitable<SettingWrite> confirmEdit(std::shared_ptr<ChangingClient> client, Reference block);
 
 /// Writes in the order of the list, a few variables with each request, and says of each what became
 /// of it. After a request without an answer nothing more is sent.
-asio::awaitable<std::vector<SettingWrite>> writeSettings(std::shared_ptr<Client> client,
+asio::awaitable<std::vector<SettingWrite>> writeSettings(std::shared_ptr<ChangingClient> client,
                                                          std::vector<mms::VariableAccess> variables,
                                                          std::vector<mms::Data> values);
 

@@ -62,7 +62,7 @@ UploadSteps::Answer stepAnswer(const mms::CallOutcome &outcome)
 class Upload
 {
 public:
-    Upload(std::shared_ptr<Client> client, std::string name, FileSource source)
+    Upload(std::shared_ptr<ChangingClient> client, std::string name, FileSource source)
         : m_client(std::move(client))
         , m_name(std::move(name))
         , m_source(std::move(source))
@@ -101,12 +101,7 @@ public:
 private:
     asio::awaitable<UploadSteps::Answer> open(std::string name)
     {
-        const mms::CallOutcome outcome =
-            co_await callBySpelling(m_client, std::move(name), [](const std::string &spelling) {
-                mms::FileOpenRequest request;
-                request.name = {spelling};
-                return request;
-            });
+        const mms::CallOutcome outcome = co_await openCall(m_client, std::move(name));
         UploadSteps::Answer answer = stepAnswer<mms::FileOpenResponse>(outcome);
         if (const auto *opened = mms::answerOf<mms::FileOpenResponse>(outcome)) {
             answer.size = opened->attributes.size;
@@ -141,12 +136,7 @@ private:
 
     asio::awaitable<UploadSteps::Answer> remove(std::string name)
     {
-        const mms::CallOutcome outcome =
-            co_await callBySpelling(m_client, std::move(name), [](const std::string &spelling) {
-                mms::FileDeleteRequest request;
-                request.name = {spelling};
-                return request;
-            });
+        const mms::CallOutcome outcome = co_await deleteCall(m_client, std::move(name));
         co_return stepAnswer<mms::FileDeleteResponse>(outcome);
     }
 
@@ -166,7 +156,7 @@ private:
     class Service
     {
     public:
-        Service(Client &client, OfferedFile &file)
+        Service(ChangingClient &client, OfferedFile &file)
             : m_client(client)
         {
             m_registration = client.addRequestHandler(
@@ -196,7 +186,7 @@ private:
         }
 
     private:
-        Client &m_client;
+        ChangingClient &m_client;
         Client::Registration m_registration = 0;
         std::chrono::steady_clock::time_point m_lastRequest = std::chrono::steady_clock::now();
     };
@@ -210,7 +200,7 @@ private:
         request.source = {m_name};
         request.destination = {std::move(destination)};
         CallGroup calls(m_client);
-        calls.start(0, request, wholeTime);
+        calls.start(*m_client, 0, request, wholeTime);
         std::optional<mms::CallOutcome> outcome;
         while (!outcome) {
             auto arrival = co_await calls.next(service.patience());
@@ -256,14 +246,14 @@ private:
                 0};
     }
 
-    std::shared_ptr<Client> m_client;
+    std::shared_ptr<ChangingClient> m_client;
     std::string m_name;
     FileSource m_source;
 };
 
 } // namespace
 
-asio::awaitable<mms::Result<void>> upload(std::shared_ptr<Client> client, std::string name,
+asio::awaitable<mms::Result<void>> upload(std::shared_ptr<ChangingClient> client, std::string name,
                                           FileSource source)
 {
     Upload transfer(std::move(client), std::move(name), std::move(source));

@@ -349,7 +349,7 @@ protected:
         return m_port;
     }
 
-    mms::Result<std::shared_ptr<acsi::Client>> tryToConnect(std::uint16_t port)
+    mms::Result<std::shared_ptr<acsi::ChangingClient>> tryToConnect(std::uint16_t port)
     {
         return runOn(m_loop.executor(), acsi::Client::connect(m_loop.executor(), "127.0.0.1", port,
                                                               clientOptions, ended.setter()));
@@ -383,7 +383,7 @@ protected:
     std::shared_ptr<ScriptedDevice> device = std::make_shared<ScriptedDevice>();
     mms::AssociationOptions serverOptions;
     acsi::ClientOptions clientOptions;
-    std::shared_ptr<acsi::Client> client;
+    std::shared_ptr<acsi::ChangingClient> client;
     wiretest::Awaited<mms::Text> ended;
 
 private:

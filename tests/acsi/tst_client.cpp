@@ -552,7 +552,7 @@ TEST_F(AcsiClient, cancelledConnectionAttemptEndsAtOnce)
     asio::cancellation_signal signal;
     Awaited<bool> over;
     const auto connected = std::make_shared<bool>(false);
-    using Connected = mms::Result<std::shared_ptr<Client>>;
+    using Connected = mms::Result<std::shared_ptr<ChangingClient>>;
     asio::co_spawn(
         executor(),
         deliver<Connected>(Client::connect(executor(), "127.0.0.1", peer.port(), clientOptions),

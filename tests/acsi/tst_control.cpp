@@ -175,16 +175,16 @@ TEST_F(ControlTest, anUnknownControlModelIsAnErrorInsteadOfAGuess)
 TEST_F(ControlTest, aStatusOnlyObjectCannotBeControlled)
 {
     open(ControlModel::StatusOnly);
-    EXPECT_FALSE(run(control->select(request())).ok);
-    EXPECT_FALSE(run(control->operate(request())).ok);
-    EXPECT_FALSE(run(control->cancel(request())).ok);
+    EXPECT_FALSE(run(control->select(client, request())).ok);
+    EXPECT_FALSE(run(control->operate(client, request())).ok);
+    EXPECT_FALSE(run(control->cancel(client, request())).ok);
     EXPECT_TRUE(device->requestsOf<mms::WriteRequest>().empty());
 }
 
 TEST_F(ControlTest, selectionWithNormalSecurityIsARead)
 {
     open(ControlModel::SelectNormal);
-    EXPECT_TRUE(run(control->select(request())).ok);
+    EXPECT_TRUE(run(control->select(client, request())).ok);
     const auto reads = device->requestsOf<mms::ReadRequest>();
     EXPECT_EQ(toText(reads.back().variables), toText(mms::variablesOf("LD", {"CSWI1$CO$Pos$SBO"})));
     EXPECT_TRUE(device->requestsOf<mms::WriteRequest>().empty());
@@ -194,7 +194,7 @@ TEST_F(ControlTest, anEmptyAnswerToASelectionIsARefusal)
 {
     open(ControlModel::SelectNormal);
     device->values["LD/CSWI1$CO$Pos$SBO"] = Data::visibleString("");
-    const ControlResult result = run(control->select(request()));
+    const ControlResult result = run(control->select(client, request()));
     EXPECT_FALSE(result.ok);
     EXPECT_EQ(result.message, "LD/CSWI1.Pos: the device refuses SBO: it gives no reason; another "
                               "client may have selected the object.");
@@ -203,7 +203,7 @@ TEST_F(ControlTest, anEmptyAnswerToASelectionIsARefusal)
 TEST_F(ControlTest, selectionWithEnhancedSecurityIsAWriteOfTheCommand)
 {
     open(ControlModel::SelectEnhanced);
-    EXPECT_TRUE(run(control->select(request())).ok);
+    EXPECT_TRUE(run(control->select(client, request())).ok);
     const auto writes = device->requestsOf<mms::WriteRequest>();
     ASSERT_EQ(writes.size(), 1U);
     EXPECT_EQ(toText(writes[0].variables), toText(mms::variablesOf("LD", {"CSWI1$CO$Pos$SBOw"})));
@@ -213,14 +213,14 @@ TEST_F(ControlTest, selectionWithEnhancedSecurityIsAWriteOfTheCommand)
 TEST_F(ControlTest, modelsWithoutSelectionSaySo)
 {
     open(ControlModel::DirectNormal);
-    const ControlResult result = run(control->select(request()));
+    const ControlResult result = run(control->select(client, request()));
     EXPECT_EQ(result.message, "LD/CSWI1.Pos: its control model knows no selection.");
 }
 
 TEST_F(ControlTest, normalModelsDoNotWaitForATermination)
 {
     open(ControlModel::DirectNormal);
-    EXPECT_TRUE(run(control->operate(request(), 1h)).ok);
+    EXPECT_TRUE(run(control->operate(client, request(), 1h)).ok);
 }
 
 TEST_F(ControlTest, aRefusalGivesTheAdditionalCause)
@@ -228,7 +228,7 @@ TEST_F(ControlTest, aRefusalGivesTheAdditionalCause)
     open(ControlModel::DirectNormal);
     reaction.errorBefore = error(10);
     reaction.refusal = DataAccessError::ObjectAccessDenied;
-    const ControlResult result = run(control->operate(request()));
+    const ControlResult result = run(control->operate(client, request()));
     EXPECT_FALSE(result.ok);
     EXPECT_EQ(result.message, "LD/CSWI1.Pos: the device refuses Oper: blocked by interlocking.");
     EXPECT_EQ(result.applError, error(10));
@@ -240,7 +240,7 @@ TEST_F(ControlTest, theTestThatFailedIsNamedBesideTheCause)
     reaction.errorBefore = error(16);
     reaction.errorBefore->error = 2;
     reaction.refusal = DataAccessError::ObjectAccessDenied;
-    EXPECT_EQ(run(control->operate(request())).message,
+    EXPECT_EQ(run(control->operate(client, request())).message,
               "LD/CSWI1.Pos: the device refuses Oper: the time for it is over (the time-out test "
               "failed).");
 }
@@ -249,7 +249,7 @@ TEST_F(ControlTest, aRefusalWithoutACauseGivesTheAccessError)
 {
     open(ControlModel::DirectNormal);
     reaction.refusal = DataAccessError::ObjectAccessDenied;
-    const ControlResult result = run(control->operate(request()));
+    const ControlResult result = run(control->operate(client, request()));
     EXPECT_FALSE(result.applError);
     EXPECT_NE(
         result.message.english().find(mms::describe(DataAccessError::ObjectAccessDenied).english()),
@@ -265,7 +265,7 @@ TEST_F(ControlTest, causesOfOtherCommandsAreNotTakenForThisOne)
     const std::vector<LastApplError> others = {error(10, 8), otherObject, error(10, 7, "$Cancel")};
     for (const LastApplError &other : others) {
         reaction.errorBefore = other;
-        EXPECT_FALSE(run(control->operate(request())).applError) << other.controlObject;
+        EXPECT_FALSE(run(control->operate(client, request())).applError) << other.controlObject;
     }
     EXPECT_EQ(client->unclaimedReports(), others.size());
 }
@@ -275,23 +275,23 @@ TEST_F(ControlTest, aCauseOfThePreviousCommandIsForgotten)
     open(ControlModel::DirectNormal);
     reaction.errorBefore = error(10);
     reaction.refusal = DataAccessError::ObjectAccessDenied;
-    EXPECT_TRUE(run(control->operate(request())).applError);
+    EXPECT_TRUE(run(control->operate(client, request())).applError);
     reaction.errorBefore.reset();
-    EXPECT_FALSE(run(control->operate(request())).applError);
+    EXPECT_FALSE(run(control->operate(client, request())).applError);
 }
 
 TEST_F(ControlTest, enhancedModelsWaitForTheTermination)
 {
     open(ControlModel::DirectEnhanced);
     reaction.terminates = true;
-    EXPECT_TRUE(run(control->operate(request(), 1h)).ok);
+    EXPECT_TRUE(run(control->operate(client, request(), 1h)).ok);
 }
 
 TEST_F(ControlTest, aTerminationThatOvertakesTheAnswerCounts)
 {
     open(ControlModel::DirectEnhanced);
     reaction.terminatesFirst = true;
-    EXPECT_TRUE(run(control->operate(request(), 1h)).ok);
+    EXPECT_TRUE(run(control->operate(client, request(), 1h)).ok);
 }
 
 TEST_F(ControlTest, aNegativeTerminationGivesTheAdditionalCause)
@@ -299,7 +299,7 @@ TEST_F(ControlTest, aNegativeTerminationGivesTheAdditionalCause)
     open(ControlModel::SelectEnhanced);
     reaction.terminates = true;
     reaction.terminationError = error(17);
-    const ControlResult result = run(control->operate(request(), 1h));
+    const ControlResult result = run(control->operate(client, request(), 1h));
     EXPECT_FALSE(result.ok);
     EXPECT_EQ(result.message, "LD/CSWI1.Pos: the command ended without success: ended by a trip.");
     EXPECT_EQ(result.applError, error(17));
@@ -309,7 +309,7 @@ TEST_F(ControlTest, anErrorAfterAcceptanceEndsTheCommandWithoutSuccess)
 {
     open(ControlModel::DirectEnhanced);
     reaction.errorAfter = error(16);
-    const ControlResult result = run(control->operate(request(), 1h));
+    const ControlResult result = run(control->operate(client, request(), 1h));
     EXPECT_FALSE(result.ok);
     EXPECT_EQ(result.applError, error(16));
 }
@@ -319,7 +319,7 @@ TEST_F(ControlTest, theTerminationOfAnotherCommandDoesNotCount)
     open(ControlModel::DirectEnhanced);
     reaction.terminates = true;
     reaction.terminationNumber = 6;
-    const ControlResult result = run(control->operate(request(), 100ms));
+    const ControlResult result = run(control->operate(client, request(), 100ms));
     EXPECT_FALSE(result.ok);
     EXPECT_EQ(client->unclaimedReports(), 1U);
 }
@@ -327,7 +327,7 @@ TEST_F(ControlTest, theTerminationOfAnotherCommandDoesNotCount)
 TEST_F(ControlTest, aMissingTerminationIsNoSuccess)
 {
     open(ControlModel::DirectEnhanced);
-    const ControlResult result = run(control->operate(request(), 100ms));
+    const ControlResult result = run(control->operate(client, request(), 100ms));
     EXPECT_FALSE(result.ok);
     EXPECT_EQ(result.message, "LD/CSWI1.Pos: the device accepted the command, but has not told "
                               "within 0.1 s how it ended.");
@@ -337,7 +337,7 @@ TEST_F(ControlTest, theEndOfTheAssociationEndsTheWaitForATermination)
 {
     open(ControlModel::DirectEnhanced);
     reaction.aborts = true;
-    const ControlResult result = run(control->operate(request(), 1h));
+    const ControlResult result = run(control->operate(client, request(), 1h));
     EXPECT_FALSE(result.ok);
     EXPECT_EQ(
         result.message.english().find("LD/CSWI1.Pos: the device accepted the command, but the "
@@ -351,7 +351,7 @@ TEST_F(ControlTest, aCauseThatComesJustAfterTheRefusalCounts)
     open(ControlModel::DirectNormal);
     reaction.refusal = DataAccessError::ObjectAccessDenied;
     reaction.errorAfter = error(10);
-    const ControlResult result = run(control->operate(request()));
+    const ControlResult result = run(control->operate(client, request()));
     EXPECT_EQ(result.message, "LD/CSWI1.Pos: the device refuses Oper: blocked by interlocking.");
     EXPECT_EQ(result.outcome, ControlOutcome::Refused);
 }
@@ -366,7 +366,7 @@ TEST_F(ControlTest, aCauseIsUnderstoodWhenOnlyOneCallCanBeMeant)
             LastApplError given = error(10, number);
             given.controlObject = name;
             reaction.errorBefore = given;
-            EXPECT_EQ(run(control->select(request())).applError, given) << name;
+            EXPECT_EQ(run(control->select(client, request())).applError, given) << name;
         }
     }
 }
@@ -377,7 +377,7 @@ TEST_F(ControlTest, aRefusalWithoutACauseInItsErrorGivesTheAccessError)
     reaction.refusal = DataAccessError::TemporarilyUnavailable;
     reaction.errorBefore = error(25);
     reaction.errorBefore->error = 0;
-    EXPECT_EQ(run(control->operate(request())).message,
+    EXPECT_EQ(run(control->operate(client, request())).message,
               "LD/CSWI1.Pos: the device refuses Oper: " +
                   mms::describe(DataAccessError::TemporarilyUnavailable).english());
 }
@@ -402,7 +402,7 @@ TEST_F(ControlTest, aRefusalByServiceErrorOrRejectIsARefusal)
     };
     for (const bool reject : {false, true}) {
         rejects = reject;
-        const ControlResult result = run(control->operate(request()));
+        const ControlResult result = run(control->operate(client, request()));
         EXPECT_EQ(result.outcome, ControlOutcome::Refused);
         EXPECT_EQ(result.message.english().find("LD/CSWI1.Pos: the device refuses Oper: "), 0U)
             << result.message;
@@ -415,9 +415,9 @@ TEST_F(ControlTest, anErrorOfNoneInATerminationIsSuccess)
     reaction.terminates = true;
     reaction.terminationError = error(25);
     reaction.terminationError->error = 0;
-    EXPECT_TRUE(run(control->operate(request(), 1h)).ok);
+    EXPECT_TRUE(run(control->operate(client, request(), 1h)).ok);
     reaction.terminationError->error = 1;
-    EXPECT_FALSE(run(control->operate(request(), 1h)).ok);
+    EXPECT_FALSE(run(control->operate(client, request(), 1h)).ok);
 }
 
 TEST_F(ControlTest, theCauseOfAnotherObjectInATerminationIsNotShown)
@@ -426,7 +426,7 @@ TEST_F(ControlTest, theCauseOfAnotherObjectInATerminationIsNotShown)
     reaction.terminates = true;
     reaction.terminationError = error(10);
     reaction.terminationError->controlObject = "LD/CSWI2$CO$Pos$Oper";
-    const ControlResult result = run(control->operate(request(), 1h));
+    const ControlResult result = run(control->operate(client, request(), 1h));
     EXPECT_FALSE(result.applError);
     EXPECT_EQ(result.message, "LD/CSWI1.Pos: the command ended without success: the device does "
                               "not say why.");
@@ -437,7 +437,7 @@ TEST_F(ControlTest, aTerminationThatNobodyWaitsForAnyMoreIsHeard)
     open(ControlModel::DirectEnhanced);
     wiretest::Awaited<ControlResult> late;
     listen(late);
-    EXPECT_EQ(run(control->operate(request(), 50ms)).outcome, ControlOutcome::Accepted);
+    EXPECT_EQ(run(control->operate(client, request(), 50ms)).outcome, ControlOutcome::Accepted);
     device->association()->report(commandTermination(*parseReference("LD/CSWI1$CO$Pos"),
                                                      *controlValue(commandType(true), request()),
                                                      error(17)));
@@ -460,7 +460,7 @@ TEST_F(ControlTest, anAnswerThatNobodyWaitsForAnyMoreIsHeard)
         asked = invokeId;
         return true;
     };
-    const ControlResult result = run(control->operate(request()));
+    const ControlResult result = run(control->operate(client, request()));
     EXPECT_EQ(result.outcome, ControlOutcome::Unknown);
     EXPECT_EQ(result.message, "LD/CSWI1.Pos: Oper got no answer within 0.5 s.");
     device->association()->respond(asked, mms::WriteResponse{{std::nullopt}});
@@ -476,14 +476,14 @@ TEST_F(ControlTest, theEndOfTheAssociationLeavesACommandUnknown)
         association->abort(mms::verbatim("The test wants it."));
         return true;
     };
-    EXPECT_EQ(run(control->operate(request())).outcome, ControlOutcome::Unknown);
-    EXPECT_EQ(run(control->operate(request())).outcome, ControlOutcome::NotSent);
+    EXPECT_EQ(run(control->operate(client, request())).outcome, ControlOutcome::Unknown);
+    EXPECT_EQ(run(control->operate(client, request())).outcome, ControlOutcome::NotSent);
 }
 
 TEST_F(ControlTest, cancelWritesTheCommandWithoutChecks)
 {
     open(ControlModel::SelectNormal);
-    EXPECT_TRUE(run(control->cancel(request())).ok);
+    EXPECT_TRUE(run(control->cancel(client, request())).ok);
     const auto writes = device->requestsOf<mms::WriteRequest>();
     ASSERT_EQ(writes.size(), 1U);
     EXPECT_EQ(writes[0].values[0], *controlValue(commandType(false), request()));
@@ -495,7 +495,7 @@ TEST_F(ControlTest, whatACancelHasNoPlaceForKeepsNobodyFromCancelling)
     ControlRequest given = request();
     given.interlockCheck = true;
     given.operateTime = mms::UtcTime{1700000000, 0, 0};
-    EXPECT_TRUE(run(control->cancel(given)).ok);
+    EXPECT_TRUE(run(control->cancel(client, given)).ok);
     EXPECT_EQ(device->requestsOf<mms::WriteRequest>().back().values[0],
               *controlValue(commandType(false), request()));
 }
@@ -517,10 +517,10 @@ TEST_F(ControlTest, aCommandCanBeCancelledWhileItIsExecuted)
         return true;
     };
     auto operating =
-        asio::co_spawn(client->strand(), control->operate(request(), 1h), asio::use_future);
+        asio::co_spawn(client->strand(), control->operate(client, request(), 1h), asio::use_future);
     while (device->requestsOf<mms::WriteRequest>().empty())
         std::this_thread::yield();
-    EXPECT_TRUE(run(control->cancel(request())).ok);
+    EXPECT_TRUE(run(control->cancel(client, request())).ok);
     const ControlResult result = operating.get();
     EXPECT_FALSE(result.ok);
     EXPECT_EQ(result.applError, error(15));
@@ -531,7 +531,7 @@ TEST_F(ControlTest, whatDoesNotFitTheDeviceIsNotSent)
     open(ControlModel::DirectNormal);
     ControlRequest bad = request();
     bad.originator.identification.assign(65, 'x');
-    EXPECT_EQ(run(control->operate(bad)).message,
+    EXPECT_EQ(run(control->operate(client, bad)).message,
               "LD/CSWI1.Pos: origin: The originator identification has 65 octets; at most 64 are "
               "allowed.");
     EXPECT_TRUE(device->requestsOf<mms::WriteRequest>().empty());
@@ -541,7 +541,7 @@ TEST_F(ControlTest, afterTheEndOfTheAssociationACommandFailsAtOnce)
 {
     open(ControlModel::DirectNormal);
     asio::co_spawn(client->strand(), client->close(), asio::use_future).get();
-    const ControlResult result = run(control->operate(request()));
+    const ControlResult result = run(control->operate(client, request()));
     EXPECT_FALSE(result.ok);
     EXPECT_FALSE(result.message.empty());
 }

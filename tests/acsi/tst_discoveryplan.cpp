@@ -95,7 +95,7 @@ public:
             // The newest first: order must not matter.
             std::ranges::reverse(sent);
             for (DiscoveryPlan::Request &request : sent)
-                plan.answered(request.step, answer(request.service));
+                plan.answered(request.step, answer(request.service.service()));
         }
         return plan.take();
     }
@@ -462,7 +462,7 @@ TEST(DiscoveryPlan, aKnownIdentityIsNotAskedFor)
 {
     DiscoveryPlan plan(5, {}, mms::IdentifyResponse{"known", {}, {}, {}});
     while (const auto request = plan.next())
-        EXPECT_FALSE(std::holds_alternative<mms::IdentifyRequest>(request->service));
+        EXPECT_FALSE(std::holds_alternative<mms::IdentifyRequest>(request->service.service()));
     plan.timeIsOver();
     EXPECT_EQ(plan.take()->identity.vendor, "known");
 }

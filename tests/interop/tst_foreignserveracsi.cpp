@@ -67,7 +67,7 @@ protected:
         MatrixTest::TearDown();
     }
 
-    std::shared_ptr<Client> connect()
+    std::shared_ptr<ChangingClient> connect()
     {
         const std::string host = "127.0.0.1";
         const ClientOptions options;
@@ -151,7 +151,7 @@ protected:
     std::deque<Report> m_reports;
     wiretest::Loop m_loop;
     std::unique_ptr<ForeignServer> m_server;
-    std::shared_ptr<Client> m_client;
+    std::shared_ptr<ChangingClient> m_client;
 };
 
 } // namespace
@@ -261,7 +261,7 @@ TEST_F(ForeignServerAcsiTest, isOperatedDirectly)
     row("Control: direct, normal security");
     const auto control = object("BAY1CTRL/GGIO1$CO$SPCSO1", ControlModel::DirectNormal);
     ASSERT_NE(control, nullptr);
-    const auto done = run(control->operate(switchOn()));
+    const auto done = run(control->operate(m_client, switchOn()));
     EXPECT_TRUE(done.ok) << done.message;
     EXPECT_EQ(held("BAY1CTRL/GGIO1.SPCSO1.stVal", "ST"), QJsonValue(true));
 }
@@ -271,14 +271,14 @@ TEST_F(ForeignServerAcsiTest, isSelectedBeforeItIsOperated)
     row("Control: select before operate, normal security");
     const auto control = object("BAY1CTRL/GGIO1$CO$SPCSO2", ControlModel::SelectNormal);
     ASSERT_NE(control, nullptr);
-    EXPECT_FALSE(run(control->operate(switchOn())).ok);
-    auto done = run(control->select(switchOn()));
+    EXPECT_FALSE(run(control->operate(m_client, switchOn())).ok);
+    auto done = run(control->select(m_client, switchOn()));
     EXPECT_TRUE(done.ok) << done.message;
-    done = run(control->cancel(switchOn()));
+    done = run(control->cancel(m_client, switchOn()));
     EXPECT_TRUE(done.ok) << done.message;
-    done = run(control->select(switchOn()));
+    done = run(control->select(m_client, switchOn()));
     EXPECT_TRUE(done.ok) << done.message;
-    done = run(control->operate(switchOn()));
+    done = run(control->operate(m_client, switchOn()));
     EXPECT_TRUE(done.ok) << done.message;
     EXPECT_EQ(held("BAY1CTRL/GGIO1.SPCSO2.stVal", "ST"), QJsonValue(true));
 }
@@ -288,7 +288,7 @@ TEST_F(ForeignServerAcsiTest, terminatesADirectCommand)
     row("Control: direct, enhanced security");
     const auto control = object("BAY1CTRL/GGIO1$CO$SPCSO3", ControlModel::DirectEnhanced);
     ASSERT_NE(control, nullptr);
-    const auto done = run(control->operate(switchOn()));
+    const auto done = run(control->operate(m_client, switchOn()));
     EXPECT_TRUE(done.ok) << done.message;
     EXPECT_EQ(held("BAY1CTRL/GGIO1.SPCSO3.stVal", "ST"), QJsonValue(true));
 }
@@ -298,9 +298,9 @@ TEST_F(ForeignServerAcsiTest, terminatesASelectedCommand)
     row("Control: select before operate, enhanced security");
     const auto control = object("BAY1CTRL/CSWI1$CO$Pos", ControlModel::SelectEnhanced);
     ASSERT_NE(control, nullptr);
-    auto done = run(control->select(switchOn()));
+    auto done = run(control->select(m_client, switchOn()));
     EXPECT_TRUE(done.ok) << done.message;
-    done = run(control->operate(switchOn()));
+    done = run(control->operate(m_client, switchOn()));
     EXPECT_TRUE(done.ok) << done.message;
     EXPECT_EQ(held("BAY1CTRL/CSWI1.Pos.stVal", "ST"), (QJsonObject{{"bits", "10"}}));
 }
@@ -312,7 +312,7 @@ TEST_F(ForeignServerAcsiTest, saysWhyACommandIsRefused)
     ASSERT_NE(control, nullptr);
     ControlRequest request = switchOn();
     request.interlockCheck = true;
-    const auto refused = run(control->select(request));
+    const auto refused = run(control->select(m_client, request));
     EXPECT_FALSE(refused.ok);
     ASSERT_TRUE(refused.applError.has_value()) << refused.message;
     EXPECT_EQ(refused.applError->addCause, 10) << "blocked by interlocking";

@@ -115,7 +115,7 @@ protected:
         std::string result = "no such object";
         if (const auto reference = acsi::parseReference(object)) {
             auto opened = await(strand, acsi::ControlObject::open(*connected, *reference));
-            result = opened ? operate(strand, **opened) : opened.error().message.english();
+            result = opened ? operate(*connected, **opened) : opened.error().message.english();
             // It is destroyed where it lived.
             asio::dispatch(strand, [control = std::move(opened)] {});
         }
@@ -148,8 +148,8 @@ private:
         return result.get();
     }
 
-    template <typename Executor>
-    static std::string operate(const Executor &strand, acsi::ControlObject &control)
+    static std::string operate(const std::shared_ptr<acsi::ChangingClient> &client,
+                               acsi::ControlObject &control)
     {
         const auto causeOf = [](const acsi::ControlResult &result) {
             return result.applError ? std::to_string(result.applError->addCause)
@@ -162,11 +162,13 @@ private:
         request.interlockCheck = true;
         if (control.model() == acsi::ControlModel::SelectNormal ||
             control.model() == acsi::ControlModel::SelectEnhanced) {
-            const acsi::ControlResult selected = await(strand, control.select(request));
+            const acsi::ControlResult selected =
+                await(client->strand(), control.select(client, request));
             if (!selected)
                 return "select " + causeOf(selected);
         }
-        const acsi::ControlResult operated = await(strand, control.operate(request));
+        const acsi::ControlResult operated =
+            await(client->strand(), control.operate(client, request));
         return operated ? "done" : "operate " + causeOf(operated);
     }
 };
