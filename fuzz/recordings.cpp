@@ -121,7 +121,7 @@ Octets discoveryRecording(const TypeDescription &node, std::size_t refuseEvery)
                           mms::ServiceError{static_cast<mms::ErrorClass>(resource), 0, {}, {}, {}});
             continue;
         }
-        mms::ResponseService answer = answerTo(request->service, node);
+        mms::ResponseService answer = answerTo(request->service.service(), node);
         input.push_back(0); // an answer in octets
         append(input, mms::encode(mms::ConfirmedResponsePdu{1, answer}));
         plan.answered(request->step, std::move(answer));

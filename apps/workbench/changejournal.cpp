@@ -5,6 +5,7 @@
 
 #include "driver/text/csvfield.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QStringList>
@@ -50,27 +51,51 @@ ChangeJournal::ChangeJournal(const QString &file, int capacity, QObject *parent)
 {
 }
 
+ChangeJournal::~ChangeJournal()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    for (auto &each : m_begun) {
+        each.second.error = QCoreApplication::translate(
+            "IedDriver", "The driver has not waited for the end of the operation.");
+        writeRow(each.second);
+    }
+}
+
+bool ChangeJournal::writeRow(const DeviceChange &change)
+{
+    if (m_file.fileName().isEmpty())
+        return false;
+    const QString problem =
+        append(rowOf(change))
+            ? QString()
+            : tr("The journal \"%1\" cannot be written: %2")
+                  .arg(QDir::toNativeSeparators(m_file.fileName()), m_file.errorString());
+    if (problem == m_problem)
+        return false;
+    m_problem = problem;
+    m_problemIsNew = true;
+    return true;
+}
+
 void ChangeJournal::write(const DeviceChange &change)
 {
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        if (m_file.fileName().isEmpty())
+        if (change.state == DeviceChange::State::Begun) {
+            m_begun[change.id] = change;
             return;
-        const QString problem =
-            append(rowOf(change))
-                ? QString()
-                : tr("The journal \"%1\" cannot be written: %2")
-                      .arg(QDir::toNativeSeparators(m_file.fileName()), m_file.errorString());
-        if (problem == m_problem)
+        }
+        m_begun.erase(change.id);
+        if (!writeRow(change))
             return;
-        m_problem = problem;
-        m_problemIsNew = true;
     }
     QMetaObject::invokeMethod(this, "takeChanges", Qt::QueuedConnection);
 }
 
 void ChangeJournal::add(const DeviceChange &change)
 {
+    if (change.state == DeviceChange::State::Begun)
+        return;
     bool first = false;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);

@@ -7,12 +7,14 @@
 #include <QtCore/QFile>
 
 #include <deque>
+#include <map>
 #include <mutex>
 
 /// Everything that was changed on devices, or was tried to, as a table, the newest last, with
 /// values in words where there are any, the raw ones behind; and with raw values in a file to which
-/// rows are only ever appended: CSV (RFC 4180, UTF-8) with a heading, one row for each change. The
-/// model belongs to the GUI thread; changes may come from any thread.
+/// rows are only ever appended: CSV (RFC 4180, UTF-8) with a heading, one row for each change. A
+/// change that has begun gets its row when it has ended, or when the journal ends before. The model
+/// belongs to the GUI thread; changes may come from any thread.
 class ChangeJournal : public QAbstractTableModel
 {
     Q_OBJECT
@@ -36,6 +38,8 @@ public:
     /// @param capacity rows kept in the table; the oldest go first, and stay in the file
     explicit ChangeJournal(const QString &file, int capacity = defaultCapacity,
                            QObject *parent = nullptr);
+
+    ~ChangeJournal() override;
 
     /// Appends a row to the file before it returns. Any thread.
     void write(const DeviceChange &change);
@@ -61,13 +65,16 @@ private:
     Q_INVOKABLE void takeChanges();
     bool openFile();
     bool append(const QByteArray &row);
+    bool
+    writeRow(const DeviceChange &change); ///< under m_mutex; whether there is news of a problem
 
     const int m_capacity;
     std::deque<DeviceChange> m_changes;
 
     mutable std::mutex m_mutex;
-    QFile m_file;                       ///< under m_mutex
-    QString m_problem;                  ///< under m_mutex
-    bool m_problemIsNew = false;        ///< under m_mutex
-    std::deque<DeviceChange> m_mailbox; ///< under m_mutex; not yet in the table
+    QFile m_file;                                  ///< under m_mutex
+    QString m_problem;                             ///< under m_mutex
+    bool m_problemIsNew = false;                   ///< under m_mutex
+    std::deque<DeviceChange> m_mailbox;            ///< under m_mutex; not yet in the table
+    std::map<std::uint64_t, DeviceChange> m_begun; ///< under m_mutex, by number
 };

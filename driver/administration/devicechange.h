@@ -4,9 +4,23 @@
 #include <QtCore/QDateTime>
 #include <QtCore/QString>
 
-/// A change that the driver made on a device, or tried to, for a host's journal.
+#include <cstdint>
+
+/// A change that the driver makes on a device, or tries to, for a host's journal: told once before
+/// anything of it can reach the device, and once when it has ended.
 struct DeviceChange
 {
+    enum class State {
+        Begun,  ///< what is intended
+        Done,   ///< it has succeeded
+        Failed, ///< the error says why, and where it is not known what became of it
+        Unknown ///< nobody has waited for the end, or it cannot be known; the error says so
+    };
+
+    std::uint64_t id = 0; ///< the same whenever the change is told; of no other in this process
+    State state = State::Done;
+    /// Nobody has asked for it just now: it gives back what was taken, or restores what was lost.
+    bool isDriversOwn = false;
     QDateTime time; ///< local time
     int number = 0; ///< of the device
     QString device;
@@ -17,6 +31,6 @@ struct DeviceChange
     /// The same in words with the raw value behind them, "on (2)"; empty where that says no more.
     QString oldWords;
     QString newWords;
-    QString error;           ///< empty when it was done
+    QString error;           ///< empty when it was done, and when it has begun
     QString additionalCause; ///< of a refused control
 };

@@ -43,6 +43,8 @@ public:
     void closed();
     /// The last outcome that was no success; empty after one.
     const QString &sentence() const { return m_sentence; }
+    /// Whether the last try was one that the device, or this side, refused.
+    bool wasRefused() const { return m_last == Result::Refused; }
     bool isHeld() const { return m_state == State::Waiting && m_last == Result::Held; }
 
 private:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "controlpart.h"
 
+#include "changegate.h"
 #include "driver/core/controlorder.h"
 #include "driver/text/sentences.h"
 #include "valuepublishing.h"
@@ -144,7 +145,7 @@ void Part::heardLate(const acsi::Reference &reference, const std::string &name, 
     }
     if (result.applError)
         change.additionalCause = text(acsi::additionalCauseText(result.applError->addCause));
-    m_device.journal(std::move(change));
+    ChangeGate::tell(m_device, std::move(change));
     setProblem(name, problem);
     showStatus(m_device.shared_from_this(), reference);
 }

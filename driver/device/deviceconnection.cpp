@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "deviceconnection.h"
 
+#include "changegate.h"
 #include "clientoptions.h"
 #include "driver/core/valuewords.h"
 #include "driver/text/connectiontext.h"
@@ -61,7 +62,7 @@ QString abortedSentence()
 
 struct DeviceConnection::Attempt
 {
-    std::optional<mms::Result<ClientPointer>> result;
+    std::optional<mms::Result<std::shared_ptr<acsi::ChangingClient>>> result;
     asio::cancellation_signal cancel;
 };
 
@@ -87,6 +88,7 @@ DeviceConnection::DeviceConnection(Private, asio::any_io_executor executor,
               })
     , m_operations(m_strand)
     , m_life(randomSource())
+    , m_gate(std::make_unique<ChangeGate>())
     , m_reading(std::make_unique<ModelReading>(*this))
     , m_polling(std::make_unique<ValuePolling>(*this))
     , m_values(std::make_unique<ValuePublishing>(*this))
@@ -261,7 +263,8 @@ asio::awaitable<void> DeviceConnection::makeAssociation()
         m_life.failed(text(state->result->error().message));
         co_return;
     }
-    m_client = std::move(**state->result);
+    m_gate->m_client = std::move(**state->result);
+    m_client = m_gate->m_client;
     m_life.associated();
     m_board.update([](DeviceStatus &status) { ++status.counters.connections; });
     show();
@@ -290,8 +293,8 @@ asio::awaitable<void> DeviceConnection::attempt(std::shared_ptr<DeviceConnection
         };
     std::string host = self->m_configuration.host.toStdString();
     const auto port = static_cast<std::uint16_t>(self->m_configuration.port);
-    mms::Result<ClientPointer> result = co_await acsi::Client::connect(
-        self->m_strand, std::move(host), port, std::move(options), closed);
+    auto result = co_await acsi::Client::connect(self->m_strand, std::move(host), port,
+                                                 std::move(options), closed);
     if (self->m_attempt != attempt) {
         if (result)
             (*result)->abort(mms::say("Nobody wants the association any more."));
@@ -339,6 +342,7 @@ asio::awaitable<void> DeviceConnection::takeLeave()
 void DeviceConnection::clearUp()
 {
     m_attempt.reset();
+    m_gate->m_client.reset();
     if (const ClientPointer client = std::exchange(m_client, nullptr)) {
         if (client->isOpen())
             client->abort(mms::verbatim(m_life.reason().toStdString()));

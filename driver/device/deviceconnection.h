@@ -28,6 +28,7 @@
 #include <typeindex>
 #include <vector>
 
+class ChangeGate;
 class ModelReading;
 class ValuePolling;
 class ValuePublishing;
@@ -101,8 +102,10 @@ public:
 
     // In the strand:
 
-    /// Null without an association.
+    /// For reading; null without an association.
     const std::shared_ptr<acsi::Client> &client() const { return m_client; }
+    /// For everything that changes something on the device.
+    ChangeGate &gate() const { return *m_gate; }
     /// The association stands and is to be kept.
     bool isKept() const { return m_life.isKept(); }
     QString notConnectedSentence() const;
@@ -129,8 +132,6 @@ public:
     /// Something of the device does not work though it is online; one sentence for the operator,
     /// shown as the reason of the device's state. An empty one takes it away.
     void setProblem(const QString &source, const QString &sentence);
-    /// Tells the host's journal. Time, number and device are filled in.
-    void journal(DeviceChange change);
 
     /// Returns after the time or sooner, whenever something has changed.
     asio::awaitable<void> pause(std::chrono::milliseconds time);
@@ -141,8 +142,13 @@ public:
     void fail(const std::shared_ptr<acsi::Client> &client, const std::exception_ptr &exception);
 
 private:
+    friend class ChangeGate;
+    friend class ChangeRecord;
     using ClientPointer = std::shared_ptr<acsi::Client>;
     struct Attempt;
+
+    /// Tells the host's journal. Time, number and device are filled in.
+    void journal(DeviceChange change);
 
     void want();
     /// Connects, and reconnects whenever the association was lost, as m_life says, until nobody
@@ -175,6 +181,7 @@ private:
     AssociationLife m_life;
     std::shared_ptr<Attempt> m_attempt; ///< of which the present association comes, or may come
     ClientPointer m_client;
+    std::unique_ptr<ChangeGate> m_gate;
     std::unique_ptr<ModelReading> m_reading;
     std::unique_ptr<ValuePolling> m_polling;
     std::unique_ptr<ValuePublishing> m_values;

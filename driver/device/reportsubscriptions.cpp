@@ -187,16 +187,27 @@ asio::awaitable<void> ReportSubscriptions::leaving()
         if (each.second->life.isTaking())
             enabled.push_back(each.second->block);
     }
+    const auto outcomeOf = [](const mms::Result<void> &result) {
+        return result ? Outcome() : Outcome::failed(result.error());
+    };
     for (const acsi::Reference &block : enabled) {
-        if (client && client->isOpen())
-            static_cast<void>(co_await acsi::disableReportBlock(client, block));
+        const auto change = ChangeGate::own(
+            m_connection, intentOf(block, "RptEna", "false", ChangeIntent::Kind::GivesBack));
+        if (const auto changing = change->client()) {
+            const mms::Result<void> given = co_await acsi::disableReportBlock(changing, block);
+            change->end(outcomeOf(given));
+        }
     }
     std::map<std::string, acsi::Reference> reserved;
     reserved.swap(m_reserved);
     for (const auto &each : reserved) {
-        if (client && client->isOpen())
-            static_cast<void>(co_await acsi::writeReportAttribute(client, each.second, "ResvTms",
-                                                                  mms::Data::integer(0)));
+        const auto change = ChangeGate::own(
+            m_connection, intentOf(each.second, "ResvTms", "0", ChangeIntent::Kind::GivesBack));
+        if (const auto changing = change->client()) {
+            const mms::Result<void> given = co_await acsi::writeReportAttribute(
+                changing, each.second, "ResvTms", mms::Data::integer(0));
+            change->end(outcomeOf(given));
+        }
     }
 }
 
@@ -216,20 +227,22 @@ void ReportSubscriptions::closed(const QString &)
     m_entries.save();
 }
 
-asio::awaitable<Outcome> ReportSubscriptions::enable(acsi::Reference block,
+asio::awaitable<Outcome> ReportSubscriptions::enable(ChangePointer change, acsi::Reference block,
                                                      acsi::ReportSettings settings)
 {
     const auto subscription = std::make_shared<Subscription>();
     subscription->reference = acsi::toText(block);
     subscription->block = std::move(block);
     subscription->settings = std::move(settings);
+    change->setOperation(QStringLiteral("enableReportBlock"));
+    change->setReference(text(subscription->reference));
     Turn turn = co_await this->turn(subscription->reference);
     listen();
 
     Outcome outcome;
     std::exception_ptr cancelled;
     try {
-        outcome = co_await start(subscription, Attended::Yes);
+        outcome = co_await start(subscription, change);
     } catch (...) {
         cancelled = std::current_exception();
     }
@@ -246,8 +259,8 @@ asio::awaitable<Outcome> ReportSubscriptions::enable(acsi::Reference block,
         m_subscriptions.erase(subscription->reference);
     }
     if (cancelled) {
-        journal(*subscription, {}, {},
-                Texts::tr("%1 was not enabled in time.").arg(text(subscription->reference)));
+        change->intend();
+        change->giveUp(Texts::tr("%1 was not enabled in time.").arg(text(subscription->reference)));
     }
     if (!outcome || cancelled)
         undo(subscription, std::move(turn));
@@ -256,18 +269,34 @@ asio::awaitable<Outcome> ReportSubscriptions::enable(acsi::Reference block,
     co_return outcome;
 }
 
-Outcome ReportSubscriptions::ended(const SubscriptionPointer &subscription, Attended attended,
+Outcome ReportSubscriptions::ended(const SubscriptionPointer &subscription, Change *change,
                                    SubscriptionLife::Result result, const QString &oldValue,
                                    const QString &newValue, const QString &error)
 {
     const bool isNews = subscription->life.ended(result, error, steady_clock::now());
-    if (isNews || attended == Attended::Yes)
-        journal(*subscription, oldValue, newValue, error);
-    if (result == SubscriptionLife::Result::Enabled)
-        return {};
-    if (isCurrent(subscription))
+    const bool isEnabled = result == SubscriptionLife::Result::Enabled;
+    const Outcome outcome = isEnabled ? Outcome() : Outcome::failed(error);
+    if (change) {
+        change->setValues(oldValue, newValue);
+        if (change->change().isDriversOwn && !isNews)
+            change->endAsBefore();
+        change->intend();
+        change->end(outcome);
+    } else if (isNews) {
+        tellSeen(*subscription, error);
+    }
+    if (!isEnabled && isCurrent(subscription))
         stop(*subscription);
-    return Outcome::failed(error);
+    return outcome;
+}
+
+ChangePointer ReportSubscriptions::ownChange(const Subscription &subscription)
+{
+    ChangeIntent intent;
+    intent.operation = QStringLiteral("enableReportBlock");
+    intent.reference = text(subscription.reference);
+    intent.isRepeated = subscription.life.wasRefused();
+    return ChangeGate::own(m_connection, std::move(intent));
 }
 
 asio::awaitable<acsi::ReportSettings> ReportSubscriptions::prepare(SubscriptionPointer subscription,
@@ -316,7 +345,7 @@ asio::awaitable<acsi::ReportSettings> ReportSubscriptions::prepare(SubscriptionP
 }
 
 asio::awaitable<Outcome> ReportSubscriptions::start(SubscriptionPointer subscription,
-                                                    Attended attended)
+                                                    ChangePointer asked)
 {
     using Result = SubscriptionLife::Result;
     const ClientPointer client = m_connection.client();
@@ -329,19 +358,19 @@ asio::awaitable<Outcome> ReportSubscriptions::start(SubscriptionPointer subscrip
     const acsi::Reference block = subscription->block;
     const mms::Result<acsi::ReportBlock> before = co_await acsi::readReportBlock(client, block);
     if (!before) {
-        co_return ended(subscription, attended, Result::Refused, {}, {},
+        co_return ended(subscription, asked.get(), Result::Refused, {}, {},
                         text(before.error().message));
     }
     const SubscriptionPointer former = find(subscription->reference);
     const bool isOwn =
         (former && former->life.isTaking()) || m_leftEnabled.count(subscription->reference) != 0;
     const acsi::ReportHolder holder = acsi::holderOf(*before, client->association().localAddress());
-    if (belongsToOthers(holder, before->buffered, isOwn, attended == Attended::No)) {
+    if (belongsToOthers(holder, before->buffered, isOwn, !asked)) {
         const QString sentence = Texts::tr("%1 It was left alone.").arg(holderText(block, holder));
-        co_return ended(subscription, attended, Result::Held, {}, {}, sentence);
+        co_return ended(subscription, asked.get(), Result::Held, {}, {}, sentence);
     }
     if (subscription->settings.datSet.value_or(before->datSet).empty()) {
-        co_return ended(subscription, attended, Result::Refused, settingsText(*before), {},
+        co_return ended(subscription, asked.get(), Result::Refused, settingsText(*before), {},
                         Texts::tr("The report control block %1 has no data set.").arg(text(block)));
     }
     // From here on the block is this subscription's.
@@ -349,14 +378,23 @@ asio::awaitable<Outcome> ReportSubscriptions::start(SubscriptionPointer subscrip
         stop(*former);
     m_subscriptions[subscription->reference] = subscription;
     subscription->faults.clear();
-    if (attended == Attended::Yes)
+    if (asked)
         m_connection.setProblem(text(subscription->reference), {});
     acsi::ReportSettings settings = co_await prepare(subscription, client, *before);
     settings.isOwn = isOwn;
+    const ChangePointer change = asked ? asked : ownChange(*subscription);
+    change->setValues(settingsText(*before), {});
+    // What was read holds for the association that it was read by.
+    const auto changing = m_connection.client() == client ? change->client() : nullptr;
+    if (!changing) {
+        const Outcome refusal = change->refusal();
+        co_return ended(subscription, change.get(), Result::Refused, settingsText(*before), {},
+                        refusal.error);
+    }
     subscription->trace = std::make_shared<acsi::ReportBlockTrace>();
     const std::shared_ptr<acsi::ReportBlockTrace> trace = subscription->trace;
     const mms::Result<acsi::ReportBlock> enabled =
-        co_await acsi::enableReportBlock(client, block, settings, trace);
+        co_await acsi::enableReportBlock(changing, block, settings, trace);
     QString error;
     if (!enabled)
         error = text(enabled.error().message);
@@ -365,7 +403,8 @@ asio::awaitable<Outcome> ReportSubscriptions::start(SubscriptionPointer subscrip
     else if (!enabled->rptEna)
         error = Texts::tr("The device has not enabled %1 although it said so.").arg(text(block));
     if (!error.isEmpty()) {
-        co_return ended(subscription, attended, Result::Refused, settingsText(*before), {}, error);
+        co_return ended(subscription, change.get(), Result::Refused, settingsText(*before), {},
+                        error);
     }
     trace->changes.clear();
     m_leftEnabled.erase(subscription->reference);
@@ -376,7 +415,7 @@ asio::awaitable<Outcome> ReportSubscriptions::start(SubscriptionPointer subscrip
         newValue += QStringLiteral("; ") +
                     Texts::tr("without sequence numbers lost reports cannot be noticed");
     const Outcome outcome =
-        ended(subscription, attended, Result::Enabled, settingsText(*before), newValue, {});
+        ended(subscription, change.get(), Result::Enabled, settingsText(*before), newValue, {});
     started(subscription, *enabled);
     // What changed between the last polling and the first report is in no report.
     subscription->mending.need();
@@ -432,8 +471,20 @@ ReportSubscriptions::undone([[maybe_unused]] std::shared_ptr<DeviceConnection> c
                             [[maybe_unused]] Turn turn)
 {
     const std::shared_ptr<acsi::ReportBlockTrace> trace = subscription->trace;
-    const bool isUndone = co_await acsi::undoReportBlock(client, subscription->block, trace,
-                                                         steady_clock::now() + undoPatience);
+    QStringList attributes;
+    for (const acsi::ReportBlockTrace::Change &each : trace->changes)
+        attributes.append(text(each.attribute));
+    ChangeIntent intent;
+    intent.operation = QStringLiteral("enableReportBlock");
+    intent.reference = text(subscription->reference);
+    intent.oldValue = attributes.join(QStringLiteral(", "));
+    intent.kind = ChangeIntent::Kind::GivesBack;
+    const auto change = ChangeGate::own(m_connection, std::move(intent));
+    const auto changing = m_connection.client() == client ? change->client() : nullptr;
+    bool isUndone = false;
+    if (changing)
+        isUndone = co_await acsi::undoReportBlock(changing, subscription->block, trace,
+                                                  steady_clock::now() + undoPatience);
     if (!isUndone) {
         QStringList left;
         for (const acsi::ReportBlockTrace::Change &change : trace->changes) {
@@ -445,13 +496,15 @@ ReportSubscriptions::undone([[maybe_unused]] std::shared_ptr<DeviceConnection> c
             if (change.attribute == "RptEna")
                 m_leftEnabled.insert(subscription->reference);
         }
-        if (left.isEmpty())
-            co_return;
-        journal(*subscription, {}, {},
+        if (!left.isEmpty()) {
+            change->intend();
+            change->end(Outcome::failed(
                 Texts::tr("%1 could not be enabled, and this was left behind as it was written: "
                           "%2.")
-                    .arg(text(subscription->reference), left.join(QStringLiteral(", "))));
+                    .arg(text(subscription->reference), left.join(QStringLiteral(", ")))));
+        }
     }
+    change->end(Outcome());
 }
 
 asio::awaitable<std::vector<acsi::Reference>>
@@ -478,7 +531,7 @@ ReportSubscriptions::membersOf(ClientPointer client, acsi::Reference block, std:
     co_return members;
 }
 
-asio::awaitable<Outcome> ReportSubscriptions::disable(acsi::Reference block)
+asio::awaitable<Outcome> ReportSubscriptions::disable(ChangePointer change, acsi::Reference block)
 {
     const std::string reference = acsi::toText(block);
     bool wasWaiting = false;
@@ -515,8 +568,15 @@ asio::awaitable<Outcome> ReportSubscriptions::disable(acsi::Reference block)
             outcome =
                 Outcome::failed(Texts::tr("%1 It was left alone.").arg(holderText(block, holder)));
     }
+    change->setReference(text(attributeOf(block, "RptEna")));
+    change->setValues({}, isOthers && wasWaiting ? Texts::tr("no longer waited for")
+                                                 : QStringLiteral("false"));
+    change->intend();
     if (!isOthers) {
-        const mms::Result<void> disabled = co_await acsi::disableReportBlock(client, block);
+        const auto changing = change->client();
+        if (!changing)
+            co_return change->refusal();
+        const mms::Result<void> disabled = co_await acsi::disableReportBlock(changing, block);
         if (!disabled)
             outcome = Outcome::failed(disabled.error());
     }
@@ -534,13 +594,6 @@ asio::awaitable<Outcome> ReportSubscriptions::disable(acsi::Reference block)
         if (shown && !isOthers)
             shown->enabled = false;
     }
-    DeviceChange change;
-    change.operation = QStringLiteral("writeValue");
-    change.reference = text(attributeOf(block, "RptEna"));
-    change.newValue =
-        isOthers && outcome ? Texts::tr("no longer waited for") : QStringLiteral("false");
-    change.error = outcome.error;
-    m_connection.journal(std::move(change));
     co_return outcome;
 }
 
@@ -577,10 +630,10 @@ asio::awaitable<void> ReportSubscriptions::resume(SubscriptionPointer subscripti
         co_return;
     Outcome outcome;
     if (m_connection.isReadOnly()) {
-        outcome = ended(subscription, Attended::No, SubscriptionLife::Result::Held, {}, {},
+        outcome = ended(subscription, nullptr, SubscriptionLife::Result::Held, {}, {},
                         Texts::tr("the driver is read-only."));
     } else {
-        outcome = co_await start(subscription, Attended::No);
+        outcome = co_await start(subscription, nullptr);
         if (!outcome)
             undo(subscription, std::move(turn));
     }
@@ -612,14 +665,23 @@ void ReportSubscriptions::stop(Subscription &subscription)
     trust(subscription, false);
 }
 
-void ReportSubscriptions::journal(const Subscription &subscription, const QString &oldValue,
-                                  const QString &newValue, const QString &error) const
+ChangeIntent ReportSubscriptions::intentOf(const acsi::Reference &block, const char *attribute,
+                                           const char *value, ChangeIntent::Kind kind) const
 {
-    DeviceChange change;
-    change.operation = QStringLiteral("enableReportBlock");
-    change.reference = text(subscription.reference);
-    change.oldValue = oldValue;
-    change.newValue = newValue;
-    change.error = error;
-    m_connection.journal(std::move(change));
+    ChangeIntent intent;
+    intent.operation = QStringLiteral("writeValue");
+    intent.reference = text(attributeOf(block, attribute));
+    intent.newValue = QString::fromLatin1(value);
+    intent.kind = kind;
+    return intent;
+}
+
+void ReportSubscriptions::tellSeen(const Subscription &subscription, const QString &error) const
+{
+    DeviceChange seen;
+    seen.operation = QStringLiteral("enableReportBlock");
+    seen.reference = text(subscription.reference);
+    seen.error = error;
+    seen.isDriversOwn = true;
+    ChangeGate::tell(m_connection, std::move(seen));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "changegate.h"
 #include "deviceconnection.h"
 #include "driver/core/reportcoverage.h"
 #include "driver/core/reportstream.h"
@@ -41,10 +42,11 @@ public:
     /// Reserves the block, writes what differs from @p settings attribute by attribute, enables it
     /// and takes its reports. A block that somebody else has enabled is left alone. When that ends
     /// in the middle, what was done is undone, or journalled as left behind.
-    asio::awaitable<Outcome> enable(acsi::Reference block, acsi::ReportSettings settings);
+    asio::awaitable<Outcome> enable(ChangePointer change, acsi::Reference block,
+                                    acsi::ReportSettings settings);
     /// Disables the block and gives up its reservation, or ends the waiting for it. A block that
     /// another computer has enabled is left alone.
-    asio::awaitable<Outcome> disable(acsi::Reference block);
+    asio::awaitable<Outcome> disable(ChangePointer change, acsi::Reference block);
 
     /// That the operator has reserved a block, or given up its reservation.
     void setReserved(const acsi::Reference &block, bool reserved);
@@ -71,7 +73,6 @@ private:
     using ClientPointer = std::shared_ptr<acsi::Client>;
     /// The right to work on a block, until it is destroyed.
     using Turn = std::shared_ptr<void>;
-    enum class Attended { Yes, No };
     struct Mended;
 
     asio::awaitable<Turn> turn(std::string reference);
@@ -80,13 +81,16 @@ private:
     bool isCurrent(const SubscriptionPointer &subscription) const;
     ReportControlBlock *shownInModel(const acsi::Reference &block) const;
 
-    /// Enables the block of the subscription on the device.
-    asio::awaitable<Outcome> start(SubscriptionPointer subscription, Attended attended);
+    /// Enables the block of the subscription on the device; by itself without a change that an
+    /// operator has asked for.
+    asio::awaitable<Outcome> start(SubscriptionPointer subscription, ChangePointer asked);
+    ChangePointer ownChange(const Subscription &subscription);
     asio::awaitable<acsi::ReportSettings> prepare(SubscriptionPointer subscription,
                                                   ClientPointer client,
                                                   const acsi::ReportBlock &before);
     void started(const SubscriptionPointer &subscription, const acsi::ReportBlock &enabled);
-    Outcome ended(const SubscriptionPointer &subscription, Attended attended,
+    /// @param change null when nothing was to be written yet, and nobody has asked for it
+    Outcome ended(const SubscriptionPointer &subscription, Change *change,
                   SubscriptionLife::Result result, const QString &oldValue, const QString &newValue,
                   const QString &error);
     /// Undoes what stands in the trace of a subscription that was not enabled.
@@ -101,8 +105,10 @@ private:
     asio::awaitable<void> lookAtBlocks(ClientPointer client);
     asio::awaitable<void> lookAtHolders(ClientPointer client);
     void stop(Subscription &subscription);
-    void journal(const Subscription &subscription, const QString &oldValue, const QString &newValue,
-                 const QString &error) const;
+    ChangeIntent intentOf(const acsi::Reference &block, const char *attribute, const char *value,
+                          ChangeIntent::Kind kind) const;
+    /// Tells the journal what was seen of a block that nothing was written to.
+    void tellSeen(const Subscription &subscription, const QString &error) const;
 
     // What reports bring, in reporttaking.cpp:
     bool take(const mms::InformationReport &information);

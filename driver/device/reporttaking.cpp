@@ -523,11 +523,22 @@ ReportSubscriptions::readMembers(SubscriptionPointer subscription, ClientPointer
         mended.isRead = true;
         if (subscription->faults.empty())
             co_return mended;
-        const mms::Result<void> interrogated = co_await acsi::writeReportAttribute(
-            client, subscription->block, "GI", mms::Data::boolean(true));
-        if (!interrogated)
-            mended.disturbance = Texts::tr("The data set of %1 cannot be read: %2")
-                                     .arg(block, text(interrogated.error().message));
+        const auto change = ChangeGate::own(
+            m_connection, intentOf(subscription->block, "GI", "true", ChangeIntent::Kind::Wanted));
+        const auto changing = change->client();
+        Outcome outcome;
+        if (!changing) {
+            outcome = change->refusal();
+        } else {
+            const mms::Result<void> interrogated = co_await acsi::writeReportAttribute(
+                changing, subscription->block, "GI", mms::Data::boolean(true));
+            if (!interrogated)
+                outcome = Outcome::failed(interrogated.error());
+        }
+        change->end(outcome);
+        if (!outcome)
+            mended.disturbance =
+                Texts::tr("The data set of %1 cannot be read: %2").arg(block, outcome.error);
         co_return mended;
     }
     const std::uint64_t asked = subscription->reports;

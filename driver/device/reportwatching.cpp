@@ -151,7 +151,7 @@ asio::awaitable<void> ReportSubscriptions::lookAtBlocks(ClientPointer client)
         const QString sentence =
             Texts::tr("The device has disabled %1 by itself.").arg(text(watched[i]->block));
         m_connection.setProblem(text(watched[i]->reference), sentence);
-        journal(*watched[i], {}, {}, sentence);
+        tellSeen(*watched[i], sentence);
     }
     if (!client->isOpen())
         co_return;

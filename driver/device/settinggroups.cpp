@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "settinggroups.h"
 
+#include "changegate.h"
 #include "driver/text/connectiontext.h"
-#include "journalentry.h"
 #include "valuepublishing.h"
 
 #include <asio/co_spawn.hpp>
@@ -71,17 +71,23 @@ asio::awaitable<void> SettingGroups::release(QString ldName)
 {
     const std::uint32_t group = m_edits.value(ldName).group();
     m_edits[ldName].ended();
-    const std::shared_ptr<acsi::Client> client = m_connection.client();
-    if (group == 0 || !client || !m_connection.model())
+    if (group == 0 || !m_connection.model())
         co_return;
     const mms::Result<acsi::Reference> block = SettingModel::block(*m_connection.model(), ldName);
     if (!block)
         co_return;
-    JournalEntry entry(m_connection.shared_from_this(), QStringLiteral("selectEditSG"),
-                       text(SettingModel::attribute(*block, "EditSG")));
-    entry.setValues(QString::number(group), QStringLiteral("0"));
+    ChangeIntent intent;
+    intent.operation = QStringLiteral("selectEditSG");
+    intent.reference = text(SettingModel::attribute(*block, "EditSG"));
+    intent.oldValue = QString::number(group);
+    intent.newValue = QStringLiteral("0");
+    intent.kind = ChangeIntent::Kind::GivesBack;
+    const auto change = ChangeGate::own(m_connection, std::move(intent));
+    const auto client = change->client();
+    if (!client)
+        co_return;
     const acsi::SettingWrite given = co_await acsi::selectEditGroup(client, *block, 0);
-    entry.setOutcome(given ? Outcome() : Outcome::failed(given.error()));
+    change->end(given ? Outcome() : Outcome::failed(given.error()));
 }
 
 bool SettingGroups::enter(const acsi::Reference &block, std::uint32_t numOfSG, std::uint32_t actSG)

@@ -4,7 +4,6 @@
 #include "driver/model/valueconversion.h"
 #include "driver/text/connectiontext.h"
 #include "driver/text/sentences.h"
-#include "journalentry.h"
 #include "settinggroups.h"
 #include "valuepublishing.h"
 
@@ -18,7 +17,6 @@
 
 using acsi::FunctionalConstraint;
 using ConnectionText::withoutPeriod;
-using SettingValues::Change;
 
 namespace {
 
@@ -71,7 +69,7 @@ bool isUnchanged(const QVariant &shown, const QVariant &wanted)
 
 /// What became of writes without an answer, as far as the device tells when it is asked.
 asio::awaitable<void> readBack(std::shared_ptr<DeviceConnection> device,
-                               const std::vector<Change> &values,
+                               const std::vector<SettingValues::Value> &values,
                                std::vector<acsi::SettingWrite> &written)
 {
     std::vector<std::size_t> places;
@@ -180,7 +178,7 @@ mms::Result<acsi::Reference> SettingValues::reference(const QString &ldName, con
     return acsi::parseReference(ldName.toStdString(), name.toStdString());
 }
 
-mms::Result<std::vector<SettingValues::Change>>
+mms::Result<std::vector<SettingValues::Value>>
 SettingValues::changes(const OnlineModel &model, const QString &ldName,
                        const QList<SGCBValue> &values, const std::vector<Setting> &known)
 {
@@ -190,7 +188,7 @@ SettingValues::changes(const OnlineModel &model, const QString &ldName,
     QHash<QString, const Setting *> byReference;
     for (const Setting &setting : known)
         byReference.insert(setting.reference, &setting);
-    std::vector<Change> result;
+    std::vector<Value> result;
     for (const SGCBValue &value : values) {
         mms::Result<acsi::Reference> found = SettingValues::reference(ldName, value.name);
         if (!found)
@@ -220,22 +218,23 @@ SettingValues::changes(const OnlineModel &model, const QString &ldName,
     return result;
 }
 
-asio::awaitable<Outcome> SettingValues::write(std::shared_ptr<DeviceConnection> device,
-                                              const std::vector<Change> &values)
+asio::awaitable<Outcome> SettingValues::write(ChangePointer change,
+                                              const std::vector<Value> &values)
 {
-    std::vector<std::unique_ptr<JournalEntry>> entries;
+    const auto client = change->client();
+    if (!client)
+        co_return change->refusal();
+    std::vector<std::unique_ptr<ChangeRecord>> records;
     std::vector<mms::VariableAccess> variables;
     std::vector<mms::Data> data;
-    for (const Change &value : values) {
-        entries.push_back(std::make_unique<JournalEntry>(device, QStringLiteral("setSGCBValues"),
-                                                         text(value.reference)));
-        entries.back()->setValues(value.oldText, value.newText);
+    for (const Value &value : values) {
+        records.push_back(change->part(text(value.reference), value.oldText, value.newText));
         variables.push_back(acsi::accessOf(value.reference));
         data.push_back(value.data);
     }
     std::vector<acsi::SettingWrite> written =
-        co_await acsi::writeSettings(device->client(), std::move(variables), std::move(data));
-    co_await readBack(device, values, written);
+        co_await acsi::writeSettings(client, std::move(variables), std::move(data));
+    co_await readBack(change->device(), values, written);
     QStringList refusals;
     int count = 0;
     for (std::size_t i = 0; i < values.size(); ++i) {
@@ -248,7 +247,10 @@ asio::awaitable<Outcome> SettingValues::write(std::shared_ptr<DeviceConnection> 
         } else if (!write) {
             outcome = Outcome::failed(text(write.message));
         }
-        entries[i]->setOutcome(outcome);
+        if (write.isUnknown())
+            records[i]->giveUp(outcome.error);
+        else
+            records[i]->end(outcome);
         if (outcome)
             continue;
         if (++count <= namedRefusals)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "deviceconnection.h"
+#include "changegate.h"
 
 #include "acsi/settinggroup.h"
 
@@ -38,7 +38,7 @@ QVariant shown(const OnlineModel &model, const Setting &setting);
 mms::Result<acsi::Reference> reference(const QString &ldName, const QString &name);
 
 /// A setting that is to be written.
-struct Change
+struct Value
 {
     acsi::Reference reference; ///< under SE
     mms::Data data;
@@ -47,12 +47,11 @@ struct Change
 };
 
 /// What the tool wants to be otherwise in the group; the error names a setting that cannot be that.
-mms::Result<std::vector<Change>> changes(const OnlineModel &model, const QString &ldName,
-                                         const QList<SGCBValue> &values,
-                                         const std::vector<Setting> &known);
+mms::Result<std::vector<Value>> changes(const OnlineModel &model, const QString &ldName,
+                                        const QList<SGCBValue> &values,
+                                        const std::vector<Setting> &known);
 
 /// Writes the values and journals each; one sentence names those that were refused.
-asio::awaitable<Outcome> write(std::shared_ptr<DeviceConnection> device,
-                               const std::vector<Change> &changes);
+asio::awaitable<Outcome> write(ChangePointer change, const std::vector<Value> &values);
 
 } // namespace SettingValues

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "driver/core/controlorder.h"
+#include "driver/device/changegate.h"
 #include "driver/device/controlpart.h"
-#include "driver/device/journalentry.h"
 #include "driver/device/valuepublishing.h"
 #include "driver/model/valueconversion.h"
 #include "driver/text/sentences.h"
@@ -55,12 +55,6 @@ bool isUnknown(acsi::ControlOutcome outcome)
     return outcome == acsi::ControlOutcome::Unknown || outcome == acsi::ControlOutcome::Accepted;
 }
 
-QString readOnlySentence(const DeviceConnection &device)
-{
-    return Texts::tr("The driver is read-only: nothing on %1 was changed.")
-        .arg(device.configuration().title());
-}
-
 /// The attribute that shows the position.
 QString positionOf(const OnlineModel &model, const acsi::Reference &status)
 {
@@ -82,7 +76,6 @@ struct Request
     QString name;
     ControlBlock block;
     ControlState::Caller caller = 0;
-    std::atomic<bool> begun{false};      ///< the journal knows of it
     std::atomic<bool> isOnTheWay{false}; ///< sent, and its outcome is not known yet
     /// Read shortly before, for the time that the operation may take.
     std::shared_ptr<acsi::ControlObject> control;
@@ -94,8 +87,9 @@ using RequestPointer = std::shared_ptr<Request>;
 class Control
 {
 public:
-    Control(DevicePointer device, RequestPointer request, acsi::Reference reference)
-        : m_device(std::move(device))
+    Control(ChangePointer change, RequestPointer request, acsi::Reference reference)
+        : m_change(std::move(change))
+        , m_device(m_change->device())
         , m_request(std::move(request))
         , m_service(m_request->service)
         , m_reference(std::move(reference))
@@ -108,10 +102,10 @@ public:
     {
     }
 
-    asio::awaitable<acsi::ControlResult> run(JournalEntry &entry)
+    asio::awaitable<acsi::ControlResult> run()
     {
         m_before = knownPosition();
-        entry.setValues(m_before, ControlOrder::text(m_block));
+        m_change->setValues(m_before, ControlOrder::text(m_block));
         // An empty record must not reach a breaker, so it is looked at before the device.
         if (const QString refusal = beforehand(); !refusal.isEmpty())
             co_return failed(refusal);
@@ -123,7 +117,7 @@ public:
             if (!looked)
                 co_return acsi::ControlResult{false, looked.error().message, {}};
             m_before = co_await readPosition();
-            entry.setValues(m_before, ControlOrder::text(m_block));
+            m_change->setValues(m_before, ControlOrder::text(m_block));
             if (m_device->client() != m_client)
                 co_return failed(m_device->notConnectedSentence());
             if (const QString refusal = afterwards(); !refusal.isEmpty())
@@ -132,13 +126,13 @@ public:
         acsi::ControlResult result;
         switch (m_service) {
         case Service::Select:
-            result = co_await select(entry);
+            result = co_await select();
             break;
         case Service::Operate:
-            result = co_await operate(entry);
+            result = co_await operate();
             break;
         case Service::Cancel:
-            result = co_await cancel(entry);
+            result = co_await cancel();
             break;
         }
         m_request->isOnTheWay = false;
@@ -150,7 +144,7 @@ public:
         } else if (!m_state.isInDoubt()) {
             m_part.setProblem(m_name, QString());
         }
-        entry.setValues(m_before, sent());
+        m_change->setValues(m_before, sent());
         co_return result;
     }
 
@@ -167,22 +161,26 @@ public:
     }
 
 private:
+    /// Who must change nothing may still stop what runs.
+    Change::Kind kind() const
+    {
+        const bool stops = m_service == Service::Cancel && m_state.isRunning();
+        return stops ? Change::Kind::GivesBack : Change::Kind::Wanted;
+    }
+
     /// Why nothing is to be asked of the device at all; empty when there is no reason.
     QString beforehand() const
     {
+        if (const Outcome permission = m_change->permission(kind()); !permission)
+            return permission.error;
         const auto now = steady_clock::now();
         const auto valid = ControlOrder::toRequest(m_block, originator(), 0);
         const auto model = static_cast<ControlModel>(m_block.controlModel);
         if (m_service == Service::Cancel) {
-            // Who must change nothing may still stop what runs.
-            if (m_device->isReadOnly() && !m_state.isRunning())
-                return readOnlySentence(*m_device);
             if (m_state.cancellable(now))
                 return {};
             if (model == ControlModel::SelectEnhanced)
                 return Texts::tr("Select the object first");
-        } else if (m_device->isReadOnly()) {
-            return readOnlySentence(*m_device);
         }
         if (m_service == Service::Operate && model == ControlModel::SelectEnhanced) {
             if (const QString why = obstacle(m_state.obstacle(m_block, m_request->caller, now));
@@ -287,22 +285,31 @@ private:
         return {block, *ControlOrder::toRequest(block, originator(), ctlNum), m_request->caller};
     }
 
-    /// From now on nobody knows what becomes of it until the device has said so.
-    void goes(JournalEntry &entry)
+    /// The right to send it; null when there is none. From now on nobody knows what becomes of it
+    /// until the device has said so.
+    std::shared_ptr<acsi::ChangingClient> goes()
     {
-        entry.setValues(m_before, sent());
-        entry.setOutcome(Outcome::failed(Controls::unknownSentence(m_service)));
+        auto client = m_change->client(kind());
+        if (!client)
+            return nullptr;
+        m_change->setValues(m_before, sent());
+        m_change->setUnknown(Controls::unknownSentence(m_service));
         m_request->isOnTheWay = true;
+        return client;
     }
 
-    asio::awaitable<acsi::ControlResult> select(JournalEntry &entry)
+    acsi::ControlResult refusal() const { return failed(m_change->refusal().error); }
+
+    asio::awaitable<acsi::ControlResult> select()
     {
+        const auto client = goes();
+        if (!client)
+            co_return refusal();
         const auto control = m_object.control;
         const ControlState::Command command = this->command(m_block, m_state.newNumber());
         const std::uint8_t number = command.request.ctlNum;
         m_state.selectSent(command);
-        goes(entry);
-        const acsi::ControlResult result = co_await control->select(command.request);
+        const acsi::ControlResult result = co_await control->select(client, command.request);
         if (m_device->client() != m_client)
             co_return result;
         if (result)
@@ -315,7 +322,7 @@ private:
         co_return result;
     }
 
-    asio::awaitable<acsi::ControlResult> operate(JournalEntry &entry)
+    asio::awaitable<acsi::ControlResult> operate()
     {
         const auto control = m_object.control;
         const ControlState::Command *selection = m_state.selection(steady_clock::now());
@@ -334,11 +341,13 @@ private:
         }
         const std::uint8_t number = command.request.ctlNum;
         const bool terminates = isEnhanced(static_cast<quint8>(control->model()));
+        const auto client = goes();
+        if (!client)
+            co_return refusal();
         m_state.operateSent(command);
-        goes(entry);
         Given given(*this, number);
         const acsi::ControlResult result = co_await control->operate(
-            command.request, ControlOrder::terminationPatience(control->operateTimeout()));
+            client, command.request, ControlOrder::terminationPatience(control->operateTimeout()));
         given.isOver = true;
         if (m_device->client() != m_client)
             co_return result;
@@ -371,7 +380,7 @@ private:
         co_return result;
     }
 
-    asio::awaitable<acsi::ControlResult> cancel(JournalEntry &entry)
+    asio::awaitable<acsi::ControlResult> cancel()
     {
         const auto control = m_object.control;
         const auto now = steady_clock::now();
@@ -392,8 +401,10 @@ private:
         m_block = command.block;
         // No Cancel has a place for them.
         m_block.check = 0;
-        goes(entry);
-        const acsi::ControlResult result = co_await control->cancel(command.request);
+        const auto client = goes();
+        if (!client)
+            co_return refusal();
+        const acsi::ControlResult result = co_await control->cancel(client, command.request);
         if (result && m_device->client() == m_client)
             m_state.cancelled(command.request.ctlNum);
         co_return result;
@@ -433,6 +444,7 @@ private:
         return isReadOfSelection ? QString() : ControlOrder::text(m_block);
     }
 
+    ChangePointer m_change;
     DevicePointer m_device;
     RequestPointer m_request;
     Service m_service;
@@ -446,54 +458,65 @@ private:
     ControlState &m_state;
 };
 
-asio::awaitable<Outcome> prepare(DevicePointer device, RequestPointer request)
+asio::awaitable<Outcome> prepare(ChangePointer change, RequestPointer request)
 {
     const mms::Result<acsi::Reference> reference =
         acsi::parseReference(request->ldName.toStdString(), request->name.toStdString());
     if (!reference)
         co_return Outcome();
-    Control order(device, request, *reference);
+    Control order(change, request, *reference);
     co_await order.prepare();
     co_return Outcome();
 }
 
-asio::awaitable<Outcome> control(DevicePointer device, RequestPointer request)
+asio::awaitable<Outcome> control(ChangePointer change, RequestPointer request)
 {
     const mms::Result<acsi::Reference> reference =
         acsi::parseReference(request->ldName.toStdString(), request->name.toStdString());
     if (!reference)
         co_return Outcome::failed(reference.error());
+    change->setReference(text(acsi::toText(*reference)));
     acsi::ControlResult result;
-    Outcome outcome;
     {
-        JournalEntry entry(device, Controls::operationName(request->service),
-                           text(acsi::toText(*reference)));
-        request->begun = true;
-        Control order(device, request, *reference);
-        result = co_await order.run(entry);
-        if (!result)
-            outcome = Outcome::failed(text(result.message));
-        entry.setOutcome(outcome);
-        if (result.applError)
-            entry.setAdditionalCause(text(acsi::additionalCauseText(result.applError->addCause)));
+        Control order(change, request, *reference);
+        result = co_await order.run();
     }
+    const Outcome outcome = result ? Outcome() : Outcome::failed(text(result.message));
+    if (result.applError)
+        change->setAdditionalCause(text(acsi::additionalCauseText(result.applError->addCause)));
+    if (isUnknown(result.outcome))
+        change->giveUp(outcome.error);
+    else
+        change->end(outcome);
     // What the command came to is shown, but nobody waits for that.
     if (result.outcome != acsi::ControlOutcome::NotSent)
-        Controls::showStatus(device, *reference);
+        Controls::showStatus(change->device(), *reference);
     co_return outcome;
 }
 
-/// A command that was refused before it became an operation on the device is a try as well.
-void journalTry(const DevicePointer &device, const Request &request, const QString &error)
+ChangeIntent intentOf(const Request &request)
 {
-    if (!device)
-        return;
-    DeviceChange change;
-    change.operation = Controls::operationName(request.service);
-    change.reference = request.ldName + QLatin1Char('/') + request.name;
-    change.newValue = ControlOrder::text(request.block);
-    change.error = error;
-    asio::post(device->strand(), [device, change] { device->journal(change); });
+    ChangeIntent intent;
+    intent.operation = Controls::operationName(request.service);
+    intent.reference = request.ldName + QLatin1Char('/') + request.name;
+    intent.newValue = ControlOrder::text(request.block);
+    // A cancel of what runs is never forbidden; the rest is decided where it is known what runs.
+    if (request.service == Service::Cancel)
+        intent.kind = ChangeIntent::Kind::GivesBack;
+    intent.tellsTries = true;
+    return intent;
+}
+
+/// What is wrong with the request itself; empty when nothing is.
+QString fault(const Request &request, const std::optional<ControlBlock> &block)
+{
+    if (!block)
+        return Texts::tr("The control request cannot be read.");
+    if (!block->objectReference.isEmpty() && block->objectReference != request.name) {
+        return Texts::tr("The control request is for %1, not for %2.")
+            .arg(block->objectReference, request.name);
+    }
+    return {};
 }
 
 template <typename Runtime>
@@ -505,45 +528,37 @@ OperationResult perform(Runtime &runtime, Service service, long deviceNo, const 
     request->ldName = ldName;
     request->name = name;
     request->caller = ControllerCaller::current();
-    const auto device = runtime.connection(deviceNo);
     const std::optional<ControlBlock> block = ControlOrder::read(controlBlock);
-    if (!block) {
-        error = Texts::tr("The control request cannot be read.");
-        journalTry(device, *request, error);
-        return OperationFailed;
-    }
-    request->block = *block;
-    if (!block->objectReference.isEmpty() && block->objectReference != name) {
-        error = Texts::tr("The control request is for %1, not for %2.")
-                    .arg(block->objectReference, name);
-        journalTry(device, *request, error);
-        return OperationFailed;
-    }
+    if (block)
+        request->block = *block;
+    Outcome refusal;
+    if (const QString sentence = fault(*request, block); !sentence.isEmpty())
+        refusal = Outcome::failed(sentence);
+    const ChangePointer change = runtime.announce(deviceNo, intentOf(*request), refusal);
+    error = refusal.error;
+    if (!change)
+        return refusal.result;
 
-    using Effect = typename Runtime::Effect;
-    // A cancel of what runs is never forbidden; the rest is decided where it is known what runs.
-    const Effect effect = service == Service::Cancel ? Effect::Reads : Effect::Changes;
     const bool waits = service == Service::Operate && isEnhanced(block->controlModel);
     OperationResult result = OperationSucceeded;
     if (waits) {
-        result = runtime.run(deviceNo, effect, error, [request](DevicePointer connection) {
-            return prepare(std::move(connection), request);
+        result = runtime.run(deviceNo, error, [change, request](const DevicePointer &) {
+            return prepare(change, request);
         });
     }
-    if (result == OperationSucceeded) {
-        milliseconds limit = milliseconds::zero();
-        if (device && waits)
-            limit = device->configuration().operationTimeout +
-                    std::max(request->termination, ControlOrder::terminationPatience({})) +
-                    callMargin;
-        result =
-            runtime.runWithin(limit, deviceNo, effect, error, [request](DevicePointer connection) {
-                return control(std::move(connection), request);
-            });
+    if (result != OperationSucceeded) {
+        ChangeGate::withdraw(change, {result, error});
+        return result;
     }
-    if (result != OperationSucceeded && !request->begun)
-        journalTry(device, *request, error);
-    else if (result != OperationSucceeded && request->isOnTheWay)
+    milliseconds limit = Runtime::usualLimit;
+    if (waits)
+        limit = change->device()->configuration().operationTimeout +
+                std::max(request->termination, ControlOrder::terminationPatience({})) + callMargin;
+    result = runtime.carryOut(
+        deviceNo, change, error,
+        [request](ChangePointer permitted) { return control(std::move(permitted), request); },
+        Runtime::Need::Model, limit);
+    if (result != OperationSucceeded && request->isOnTheWay)
         error += QLatin1Char(' ') + Controls::unknownSentence(service);
     return result;
 }

@@ -250,15 +250,12 @@ void removeDataSet(OnlineModel &model, const QString &ldName, const mms::ObjectN
     }
 }
 
-void tell(DeviceConnection &device, const QString &operation, const QString &reference,
-          const QString &members, const Outcome &outcome)
+ChangeIntent intentOf(const char *operation, const QString &ldName, const QString &reference)
 {
-    DeviceChange change;
-    change.operation = operation;
-    change.reference = reference;
-    change.newValue = members;
-    change.error = outcome.error;
-    device.journal(std::move(change));
+    ChangeIntent intent;
+    intent.operation = QString::fromLatin1(operation);
+    intent.reference = ldName.isEmpty() ? reference : ldName + QLatin1Char('/') + reference;
+    return intent;
 }
 
 /// Why a data set cannot be made under that name; empty when it can.
@@ -274,7 +271,7 @@ QString faultOfName(const mms::ObjectName &name)
         .arg(longestName);
 }
 
-asio::awaitable<Outcome> makeDataSet(DevicePointer device, QString ldName, QString reference,
+asio::awaitable<Outcome> makeDataSet(ChangePointer change, QString ldName, QString reference,
                                      QString members, bool isOfAssociation)
 {
     const mms::Result<mms::ObjectName> name =
@@ -304,17 +301,21 @@ asio::awaitable<Outcome> makeDataSet(DevicePointer device, QString ldName, QStri
     }
     if (variables.empty())
         co_return Outcome::failed(Texts::tr("A data set needs at least one member."));
+    change->setReference(text(mms::toText(*name)));
+    change->setValues(QString(), full.join(QLatin1Char(';')));
+    const auto client = change->client();
+    if (!client)
+        co_return change->refusal();
     const mms::Result<void> made =
-        co_await acsi::createDataSet(device->client(), *name, std::move(variables));
-    const Outcome outcome = made ? Outcome() : Outcome::failed(made.error());
-    if (outcome && device->model())
-        enterDataSet(*device->model(), ldName, *name, full);
-    tell(*device, QStringLiteral("createDataSet"), text(mms::toText(*name)),
-         full.join(QLatin1Char(';')), outcome);
-    co_return outcome;
+        co_await acsi::createDataSet(client, *name, std::move(variables));
+    if (!made)
+        co_return Outcome::failed(made.error());
+    if (OnlineModel *const model = change->device()->model())
+        enterDataSet(*model, ldName, *name, full);
+    co_return Outcome();
 }
 
-asio::awaitable<Outcome> dropDataSet(DevicePointer device, QString ldName, QString reference)
+asio::awaitable<Outcome> dropDataSet(ChangePointer change, QString ldName, QString reference)
 {
     // A name with a part for a logical node, whatever stands between the two, is not one of the
     // association.
@@ -324,12 +325,16 @@ asio::awaitable<Outcome> dropDataSet(DevicePointer device, QString ldName, QStri
         acsi::dataSetName(ldName.toStdString(), wireName(reference, isBare).toStdString());
     if (!name)
         co_return Outcome::failed(name.error());
-    const mms::Result<void> deleted = co_await acsi::deleteDataSet(device->client(), *name);
-    const Outcome outcome = deleted ? Outcome() : Outcome::failed(deleted.error());
-    if (outcome && device->model())
-        removeDataSet(*device->model(), ldName, *name);
-    tell(*device, QStringLiteral("deleteDataSet"), text(mms::toText(*name)), QString(), outcome);
-    co_return outcome;
+    change->setReference(text(mms::toText(*name)));
+    const auto client = change->client();
+    if (!client)
+        co_return change->refusal();
+    const mms::Result<void> deleted = co_await acsi::deleteDataSet(client, *name);
+    if (!deleted)
+        co_return Outcome::failed(deleted.error());
+    if (OnlineModel *const model = change->device()->model())
+        removeDataSet(*model, ldName, *name);
+    co_return Outcome();
 }
 
 /// The list when the operation was a success.
@@ -347,7 +352,7 @@ OperationResult IedDriver::getServerDirectory(long deviceNo, QList<NameVaildValu
 {
     const auto entries = std::make_shared<QList<NameVaildValue>>();
     return given(m_runtime->run(
-                     deviceNo, Runtime::Effect::Reads, error,
+                     deviceNo, error,
                      [entries](DevicePointer device) {
                          return listNames(std::move(device), entries, mms::ObjectClass::Domain,
                                           mms::Scope::Vmd, QString());
@@ -361,7 +366,7 @@ OperationResult IedDriver::getLogicalDeviceDirectory(long deviceNo, const QStrin
 {
     const auto entries = std::make_shared<QList<NameVaildValue>>();
     return given(m_runtime->run(
-                     deviceNo, Runtime::Effect::Reads, error,
+                     deviceNo, error,
                      [entries, ldName](DevicePointer device) {
                          return listNames(std::move(device), entries,
                                           mms::ObjectClass::NamedVariable, mms::Scope::Domain,
@@ -377,7 +382,7 @@ OperationResult IedDriver::getLogicalNodeDirectory(long deviceNo, const QString 
 {
     const auto entries = std::make_shared<QList<NameVaildValue>>();
     return given(m_runtime->run(
-                     deviceNo, Runtime::Effect::Reads, error,
+                     deviceNo, error,
                      [entries, ldName, lnName](DevicePointer device) {
                          return listNode(std::move(device), entries, ldName, lnName);
                      },
@@ -396,7 +401,7 @@ OperationResult IedDriver::getDataDirectory(long deviceNo, const QString &ldName
         return OperationFailed;
     }
     return given(m_runtime->run(
-                     deviceNo, Runtime::Effect::Reads, error,
+                     deviceNo, error,
                      [entries, ldName, references](DevicePointer device) {
                          return listData(std::move(device), entries, ldName, references);
                      },
@@ -409,7 +414,7 @@ OperationResult IedDriver::getDataSetList(long deviceNo, const QString &ldName,
 {
     const auto entries = std::make_shared<QList<NameVaildValue>>();
     return given(m_runtime->run(
-                     deviceNo, Runtime::Effect::Reads, error,
+                     deviceNo, error,
                      [entries, ldName](DevicePointer device) {
                          return listNames(std::move(device), entries,
                                           mms::ObjectClass::NamedVariableList, mms::Scope::Domain,
@@ -425,7 +430,7 @@ OperationResult IedDriver::getDataSetDirectory(long deviceNo, const QString &ldN
 {
     const auto entries = std::make_shared<QList<NameVaildValue>>();
     return given(m_runtime->run(
-                     deviceNo, Runtime::Effect::Reads, error,
+                     deviceNo, error,
                      [entries, ldName, dataSetReference](DevicePointer device) {
                          return listDataSet(std::move(device), entries, ldName, dataSetReference);
                      },
@@ -438,7 +443,7 @@ OperationResult IedDriver::getXRCB(long deviceNo, const QString &ldName, const Q
 {
     const auto entries = std::make_shared<QList<NameVaildValue>>();
     return given(m_runtime->run(
-                     deviceNo, Runtime::Effect::Reads, error,
+                     deviceNo, error,
                      [entries, ldName, lnName, kind](DevicePointer device) {
                          return listBlocks(std::move(device), entries, ldName, lnName, kind);
                      },
@@ -450,7 +455,7 @@ OperationResult IedDriver::getSGCBBlock(long deviceNo, const QString &ldName,
                                         QList<NameVaildValue> &list, QString &error)
 {
     const auto entries = std::make_shared<QList<NameVaildValue>>();
-    return given(m_runtime->run(deviceNo, Runtime::Effect::Reads, error,
+    return given(m_runtime->run(deviceNo, error,
                                 [entries, ldName](DevicePointer device) {
                                     return listSettingGroups(std::move(device), entries, ldName);
                                 }),
@@ -461,10 +466,10 @@ OperationResult IedDriver::createDataSet(long deviceNo, const QString &ldName,
                                          const QString &dataSetReference, const QString &members,
                                          int nonPersistent, QString &error)
 {
-    return m_runtime->run(
-        deviceNo, Runtime::Effect::Changes, error,
-        [ldName, dataSetReference, members, nonPersistent](DevicePointer device) {
-            return makeDataSet(std::move(device), ldName, dataSetReference, members,
+    return m_runtime->change(
+        deviceNo, intentOf("createDataSet", ldName, dataSetReference), error,
+        [ldName, dataSetReference, members, nonPersistent](ChangePointer change) {
+            return makeDataSet(std::move(change), ldName, dataSetReference, members,
                                nonPersistent != 0);
         },
         Need::Association);
@@ -473,10 +478,10 @@ OperationResult IedDriver::createDataSet(long deviceNo, const QString &ldName,
 OperationResult IedDriver::deleteDataSet(long deviceNo, const QString &ldName,
                                          const QString &dataSetReference, QString &error)
 {
-    return m_runtime->run(
-        deviceNo, Runtime::Effect::Changes, error,
-        [ldName, dataSetReference](DevicePointer device) {
-            return dropDataSet(std::move(device), ldName, dataSetReference);
+    return m_runtime->change(
+        deviceNo, intentOf("deleteDataSet", ldName, dataSetReference), error,
+        [ldName, dataSetReference](ChangePointer change) {
+            return dropDataSet(std::move(change), ldName, dataSetReference);
         },
         Need::Association);
 }

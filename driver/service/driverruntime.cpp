@@ -265,40 +265,69 @@ std::optional<DeviceIdentity> IedDriver::Runtime::boundTo(long deviceNo) const
     return found->second;
 }
 
-OperationResult IedDriver::Runtime::run(long deviceNo, Effect effect, QString &error,
-                                        DeviceConnection::Operation operation,
-                                        DeviceConnection::Need need)
+OperationResult IedDriver::Runtime::withoutConnection(long deviceNo, QString &error) const
 {
-    return runWithin(milliseconds::zero(), deviceNo, effect, error, std::move(operation), need);
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const bool isKnown = m_offlineNumbers.count(deviceNo) != 0;
+    error = isKnown ? Texts::tr("Not connected to the device")
+                    : Texts::tr("There is no device %1 on this driver.").arg(deviceNo);
+    return isKnown ? OperationNotConnected : OperationFailed;
 }
 
-OperationResult IedDriver::Runtime::runWithin(milliseconds limit, long deviceNo, Effect effect,
-                                              QString &error, DeviceConnection::Operation operation,
-                                              DeviceConnection::Need need)
+OperationResult IedDriver::Runtime::run(long deviceNo, QString &error,
+                                        DeviceConnection::Operation operation,
+                                        DeviceConnection::Need need, milliseconds limit)
 {
     const auto device = connection(deviceNo);
-    if (!device) {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        const bool isKnown = m_offlineNumbers.count(deviceNo) != 0;
-        error = isKnown ? Texts::tr("Not connected to the device")
-                        : Texts::tr("There is no device %1 on this driver.").arg(deviceNo);
-        return isKnown ? OperationNotConnected : OperationFailed;
-    }
-    if (effect == Effect::Changes && m_readOnly) {
-        error = Texts::tr("The driver is read-only: nothing on %1 was changed.")
-                    .arg(device->configuration().title());
-        return OperationFailed;
-    }
-    const std::optional<DeviceIdentity> bound = boundTo(deviceNo);
-    if (effect == Effect::Changes && bound) {
-        operation = onlyOn(*bound, std::move(operation));
-        need = Need::Model;
-    }
-    Outcome outcome = limit == milliseconds::zero()
-                          ? device->perform(need, std::move(operation))
-                          : device->perform(need, limit, std::move(operation));
+    return device ? run(device, error, std::move(operation), need, limit)
+                  : withoutConnection(deviceNo, error);
+}
+
+OperationResult IedDriver::Runtime::run(const std::shared_ptr<DeviceConnection> &device,
+                                        QString &error, DeviceConnection::Operation operation,
+                                        DeviceConnection::Need need, milliseconds limit)
+{
+    Outcome outcome = limit == usualLimit ? device->perform(need, std::move(operation))
+                                          : device->perform(need, limit, std::move(operation));
     error = outcome.error;
     return outcome.result;
+}
+
+OperationResult IedDriver::Runtime::change(long deviceNo, ChangeIntent intent, QString &error,
+                                           ChangeGate::Work work, DeviceConnection::Need need,
+                                           milliseconds limit)
+{
+    Outcome refusal;
+    const ChangePointer change = announce(deviceNo, std::move(intent), refusal);
+    error = refusal.error;
+    return change ? carryOut(deviceNo, change, error, std::move(work), need, limit)
+                  : refusal.result;
+}
+
+ChangePointer IedDriver::Runtime::announce(long deviceNo, ChangeIntent intent, Outcome &refusal)
+{
+    if (const auto device = connection(deviceNo))
+        return ChangeGate::announce(device, std::move(intent), refusal);
+    if (refusal)
+        refusal.result = withoutConnection(deviceNo, refusal.error);
+    return nullptr;
+}
+
+OperationResult IedDriver::Runtime::carryOut(long deviceNo, const ChangePointer &change,
+                                             QString &error, ChangeGate::Work work,
+                                             DeviceConnection::Need need, milliseconds limit)
+{
+    DeviceConnection::Operation operation =
+        [change, work = std::move(work)](const std::shared_ptr<DeviceConnection> &) {
+            return ChangeGate::carryOut(change, work);
+        };
+    if (const std::optional<DeviceIdentity> bound = boundTo(deviceNo)) {
+        operation = onlyOn(*bound, std::move(operation));
+        need = DeviceConnection::Need::Model;
+    }
+    const OperationResult result = run(change->device(), error, std::move(operation), need, limit);
+    ChangeGate::withdraw(change, {result, error});
+    return result;
 }
 
 QString IedDriver::Runtime::claim(Holder holder, const QStringList &logicalDevices)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "driver/administration/driverobservers.h"
+#include "driver/device/changegate.h"
 #include "driver/device/deviceconnection.h"
 #include "driver/device/livevalues.h"
 #include "ieddriver.h"
@@ -27,7 +28,6 @@
 class IedDriver::Runtime
 {
 public:
-    enum class Effect { Reads, Changes };
     using Need = DeviceConnection::Need;
 
     explicit Runtime(IedDriverOptions options);
@@ -51,18 +51,31 @@ public:
     /// and no other that answers in its place.
     void bindCaller(long deviceNo, const DeviceIdentity &identity);
 
-    /// Runs an operation on the device: refused when it changes something and the driver is
-    /// read-only or another device than the one that the caller was bound to has answered, or when
-    /// the device has no address. Fills @p error. Ends at the latest after the device's operation
-    /// time-out.
-    OperationResult run(long deviceNo, Effect effect, QString &error,
-                        DeviceConnection::Operation operation, Need need = Need::Model);
-    /// The same with a limit of its own.
-    OperationResult runWithin(std::chrono::milliseconds limit, long deviceNo, Effect effect,
-                              QString &error, DeviceConnection::Operation operation,
-                              Need need = Need::Model);
+    /// Of an operation that ends at the latest after the device's operation time-out.
+    static constexpr std::chrono::milliseconds usualLimit{0};
+
+    /// Runs an operation that leaves the device as it is; refused when the device has no address.
+    /// Fills @p error.
+    OperationResult run(long deviceNo, QString &error, DeviceConnection::Operation operation,
+                        Need need = Need::Model, std::chrono::milliseconds limit = usualLimit);
+    /// Runs an operation that changes something on the device; refused also by the device's gate,
+    /// and when another device than the one that the caller was bound to has answered.
+    OperationResult change(long deviceNo, ChangeIntent intent, QString &error,
+                           ChangeGate::Work work, Need need = Need::Model,
+                           std::chrono::milliseconds limit = usualLimit);
+    /// A change that is going to be carried out; null with the reason in @p refusal. Refused as
+    /// well, with the journal told, when @p refusal has a reason already.
+    ChangePointer announce(long deviceNo, ChangeIntent intent, Outcome &refusal);
+    /// Carries out a change that was announced.
+    OperationResult carryOut(long deviceNo, const ChangePointer &change, QString &error,
+                             ChangeGate::Work work, Need need = Need::Model,
+                             std::chrono::milliseconds limit = usualLimit);
 
 private:
+    OperationResult run(const std::shared_ptr<DeviceConnection> &device, QString &error,
+                        DeviceConnection::Operation operation, Need need,
+                        std::chrono::milliseconds limit);
+    OperationResult withoutConnection(long deviceNo, QString &error) const;
     /// Who holds the names of logical devices: a connection, since the one that replaces it under
     /// the same number may claim them before it has let go.
     struct Holder

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "driver/core/filenames.h"
-#include "driver/device/journalentry.h"
 #include "driver/device/transferpace.h"
 #include "driver/text/sentences.h"
 #include "driverruntime.h"
@@ -130,6 +129,14 @@ private:
     bool m_isMine = false;
 };
 
+ChangeIntent intentOf(const char *operation, const std::string &name)
+{
+    ChangeIntent intent;
+    intent.operation = QString::fromLatin1(operation);
+    intent.reference = text(name);
+    return intent;
+}
+
 /// The association may have ended while the operation waited for its turn.
 Outcome connectedOutcome(const DevicePointer &device)
 {
@@ -206,24 +213,23 @@ asio::awaitable<Outcome> fetch(DevicePointer device, QString name,
     co_return fetched ? Outcome() : Outcome::failed(fetched.error());
 }
 
-asio::awaitable<Outcome> remove(DevicePointer device, QString name)
+asio::awaitable<Outcome> remove(ChangePointer change, QString name)
 {
     const std::string plain = FileNames::onDevice(name);
-    JournalEntry entry(device, QStringLiteral("deleteFile"), text(plain));
-    Turn turn(device, Texts::tr("deleting \"%1\"").arg(name));
+    change->intend();
+    Turn turn(change->device(), Texts::tr("deleting \"%1\"").arg(name));
     Outcome outcome;
     if (plain.empty())
         outcome = Outcome::failed(Texts::tr("There is no name of a file."));
     else
         outcome = co_await turn.begin();
-    if (outcome)
-        outcome = connectedOutcome(device);
-    if (outcome) {
-        const auto removed = co_await acsi::deleteFile(device->client(), plain);
-        outcome = outcomeOf(removed);
-    }
-    entry.setOutcome(outcome);
-    co_return outcome;
+    if (!outcome)
+        co_return outcome;
+    const auto client = change->client();
+    if (!client)
+        co_return change->refusal();
+    const auto removed = co_await acsi::deleteFile(client, plain);
+    co_return outcomeOf(removed);
 }
 
 /// The file of this computer; an error says why it cannot be sent.
@@ -257,27 +263,25 @@ mms::Result<acsi::FileSource> sourceOf(const QString &localFile)
     return source;
 }
 
-asio::awaitable<Outcome> send(DevicePointer device, QString localFile, QString name)
+asio::awaitable<Outcome> send(ChangePointer change, QString localFile, std::string plain)
 {
-    const std::string plain = FileNames::onDevice(FileNames::target(name, localFile));
-    JournalEntry entry(device, QStringLiteral("writeFile"), text(plain));
-    entry.setValues(QString(), localFile);
-    Turn turn(device, Texts::tr("sending \"%1\"").arg(text(plain)));
     mms::Result<acsi::FileSource> source = sourceOf(localFile);
+    if (source)
+        change->setValues(QString(), Texts::tr("%1 (%2 octets)").arg(localFile).arg(source->size));
+    change->intend();
+    Turn turn(change->device(), Texts::tr("sending \"%1\"").arg(text(plain)));
     Outcome outcome;
     if (source)
         outcome = co_await turn.begin();
     else
         outcome = Outcome::failed(source.error());
-    if (outcome)
-        outcome = connectedOutcome(device);
-    if (outcome) {
-        entry.setValues(QString(), Texts::tr("%1 (%2 octets)").arg(localFile).arg(source->size));
-        const auto sent = co_await acsi::upload(device->client(), plain, *source);
-        outcome = outcomeOf(sent);
-    }
-    entry.setOutcome(outcome);
-    co_return outcome;
+    if (!outcome)
+        co_return outcome;
+    const auto client = change->client();
+    if (!client)
+        co_return change->refusal();
+    const auto sent = co_await acsi::upload(client, plain, *source);
+    co_return outcomeOf(sent);
 }
 
 } // namespace
@@ -288,7 +292,7 @@ OperationResult IedDriver::getFileDirectory(long deviceNo, const QString &patter
 {
     const auto listed = std::make_shared<QList<MMSFileEntry>>();
     const OperationResult result = m_runtime->run(
-        deviceNo, Runtime::Effect::Reads, error,
+        deviceNo, error,
         [pattern, directory, listed](DevicePointer device) {
             return list(std::move(device), pattern, directory, listed);
         },
@@ -302,12 +306,12 @@ OperationResult IedDriver::getFile(long deviceNo, const QString &fileName, QByte
                                    QString &error)
 {
     const auto fetched = std::make_shared<QByteArray>();
-    const OperationResult result = m_runtime->runWithin(
-        longestTransfer, deviceNo, Runtime::Effect::Reads, error,
+    const OperationResult result = m_runtime->run(
+        deviceNo, error,
         [fileName, fetched](DevicePointer device) {
             return fetch(std::move(device), fileName, fetched);
         },
-        Need::Association);
+        Need::Association, longestTransfer);
     if (result == OperationSucceeded)
         content = std::move(*fetched);
     return result;
@@ -315,19 +319,22 @@ OperationResult IedDriver::getFile(long deviceNo, const QString &fileName, QByte
 
 OperationResult IedDriver::deleteFile(long deviceNo, const QString &fileName, QString &error)
 {
-    return m_runtime->run(
-        deviceNo, Runtime::Effect::Changes, error,
-        [fileName](DevicePointer device) { return remove(std::move(device), fileName); },
+    return m_runtime->change(
+        deviceNo, intentOf("deleteFile", FileNames::onDevice(fileName)), error,
+        [fileName](ChangePointer change) { return remove(std::move(change), fileName); },
         Need::Association);
 }
 
 OperationResult IedDriver::writeFile(long deviceNo, const QString &localFile,
                                      const QString &fileName, QString &error)
 {
-    return m_runtime->runWithin(
-        longestTransfer, deviceNo, Runtime::Effect::Changes, error,
-        [localFile, fileName](DevicePointer device) {
-            return send(std::move(device), localFile, fileName);
+    const std::string plain = FileNames::onDevice(FileNames::target(fileName, localFile));
+    ChangeIntent intent = intentOf("writeFile", plain);
+    intent.newValue = localFile;
+    return m_runtime->change(
+        deviceNo, std::move(intent), error,
+        [localFile, plain](ChangePointer change) {
+            return send(std::move(change), localFile, plain);
         },
-        Need::Association);
+        Need::Association, longestTransfer);
 }

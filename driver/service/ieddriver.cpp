@@ -149,7 +149,7 @@ QString IedDriver::exportValues(long deviceNo, QIODevice &out)
     const auto csv = std::make_shared<QString>();
     QString error;
     const OperationResult result =
-        m_runtime->run(deviceNo, Runtime::Effect::Reads, error,
+        m_runtime->run(deviceNo, error,
                        [csv](std::shared_ptr<DeviceConnection> device) -> asio::awaitable<Outcome> {
                            *csv = csvOf(device->model()->device());
                            co_return Outcome();
@@ -236,7 +236,7 @@ OperationResult IedDriver::getIEDModel(long deviceNo, QByteArray &model, QString
     const auto bytes = std::make_shared<QByteArray>();
     const auto identity = std::make_shared<DeviceIdentity>();
     const OperationResult result = m_runtime->run(
-        deviceNo, Runtime::Effect::Reads, error,
+        deviceNo, error,
         [bytes, identity](std::shared_ptr<DeviceConnection> device) -> asio::awaitable<Outcome> {
             co_await device->modelReading().refreshDataSets();
             co_await device->modelReading().refreshReportBlocks();

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "driverruntime.h"
 
-#include "driver/device/journalentry.h"
 #include "driver/device/modelreading.h"
 #include "driver/device/reportsubscriptions.h"
 #include "driver/model/discoveredmodel.h"
@@ -235,9 +234,10 @@ asio::awaitable<QString> holderBehind(DevicePointer device, acsi::Reference bloc
     co_return sentence.isEmpty() ? QString() : QLatin1Char(' ') + sentence;
 }
 
-asio::awaitable<Outcome> writeAttribute(DevicePointer device, QString ldName, QString name,
+asio::awaitable<Outcome> writeAttribute(ChangePointer change, QString ldName, QString name,
                                         QString attribute, QByteArray bytes)
 {
+    const DevicePointer device = change->device();
     const mms::Result<acsi::Reference> block = blockOf(ldName, name);
     if (!block)
         co_return Outcome::failed(block.error());
@@ -247,8 +247,8 @@ asio::awaitable<Outcome> writeAttribute(DevicePointer device, QString ldName, QS
     ReportSubscriptions &subscriptions = device->part<ReportSubscriptions>();
     if (attribute == QLatin1String("RptEna")) {
         if (value->toBoolean().value_or(false))
-            co_return co_await subscriptions.enable(*block, acsi::ReportSettings());
-        co_return co_await subscriptions.disable(*block);
+            co_return co_await subscriptions.enable(change, *block, acsi::ReportSettings());
+        co_return co_await subscriptions.disable(change, *block);
     }
 
     std::string onDevice = attribute.toStdString();
@@ -274,10 +274,13 @@ asio::awaitable<Outcome> writeAttribute(DevicePointer device, QString ldName, QS
             Texts::tr("The configuration of the device reserves %1; that cannot be changed.")
                 .arg(text(acsi::toText(*block))));
     }
-    JournalEntry entry(device, QStringLiteral("writeValue"), text(acsi::toText(place)));
-    entry.setValues(before ? text(mms::toText(*before)) : QString(), text(mms::toText(*value)));
+    change->setReference(text(acsi::toText(place)));
+    change->setValues(before ? text(mms::toText(*before)) : QString(), text(mms::toText(*value)));
+    const auto changing = change->client();
+    if (!changing)
+        co_return change->refusal();
     const mms::Result<void> written =
-        co_await acsi::writeReportAttribute(client, *block, onDevice, *value);
+        co_await acsi::writeReportAttribute(changing, *block, onDevice, *value);
     if (written && isTimed)
         subscriptions.setReserved(*block, reserves);
     const bool isChange = !before || *before != *value || onDevice == "PurgeBuf";
@@ -285,14 +288,10 @@ asio::awaitable<Outcome> writeAttribute(DevicePointer device, QString ldName, QS
         subscriptions.forgetEntries(*block);
     if (written && onDevice == "GI")
         subscriptions.setInterrogated(*block);
-    QString refusal;
-    if (!written) {
-        const QString holder = co_await holderBehind(device, *block);
-        refusal = text(written.error().message) + holder;
-    }
-    const Outcome outcome = written ? Outcome() : Outcome::failed(refusal);
-    entry.setOutcome(outcome);
-    co_return outcome;
+    if (written)
+        co_return Outcome();
+    const QString holder = co_await holderBehind(device, *block);
+    co_return Outcome::failed(text(written.error().message) + holder);
 }
 
 mms::Result<acsi::ReportSettings> settingsFrom(const acsi::Reference &reference,
@@ -337,18 +336,18 @@ mms::Result<acsi::ReportSettings> settingsFrom(const acsi::Reference &reference,
     return settings;
 }
 
-asio::awaitable<Outcome> enableBlock(DevicePointer device, QString ldName, QString name,
+asio::awaitable<Outcome> enableBlock(ChangePointer change, QString ldName, QString name,
                                      QString rptId, QString dataSet, ReportBlock block)
 {
     const mms::Result<acsi::Reference> reference = blockOf(ldName, name);
     if (!reference)
         co_return Outcome::failed(reference.error());
-    ReportSubscriptions &subscriptions = device->part<ReportSubscriptions>();
+    ReportSubscriptions &subscriptions = change->device()->part<ReportSubscriptions>();
     const mms::Result<acsi::ReportSettings> settings =
         settingsFrom(*reference, rptId, dataSet, block, subscriptions.shown(*reference));
     if (!settings)
         co_return Outcome::failed(settings.error());
-    co_return co_await subscriptions.enable(*reference, *settings);
+    co_return co_await subscriptions.enable(change, *reference, *settings);
 }
 
 } // namespace
@@ -359,10 +358,9 @@ OperationResult IedDriver::getBRCBValues(long deviceNo, const QString &ldName,
 {
     const auto record = std::make_shared<ReportBlock>();
     const OperationResult result =
-        m_runtime->run(deviceNo, Runtime::Effect::Reads, error,
-                       [ldName, blockReference, record](DevicePointer device) {
-                           return readBlock(std::move(device), ldName, blockReference, record);
-                       });
+        m_runtime->run(deviceNo, error, [ldName, blockReference, record](DevicePointer device) {
+            return readBlock(std::move(device), ldName, blockReference, record);
+        });
     if (result == OperationSucceeded)
         block = *record;
     return result;
@@ -372,11 +370,14 @@ OperationResult IedDriver::writeValue(long deviceNo, const QString &ldName,
                                       const QString &blockReference, const QString &attribute,
                                       const QByteArray &value, QString &error)
 {
-    return m_runtime->run(deviceNo, Runtime::Effect::Changes, error,
-                          [ldName, blockReference, attribute, value](DevicePointer device) {
-                              return writeAttribute(std::move(device), ldName, blockReference,
-                                                    attribute, value);
-                          });
+    ChangeIntent intent;
+    intent.operation = QStringLiteral("writeValue");
+    intent.reference = QStringLiteral("%1/%2$%3").arg(ldName, blockReference, attribute);
+    return m_runtime->change(deviceNo, std::move(intent), error,
+                             [ldName, blockReference, attribute, value](ChangePointer change) {
+                                 return writeAttribute(std::move(change), ldName, blockReference,
+                                                       attribute, value);
+                             });
 }
 
 OperationResult IedDriver::enableReportBlock(long deviceNo, const QString &ldName,
@@ -384,9 +385,12 @@ OperationResult IedDriver::enableReportBlock(long deviceNo, const QString &ldNam
                                              const QString &dataSet, const ReportBlock &block,
                                              QString &error)
 {
-    return m_runtime->run(deviceNo, Runtime::Effect::Changes, error,
-                          [ldName, blockReference, rptId, dataSet, block](DevicePointer device) {
-                              return enableBlock(std::move(device), ldName, blockReference, rptId,
-                                                 dataSet, block);
-                          });
+    ChangeIntent intent;
+    intent.operation = QStringLiteral("enableReportBlock");
+    intent.reference = ldName + QLatin1Char('/') + blockReference;
+    return m_runtime->change(deviceNo, std::move(intent), error,
+                             [ldName, blockReference, rptId, dataSet, block](ChangePointer change) {
+                                 return enableBlock(std::move(change), ldName, blockReference,
+                                                    rptId, dataSet, block);
+                             });
 }

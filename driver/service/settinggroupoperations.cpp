@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "driver/device/journalentry.h"
 #include "driver/device/settinggroups.h"
 #include "driver/device/settingvalues.h"
 #include "driver/device/valuepublishing.h"
@@ -197,10 +196,14 @@ asio::awaitable<Outcome> readValues(DevicePointer device, QString ldName, QStrin
 }
 
 /// CnfEdit, and EditSG given back where the device keeps it.
-asio::awaitable<Outcome> confirm(DevicePointer device, QString ldName, acsi::Reference block)
+asio::awaitable<Outcome> confirm(ChangePointer change, QString ldName, acsi::Reference block)
 {
+    const DevicePointer device = change->device();
     const std::uint32_t group = device->part<SettingGroups>().edit(ldName).group();
-    const acsi::SettingWrite confirmed = co_await acsi::confirmEdit(device->client(), block);
+    const auto client = change->client();
+    if (!client)
+        co_return change->refusal();
+    const acsi::SettingWrite confirmed = co_await acsi::confirmEdit(client, block);
     if (!confirmed && !confirmed.isUnknown())
         co_return Outcome::failed(confirmed.error());
     Outcome outcome;
@@ -216,16 +219,20 @@ asio::awaitable<Outcome> confirm(DevicePointer device, QString ldName, acsi::Ref
         co_await acsi::readSettingGroupBlock(device->client(), block);
     if (!stillConnected(device))
         co_return outcome;
-    if (read && read->editSG != 0 && read->editSG == group && !confirmed.isUnknown())
-        static_cast<void>(co_await acsi::selectEditGroup(device->client(), block, 0));
+    const bool isKept = read && read->editSG != 0 && read->editSG == group;
+    const auto giving =
+        isKept && !confirmed.isUnknown() ? change->client(Change::Kind::GivesBack) : nullptr;
+    if (giving)
+        static_cast<void>(co_await acsi::selectEditGroup(giving, block, 0));
     if (confirmed || (read && read->editSG != group))
         device->part<SettingGroups>().edit(ldName).ended();
     co_return outcome;
 }
 
-asio::awaitable<Outcome> setValues(DevicePointer device, QString ldName, acsi::Reference block,
+asio::awaitable<Outcome> setValues(ChangePointer change, QString ldName, acsi::Reference block,
                                    QList<SGCBValue> wanted, Caller caller)
 {
+    const DevicePointer device = change->device();
     for (const SGCBValue &value : qAsConst(wanted)) {
         const mms::Result<acsi::Reference> reference = SettingValues::reference(ldName, value.name);
         if (reference && reference->constraint == FunctionalConstraint::SG) {
@@ -244,12 +251,12 @@ asio::awaitable<Outcome> setValues(DevicePointer device, QString ldName, acsi::R
     outcome = stillConnected(device);
     if (!outcome)
         co_return outcome;
-    const mms::Result<std::vector<SettingValues::Change>> changes =
+    const mms::Result<std::vector<SettingValues::Value>> changes =
         SettingValues::changes(*device->model(), ldName, wanted, *known);
     if (!changes)
         co_return Outcome::failed(changes.error());
     if (!changes->empty()) {
-        outcome = co_await SettingValues::write(device, *changes);
+        outcome = co_await SettingValues::write(change, *changes);
         if (!outcome)
             co_return outcome;
     }
@@ -257,7 +264,7 @@ asio::awaitable<Outcome> setValues(DevicePointer device, QString ldName, acsi::R
     if (!outcome)
         co_return outcome;
     const std::uint32_t group = device->part<SettingGroups>().edit(ldName).group();
-    outcome = co_await confirm(device, ldName, block);
+    outcome = co_await confirm(change, ldName, block);
     if (!outcome || changes->empty() || !stillConnected(device))
         co_return outcome;
 
@@ -265,7 +272,7 @@ asio::awaitable<Outcome> setValues(DevicePointer device, QString ldName, acsi::R
     const LogicalNode *node = device->model()->node(text(block.device), text(block.node));
     if (node && node->settingGroup && node->settingGroup->activeGroup == static_cast<int>(group)) {
         std::vector<acsi::Reference> active;
-        for (const SettingValues::Change &value : *changes) {
+        for (const SettingValues::Value &value : *changes) {
             active.push_back(value.reference);
             active.back().constraint = FunctionalConstraint::SG;
         }
@@ -275,20 +282,17 @@ asio::awaitable<Outcome> setValues(DevicePointer device, QString ldName, acsi::R
     co_return outcome;
 }
 
-asio::awaitable<Outcome> setAndConfirm(DevicePointer device, QString ldName,
+asio::awaitable<Outcome> setAndConfirm(ChangePointer change, QString ldName,
                                        QList<SGCBValue> wanted, Caller caller)
 {
-    const mms::Result<acsi::Reference> block = SettingModel::block(*device->model(), ldName);
-    JournalEntry entry(device, QStringLiteral("setSGCBValues"),
-                       block ? text(SettingModel::attribute(*block, "CnfEdit")) : ldName);
-    entry.setValues(QString(), QStringLiteral("true"));
-    Outcome outcome;
+    const mms::Result<acsi::Reference> block =
+        SettingModel::block(*change->device()->model(), ldName);
     if (block)
-        outcome = co_await setValues(device, ldName, *block, std::move(wanted), caller);
-    else
-        outcome = Outcome::failed(block.error());
-    entry.setOutcome(outcome);
-    co_return outcome;
+        change->setReference(text(SettingModel::attribute(*block, "CnfEdit")));
+    change->intend();
+    if (!block)
+        co_return Outcome::failed(block.error());
+    co_return co_await setValues(change, ldName, *block, std::move(wanted), caller);
 }
 
 Outcome rangeOf(const acsi::SettingGroupBlock &read, const acsi::Reference &block, int lowest,
@@ -323,22 +327,24 @@ activeAfter(DevicePointer device, acsi::Reference block, std::uint32_t group)
     co_return active;
 }
 
-asio::awaitable<Outcome> selectActive(DevicePointer device, acsi::Reference block, int group,
-                                      JournalEntry *entry)
+asio::awaitable<Outcome> selectActive(ChangePointer change, acsi::Reference block, int group)
 {
+    const DevicePointer device = change->device();
     const mms::Result<acsi::SettingGroupBlock> read =
         co_await acsi::readSettingGroupBlock(device->client(), block);
     if (!read)
         co_return Outcome::failed(read.error());
-    entry->setValues(QString::number(read->actSG), QString::number(group));
+    change->setValues(QString::number(read->actSG), QString::number(group));
     Outcome outcome = rangeOf(*read, block, 1, group);
     if (outcome)
         outcome = stillConnected(device);
     if (!outcome)
         co_return outcome;
     const auto number = static_cast<std::uint32_t>(group);
-    const acsi::SettingWrite written =
-        co_await acsi::selectActiveGroup(device->client(), block, number);
+    const auto client = change->client();
+    if (!client)
+        co_return change->refusal();
+    const acsi::SettingWrite written = co_await acsi::selectActiveGroup(client, block, number);
     if (!written && !written.isUnknown())
         co_return Outcome::failed(written.error());
     const std::optional<std::uint32_t> active = co_await activeAfter(device, block, number);
@@ -363,15 +369,16 @@ asio::awaitable<Outcome> selectActive(DevicePointer device, acsi::Reference bloc
                                   .arg(group));
 }
 
-asio::awaitable<Outcome> selectEdited(DevicePointer device, acsi::Reference block, int group,
-                                      Caller caller, JournalEntry *entry)
+asio::awaitable<Outcome> selectEdited(ChangePointer change, acsi::Reference block, int group,
+                                      Caller caller)
 {
+    const DevicePointer device = change->device();
     const QString ldName = text(block.device);
     const mms::Result<acsi::SettingGroupBlock> read =
         co_await acsi::readSettingGroupBlock(device->client(), block);
     if (!read)
         co_return Outcome::failed(read.error());
-    entry->setValues(QString::number(read->editSG), QString::number(group));
+    change->setValues(QString::number(read->editSG), QString::number(group));
     Outcome outcome = rangeOf(*read, block, 0, group);
     if (outcome)
         outcome = stillConnected(device);
@@ -386,8 +393,10 @@ asio::awaitable<Outcome> selectEdited(DevicePointer device, acsi::Reference bloc
     if (group == 0 && isOthers)
         co_return Outcome::failed(otherClient(ldName, read->editSG));
     const auto number = static_cast<std::uint32_t>(group);
-    const acsi::SettingWrite written =
-        co_await acsi::selectEditGroup(device->client(), block, number);
+    const auto client = change->client();
+    if (!client)
+        co_return change->refusal();
+    const acsi::SettingWrite written = co_await acsi::selectEditGroup(client, block, number);
     bool isChosen = written.ok();
     if (!written && !written.isUnknown()) {
         if (isOthers) {
@@ -422,28 +431,34 @@ asio::awaitable<Outcome> selectEdited(DevicePointer device, acsi::Reference bloc
     co_return Outcome();
 }
 
+ChangeIntent intentOf(const char *operation, const QString &ldName, const QString &newValue)
+{
+    ChangeIntent intent;
+    intent.operation = QString::fromLatin1(operation);
+    intent.reference = ldName;
+    intent.newValue = newValue;
+    return intent;
+}
+
 enum class Selection { Active, Edited };
 
-asio::awaitable<Outcome> selectGroup(DevicePointer device, QString ldName, Selection selection,
+asio::awaitable<Outcome> selectGroup(ChangePointer change, QString ldName, Selection selection,
                                      int group, Caller caller)
 {
+    const DevicePointer device = change->device();
     const bool isActive = selection == Selection::Active;
+    const mms::Result<acsi::Reference> block = SettingModel::block(*device->model(), ldName);
+    if (block)
+        change->setReference(text(SettingModel::attribute(*block, isActive ? "ActSG" : "EditSG")));
+    change->intend();
     Outcome outcome;
-    {
-        const mms::Result<acsi::Reference> block = SettingModel::block(*device->model(), ldName);
-        const char *const attribute = isActive ? "ActSG" : "EditSG";
-        JournalEntry entry(
-            device, isActive ? QStringLiteral("selectActiveSG") : QStringLiteral("selectEditSG"),
-            block ? text(SettingModel::attribute(*block, attribute)) : ldName);
-        entry.setValues(QString(), QString::number(group));
-        if (!block)
-            outcome = Outcome::failed(block.error());
-        else if (isActive)
-            outcome = co_await selectActive(device, *block, group, &entry);
-        else
-            outcome = co_await selectEdited(device, *block, group, caller, &entry);
-        entry.setOutcome(outcome);
-    }
+    if (!block)
+        outcome = Outcome::failed(block.error());
+    else if (isActive)
+        outcome = co_await selectActive(change, *block, group);
+    else
+        outcome = co_await selectEdited(change, *block, group, caller);
+    change->end(outcome);
     // All settings are others now.
     if (outcome && isActive && stillConnected(device))
         co_await device->part<SettingGroups>().publishActive(ldName);
@@ -457,8 +472,8 @@ OperationResult IedDriver::getSGCB(long deviceNo, const QString &sgcbReference, 
 {
     const auto read = std::make_shared<SGCB>();
     const QString ldName = logicalDeviceOf(sgcbReference);
-    const OperationResult result = m_runtime->run(
-        deviceNo, Runtime::Effect::Reads, error, [ldName, read](DevicePointer device) {
+    const OperationResult result =
+        m_runtime->run(deviceNo, error, [ldName, read](DevicePointer device) {
             return readBlock(std::move(device), ldName, read);
         });
     if (result == OperationSucceeded)
@@ -472,8 +487,8 @@ OperationResult IedDriver::getSGCBValue(long deviceNo, const QString &sgcbRefere
     const auto read = std::make_shared<QList<SGCBValue>>();
     const QString ldName = logicalDeviceOf(sgcbReference);
     const Caller caller = ControllerCaller::current();
-    const OperationResult result = m_runtime->run(
-        deviceNo, Runtime::Effect::Reads, error, [ldName, fc, caller, read](DevicePointer device) {
+    const OperationResult result =
+        m_runtime->run(deviceNo, error, [ldName, fc, caller, read](DevicePointer device) {
             return readValues(std::move(device), ldName, fc, caller, read);
         });
     if (result == OperationSucceeded)
@@ -486,10 +501,10 @@ OperationResult IedDriver::setSGCBValues(long deviceNo, const QString &sgcbRefer
 {
     const QString ldName = logicalDeviceOf(sgcbReference);
     const Caller caller = ControllerCaller::current();
-    return m_runtime->run(deviceNo, Runtime::Effect::Changes, error,
-                          [ldName, values, caller](DevicePointer device) {
-                              return setAndConfirm(std::move(device), ldName, values, caller);
-                          });
+    return m_runtime->change(deviceNo, intentOf("setSGCBValues", ldName, QStringLiteral("true")),
+                             error, [ldName, values, caller](ChangePointer change) {
+                                 return setAndConfirm(std::move(change), ldName, values, caller);
+                             });
 }
 
 OperationResult IedDriver::selectEditSG(long deviceNo, const QString &sgcbReference, int group,
@@ -497,10 +512,11 @@ OperationResult IedDriver::selectEditSG(long deviceNo, const QString &sgcbRefere
 {
     const QString ldName = logicalDeviceOf(sgcbReference);
     const Caller caller = ControllerCaller::current();
-    return m_runtime->run(
-        deviceNo, Runtime::Effect::Changes, error, [ldName, group, caller](DevicePointer device) {
-            return selectGroup(std::move(device), ldName, Selection::Edited, group, caller);
-        });
+    return m_runtime->change(deviceNo, intentOf("selectEditSG", ldName, QString::number(group)),
+                             error, [ldName, group, caller](ChangePointer change) {
+                                 return selectGroup(std::move(change), ldName, Selection::Edited,
+                                                    group, caller);
+                             });
 }
 
 OperationResult IedDriver::selectActiveSG(long deviceNo, const QString &sgcbReference, int group,
@@ -508,8 +524,9 @@ OperationResult IedDriver::selectActiveSG(long deviceNo, const QString &sgcbRefe
 {
     const QString ldName = logicalDeviceOf(sgcbReference);
     const Caller caller = ControllerCaller::current();
-    return m_runtime->run(
-        deviceNo, Runtime::Effect::Changes, error, [ldName, group, caller](DevicePointer device) {
-            return selectGroup(std::move(device), ldName, Selection::Active, group, caller);
-        });
+    return m_runtime->change(deviceNo, intentOf("selectActiveSG", ldName, QString::number(group)),
+                             error, [ldName, group, caller](ChangePointer change) {
+                                 return selectGroup(std::move(change), ldName, Selection::Active,
+                                                    group, caller);
+                             });
 }

@@ -104,8 +104,9 @@ asio::awaitable<Outcome> readDataSet(DevicePointer device, QString ldName, QStri
     co_return outcome;
 }
 
-asio::awaitable<Outcome> write(DevicePointer device, QString ldName, QString name, QVariant value)
+asio::awaitable<Outcome> write(ChangePointer change, QString ldName, QString name, QVariant value)
 {
+    const DevicePointer device = change->device();
     const mms::Result<acsi::Reference> reference =
         acsi::parseReference(ldName.toStdString(), name.toStdString());
     if (!reference)
@@ -116,7 +117,10 @@ asio::awaitable<Outcome> write(DevicePointer device, QString ldName, QString nam
         co_return Outcome::failed(Texts::tr("The device has no %1.").arg(full));
     const DataAttribute *attribute = device->model()->device().findTag(full);
     const QString basicType = attribute ? attribute->basicType : QString();
-    const QString oldValue = attribute ? ValueConversion::text(attribute->value) : QString();
+    change->setReference(full);
+    change->setValues(attribute ? ValueConversion::text(attribute->value) : QString(),
+                      ValueConversion::text(value));
+    change->intend();
 
     Outcome outcome;
     const QString readOnly =
@@ -124,25 +128,20 @@ asio::awaitable<Outcome> write(DevicePointer device, QString ldName, QString nam
     const mms::Result<mms::Data> data = ValueConversion::toData(basicType, *type, value);
     if (!readOnly.isEmpty()) {
         outcome = Outcome::failed(readOnly);
-    } else if (data) {
+    } else if (!data) {
+        outcome = Outcome::failed(data.error());
+    } else if (const auto client = change->client()) {
         const mms::Result<void> written =
-            co_await device->client()->writeOne(acsi::accessOf(*reference), *data);
+            co_await client->writeOne(acsi::accessOf(*reference), *data);
         if (!written)
             outcome = Outcome::failed(written.error());
     } else {
-        outcome = Outcome::failed(data.error());
+        outcome = change->refusal();
     }
     if (outcome)
         device->values().haveWritten(*reference);
     else
         device->values().showUnwritten(*reference);
-    DeviceChange change;
-    change.operation = QStringLiteral("writeVariable");
-    change.reference = full;
-    change.oldValue = oldValue;
-    change.newValue = ValueConversion::text(value);
-    change.error = outcome.error;
-    device->journal(std::move(change));
     co_return outcome;
 }
 
@@ -151,19 +150,17 @@ asio::awaitable<Outcome> write(DevicePointer device, QString ldName, QString nam
 OperationResult IedDriver::readVariable(long deviceNo, const QString &ldName,
                                         const QStringList &references, QString &error)
 {
-    return m_runtime->run(deviceNo, Runtime::Effect::Reads, error,
-                          [ldName, references](DevicePointer device) {
-                              return readVariables(std::move(device), ldName, references);
-                          });
+    return m_runtime->run(deviceNo, error, [ldName, references](DevicePointer device) {
+        return readVariables(std::move(device), ldName, references);
+    });
 }
 
 OperationResult IedDriver::readDataSetValue(long deviceNo, const QString &ldName,
                                             const QString &dataSetReference, QString &error)
 {
-    return m_runtime->run(deviceNo, Runtime::Effect::Reads, error,
-                          [ldName, dataSetReference](DevicePointer device) {
-                              return readDataSet(std::move(device), ldName, dataSetReference);
-                          });
+    return m_runtime->run(deviceNo, error, [ldName, dataSetReference](DevicePointer device) {
+        return readDataSet(std::move(device), ldName, dataSetReference);
+    });
 }
 
 OperationResult IedDriver::writeVariable(long deviceNo, const QString &ldName,
@@ -175,8 +172,12 @@ OperationResult IedDriver::writeVariable(long deviceNo, const QString &ldName,
         error = Texts::tr("The value to be written cannot be read.");
         return OperationFailed;
     }
-    return m_runtime->run(deviceNo, Runtime::Effect::Changes, error,
-                          [ldName, reference, decoded](DevicePointer device) {
-                              return write(std::move(device), ldName, reference, decoded);
-                          });
+    ChangeIntent intent;
+    intent.operation = QStringLiteral("writeVariable");
+    intent.reference = ldName + QLatin1Char('/') + reference;
+    intent.newValue = ValueConversion::text(decoded);
+    return m_runtime->change(deviceNo, std::move(intent), error,
+                             [ldName, reference, decoded](ChangePointer change) {
+                                 return write(std::move(change), ldName, reference, decoded);
+                             });
 }

@@ -175,7 +175,7 @@ public:
         };
         options.journal = [this](const DeviceChange &change) {
             const std::lock_guard<std::mutex> lock(m_mutex);
-            m_changes.append(change);
+            (change.state == DeviceChange::State::Begun ? m_intents : m_changes).append(change);
             m_changed.notify_all();
         };
         return options;
@@ -252,6 +252,13 @@ public:
                    }) >= count;
         });
     }
+    /// What was told before it was done, since clear().
+    QList<DeviceChange> intents() const
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return m_intents;
+    }
+    /// What came of changes, since clear().
     QList<DeviceChange> changes() const
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
@@ -274,6 +281,7 @@ public:
         m_values.clear();
         m_history.clear();
         m_changes.clear();
+        m_intents.clear();
         m_published = 0;
     }
 
@@ -297,6 +305,7 @@ private:
     std::condition_variable m_changed;
     QHash<int, DeviceStatus> m_statuses; ///< the newest of each device
     QList<DeviceChange> m_changes;
+    QList<DeviceChange> m_intents;
     QHash<QString, MMSValue> m_values;
     QHash<QString, QList<MMSValue>> m_history;
     bool m_keepsHistory = true;

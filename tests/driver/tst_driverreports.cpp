@@ -485,8 +485,7 @@ void tst_DriverReports::blocksAreReleasedOnLeaving()
         }
         // Who comes back goes on with what he had.
         station.driver().connectDevice(1);
-        QVERIFY(station.listener().waitForChanges(5));
-        QVERIFY(isEnabled(ied, buffered) && isEnabled(ied, unbuffered));
+        QTRY_VERIFY_WITH_TIMEOUT(isEnabled(ied, buffered) && isEnabled(ied, unbuffered), 20000);
     }
     // The end of the driver is a leaving as well.
     QVERIFY(!isEnabled(ied, buffered) && !isEnabled(ied, unbuffered));

@@ -22,6 +22,8 @@ private slots:
     void aRowThatWasCutOffDoesNotSwallowTheNext();
     void commasQuotesAndLineBreaksStayInTheirField();
     void aTextIsNoFormulaForASpreadsheet();
+    void aChangeHasOneRowFromItsBeginningToItsEnd();
+    void aChangeWhoseEndNeverComesIsInTheFile();
     void changesOfManyThreadsAreAllKept();
     void theTableKeepsTheNewestRows();
     void aFileThatCannotBeWrittenIsToldAndTheTableGoesOn();
@@ -166,6 +168,39 @@ void tst_ChangeJournal::aTextIsNoFormulaForASpreadsheet()
     enter(journal, change(QStringLiteral("-5.5")));
     QVERIFY(lines()[1].contains(",'=1+1,"));
     QVERIFY(lines()[2].contains(",-5.5,"));
+}
+
+void tst_ChangeJournal::aChangeHasOneRowFromItsBeginningToItsEnd()
+{
+    ChangeJournal journal(path());
+    DeviceChange first = change(QStringLiteral("first"));
+    first.id = 1;
+    first.state = DeviceChange::State::Begun;
+    enter(journal, first);
+    DeviceChange second = change(QStringLiteral("second"));
+    second.id = 2;
+    enter(journal, second);
+    first.state = DeviceChange::State::Failed;
+    first.error = QStringLiteral("The device refused the command.");
+    enter(journal, first);
+    QTRY_COMPARE(journal.rowCount(), 2);
+    QCOMPARE(lines().size(), 3);
+    QVERIFY2(lines()[1].contains(",second,OK,"), lines()[1].constData());
+    QVERIFY2(lines()[2].contains(",first,The device refused"), lines()[2].constData());
+}
+
+void tst_ChangeJournal::aChangeWhoseEndNeverComesIsInTheFile()
+{
+    {
+        ChangeJournal journal(path());
+        DeviceChange begun = change(QStringLiteral("2"));
+        begun.id = 1;
+        begun.state = DeviceChange::State::Begun;
+        enter(journal, begun);
+        QCOMPARE(lines().size(), 0);
+    }
+    QCOMPARE(lines().size(), 2);
+    QVERIFY2(lines().last().contains(",2,The driver has not waited"), lines().last().constData());
 }
 
 void tst_ChangeJournal::changesOfManyThreadsAreAllKept()
