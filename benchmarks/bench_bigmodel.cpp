@@ -249,7 +249,7 @@ public:
     {
         QByteArray model;
         QString error;
-        if (m_driver.getIEDModel(1, model, error) != OperationSucceeded)
+        if (m_driver.serviceFor(Caller())->getIEDModel(1, model, error) != OperationSucceeded)
             throw std::runtime_error(error.toStdString());
         return model.size();
     }

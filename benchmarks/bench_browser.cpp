@@ -115,7 +115,8 @@ public:
                 qFatal("the device is not online");
             QThread::yieldCurrentThread();
         }
-        DriverServiceRegistry::add(m_console.currentAddress(), m_driver);
+        m_service = m_driver->serviceFor(Caller::ofThisProcess());
+        DriverServiceRegistry::add(m_console.currentAddress(), m_service);
         m_context.console = &m_console;
         m_context.mainWindow = &m_mainWindow;
     }
@@ -127,6 +128,7 @@ public:
 
     drivertest::SimulatedIed &ied() { return m_ied; }
     IedDriver &driver() { return *m_driver; }
+    DriverService &service() { return *m_service; }
     std::unique_ptr<IEDModelView> open()
     {
         auto view = std::make_unique<IEDModelView>(1, deviceNo, 0, &m_context, &m_mainWindow);
@@ -139,6 +141,7 @@ private:
     QTemporaryDir m_folder;
     drivertest::SimulatedIed m_ied;
     std::shared_ptr<IedDriver> m_driver;
+    std::shared_ptr<DriverService> m_service;
     Console m_console;
     QWidget m_mainWindow;
     HostTaskContext m_context;
@@ -151,7 +154,7 @@ void opening(benchmark::State &state)
     Host host(generated.text());
     QByteArray bytes;
     QString error;
-    host.driver().getIEDModel(deviceNo, bytes, error);
+    host.service().getIEDModel(deviceNo, bytes, error);
     const SclTemplateStore templates;
     double browser = 0;
     double answer = 0;
@@ -169,7 +172,7 @@ void opening(benchmark::State &state)
         browser += opened;
 
         begun = Clock::now();
-        host.driver().getIEDModel(deviceNo, bytes, error);
+        host.service().getIEDModel(deviceNo, bytes, error);
         answer += seconds(begun);
 
         begun = Clock::now();
@@ -316,7 +319,7 @@ void latency(benchmark::State &state)
         QString error;
         const QString name = QStringLiteral("LLN0$RP$urcb");
         const QString device = QStringLiteral("IEDLD");
-        if (host.driver().getBRCBValues(deviceNo, device, name, block, error) !=
+        if (host.service().getBRCBValues(deviceNo, device, name, block, error) !=
                 OperationSucceeded ||
             host.driver().enableReportBlock(deviceNo, device, name, block.rptId, QString(), block,
                                             error) != OperationSucceeded) {

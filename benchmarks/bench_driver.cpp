@@ -197,6 +197,7 @@ QString connectAll(IedDriver &driver, Receiver &receiver, const Devices &devices
         driver.setDevice(configuration);
         driver.connectDevice(i + 1);
     }
+    const std::shared_ptr<DriverService> service = driver.serviceFor(Caller::ofThisProcess());
     for (int i = 0; i < deviceCount; ++i) {
         if (!receiver.waitForOnline(i + 1))
             return QStringLiteral("A device did not come online.");
@@ -204,7 +205,7 @@ QString connectAll(IedDriver &driver, Receiver &receiver, const Devices &devices
         block.trgOps = 0x64;
         block.optFlds[0] = 0x78;
         QString error;
-        driver.enableReportBlock(
+        service->enableReportBlock(
             i + 1, QString::fromLatin1(devices.file(static_cast<std::size_t>(i)).domain()),
             QStringLiteral("LLN0$RP$urcb1"), {}, {}, block, error);
         if (!error.isEmpty())

@@ -30,7 +30,7 @@ QByteArray heading()
                    QStringLiteral("device"), QStringLiteral("operation"),
                    QStringLiteral("reference"), QStringLiteral("old value"),
                    QStringLiteral("new value"), QStringLiteral("result"),
-                   QStringLiteral("additional cause")});
+                   QStringLiteral("additional cause"), QStringLiteral("caller")});
 }
 
 QByteArray rowOf(const DeviceChange &change)
@@ -39,7 +39,8 @@ QByteArray rowOf(const DeviceChange &change)
         {change.time.toOffsetFromUtc(change.time.offsetFromUtc()).toString(Qt::ISODateWithMs),
          QString::number(change.number), change.device, change.operation, change.reference,
          change.oldValue, change.newValue,
-         change.error.isEmpty() ? QStringLiteral("OK") : change.error, change.additionalCause});
+         change.error.isEmpty() ? QStringLiteral("OK") : change.error, change.additionalCause,
+         change.caller.text()});
 }
 
 } // namespace

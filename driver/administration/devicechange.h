@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <remoteclient/caller.h>
+
 #include <QtCore/QDateTime>
 #include <QtCore/QString>
 
@@ -22,6 +24,7 @@ struct DeviceChange
     /// Nobody has asked for it just now: it gives back what was taken, or restores what was lost.
     bool isDriversOwn = false;
     QDateTime time; ///< local time
+    Caller caller;  ///< on whose behalf; empty when the driver did it by itself
     int number = 0; ///< of the device
     QString device;
     QString operation; ///< name of the controller operation

@@ -19,6 +19,7 @@ DeviceChange changeOf(const ChangeIntent &intent)
     static std::atomic<quint64> last{0};
     DeviceChange change;
     change.id = ++last;
+    change.caller = intent.caller;
     change.operation = intent.operation;
     change.reference = intent.reference;
     change.oldValue = intent.oldValue;

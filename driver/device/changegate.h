@@ -3,6 +3,8 @@
 
 #include "deviceconnection.h"
 
+#include <remoteclient/caller.h>
+
 #include <QtCore/QString>
 
 #include <atomic>
@@ -17,6 +19,7 @@ struct ChangeIntent
         GivesBack ///< ends what runs, or gives back what this side took: never refused
     };
 
+    Caller caller;     ///< on whose behalf; empty for what the driver does by itself
     QString operation; ///< name of the controller operation
     QString reference;
     QString oldValue; ///< empty where it is not known

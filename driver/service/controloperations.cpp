@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "deviceoperations.h"
 #include "driver/core/controlorder.h"
 #include "driver/device/changegate.h"
 #include "driver/device/controlpart.h"
@@ -6,8 +7,6 @@
 #include "driver/model/valueconversion.h"
 #include "driver/text/sentences.h"
 #include "driverruntime.h"
-
-#include <remoteclient/controllercaller.h>
 
 #include <asio/co_spawn.hpp>
 #include <asio/post.hpp>
@@ -75,7 +74,7 @@ struct Request
     QString ldName;
     QString name;
     ControlBlock block;
-    ControlState::Caller caller = 0;
+    DeviceOperations::Tool tool = 0;
     std::atomic<bool> isOnTheWay{false}; ///< sent, and its outcome is not known yet
     /// Read shortly before, for the time that the operation may take.
     std::shared_ptr<acsi::ControlObject> control;
@@ -183,12 +182,12 @@ private:
                 return Texts::tr("Select the object first");
         }
         if (m_service == Service::Operate && model == ControlModel::SelectEnhanced) {
-            if (const QString why = obstacle(m_state.obstacle(m_block, m_request->caller, now));
+            if (const QString why = obstacle(m_state.obstacle(m_block, m_request->tool, now));
                 !why.isEmpty())
                 return why;
         }
         if (m_service == Service::Operate && model == ControlModel::SelectNormal &&
-            m_state.isSelectedByOther(m_request->caller, now))
+            m_state.isSelectedByOther(m_request->tool, now))
             return obstacle(ControlState::Obstacle::SelectedByOther);
         return valid ? QString() : text(valid.error().message);
     }
@@ -282,7 +281,7 @@ private:
 
     ControlState::Command command(const ControlBlock &block, std::uint8_t ctlNum) const
     {
-        return {block, *ControlOrder::toRequest(block, originator(), ctlNum), m_request->caller};
+        return {block, *ControlOrder::toRequest(block, originator(), ctlNum), m_request->tool};
     }
 
     /// The right to send it; null when there is none. From now on nobody knows what becomes of it
@@ -519,22 +518,22 @@ QString fault(const Request &request, const std::optional<ControlBlock> &block)
     return {};
 }
 
-template <typename Runtime>
-OperationResult perform(Runtime &runtime, Service service, long deviceNo, const QString &ldName,
-                        const QString &name, const QByteArray &controlBlock, QString &error)
+OperationResult perform(DriverRuntime &runtime, const CalledDevice &device, Service service,
+                        const QString &ldName, const QString &name, const QByteArray &controlBlock,
+                        QString &error)
 {
     const auto request = std::make_shared<Request>();
     request->service = service;
     request->ldName = ldName;
     request->name = name;
-    request->caller = ControllerCaller::current();
+    request->tool = device.tool();
     const std::optional<ControlBlock> block = ControlOrder::read(controlBlock);
     if (block)
         request->block = *block;
     Outcome refusal;
     if (const QString sentence = fault(*request, block); !sentence.isEmpty())
         refusal = Outcome::failed(sentence);
-    const ChangePointer change = runtime.announce(deviceNo, intentOf(*request), refusal);
+    const ChangePointer change = DriverRuntime::announce(device, intentOf(*request), refusal);
     error = refusal.error;
     if (!change)
         return refusal.result;
@@ -542,7 +541,7 @@ OperationResult perform(Runtime &runtime, Service service, long deviceNo, const 
     const bool waits = service == Service::Operate && isEnhanced(block->controlModel);
     OperationResult result = OperationSucceeded;
     if (waits) {
-        result = runtime.run(deviceNo, error, [change, request](const DevicePointer &) {
+        result = DriverRuntime::run(device, error, [change, request](const DevicePointer &) {
             return prepare(change, request);
         });
     }
@@ -550,14 +549,14 @@ OperationResult perform(Runtime &runtime, Service service, long deviceNo, const 
         ChangeGate::withdraw(change, {result, error});
         return result;
     }
-    milliseconds limit = Runtime::usualLimit;
+    milliseconds limit = DriverRuntime::usualLimit;
     if (waits)
         limit = change->device()->configuration().operationTimeout +
                 std::max(request->termination, ControlOrder::terminationPatience({})) + callMargin;
     result = runtime.carryOut(
-        deviceNo, change, error,
+        device, change, error,
         [request](ChangePointer permitted) { return control(std::move(permitted), request); },
-        Runtime::Need::Model, limit);
+        DriverRuntime::Need::Model, limit);
     if (result != OperationSucceeded && request->isOnTheWay)
         error += QLatin1Char(' ') + Controls::unknownSentence(service);
     return result;
@@ -565,26 +564,32 @@ OperationResult perform(Runtime &runtime, Service service, long deviceNo, const 
 
 } // namespace
 
-OperationResult IedDriver::selectObject(long deviceNo, const QString &ldName,
-                                        const QString &objectReference,
-                                        const QByteArray &controlBlock, QString &error)
+OperationResult DeviceOperations::selectObject(DriverRuntime &runtime, const CalledDevice &device,
+                                               const QString &ldName,
+                                               const QString &objectReference,
+                                               const QByteArray &controlBlock, QString &error)
 {
-    return perform(*m_runtime, Service::Select, deviceNo, ldName, objectReference, controlBlock,
-                   error);
+    return perform(runtime, device, Service::Select, ldName, objectReference, controlBlock, error);
 }
 
-OperationResult IedDriver::controlObject(long deviceNo, const QString &ldName,
-                                         const QString &objectReference,
-                                         const QByteArray &controlBlock, QString &error)
+OperationResult DeviceOperations::controlObject(DriverRuntime &runtime, const CalledDevice &device,
+                                                const QString &ldName,
+                                                const QString &objectReference,
+                                                const QByteArray &controlBlock, QString &error)
 {
-    return perform(*m_runtime, Service::Operate, deviceNo, ldName, objectReference, controlBlock,
-                   error);
+    return perform(runtime, device, Service::Operate, ldName, objectReference, controlBlock, error);
 }
 
-OperationResult IedDriver::cancelObject(long deviceNo, const QString &ldName,
-                                        const QString &objectReference,
-                                        const QByteArray &controlBlock, QString &error)
+OperationResult DeviceOperations::cancelObject(DriverRuntime &runtime, const CalledDevice &device,
+                                               const QString &ldName,
+                                               const QString &objectReference,
+                                               const QByteArray &controlBlock, QString &error)
 {
-    return perform(*m_runtime, Service::Cancel, deviceNo, ldName, objectReference, controlBlock,
-                   error);
+    return perform(runtime, device, Service::Cancel, ldName, objectReference, controlBlock, error);
+}
+
+OperationResult DeviceOperations::abortClose(DriverRuntime &, const CalledDevice &device)
+{
+    device->abort();
+    return OperationSucceeded;
 }

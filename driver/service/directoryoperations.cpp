@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "driverruntime.h"
+#include "deviceoperations.h"
 
+#include "driver/device/modelreading.h"
+#include "driver/device/valuepublishing.h"
 #include "driver/model/discoveredmodel.h"
 #include "driver/text/sentences.h"
 
@@ -10,11 +12,14 @@
 
 #include <QtCore/QCoreApplication>
 
+using DeviceOperations::ChangeOrder;
+using DeviceOperations::Result;
+using DeviceOperations::Tool;
+
 namespace {
 
 using DevicePointer = std::shared_ptr<DeviceConnection>;
-using Entries = std::shared_ptr<QList<NameVaildValue>>;
-using Need = DeviceConnection::Need;
+using Entries = QList<NameVaildValue> *; ///< lives as long as the operation
 
 struct Texts
 {
@@ -337,151 +342,81 @@ asio::awaitable<Outcome> dropDataSet(ChangePointer change, QString ldName, QStri
     co_return Outcome();
 }
 
-/// The list when the operation was a success.
-OperationResult given(OperationResult result, const Entries &entries, QList<NameVaildValue> &list)
-{
-    if (result == OperationSucceeded)
-        list = *entries;
-    return result;
-}
-
 } // namespace
 
-OperationResult IedDriver::getServerDirectory(long deviceNo, QList<NameVaildValue> &list,
-                                              QString &error)
+Result DeviceOperations::getIEDModel(CalledDevice device, QByteArray &model)
 {
-    const auto entries = std::make_shared<QList<NameVaildValue>>();
-    return given(m_runtime->run(
-                     deviceNo, error,
-                     [entries](DevicePointer device) {
-                         return listNames(std::move(device), entries, mms::ObjectClass::Domain,
-                                          mms::Scope::Vmd, QString());
-                     },
-                     Need::Association),
-                 entries, list);
+    co_await device->modelReading().refreshDataSets();
+    co_await device->modelReading().refreshReportBlocks();
+    model = device->values().modelBytes();
+    co_return Outcome();
 }
 
-OperationResult IedDriver::getLogicalDeviceDirectory(long deviceNo, const QString &ldName,
-                                                     QList<NameVaildValue> &list, QString &error)
+Result DeviceOperations::getServerDirectory(CalledDevice device, Entries &list)
 {
-    const auto entries = std::make_shared<QList<NameVaildValue>>();
-    return given(m_runtime->run(
-                     deviceNo, error,
-                     [entries, ldName](DevicePointer device) {
-                         return listNames(std::move(device), entries,
-                                          mms::ObjectClass::NamedVariable, mms::Scope::Domain,
-                                          ldName);
-                     },
-                     Need::Association),
-                 entries, list);
+    return listNames(device, &list, mms::ObjectClass::Domain, mms::Scope::Vmd, QString());
 }
 
-OperationResult IedDriver::getLogicalNodeDirectory(long deviceNo, const QString &ldName,
-                                                   const QString &lnName,
-                                                   QList<NameVaildValue> &list, QString &error)
+Result DeviceOperations::getLogicalDeviceDirectory(CalledDevice device, const QString &ldName,
+                                                   Entries &list)
 {
-    const auto entries = std::make_shared<QList<NameVaildValue>>();
-    return given(m_runtime->run(
-                     deviceNo, error,
-                     [entries, ldName, lnName](DevicePointer device) {
-                         return listNode(std::move(device), entries, ldName, lnName);
-                     },
-                     Need::Association),
-                 entries, list);
+    return listNames(device, &list, mms::ObjectClass::NamedVariable, mms::Scope::Domain, ldName);
 }
 
-OperationResult IedDriver::getDataDirectory(long deviceNo, const QString &ldName,
-                                            const QString &dataReference,
-                                            QList<NameVaildValue> &list, QString &error)
+Result DeviceOperations::getLogicalNodeDirectory(CalledDevice device, const QString &ldName,
+                                                 const QString &lnName, Entries &list)
 {
-    const auto entries = std::make_shared<QList<NameVaildValue>>();
+    return listNode(device, &list, ldName, lnName);
+}
+
+Result DeviceOperations::getDataDirectory(CalledDevice device, const QString &ldName,
+                                          const QString &dataReference, Entries &list)
+{
     const QStringList references = dataReference.split(QLatin1Char(';'), Qt::SkipEmptyParts);
-    if (references.isEmpty()) {
-        error = Texts::tr("There is no reference to be listed.");
-        return OperationFailed;
-    }
-    return given(m_runtime->run(
-                     deviceNo, error,
-                     [entries, ldName, references](DevicePointer device) {
-                         return listData(std::move(device), entries, ldName, references);
-                     },
-                     Need::Association),
-                 entries, list);
+    if (references.isEmpty())
+        co_return Outcome::failed(Texts::tr("There is no reference to be listed."));
+    co_return co_await listData(device, &list, ldName, references);
 }
 
-OperationResult IedDriver::getDataSetList(long deviceNo, const QString &ldName,
-                                          QList<NameVaildValue> &list, QString &error)
+Result DeviceOperations::getDataSetList(CalledDevice device, const QString &ldName, Entries &list)
 {
-    const auto entries = std::make_shared<QList<NameVaildValue>>();
-    return given(m_runtime->run(
-                     deviceNo, error,
-                     [entries, ldName](DevicePointer device) {
-                         return listNames(std::move(device), entries,
-                                          mms::ObjectClass::NamedVariableList, mms::Scope::Domain,
-                                          ldName);
-                     },
-                     Need::Association),
-                 entries, list);
+    return listNames(device, &list, mms::ObjectClass::NamedVariableList, mms::Scope::Domain,
+                     ldName);
 }
 
-OperationResult IedDriver::getDataSetDirectory(long deviceNo, const QString &ldName,
-                                               const QString &dataSetReference,
-                                               QList<NameVaildValue> &list, QString &error)
+Result DeviceOperations::getDataSetDirectory(CalledDevice device, const QString &ldName,
+                                             const QString &dataSetReference, Entries &list)
 {
-    const auto entries = std::make_shared<QList<NameVaildValue>>();
-    return given(m_runtime->run(
-                     deviceNo, error,
-                     [entries, ldName, dataSetReference](DevicePointer device) {
-                         return listDataSet(std::move(device), entries, ldName, dataSetReference);
-                     },
-                     Need::Association),
-                 entries, list);
+    return listDataSet(device, &list, ldName, dataSetReference);
 }
 
-OperationResult IedDriver::getXRCB(long deviceNo, const QString &ldName, const QString &lnName,
-                                   const QString &kind, QList<NameVaildValue> &list, QString &error)
+Result DeviceOperations::getXRCB(CalledDevice device, const QString &ldName, const QString &lnName,
+                                 const QString &kind, Entries &list)
 {
-    const auto entries = std::make_shared<QList<NameVaildValue>>();
-    return given(m_runtime->run(
-                     deviceNo, error,
-                     [entries, ldName, lnName, kind](DevicePointer device) {
-                         return listBlocks(std::move(device), entries, ldName, lnName, kind);
-                     },
-                     Need::Association),
-                 entries, list);
+    return listBlocks(device, &list, ldName, lnName, kind);
 }
 
-OperationResult IedDriver::getSGCBBlock(long deviceNo, const QString &ldName,
-                                        QList<NameVaildValue> &list, QString &error)
+Result DeviceOperations::getSGCBBlock(CalledDevice device, const QString &ldName, Entries &list)
 {
-    const auto entries = std::make_shared<QList<NameVaildValue>>();
-    return given(m_runtime->run(deviceNo, error,
-                                [entries, ldName](DevicePointer device) {
-                                    return listSettingGroups(std::move(device), entries, ldName);
-                                }),
-                 entries, list);
+    return listSettingGroups(device, &list, ldName);
 }
 
-OperationResult IedDriver::createDataSet(long deviceNo, const QString &ldName,
-                                         const QString &dataSetReference, const QString &members,
-                                         int nonPersistent, QString &error)
+ChangeOrder DeviceOperations::createDataSet(Tool, const QString &ldName,
+                                            const QString &dataSetReference, const QString &members,
+                                            int nonPersistent)
 {
-    return m_runtime->change(
-        deviceNo, intentOf("createDataSet", ldName, dataSetReference), error,
-        [ldName, dataSetReference, members, nonPersistent](ChangePointer change) {
-            return makeDataSet(std::move(change), ldName, dataSetReference, members,
-                               nonPersistent != 0);
-        },
-        Need::Association);
+    return {intentOf("createDataSet", ldName, dataSetReference),
+            [ldName, dataSetReference, members, nonPersistent](ChangePointer change) {
+                return makeDataSet(std::move(change), ldName, dataSetReference, members,
+                                   nonPersistent != 0);
+            }};
 }
 
-OperationResult IedDriver::deleteDataSet(long deviceNo, const QString &ldName,
-                                         const QString &dataSetReference, QString &error)
+ChangeOrder DeviceOperations::deleteDataSet(Tool, const QString &ldName,
+                                            const QString &dataSetReference)
 {
-    return m_runtime->change(
-        deviceNo, intentOf("deleteDataSet", ldName, dataSetReference), error,
-        [ldName, dataSetReference](ChangePointer change) {
-            return dropDataSet(std::move(change), ldName, dataSetReference);
-        },
-        Need::Association);
+    return {intentOf("deleteDataSet", ldName, dataSetReference),
+            [ldName, dataSetReference](ChangePointer change) {
+                return dropDataSet(std::move(change), ldName, dataSetReference);
+            }};
 }

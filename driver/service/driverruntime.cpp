@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "driverruntime.h"
 
-#include <remoteclient/controllercaller.h>
-
 #include <asio/post.hpp>
 #include <asio/strand.hpp>
 
@@ -42,7 +40,7 @@ DeviceConnection::Operation onlyOn(DeviceIdentity opened, DeviceConnection::Oper
 
 } // namespace
 
-IedDriver::Runtime::Runtime(IedDriverOptions options)
+DriverRuntime::DriverRuntime(IedDriverOptions options)
     : m_options(std::move(options))
     , m_work(asio::make_work_guard(m_context))
     , m_values(LiveValues::create(m_context.get_executor(), m_options.poster))
@@ -63,7 +61,7 @@ IedDriver::Runtime::Runtime(IedDriverOptions options)
         m_threads.emplace_back([this] { runContext(); });
 }
 
-void IedDriver::Runtime::runContext()
+void DriverRuntime::runContext()
 {
     // What a single handler throws must not be the end of all devices.
     for (bool hasEnded = false; !hasEnded;) {
@@ -79,7 +77,7 @@ void IedDriver::Runtime::runContext()
     m_threadEnded.notify_all();
 }
 
-IedDriver::Runtime::~Runtime()
+DriverRuntime::~DriverRuntime()
 {
     struct Remaining
     {
@@ -125,7 +123,7 @@ IedDriver::Runtime::~Runtime()
     m_observer.reset();
 }
 
-void IedDriver::Runtime::tellCounts()
+void DriverRuntime::tellCounts()
 {
     m_countTimer.expires_after(countInterval);
     m_countTimer.async_wait([this](const std::error_code &) {
@@ -136,7 +134,7 @@ void IedDriver::Runtime::tellCounts()
     });
 }
 
-void IedDriver::Runtime::setDevice(const DeviceConfiguration &configuration)
+void DriverRuntime::setDevice(const DeviceConfiguration &configuration)
 {
     std::shared_ptr<DeviceConnection> created;
     if (configuration.host.isEmpty()) {
@@ -185,32 +183,25 @@ void IedDriver::Runtime::setDevice(const DeviceConfiguration &configuration)
         std::shared_ptr<DeviceConnection> &place = m_connections[configuration.number];
         replaced = std::move(place);
         place = created;
-        if (created)
-            m_offlineNumbers.erase(configuration.number);
-        else {
+        if (!created)
             m_connections.erase(configuration.number);
-            m_offlineNumbers.insert(configuration.number);
-        }
     }
     m_observers->deviceChanged(configuration.number);
     if (replaced)
         replaced->disconnect();
 }
 
-void IedDriver::Runtime::holdModel(long deviceNo, const QByteArray &model)
+void DriverRuntime::holdModel(long deviceNo, const QByteArray &model)
 {
     m_offline.holdModel(deviceNo, model);
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_offlineNumbers.insert(deviceNo);
 }
 
-void IedDriver::Runtime::removeDevice(long deviceNo)
+void DriverRuntime::removeDevice(long deviceNo)
 {
     m_offline.removeDevice(deviceNo);
     std::shared_ptr<DeviceConnection> removed;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        m_offlineNumbers.erase(deviceNo);
         m_bound.erase(m_bound.lower_bound({deviceNo, 0}), m_bound.lower_bound({deviceNo + 1, 0}));
         const auto found = m_connections.find(deviceNo);
         if (found == m_connections.end())
@@ -222,14 +213,14 @@ void IedDriver::Runtime::removeDevice(long deviceNo)
     removed->disconnect();
 }
 
-std::shared_ptr<DeviceConnection> IedDriver::Runtime::connection(long deviceNo) const
+std::shared_ptr<DeviceConnection> DriverRuntime::connection(long deviceNo) const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     const auto found = m_connections.find(deviceNo);
     return found == m_connections.end() ? nullptr : found->second;
 }
 
-std::vector<std::shared_ptr<DeviceConnection>> IedDriver::Runtime::connections() const
+std::vector<std::shared_ptr<DeviceConnection>> DriverRuntime::connections() const
 {
     std::vector<std::shared_ptr<DeviceConnection>> result;
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -238,8 +229,7 @@ std::vector<std::shared_ptr<DeviceConnection>> IedDriver::Runtime::connections()
     return result;
 }
 
-std::shared_ptr<DeviceConnection>
-IedDriver::Runtime::separate(const DeviceConfiguration &configuration)
+std::shared_ptr<DeviceConnection> DriverRuntime::separate(const DeviceConfiguration &configuration)
 {
     ConnectionEnvironment environment;
     environment.values = m_values;
@@ -250,42 +240,24 @@ IedDriver::Runtime::separate(const DeviceConfiguration &configuration)
                                     std::move(environment));
 }
 
-void IedDriver::Runtime::bindCaller(long deviceNo, const DeviceIdentity &identity)
+void DriverRuntime::bind(const CalledDevice &device, const DeviceIdentity &identity)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_bound[{deviceNo, ControllerCaller::current()}] = identity;
+    m_bound[{device->configuration().number, device.tool()}] = identity;
 }
 
-std::optional<DeviceIdentity> IedDriver::Runtime::boundTo(long deviceNo) const
+std::optional<DeviceIdentity> DriverRuntime::boundTo(const CalledDevice &device) const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    const auto found = m_bound.find({deviceNo, ControllerCaller::current()});
+    const auto found = m_bound.find({device->configuration().number, device.tool()});
     if (found == m_bound.end())
         return std::nullopt;
     return found->second;
 }
 
-OperationResult IedDriver::Runtime::withoutConnection(long deviceNo, QString &error) const
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    const bool isKnown = m_offlineNumbers.count(deviceNo) != 0;
-    error = isKnown ? Texts::tr("Not connected to the device")
-                    : Texts::tr("There is no device %1 on this driver.").arg(deviceNo);
-    return isKnown ? OperationNotConnected : OperationFailed;
-}
-
-OperationResult IedDriver::Runtime::run(long deviceNo, QString &error,
-                                        DeviceConnection::Operation operation,
-                                        DeviceConnection::Need need, milliseconds limit)
-{
-    const auto device = connection(deviceNo);
-    return device ? run(device, error, std::move(operation), need, limit)
-                  : withoutConnection(deviceNo, error);
-}
-
-OperationResult IedDriver::Runtime::run(const std::shared_ptr<DeviceConnection> &device,
-                                        QString &error, DeviceConnection::Operation operation,
-                                        DeviceConnection::Need need, milliseconds limit)
+OperationResult DriverRuntime::run(const CalledDevice &device, QString &error,
+                                   DeviceConnection::Operation operation, Need need,
+                                   milliseconds limit)
 {
     Outcome outcome = limit == usualLimit ? device->perform(need, std::move(operation))
                                           : device->perform(need, limit, std::move(operation));
@@ -293,44 +265,41 @@ OperationResult IedDriver::Runtime::run(const std::shared_ptr<DeviceConnection> 
     return outcome.result;
 }
 
-OperationResult IedDriver::Runtime::change(long deviceNo, ChangeIntent intent, QString &error,
-                                           ChangeGate::Work work, DeviceConnection::Need need,
-                                           milliseconds limit)
+OperationResult DriverRuntime::change(const CalledDevice &device, ChangeIntent intent,
+                                      QString &error, ChangeGate::Work work, Need need,
+                                      milliseconds limit)
 {
     Outcome refusal;
-    const ChangePointer change = announce(deviceNo, std::move(intent), refusal);
+    const ChangePointer change = announce(device, std::move(intent), refusal);
     error = refusal.error;
-    return change ? carryOut(deviceNo, change, error, std::move(work), need, limit)
-                  : refusal.result;
+    return change ? carryOut(device, change, error, std::move(work), need, limit) : refusal.result;
 }
 
-ChangePointer IedDriver::Runtime::announce(long deviceNo, ChangeIntent intent, Outcome &refusal)
+ChangePointer DriverRuntime::announce(const CalledDevice &device, ChangeIntent intent,
+                                      Outcome &refusal)
 {
-    if (const auto device = connection(deviceNo))
-        return ChangeGate::announce(device, std::move(intent), refusal);
-    if (refusal)
-        refusal.result = withoutConnection(deviceNo, refusal.error);
-    return nullptr;
+    intent.caller = device.caller();
+    return ChangeGate::announce(device, std::move(intent), refusal);
 }
 
-OperationResult IedDriver::Runtime::carryOut(long deviceNo, const ChangePointer &change,
-                                             QString &error, ChangeGate::Work work,
-                                             DeviceConnection::Need need, milliseconds limit)
+OperationResult DriverRuntime::carryOut(const CalledDevice &device, const ChangePointer &change,
+                                        QString &error, ChangeGate::Work work, Need need,
+                                        milliseconds limit)
 {
     DeviceConnection::Operation operation =
         [change, work = std::move(work)](const std::shared_ptr<DeviceConnection> &) {
             return ChangeGate::carryOut(change, work);
         };
-    if (const std::optional<DeviceIdentity> bound = boundTo(deviceNo)) {
+    if (const std::optional<DeviceIdentity> bound = boundTo(device)) {
         operation = onlyOn(*bound, std::move(operation));
-        need = DeviceConnection::Need::Model;
+        need = Need::Model;
     }
-    const OperationResult result = run(change->device(), error, std::move(operation), need, limit);
+    const OperationResult result = run(device, error, std::move(operation), need, limit);
     ChangeGate::withdraw(change, {result, error});
     return result;
 }
 
-QString IedDriver::Runtime::claim(Holder holder, const QStringList &logicalDevices)
+QString DriverRuntime::claim(Holder holder, const QStringList &logicalDevices)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     for (const QString &name : logicalDevices) {
@@ -350,7 +319,7 @@ QString IedDriver::Runtime::claim(Holder holder, const QStringList &logicalDevic
     return {};
 }
 
-void IedDriver::Runtime::release(Holder holder)
+void DriverRuntime::release(Holder holder)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     const std::size_t before = m_claimed.size();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "calleddevice.h"
+
 #include "driver/administration/driverobservers.h"
 #include "driver/device/changegate.h"
 #include "driver/device/deviceconnection.h"
@@ -18,20 +20,19 @@
 #include <memory>
 #include <mutex>
 #include <optional>
-#include <set>
 #include <thread>
 #include <utility>
 #include <vector>
 
 /// What the controller operations of the driver run on: threads, devices by number, and the rules
 /// that hold for every operation. Any thread.
-class IedDriver::Runtime
+class DriverRuntime
 {
 public:
     using Need = DeviceConnection::Need;
 
-    explicit Runtime(IedDriverOptions options);
-    ~Runtime();
+    explicit DriverRuntime(IedDriverOptions options);
+    ~DriverRuntime();
 
     void setDevice(const DeviceConfiguration &configuration);
     void holdModel(long deviceNo, const QByteArray &model);
@@ -47,35 +48,33 @@ public:
     void setReadOnly(bool readOnly) { m_readOnly = readOnly; }
     bool isReadOnly() const { return m_readOnly; }
 
-    /// The caller has been given the model of the device: from now on its calls are about that one
-    /// and no other that answers in its place.
-    void bindCaller(long deviceNo, const DeviceIdentity &identity);
+    /// The caller's tool has been given the model of the device: from now on its changes are about
+    /// that one and no other that answers in its place.
+    void bind(const CalledDevice &device, const DeviceIdentity &identity);
 
     /// Of an operation that ends at the latest after the device's operation time-out.
     static constexpr std::chrono::milliseconds usualLimit{0};
 
-    /// Runs an operation that leaves the device as it is; refused when the device has no address.
-    /// Fills @p error.
-    OperationResult run(long deviceNo, QString &error, DeviceConnection::Operation operation,
-                        Need need = Need::Model, std::chrono::milliseconds limit = usualLimit);
-    /// Runs an operation that changes something on the device; refused also by the device's gate,
-    /// and when another device than the one that the caller was bound to has answered.
-    OperationResult change(long deviceNo, ChangeIntent intent, QString &error,
+    /// Runs an operation that leaves the device as it is. Fills @p error.
+    static OperationResult run(const CalledDevice &device, QString &error,
+                               DeviceConnection::Operation operation, Need need = Need::Model,
+                               std::chrono::milliseconds limit = usualLimit);
+    /// Runs an operation that changes something on the device on the caller's behalf; refused by
+    /// the device's gate, and when another device than the one that the caller's tool was bound to
+    /// has answered.
+    OperationResult change(const CalledDevice &device, ChangeIntent intent, QString &error,
                            ChangeGate::Work work, Need need = Need::Model,
                            std::chrono::milliseconds limit = usualLimit);
     /// A change that is going to be carried out; null with the reason in @p refusal. Refused as
     /// well, with the journal told, when @p refusal has a reason already.
-    ChangePointer announce(long deviceNo, ChangeIntent intent, Outcome &refusal);
+    static ChangePointer announce(const CalledDevice &device, ChangeIntent intent,
+                                  Outcome &refusal);
     /// Carries out a change that was announced.
-    OperationResult carryOut(long deviceNo, const ChangePointer &change, QString &error,
-                             ChangeGate::Work work, Need need = Need::Model,
+    OperationResult carryOut(const CalledDevice &device, const ChangePointer &change,
+                             QString &error, ChangeGate::Work work, Need need = Need::Model,
                              std::chrono::milliseconds limit = usualLimit);
 
 private:
-    OperationResult run(const std::shared_ptr<DeviceConnection> &device, QString &error,
-                        DeviceConnection::Operation operation, Need need,
-                        std::chrono::milliseconds limit);
-    OperationResult withoutConnection(long deviceNo, QString &error) const;
     /// Who holds the names of logical devices: a connection, since the one that replaces it under
     /// the same number may claim them before it has let go.
     struct Holder
@@ -87,7 +86,7 @@ private:
     QString claim(Holder holder, const QStringList &logicalDevices);
     void release(Holder holder);
     void runContext();
-    std::optional<DeviceIdentity> boundTo(long deviceNo) const;
+    std::optional<DeviceIdentity> boundTo(const CalledDevice &device) const;
     /// Lets observers know of counts that grow by themselves, again and again.
     void tellCounts();
 
@@ -104,9 +103,8 @@ private:
     std::atomic<bool> m_readOnly{false};
     mutable std::mutex m_mutex;
     std::map<long, std::shared_ptr<DeviceConnection>> m_connections;
-    std::set<long> m_offlineNumbers;     ///< devices without an address
     std::map<QString, Holder> m_claimed; ///< by logical device
-    /// What callers were given the model of, by device and caller.
+    /// What was given the model of which device, by the device's number and the tool.
     std::map<std::pair<long, quint64>, DeviceIdentity> m_bound;
     std::uint64_t m_lastConnection = 0;
     std::condition_variable m_threadEnded;

@@ -9,5 +9,5 @@ EmbeddedDriver startEmbeddedDriver(const EmbeddedDriverOptions &options)
     driver.cacheFolder = options.cacheFolder;
     driver.journal = options.journal;
     const auto started = std::make_shared<IedDriver>(std::move(driver));
-    return {started, started};
+    return {started, started->serviceFor(Caller::ofThisProcess())};
 }

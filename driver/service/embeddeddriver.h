@@ -10,11 +10,12 @@
 #include <functional>
 #include <memory>
 
-/// A driver as programs know one: it ends with the last who shares it, by either of the two.
+/// A driver as programs know one. It ends with the last who shares its administration; who has the
+/// service only reaches nobody from then on.
 struct EmbeddedDriver
 {
     std::shared_ptr<DriverAdministration> administration;
-    std::shared_ptr<DriverService> service;
+    std::shared_ptr<DriverService> service; ///< what the user of this process has
 };
 
 struct EmbeddedDriverOptions

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "deviceoperations.h"
 #include "driver/core/filenames.h"
 #include "driver/device/transferpace.h"
 #include "driver/text/sentences.h"
-#include "driverruntime.h"
 
 #include "acsi/files.h"
 
@@ -19,18 +19,19 @@
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
+using DeviceOperations::ChangeOrder;
+using DeviceOperations::Result;
+using DeviceOperations::Tool;
+
 namespace {
 
 using DevicePointer = std::shared_ptr<DeviceConnection>;
-using Need = DeviceConnection::Need;
 
 struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(IedDriver)
 };
 
-/// Whatever a device does, a transfer that goes on block by block ends after that.
-constexpr std::chrono::hours longestTransfer{1};
 /// What is fetched is kept in memory as a whole.
 constexpr quint32 largestFile = 1U << 30;
 
@@ -146,7 +147,7 @@ Outcome connectedOutcome(const DevicePointer &device)
 }
 
 asio::awaitable<Outcome> list(DevicePointer device, QString pattern, QString directory,
-                              std::shared_ptr<QList<MMSFileEntry>> entries)
+                              QList<MMSFileEntry> *entries)
 {
     Turn turn(device, Texts::tr("listing \"%1\"").arg(directory));
     Outcome outcome = co_await turn.begin();
@@ -162,8 +163,7 @@ asio::awaitable<Outcome> list(DevicePointer device, QString pattern, QString dir
     co_return Outcome();
 }
 
-asio::awaitable<Outcome> fetch(DevicePointer device, QString name,
-                               std::shared_ptr<QByteArray> content)
+asio::awaitable<Outcome> fetch(DevicePointer device, QString name, QByteArray *content)
 {
     Turn turn(device, Texts::tr("fetching \"%1\"").arg(name));
     Outcome outcome = co_await turn.begin();
@@ -286,55 +286,29 @@ asio::awaitable<Outcome> send(ChangePointer change, QString localFile, std::stri
 
 } // namespace
 
-OperationResult IedDriver::getFileDirectory(long deviceNo, const QString &pattern,
-                                            const QString &directory, QList<MMSFileEntry> &entries,
-                                            QString &error)
+Result DeviceOperations::getFileDirectory(CalledDevice device, const QString &pattern,
+                                          const QString &directory, QList<MMSFileEntry> &entries)
 {
-    const auto listed = std::make_shared<QList<MMSFileEntry>>();
-    const OperationResult result = m_runtime->run(
-        deviceNo, error,
-        [pattern, directory, listed](DevicePointer device) {
-            return list(std::move(device), pattern, directory, listed);
-        },
-        Need::Association);
-    if (result == OperationSucceeded)
-        entries = *listed;
-    return result;
+    return list(device, pattern, directory, &entries);
 }
 
-OperationResult IedDriver::getFile(long deviceNo, const QString &fileName, QByteArray &content,
-                                   QString &error)
+Result DeviceOperations::getFile(CalledDevice device, const QString &fileName, QByteArray &content)
 {
-    const auto fetched = std::make_shared<QByteArray>();
-    const OperationResult result = m_runtime->run(
-        deviceNo, error,
-        [fileName, fetched](DevicePointer device) {
-            return fetch(std::move(device), fileName, fetched);
-        },
-        Need::Association, longestTransfer);
-    if (result == OperationSucceeded)
-        content = std::move(*fetched);
-    return result;
+    return fetch(device, fileName, &content);
 }
 
-OperationResult IedDriver::deleteFile(long deviceNo, const QString &fileName, QString &error)
+ChangeOrder DeviceOperations::deleteFile(Tool, const QString &fileName)
 {
-    return m_runtime->change(
-        deviceNo, intentOf("deleteFile", FileNames::onDevice(fileName)), error,
-        [fileName](ChangePointer change) { return remove(std::move(change), fileName); },
-        Need::Association);
+    return {intentOf("deleteFile", FileNames::onDevice(fileName)),
+            [fileName](ChangePointer change) { return remove(std::move(change), fileName); }};
 }
 
-OperationResult IedDriver::writeFile(long deviceNo, const QString &localFile,
-                                     const QString &fileName, QString &error)
+ChangeOrder DeviceOperations::writeFile(Tool, const QString &localFile, const QString &fileName)
 {
     const std::string plain = FileNames::onDevice(FileNames::target(fileName, localFile));
     ChangeIntent intent = intentOf("writeFile", plain);
     intent.newValue = localFile;
-    return m_runtime->change(
-        deviceNo, std::move(intent), error,
-        [localFile, plain](ChangePointer change) {
-            return send(std::move(change), localFile, plain);
-        },
-        Need::Association, longestTransfer);
+    return {std::move(intent), [localFile, plain](ChangePointer change) {
+                return send(std::move(change), localFile, plain);
+            }};
 }

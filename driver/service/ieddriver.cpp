@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ieddriver.h"
 
+#include "callerservice.h"
+
 #include "driver/device/configurationfiles.h"
 #include "driver/device/modelreading.h"
-#include "driver/device/valuepublishing.h"
 #include "driver/model/valueconversion.h"
 #include "driver/text/csvfield.h"
 #include "driverruntime.h"
@@ -54,7 +55,7 @@ QString csvOf(const PhysicalDevice &device)
 } // namespace
 
 IedDriver::IedDriver(IedDriverOptions options)
-    : m_runtime(std::make_unique<Runtime>(std::move(options)))
+    : m_runtime(std::make_shared<DriverRuntime>(std::move(options)))
 {
 }
 
@@ -146,16 +147,20 @@ QString IedDriver::saveCapture(long deviceNo, QIODevice &out) const
 
 QString IedDriver::exportValues(long deviceNo, QIODevice &out)
 {
+    const auto device = m_runtime->connection(deviceNo);
+    if (!device) {
+        return m_runtime->offline().hasDevice(deviceNo) ? Texts::tr("Not connected to the device")
+                                                        : noDevice(deviceNo);
+    }
     const auto csv = std::make_shared<QString>();
-    QString error;
-    const OperationResult result =
-        m_runtime->run(deviceNo, error,
-                       [csv](std::shared_ptr<DeviceConnection> device) -> asio::awaitable<Outcome> {
-                           *csv = csvOf(device->model()->device());
-                           co_return Outcome();
-                       });
-    if (result != OperationSucceeded)
-        return error;
+    const Outcome outcome =
+        device->perform(DeviceConnection::Need::Model,
+                        [csv](std::shared_ptr<DeviceConnection> self) -> asio::awaitable<Outcome> {
+                            *csv = csvOf(self->model()->device());
+                            co_return Outcome();
+                        });
+    if (!outcome)
+        return outcome.error;
     const QByteArray bytes = csv->toUtf8();
     if (out.write(bytes) != bytes.size())
         return Texts::tr("The values cannot be written: %1").arg(out.errorString());
@@ -229,34 +234,7 @@ DeviceTestResult IedDriver::test(const DeviceConfiguration &configuration)
     return result;
 }
 
-OperationResult IedDriver::getIEDModel(long deviceNo, QByteArray &model, QString &error)
+std::shared_ptr<DriverService> IedDriver::serviceFor(const Caller &caller)
 {
-    if (!m_runtime->connection(deviceNo))
-        return m_runtime->offline().getIEDModel(deviceNo, model, error);
-    const auto bytes = std::make_shared<QByteArray>();
-    const auto identity = std::make_shared<DeviceIdentity>();
-    const OperationResult result = m_runtime->run(
-        deviceNo, error,
-        [bytes, identity](std::shared_ptr<DeviceConnection> device) -> asio::awaitable<Outcome> {
-            co_await device->modelReading().refreshDataSets();
-            co_await device->modelReading().refreshReportBlocks();
-            *bytes = device->values().modelBytes();
-            *identity = device->identity();
-            co_return Outcome();
-        });
-    if (result == OperationSucceeded) {
-        model = *bytes;
-        if (identity->isKnown())
-            m_runtime->bindCaller(deviceNo, *identity);
-    }
-    return result;
-}
-
-OperationResult IedDriver::abortClose(long deviceNo)
-{
-    const auto device = m_runtime->connection(deviceNo);
-    if (!device)
-        return OperationNotConnected;
-    device->abort();
-    return OperationSucceeded;
+    return std::make_shared<CallerService>(m_runtime, caller);
 }

@@ -6,10 +6,13 @@
 
 #include "osi/hostlookup.h"
 
+#include <remoteclient/caller.h>
 #include <remoteclient/driverservice.h>
 
 #include <functional>
 #include <memory>
+
+class DriverRuntime;
 
 struct IedDriverOptions
 {
@@ -33,10 +36,9 @@ struct IedDriverOptions
 
 /// The driver: devices by number, reached over MMS or known only from their SCL file.
 ///
-/// Every function may be called from any thread but the driver's own; controller operations block
-/// it until the device has answered, at the latest until the device's time is over. The destructor
-/// leaves all devices in an orderly way; no call may be under way.
-class IedDriver : public DriverService, public DriverAdministration
+/// Every function may be called from any thread but the driver's own. The destructor leaves all
+/// devices in an orderly way; no call may be under way.
+class IedDriver : public DriverAdministration
 {
 public:
     explicit IedDriver(IedDriverOptions options = {});
@@ -66,79 +68,11 @@ public:
 
     DeviceTestResult test(const DeviceConfiguration &configuration) override;
 
-    OperationResult getIEDModel(long deviceNo, QByteArray &model, QString &error) override;
-    OperationResult getServerDirectory(long deviceNo, QList<NameVaildValue> &list,
-                                       QString &error) override;
-    OperationResult getLogicalDeviceDirectory(long deviceNo, const QString &ldName,
-                                              QList<NameVaildValue> &list, QString &error) override;
-    OperationResult getLogicalNodeDirectory(long deviceNo, const QString &ldName,
-                                            const QString &lnName, QList<NameVaildValue> &list,
-                                            QString &error) override;
-    OperationResult getDataDirectory(long deviceNo, const QString &ldName,
-                                     const QString &dataReference, QList<NameVaildValue> &list,
-                                     QString &error) override;
-    OperationResult getDataSetList(long deviceNo, const QString &ldName,
-                                   QList<NameVaildValue> &list, QString &error) override;
-    OperationResult getDataSetDirectory(long deviceNo, const QString &ldName,
-                                        const QString &dataSetReference,
-                                        QList<NameVaildValue> &list, QString &error) override;
-    OperationResult getXRCB(long deviceNo, const QString &ldName, const QString &lnName,
-                            const QString &kind, QList<NameVaildValue> &list,
-                            QString &error) override;
-    OperationResult getSGCBBlock(long deviceNo, const QString &ldName, QList<NameVaildValue> &list,
-                                 QString &error) override;
-    OperationResult readVariable(long deviceNo, const QString &ldName,
-                                 const QStringList &references, QString &error) override;
-    OperationResult readDataSetValue(long deviceNo, const QString &ldName,
-                                     const QString &dataSetReference, QString &error) override;
-    OperationResult writeVariable(long deviceNo, const QString &ldName, const QString &reference,
-                                  const QByteArray &value, QString &error) override;
-    OperationResult writeValue(long deviceNo, const QString &ldName, const QString &blockReference,
-                               const QString &attribute, const QByteArray &value,
-                               QString &error) override;
-    OperationResult selectObject(long deviceNo, const QString &ldName,
-                                 const QString &objectReference, const QByteArray &controlBlock,
-                                 QString &error) override;
-    OperationResult controlObject(long deviceNo, const QString &ldName,
-                                  const QString &objectReference, const QByteArray &controlBlock,
-                                  QString &error) override;
-    OperationResult cancelObject(long deviceNo, const QString &ldName,
-                                 const QString &objectReference, const QByteArray &controlBlock,
-                                 QString &error) override;
-    OperationResult createDataSet(long deviceNo, const QString &ldName,
-                                  const QString &dataSetReference, const QString &members,
-                                  int nonPersistent, QString &error) override;
-    OperationResult deleteDataSet(long deviceNo, const QString &ldName,
-                                  const QString &dataSetReference, QString &error) override;
-    OperationResult getFileDirectory(long deviceNo, const QString &pattern,
-                                     const QString &directory, QList<MMSFileEntry> &entries,
-                                     QString &error) override;
-    OperationResult getFile(long deviceNo, const QString &fileName, QByteArray &content,
-                            QString &error) override;
-    OperationResult deleteFile(long deviceNo, const QString &fileName, QString &error) override;
-    OperationResult writeFile(long deviceNo, const QString &localFile, const QString &fileName,
-                              QString &error) override;
-    OperationResult getBRCBValues(long deviceNo, const QString &ldName,
-                                  const QString &blockReference, ReportBlock &block,
-                                  QString &error) override;
-    OperationResult enableReportBlock(long deviceNo, const QString &ldName,
-                                      const QString &blockReference, const QString &rptId,
-                                      const QString &dataSet, const ReportBlock &block,
-                                      QString &error) override;
-    OperationResult getSGCB(long deviceNo, const QString &sgcbReference, SGCB &block,
-                            QString &error) override;
-    OperationResult getSGCBValue(long deviceNo, const QString &sgcbReference, const QString &fc,
-                                 QList<SGCBValue> &values, QString &error) override;
-    OperationResult setSGCBValues(long deviceNo, const QString &sgcbReference,
-                                  const QList<SGCBValue> &values, QString &error) override;
-    OperationResult selectEditSG(long deviceNo, const QString &sgcbReference, int group,
-                                 QString &error) override;
-    OperationResult selectActiveSG(long deviceNo, const QString &sgcbReference, int group,
-                                   QString &error) override;
-    OperationResult abortClose(long deviceNo) override;
+    /// The operations on devices as one caller has them: what is done through the service was done
+    /// by him. They block the calling thread until the device has answered, at the latest until the
+    /// device's time is over. A service may outlive the driver; then nobody can be reached.
+    std::shared_ptr<DriverService> serviceFor(const Caller &caller);
 
 private:
-    class Runtime;
-
-    std::unique_ptr<Runtime> m_runtime;
+    std::shared_ptr<DriverRuntime> m_runtime;
 };

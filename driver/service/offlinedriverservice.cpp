@@ -14,6 +14,12 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(OfflineDriverService)
 };
 
+OperationResult unknown(long deviceNo, QString &error)
+{
+    error = Texts::tr("There is no device %1 on this driver.").arg(deviceNo);
+    return OperationFailed;
+}
+
 void markAsOffline(const QList<DAO *> &nodes)
 {
     for (const DAO *node : nodes) {
@@ -43,6 +49,12 @@ void OfflineDriverService::removeDevice(long deviceNo)
     m_devices.remove(deviceNo);
 }
 
+bool OfflineDriverService::hasDevice(long deviceNo) const
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_devices.contains(deviceNo);
+}
+
 QByteArray OfflineDriverService::offlineModel(PhysicalDevice &device)
 {
     device.offline = true;
@@ -65,8 +77,7 @@ OperationResult OfflineDriverService::getIEDModel(long deviceNo, QByteArray &mod
         const QMutexLocker lock(&m_mutex);
         const auto found = m_devices.constFind(deviceNo);
         if (found == m_devices.constEnd()) {
-            error = Texts::tr("There is no device %1 on this driver.").arg(deviceNo);
-            return OperationFailed;
+            return unknown(deviceNo, error);
         }
         device = *found;
     }
@@ -86,8 +97,15 @@ OperationResult OfflineDriverService::getIEDModel(long deviceNo, QByteArray &mod
     return OperationSucceeded;
 }
 
+OperationResult OfflineDriverService::abortClose(long)
+{
+    return OperationNotConnected;
+}
+
 OperationResult OfflineDriverService::call(const DriverCall &call)
 {
+    if (!hasDevice(call.deviceNo()))
+        return unknown(call.deviceNo(), call.error());
     call.error() = Texts::tr("Not connected to the device");
     return OperationNotConnected;
 }

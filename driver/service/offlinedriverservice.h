@@ -28,6 +28,8 @@ public:
     /// Answer for the device no longer.
     void removeDevice(long deviceNo);
 
+    bool hasDevice(long deviceNo) const;
+
     /// The bytes of an IED's model, marked as offline: what holdModel() takes. The references of
     /// its attributes begin with offlineMark(), so that values of a connected device with the same
     /// logical devices are none of this one. Any thread.
@@ -36,6 +38,7 @@ public:
     static QString offlineMark() { return QStringLiteral("file:"); }
 
     OperationResult getIEDModel(long deviceNo, QByteArray &model, QString &error) override;
+    OperationResult abortClose(long deviceNo) override;
 
 protected:
     OperationResult call(const DriverCall &call) override;
@@ -48,6 +51,6 @@ private:
         QByteArray model;
     };
 
-    QMutex m_mutex;
+    mutable QMutex m_mutex;
     QHash<long, Device> m_devices; ///< under m_mutex
 };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "driverruntime.h"
+#include "deviceoperations.h"
 
 #include "driver/device/modelreading.h"
 #include "driver/device/reportsubscriptions.h"
@@ -13,6 +13,10 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+
+using DeviceOperations::ChangeOrder;
+using DeviceOperations::Result;
+using DeviceOperations::Tool;
 
 namespace {
 
@@ -96,7 +100,7 @@ ReportBlock toRecord(const acsi::Reference &reference, const acsi::ReportBlock &
 }
 
 asio::awaitable<Outcome> readBlock(DevicePointer device, QString ldName, QString name,
-                                   std::shared_ptr<ReportBlock> record)
+                                   ReportBlock *record)
 {
     const mms::Result<acsi::Reference> block = blockOf(ldName, name);
     if (!block)
@@ -352,45 +356,32 @@ asio::awaitable<Outcome> enableBlock(ChangePointer change, QString ldName, QStri
 
 } // namespace
 
-OperationResult IedDriver::getBRCBValues(long deviceNo, const QString &ldName,
-                                         const QString &blockReference, ReportBlock &block,
-                                         QString &error)
+Result DeviceOperations::getBRCBValues(CalledDevice device, const QString &ldName,
+                                       const QString &blockReference, ReportBlock &block)
 {
-    const auto record = std::make_shared<ReportBlock>();
-    const OperationResult result =
-        m_runtime->run(deviceNo, error, [ldName, blockReference, record](DevicePointer device) {
-            return readBlock(std::move(device), ldName, blockReference, record);
-        });
-    if (result == OperationSucceeded)
-        block = *record;
-    return result;
+    return readBlock(device, ldName, blockReference, &block);
 }
 
-OperationResult IedDriver::writeValue(long deviceNo, const QString &ldName,
-                                      const QString &blockReference, const QString &attribute,
-                                      const QByteArray &value, QString &error)
+ChangeOrder DeviceOperations::writeValue(Tool, const QString &ldName, const QString &blockReference,
+                                         const QString &attribute, const QByteArray &value)
 {
     ChangeIntent intent;
     intent.operation = QStringLiteral("writeValue");
     intent.reference = QStringLiteral("%1/%2$%3").arg(ldName, blockReference, attribute);
-    return m_runtime->change(deviceNo, std::move(intent), error,
-                             [ldName, blockReference, attribute, value](ChangePointer change) {
-                                 return writeAttribute(std::move(change), ldName, blockReference,
-                                                       attribute, value);
-                             });
+    return {std::move(intent), [ldName, blockReference, attribute, value](ChangePointer change) {
+                return writeAttribute(std::move(change), ldName, blockReference, attribute, value);
+            }};
 }
 
-OperationResult IedDriver::enableReportBlock(long deviceNo, const QString &ldName,
-                                             const QString &blockReference, const QString &rptId,
-                                             const QString &dataSet, const ReportBlock &block,
-                                             QString &error)
+ChangeOrder DeviceOperations::enableReportBlock(Tool, const QString &ldName,
+                                                const QString &blockReference, const QString &rptId,
+                                                const QString &dataSet, const ReportBlock &block)
 {
     ChangeIntent intent;
     intent.operation = QStringLiteral("enableReportBlock");
     intent.reference = ldName + QLatin1Char('/') + blockReference;
-    return m_runtime->change(deviceNo, std::move(intent), error,
-                             [ldName, blockReference, rptId, dataSet, block](ChangePointer change) {
-                                 return enableBlock(std::move(change), ldName, blockReference,
-                                                    rptId, dataSet, block);
-                             });
+    return {
+        std::move(intent), [ldName, blockReference, rptId, dataSet, block](ChangePointer change) {
+            return enableBlock(std::move(change), ldName, blockReference, rptId, dataSet, block);
+        }};
 }

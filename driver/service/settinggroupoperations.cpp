@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "deviceoperations.h"
 #include "driver/device/settinggroups.h"
 #include "driver/device/settingvalues.h"
 #include "driver/device/valuepublishing.h"
 #include "driver/text/connectiontext.h"
 #include "driver/text/sentences.h"
-#include "driverruntime.h"
 
 #include "acsi/settinggroup.h"
-
-#include <remoteclient/controllercaller.h>
 
 #include <asio/steady_timer.hpp>
 #include <asio/use_awaitable.hpp>
@@ -22,12 +20,15 @@
 using acsi::FunctionalConstraint;
 using std::chrono::steady_clock;
 
+using DeviceOperations::ChangeOrder;
+using DeviceOperations::Result;
+using DeviceOperations::Tool;
+
 namespace {
 
 using ConnectionText::text;
 
 using DevicePointer = std::shared_ptr<DeviceConnection>;
-using Caller = SettingGroupEdit::Caller;
 using Verdict = SettingGroupEdit::Verdict;
 
 struct Texts
@@ -55,8 +56,7 @@ QDateTime dateTime(const mms::UtcTime &time)
     return QDateTime::fromMSecsSinceEpoch(moment.time_since_epoch().count(), Qt::UTC);
 }
 
-asio::awaitable<Outcome> readBlock(DevicePointer device, QString ldName,
-                                   std::shared_ptr<SGCB> block)
+asio::awaitable<Outcome> readBlock(DevicePointer device, QString ldName, SGCB *block)
 {
     const mms::Result<acsi::Reference> reference = SettingModel::block(*device->model(), ldName);
     if (!reference)
@@ -128,7 +128,7 @@ Outcome stillConnected(const DevicePointer &device)
 
 /// Whether the caller may read or write the edited settings, as the device says now.
 asio::awaitable<Outcome> checkEdit(DevicePointer device, QString ldName, acsi::Reference block,
-                                   Caller caller)
+                                   Tool tool)
 {
     if (SettingModel::nodes(*device->model(), ldName, FunctionalConstraint::SE).empty())
         co_return Outcome::failed(noEditedSettings(ldName));
@@ -140,7 +140,7 @@ asio::awaitable<Outcome> checkEdit(DevicePointer device, QString ldName, acsi::R
     if (!connected)
         co_return connected;
     SettingGroupEdit &edit = device->part<SettingGroups>().edit(ldName);
-    const Verdict verdict = edit.verdict(caller, read->editSG);
+    const Verdict verdict = edit.verdict(tool, read->editSG);
     const QString refusal = refusalOf(verdict, ldName, edit.group(), read->editSG);
     if (refusal.isEmpty()) {
         edit.used(steady_clock::now());
@@ -151,8 +151,8 @@ asio::awaitable<Outcome> checkEdit(DevicePointer device, QString ldName, acsi::R
     co_return Outcome::failed(refusal);
 }
 
-asio::awaitable<Outcome> readValues(DevicePointer device, QString ldName, QString fc, Caller caller,
-                                    std::shared_ptr<QList<SGCBValue>> values)
+asio::awaitable<Outcome> readValues(DevicePointer device, QString ldName, QString fc, Tool tool,
+                                    QList<SGCBValue> *values)
 {
     const auto constraint = acsi::functionalConstraintFrom(fc.toStdString());
     if (constraint != FunctionalConstraint::SG && constraint != FunctionalConstraint::SE) {
@@ -164,10 +164,10 @@ asio::awaitable<Outcome> readValues(DevicePointer device, QString ldName, QStrin
         co_return Outcome::failed(block.error());
     Outcome outcome;
     if (constraint == FunctionalConstraint::SE) {
-        outcome = co_await checkEdit(device, ldName, *block, caller);
+        outcome = co_await checkEdit(device, ldName, *block, tool);
         if (!outcome)
             co_return outcome;
-    } else if (device->part<SettingGroups>().edit(ldName).endsByReadingActive(caller)) {
+    } else if (device->part<SettingGroups>().edit(ldName).endsByReadingActive(tool)) {
         co_await device->part<SettingGroups>().release(ldName);
         outcome = stillConnected(device);
         if (!outcome)
@@ -230,7 +230,7 @@ asio::awaitable<Outcome> confirm(ChangePointer change, QString ldName, acsi::Ref
 }
 
 asio::awaitable<Outcome> setValues(ChangePointer change, QString ldName, acsi::Reference block,
-                                   QList<SGCBValue> wanted, Caller caller)
+                                   QList<SGCBValue> wanted, Tool tool)
 {
     const DevicePointer device = change->device();
     for (const SGCBValue &value : qAsConst(wanted)) {
@@ -241,7 +241,7 @@ asio::awaitable<Outcome> setValues(ChangePointer change, QString ldName, acsi::R
                           "the group to edit first."));
         }
     }
-    Outcome outcome = co_await checkEdit(device, ldName, block, caller);
+    Outcome outcome = co_await checkEdit(device, ldName, block, tool);
     if (!outcome)
         co_return outcome;
     const mms::Result<std::vector<SettingValues::Setting>> known =
@@ -283,7 +283,7 @@ asio::awaitable<Outcome> setValues(ChangePointer change, QString ldName, acsi::R
 }
 
 asio::awaitable<Outcome> setAndConfirm(ChangePointer change, QString ldName,
-                                       QList<SGCBValue> wanted, Caller caller)
+                                       QList<SGCBValue> wanted, Tool tool)
 {
     const mms::Result<acsi::Reference> block =
         SettingModel::block(*change->device()->model(), ldName);
@@ -292,7 +292,7 @@ asio::awaitable<Outcome> setAndConfirm(ChangePointer change, QString ldName,
     change->intend();
     if (!block)
         co_return Outcome::failed(block.error());
-    co_return co_await setValues(change, ldName, *block, std::move(wanted), caller);
+    co_return co_await setValues(change, ldName, *block, std::move(wanted), tool);
 }
 
 Outcome rangeOf(const acsi::SettingGroupBlock &read, const acsi::Reference &block, int lowest,
@@ -370,7 +370,7 @@ asio::awaitable<Outcome> selectActive(ChangePointer change, acsi::Reference bloc
 }
 
 asio::awaitable<Outcome> selectEdited(ChangePointer change, acsi::Reference block, int group,
-                                      Caller caller)
+                                      Tool tool)
 {
     const DevicePointer device = change->device();
     const QString ldName = text(block.device);
@@ -425,7 +425,7 @@ asio::awaitable<Outcome> selectEdited(ChangePointer change, acsi::Reference bloc
     if (!outcome)
         co_return outcome;
     if (group > 0)
-        groups.edit(ldName).chosen(caller, number, steady_clock::now());
+        groups.edit(ldName).chosen(tool, number, steady_clock::now());
     else
         groups.edit(ldName).ended();
     co_return Outcome();
@@ -443,7 +443,7 @@ ChangeIntent intentOf(const char *operation, const QString &ldName, const QStrin
 enum class Selection { Active, Edited };
 
 asio::awaitable<Outcome> selectGroup(ChangePointer change, QString ldName, Selection selection,
-                                     int group, Caller caller)
+                                     int group, Tool tool)
 {
     const DevicePointer device = change->device();
     const bool isActive = selection == Selection::Active;
@@ -457,7 +457,7 @@ asio::awaitable<Outcome> selectGroup(ChangePointer change, QString ldName, Selec
     else if (isActive)
         outcome = co_await selectActive(change, *block, group);
     else
-        outcome = co_await selectEdited(change, *block, group, caller);
+        outcome = co_await selectEdited(change, *block, group, tool);
     change->end(outcome);
     // All settings are others now.
     if (outcome && isActive && stillConnected(device))
@@ -467,66 +467,41 @@ asio::awaitable<Outcome> selectGroup(ChangePointer change, QString ldName, Selec
 
 } // namespace
 
-OperationResult IedDriver::getSGCB(long deviceNo, const QString &sgcbReference, SGCB &block,
-                                   QString &error)
+Result DeviceOperations::getSGCB(CalledDevice device, const QString &sgcbReference, SGCB &block)
 {
-    const auto read = std::make_shared<SGCB>();
-    const QString ldName = logicalDeviceOf(sgcbReference);
-    const OperationResult result =
-        m_runtime->run(deviceNo, error, [ldName, read](DevicePointer device) {
-            return readBlock(std::move(device), ldName, read);
-        });
-    if (result == OperationSucceeded)
-        block = *read;
-    return result;
+    return readBlock(device, logicalDeviceOf(sgcbReference), &block);
 }
 
-OperationResult IedDriver::getSGCBValue(long deviceNo, const QString &sgcbReference,
-                                        const QString &fc, QList<SGCBValue> &values, QString &error)
+Result DeviceOperations::getSGCBValue(CalledDevice device, const QString &sgcbReference,
+                                      const QString &fc, QList<SGCBValue> &values)
 {
-    const auto read = std::make_shared<QList<SGCBValue>>();
-    const QString ldName = logicalDeviceOf(sgcbReference);
-    const Caller caller = ControllerCaller::current();
-    const OperationResult result =
-        m_runtime->run(deviceNo, error, [ldName, fc, caller, read](DevicePointer device) {
-            return readValues(std::move(device), ldName, fc, caller, read);
-        });
-    if (result == OperationSucceeded)
-        values = *read;
-    return result;
+    return readValues(device, logicalDeviceOf(sgcbReference), fc, device.tool(), &values);
 }
 
-OperationResult IedDriver::setSGCBValues(long deviceNo, const QString &sgcbReference,
-                                         const QList<SGCBValue> &values, QString &error)
+ChangeOrder DeviceOperations::setSGCBValues(Tool tool, const QString &sgcbReference,
+                                            const QList<SGCBValue> &values)
 {
     const QString ldName = logicalDeviceOf(sgcbReference);
-    const Caller caller = ControllerCaller::current();
-    return m_runtime->change(deviceNo, intentOf("setSGCBValues", ldName, QStringLiteral("true")),
-                             error, [ldName, values, caller](ChangePointer change) {
-                                 return setAndConfirm(std::move(change), ldName, values, caller);
-                             });
+    return {intentOf("setSGCBValues", ldName, QStringLiteral("true")),
+            [ldName, values, tool](ChangePointer change) {
+                return setAndConfirm(std::move(change), ldName, values, tool);
+            }};
 }
 
-OperationResult IedDriver::selectEditSG(long deviceNo, const QString &sgcbReference, int group,
-                                        QString &error)
+ChangeOrder DeviceOperations::selectEditSG(Tool tool, const QString &sgcbReference, int group)
 {
     const QString ldName = logicalDeviceOf(sgcbReference);
-    const Caller caller = ControllerCaller::current();
-    return m_runtime->change(deviceNo, intentOf("selectEditSG", ldName, QString::number(group)),
-                             error, [ldName, group, caller](ChangePointer change) {
-                                 return selectGroup(std::move(change), ldName, Selection::Edited,
-                                                    group, caller);
-                             });
+    return {intentOf("selectEditSG", ldName, QString::number(group)),
+            [ldName, group, tool](ChangePointer change) {
+                return selectGroup(std::move(change), ldName, Selection::Edited, group, tool);
+            }};
 }
 
-OperationResult IedDriver::selectActiveSG(long deviceNo, const QString &sgcbReference, int group,
-                                          QString &error)
+ChangeOrder DeviceOperations::selectActiveSG(Tool tool, const QString &sgcbReference, int group)
 {
     const QString ldName = logicalDeviceOf(sgcbReference);
-    const Caller caller = ControllerCaller::current();
-    return m_runtime->change(deviceNo, intentOf("selectActiveSG", ldName, QString::number(group)),
-                             error, [ldName, group, caller](ChangePointer change) {
-                                 return selectGroup(std::move(change), ldName, Selection::Active,
-                                                    group, caller);
-                             });
+    return {intentOf("selectActiveSG", ldName, QString::number(group)),
+            [ldName, group, tool](ChangePointer change) {
+                return selectGroup(std::move(change), ldName, Selection::Active, group, tool);
+            }};
 }

@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "deviceoperations.h"
 #include "driver/device/valuepublishing.h"
 #include "driver/model/valueconversion.h"
 #include "driver/text/sentences.h"
-#include "driverruntime.h"
 
 #include "acsi/dataset.h"
 
 #include <QtCore/QCoreApplication>
 
 #include <chrono>
+
+using DeviceOperations::ChangeOrder;
+using DeviceOperations::Result;
+using DeviceOperations::Tool;
 
 namespace {
 
@@ -147,37 +151,29 @@ asio::awaitable<Outcome> write(ChangePointer change, QString ldName, QString nam
 
 } // namespace
 
-OperationResult IedDriver::readVariable(long deviceNo, const QString &ldName,
-                                        const QStringList &references, QString &error)
+Result DeviceOperations::readVariable(CalledDevice device, const QString &ldName,
+                                      const QStringList &references)
 {
-    return m_runtime->run(deviceNo, error, [ldName, references](DevicePointer device) {
-        return readVariables(std::move(device), ldName, references);
-    });
+    return readVariables(device, ldName, references);
 }
 
-OperationResult IedDriver::readDataSetValue(long deviceNo, const QString &ldName,
-                                            const QString &dataSetReference, QString &error)
+Result DeviceOperations::readDataSetValue(CalledDevice device, const QString &ldName,
+                                          const QString &dataSetReference)
 {
-    return m_runtime->run(deviceNo, error, [ldName, dataSetReference](DevicePointer device) {
-        return readDataSet(std::move(device), ldName, dataSetReference);
-    });
+    return readDataSet(device, ldName, dataSetReference);
 }
 
-OperationResult IedDriver::writeVariable(long deviceNo, const QString &ldName,
-                                         const QString &reference, const QByteArray &value,
-                                         QString &error)
+ChangeOrder DeviceOperations::writeVariable(Tool, const QString &ldName, const QString &reference,
+                                            const QByteArray &value)
 {
     QVariant decoded;
-    if (!ValueConversion::readVariant(value, decoded)) {
-        error = Texts::tr("The value to be written cannot be read.");
-        return OperationFailed;
-    }
+    if (!ValueConversion::readVariant(value, decoded))
+        return ChangeOrder::refused(Texts::tr("The value to be written cannot be read."));
     ChangeIntent intent;
     intent.operation = QStringLiteral("writeVariable");
     intent.reference = ldName + QLatin1Char('/') + reference;
     intent.newValue = ValueConversion::text(decoded);
-    return m_runtime->change(deviceNo, std::move(intent), error,
-                             [ldName, reference, decoded](ChangePointer change) {
-                                 return write(std::move(change), ldName, reference, decoded);
-                             });
+    return {std::move(intent), [ldName, reference, decoded](ChangePointer change) {
+                return write(std::move(change), ldName, reference, decoded);
+            }};
 }

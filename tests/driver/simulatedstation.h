@@ -7,7 +7,7 @@
 #include "simulator/recordingclient.h"
 
 #include "driver/administration/publishcause.h"
-#include "driver/service/ieddriver.h"
+#include "driver/serveddriver.h"
 
 #include <devicemodel/mmsvalue.h>
 #include <devicemodel/physicaldevice.h>

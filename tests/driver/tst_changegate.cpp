@@ -128,7 +128,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_remote;
     std::unique_ptr<SimulatedIed> m_ied;
     std::unique_ptr<Listener> m_listener;
-    std::unique_ptr<IedDriver> m_driver;
+    std::unique_ptr<ServedDriver> m_driver;
     QString m_error;
     std::atomic<int> m_requests{0};    ///< without signs of life
     std::atomic<int> m_untold{0};      ///< changes that came before their intent was told
@@ -241,7 +241,7 @@ void tst_ChangeGate::init()
     };
     m_ied = std::make_unique<SimulatedIed>(QStringLiteral(STATION_FILE), QString(), std::string(),
                                            options, filter);
-    m_driver = std::make_unique<IedDriver>(m_listener->options());
+    m_driver = std::make_unique<ServedDriver>(m_listener->options());
     DeviceConfiguration configuration = configurationFor(*m_ied);
     configuration.pollInterval = std::chrono::milliseconds(0);
     m_driver->setDevice(configuration);

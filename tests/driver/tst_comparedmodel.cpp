@@ -109,7 +109,7 @@ public:
     const LogicalNode *zero() const { return nodeOf(*m_device, "IEDA", "LLN0"); }
     const LogicalNode *indications() const { return nodeOf(*m_device, "IEDA", "GGIO1"); }
     const DataObject *first() const { return objectOf(indications(), "Ind1"); }
-    IedDriver &driver() { return m_driver; }
+    ServedDriver &driver() { return m_driver; }
     const SimulatedIed &ied() const { return m_ied; }
 
 private:
@@ -125,7 +125,7 @@ private:
     QTemporaryDir m_folder;
     SimulatedIed m_ied;
     Listener m_listener;
-    IedDriver m_driver;
+    ServedDriver m_driver;
     std::unique_ptr<PhysicalDevice> m_device;
 };
 
@@ -435,7 +435,7 @@ void tst_ComparedModel::aDeviceThatChangedUnderItsRevisionIsReadAnew()
         "qchg=\"true\"/><DA name=\"stVal\" bType=\"INT32\" fc=\"ST\" dchg=\"true\"/><DA name=\"d\"");
     SimulatedIed first(write("first.icd", comparedIed));
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     driver.setDevice(configurationFor(first));
     driver.connectDevice(1);
     const QString indication = QStringLiteral("IEDA/GGIO1$ST$Ind1$stVal");
@@ -522,7 +522,7 @@ void tst_ComparedModel::dataSetsAreThoseOfTheMomentWhenABrowserOpens()
     QVERIFY(!compared.zero()->dataSet("Later"));
     // Another client makes one.
     Listener listener;
-    IedDriver other(listener.options());
+    ServedDriver other(listener.options());
     other.setDevice(configurationFor(compared.ied()));
     other.connectDevice(1);
     QVERIFY(listener.waitForState(1, DeviceState::Online));

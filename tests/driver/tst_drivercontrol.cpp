@@ -123,8 +123,8 @@ private slots:
     void aReadOnlyDriverOperatesNothing();
 
 private:
-    std::unique_ptr<IedDriver> connected(const SimulatedIed &ied, Listener &listener,
-                                         std::chrono::milliseconds callTimeout);
+    std::unique_ptr<ServedDriver> connected(const SimulatedIed &ied, Listener &listener,
+                                            std::chrono::milliseconds callTimeout);
     /// Lets the interlocking of the bay release all switches, or none.
     void release(bool isReleased);
     OperationResult select(const Command &command);
@@ -133,7 +133,7 @@ private:
 
     std::unique_ptr<SimulatedIed> m_ied;
     std::unique_ptr<Listener> m_listener;
-    std::unique_ptr<IedDriver> m_driver;
+    std::unique_ptr<ServedDriver> m_driver;
     QString m_error;
 };
 
@@ -154,10 +154,11 @@ void tst_DriverControl::init()
     m_error.clear();
 }
 
-std::unique_ptr<IedDriver> tst_DriverControl::connected(const SimulatedIed &ied, Listener &listener,
-                                                        std::chrono::milliseconds callTimeout)
+std::unique_ptr<ServedDriver> tst_DriverControl::connected(const SimulatedIed &ied,
+                                                           Listener &listener,
+                                                           std::chrono::milliseconds callTimeout)
 {
-    auto driver = std::make_unique<IedDriver>(listener.options());
+    auto driver = std::make_unique<ServedDriver>(listener.options());
     DeviceConfiguration configuration = configurationFor(ied);
     configuration.pollInterval = std::chrono::milliseconds(0);
     configuration.callTimeout = callTimeout;
@@ -728,7 +729,7 @@ void tst_DriverControl::aCommandThatNobodyWaitsForIsJournalled()
 {
     SimulatedIed ied(QStringLiteral(STATION_FILE), {}, "delay 150ms on read\nignore on write");
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration = configurationFor(ied);
     configuration.callTimeout = std::chrono::milliseconds(300);
     configuration.operationTimeout = std::chrono::milliseconds(300);

@@ -27,7 +27,7 @@ struct Ending
     QString error;
 };
 
-using Call = std::function<OperationResult(IedDriver &, QString &)>;
+using Call = std::function<OperationResult(ServedDriver &, QString &)>;
 
 } // namespace
 
@@ -46,7 +46,7 @@ private slots:
     void aDeviceThatIsKilledAgainAndAgainIsBackSoon();
 
 private:
-    static Ending perform(IedDriver &driver, const Call &call);
+    static Ending perform(ServedDriver &driver, const Call &call);
     std::vector<Call> calls() const;
     DeviceConfiguration hurried(const SimulatedIed &ied) const;
 
@@ -65,7 +65,7 @@ void tst_DriverFaults::initTestCase()
     m_value = m_file.reference(0) + QStringLiteral("$stVal");
 }
 
-Ending tst_DriverFaults::perform(IedDriver &driver, const Call &call)
+Ending tst_DriverFaults::perform(ServedDriver &driver, const Call &call)
 {
     Ending ending;
     ending.result = call(driver, ending.error);
@@ -77,47 +77,47 @@ std::vector<Call> tst_DriverFaults::calls() const
 {
     const QString domain = m_domain;
     return {
-        [domain](IedDriver &driver, QString &error) {
+        [domain](ServedDriver &driver, QString &error) {
             return driver.readVariable(1, domain, {"GGIO1$ST$Ind1", "GGIO2$ST$Ind2"}, error);
         },
-        [](IedDriver &driver, QString &error) {
+        [](ServedDriver &driver, QString &error) {
             QList<NameVaildValue> list;
             return driver.getServerDirectory(1, list, error);
         },
-        [domain](IedDriver &driver, QString &error) {
+        [domain](ServedDriver &driver, QString &error) {
             QList<NameVaildValue> list;
             return driver.getLogicalNodeDirectory(1, domain, "GGIO1", list, error);
         },
-        [domain](IedDriver &driver, QString &error) {
+        [domain](ServedDriver &driver, QString &error) {
             QList<NameVaildValue> list;
             return driver.getDataSetDirectory(1, domain, "LLN0$Set1", list, error);
         },
-        [domain](IedDriver &driver, QString &error) {
+        [domain](ServedDriver &driver, QString &error) {
             return driver.readDataSetValue(1, domain, "LLN0$Set2", error);
         },
-        [domain](IedDriver &driver, QString &error) {
+        [domain](ServedDriver &driver, QString &error) {
             QByteArray value;
             QDataStream stream(&value, QIODevice::WriteOnly);
             stream << QVariant(QStringLiteral("other"));
             return driver.writeVariable(1, domain, "LLN0$DC$NamPlt$configRev", value, error);
         },
-        [domain](IedDriver &driver, QString &error) {
+        [domain](ServedDriver &driver, QString &error) {
             return driver.createDataSet(1, domain, "LLN0$made", domain + "/GGIO1$ST$Ind1", 0,
                                         error);
         },
-        [domain](IedDriver &driver, QString &error) {
+        [domain](ServedDriver &driver, QString &error) {
             return driver.deleteDataSet(1, domain, "LLN0$made", error);
         },
-        [domain](IedDriver &driver, QString &error) {
+        [domain](ServedDriver &driver, QString &error) {
             ReportBlock block;
             return driver.getBRCBValues(1, domain, "LLN0$BR$brcb1", block, error);
         },
-        [domain](IedDriver &driver, QString &error) {
+        [domain](ServedDriver &driver, QString &error) {
             ReportBlock block;
             block.trgOps = 0x44;
             return driver.enableReportBlock(1, domain, "LLN0$RP$urcb1", {}, {}, block, error);
         },
-        [](IedDriver &driver, QString &error) {
+        [](ServedDriver &driver, QString &error) {
             QByteArray bytes;
             return driver.getIEDModel(1, bytes, error);
         },
@@ -160,7 +160,7 @@ void tst_DriverFaults::everyOperationEndsInTimeAndTheDeviceRecovers()
     options.server.association.link.interference = faults.interference();
     SimulatedIed ied(m_path, {}, {}, options);
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     driver.setDevice(hurried(ied));
     driver.connectDevice(1);
     QVERIFY(listener.waitForState(1, DeviceState::Online));
@@ -203,7 +203,7 @@ void tst_DriverFaults::reportsGoOnAfterFaults()
     options.server.association.link.interference = faults.interference();
     SimulatedIed ied(m_path, {}, {}, options);
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration = hurried(ied);
     configuration.pollInterval = milliseconds(0);
     driver.setDevice(configuration);
@@ -257,7 +257,7 @@ void tst_DriverFaults::connectionsThatFailAreMadeLater()
     options.server.association.link.interference = faults.interference();
     SimulatedIed ied(m_path, {}, {}, options);
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration = hurried(ied);
     configuration.connectTimeout = milliseconds(500);
     driver.setDevice(configuration);
@@ -296,7 +296,7 @@ void tst_DriverFaults::aDeviceThatIsKilledAgainAndAgainIsBackSoon()
     SimulatedIed ied(m_path);
     Listener listener;
     listener.keepHistory(false);
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration = configurationFor(ied);
     configuration.pollInterval = milliseconds(0);
     driver.setDevice(configuration);

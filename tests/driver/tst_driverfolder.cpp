@@ -188,7 +188,7 @@ std::unique_ptr<PhysicalDevice> tst_DriverFolder::discovered(const QString &path
 {
     SimulatedIed simulated(path, ied);
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration = configurationFor(simulated);
     configuration.pollInterval = std::chrono::milliseconds(0);
     if (hasFile) {

@@ -51,7 +51,7 @@ class Station
 {
 public:
     explicit Station(DeviceConfiguration configuration)
-        : m_driver(std::make_unique<IedDriver>(m_listener.options()))
+        : m_driver(std::make_unique<ServedDriver>(m_listener.options()))
     {
         configuration.pollInterval = std::chrono::milliseconds(0);
         m_driver->setDevice(configuration);
@@ -64,7 +64,7 @@ public:
     }
 
     bool isOnline() const { return m_isOnline; }
-    IedDriver &driver() { return *m_driver; }
+    ServedDriver &driver() { return *m_driver; }
     Listener &listener() { return m_listener; }
     const QString &error() const { return m_error; }
 
@@ -87,7 +87,7 @@ public:
 
 private:
     Listener m_listener;
-    std::unique_ptr<IedDriver> m_driver;
+    std::unique_ptr<ServedDriver> m_driver;
     bool m_isOnline = false;
     OperationResult m_result = OperationSucceeded;
     QString m_error;
@@ -649,7 +649,7 @@ void tst_DriverReports::reportedDataIsNotPolled()
     QVERIFY(file.write(folder.filePath("polled.icd")));
     SimulatedIed ied(folder.filePath("polled.icd"));
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration = configurationFor(ied);
     configuration.pollInterval = std::chrono::milliseconds(100);
     driver.setDevice(configuration);
@@ -730,7 +730,7 @@ void tst_DriverReports::aBrowserThatNeverReadsCostsNothing()
     Listener listener;
     IedDriverOptions options = listener.options();
     options.poster = {};
-    IedDriver driver(options);
+    ServedDriver driver(options);
     DeviceConfiguration configuration = configurationFor(ied);
     configuration.pollInterval = std::chrono::milliseconds(0);
     driver.setDevice(configuration);

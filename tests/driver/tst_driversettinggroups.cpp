@@ -83,7 +83,7 @@ private:
 
     std::unique_ptr<SimulatedIed> m_ied;
     std::unique_ptr<Listener> m_listener;
-    std::unique_ptr<IedDriver> m_driver;
+    std::unique_ptr<ServedDriver> m_driver;
     QString m_error;
 };
 
@@ -107,7 +107,7 @@ void tst_DriverSettingGroups::start(const std::string &faults,
     m_ied.reset();
     m_ied = std::make_unique<SimulatedIed>(station, QString(), faults);
     m_listener = std::make_unique<Listener>();
-    m_driver = std::make_unique<IedDriver>(m_listener->options());
+    m_driver = std::make_unique<ServedDriver>(m_listener->options());
     DeviceConfiguration configuration = configurationFor(*m_ied);
     configuration.pollInterval = std::chrono::milliseconds(0);
     configuration.callTimeout = callTimeout;
@@ -469,7 +469,7 @@ void tst_DriverSettingGroups::whatAnotherClientEditsIsRefused()
 {
     QCOMPARE(m_driver->selectEditSG(1, protection, 2, m_error), OperationSucceeded);
     Listener otherListener;
-    IedDriver other(otherListener.options());
+    ServedDriver other(otherListener.options());
     other.setDevice(configurationFor(*m_ied));
     other.connectDevice(1);
     QVERIFY(otherListener.waitForState(1, DeviceState::Online));

@@ -49,7 +49,7 @@ void tst_DriverSoak::manyDevicesReportForALongTime()
     IedDriverOptions options = listener.options();
     // Likewise what is kept for captures.
     options.captureOctets = 65536;
-    IedDriver driver(options);
+    ServedDriver driver(options);
     for (int i = 0; i < deviceCount; ++i) {
         // The buffers of buffered blocks would fill while the memory is watched.
         files.emplace_back("SOAK" + QByteArray::number(i), nodes, perNode, false);

@@ -24,7 +24,7 @@ const QString control = QStringLiteral("BAY1E1CTRL");
 struct Call
 {
     const char *name;
-    std::function<void(IedDriver &driver, long device, std::mt19937 &chance)> make;
+    std::function<void(ServedDriver &driver, long device, std::mt19937 &chance)> make;
 };
 
 template <typename... Texts>
@@ -67,12 +67,12 @@ std::vector<Call> calls(const DeviceConfiguration &configuration, const QString 
     };
     return {
         {"getIEDModel",
-         [=](IedDriver &driver, long device, std::mt19937 &) {
+         [=](ServedDriver &driver, long device, std::mt19937 &) {
              QByteArray bytes;
              driver.getIEDModel(device, bytes, error());
          }},
         {"directories",
-         [=](IedDriver &driver, long device, std::mt19937 &) {
+         [=](ServedDriver &driver, long device, std::mt19937 &) {
              QList<NameVaildValue> list;
              driver.getServerDirectory(device, list, error());
              driver.getLogicalDeviceDirectory(device, control, list, error());
@@ -84,59 +84,59 @@ std::vector<Call> calls(const DeviceConfiguration &configuration, const QString 
              driver.getSGCBBlock(device, "BAY1E1PROT", list, error());
          }},
         {"readVariable",
-         [=](IedDriver &driver, long device, std::mt19937 &chance) {
+         [=](ServedDriver &driver, long device, std::mt19937 &chance) {
              driver.readVariable(device, control,
                                  {oneOf(chance, "QA1CSWI1$ST$Pos", "LLN0$ST$Mod", "no$ST$Thing")},
                                  error());
          }},
         {"readDataSetValue",
-         [=](IedDriver &driver, long device, std::mt19937 &) {
+         [=](ServedDriver &driver, long device, std::mt19937 &) {
              driver.readDataSetValue(device, control, "LLN0$Positions", error());
          }},
         {"writeVariable",
-         [=](IedDriver &driver, long device, std::mt19937 &chance) {
+         [=](ServedDriver &driver, long device, std::mt19937 &chance) {
              QByteArray bytes;
              QDataStream stream(&bytes, QIODevice::WriteOnly);
              stream << QVariant(static_cast<int>(chance() % 100));
              driver.writeVariable(device, control, "QA1CSWI1$CF$Pos$sboTimeout", bytes, error());
          }},
         {"getBRCBValues",
-         [=](IedDriver &driver, long device, std::mt19937 &chance) {
+         [=](ServedDriver &driver, long device, std::mt19937 &chance) {
              ReportBlock block;
              driver.getBRCBValues(device, control, anyBlock(chance), block, error());
          }},
         {"enableReportBlock",
-         [=](IedDriver &driver, long device, std::mt19937 &chance) {
+         [=](ServedDriver &driver, long device, std::mt19937 &chance) {
              ReportBlock block;
              block.trgOps = 0x64;
              block.optFlds[0] = 0x78;
              driver.enableReportBlock(device, control, anyBlock(chance), {}, {}, block, error());
          }},
         {"disable",
-         [=](IedDriver &driver, long device, std::mt19937 &chance) {
+         [=](ServedDriver &driver, long device, std::mt19937 &chance) {
              driver.writeValue(device, control, anyBlock(chance), "RptEna", QByteArray(1, '\0'),
                                error());
          }},
         {"writeValue",
-         [=](IedDriver &driver, long device, std::mt19937 &chance) {
+         [=](ServedDriver &driver, long device, std::mt19937 &chance) {
              driver.writeValue(device, control, anyBlock(chance),
                                oneOf(chance, "GI", "Resv", "PurgeBuf"),
                                QByteArray(1, static_cast<char>(chance() % 2)), error());
          }},
         {"control",
-         [=](IedDriver &driver, long device, std::mt19937 &chance) {
+         [=](ServedDriver &driver, long device, std::mt19937 &chance) {
              const QByteArray block = command(chance);
              driver.selectObject(device, control, "QA1CSWI1$CO$Pos", block, error());
              driver.controlObject(device, control, "QA1CSWI1$CO$Pos", command(chance), error());
              driver.cancelObject(device, control, "QA1CSWI1$CO$Pos", block, error());
          }},
         {"data sets",
-         [=](IedDriver &driver, long device, std::mt19937 &) {
+         [=](ServedDriver &driver, long device, std::mt19937 &) {
              driver.createDataSet(device, "", "mine", "BAY1E1CTRL/QA1CSWI1$ST$Pos", 1, error());
              driver.deleteDataSet(device, "", "mine", error());
          }},
         {"files",
-         [=](IedDriver &driver, long device, std::mt19937 &) {
+         [=](ServedDriver &driver, long device, std::mt19937 &) {
              QList<MMSFileEntry> entries;
              QByteArray content;
              driver.getFileDirectory(device, {}, {}, entries, error());
@@ -145,7 +145,7 @@ std::vector<Call> calls(const DeviceConfiguration &configuration, const QString 
              driver.deleteFile(device, "there.txt", error());
          }},
         {"setting groups",
-         [=](IedDriver &driver, long device, std::mt19937 &chance) {
+         [=](ServedDriver &driver, long device, std::mt19937 &chance) {
              SGCB block;
              QList<SGCBValue> values;
              const QString reference = QStringLiteral("BAY1E1PROT/LLN0$SP$SGCB");
@@ -156,21 +156,21 @@ std::vector<Call> calls(const DeviceConfiguration &configuration, const QString 
              driver.selectActiveSG(device, reference, 1 + static_cast<int>(chance() % 2), error());
          }},
         {"connect",
-         [](IedDriver &driver, long device, std::mt19937 &) { driver.connectDevice(device); }},
+         [](ServedDriver &driver, long device, std::mt19937 &) { driver.connectDevice(device); }},
         {"abortClose",
-         [](IedDriver &driver, long device, std::mt19937 &) { driver.abortClose(device); }},
+         [](ServedDriver &driver, long device, std::mt19937 &) { driver.abortClose(device); }},
         {"disconnect",
-         [](IedDriver &driver, long device, std::mt19937 &) {
+         [](ServedDriver &driver, long device, std::mt19937 &) {
              driver.disconnectDevice(device);
              driver.connectDevice(device);
          }},
         {"cancelReading",
-         [](IedDriver &driver, long device, std::mt19937 &) {
+         [](ServedDriver &driver, long device, std::mt19937 &) {
              driver.cancelReading(device);
              driver.connectDevice(device);
          }},
         {"status",
-         [](IedDriver &driver, long device, std::mt19937 &) {
+         [](ServedDriver &driver, long device, std::mt19937 &) {
              driver.status(device);
              const auto all = driver.subscribe(ignoringObserver());
              traceOf(driver, device);
@@ -180,24 +180,24 @@ std::vector<Call> calls(const DeviceConfiguration &configuration, const QString 
              driver.exportValues(device, out);
          }},
         {"setReadOnly",
-         [](IedDriver &driver, long, std::mt19937 &chance) {
+         [](ServedDriver &driver, long, std::mt19937 &chance) {
              driver.setReadOnly(chance() % 4 == 0);
              driver.isReadOnly();
              driver.setReadOnly(false);
          }},
         {"setDevice",
-         [=](IedDriver &driver, long, std::mt19937 &) {
+         [=](ServedDriver &driver, long, std::mt19937 &) {
              driver.setDevice(configuration);
              driver.connectDevice(configuration.number);
          }},
         {"test",
-         [=](IedDriver &driver, long, std::mt19937 &) {
+         [=](ServedDriver &driver, long, std::mt19937 &) {
              DeviceConfiguration other = configuration;
              other.number = 9;
              driver.test(other);
          }},
         {"removeDevice",
-         [=](IedDriver &driver, long, std::mt19937 &) {
+         [=](ServedDriver &driver, long, std::mt19937 &) {
              DeviceConfiguration passing = configuration;
              passing.number = 3;
              driver.setDevice(passing);
@@ -246,7 +246,7 @@ void tst_DriverThreads::everyCallFromSeveralThreadsAtOnce()
     const std::vector<Call> all = calls(configuration, local.fileName());
     std::atomic<int> made{0};
     {
-        IedDriver driver(options);
+        ServedDriver driver(options);
         QVERIFY(driver.setDevice(configuration).isEmpty());
         driver.connectDevice(1);
         QVERIFY(listener.waitForState(1, DeviceState::Online));
@@ -284,7 +284,7 @@ void tst_DriverThreads::enablingAndDisablingOneBlockAtOnce()
 {
     SimulatedIed ied(stationFile);
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration = configurationFor(ied);
     configuration.pollInterval = std::chrono::milliseconds(0);
     driver.setDevice(configuration);

@@ -43,6 +43,7 @@ private slots:
     void theMembersOfADataSetArePublished();
     void changesArePolledWithoutReports();
     void aWriteReachesTheDeviceAndTheJournal();
+    void theJournalSaysOnWhoseBehalfSomethingWasChanged();
     void aValueThatDoesNotFitIsNeverSent();
     void theDevicesRefusalIsTold();
     void directoriesAreAskedOfTheDevice();
@@ -57,7 +58,7 @@ private slots:
 private:
     std::unique_ptr<SimulatedIed> m_ied;
     std::unique_ptr<Listener> m_listener;
-    std::unique_ptr<IedDriver> m_driver;
+    std::unique_ptr<ServedDriver> m_driver;
     QString m_error;
 };
 
@@ -70,7 +71,7 @@ void tst_DriverValues::init()
 {
     m_driver.reset();
     m_listener = std::make_unique<Listener>();
-    m_driver = std::make_unique<IedDriver>(m_listener->options());
+    m_driver = std::make_unique<ServedDriver>(m_listener->options());
     DeviceConfiguration configuration = configurationFor(*m_ied);
     configuration.pollInterval = std::chrono::milliseconds(0);
     QCOMPARE(m_driver->setDevice(configuration), QStringList());
@@ -177,6 +178,32 @@ void tst_DriverValues::aWriteReachesTheDeviceAndTheJournal()
     QCOMPARE(m_driver->readVariable(1, "BAY1E1CTRL", {"QA1CSWI1$CF$Pos$sboTimeout"}, m_error),
              OperationSucceeded);
     QVERIFY(m_listener->waitForValue("BAY1E1CTRL/QA1CSWI1$CF$Pos$sboTimeout", 12345U));
+}
+
+void tst_DriverValues::theJournalSaysOnWhoseBehalfSomethingWasChanged()
+{
+    const auto clara = m_driver->serviceFor({"clara", "room 2", "desk 7"});
+    const auto nobody = m_driver->serviceFor({});
+    QCOMPARE(clara->writeVariable(1, "BAY1E1CTRL", "QA1CSWI1$CF$Pos$sboTimeout", encoded(20000U),
+                                  m_error),
+             OperationSucceeded);
+    QCOMPARE(m_driver->writeVariable(1, "BAY1E1CTRL", "QA1CSWI1$CF$Pos$sboTimeout", encoded(-1),
+                                     m_error),
+             OperationFailed);
+    QCOMPARE(clara->deleteDataSet(1, "BAY1E1CTRL", "LLN0$none", m_error), OperationFailed);
+    QCOMPARE(clara->selectObject(1, "BAY1E1CTRL", "QA1CSWI1$CO$Pos", "rubbish", m_error),
+             OperationFailed);
+    QCOMPARE(clara->selectActiveSG(1, "BAY1E1PROT", 99, m_error), OperationFailed);
+    QCOMPARE(nobody->deleteFile(1, "none.txt", m_error), OperationFailed);
+    QVERIFY(m_listener->waitForChanges(6));
+    QStringList told;
+    for (const DeviceChange &change : m_listener->changes())
+        told << change.operation + ": " + change.caller.text();
+    QCOMPARE(
+        told,
+        QStringList({"writeVariable: clara@room 2 (desk 7)", "writeVariable: tester@desk (test 1)",
+                     "deleteDataSet: clara@room 2 (desk 7)", "selectObject: clara@room 2 (desk 7)",
+                     "selectActiveSG: clara@room 2 (desk 7)", "deleteFile: "}));
 }
 
 void tst_DriverValues::aValueThatDoesNotFitIsNeverSent()

@@ -11,7 +11,7 @@ namespace {
 const QString station = QStringLiteral(STATION_FILE);
 
 /// Requests of a service that the driver has sent to the device.
-int requests(IedDriver &driver, int number, const QString &service)
+int requests(ServedDriver &driver, int number, const QString &service)
 {
     int count = 0;
     const QVector<TraceLine> lines = traceOf(driver, number);
@@ -42,6 +42,7 @@ private slots:
     void faultsOfAConfigurationChangeNothing();
     void devicesWithoutAnAddressAnswerFromTheirFile();
     void anUnknownDeviceIsNamed();
+    void aServiceThatOutlivesItsDriverReachesNobody();
     void aDeviceThatComesBackIsConnectedAgain();
     void aSilentDeviceIsNoticedAndConnectedAgain();
     void anOperationOnASilentDeviceEndsInTime();
@@ -61,7 +62,7 @@ void tst_IedDriver::aDeviceIsFoundAndItsModelServed()
 {
     SimulatedIed ied(station);
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     QCOMPARE(driver.setDevice(configurationFor(ied)), QStringList());
     QCOMPARE(driver.status(1).state, DeviceState::Disconnected);
     driver.connectDevice(1);
@@ -90,7 +91,7 @@ void tst_IedDriver::whatWasReadAtFirstIsInTheModel()
 {
     SimulatedIed ied(station);
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     driver.setDevice(configurationFor(ied));
     driver.connectDevice(1);
     QVERIFY(listener.waitForState(1, DeviceState::Online));
@@ -117,7 +118,7 @@ void tst_IedDriver::aSecondOpeningAsksForNoTypesAndANewAssociationForAll()
 {
     SimulatedIed ied(station);
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     driver.setDevice(configurationFor(ied));
     driver.connectDevice(1);
     QVERIFY(listener.waitForState(1, DeviceState::Online));
@@ -139,7 +140,7 @@ void tst_IedDriver::aSecondOpeningAsksForNoTypesAndANewAssociationForAll()
 void tst_IedDriver::anUnreachableDeviceSaysWhy()
 {
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration;
     configuration.number = 3;
     configuration.name = "AA1E1Q01";
@@ -161,7 +162,7 @@ void tst_IedDriver::anUnreachableDeviceSaysWhy()
 void tst_IedDriver::faultsOfAConfigurationChangeNothing()
 {
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration;
     configuration.number = 1;
     configuration.host = "127.0.0.1";
@@ -172,7 +173,7 @@ void tst_IedDriver::faultsOfAConfigurationChangeNothing()
 void tst_IedDriver::devicesWithoutAnAddressAnswerFromTheirFile()
 {
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration;
     configuration.number = 5;
     configuration.name = "BAY1";
@@ -193,18 +194,31 @@ void tst_IedDriver::devicesWithoutAnAddressAnswerFromTheirFile()
 void tst_IedDriver::anUnknownDeviceIsNamed()
 {
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     QString error;
     QList<NameVaildValue> list;
     QCOMPARE(driver.getServerDirectory(9, list, error), OperationFailed);
     QCOMPARE(error, QStringLiteral("There is no device 9 on this driver."));
 }
 
+void tst_IedDriver::aServiceThatOutlivesItsDriverReachesNobody()
+{
+    auto driver = std::make_unique<IedDriver>();
+    const std::shared_ptr<DriverService> service = driver->serviceFor(Caller::ofThisProcess());
+    QString error;
+    QList<NameVaildValue> list;
+    QCOMPARE(service->getServerDirectory(7, list, error), OperationFailed);
+    driver.reset();
+    QCOMPARE(service->getServerDirectory(7, list, error), OperationDriverUnreachable);
+    QVERIFY(!error.isEmpty());
+    QCOMPARE(service->abortClose(7), OperationDriverUnreachable);
+}
+
 void tst_IedDriver::aDeviceThatComesBackIsConnectedAgain()
 {
     SimulatedIed ied(station);
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration = configurationFor(ied);
     configuration.pollInterval = std::chrono::milliseconds(100);
     driver.setDevice(configuration);
@@ -227,7 +241,7 @@ void tst_IedDriver::aSilentDeviceIsNoticedAndConnectedAgain()
 {
     SimulatedIed ied(station, {}, "ignore on status\n");
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration = configurationFor(ied);
     configuration.pollInterval = std::chrono::milliseconds(0);
     configuration.callTimeout = std::chrono::milliseconds(500);
@@ -247,7 +261,7 @@ void tst_IedDriver::anOperationOnASilentDeviceEndsInTime()
 {
     SimulatedIed ied(station, {}, "ignore on getNameList from 31\n");
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration = configurationFor(ied);
     configuration.callTimeout = std::chrono::milliseconds(400);
     // Shorter than the usual time-out of a call, so that the sentence tells which of them it was.
@@ -270,7 +284,7 @@ void tst_IedDriver::anAbortedDeviceIsConnectedAgainByItsNextUse()
 {
     SimulatedIed ied(station);
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     driver.setDevice(configurationFor(ied));
     driver.connectDevice(1);
     QVERIFY(listener.waitForState(1, DeviceState::Online));
@@ -288,7 +302,7 @@ void tst_IedDriver::aDisconnectedDeviceStaysSo()
 {
     SimulatedIed ied(station);
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     driver.setDevice(configurationFor(ied));
     driver.connectDevice(1);
     QVERIFY(listener.waitForState(1, DeviceState::Online));
@@ -304,7 +318,7 @@ void tst_IedDriver::whoConnectsALeftDeviceGetsANewAssociation()
 {
     SimulatedIed ied(station);
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     driver.setDevice(configurationFor(ied));
     driver.connectDevice(1);
     QVERIFY(listener.waitForState(1, DeviceState::Online));
@@ -325,7 +339,7 @@ void tst_IedDriver::devicesWithTheSameLogicalDevicesAreNotOnlineAtOnce()
     SimulatedIed first(station);
     SimulatedIed second(station);
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     driver.setDevice(configurationFor(first, 1));
     driver.setDevice(configurationFor(second, 2));
     driver.connectDevice(1);
@@ -342,7 +356,7 @@ void tst_IedDriver::anEditedDeviceKeepsItsNames()
 {
     SimulatedIed ied(station);
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration = configurationFor(ied);
     driver.setDevice(configuration);
     driver.setDevice(configurationFor(ied, 2));
@@ -364,7 +378,7 @@ void tst_IedDriver::readingTheModelCanBeCancelled()
 {
     SimulatedIed ied(station, {}, "delay 200ms on getVariableAccessAttributes\n");
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration = configurationFor(ied);
     configuration.outstandingCalls = 1;
     driver.setDevice(configuration);
@@ -381,7 +395,7 @@ void tst_IedDriver::theModelThatIsBeingReadIsNotWaitedFor()
 {
     SimulatedIed ied(station, {}, "delay 200ms on getVariableAccessAttributes\n");
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration = configurationFor(ied);
     configuration.outstandingCalls = 1;
     driver.setDevice(configuration);
@@ -402,7 +416,7 @@ void tst_IedDriver::connectionsCanBeTriedWithoutTheDeviceList()
 {
     SimulatedIed ied(station);
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     const DeviceTestResult found = driver.test(configurationFor(ied));
     QCOMPARE(found.error, QString());
     QCOMPARE(found.logicalDevices, 4);
@@ -425,7 +439,7 @@ void tst_IedDriver::theEndOfTheDriverWaitsForNobodyWhoDoesNotAnswer()
     asio::ip::tcp::acceptor acceptor(context, {asio::ip::address_v4::loopback(), 0});
     Listener listener;
     {
-        IedDriver driver(listener.options());
+        ServedDriver driver(listener.options());
         DeviceConfiguration configuration;
         configuration.number = 1;
         configuration.name = "mute";
@@ -444,7 +458,7 @@ void tst_IedDriver::anOrderlyEndConcludesTheAssociation()
 {
     SimulatedIed ied(station);
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     driver.setDevice(configurationFor(ied));
     driver.connectDevice(1);
     QVERIFY(listener.waitForState(1, DeviceState::Online));

@@ -49,7 +49,7 @@ struct Ending
 };
 
 /// What an operator does to bring about a step.
-Ending perform(IedDriver &driver, int number, HostileDevice &device, Step step)
+Ending perform(ServedDriver &driver, int number, HostileDevice &device, Step step)
 {
     Ending ending;
     QElapsedTimer timer;
@@ -89,7 +89,7 @@ Ending perform(IedDriver &driver, int number, HostileDevice &device, Step step)
 class Neighbour
 {
 public:
-    Neighbour(IedDriver &driver, HostileDevice &device)
+    Neighbour(ServedDriver &driver, HostileDevice &device)
         : m_thread([this, &driver, &device] {
             while (!m_isOver) {
                 QString error;
@@ -179,7 +179,7 @@ void tst_HostileServers::everyStepEndsWithASentenceAndHarmsNobody()
     QFETCH(bool, isBearable);
     Listener listener;
     listener.keepHistory(false);
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration neighbour = configurationOf(*m_honest, honestNumber);
     // The neighbour is measured by whether it goes on, not by how fast it does.
     neighbour.callTimeout = milliseconds(10000);
@@ -289,7 +289,7 @@ void tst_HostileServers::aServerThatIsExchangedInTheMiddleIsNotChanged()
     HostileDevice &second = *m_devices[1];
     first.line().behave();
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration = configurationOf(first, 1);
     configuration.callTimeout = milliseconds(5000);
     configuration.operationTimeout = milliseconds(15000);
@@ -364,7 +364,7 @@ void tst_HostileServers::forgedNamesAreToldInASentenceOrShownAsTheyAre()
     device.line().exchange(device.ied().port());
 
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration = configurationOf(device, 1);
     configuration.callTimeout = milliseconds(5000);
     configuration.operationTimeout = milliseconds(15000);
@@ -436,7 +436,7 @@ void tst_HostileServers::aListOfFilesWithoutAnEndIsGivenUp()
     device.line().exchange(device.ied().port());
 
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration = configurationOf(device, 1);
     configuration.callTimeout = milliseconds(3000);
     configuration.operationTimeout = milliseconds(6000);

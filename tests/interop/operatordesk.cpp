@@ -52,7 +52,7 @@ OperatorDesk::OperatorDesk(const DeviceConfiguration &device)
         m_changed.notify_all();
     };
     m_driver = std::make_shared<IedDriver>(options);
-    DriverServiceRegistry::add(driverAddress, m_driver);
+    DriverServiceRegistry::add(driverAddress, m_driver->serviceFor(Caller::ofThisProcess()));
     m_context.console = this;
     m_context.mainWindow = &m_mainWindow;
     m_mainWindow.show();

@@ -19,7 +19,7 @@ const QString station = QStringLiteral(STATION_FILE);
 const QString exchanged =
     QStringLiteral("This is not the device that the window was opened for: open it again.");
 
-int requests(IedDriver &driver, int number, const QString &service)
+int requests(ServedDriver &driver, int number, const QString &service)
 {
     int count = 0;
     const QVector<TraceLine> lines = traceOf(driver, number);
@@ -28,7 +28,7 @@ int requests(IedDriver &driver, int number, const QString &service)
     return count;
 }
 
-QString write(IedDriver &driver, const QString &text)
+QString write(ServedDriver &driver, const QString &text)
 {
     QByteArray value;
     QDataStream stream(&value, QIODevice::WriteOnly);
@@ -38,7 +38,7 @@ QString write(IedDriver &driver, const QString &text)
     return error;
 }
 
-QString openModel(IedDriver &driver)
+QString openModel(ServedDriver &driver)
 {
     QByteArray model;
     QString error;
@@ -112,7 +112,7 @@ void tst_OddAssociations::aDeviceThatWasExchangedIsNotChanged()
 {
     SimulatedIed ied(station);
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     driver.setDevice(configurationFor(ied));
     driver.connectDevice(1);
     QVERIFY(listener.waitForState(1, DeviceState::Online));
@@ -140,7 +140,7 @@ void tst_OddAssociations::anEditedAddressIsAnotherDevice()
     SimulatedIed first(station);
     SimulatedIed second(station);
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration = configurationFor(first);
     driver.setDevice(configuration);
     driver.connectDevice(1);
@@ -165,7 +165,7 @@ void tst_OddAssociations::whoNeverAskedForTheModelIsBoundToNothing()
 {
     SimulatedIed ied(station);
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     driver.setDevice(configurationFor(ied));
     driver.connectDevice(1);
     QVERIFY(listener.waitForState(1, DeviceState::Online));
@@ -183,7 +183,7 @@ void tst_OddAssociations::aDeviceThatNeverIdentifiesItselfIsAskedOnce()
 {
     SimulatedIed ied(station, {}, "ignore on identify\n");
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration = configurationFor(ied);
     // With a single place a question without an answer would hold up everything.
     configuration.outstandingCalls = 1;
@@ -220,7 +220,7 @@ void tst_OddAssociations::statusIsAskedForOnlyWhereItIsDeclared()
     options.oddities.noStatus = true;
     SimulatedIed ied(station, {}, faults.toStdString(), options);
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration = configurationFor(ied);
     configuration.pollInterval = 0ms;
     configuration.callTimeout = 1s;
@@ -244,7 +244,7 @@ void tst_OddAssociations::aQuestionWithoutAPlaceIsNoSilence()
     });
     ied.start();
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration = configurationFor(ied);
     configuration.pollInterval = 0ms;
     // The place is kept longer than a silent device is left alone.
@@ -277,7 +277,7 @@ void tst_OddAssociations::aSlowNameHoldsNobodyElse()
     {
         IedDriverOptions options = listener.options();
         options.lookUp = names.function();
-        IedDriver driver(options);
+        ServedDriver driver(options);
         DeviceConfiguration slow = configurationFor(ied, 1);
         slow.host = "slow.example";
         slow.connectTimeout = 600s;
@@ -306,7 +306,7 @@ void tst_OddAssociations::aNameThatDoesNotExistIsTold()
     Listener listener;
     IedDriverOptions options = listener.options();
     options.lookUp = names.function();
-    IedDriver driver(options);
+    ServedDriver driver(options);
     DeviceConfiguration configuration;
     configuration.number = 1;
     configuration.name = "nowhere";
@@ -331,7 +331,7 @@ void tst_OddAssociations::anOutageHasOneBeginning()
 {
     SimulatedIed ied(station);
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     driver.setDevice(configurationFor(ied));
     driver.connectDevice(1);
     QVERIFY(listener.waitForState(1, DeviceState::Online));
@@ -414,7 +414,7 @@ void tst_OddAssociations::aDrippingFileCanBeCancelled()
     });
     ied.start();
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     driver.setDevice(configurationFor(ied));
     driver.connectDevice(1);
     QVERIFY(listener.waitForState(1, DeviceState::Online));
@@ -436,7 +436,7 @@ void tst_OddAssociations::readingTheModelEndsWhenTheDeviceIsLeft()
 {
     SimulatedIed ied(station, {}, "delay 500ms on getNameList\n");
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration = configurationFor(ied);
     configuration.outstandingCalls = 1;
     driver.setDevice(configuration);

@@ -87,7 +87,7 @@ struct Peer
 
     explicit Peer(const Manners &manners)
         : ied(manners.file, {}, manners.faults, optionsOf(manners))
-        , driver(std::make_shared<IedDriver>(listener.options()))
+        , driver(std::make_shared<ServedDriver>(listener.options()))
     {
         if (manners.filter) {
             ied.stop();
@@ -156,7 +156,7 @@ struct Peer
 
     SimulatedIed ied;
     Listener listener;
-    std::shared_ptr<IedDriver> driver;
+    std::shared_ptr<ServedDriver> driver;
 };
 
 /// The station with other texts in places.
@@ -618,7 +618,7 @@ void tst_OddControl::aRefusalByTheServiceIsARefusal()
 void tst_OddControl::readOnlyIsLookedAtRightBeforeACommand()
 {
     const auto armed = std::make_shared<std::atomic<bool>>(false);
-    const auto target = std::make_shared<std::atomic<IedDriver *>>(nullptr);
+    const auto target = std::make_shared<std::atomic<ServedDriver *>>(nullptr);
     Peer::Manners manners;
     manners.filter = [armed, target](const auto &, std::uint32_t, mms::RequestService &request) {
         // While the driver asks for the control model somebody turns the key.

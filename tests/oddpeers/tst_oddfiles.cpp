@@ -67,7 +67,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_local;
     std::unique_ptr<SimulatedIed> m_ied;
     std::unique_ptr<Listener> m_listener;
-    std::unique_ptr<IedDriver> m_driver;
+    std::unique_ptr<ServedDriver> m_driver;
     QString m_error;
 };
 
@@ -101,7 +101,7 @@ void tst_OddFiles::start(bool sim::Oddities::*oddity, const std::string &faults)
     m_ied =
         std::make_unique<SimulatedIed>(QStringLiteral(STATION_FILE), QString(), faults, options);
     m_listener = std::make_unique<Listener>();
-    m_driver = std::make_unique<IedDriver>(m_listener->options());
+    m_driver = std::make_unique<ServedDriver>(m_listener->options());
     DeviceConfiguration configuration = configurationFor(*m_ied);
     configuration.pollInterval = std::chrono::milliseconds(0);
     m_driver->setDevice(configuration);

@@ -368,7 +368,7 @@ void tst_OddNames::theDriverPollsWhatWasDescribedInParts()
     SimulatedIed ied(written(folder, manyObjects(400)));
     giveDistinctValues(ied);
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     DeviceConfiguration configuration = configurationFor(ied);
     configuration.maxPduSize = 2000;
     driver.setDevice(configuration);
@@ -399,7 +399,7 @@ void tst_OddNames::anArrayOfEnormousCountIsLeftOutAndTold()
     device.tables->values["LD/GGIO1$ST$Ind"] = mms::Data::structure({mms::Data::boolean(true)});
     device.serve();
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     driver.setDevice(device.configuration);
     driver.connectDevice(1);
     QVERIFY(listener.waitForState(1, DeviceState::Online));
@@ -416,7 +416,7 @@ void tst_OddNames::moreLogicalDevicesThanAnyDeviceHasAreLeftOutAndTold()
         device.tables->domains["LD" + std::to_string(i)].nodes["LLN0"] = indication();
     device.serve();
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     driver.setDevice(device.configuration);
     driver.connectDevice(1);
     QTRY_VERIFY_WITH_TIMEOUT(driver.status(1).state == DeviceState::Online, 60000);
@@ -453,7 +453,7 @@ void tst_OddNames::readingNamesWithoutEndEndsWhenNobodyWantsIt()
     };
     device.serve();
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     driver.setDevice(device.configuration);
     driver.connectDevice(1);
     QTRY_VERIFY_WITH_TIMEOUT(pages > 50, 20000);

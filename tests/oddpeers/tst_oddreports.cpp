@@ -126,7 +126,7 @@ public:
             m_events.append(event);
         };
         options.cacheFolder = cacheFolder;
-        m_driver = std::make_unique<IedDriver>(options);
+        m_driver = std::make_unique<ServedDriver>(options);
         m_driver->setDevice(configuration);
         m_driver->connectDevice(1);
         m_isOnline = m_listener.waitForState(1, DeviceState::Online);
@@ -145,7 +145,7 @@ public:
     }
 
     bool isOnline() const { return m_isOnline; }
-    IedDriver &driver() { return *m_driver; }
+    ServedDriver &driver() { return *m_driver; }
     Listener &listener() { return m_listener; }
     const QString &error() const { return m_error; }
 
@@ -187,7 +187,7 @@ private:
     QStringList m_reasons; ///< each once
     QList<ReportEvent> m_events;
     Listener m_listener;
-    std::unique_ptr<IedDriver> m_driver;
+    std::unique_ptr<ServedDriver> m_driver;
     bool m_isOnline = false;
     QString m_error;
 };

@@ -85,11 +85,11 @@ private:
                sim::Device::RequestFilter filter = {}, sim::DeviceOptions options = {});
     QList<SGCBValue> values(const char *fc);
     int edited();
-    QStringList sentWrites(IedDriver &driver) const;
+    QStringList sentWrites(ServedDriver &driver) const;
 
     std::unique_ptr<SimulatedIed> m_ied;
     std::unique_ptr<Listener> m_listener;
-    std::unique_ptr<IedDriver> m_driver;
+    std::unique_ptr<ServedDriver> m_driver;
     simtest::RecordingClient m_atTheDevice;
     QString m_error;
 };
@@ -117,7 +117,7 @@ void tst_OddSettingGroups::start(const std::string &faults, std::chrono::millise
         m_ied->start();
     }
     m_listener = std::make_unique<Listener>();
-    m_driver = std::make_unique<IedDriver>(m_listener->options());
+    m_driver = std::make_unique<ServedDriver>(m_listener->options());
     DeviceConfiguration configuration = configurationFor(*m_ied);
     configuration.pollInterval = pollInterval;
     configuration.callTimeout = shortTimeout;
@@ -142,7 +142,7 @@ int tst_OddSettingGroups::edited()
         m_ied->value(protection, "LLN0$SP$SGCB$EditSG").toUnsigned().value_or(99));
 }
 
-QStringList tst_OddSettingGroups::sentWrites(IedDriver &driver) const
+QStringList tst_OddSettingGroups::sentWrites(ServedDriver &driver) const
 {
     QStringList result;
     const QVector<TraceLine> lines = traceOf(driver, 1);
@@ -232,7 +232,7 @@ void tst_OddSettingGroups::whatAnotherClientEditsIsToldAndNeitherShownNorWritten
 {
     start();
     Listener otherListener;
-    IedDriver other(otherListener.options());
+    ServedDriver other(otherListener.options());
     other.setDevice(configurationFor(*m_ied));
     other.connectDevice(1);
     QVERIFY(otherListener.waitForState(1, DeviceState::Online));
@@ -435,7 +435,7 @@ void tst_OddSettingGroups::devicesThatAreOddOnRequestAreDealtWith()
     options.oddities.sharedEdit = true;
     start({}, std::chrono::milliseconds(0), {}, options);
     Listener otherListener;
-    IedDriver other(otherListener.options());
+    ServedDriver other(otherListener.options());
     other.setDevice(configurationFor(*m_ied));
     other.connectDevice(1);
     QVERIFY(otherListener.waitForState(1, DeviceState::Online));
@@ -515,7 +515,7 @@ void tst_OddSettingGroups::aGroupThatOthersActivateReachesTheModel()
 {
     start({}, std::chrono::milliseconds(500));
     Listener otherListener;
-    IedDriver other(otherListener.options());
+    ServedDriver other(otherListener.options());
     other.setDevice(configurationFor(*m_ied));
     other.connectDevice(1);
     QVERIFY(otherListener.waitForState(1, DeviceState::Online));

@@ -35,7 +35,7 @@ public:
             return true;
         });
         m_ied.start();
-        m_driver = std::make_unique<IedDriver>(m_listener.options());
+        m_driver = std::make_unique<ServedDriver>(m_listener.options());
         DeviceConfiguration configuration = configurationFor(m_ied);
         configuration.pollInterval = std::chrono::milliseconds(0);
         m_driver->setDevice(configuration);
@@ -82,7 +82,7 @@ private:
     mms::Data m_answer;
     SimulatedIed m_ied;
     Listener m_listener;
-    std::unique_ptr<IedDriver> m_driver;
+    std::unique_ptr<ServedDriver> m_driver;
 };
 
 } // namespace
@@ -146,7 +146,7 @@ void tst_OddTypes::aDeviceThatDescribesFixedLengthsTakesShorterOnes()
     options.oddities.fixedLengths = true;
     SimulatedIed ied(QStringLiteral(STATION_FILE), {}, {}, options);
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     driver.setDevice(configurationFor(ied));
     driver.connectDevice(1);
     QVERIFY(listener.waitForState(1, DeviceState::Online));

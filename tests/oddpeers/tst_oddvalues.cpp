@@ -200,7 +200,7 @@ private:
     IndicatorFile m_file{"ODD", 3, 2};
     QString m_path;
     std::unique_ptr<Listener> m_listener;
-    std::unique_ptr<IedDriver> m_driver;
+    std::unique_ptr<ServedDriver> m_driver;
     QString m_error;
     bool m_pulse = false;
 };
@@ -214,7 +214,7 @@ void tst_OddValues::initTestCase()
 void tst_OddValues::init()
 {
     m_listener = std::make_unique<Listener>();
-    m_driver = std::make_unique<IedDriver>(m_listener->options());
+    m_driver = std::make_unique<ServedDriver>(m_listener->options());
     m_pulse = false;
 }
 
@@ -574,7 +574,7 @@ void tst_OddValues::anOutageSaysSinceWhenItLasts()
 {
     SimulatedIed ied(QStringLiteral(STATION_FILE));
     Listener listener;
-    IedDriver driver(listener.options());
+    ServedDriver driver(listener.options());
     driver.setDevice(configurationFor(ied));
     driver.connectDevice(1);
     QVERIFY(listener.waitForState(1, DeviceState::Online));

@@ -29,7 +29,7 @@ ALLOWED = {
     "protocol/mms": {"protocol/osi", "protocol/wording"},
     "protocol/acsi": {"protocol/mms", "protocol/osi", "protocol/wording"},
     "standard": set(),
-    "driver/administration": set(),
+    "driver/administration": {"sdk/remoteclient"},
     "driver/text": {"protocol/wording"},
     "driver/model": WIRE | {"standard", "driver/text", "sdk/devicemodel"},
     "driver/core": WIRE | {"driver/administration", "standard", "driver/text", "driver/model",

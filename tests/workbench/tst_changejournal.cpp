@@ -64,6 +64,7 @@ DeviceChange tst_ChangeJournal::change(const QString &newValue)
 {
     DeviceChange change;
     change.time = QDateTime(QDate(2026, 3, 4), QTime(5, 6, 7, 89), Qt::UTC);
+    change.caller = {QStringLiteral("clara"), QStringLiteral("room2"), QStringLiteral("iedctl 7")};
     change.number = 3;
     change.device = QStringLiteral("BAY1");
     change.operation = QStringLiteral("controlObject");
@@ -93,14 +94,15 @@ void tst_ChangeJournal::everyPartOfAChangeHasItsColumn()
     refused.additionalCause = QStringLiteral("blocked by interlocking");
     enter(journal, refused);
     QCOMPARE(lines().first(), QByteArray("time,device number,device,operation,reference,old value,"
-                                         "new value,result,additional cause"));
+                                         "new value,result,additional cause,caller"));
     QByteArray row = lines().last();
     const int comma = row.indexOf(',');
     const QDateTime time =
         QDateTime::fromString(QString::fromLatin1(row.left(comma)), Qt::ISODateWithMs);
     QCOMPARE(time, refused.time);
     QCOMPARE(row.mid(comma), QByteArray(",3,BAY1,controlObject,BAY1CTRL/CSWI1.Pos,1,2,The device "
-                                        "refused the command.,blocked by interlocking"));
+                                        "refused the command.,blocked by interlocking,"
+                                        "clara@room2 (iedctl 7)"));
     QTRY_COMPARE(journal.rowCount(), 1);
     QStringList cells;
     for (int column = ChangeJournal::DeviceColumn; column < ChangeJournal::ColumnCount; ++column)

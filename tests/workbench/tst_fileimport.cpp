@@ -101,7 +101,7 @@ void tst_FileImport::whatWasImportedIsWhatTheDriverAnswers()
 
     QByteArray model;
     QString error;
-    QCOMPARE(driver.getIEDModel(5, model, error), OperationSucceeded);
+    QCOMPARE(driver.serviceFor(Caller())->getIEDModel(5, model, error), OperationSucceeded);
     PhysicalDevice device;
     QDataStream stream(model);
     device.fromStream(stream);
@@ -111,7 +111,7 @@ void tst_FileImport::whatWasImportedIsWhatTheDriverAnswers()
                            QStringLiteral("BAY1LD0/LLN0$ST$Beh$q")) != nullptr);
 
     driver.removeDevice(5);
-    QVERIFY(driver.getIEDModel(5, model, error) != OperationSucceeded);
+    QVERIFY(driver.serviceFor(Caller())->getIEDModel(5, model, error) != OperationSucceeded);
     QVERIFY(!error.isEmpty());
 }
 
