@@ -23,6 +23,53 @@ QString shown(QString name)
     return name;
 }
 
+QString notWritten(const QSaveFile &file)
+{
+    return QStringLiteral("The file \"%1\" cannot be written: %2.")
+        .arg(file.fileName(), file.errorString());
+}
+
+/// Writes what comes, and says how far it is. The program waits for the driver meanwhile, so that
+/// the terminal is nobody else's.
+class WatchedSink : public FileSink
+{
+public:
+    WatchedSink(QSaveFile &file, Output &output, const QString &what)
+        : m_file(file)
+        , m_output(output)
+        , m_what(what)
+    {
+    }
+
+    quint64 octets() const { return m_octets; }
+
+    QString begin(quint64 size) override
+    {
+        m_size = size;
+        return {};
+    }
+
+    QString take(const char *octets, int count) override
+    {
+        if (m_file.write(octets, count) != count)
+            return notWritten(m_file);
+        m_octets += static_cast<quint64>(count);
+        const int percent = m_size == 0 ? 0 : static_cast<int>(100 * m_octets / m_size);
+        if (percent != m_percent)
+            m_output.progress(QStringLiteral("%1 %2 %").arg(m_what).arg(percent));
+        m_percent = percent;
+        return {};
+    }
+
+private:
+    QSaveFile &m_file;
+    Output &m_output;
+    const QString m_what;
+    quint64 m_size = 0;
+    quint64 m_octets = 0;
+    int m_percent = 0;
+};
+
 QString lastPart(const QString &path)
 {
     return shown(path).section(QLatin1Char('/'), -1);
@@ -77,24 +124,20 @@ ExitStatus getFile(Session &session, const QString &remote, const QString &local
             return session.failed(QStringLiteral("\"%1\" was left as it is.").arg(target));
     }
     QSaveFile file(target);
-    if (target.isEmpty() || !file.open(QIODevice::WriteOnly)) {
-        return session.failed(QStringLiteral("The file \"%1\" cannot be written: %2.")
-                                  .arg(target, file.errorString()));
-    }
+    if (target.isEmpty() || !file.open(QIODevice::WriteOnly))
+        return session.failed(notWritten(file));
     session.output().progress(QStringLiteral("Fetching %1 ...").arg(shown(remote)));
-    QByteArray content;
     QString error;
+    WatchedSink sink(file, session.output(), QStringLiteral("Fetching %1 ...").arg(shown(remote)));
     const OperationResult result =
-        session.controller().getFile(session.deviceNo(), onDevice(remote), content, error);
+        session.controller().getFile(session.deviceNo(), onDevice(remote), sink, error);
     if (result != OperationSucceeded)
         return session.failed(result, error);
     // A commit does not tell of what was still to be written.
-    if (file.write(content) != content.size() || !file.flush() || !file.commit()) {
-        return session.failed(QStringLiteral("The file \"%1\" cannot be written: %2.")
-                                  .arg(target, file.errorString()));
-    }
+    if (!file.flush() || !file.commit())
+        return session.failed(notWritten(file));
     session.output().note(
-        QStringLiteral("%1 octets written to \"%2\".").arg(content.size()).arg(target));
+        QStringLiteral("%1 octets written to \"%2\".").arg(sink.octets()).arg(target));
     return ExitStatus::Done;
 }
 

@@ -90,6 +90,7 @@ OperationResult perform(OnDevice<Parameters...> operation, DriverRuntime &runtim
             return carryOut(operation, device, kept, identity);
         },
         terms.need, terms.limit);
+    kept->leave();
     if (result == OperationSucceeded) {
         kept->answer(call);
         if (call.operation() == DriverOperation::getIEDModel && identity->isKnown())
@@ -120,12 +121,14 @@ OperationResult perform(Ordering<Parameters...> operation, DriverRuntime &runtim
         return order.refusal.result;
     }
     const Terms terms = termsOf(call.operation());
-    return runtime.change(
+    const OperationResult result = runtime.change(
         device, std::move(order.intent), call.error(),
         [kept, work = std::move(order.work)](ChangePointer change) {
             return work(std::move(change));
         },
         terms.need, terms.limit);
+    kept->leave();
+    return result;
 }
 
 template <typename... Parameters>

@@ -4,6 +4,7 @@
 #include "calleddevice.h"
 #include "driver/device/changegate.h"
 
+#include <remoteclient/filetransfer.h>
 #include <remoteclient/records.h>
 
 class DriverRuntime;
@@ -82,9 +83,9 @@ OperationResult abortClose(DriverRuntime &runtime, const CalledDevice &device);
 // fileoperations.cpp
 Result getFileDirectory(CalledDevice device, const QString &pattern, const QString &directory,
                         QList<MMSFileEntry> &entries);
-Result getFile(CalledDevice device, const QString &fileName, QByteArray &content);
+Result getFile(CalledDevice device, const QString &fileName, FileSink &sink);
 ChangeOrder deleteFile(Tool tool, const QString &fileName);
-ChangeOrder writeFile(Tool tool, const QString &localFile, const QString &fileName);
+ChangeOrder writeFile(Tool tool, FileSource &source, const QString &fileName);
 
 // reportoperations.cpp
 Result getBRCBValues(CalledDevice device, const QString &ldName, const QString &blockReference,

@@ -10,8 +10,6 @@
 #include <asio/use_awaitable.hpp>
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QFile>
-#include <QtCore/QFileInfo>
 
 #include <algorithm>
 #include <limits>
@@ -31,9 +29,6 @@ struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(IedDriver)
 };
-
-/// What is fetched is kept in memory as a whole.
-constexpr quint32 largestFile = 1U << 30;
 
 QString text(std::string_view utf8)
 {
@@ -163,7 +158,7 @@ asio::awaitable<Outcome> list(DevicePointer device, QString pattern, QString dir
     co_return Outcome();
 }
 
-asio::awaitable<Outcome> fetch(DevicePointer device, QString name, QByteArray *content)
+asio::awaitable<Outcome> fetch(DevicePointer device, QString name, FileSink *sink)
 {
     Turn turn(device, Texts::tr("fetching \"%1\"").arg(name));
     Outcome outcome = co_await turn.begin();
@@ -171,22 +166,19 @@ asio::awaitable<Outcome> fetch(DevicePointer device, QString name, QByteArray *c
         outcome = connectedOutcome(device);
     if (!outcome)
         co_return outcome;
-    bool isTooLarge = false;
+    QString refusal; // of the sink
+    quint64 octets = 0;
     bool isTooSlow = false;
     const TransferPace pace(steady_clock::now());
-    const auto announced = [&](std::uint32_t size) {
-        isTooLarge = size > largestFile;
-        if (!isTooLarge)
-            content->reserve(static_cast<int>(size));
-    };
+    const auto announced = [&](std::uint32_t size) { refusal = sink->begin(size); };
     const auto take = [&](std::span<const std::uint8_t> block) {
-        isTooLarge =
-            isTooLarge || block.size() > largestFile - static_cast<std::size_t>(content->size());
-        if (!isTooLarge)
-            content->append(reinterpret_cast<const char *>(block.data()),
-                            static_cast<int>(block.size()));
-        isTooSlow = pace.isTooSlow(steady_clock::now(), static_cast<quint64>(content->size()));
-        return !isTooLarge && !isTooSlow;
+        if (refusal.isEmpty()) {
+            refusal = sink->take(reinterpret_cast<const char *>(block.data()),
+                                 static_cast<int>(block.size()));
+        }
+        octets += block.size();
+        isTooSlow = pace.isTooSlow(steady_clock::now(), octets);
+        return refusal.isEmpty() && !isTooSlow;
     };
     QString notClosed;
     const auto keep = [&notClosed](const mms::Text &reason) { notClosed = text(reason); };
@@ -197,17 +189,13 @@ asio::awaitable<Outcome> fetch(DevicePointer device, QString name, QByteArray *c
                            ? QString()
                            : Texts::tr("%1 stays open on the device, which has few open files: %2")
                                  .arg(name, notClosed));
-    if (isTooLarge) {
-        content->clear();
-        co_return Outcome::failed(Texts::tr("%1 is too large: at most %2 octets can be fetched.")
-                                      .arg(name)
-                                      .arg(largestFile));
-    }
+    if (!refusal.isEmpty())
+        co_return Outcome::failed(refusal);
     if (isTooSlow && !fetched) {
         co_return Outcome::failed(Texts::tr("%1 comes too slowly: %2 octets so far, less than %3 "
                                             "in a second.")
                                       .arg(name)
-                                      .arg(content->size())
+                                      .arg(octets)
                                       .arg(TransferPace::leastOctetsPerSecond));
     }
     co_return fetched ? Outcome() : Outcome::failed(fetched.error());
@@ -232,42 +220,38 @@ asio::awaitable<Outcome> remove(ChangePointer change, QString name)
     co_return outcomeOf(removed);
 }
 
-/// The file of this computer; an error says why it cannot be sent.
-mms::Result<acsi::FileSource> sourceOf(const QString &localFile)
+/// What a device is given of the source; an error says why it cannot be sent.
+mms::Result<acsi::FileSource> opened(FileSource &source)
 {
     const auto error = [](const QString &sentence) {
         return mms::Error{mms::verbatim(sentence.toStdString()), 0};
     };
-    if (localFile.isEmpty())
-        return error(Texts::tr("There is no file to send."));
-    const auto file = std::make_shared<QFile>(localFile);
-    if (!QFileInfo(localFile).isFile())
-        return error(Texts::tr("There is no file \"%1\" on this computer.").arg(localFile));
-    if (!file->open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return error(Texts::tr("\"%1\" cannot be read: %2.").arg(localFile, file->errorString()));
-    if (file->size() > std::numeric_limits<quint32>::max())
-        return error(Texts::tr("\"%1\" is too large for a file of a device.").arg(localFile));
-    acsi::FileSource source;
-    source.size = static_cast<std::uint32_t>(file->size());
-    source.read = [file, error](std::uint64_t position,
-                                std::span<std::uint8_t> block) -> mms::Result<std::size_t> {
-        const bool isThere = file->seek(static_cast<qint64>(position));
-        const qint64 count = isThere ? file->read(reinterpret_cast<char *>(block.data()),
-                                                  static_cast<qint64>(block.size()))
-                                     : -1;
+    quint64 size = 0;
+    const QString refusal = source.open(size);
+    if (!refusal.isEmpty())
+        return error(refusal);
+    if (size > std::numeric_limits<quint32>::max())
+        return error(Texts::tr("\"%1\" is too large for a file of a device.").arg(source.name()));
+    acsi::FileSource given;
+    given.size = static_cast<std::uint32_t>(size);
+    given.read = [&source, error](std::uint64_t position,
+                                  std::span<std::uint8_t> block) -> mms::Result<std::size_t> {
+        QString sentence;
+        const qint64 count = source.read(position, reinterpret_cast<char *>(block.data()),
+                                         static_cast<qint64>(block.size()), sentence);
         if (count < 0)
-            return error(
-                Texts::tr("\"%1\" cannot be read: %2.").arg(file->fileName(), file->errorString()));
+            return error(sentence);
         return static_cast<std::size_t>(count);
     };
-    return source;
+    return given;
 }
 
-asio::awaitable<Outcome> send(ChangePointer change, QString localFile, std::string plain)
+asio::awaitable<Outcome> send(ChangePointer change, FileSource *file, std::string plain)
 {
-    mms::Result<acsi::FileSource> source = sourceOf(localFile);
+    mms::Result<acsi::FileSource> source = opened(*file);
     if (source)
-        change->setValues(QString(), Texts::tr("%1 (%2 octets)").arg(localFile).arg(source->size));
+        change->setValues(QString(),
+                          Texts::tr("%1 (%2 octets)").arg(file->name()).arg(source->size));
     change->intend();
     Turn turn(change->device(), Texts::tr("sending \"%1\"").arg(text(plain)));
     Outcome outcome;
@@ -292,9 +276,9 @@ Result DeviceOperations::getFileDirectory(CalledDevice device, const QString &pa
     return list(device, pattern, directory, &entries);
 }
 
-Result DeviceOperations::getFile(CalledDevice device, const QString &fileName, QByteArray &content)
+Result DeviceOperations::getFile(CalledDevice device, const QString &fileName, FileSink &sink)
 {
-    return fetch(device, fileName, &content);
+    return fetch(device, fileName, &sink);
 }
 
 ChangeOrder DeviceOperations::deleteFile(Tool, const QString &fileName)
@@ -303,12 +287,12 @@ ChangeOrder DeviceOperations::deleteFile(Tool, const QString &fileName)
             [fileName](ChangePointer change) { return remove(std::move(change), fileName); }};
 }
 
-ChangeOrder DeviceOperations::writeFile(Tool, const QString &localFile, const QString &fileName)
+ChangeOrder DeviceOperations::writeFile(Tool, FileSource &source, const QString &fileName)
 {
-    const std::string plain = FileNames::onDevice(FileNames::target(fileName, localFile));
+    const std::string plain = FileNames::onDevice(FileNames::target(fileName, source.name()));
     ChangeIntent intent = intentOf("writeFile", plain);
-    intent.newValue = localFile;
-    return {std::move(intent), [localFile, plain](ChangePointer change) {
-                return send(std::move(change), localFile, plain);
+    intent.newValue = source.name();
+    return {std::move(intent), [file = &source, plain](ChangePointer change) {
+                return send(std::move(change), file, plain);
             }};
 }

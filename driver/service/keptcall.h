@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "keptfile.h"
+
 #include <remoteclient/drivercall.h>
 
 #include <deque>
+#include <memory>
 #include <variant>
 
 /// A call with arguments and answers of its own, for what may go on after its caller has been told
@@ -17,12 +20,15 @@ public:
     /// The call, with what is kept here for arguments.
     const DriverCall &call() const { return m_call; }
 
+    /// The caller waits no longer: his files are not used from now on. In his thread.
+    void leave();
     /// Gives the answers to the caller, who called with @a call.
     void answer(const DriverCall &call);
 
 private:
     using Value = std::variant<std::monostate, int, QString, QStringList, QByteArray, ReportBlock,
-                               QList<SGCBValue>, QList<NameVaildValue>, QList<MMSFileEntry>, SGCB>;
+                               QList<SGCBValue>, QList<NameVaildValue>, QList<MMSFileEntry>, SGCB,
+                               std::unique_ptr<KeptSink>, std::unique_ptr<KeptSource>>;
 
     std::deque<Value> m_values; ///< one for each argument; their places do not change
     QString m_error;

@@ -65,12 +65,12 @@ enum class DriverEffect {
 };
 
 /// An argument of a call between the device's number and the error text: a number, what is asked
-/// for (const), or what the answer goes to. Nothing is owned.
+/// for (const), what the answer goes to, or a file. Nothing is owned.
 using DriverArgument =
     std::variant<std::monostate, int, const QString *, const QStringList *, const QByteArray *,
                  const ReportBlock *, const QList<SGCBValue> *, QByteArray *,
                  QList<NameVaildValue> *, QList<MMSFileEntry> *, ReportBlock *, SGCB *,
-                 QList<SGCBValue> *>;
+                 QList<SGCBValue> *, FileSink *, FileSource *>;
 
 /// One call of any operation of a driver service, for what is done alike for all of them: observe,
 /// refuse, count, hand over to another thread, send away. The arguments are those of the caller and

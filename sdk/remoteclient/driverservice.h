@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "filetransfer.h"
 #include "operationresult.h"
 #include "records.h"
 #include "remoteclientglobal.h"
@@ -89,13 +90,14 @@ public:
     virtual OperationResult getFileDirectory(long deviceNo, const QString &pattern,
                                              const QString &directory, QList<MMSFileEntry> &entries,
                                              QString &error) = 0;
-    /// Fetch a file of the IED.
-    virtual OperationResult getFile(long deviceNo, const QString &fileName, QByteArray &content,
+    /// Fetch a file of the IED. What has been given to `sink` before a failure stays there.
+    virtual OperationResult getFile(long deviceNo, const QString &fileName, FileSink &sink,
                                     QString &error) = 0;
     virtual OperationResult deleteFile(long deviceNo, const QString &fileName, QString &error) = 0;
-    /// Send `localFile` of this computer to the IED as `fileName`.
-    virtual OperationResult writeFile(long deviceNo, const QString &localFile,
-                                      const QString &fileName, QString &error) = 0;
+    /// Send the file to the IED as `fileName`; where that names a directory, under the last part of
+    /// the source's name.
+    virtual OperationResult writeFile(long deviceNo, FileSource &source, const QString &fileName,
+                                      QString &error) = 0;
     /// Read a report control block, buffered or unbuffered.
     virtual OperationResult getBRCBValues(long deviceNo, const QString &ldName,
                                           const QString &blockReference, ReportBlock &block,

@@ -15,6 +15,7 @@ struct Given
 
     void operator()(int number) { value = number; }
     void operator()(const QString *text) { texts << *text; }
+    void operator()(FileSource *source) { texts << source->name(); }
     void operator()(const QByteArray *given) { bytes = *given; }
     void operator()(const QList<SGCBValue> *values)
     {

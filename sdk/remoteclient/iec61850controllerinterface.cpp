@@ -13,6 +13,7 @@
 
 #include <atomic>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -108,6 +109,7 @@ struct Shown
     QStringList texts;
 
     void operator()(int number) { texts << shortText(number); }
+    void operator()(FileSource *source) { texts << shortText(source->name()); }
     template <typename Argument>
     void operator()(const Argument *argument)
     {
@@ -151,6 +153,23 @@ void IEC61850ControllerInterface::setLocation(const QString &address, int driver
 {
     m_address = address;
     m_driverNo = driverNo;
+}
+
+OperationResult IEC61850ControllerInterface::getFile(long deviceNo, const QString &fileName,
+                                                     QByteArray &content, QString &error)
+{
+    MemoryFileSink sink(fileName);
+    const OperationResult result = getFile(deviceNo, fileName, sink, error);
+    if (result == OperationSucceeded)
+        content = std::move(sink.content);
+    return result;
+}
+
+OperationResult IEC61850ControllerInterface::writeFile(long deviceNo, const QString &localFile,
+                                                       const QString &fileName, QString &error)
+{
+    LocalFileSource source(localFile);
+    return writeFile(deviceNo, source, fileName, error);
 }
 
 OperationResult IEC61850ControllerInterface::call(const DriverCall &made)

@@ -23,6 +23,16 @@ public:
     /// Where the driver is. `driverNo` is the number of the driver (channel) there.
     void setLocation(const QString &address, int driverNo);
 
+    using ForwardingDriverService::getFile;
+    using ForwardingDriverService::writeFile;
+    /// Fetch a file of the IED into memory, at most MemoryFileSink::largestFile octets. Only a
+    /// success changes `content`.
+    OperationResult getFile(long deviceNo, const QString &fileName, QByteArray &content,
+                            QString &error);
+    /// Send `localFile` of this computer to the IED as `fileName`.
+    OperationResult writeFile(long deviceNo, const QString &localFile, const QString &fileName,
+                              QString &error);
+
 protected:
     OperationResult call(const DriverCall &call) override;
 

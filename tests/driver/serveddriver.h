@@ -26,6 +26,24 @@ public:
         return {QStringLiteral("tester"), QStringLiteral("desk"), QStringLiteral("test 1")};
     }
 
+    using ForwardingDriverService::getFile;
+    using ForwardingDriverService::writeFile;
+    OperationResult getFile(long deviceNo, const QString &fileName, QByteArray &content,
+                            QString &error)
+    {
+        MemoryFileSink sink(fileName);
+        const OperationResult result = getFile(deviceNo, fileName, sink, error);
+        if (result == OperationSucceeded)
+            content = std::move(sink.content);
+        return result;
+    }
+    OperationResult writeFile(long deviceNo, const QString &localFile, const QString &fileName,
+                              QString &error)
+    {
+        LocalFileSource source(localFile);
+        return writeFile(deviceNo, source, fileName, error);
+    }
+
 protected:
     OperationResult call(const DriverCall &call) override { return call.carryOut(*m_service); }
 

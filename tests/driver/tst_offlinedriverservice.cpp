@@ -113,7 +113,8 @@ void tst_OfflineDriverService::everyOtherOperationIsRefused()
     const QByteArray bytes;
     QList<NameVaildValue> list;
     QList<MMSFileEntry> entries;
-    QByteArray content;
+    MemoryFileSink sink(name);
+    LocalFileSource source(name);
     ReportBlock block;
     SGCB settingGroupBlock;
     QList<SGCBValue> settings;
@@ -137,9 +138,9 @@ void tst_OfflineDriverService::everyOtherOperationIsRefused()
         [&](QString &e) { return service.createDataSet(1, name, name, name, 0, e); },
         [&](QString &e) { return service.deleteDataSet(1, name, name, e); },
         [&](QString &e) { return service.getFileDirectory(1, name, name, entries, e); },
-        [&](QString &e) { return service.getFile(1, name, content, e); },
+        [&](QString &e) { return service.getFile(1, name, sink, e); },
         [&](QString &e) { return service.deleteFile(1, name, e); },
-        [&](QString &e) { return service.writeFile(1, name, name, e); },
+        [&](QString &e) { return service.writeFile(1, source, name, e); },
         [&](QString &e) { return service.getBRCBValues(1, name, name, block, e); },
         [&](QString &e) { return service.enableReportBlock(1, name, name, name, name, block, e); },
         [&](QString &e) { return service.getSGCB(1, name, settingGroupBlock, e); },

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "memoryfilestore.h"
 
-#include <QtCore/QFile>
-
 #include <algorithm>
 
 namespace {
@@ -58,14 +56,11 @@ OperationResult MemoryFileStore::getFileDirectory(long deviceNo, const QString &
     return result;
 }
 
-OperationResult MemoryFileStore::getFile(long deviceNo, const QString &fileName,
-                                         QByteArray &content, QString &error)
+OperationResult MemoryFileStore::getFile(long deviceNo, const QString &fileName, FileSink &sink,
+                                         QString &error)
 {
-    const OperationResult result =
-        RecordingDriverService::getFile(deviceNo, fileName, content, error);
-    if (result == OperationSucceeded)
-        content = files.value(fileName);
-    return result;
+    fileContent = files.value(fileName);
+    return RecordingDriverService::getFile(deviceNo, fileName, sink, error);
 }
 
 OperationResult MemoryFileStore::deleteFile(long deviceNo, const QString &fileName, QString &error)
@@ -76,15 +71,17 @@ OperationResult MemoryFileStore::deleteFile(long deviceNo, const QString &fileNa
     return result;
 }
 
-OperationResult MemoryFileStore::writeFile(long deviceNo, const QString &localFile,
+OperationResult MemoryFileStore::writeFile(long deviceNo, FileSource &source,
                                            const QString &fileName, QString &error)
 {
     const OperationResult result =
-        RecordingDriverService::writeFile(deviceNo, localFile, fileName, error);
-    QFile local(localFile);
-    if (result == OperationSucceeded && local.open(QIODevice::ReadOnly)) {
+        RecordingDriverService::writeFile(deviceNo, source, fileName, error);
+    quint64 size = 0;
+    if (result == OperationSucceeded && source.open(size).isEmpty()) {
+        QByteArray content(static_cast<int>(size), Qt::Uninitialized);
+        source.read(0, content.data(), content.size(), error);
         const int separator = fileName.lastIndexOf(QLatin1Char('\\'));
-        addFile(fileName.left(separator + 1), fileName.mid(separator + 1), local.readAll());
+        addFile(fileName.left(separator + 1), fileName.mid(separator + 1), content);
     }
     return result;
 }

@@ -27,10 +27,10 @@ public:
     OperationResult getFileDirectory(long deviceNo, const QString &pattern,
                                      const QString &directory, QList<MMSFileEntry> &entries,
                                      QString &error) override;
-    OperationResult getFile(long deviceNo, const QString &fileName, QByteArray &content,
+    OperationResult getFile(long deviceNo, const QString &fileName, FileSink &sink,
                             QString &error) override;
     OperationResult deleteFile(long deviceNo, const QString &fileName, QString &error) override;
-    OperationResult writeFile(long deviceNo, const QString &localFile, const QString &fileName,
+    OperationResult writeFile(long deviceNo, FileSource &source, const QString &fileName,
                               QString &error) override;
 
 private:

@@ -3,6 +3,7 @@
 
 #include <remoteclient/driverserviceregistry.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -13,6 +14,7 @@ struct Written
     QVariantList arguments;
 
     void operator()(int number) { arguments << number; }
+    void operator()(FileSource *source) { arguments << source->name(); }
     template <typename Argument>
     void operator()(const Argument *argument)
     {
@@ -93,33 +95,30 @@ OperationResult RecordingDriverService::call(const DriverCall &made)
     if (onCall)
         onCall(call);
     made.error() = answer.error;
-    if (answer.result == OperationSucceeded)
-        fill(made);
-    return answer.result;
+    return answer.result == OperationSucceeded ? fill(made) : answer.result;
 }
 
-void RecordingDriverService::fill(const DriverCall &made)
+OperationResult RecordingDriverService::fill(const DriverCall &made)
 {
     switch (made.operation()) {
     case DriverOperation::getIEDModel:
         made.argument<QByteArray &>(0) = model;
-        return;
+        return OperationSucceeded;
     case DriverOperation::getFileDirectory:
         made.argument<QList<MMSFileEntry> &>(2) =
             fileEntriesOf.value(made.argument<const QString &>(1), fileEntries);
-        return;
+        return OperationSucceeded;
     case DriverOperation::getFile:
-        made.argument<QByteArray &>(1) = fileContent;
-        return;
+        return give(made.argument<FileSink &>(1), made.error());
     case DriverOperation::getBRCBValues:
         made.argument<ReportBlock &>(2) = reportBlock;
-        return;
+        return OperationSucceeded;
     case DriverOperation::getSGCB:
         made.argument<SGCB &>(1) = settingGroupBlock;
-        return;
+        return OperationSucceeded;
     case DriverOperation::getSGCBValue:
         made.argument<QList<SGCBValue> &>(2) = settings.value(made.argument<const QString &>(1));
-        return;
+        return OperationSucceeded;
     default:
         break;
     }
@@ -127,6 +126,16 @@ void RecordingDriverService::fill(const DriverCall &made)
         if (const auto *list = std::get_if<QList<NameVaildValue> *>(&argument))
             **list = directories.value(QString::fromLatin1(made.name()));
     }
+    return OperationSucceeded;
+}
+
+OperationResult RecordingDriverService::give(FileSink &sink, QString &error) const
+{
+    constexpr int piece = 30000;
+    error = sink.begin(static_cast<quint64>(fileContent.size()));
+    for (int at = 0; error.isEmpty() && at < fileContent.size(); at += piece)
+        error = sink.take(fileContent.constData() + at, std::min(piece, fileContent.size() - at));
+    return error.isEmpty() ? OperationSucceeded : OperationFailed;
 }
 
 DriverServiceRegistration::DriverServiceRegistration(const QString &address,

@@ -60,7 +60,8 @@ protected:
     OperationResult call(const DriverCall &made) override;
 
 private:
-    void fill(const DriverCall &made);
+    OperationResult fill(const DriverCall &made);
+    OperationResult give(FileSink &sink, QString &error) const;
 
     mutable std::mutex m_mutex;
     QList<Call> m_calls;

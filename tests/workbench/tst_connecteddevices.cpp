@@ -381,8 +381,8 @@ void tst_ConnectedDevices::everyKindOfChangeIsInTheJournalWithItsResult()
     QVERIFY2(driver.enableReportBlock(1, QStringLiteral("BAY1E1CTRL"), report, block.rptId,
                                        block.datSet, block, error) == OperationSucceeded,
              qPrintable(error));
-    QVERIFY2(driver.writeFile(1, localFile, QStringLiteral("sent.txt"), error) ==
-                 OperationSucceeded,
+    LocalFileSource source(localFile);
+    QVERIFY2(driver.writeFile(1, source, QStringLiteral("sent.txt"), error) == OperationSucceeded,
              qPrintable(error));
     QCOMPARE(driver.deleteFile(1, QStringLiteral("sent.txt"), error), OperationSucceeded);
 
