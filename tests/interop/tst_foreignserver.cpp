@@ -273,8 +273,8 @@ TEST_F(ForeignServerTest, describesTheTypeOfAVariable)
     EXPECT_EQ(array.type, TypeDescription::array(4, TypeDescription::float32()));
     const auto node = m_session->ask<GetVariableAccessAttributesResponse>(
         GetVariableAccessAttributesRequest{ObjectName::inDomain(bay, "CSWI1")});
-    ASSERT_FALSE(node.type->components.empty());
-    EXPECT_EQ(node.type->components.front().name, "ST");
+    ASSERT_FALSE(node.type.components.empty());
+    EXPECT_EQ(node.type.components.front().name, "ST");
 }
 
 TEST_F(ForeignServerTest, readsOneVariable)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "simulatedstation.h"
 
+#include "mms/datatext.h"
+
 #include <remoteclient/driverserviceregistry.h>
 #include <remoteclient/iec61850controllerinterface.h>
 
@@ -738,5 +740,4 @@ void tst_OddControl::categoriesEndWithEight()
 }
 
 QTEST_GUILESS_MAIN(tst_OddControl)
-#include "mms/datatext.h"
 #include "tst_oddcontrol.moc"

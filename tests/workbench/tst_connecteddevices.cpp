@@ -357,7 +357,7 @@ void tst_ConnectedDevices::everyKindOfChangeIsInTheJournalWithItsResult()
         QDataStream stream(&bytes, QIODevice::WriteOnly);
         command.toStream(stream);
         return driver.controlObject(1, QStringLiteral("BAY1E1IO"), command.objectReference, bytes,
-                                     error);
+                                    error);
     };
     const QString localFile = m_folder->filePath(QStringLiteral("sent.txt"));
     QFile sent(localFile);
@@ -371,7 +371,7 @@ void tst_ConnectedDevices::everyKindOfChangeIsInTheJournalWithItsResult()
     const QString refusal = error;
     QCOMPARE(driver.selectActiveSG(1, QStringLiteral("BAY1E1PROT"), 2, error), OperationSucceeded);
     QCOMPARE(driver.createDataSet(1, QStringLiteral("BAY1E1IO"), QStringLiteral("LLN0$made"),
-                                   QStringLiteral("BAY1E1IO/GGIO1$ST$Ind1"), 0, error),
+                                  QStringLiteral("BAY1E1IO/GGIO1$ST$Ind1"), 0, error),
              OperationSucceeded);
     ReportBlock block;
     const QString report = QStringLiteral("LLN0$BR$brcbPositions01");
@@ -379,7 +379,7 @@ void tst_ConnectedDevices::everyKindOfChangeIsInTheJournalWithItsResult()
              OperationSucceeded);
     block.rptEna = true;
     QVERIFY2(driver.enableReportBlock(1, QStringLiteral("BAY1E1CTRL"), report, block.rptId,
-                                       block.datSet, block, error) == OperationSucceeded,
+                                      block.datSet, block, error) == OperationSucceeded,
              qPrintable(error));
     LocalFileSource source(localFile);
     QVERIFY2(driver.writeFile(1, source, QStringLiteral("sent.txt"), error) == OperationSucceeded,

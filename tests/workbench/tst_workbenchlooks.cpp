@@ -6,6 +6,7 @@
 #include "workbench/fileimport.h"
 #include "workbench/iedchooser.h"
 #include "workbench/mainwindow.h"
+#include "workbench/tableview.h"
 #include "workbench/tracedialog.h"
 #include "workbench/waitingcalls.h"
 #include "workbench/workbench.h"
@@ -118,7 +119,7 @@ void tst_WorkbenchLooks::expectNoFlaws(QWidget &window, const QString &state)
 
 void tst_WorkbenchLooks::theFormOfADeviceIsShownWhole()
 {
-    DeviceDialog dialog({}, {}, {}, m_jobs);
+    DeviceDialog dialog({}, {}, {}, {}, m_jobs);
     dialog.show();
     auto *tabs = dialog.findChild<QTabWidget *>();
     for (int tab = 0; tab < tabs->count(); ++tab) {

@@ -3163,10 +3163,6 @@ Verbindungen: %5</translation>
         <translation>Die Gegenstelle hat die Transportverbindung ohne Grund beendet.</translation>
     </message>
     <message>
-        <source>The peer gave no sign of life in time.</source>
-        <translation>Die Gegenstelle hat nicht rechtzeitig ein Lebenszeichen gegeben.</translation>
-    </message>
-    <message>
         <source>The peer has shown no certificate.</source>
         <translation>Die Gegenstelle hat kein Zertifikat vorgelegt.</translation>
     </message>

@@ -3163,10 +3163,6 @@ Conexiones: %5</translation>
         <translation>El sistema remoto terminó la conexión de transporte sin dar una razón.</translation>
     </message>
     <message>
-        <source>The peer gave no sign of life in time.</source>
-        <translation>El sistema remoto no dio señales de vida a tiempo.</translation>
-    </message>
-    <message>
         <source>The peer has shown no certificate.</source>
         <translation>El sistema remoto no ha mostrado ningún certificado.</translation>
     </message>

@@ -3163,10 +3163,6 @@ Connexions : %5</translation>
         <translation>Le système distant a mis fin à la connexion de transport sans donner de raison.</translation>
     </message>
     <message>
-        <source>The peer gave no sign of life in time.</source>
-        <translation>Le système distant n&apos;a pas donné signe de vie à temps.</translation>
-    </message>
-    <message>
         <source>The peer has shown no certificate.</source>
         <translation>Le système distant n&apos;a pas présenté de certificat.</translation>
     </message>

@@ -3163,10 +3163,6 @@ Conexões: %5</translation>
         <translation>O sistema remoto encerrou a conexão de transporte sem dar um motivo.</translation>
     </message>
     <message>
-        <source>The peer gave no sign of life in time.</source>
-        <translation>O sistema remoto não deu sinal de vida a tempo.</translation>
-    </message>
-    <message>
         <source>The peer has shown no certificate.</source>
         <translation>O sistema remoto não apresentou nenhum certificado.</translation>
     </message>

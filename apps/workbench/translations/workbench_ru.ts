@@ -3163,10 +3163,6 @@ Connections: %5</source>
         <translation>Удалённая сторона завершила транспортное соединение без указания причины.</translation>
     </message>
     <message>
-        <source>The peer gave no sign of life in time.</source>
-        <translation>Удалённая сторона вовремя не подала признаков жизни.</translation>
-    </message>
-    <message>
         <source>The peer has shown no certificate.</source>
         <translation>Удалённая сторона не предъявила сертификат.</translation>
     </message>

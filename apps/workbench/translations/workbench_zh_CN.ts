@@ -3163,10 +3163,6 @@ Connections: %5</source>
         <translation>对方结束了传输连接，没有给出原因。</translation>
     </message>
     <message>
-        <source>The peer gave no sign of life in time.</source>
-        <translation>对方没有及时给出存活信号。</translation>
-    </message>
-    <message>
         <source>The peer has shown no certificate.</source>
         <translation>对方没有出示证书。</translation>
     </message>
