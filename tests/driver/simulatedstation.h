@@ -28,9 +28,11 @@
 #include <condition_variable>
 #include <functional>
 #include <future>
+#include <map>
 #include <memory>
 #include <mutex>
 #include <thread>
+#include <utility>
 
 namespace drivertest {
 
@@ -170,6 +172,8 @@ public:
         options.poster = [this](const QList<QByteArray> &records) { take(records); };
         options.observer.statusChanged = [this](const DeviceStatus &status) {
             const std::lock_guard<std::mutex> lock(m_mutex);
+            if (m_statuses.value(status.number).state != status.state)
+                ++m_visits[{status.number, status.state}];
             m_statuses.insert(status.number, status);
             m_changed.notify_all();
         };
@@ -202,6 +206,15 @@ public:
     {
         return waitForStatus(number,
                              [state](const DeviceStatus &status) { return status.state == state; });
+    }
+
+    /// Waits until the device has come into the state so many times, however short it stayed there.
+    bool waitForVisits(int number, DeviceState state, int count)
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        return m_changed.wait_for(lock, patience, [&] {
+            return m_visits[{number, state}] >= count;
+        });
     }
 
     /// Waits for a value of the reference that fulfils the condition, published since clear().
@@ -304,6 +317,7 @@ private:
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
     QHash<int, DeviceStatus> m_statuses; ///< the newest of each device
+    std::map<std::pair<int, DeviceState>, int> m_visits;
     QList<DeviceChange> m_changes;
     QList<DeviceChange> m_intents;
     QHash<QString, MMSValue> m_values;
