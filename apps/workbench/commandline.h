@@ -4,8 +4,6 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-class QCommandLineParser;
-
 /// What the workbench was asked for on its command line.
 struct CommandLine
 {
@@ -15,6 +13,7 @@ struct CommandLine
     QString pluginFolder; ///< empty: the folder "plugins" beside the executable
     bool demonstration = false;
     QStringList files;
+    QString answer;  ///< to be printed, and nothing else done: the help, or the version
     QString problem; ///< what is wrong with the command line, one sentence
 };
 
@@ -22,6 +21,5 @@ struct CommandLine
 /// is an application object.
 bool runsWithoutDisplay(const QStringList &arguments);
 
-/// Declares the options on @p parser and reads @p arguments, the program's name first. Asking for
-/// help or the version makes the parser's own options true and leaves the rest empty.
-CommandLine parseCommandLine(QCommandLineParser &parser, const QStringList &arguments);
+/// @param arguments the program's name first
+CommandLine parseCommandLine(const QStringList &arguments);

@@ -7,7 +7,6 @@
 #include "translators.h"
 #include "workbench.h"
 
-#include <QtCore/QCommandLineParser>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QRegularExpression>
@@ -19,6 +18,7 @@
 #include <QtWidgets/QApplication>
 
 #include <cstdio>
+#include <optional>
 
 namespace {
 
@@ -46,19 +46,17 @@ bool lacksDisplay(const QStringList &arguments)
 #endif
 }
 
-/// Answers --help, --version and mistakes; true when nothing is left to do.
-bool isAnswered(QCommandLineParser &parser, const CommandLine &line, int &status)
+/// Answers --help, --version and mistakes; the exit status when nothing is left to do.
+std::optional<int> answer(const CommandLine &line)
 {
     if (!line.problem.isEmpty()) {
         say(line.problem);
-        status = unusableStatus;
-        return true;
+        return unusableStatus;
     }
-    if (parser.isSet(QStringLiteral("version")))
-        parser.showVersion();
-    if (parser.isSet(QStringLiteral("help")))
-        parser.showHelp();
-    return false;
+    if (line.answer.isEmpty())
+        return {};
+    QTextStream(stdout) << line.answer;
+    return EXIT_SUCCESS;
 }
 
 int runCheck(const CommandLine &line)
@@ -142,14 +140,12 @@ int main(int argc, char *argv[])
     QStringList given;
     for (int i = 0; i < argc; ++i)
         given << QString::fromLocal8Bit(argv[i]);
-    QCommandLineParser parser;
-    int status = EXIT_SUCCESS;
-
     if (runsWithoutDisplay(given)) {
         const QCoreApplication application(argc, argv);
         installTranslators(translationFolder());
-        const CommandLine line = parseCommandLine(parser, QCoreApplication::arguments());
-        return isAnswered(parser, line, status) ? status : runCheck(line);
+        const CommandLine line = parseCommandLine(QCoreApplication::arguments());
+        const std::optional<int> status = answer(line);
+        return status ? *status : runCheck(line);
     }
 
     const bool tour = given.filter(QRegularExpression(QStringLiteral("^--?tour(=|$)"))).size() > 0;
@@ -173,8 +169,8 @@ int main(int argc, char *argv[])
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/workbench/workbench.png")));
     installTranslators(translationFolder());
 
-    const CommandLine line = parseCommandLine(parser, QCoreApplication::arguments());
-    if (isAnswered(parser, line, status))
-        return status;
+    const CommandLine line = parseCommandLine(QCoreApplication::arguments());
+    if (const std::optional<int> status = answer(line))
+        return *status;
     return line.tour.isEmpty() ? runWindow(line) : runTour(line);
 }

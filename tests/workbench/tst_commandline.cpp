@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "workbench/commandline.h"
 
-#include <QtCore/QCommandLineParser>
 #include <QtTest/QtTest>
 
 namespace {
 
 CommandLine parsed(const QStringList &options)
 {
-    QCommandLineParser parser;
-    return parseCommandLine(parser, QStringList{QStringLiteral("workbench")} + options);
+    return parseCommandLine(QStringList{QStringLiteral("workbench")} + options);
 }
 
 QStringList words(const char *text)
@@ -25,6 +23,8 @@ class tst_CommandLine : public QObject
 
 private slots:
     void filesAndOptionsAreUnderstood();
+    void helpAndVersionAreAnswered();
+    void theSentenceNamesTheOptionThatIsWrong();
     void contradictionsAreRefused_data();
     void contradictionsAreRefused();
     void onlyWhatNeedsNoDisplayRunsWithoutOne_data();
@@ -44,6 +44,29 @@ void tst_CommandLine::filesAndOptionsAreUnderstood()
     QCOMPARE(check.check, QStringLiteral("a.scd"));
     QCOMPARE(check.ied, QStringLiteral("BAY1"));
     QCOMPARE(parsed(words("--tour=out")).tour, QStringLiteral("out"));
+}
+
+void tst_CommandLine::helpAndVersionAreAnswered()
+{
+    QCoreApplication::setApplicationName(QStringLiteral("workbench"));
+    QCoreApplication::setApplicationVersion(QStringLiteral("1.2.3"));
+    QCOMPARE(parsed(words("-v")).answer, QStringLiteral("workbench 1.2.3\n"));
+    const QString help = parsed(words("a.scd --help --chekc")).answer;
+    QVERIFY2(help.startsWith(QLatin1String("Usage: workbench [options] [FILE...]\n")),
+             qPrintable(help));
+    for (const char *option : {"-h, --help", "-v, --version", "--check <FILE>", "--ied <NAME>",
+                               "--tour <DIR>", "--plugin-dir <DIR>", "--demo", "FILE"})
+        QVERIFY2(help.contains(QStringLiteral("\n  %1  ").arg(QLatin1String(option))),
+                 qPrintable(help));
+    for (const QString &line : help.split(QLatin1Char('\n')))
+        QVERIFY2(line.size() <= 79, qPrintable(line));
+}
+
+void tst_CommandLine::theSentenceNamesTheOptionThatIsWrong()
+{
+    QVERIFY(parsed(words("--chekc a.scd")).problem.contains(QLatin1String("--chekc")));
+    QVERIFY(parsed(words("a.scd --check")).problem.contains(QLatin1String("'--check'")));
+    QVERIFY(parsed(words("--demo=soon")).problem.contains(QLatin1String("soon")));
 }
 
 void tst_CommandLine::contradictionsAreRefused_data()
