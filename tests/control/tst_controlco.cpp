@@ -13,7 +13,6 @@
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QLayout>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QToolTip>
@@ -218,8 +217,6 @@ void tst_ControlCo::theFormBearsTheNamesAndTextsThatHostsKnow()
     }
     QCOMPARE(find<QDialogButtonBox>(dialog, "buttonBox")->standardButtons(),
              QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    for (const char *name : {"verticalLayout", "gridLayout", "horizontalLayout"})
-        QVERIFY2(dialog.findChild<QLayout *>(QLatin1String(name)), name);
 }
 
 void tst_ControlCo::theObjectIsNamedByItsLogicalNode()

@@ -9,7 +9,6 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QLayout>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QToolTip>
@@ -225,8 +224,6 @@ void tst_DatasetSelectWidget::theDialogBearsTheNamesAndTextsThatHostsKnow()
     QCOMPARE(m_dialog->windowTitle(), "Selete Datas");
     QVERIFY(!m_dialog->windowFlags().testFlag(Qt::WindowContextHelpButtonHint));
     QCOMPARE(m_dialog->size(), QSize(484, 307));
-    QVERIFY(m_dialog->findChild<QLayout *>("verticalLayout"));
-    QVERIFY(m_dialog->findChild<QLayout *>("horizontalLayout"));
     QCOMPARE(m_dialog->findChild<QLabel *>("label")->text(), "DataSet Name : ");
     QCOMPARE(tree()->columnCount(), 1);
     QCOMPARE(tree()->headerItem()->text(0), "Name");
