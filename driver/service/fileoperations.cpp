@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "deviceoperations.h"
 #include "driver/core/filenames.h"
-#include "driver/device/transferpace.h"
+#include "driver/core/transferpace.h"
 #include "driver/text/sentences.h"
 
 #include "acsi/files.h"

@@ -2,7 +2,7 @@
 #include "driver/core/associationlife.h"
 #include "driver/core/deviceidentity.h"
 #include "driver/core/signoflife.h"
-#include "driver/device/transferpace.h"
+#include "driver/core/transferpace.h"
 
 #include <QtTest/QtTest>
 
