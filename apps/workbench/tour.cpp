@@ -12,6 +12,7 @@
 #include <QtGui/QContextMenuEvent>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
+#include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
@@ -471,7 +472,10 @@ bool Tour::showTrace()
     if (!waitFor([&name] { return visibleWindow(name) != nullptr; }))
         return fail(Texts::tr("The window \"%1\" did not appear.").arg(name));
     QWidget *trace = visibleWindow(name);
-    const bool saved = save(trace, QStringLiteral("trace"));
+    const auto *lines = trace->findChild<QAbstractItemView *>(QStringLiteral("lines"));
+    const bool saved = waitFor([lines] { return lines->model()->rowCount() > 0; })
+                           ? save(trace, QStringLiteral("trace"))
+                           : fail(Texts::tr("The trace stayed empty."));
     trace->close();
     return saved;
 }

@@ -33,7 +33,11 @@ TraceDialog::TraceDialog(DriverAdministration &driver, int deviceNo, const QStri
     for (QPushButton *button : {save, clear})
         button->setAutoDefault(false);
     connect(save, &QPushButton::clicked, this, [this, deviceNo] { emit captureWanted(deviceNo); });
-    connect(clear, &QPushButton::clicked, &m_model, &TraceModel::clear);
+    connect(clear, &QPushButton::clicked, this, [this] {
+        m_model.clear();
+        // What was cleared away was exchanged all the same.
+        m_ui->lines->setPlaceholder({});
+    });
     connect(&m_model, &TraceModel::exchanged, this, &TraceDialog::refresh);
     connect(m_ui->pause, &QAbstractButton::toggled, this, &TraceDialog::refresh);
 }

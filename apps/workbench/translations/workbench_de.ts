@@ -4639,6 +4639,10 @@ Apache License 2.0</translation>
         <translation>Das Journal blieb leer.</translation>
     </message>
     <message>
+        <source>The trace stayed empty.</source>
+        <translation>Der PDU-Mitschnitt blieb leer.</translation>
+    </message>
+    <message>
         <source>Instead of &quot;%1&quot; came %2.</source>
         <translation>Statt „%1“ kam %2.</translation>
     </message>

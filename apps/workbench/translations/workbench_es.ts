@@ -4639,6 +4639,10 @@ Apache License 2.0</translation>
         <translation>El registro ha quedado vacío.</translation>
     </message>
     <message>
+        <source>The trace stayed empty.</source>
+        <translation>La traza ha quedado vacía.</translation>
+    </message>
+    <message>
         <source>Instead of &quot;%1&quot; came %2.</source>
         <translation>En lugar de «%1» ha aparecido %2.</translation>
     </message>

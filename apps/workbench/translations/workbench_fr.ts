@@ -4639,6 +4639,10 @@ Apache License 2.0</translation>
         <translation>Le journal est resté vide.</translation>
     </message>
     <message>
+        <source>The trace stayed empty.</source>
+        <translation>La trace est restée vide.</translation>
+    </message>
+    <message>
         <source>Instead of &quot;%1&quot; came %2.</source>
         <translation>Au lieu de « %1 » est apparu : %2.</translation>
     </message>

@@ -4639,6 +4639,10 @@ Apache License 2.0</translation>
         <translation>O registro ficou vazio.</translation>
     </message>
     <message>
+        <source>The trace stayed empty.</source>
+        <translation>O rastreamento ficou vazio.</translation>
+    </message>
+    <message>
         <source>Instead of &quot;%1&quot; came %2.</source>
         <translation>Em vez de “%1” apareceu %2.</translation>
     </message>

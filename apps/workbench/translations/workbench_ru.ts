@@ -4639,6 +4639,10 @@ Apache License 2.0</translation>
         <translation>Журнал остался пустым.</translation>
     </message>
     <message>
+        <source>The trace stayed empty.</source>
+        <translation>Трассировка осталась пустой.</translation>
+    </message>
+    <message>
         <source>Instead of &quot;%1&quot; came %2.</source>
         <translation>Вместо «%1» появилось: %2.</translation>
     </message>

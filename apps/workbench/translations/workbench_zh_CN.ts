@@ -4639,6 +4639,10 @@ Apache License 2.0</translation>
         <translation>日志仍为空。</translation>
     </message>
     <message>
+        <source>The trace stayed empty.</source>
+        <translation>PDU 跟踪仍为空。</translation>
+    </message>
+    <message>
         <source>Instead of &quot;%1&quot; came %2.</source>
         <translation>出现的不是“%1”，而是%2。</translation>
     </message>
