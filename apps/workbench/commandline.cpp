@@ -116,8 +116,8 @@ CommandLine parseCommandLine(const QStringList &arguments)
     CLI::App app(Texts::tr("A small host for the IEC 61850 tools: opens devices from SCL files.")
                      .toStdString(),
                  QCoreApplication::applicationName().toStdString());
-    const auto add = [&app](const char *name, std::string &value, const QString &description,
-                            const QString &what) {
+    const auto addOption = [&app](const char *name, std::string &value, const QString &description,
+                                  const QString &what) {
         return app.add_option(name, value, description.toStdString())
             ->type_name(what.toStdString())
             ->take_last();
@@ -125,21 +125,22 @@ CommandLine parseCommandLine(const QStringList &arguments)
     app.set_help_flag("-h,--help", ofQt("Displays help on commandline options.").toStdString());
     app.set_version_flag("-v,--version", QCoreApplication::applicationVersion().toStdString(),
                          ofQt("Displays version information.").toStdString());
-    const CLI::Option *const checkOption =
-        add("--check", check,
-            Texts::tr(
-                "Say what is in an SCL file, as JSON, and exit: with 0 when it is without errors, "
-                "1 with errors, 2 when it cannot be used. Needs no display."),
-            Texts::tr("FILE"));
-    add("--ied", ied,
-        Texts::tr("Take this IED of the file. The default asks when there "
-                  "are several; --check takes all."),
-        Texts::tr("NAME"));
-    const CLI::Option *const tourOption = add(
+    const CLI::Option *const checkOption = addOption(
+        "--check", check,
+        Texts::tr(
+            "Say what is in an SCL file, as JSON, and exit: with 0 when it is without errors, "
+            "1 with errors, 2 when it cannot be used. Needs no display."),
+        Texts::tr("FILE"));
+    addOption("--ied", ied,
+              Texts::tr("Take this IED of the file. The default asks when there "
+                        "are several; --check takes all."),
+              Texts::tr("NAME"));
+    const CLI::Option *const tourOption = addOption(
         "--tour", tour,
         Texts::tr("Open each tool on the demonstration device, save a picture of it in DIR, exit."),
         Texts::tr("DIR"));
-    add("--plugin-dir", pluginFolder,
+    addOption(
+        "--plugin-dir", pluginFolder,
         Texts::tr(
             "Load the plug-in from DIR instead of the folder \"plugins\" beside the program."),
         Texts::tr("DIR"));

@@ -30,7 +30,7 @@ ALL_OF = [
     "sdk/remoteclient/iec61850controllerinterface.cpp",
 ]
 BOXES = r"QMessageBox::(?:warning|information|critical|question)|show\w+|askWarning|report\w*"
-HELP = r"QCommandLineOption|m_app|addPositionalArgument|setApplicationDescription"
+HELP = r"m_app|App|addOption|add_option|add_flag"
 TRANSLATED = r"tr|translate|QT_TR_NOOP|QT_TRANSLATE_NOOP"
 LITERAL = r'"((?:[^"\\\n]|\\.)*)"'
 

@@ -65,7 +65,7 @@ class CheckMessages(unittest.TestCase):
         self.assertEqual(len(self.lacking({"extension/tool/b.cpp": box})), 1)
 
     def test_help_and_comments_are_no_messages(self):
-        code = ('QCommandLineOption quiet{"q", tr("Say nothing at all, ever.")};\n'
+        code = ('app.add_flag("-q", quiet, tr("Say nothing at all, ever.").toStdString());\n'
                 '// tr("This is not said any more.")\n')
         self.assertEqual(self.lacking({"apps/workbench/b.cpp": code}), [])
 
