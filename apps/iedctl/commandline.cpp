@@ -66,6 +66,11 @@ std::variant<Invocation, Answer> parse(const std::shared_ptr<Parser> &parser,
         return Answer{text(out.str()), false, ExitStatus::Done};
     } catch (const CLI::ParseError &error) {
         QString sentence = text(error.what());
+        // What is no command is left over, and said to be missing.
+        const std::vector<std::string> rest = parser->app().remaining(true);
+        if (dynamic_cast<const CLI::RequiredError *>(&error) && !rest.empty() &&
+            !rest.front().starts_with('-'))
+            sentence = QStringLiteral("There is no command \"%1\".").arg(text(rest.front()));
         if (!sentence.endsWith(QLatin1Char('.')))
             sentence += QLatin1Char('.');
         return Answer{sentence, true, ExitStatus::Usage};

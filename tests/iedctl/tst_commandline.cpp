@@ -103,10 +103,11 @@ void tst_IedctlCommandLine::withoutADeviceNothingRuns()
 
 void tst_IedctlCommandLine::anUnknownCommandIsNamed()
 {
-    const Answer answer = refused({"--connect", "bay1", "mdoel"});
-    QVERIFY(answer.isError);
-    QVERIFY2(answer.text.contains("mdoel") || answer.text.contains("subcommand"),
-             qPrintable(answer.text));
+    QCOMPARE(refused({"--connect", "bay1", "mdoel"}).text, "There is no command \"mdoel\".");
+    QCOMPARE(refused({"--connect", "bay1", "report", "lsit"}).text,
+             "There is no command \"lsit\".");
+    const auto inBatch = parseBatchLine("fiel list");
+    QCOMPARE(std::get<Answer>(inBatch).text, "There is no command \"fiel\".");
 }
 
 void tst_IedctlCommandLine::aMissingArgumentIsNamed()
