@@ -11,6 +11,7 @@
 // client is told, and "untold" counts the runs in which it was not.
 
 #include "acsi/report.h"
+#include "mms/shorthand.h"
 #include "scl/reader.h"
 #include "simulator/device.h"
 
@@ -101,7 +102,7 @@ public:
                                [&opened](const auto &) { opened.set_value(); });
         opened.get_future().wait();
         mms::WriteRequest enable;
-        enable.variables = mms::variablesOf("IEDLD", {"LLN0$BR$brcb$RptEna"});
+        enable.variables = wiretest::variablesOf("IEDLD", {"LLN0$BR$brcb$RptEna"});
         enable.values = {mms::Data::boolean(true)};
         std::promise<void> enabled;
         m_association->call(enable, 5s, [&enabled](const auto &) { enabled.set_value(); });

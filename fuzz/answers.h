@@ -63,8 +63,12 @@ inline mms::Data valueFrom(Material &material, const mms::TypeDescription &type,
     using mms::Data;
     using Kind = mms::TypeDescription::Kind;
     if (material.octet() > 250) {
-        const auto raw = mms::decodeData(material.chunk());
-        return raw ? *raw : Data::integer(-1);
+        const auto octets = material.chunk();
+        osi::ber::Input input(octets, {});
+        osi::ber::Reader reader = input.reader();
+        Data raw = mms::DataCodec::readNext(reader);
+        const auto read = input.finish(std::move(raw));
+        return read ? *read : Data::integer(-1);
     }
     switch (type.kind) {
     case Kind::Structure: {

@@ -118,7 +118,6 @@ public:
     void closed(const Peer &client);
 
     bool isSelected() const { return m_selected; }
-    bool isOperating() const { return m_state == State::Operating; }
     /// Whether the process is about to be moved by this object.
     bool isBusy() const { return m_state == State::Operating || m_state == State::Waiting; }
 

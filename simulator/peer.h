@@ -18,7 +18,7 @@ class Peer
 public:
     virtual ~Peer() = default;
 
-    /// Send a report. One that is longer than pduSize(), see mms::encodedSize(), is not sent.
+    /// Send a report. One whose PDU is longer than pduSize() is not sent.
     virtual void report(mms::InformationReport report) = 0;
     /// Octets that wait for the network: how far behind the client is.
     virtual std::size_t queued() const = 0;

@@ -432,7 +432,7 @@ void ReportBlock::issue(std::vector<Included> members)
         if (m_host.isReady(*m_client)) {
             send(entry, 0);
         } else {
-            ++m_lost;
+            // The report is lost: its number is missing.
             m_sqNum = (m_sqNum + 1) & 0xffU;
         }
     }
@@ -452,7 +452,6 @@ void ReportBlock::store(Entry entry)
         if (m_nextId < m_firstId) {
             m_nextId = m_firstId;
             m_overflow = true;
-            ++m_entriesLost;
         }
     }
 }

@@ -101,12 +101,6 @@ public:
     /// The client for whom entries wait because it is behind; null when none do.
     Peer *heldBack() const;
 
-    /// Reports that were not sent because the client was behind; their numbers are missing.
-    std::uint64_t reportsLost() const { return m_lost; }
-    /// Entries that left the buffer before they had been sent.
-    std::uint64_t entriesLost() const { return m_entriesLost; }
-    std::size_t bufferedEntries() const { return m_buffer.size(); }
-
 private:
     struct Included
     {
@@ -195,8 +189,6 @@ private:
     mms::BinaryTime m_lastSentTime{0, std::uint16_t(0)};
     bool m_positioned = false; ///< the client has said where to go on
     bool m_overflow = false;
-    std::uint64_t m_lost = 0;
-    std::uint64_t m_entriesLost = 0;
 };
 
 } // namespace sim

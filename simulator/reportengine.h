@@ -21,7 +21,6 @@ public:
 
     void closed(Peer &client) override;
 
-    std::size_t blockCount() const { return m_blocks.size(); }
     const ReportBlock &block(std::size_t index) const { return *m_blocks[index].block; }
 
 private:

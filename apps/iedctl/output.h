@@ -15,12 +15,11 @@ class QIODevice;
 class Output
 {
 public:
-    /// Neither device is owned; both are open.
+    /// Neither device is owned; both are open. @p terminal is true when somebody watches, who wants
+    /// to see progress.
     Output(QIODevice *results, QIODevice *complaints, bool json, bool terminal);
 
     bool isJson() const { return m_json; }
-    /// Whether somebody watches, who wants to see progress.
-    bool isTerminal() const { return m_terminal; }
 
     /// A table with a line for each object. A cell without a value is "-", so that the columns
     /// behind it stay in place; columns at the end that no object has are left out.
@@ -36,7 +35,7 @@ public:
     void complain(const QString &sentence);
     /// A question on the error stream, behind which the answer is typed.
     void ask(const QString &question);
-    /// Replaces the line of the progress before; nothing unless isTerminal(). Empty ends it.
+    /// Replaces the line of the progress before; nothing when nobody watches. Empty ends it.
     void progress(const QString &text);
 
 private:

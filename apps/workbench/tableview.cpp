@@ -12,17 +12,17 @@
 
 TableView::TableView(QWidget *parent)
     : QTreeView(parent)
-    , m_copyAction(new QAction(tr("&Copy"), this))
 {
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
     setSelectionMode(ExtendedSelection);
 
-    m_copyAction->setShortcut(QKeySequence::Copy);
-    m_copyAction->setShortcutContext(Qt::WidgetShortcut);
-    addAction(m_copyAction);
-    connect(m_copyAction, &QAction::triggered, this, [this] {
+    auto *copy = new QAction(tr("&Copy"), this);
+    copy->setShortcut(QKeySequence::Copy);
+    copy->setShortcutContext(Qt::WidgetShortcut);
+    addAction(copy);
+    connect(copy, &QAction::triggered, this, [this] {
         if (const QString text = selectedText(); !text.isEmpty())
             QGuiApplication::clipboard()->setText(text);
     });

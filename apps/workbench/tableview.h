@@ -22,11 +22,9 @@ public:
     /// model is set.
     void followNewest();
 
-    /// The selected rows from top to bottom, one line each, cells separated by tabulators.
+    /// The selected rows from top to bottom, one line each, cells separated by tabulators. The
+    /// view's action, Ctrl+C, copies them.
     QString selectedText() const;
-
-    /// Copies selectedText() to the clipboard; Ctrl+C in this view.
-    QAction *copyAction() const { return m_copyAction; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -34,5 +32,4 @@ protected:
 private:
     QString m_placeholder;
     bool m_showedNewest = true; ///< before the row that comes now
-    QAction *m_copyAction;
 };

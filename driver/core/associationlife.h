@@ -92,8 +92,6 @@ public:
     bool isWanted() const { return m_isWanted; }
     /// An association stands and is to be kept.
     bool isKept() const { return m_phase == Phase::Reading || m_phase == Phase::Online; }
-    /// It was aborted, and the next use wants it again.
-    bool isDormant() const { return m_isDormant; }
     /// Since an association was wanted no attempt has come to an end.
     bool isFirstAttempt() const { return m_isWanted && !m_hasAttempted; }
     /// Why the last association, or attempt, ended, or why there is none any more; empty while an
@@ -135,7 +133,7 @@ private:
     QString m_reason;
     QString m_leaveReason;
     bool m_isWanted = false;
-    bool m_isDormant = false;
+    bool m_isDormant = false; ///< it was aborted, and the next use wants it again
     bool m_hasAttempted = false;
     bool m_isInConflict = false;
     /// What is ending was given up, and an association is wanted again: its end says nothing of the

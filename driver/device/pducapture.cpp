@@ -65,7 +65,6 @@ void PduCapture::add(osi::Direction direction, mms::Bytes pdu)
     while (m_octets > m_limit && m_entries.size() > 1) {
         m_octets -= costOf(m_entries.front().pdu.size());
         m_entries.pop_front();
-        ++m_dropped;
     }
 }
 
@@ -100,12 +99,6 @@ std::size_t PduCapture::octets() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     return m_octets;
-}
-
-std::uint64_t PduCapture::dropped() const
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_dropped;
 }
 
 std::chrono::steady_clock::time_point PduCapture::lastReceived() const

@@ -36,8 +36,6 @@ public:
     std::size_t octets() const;
     std::uint64_t sent() const { return m_sent; }
     std::uint64_t received() const { return m_received; }
-    /// PDUs that had to give way.
-    std::uint64_t dropped() const;
     /// When the last PDU came; the clock's epoch before the first.
     std::chrono::steady_clock::time_point lastReceived() const;
 
@@ -57,7 +55,6 @@ private:
     std::deque<Entry> m_entries;
     std::uint64_t m_lastNumber = 0;
     std::size_t m_octets = 0;
-    std::uint64_t m_dropped = 0;
     std::atomic<std::uint64_t> m_sent{0};
     std::atomic<std::uint64_t> m_received{0};
     std::atomic<std::chrono::steady_clock::rep> m_lastReceived{0};

@@ -53,7 +53,6 @@ public:
 
     bool areDevicesKnown() const { return m_devicesKnown; }
     std::vector<std::string> deviceNames() const;
-    bool isSequential() const { return m_window == 1; }
     /// Nothing is left to ask, or there is no use in asking.
     bool finished() const;
     std::size_t onTheWay() const { return m_asked.size(); }

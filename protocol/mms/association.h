@@ -160,7 +160,7 @@ public:
     void fail(std::uint32_t invokeId, ServiceError error);
     void reject(std::uint32_t invokeId, std::int32_t code);
     /// @p handler hears what became of the report. A report longer than the negotiated PDU size is
-    /// not sent: compare encodedSize(report) with pduSize() and divide it before.
+    /// not sent: who has a long one divides it before.
     void report(InformationReport report, std::function<void(ReportFate fate)> handler = {});
     /// Calls @p handler once, as soon as at most @p octets wait for the network, at once when they
     /// do already; never when the association ends before. Who sends much holds back until then: an

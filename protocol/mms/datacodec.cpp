@@ -291,20 +291,4 @@ void DataCodec::write(Writer &writer, const AccessResult &result)
         writer.integer(Tag::context(0), static_cast<std::int32_t>(result.error()));
 }
 
-Result<Data> decodeData(Bytes bytes, const ber::Limits &limits)
-{
-    ber::Input input(bytes, limits);
-    Reader reader = input.reader();
-    Data data = DataCodec::readNext(reader);
-    reader.expectEnd("Data");
-    return input.finish(std::move(data));
-}
-
-std::vector<std::uint8_t> encode(const Data &data)
-{
-    Writer writer;
-    DataCodec::write(writer, data);
-    return writer.take();
-}
-
 } // namespace mms

@@ -34,8 +34,4 @@ private:
                          Room *room = nullptr);
 };
 
-/// Whole input as one value.
-Result<Data> decodeData(Bytes bytes, const ber::Limits &limits = {});
-std::vector<std::uint8_t> encode(const Data &data);
-
 } // namespace mms

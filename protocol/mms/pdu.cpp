@@ -2,7 +2,6 @@
 #include "mms/pdu.h"
 
 #include "mms/codec.h"
-#include "mms/datacodec.h"
 #include "mms/datatext.h"
 
 #include <type_traits>
@@ -390,22 +389,6 @@ std::vector<std::uint8_t> encode(const Pdu &pdu)
     Writer writer;
     write(writer, pdu);
     return writer.take();
-}
-
-std::size_t encodedSize(const InformationReport &report)
-{
-    Writer writer;
-    report.write(writer);
-    writer.close(InformationReport::tag, 0);
-    writer.close(pduTags[3], 0);
-    return writer.size();
-}
-
-std::size_t encodedSize(const AccessResult &result)
-{
-    Writer writer;
-    DataCodec::write(writer, result);
-    return writer.size();
 }
 
 std::optional<PduHead> peekPdu(Bytes bytes, const ber::Limits &limits)

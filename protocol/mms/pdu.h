@@ -148,10 +148,6 @@ Result<Pdu> decodePdu(Bytes bytes, const ber::Limits &limits = {});
 
 /// The octets of a PDU.
 std::vector<std::uint8_t> encode(const Pdu &pdu);
-/// The octets that the PDU of a report takes: what is compared with the negotiated PDU size.
-std::size_t encodedSize(const InformationReport &report);
-/// The octets that one result takes within it.
-std::size_t encodedSize(const AccessResult &result);
 /// Puts the octets of a PDU in front of what the writer holds.
 void write(ber::Writer &writer, const Pdu &pdu);
 

@@ -122,22 +122,16 @@ asio::awaitable<void> Server::acceptLoop()
         const asio::ip::address peer = socket.remote_endpoint(ignored).address();
         const std::size_t mostHalfOpen = m_options.maxHalfOpenOfPeer;
         if (m_associations.size() >= m_options.maxAssociations) {
-            turnAway(say("There are %1 associations already, which is the limit.",
-                         m_options.maxAssociations));
+            m_handler->refused(say("There are %1 associations already, which is the limit.",
+                                   m_options.maxAssociations));
         } else if (mostHalfOpen > 0 && m_halfOpen[peer] >= mostHalfOpen) {
-            turnAway(say(
+            m_handler->refused(say(
                 "The peer %1 has %2 connections that are no associations yet, which is the limit.",
                 peer.to_string(), mostHalfOpen));
         } else {
             take(std::move(strand), std::move(socket), peer);
         }
     }
-}
-
-void Server::turnAway(const Text &reason)
-{
-    ++m_turnedAway;
-    m_handler->refused(reason);
 }
 
 void Server::take(osi::Link::Strand strand, asio::ip::tcp::socket socket,

@@ -76,14 +76,11 @@ public:
     void stop(std::function<void()> released = {});
     /// Connections, opened or not. In no strand; changes at any time.
     std::size_t associations() const { return m_count; }
-    /// Connections closed because there were too many, of all or of one peer.
-    std::uint64_t turnedAway() const { return m_turnedAway; }
 
 private:
     asio::awaitable<void> acceptLoop();
     void take(osi::Link::Strand strand, asio::ip::tcp::socket socket,
               const asio::ip::address &peer);
-    void turnAway(const Text &reason);
 
     asio::any_io_executor m_executor;
     ServerOptions m_options;
@@ -94,7 +91,6 @@ private:
     std::set<std::shared_ptr<Association>> m_associations;
     std::map<asio::ip::address, std::size_t> m_halfOpen;
     std::atomic<std::size_t> m_count{0};
-    std::atomic<std::uint64_t> m_turnedAway{0};
     bool m_stopped = false;
 };
 

@@ -301,22 +301,6 @@ void TypeCodec::write(Writer &writer, const TypeDescription &type)
     writer.close(Tag::group(number), mark);
 }
 
-Result<TypeDescription> decodeTypeDescription(Bytes bytes, const ber::Limits &limits)
-{
-    ber::Input input(bytes, limits);
-    Reader reader = input.reader();
-    TypeDescription type = TypeCodec::readNext(reader);
-    reader.expectEnd("TypeSpecification");
-    return input.finish(std::move(type));
-}
-
-std::vector<std::uint8_t> encode(const TypeDescription &type)
-{
-    Writer writer;
-    TypeCodec::write(writer, type);
-    return writer.take();
-}
-
 std::string toText(const TypeDescription &type)
 {
     switch (type.kind) {

@@ -90,10 +90,6 @@ public:
     static void write(ber::Writer &writer, const TypeDescription &type);
 };
 
-/// Whole input as one type.
-Result<TypeDescription> decodeTypeDescription(Bytes bytes, const ber::Limits &limits = {});
-std::vector<std::uint8_t> encode(const TypeDescription &type);
-
 /// For traces: "{stVal: boolean, q: bit-string(-13), t: utc-time}", "[16] floating-point(32)".
 std::string toText(const TypeDescription &type);
 

@@ -48,16 +48,6 @@ AlternateAccess AlternateAccess::ofAllElements(std::vector<AlternateAccess> part
     return part(Kind::AllElements, std::move(parts));
 }
 
-VariableAccessSpecification variablesOf(std::string_view domain,
-                                        const std::vector<std::string> &items)
-{
-    std::vector<VariableAccess> list;
-    list.reserve(items.size());
-    for (const std::string &item : items)
-        list.push_back({ObjectName::inDomain(domain, item), {}});
-    return list;
-}
-
 std::string toText(const Address &address)
 {
     if (address.kind == Address::Kind::Numeric)

@@ -73,10 +73,6 @@ struct VariableAccess
 /// What is read, written or reported: variables one by one, or a named list.
 using VariableAccessSpecification = std::variant<std::vector<VariableAccess>, ObjectName>;
 
-/// Variables of one domain.
-VariableAccessSpecification variablesOf(std::string_view domain,
-                                        const std::vector<std::string> &items);
-
 std::string toText(const Address &address);
 std::string toText(const VariableSpecification &specification);
 /// "(3)", "(3..5)", "(*)" and ".component" behind each other; several parts in braces.

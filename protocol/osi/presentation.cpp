@@ -435,14 +435,6 @@ Actions Connection::abortByProvider()
     return {Request{Service::ProviderAbort, encode(Abort(ProviderAbort{0, std::nullopt}))}};
 }
 
-Actions Connection::send(Bytes pdu)
-{
-    Request request;
-    appendHeader(request.userData, pdu.size());
-    request.userData.insert(request.userData.end(), pdu.begin(), pdu.end());
-    return {std::move(request)};
-}
-
 void Connection::appendHeader(Octets &out, std::size_t size) const
 {
     appendDataHeader(out, m_mmsContext, size);

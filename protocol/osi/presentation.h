@@ -189,9 +189,7 @@ public:
     Actions disconnect(Bytes association);
     Actions abort(Bytes association);
     Actions abortByProvider();
-    /// Takes one MMS PDU.
-    Actions send(Bytes pdu);
-    /// The octets in front of an MMS PDU of @p size octets.
+    /// The octets in front of an MMS PDU of @p size octets that is sent.
     void appendHeader(Octets &out, std::size_t size) const;
 
     /// The session connection brought user data with a service.

@@ -189,15 +189,6 @@ std::uint64_t LogicalNode::leafCount() const
     return count;
 }
 
-const DataSet *LogicalNode::findDataSet(std::string_view dataSetName) const
-{
-    for (const DataSet &set : dataSets) {
-        if (set.name == dataSetName)
-            return &set;
-    }
-    return nullptr;
-}
-
 std::string_view Service::attribute(std::string_view attributeName) const
 {
     for (const auto &attribute : attributes) {
@@ -214,16 +205,6 @@ const Service *Services::find(std::string_view serviceName) const
             return &service;
     }
     return nullptr;
-}
-
-const LogicalDevice *Ied::findDevice(std::string_view inst) const
-{
-    const LogicalDevice *found = nullptr;
-    forEachDevice([&found, inst](const LogicalDevice &device) {
-        if (!found && device.inst == inst)
-            found = &device;
-    });
-    return found;
 }
 
 std::string_view ConnectedAccessPoint::part(std::string_view type) const
@@ -284,15 +265,6 @@ const Ied *Document::findIed(std::string_view name) const
     for (const Ied &ied : ieds) {
         if (ied.name == name)
             return &ied;
-    }
-    return nullptr;
-}
-
-const Enumeration *Document::findEnumeration(std::string_view id) const
-{
-    for (const Enumeration &enumeration : enumerations) {
-        if (enumeration.id == id)
-            return &enumeration;
     }
     return nullptr;
 }

@@ -365,7 +365,6 @@ struct LogicalNode
 
     DataNode dataObject(std::string_view dataObjectName) const;
     std::uint64_t leafCount() const;
-    const DataSet *findDataSet(std::string_view dataSetName) const;
 };
 
 struct LogicalDevice
@@ -437,8 +436,6 @@ struct Ied
                 visit(device);
         }
     }
-
-    const LogicalDevice *findDevice(std::string_view inst) const;
 };
 
 /// A typed address part (element P).
@@ -517,7 +514,6 @@ public:
     std::string schemaVersion() const;
 
     const Ied *findIed(std::string_view name) const;
-    const Enumeration *findEnumeration(std::string_view id) const;
     /// Where an access point is connected to a sub-network; null when the file does not say.
     const ConnectedAccessPoint *findConnection(std::string_view iedName,
                                                std::string_view apName) const;

@@ -2,6 +2,7 @@
 #include "acsi/control.h"
 
 #include "acsi/scripteddevice.h"
+#include "mms/shorthand.h"
 
 namespace {
 
@@ -186,7 +187,8 @@ TEST_F(ControlTest, selectionWithNormalSecurityIsARead)
     open(ControlModel::SelectNormal);
     EXPECT_TRUE(run(control->select(client, request())).ok);
     const auto reads = device->requestsOf<mms::ReadRequest>();
-    EXPECT_EQ(toText(reads.back().variables), toText(mms::variablesOf("LD", {"CSWI1$CO$Pos$SBO"})));
+    EXPECT_EQ(toText(reads.back().variables),
+              toText(wiretest::variablesOf("LD", {"CSWI1$CO$Pos$SBO"})));
     EXPECT_TRUE(device->requestsOf<mms::WriteRequest>().empty());
 }
 
@@ -206,7 +208,8 @@ TEST_F(ControlTest, selectionWithEnhancedSecurityIsAWriteOfTheCommand)
     EXPECT_TRUE(run(control->select(client, request())).ok);
     const auto writes = device->requestsOf<mms::WriteRequest>();
     ASSERT_EQ(writes.size(), 1U);
-    EXPECT_EQ(toText(writes[0].variables), toText(mms::variablesOf("LD", {"CSWI1$CO$Pos$SBOw"})));
+    EXPECT_EQ(toText(writes[0].variables),
+              toText(wiretest::variablesOf("LD", {"CSWI1$CO$Pos$SBOw"})));
     EXPECT_EQ(writes[0].values[0], *controlValue(commandType(true), request()));
 }
 

@@ -9,8 +9,8 @@
 #include "acsi/reference.h"
 #include "acsi/report.h"
 #include "acsi/uploadsteps.h"
-#include "mms/datacodec.h"
 #include "mms/pdu.h"
+#include "mms/shorthand.h"
 #include "osi/acse.h"
 #include "osi/cotp.h"
 #include "osi/presentation.h"
@@ -226,8 +226,8 @@ void TestSentences::brokenMessagesAreInTheReadersLanguage()
                     look(osi::presentation::decodeAbort(part));
                     look(osi::presentation::decodeData(part));
                     look(osi::acse::decode(part));
-                    look(mms::decodeData(part));
-                    look(mms::decodeTypeDescription(part));
+                    look(wiretest::decodeData(part));
+                    look(wiretest::decodeTypeDescription(part));
                     if (QTest::currentTestFailed())
                         return;
                 }

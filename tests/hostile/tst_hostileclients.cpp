@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // Clients that mean harm, against the simulator as a program of its own.
+#include "mms/shorthand.h"
 #include "simulator/devicetest.h"
 #include "simulator/program.h"
 
@@ -153,7 +154,7 @@ protected:
     void expectHonestService()
     {
         mms::ReadRequest request;
-        request.variables = mms::variablesOf("BAY1E1IO", {"GGIO1$ST$Ind1$stVal"});
+        request.variables = wiretest::variablesOf("BAY1E1IO", {"GGIO1$ST$Ind1$stVal"});
         const auto answer = m_honest->answer<mms::ReadResponse>(std::move(request));
         EXPECT_TRUE(answer.results.size() == 1 && answer.results[0].ok());
     }

@@ -3,6 +3,7 @@
 #include "interop/jsondata.h"
 #include "interop/matrix.h"
 #include "interop/session.h"
+#include "mms/shorthand.h"
 #include "osi/testcertificates.h"
 
 #include "acsi/discovery.h"
@@ -110,7 +111,7 @@ protected:
 
 VariableAccessSpecification list(const std::vector<std::string> &items)
 {
-    return variablesOf(bay, items);
+    return wiretest::variablesOf(bay, items);
 }
 
 Bytes bytesOf(const QByteArray &octets)

@@ -48,6 +48,8 @@ public:
         }
     }
 
+    void refused(const mms::Text &) override { ++refusals; }
+
     void closed(const std::shared_ptr<Association> &, const mms::Text &reason) override
     {
         if (!m_ended.exchange(true))
@@ -56,6 +58,7 @@ public:
 
     bool reportOnOpening = false;
     std::atomic<int> openings{0};
+    std::atomic<int> refusals{0};
     /// Why the first association ended.
     Awaited<std::string> end;
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mms/associationtest.h"
+#include "mms/shorthand.h"
 #include "osi/hostlookup.h"
 
 #include <asio/co_spawn.hpp>
@@ -230,7 +231,7 @@ TEST_F(AssociationTest, connectionsBeyondTheLimitAreClosedAndTheOthersLive)
     RawPeer second;
     second.connect(port);
     EXPECT_TRUE(second.receive().empty());
-    EXPECT_EQ(m_server->turnedAway(), 1U);
+    EXPECT_EQ(m_device->refusals, 1);
     EXPECT_NE(answerOf<IdentifyResponse>(call(IdentifyRequest())), nullptr);
 }
 
@@ -645,7 +646,7 @@ TEST_F(AssociationTest, connectionsOfOnePeerThatAreNoAssociationsAreLimited)
     RawPeer third;
     third.connect(port);
     EXPECT_TRUE(third.receive().empty());
-    EXPECT_EQ(m_server->turnedAway(), 1U);
+    EXPECT_EQ(m_device->refusals, 1);
     // A place is free again once one has gone, or has become an association.
     first.close();
     Result<InitiateParameters> opened = Error{mms::verbatim("not tried"), 0};

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mms/data.h"
-#include "mms/datacodec.h"
 #include "mms/datatext.h"
-#include "mms/typedescription.h"
+#include "mms/shorthand.h"
 
 #include "osi/bytes.h"
 
@@ -12,6 +11,9 @@
 #include <limits>
 
 using namespace mms;
+using wiretest::decodeData;
+using wiretest::decodeTypeDescription;
+using wiretest::encode;
 using wiretest::fromHex;
 using wiretest::packed;
 using wiretest::toHex;

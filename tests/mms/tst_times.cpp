@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mms/data.h"
-#include "mms/datacodec.h"
+#include "mms/shorthand.h"
 #include "mms/times.h"
 
 #include "osi/bytes.h"
@@ -10,6 +10,8 @@
 #include <random>
 
 using namespace mms;
+using wiretest::decodeData;
+using wiretest::encode;
 using wiretest::fromHex;
 using wiretest::toHex;
 

@@ -62,6 +62,14 @@ Connect connectUnit(Bytes value)
             {{1, value}}};
 }
 
+Octets withHeader(const presentation::Connection &connection, const Octets &pdu)
+{
+    Octets octets;
+    connection.appendHeader(octets, pdu.size());
+    octets.insert(octets.end(), pdu.begin(), pdu.end());
+    return octets;
+}
+
 } // namespace
 
 TEST(Presentation, aConnectUnitHasItsOctetsAndItsValue)
@@ -158,8 +166,8 @@ TEST(Presentation, theTwoContextsAreAgreedAndCarryValues)
     const auto confirmed = initiator.receive(Service::Accept, request(answer)->userData);
     EXPECT_EQ(confirmed, (Actions{Indication{Service::Accept, true, apdu, {}}}));
     const Octets pdu = fromHex("8b00");
-    const auto sent = initiator.send(pdu);
-    const auto received = responder.receive(Service::Data, request(sent)->userData);
+    const Octets sent = withHeader(initiator, pdu);
+    const auto received = responder.receive(Service::Data, sent);
     EXPECT_EQ(received, (Actions{Indication{Service::Data, false, pdu, {}}}));
 }
 
@@ -184,7 +192,7 @@ TEST(Presentation, contextsOfOtherNumbersAreUsedAsThePeerNumbersThem)
     EXPECT_EQ(accept->answers[0].result, ContextResult::Acceptance);
     EXPECT_EQ(accept->answers[1].reason, abstractSyntaxNotSupported);
     EXPECT_EQ(accept->answers[2].result, ContextResult::Acceptance);
-    const Octets data = request(responder.send(pdu))->userData;
+    const Octets data = withHeader(responder, pdu);
     EXPECT_EQ(decodeData(data)->front().contextId, 5);
 }
 

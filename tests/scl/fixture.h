@@ -38,3 +38,26 @@ inline const scl::LogicalNode *nodeNamed(const scl::Document &document, std::str
     });
     return found;
 }
+
+/// Null when the node has none of this name; and so for the two below.
+inline const scl::DataSet *dataSetNamed(const scl::LogicalNode &node, std::string_view name)
+{
+    const auto found = std::ranges::find(node.dataSets, name, &scl::DataSet::name);
+    return found == node.dataSets.end() ? nullptr : &*found;
+}
+
+inline const scl::LogicalDevice *deviceNamed(const scl::Ied &ied, std::string_view inst)
+{
+    const scl::LogicalDevice *found = nullptr;
+    ied.forEachDevice([&found, inst](const scl::LogicalDevice &device) {
+        if (!found && device.inst == inst)
+            found = &device;
+    });
+    return found;
+}
+
+inline const scl::Enumeration *enumerationNamed(const scl::Document &document, std::string_view id)
+{
+    const auto found = std::ranges::find(document.enumerations, id, &scl::Enumeration::id);
+    return found == document.enumerations.end() ? nullptr : &*found;
+}

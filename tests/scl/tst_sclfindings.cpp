@@ -96,7 +96,7 @@ TEST_F(SclFindings, ofDuplicateTypesTheFirstIsUsed)
     expect(Severity::Error, 36, "DAType[Twice]", "line 35 is used");
     expect(Severity::Error, 38, "EnumType[Colour]", "line 37 is used");
     EXPECT_TRUE(nodeNamed(document(), "GGIO1")->dataObject("Ind1").child("stVal").isValid());
-    EXPECT_EQ(document().findEnumeration("Colour")->literals.front().text, "red");
+    EXPECT_EQ(enumerationNamed(document(), "Colour")->literals.front().text, "red");
 }
 
 TEST_F(SclFindings, aTypeThatContainsItselfIsCutThere)
@@ -180,7 +180,7 @@ TEST_F(SclFindings, membersThatDoNotExistStayInTheirDataSet)
     expect(Severity::Error, 16, "FCDA[Ind1.q]", "functional constraint \"MX\"");
     expect(Severity::Error, 17, "FCDA[Ind1]", "functional constraint \"MX\"");
     expect(Severity::Error, 18, "FCDA[Ind1.q]", "no functional constraint");
-    const auto members = nodeNamed(document(), "LLN0")->findDataSet("mixed")->members;
+    const auto members = dataSetNamed(*nodeNamed(document(), "LLN0"), "mixed")->members;
     ASSERT_EQ(members.size(), 8U);
     EXPECT_TRUE(members[0].resolved);
     for (std::size_t i = 1; i < members.size(); ++i)
@@ -243,7 +243,7 @@ TEST_F(SclFindings, arrayElementsAreAddressedByNumber)
     EXPECT_EQ(list.elementAt(2).value()->text, "30");
     expect(Severity::Warning, 23, "DOI[HA]/SDI[har]", "has no element 9");
 
-    const auto members = nodeNamed(document(), "LLN0")->findDataSet("elements")->members;
+    const auto members = dataSetNamed(*nodeNamed(document(), "LLN0"), "elements")->members;
     ASSERT_EQ(members.size(), 6U);
     EXPECT_EQ(members[0].reference, "IED1LD/MHAI1$MX$HA$har(1)$mag$f");
     EXPECT_EQ(members[1].reference, "IED1LD/MHAI1$MX$HA$har(3)$q");

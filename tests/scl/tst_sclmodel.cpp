@@ -105,17 +105,17 @@ TEST_F(SclModel, sharesAServerBetweenAccessPointsAndCountsItOnce)
 
 TEST_F(SclModel, namesLogicalDevicesByLdNameOrByIedAndInstance)
 {
-    ASSERT_NE(ied().findDevice("CTRL"), nullptr);
-    EXPECT_EQ(ied().findDevice("CTRL")->name, "BAY1CTRL");
-    EXPECT_EQ(ied().findDevice("CTRL")->desc, "Control");
-    ASSERT_NE(ied().findDevice("MEAS"), nullptr);
-    EXPECT_EQ(ied().findDevice("MEAS")->name, "FeederMeasurements");
-    EXPECT_EQ(ied().findDevice("GONE"), nullptr);
+    ASSERT_NE(deviceNamed(ied(), "CTRL"), nullptr);
+    EXPECT_EQ(deviceNamed(ied(), "CTRL")->name, "BAY1CTRL");
+    EXPECT_EQ(deviceNamed(ied(), "CTRL")->desc, "Control");
+    ASSERT_NE(deviceNamed(ied(), "MEAS"), nullptr);
+    EXPECT_EQ(deviceNamed(ied(), "MEAS")->name, "FeederMeasurements");
+    EXPECT_EQ(deviceNamed(ied(), "GONE"), nullptr);
 }
 
 TEST_F(SclModel, namesLogicalNodesByPrefixClassAndInstance)
 {
-    const scl::LogicalDevice &device = *ied().findDevice("CTRL");
+    const scl::LogicalDevice &device = *deviceNamed(ied(), "CTRL");
     ASSERT_EQ(device.nodes.size(), 3U);
     EXPECT_EQ(device.nodes[0].name, "LLN0");
     EXPECT_EQ(device.nodes[1].name, "Q0CSWI1");
@@ -180,7 +180,7 @@ TEST_F(SclModel, anArrayTakesItsSizeFromTheAttributeItNames)
 
 TEST_F(SclModel, resolvesMembersOfDataSets)
 {
-    const scl::DataSet *state = node("LLN0").findDataSet("state");
+    const scl::DataSet *state = dataSetNamed(node("LLN0"), "state");
     ASSERT_NE(state, nullptr);
     EXPECT_EQ(state->desc, "Positions");
     ASSERT_EQ(state->members.size(), 4U);
@@ -193,7 +193,7 @@ TEST_F(SclModel, resolvesMembersOfDataSets)
         EXPECT_NE(member.node, nullptr) << member.reference;
     }
     EXPECT_EQ(state->members[0].node->name, "stVal");
-    EXPECT_EQ(node("LLN0").findDataSet("gone"), nullptr);
+    EXPECT_EQ(dataSetNamed(node("LLN0"), "gone"), nullptr);
 }
 
 TEST_F(SclModel, readsEverySettingOfAReportControlBlock)
@@ -207,7 +207,7 @@ TEST_F(SclModel, readsEverySettingOfAReportControlBlock)
     EXPECT_EQ(buffered.confRev, 7U);
     EXPECT_EQ(buffered.bufferTime, 50U);
     EXPECT_EQ(buffered.integrityPeriod, 60000U);
-    EXPECT_EQ(buffered.dataSet, node("LLN0").findDataSet("state"));
+    EXPECT_EQ(buffered.dataSet, dataSetNamed(node("LLN0"), "state"));
     EXPECT_TRUE(buffered.triggers.dataChange);
     EXPECT_TRUE(buffered.triggers.qualityChange);
     EXPECT_FALSE(buffered.triggers.dataUpdate);
@@ -286,7 +286,7 @@ TEST_F(SclModel, findsIedsAndEnumerationsByName)
 {
     EXPECT_EQ(document().findIed("BAY1"), &ied());
     EXPECT_EQ(document().findIed("BAY2"), nullptr);
-    ASSERT_NE(document().findEnumeration("Beh"), nullptr);
-    EXPECT_EQ(document().findEnumeration("Beh")->literals.size(), 2U);
-    EXPECT_EQ(document().findEnumeration("Gone"), nullptr);
+    ASSERT_NE(enumerationNamed(document(), "Beh"), nullptr);
+    EXPECT_EQ(enumerationNamed(document(), "Beh")->literals.size(), 2U);
+    EXPECT_EQ(enumerationNamed(document(), "Gone"), nullptr);
 }

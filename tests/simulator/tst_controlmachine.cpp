@@ -129,7 +129,7 @@ TEST_F(ControlMachineTest, statusOnlyObjectsCannotBeControlled)
 TEST_F(ControlMachineTest, directControlMovesTheProcessWithoutATermination)
 {
     EXPECT_EQ(operate(m_client), "+ start");
-    EXPECT_TRUE(m_machine.isOperating());
+    EXPECT_TRUE(m_machine.isBusy());
     EXPECT_EQ(pass(99ms), "");
     EXPECT_EQ(pass(1ms), "finish");
     EXPECT_FALSE(m_machine.isBusy());

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "mms/shorthand.h"
 #include "simulator/describedied.h"
 #include "simulator/device.h"
 #include "simulator/devicetest.h"
@@ -110,12 +111,13 @@ TEST_F(DeviceTest, typesAndValuesTooLargeForThePduAreErrorsAndTheirPartsCanBeAsk
     const auto part = small.answer<GetVariableAccessAttributesResponse>(
         GetVariableAccessAttributesRequest{ObjectName::inDomain(domain, "LLN0$ST")});
     EXPECT_EQ(part.type.components.size(), 1U);
-    EXPECT_EQ(errorOf(small.call(
-                  ReadRequest{false, variablesOf(domain, std::vector<std::string>(40, "XCBR1"))})),
+    EXPECT_EQ(errorOf(small.call(ReadRequest{
+                  false, wiretest::variablesOf(domain, std::vector<std::string>(40, "XCBR1"))})),
               ErrorClass::Resource);
-    EXPECT_TRUE(small.answer<ReadResponse>(ReadRequest{false, variablesOf(domain, {"XCBR1$ST"})})
-                    .results.front()
-                    .ok());
+    EXPECT_TRUE(
+        small.answer<ReadResponse>(ReadRequest{false, wiretest::variablesOf(domain, {"XCBR1$ST"})})
+            .results.front()
+            .ok());
 }
 
 TEST_F(DeviceTest, theTypeOfALogicalNodeIsToldWhole)
@@ -133,7 +135,7 @@ TEST_F(DeviceTest, theTypeOfALogicalNodeIsToldWhole)
 
 TEST_F(DeviceTest, aReadAnswersEachVariableByItself)
 {
-    const auto variables = variablesOf(domain, {"LLN0$ST$Mod$stVal", "LLN0$ST$Mod$none"});
+    const auto variables = wiretest::variablesOf(domain, {"LLN0$ST$Mod$stVal", "LLN0$ST$Mod$none"});
     const auto response = caller.answer<ReadResponse>(ReadRequest{true, variables});
     ASSERT_EQ(response.results.size(), 2U);
     EXPECT_EQ(response.results[0].data().toInteger(), 1);
@@ -154,22 +156,23 @@ TEST_F(DeviceTest, aDataSetIsReadByItsName)
 
 TEST_F(DeviceTest, aWriteAnswersEachVariableByItself)
 {
-    const auto response = caller.answer<WriteResponse>(WriteRequest{
-        variablesOf(domain, {"XCBR1$CF$Pos$sboTimeout", "XCBR1$DC$Pos$d", "XCBR1$CF$Pos$none"}),
-        {Data::unsignedInteger(7), Data::visibleString("x"), Data::boolean(true)}});
+    const auto response = caller.answer<WriteResponse>(
+        WriteRequest{wiretest::variablesOf(domain, {"XCBR1$CF$Pos$sboTimeout", "XCBR1$DC$Pos$d",
+                                                    "XCBR1$CF$Pos$none"}),
+                     {Data::unsignedInteger(7), Data::visibleString("x"), Data::boolean(true)}});
     ASSERT_EQ(response.results.size(), 3U);
     EXPECT_EQ(response.results[0], std::nullopt);
     EXPECT_EQ(response.results[1], DataAccessError::ObjectAccessDenied);
     EXPECT_EQ(response.results[2], DataAccessError::ObjectNonExistent);
     const auto read = caller.answer<ReadResponse>(
-        ReadRequest{false, variablesOf(domain, {"XCBR1$CF$Pos$sboTimeout"})});
+        ReadRequest{false, wiretest::variablesOf(domain, {"XCBR1$CF$Pos$sboTimeout"})});
     EXPECT_EQ(read.results.front().data().toUnsigned(), 7U);
 }
 
 TEST_F(DeviceTest, aWriteWithAnotherNumberOfValuesIsRejected)
 {
     const auto outcome =
-        caller.call(WriteRequest{variablesOf(domain, {"XCBR1$CF$Pos$sboTimeout"}), {}});
+        caller.call(WriteRequest{wiretest::variablesOf(domain, {"XCBR1$CF$Pos$sboTimeout"}), {}});
     const auto *reject = std::get_if<RejectPdu>(&outcome);
     ASSERT_TRUE(reject);
     EXPECT_EQ(reject->code, rejectcodes::requestInvalidArgument);
@@ -240,7 +243,7 @@ TEST_F(DeviceTest, severalDevicesLiveInOneProcess)
     ASSERT_NE(second.port, running.port);
     Caller other(loop.executor(), second.port);
     ASSERT_TRUE(other.isOpen());
-    const auto variables = variablesOf(domain, {"XCBR1$CF$Pos$sboTimeout"});
+    const auto variables = wiretest::variablesOf(domain, {"XCBR1$CF$Pos$sboTimeout"});
     other.answer<WriteResponse>(WriteRequest{variables, {Data::unsignedInteger(7)}});
     const auto here = caller.answer<ReadResponse>(ReadRequest{false, variables});
     const auto there = other.answer<ReadResponse>(ReadRequest{false, variables});

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "mms/shorthand.h"
 #include "simulator/controlledbay.h"
 #include "simulator/devicetest.h"
 
@@ -65,7 +66,7 @@ protected:
     static std::string write(Caller &caller, const std::string &item, const Data &value)
     {
         mms::WriteRequest request;
-        request.variables = mms::variablesOf("IED1LD", {item});
+        request.variables = wiretest::variablesOf("IED1LD", {item});
         request.values = {value};
         const auto answer = caller.answer<mms::WriteResponse>(std::move(request));
         if (answer.results.size() != 1)
@@ -76,7 +77,7 @@ protected:
     static Data read(Caller &caller, const std::string &item)
     {
         mms::ReadRequest request;
-        request.variables = mms::variablesOf("IED1LD", {item});
+        request.variables = wiretest::variablesOf("IED1LD", {item});
         const auto answer = caller.answer<mms::ReadResponse>(std::move(request));
         EXPECT_TRUE(answer.results.size() == 1 && answer.results[0].ok()) << item;
         return answer.results.size() == 1 && answer.results[0].ok() ? answer.results[0].data()

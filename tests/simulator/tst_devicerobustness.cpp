@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mms/samples.h"
+#include "mms/shorthand.h"
 #include "simulator/controlledbay.h"
 #include "simulator/devicetest.h"
 
@@ -288,7 +289,7 @@ TEST_F(DeviceRobustness, everyRequestIsAnsweredAndTheModelStaysWhole)
         const auto type = caller.answer<mms::GetVariableAccessAttributesResponse>(
             mms::GetVariableAccessAttributesRequest{mms::ObjectName::inDomain(domain, name)});
         const auto values = caller.answer<mms::ReadResponse>(
-            mms::ReadRequest{false, mms::variablesOf(domain, {name})});
+            mms::ReadRequest{false, wiretest::variablesOf(domain, {name})});
         ASSERT_EQ(values.results.size(), 1U);
         ASSERT_TRUE(values.results[0].ok()) << name;
         EXPECT_TRUE(fits(values.results[0].data(), type.type)) << name;

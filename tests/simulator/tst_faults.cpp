@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mms/associationtest.h"
+#include "mms/shorthand.h"
 
 #include "simulator/faults.h"
 

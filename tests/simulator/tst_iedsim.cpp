@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The program as somebody at a terminal meets it.
+#include "mms/shorthand.h"
 #include "osi/testcertificates.h"
 #include "simulator/devicetest.h"
 #include "simulator/program.h"
@@ -40,7 +41,7 @@ protected:
     mms::Data read(Caller &caller, const std::string &domain, const std::string &item)
     {
         mms::ReadRequest request;
-        request.variables = mms::variablesOf(domain, {item});
+        request.variables = wiretest::variablesOf(domain, {item});
         const auto answer = caller.answer<mms::ReadResponse>(std::move(request));
         EXPECT_TRUE(answer.results.size() == 1 && answer.results[0].ok()) << item;
         return answer.results.size() == 1 && answer.results[0].ok() ? answer.results[0].data()

@@ -198,7 +198,8 @@ void tst_JournalModel::selectedRowsAreCopiedAsText()
                                   QItemSelectionModel::Select | QItemSelectionModel::Rows);
     view.selectionModel()->select(model.index(0, 0),
                                   QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    view.copyAction()->trigger();
+    QCOMPARE(view.actions().size(), 1);
+    view.actions().first()->trigger();
     const QStringList lines = QGuiApplication::clipboard()->text().split(QLatin1Char('\n'));
     QCOMPARE(lines.size(), 3); // two rows, and nothing behind the last line's end
     QVERIFY(lines[0].startsWith(QStringLiteral("12:30:15.250\t3\treadVariable\t0\tOK\t")));
