@@ -8,6 +8,8 @@ namespace osi::session {
 
 namespace {
 
+constexpr std::uint8_t withoutParameters = 0; ///< length of the parameters of a unit
+
 constexpr std::uint8_t codeGiveTokensOrData = 1;
 constexpr std::uint8_t codePleaseTokens = 2;
 constexpr std::uint8_t codeNotFinished = 8;
@@ -353,7 +355,9 @@ Octets encode(const Unit &unit)
 
 void appendDataHeader(Octets &out)
 {
-    out.insert(out.end(), {codeGiveTokensOrData, 0, codeGiveTokensOrData, 0});
+    for (const std::uint8_t octet :
+         {codeGiveTokensOrData, withoutParameters, codeGiveTokensOrData, withoutParameters})
+        out.push_back(octet);
 }
 
 Text refusalText(std::uint8_t reason)
