@@ -7,6 +7,7 @@
 
 #include <asio/post.hpp>
 
+#include <QtCore/QBuffer>
 #include <QtCore/QDataStream>
 
 #include <algorithm>
@@ -21,14 +22,27 @@ void postToBrowsers(const QList<QByteArray> &records)
     Tavrix::PostEvent(boxPrefix, recordKey, records);
 }
 
-QByteArray recordOf(const MMSValue &value)
+/// Writes records, one after the other in the same place.
+class RecordWriter
 {
-    QByteArray bytes;
-    bytes.reserve(MMSValue::rawSize);
-    QDataStream stream(&bytes, QIODevice::WriteOnly);
-    value.toStream(stream);
-    return bytes;
-}
+public:
+    RecordWriter()
+    {
+        m_place.buffer().reserve(MMSValue::rawSize);
+        m_place.open(QIODevice::WriteOnly);
+    }
+
+    QByteArray recordOf(const MMSValue &value)
+    {
+        m_place.seek(0);
+        value.toStream(m_stream);
+        return QByteArray(m_place.data().constData(), static_cast<int>(m_place.pos()));
+    }
+
+private:
+    QBuffer m_place;
+    QDataStream m_stream{&m_place};
+};
 
 } // namespace
 
@@ -94,10 +108,11 @@ void LiveValues::post()
         m_timerRuns = false;
         m_posted += values.size();
     }
+    RecordWriter writer;
     QList<QByteArray> records;
     records.reserve(static_cast<int>(std::min<std::size_t>(values.size(), recordsPerEvent)));
     for (const MMSValue &value : values) {
-        records.append(recordOf(value));
+        records.append(writer.recordOf(value));
         if (records.size() == recordsPerEvent) {
             m_poster(records);
             records.clear();

@@ -4,8 +4,11 @@
 #include "attributevalue.h"
 #include "streamsettings.h"
 
+#include <QtCore/QtEndian>
+
 #include <array>
 #include <cstring>
+#include <type_traits>
 
 namespace {
 
@@ -24,12 +27,13 @@ static_assert(fixedBytes + longestQuality + longestTimeStamp + longestValueBesid
                   MMSValue::rawSize,
               "the longest visible string and the longest reference fit uncut");
 
-/// The room for a value's text or bytes beside so many of the other texts. It gives way to the
-/// reference, without which it is worth nothing, but keeps room for the longest visible string.
-int roomForValue(const QString &reference, int others)
+/// The room for a value's text or bytes beside a reference and other texts of so many bytes. It
+/// gives way to the reference, without which it is worth nothing, but keeps room for the longest
+/// visible string.
+int roomForValue(int reference, int others)
 {
     return qMax(longestValueBesideLongReference,
-                MMSValue::rawSize - fixedBytes - others - reference.toUtf8().size());
+                MMSValue::rawSize - fixedBytes - others - reference);
 }
 
 /// A text of ASCII and of characters of one other alphabet: where that begins, and one octet for
@@ -76,12 +80,11 @@ QString widened(quint16 alphabet, const QByteArray &octets)
     return text;
 }
 
-/// UTF-8 of at most `limit` bytes; a text that has more ends in "…" behind its last whole
+/// UTF-8 in at most `limit` bytes; a text that has more ends in "…" behind its last whole
 /// character.
-QByteArray utf8Within(const QString &text, int limit)
+QByteArray utf8Within(QByteArray bytes, int limit)
 {
     static const QByteArray ellipsis = QByteArrayLiteral("\xE2\x80\xA6");
-    QByteArray bytes = text.toUtf8();
     if (bytes.size() <= limit)
         return bytes;
     int end = limit - ellipsis.size();
@@ -105,12 +108,41 @@ float floatOfBits(quint32 bits)
     return value;
 }
 
-template <typename Length>
-void writeBytes(QDataStream &stream, const QByteArray &bytes)
+/// The bytes of one value, written one after the other. What is put in is cut to fit before.
+class Writer
 {
-    stream << static_cast<Length>(bytes.size());
-    stream.writeRawData(bytes.constData(), bytes.size());
-}
+public:
+    template <typename Number>
+    void number(Number number)
+    {
+        static_assert(std::is_arithmetic<Number>::value, "a number");
+        if constexpr (std::is_same<Number, bool>::value)
+            *take(1) = number ? '\1' : '\0';
+        else
+            qToBigEndian(number, take(int(sizeof(Number))));
+    }
+
+    template <typename Length>
+    void bytes(const QByteArray &bytes)
+    {
+        number(static_cast<Length>(bytes.size()));
+        std::memcpy(take(bytes.size()), bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    }
+
+    void writeTo(QDataStream &stream) const { stream.writeRawData(m_bytes.data(), m_size); }
+
+private:
+    char *take(int size)
+    {
+        Q_ASSERT(m_size + size <= MMSValue::rawSize);
+        char *const place = m_bytes.data() + m_size;
+        m_size += size;
+        return place;
+    }
+
+    std::array<char, MMSValue::rawSize> m_bytes{};
+    int m_size = 0;
+};
 
 class Reader
 {
@@ -193,7 +225,11 @@ MMSValue::MMSValue() = default;
 
 MMSValue::MMSValue(const MMSValue &other) = default;
 
+MMSValue::MMSValue(MMSValue &&other) noexcept = default;
+
 MMSValue &MMSValue::operator=(const MMSValue &other) = default;
+
+MMSValue &MMSValue::operator=(MMSValue &&other) noexcept = default;
 
 MMSValue::~MMSValue() = default;
 
@@ -220,13 +256,13 @@ void MMSValue::fromStream(QDataStream &stream)
 
 void MMSValue::toStream(QDataStream &stream) const
 {
-    const StreamSettings settings(stream);
-    const QByteArray qualityBytes = utf8Within(quality, longestQuality);
-    const QByteArray timeBytes = utf8Within(timeStamp, longestTimeStamp);
+    const QByteArray qualityBytes = utf8Within(quality.toUtf8(), longestQuality);
+    const QByteArray timeBytes = utf8Within(timeStamp.toUtf8(), longestTimeStamp);
+    QByteArray referenceBytes = reference.toUtf8();
 
     const int others = qualityBytes.size() + timeBytes.size();
     int left = rawSize - fixedBytes - others;
-    const int valueLimit = roomForValue(reference, others);
+    const int valueLimit = roomForValue(referenceBytes.size(), others);
 
     QVariant written = AttributeValue::represented(value);
     // Bytes that do not fit become the hexadecimal text by which octet strings are represented,
@@ -239,62 +275,66 @@ void MMSValue::toStream(QDataStream &stream) const
     NarrowText narrowed;
     if (type == AttributeValue::Text) {
         const QString text = written.toString();
-        valueBytes = utf8Within(text, valueLimit);
-        if (text.size() <= valueLimit && text.toUtf8().size() > valueLimit &&
-            narrow(text, narrowed)) {
+        valueBytes = text.toUtf8();
+        if (text.size() <= valueLimit && valueBytes.size() > valueLimit && narrow(text, narrowed)) {
             type = narrowText;
             valueBytes = narrowed.octets;
         }
+        valueBytes = utf8Within(std::move(valueBytes), valueLimit);
     } else if (type == AttributeValue::Bytes) {
         valueBytes = written.toByteArray();
     }
     left -= qMax(valueBytes.size(), static_cast<int>(sizeof(double)));
-    const QByteArray referenceBytes = utf8Within(reference, left);
+    referenceBytes = utf8Within(std::move(referenceBytes), left);
 
-    stream << formatVersion << static_cast<quint8>(type);
+    Writer writer;
+    writer.number(formatVersion);
+    writer.number(static_cast<quint8>(type));
     switch (type) {
     case AttributeValue::Bool:
-        stream << written.toBool();
+        writer.number(written.toBool());
         break;
     case AttributeValue::Int:
-        stream << static_cast<qint32>(written.toInt());
+        writer.number(static_cast<qint32>(written.toInt()));
         break;
     case AttributeValue::UInt:
-        stream << static_cast<quint32>(written.toUInt());
+        writer.number(static_cast<quint32>(written.toUInt()));
         break;
     case AttributeValue::LongLong:
-        stream << static_cast<qint64>(written.toLongLong());
+        writer.number(static_cast<qint64>(written.toLongLong()));
         break;
     case AttributeValue::ULongLong:
-        stream << static_cast<quint64>(written.toULongLong());
+        writer.number(static_cast<quint64>(written.toULongLong()));
         break;
     case AttributeValue::Double:
-        stream << written.toDouble();
+        writer.number(written.toDouble());
         break;
     case AttributeValue::Float:
-        stream << bitsOfFloat(written.toFloat());
+        writer.number(bitsOfFloat(written.toFloat()));
         break;
     case narrowText:
-        stream << narrowed.alphabet;
-        writeBytes<quint16>(stream, valueBytes);
+        writer.number(narrowed.alphabet);
+        writer.bytes<quint16>(valueBytes);
         break;
     case AttributeValue::Text:
     case AttributeValue::Bytes:
-        writeBytes<quint16>(stream, valueBytes);
+        writer.bytes<quint16>(valueBytes);
         break;
     default:
         break;
     }
-    writeBytes<quint16>(stream, referenceBytes);
-    writeBytes<quint8>(stream, qualityBytes);
-    writeBytes<quint8>(stream, timeBytes);
-    stream << deviceNo << cause;
+    writer.bytes<quint16>(referenceBytes);
+    writer.bytes<quint8>(qualityBytes);
+    writer.bytes<quint8>(timeBytes);
+    writer.number(deviceNo);
+    writer.number(cause);
+    writer.writeTo(stream);
 }
 
 bool MMSValue::keepsValueWhole() const
 {
     const QVariant written = AttributeValue::represented(value);
-    const int room = roomForValue(reference, longestQuality + longestTimeStamp);
+    const int room = roomForValue(reference.toUtf8().size(), longestQuality + longestTimeStamp);
     if (written.userType() == AttributeValue::Bytes)
         return written.toByteArray().size() <= room;
     if (written.userType() != AttributeValue::Text)

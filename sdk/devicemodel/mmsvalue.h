@@ -21,7 +21,9 @@ public:
 
     MMSValue();
     MMSValue(const MMSValue &other);
+    MMSValue(MMSValue &&other) noexcept;
     MMSValue &operator=(const MMSValue &other);
+    MMSValue &operator=(MMSValue &&other) noexcept;
     ~MMSValue();
 
     /// Read one value. On malformed bytes the value is left default-constructed.

@@ -5,6 +5,8 @@
 #include <QtTest/QtTest>
 
 #include <limits>
+#include <type_traits>
+#include <utility>
 
 namespace {
 
@@ -60,6 +62,24 @@ private slots:
         QCOMPARE(value.timeStamp, example().timeStamp);
         QCOMPARE(value.deviceNo, -3);
         QCOMPARE(value.cause, 0xFEDCBA98U);
+    }
+
+    void aValueIsMovedNotCopied()
+    {
+        static_assert(std::is_nothrow_move_constructible<MMSValue>::value, "grows in vectors");
+        MMSValue from = example();
+        from.value = QStringLiteral("a text");
+        from.reference = QString(40, QLatin1Char('r'));
+        const QChar *const reference = from.reference.constData();
+        MMSValue to(std::move(from));
+        QVERIFY(to.reference.constData() == reference);
+        QVERIFY(to.reference.isDetached());
+        MMSValue assigned;
+        assigned = std::move(to);
+        QVERIFY(assigned.reference.constData() == reference);
+        QVERIFY(assigned.reference.isDetached());
+        QCOMPARE(assigned.value, QVariant(QStringLiteral("a text")));
+        QCOMPARE(assigned.cause, example().cause);
     }
 
     void everyRepresentationOfAValueComesBackExactly_data()
