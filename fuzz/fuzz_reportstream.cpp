@@ -130,7 +130,10 @@ void check(const ReportStream &stream, const ReportStream::Taken &taken)
         require(taken.references.empty());
         return;
     }
-    require(taken.references.size() == taken.report->members.size());
+    if (taken.areInPlace)
+        require(stream.find(taken.block)->members.size() == taken.report->dataSetSize);
+    else
+        require(taken.references.size() == taken.report->members.size());
     for (const acsi::ReportMember &member : taken.report->members)
         require(member.index < taken.report->dataSetSize);
 }

@@ -9,33 +9,17 @@ namespace {
 
 constexpr int noBlock = -1;
 
-bool isNamed(const std::string &key, const ReportStream::Block &block, const std::string &rptId)
+/// @param key @param objectName the reference of the block in both notations
+bool isNamed(const std::string &key, const std::string &objectName,
+             const ReportStream::Block &block, const std::string &rptId)
 {
     // A block without an identifier of its own reports under its reference.
-    return rptId == block.rptId || rptId == key || rptId == acsi::objectReferenceText(block.block);
-}
-
-/// Both notations, in the functional constraint of the member where the text has none.
-bool isReference(const std::string &text, const acsi::Reference &member)
-{
-    if (text == acsi::toText(member) || text == acsi::objectReferenceText(member))
-        return true;
-    const auto parsed = acsi::parseReference(text);
-    return parsed && *parsed == member;
+    return rptId == block.rptId || rptId == key || rptId == objectName;
 }
 
 bool isKnownSize(const ReportStream::Block &block, const acsi::Report &segment)
 {
     return segment.dataSetSize == block.members.size();
-}
-
-/// Whether every data reference of the report is that of the member in its place.
-bool agrees(const ReportStream::Block &block, const acsi::Report &segment)
-{
-    return isKnownSize(block, segment) &&
-           std::ranges::all_of(segment.members, [&](const acsi::ReportMember &member) {
-               return isReference(member.reference, block.members[member.index]);
-           });
 }
 
 } // namespace
@@ -49,11 +33,34 @@ bool isSameDataSet(const acsi::Reference &block, const std::string &left, const 
     return first && second && *first == *second;
 }
 
+void ReportStream::setNames(Followed &followed)
+{
+    followed.names.clear();
+    for (const acsi::Reference &member : followed.block.members)
+        followed.names.emplace_back(acsi::toText(member), acsi::objectReferenceText(member));
+}
+
+/// Whether every data reference of the report is that of the member in its place, in either
+/// notation, and in the functional constraint of the member where the text has none.
+bool ReportStream::agrees(const Followed &followed, const acsi::Report &segment)
+{
+    const auto isMeant = [&](const acsi::ReportMember &member) {
+        const auto &[name, objectName] = followed.names[member.index];
+        if (member.reference == name || member.reference == objectName)
+            return true;
+        const auto parsed = acsi::parseReference(member.reference);
+        return parsed && *parsed == followed.block.members[member.index];
+    };
+    return isKnownSize(followed.block, segment) && std::ranges::all_of(segment.members, isMeant);
+}
+
 void ReportStream::start(Block block)
 {
     const std::string key = acsi::toText(block.block);
     Followed followed;
+    followed.objectName = acsi::objectReferenceText(block.block);
     followed.block = std::move(block);
+    setNames(followed);
     m_blocks.insert_or_assign(key, std::move(followed));
 }
 
@@ -71,8 +78,10 @@ void ReportStream::settle(const std::string &block, const std::string &rptId,
 void ReportStream::setMembers(const std::string &block, std::vector<acsi::Reference> members)
 {
     const auto found = m_blocks.find(block);
-    if (found != m_blocks.end())
-        found->second.block.members = std::move(members);
+    if (found == m_blocks.end())
+        return;
+    found->second.block.members = std::move(members);
+    setNames(found->second);
 }
 
 void ReportStream::stop(const std::string &block)
@@ -89,10 +98,12 @@ const ReportStream::Block *ReportStream::find(const std::string &block) const
 bool ReportStream::isConfusable(const Block &block) const
 {
     const std::string key = acsi::toText(block.block);
+    const std::string objectName = acsi::objectReferenceText(block.block);
     return std::ranges::any_of(m_blocks, [&](const auto &each) {
         const Block &other = each.second.block;
-        const bool mayShareAName = other.rptId == block.rptId || isNamed(key, block, other.rptId) ||
-                                   isNamed(each.first, other, block.rptId);
+        const bool mayShareAName = other.rptId == block.rptId ||
+                                   isNamed(key, objectName, block, other.rptId) ||
+                                   isNamed(each.first, each.second.objectName, other, block.rptId);
         return each.first != key && mayShareAName && other.members != block.members;
     });
 }
@@ -108,7 +119,7 @@ int ReportStream::likeness(const std::string &key, const Followed &followed,
                            const acsi::Report &segment)
 {
     const Block &block = followed.block;
-    const bool named = isNamed(key, block, segment.rptId);
+    const bool named = isNamed(key, followed.objectName, block, segment.rptId);
     // Some devices leave the identifier empty.
     if (!named && !segment.rptId.empty())
         return noBlock;
@@ -118,7 +129,7 @@ int ReportStream::likeness(const std::string &key, const Followed &followed,
     const bool isSized = isKnownSize(block, segment);
     if (!block.members.empty() && !isSized && !hasReferences)
         return noBlock;
-    if (hasReferences && !block.members.empty() && !agrees(block, segment))
+    if (hasReferences && !block.members.empty() && !agrees(followed, segment))
         return noBlock;
     const bool isAsAsked = segment.optFlds.dataSetName == block.optFlds.dataSetName &&
                            segment.optFlds.dataReference == block.optFlds.dataReference;
@@ -146,7 +157,8 @@ std::vector<std::string> ReportStream::candidates(const acsi::Report &segment,
     std::vector<std::string> all;
     for (const auto &[key, followed] : m_blocks) {
         all.push_back(key);
-        if (!segment.rptId.empty() && isNamed(key, followed.block, segment.rptId))
+        if (!segment.rptId.empty() &&
+            isNamed(key, followed.objectName, followed.block, segment.rptId))
             best.push_back(key);
         isOfOtherData = true;
     }
@@ -185,16 +197,17 @@ void ReportStream::resolve(const Followed &followed, Taken &taken)
     const acsi::Report &report = *taken.report;
     const Block &block = followed.block;
     const bool isOther = std::ranges::count(taken.faults, ReportFault::OtherDataSet) != 0;
-    taken.references.resize(report.members.size());
+    // What a report says of itself goes before what was read of the data set.
+    taken.areInPlace = !isOther && isKnownSize(block, report);
     bool isUnknown = false;
-    for (std::size_t i = 0; i < report.members.size(); ++i) {
-        const acsi::ReportMember &member = report.members[i];
-        // What a report says of itself goes before what was read of the data set.
-        if (!isOther && isKnownSize(block, report))
-            taken.references[i] = block.members[member.index];
-        else if (const auto given = acsi::parseReference(member.reference))
-            taken.references[i] = *given;
-        isUnknown = isUnknown || taken.references[i].node.empty();
+    for (const acsi::ReportMember &member : report.members) {
+        if (taken.areInPlace) {
+            isUnknown = isUnknown || block.members[member.index].node.empty();
+            continue;
+        }
+        const auto given = acsi::parseReference(member.reference);
+        taken.references.push_back(given ? *given : acsi::Reference());
+        isUnknown = isUnknown || taken.references.back().node.empty();
     }
     if (isUnknown && !isOther)
         taken.faults.push_back(ReportFault::UnknownMember);
@@ -248,7 +261,7 @@ std::vector<std::string> ReportStream::named(const std::string &rptId) const
     std::vector<std::string> all;
     for (const auto &[key, followed] : m_blocks) {
         all.push_back(key);
-        if (!rptId.empty() && isNamed(key, followed.block, rptId))
+        if (!rptId.empty() && isNamed(key, followed.objectName, followed.block, rptId))
             result.push_back(key);
     }
     return result.empty() ? all : result;

@@ -9,6 +9,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// What was wrong with a report, or with what should have come before it.
@@ -54,7 +55,10 @@ public:
         std::vector<std::string> ambiguous;
         /// The whole report; none while parts are missing.
         std::optional<acsi::Report> report;
-        /// What each member of the report is; without a logical node where that is not known.
+        /// The members of the report are those of the block's data set, by their index.
+        bool areInPlace = false;
+        /// Otherwise what each member of the report is; without a logical node where that is not
+        /// known.
         std::vector<acsi::Reference> references;
         std::vector<ReportFault> faults;
         std::uint32_t missing = 0; ///< reports, where the numbers tell
@@ -68,6 +72,8 @@ public:
     void setMembers(const std::string &block, std::vector<acsi::Reference> members);
     void stop(const std::string &block);
     void clear() { m_blocks.clear(); }
+    /// Whether no reports are expected at all: then every report is nobody's, otherwise none is.
+    bool isEmpty() const { return m_blocks.empty(); }
     /// Null when it is not expected to report.
     const Block *find(const std::string &block) const;
 
@@ -97,8 +103,13 @@ private:
         std::optional<std::uint32_t> beforeMissing;
         bool isAttributeWrong = false;
         bool isOverflown = false;
+        /// The block, and its members in both notations, as reports may name them.
+        std::string objectName;
+        std::vector<std::pair<std::string, std::string>> names;
     };
 
+    static void setNames(Followed &followed);
+    static bool agrees(const Followed &followed, const acsi::Report &segment);
     static bool isNext(std::uint32_t before, std::uint32_t now);
     static int likeness(const std::string &key, const Followed &followed,
                         const acsi::Report &segment);

@@ -178,7 +178,7 @@ void ModelReading::takeDescription(acsi::ServerDescription description,
             problem.isEmpty() ? QString() : Texts::tr("The SCL file is not used: %1").arg(problem));
     // Values are kept with the model as long as the device is in every way the same.
     if (!m_model || isFileOther || m_model->description() != description) {
-        m_model = std::make_unique<OnlineModel>(
+        m_model = std::make_shared<OnlineModel>(
             std::move(description),
             m_fromFile ? m_fromFile->name : m_connection.configuration().name, m_fromFile.get());
     }

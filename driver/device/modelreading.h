@@ -76,7 +76,7 @@ private:
     asio::awaitable<void> readBlocks(ClientPointer client);
 
     DeviceConnection &m_connection;
-    std::unique_ptr<OnlineModel> m_model;
+    std::shared_ptr<OnlineModel> m_model;
     DeviceIdentity m_identity;
     QHash<QString, QString> m_revisions; ///< configuration revisions by logical device
     std::unique_ptr<PhysicalDevice> m_fromFile;

@@ -7,6 +7,7 @@
 #include "driver/core/reportstream.h"
 #include "driver/core/subscriptionlife.h"
 #include "lastentries.h"
+#include "reportedmembers.h"
 #include "reporttexts.h"
 
 #include "acsi/reportblock.h"
@@ -104,6 +105,8 @@ private:
     asio::awaitable<void> watch(ClientPointer client);
     asio::awaitable<void> lookAtBlocks(ClientPointer client);
     asio::awaitable<void> lookAtHolders(ClientPointer client);
+    /// Takes over the members by which the stream reads the reports of the block.
+    void setMembers(Subscription &subscription) const;
     void stop(Subscription &subscription);
     ChangeIntent intentOf(const acsi::Reference &block, const char *attribute, const char *value,
                           ChangeIntent::Kind kind) const;
@@ -111,15 +114,20 @@ private:
     void tellSeen(const Subscription &subscription, const QString &error) const;
 
     // What reports bring, in reporttaking.cpp:
-    bool take(const mms::InformationReport &information);
-    void takeUnreadable(const mms::InformationReport &information, const mms::Error &error);
-    void publish(Subscription &subscription, const ReportStream::Taken &taken);
-    void post(const Subscription &subscription, const ReportStream::Taken &taken);
+    /// Moves the values out of a report that is taken.
+    bool take(mms::InformationReport &information);
+    void takeUnreadable(const std::string &rptId, const mms::Error &error);
+    void publish(Subscription &subscription, const ReportStream::Taken &taken,
+                 const ReportedValues &values);
+    void post(const Subscription &subscription, const acsi::Report &report,
+              const ReportedValues &values);
     void post(const Subscription &subscription, const QString &missing);
     void fault(const SubscriptionPointer &subscription, ReportFault fault,
                const QString &detail = {});
     void tell(const Subscription &subscription);
     void trust(Subscription &subscription, bool trusted);
+
+    // How it is made good, in reportmending.cpp:
     /// Has the data set read whole, at once or as soon as the last reading is a little past.
     void mend(const SubscriptionPointer &subscription);
     asio::awaitable<void> mendWhileNeeded(std::shared_ptr<DeviceConnection> connection,
@@ -144,7 +152,9 @@ private:
 struct ReportSubscriptions::Subscription
 {
     acsi::Reference block;
-    std::string reference; ///< of the block
+    std::string reference;   ///< of the block
+    QString name;            ///< the same
+    ReportedMembers members; ///< of its data set, while its reports are expected
     acsi::ReportSettings settings;
     SubscriptionLife life;
     DataSetMending mending;

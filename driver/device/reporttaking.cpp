@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// ReportSubscriptions: what reports bring, what they lose, and how that is made good.
+// ReportSubscriptions: what reports bring, and what they say is missing.
 #include "reportsubscriptions.h"
 
 #include "driver/model/valueconversion.h"
@@ -8,17 +8,13 @@
 #include "valuepolling.h"
 #include "valuepublishing.h"
 
-#include "acsi/dataset.h"
 #include "mms/datatext.h"
-
-#include <asio/co_spawn.hpp>
 
 #include <QtCore/QCoreApplication>
 
 #include <algorithm>
 #include <set>
 
-using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
 namespace {
@@ -27,8 +23,6 @@ struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(IedDriver)
 };
-
-constexpr milliseconds shortestPause{20};
 
 QString text(std::string_view utf8)
 {
@@ -58,68 +52,13 @@ std::uint32_t causeOf(const acsi::ReportMember &member)
     return PublishCause::Report | (member.reason ? bitsOf(*member.reason) & published : 0U);
 }
 
-/// Qualities and times that a report brings as members of their own, by the data they belong to.
-class Companions
-{
-public:
-    void add(const acsi::Reference &reference, const mms::Data &data)
-    {
-        if (reference.path.size() < 2)
-            return;
-        const std::string &name = reference.path.back().name;
-        const bool isQuality = name == "q" && data.kind() == mms::Data::Kind::BitString;
-        const bool isTime = name == "t" && data.kind() == mms::Data::Kind::UtcTime;
-        if (isQuality || isTime)
-            (isQuality ? m_qualities : m_times)[parentOf(acsi::toText(reference))] = &data;
-    }
-
-    const mms::Data *quality(const std::string &reference) const
-    {
-        return find(m_qualities, reference);
-    }
-    const mms::Data *time(const std::string &reference) const { return find(m_times, reference); }
-
-private:
-    using Known = std::map<std::string, const mms::Data *>;
-
-    static std::string parentOf(const std::string &reference)
-    {
-        return reference.substr(0, reference.rfind('$'));
-    }
-
-    static const mms::Data *find(const Known &known, std::string reference)
-    {
-        while (!known.empty() && reference.find('$') != std::string::npos) {
-            reference = parentOf(reference);
-            const auto found = known.find(reference);
-            if (found != known.end())
-                return found->second;
-        }
-        return nullptr;
-    }
-
-    Known m_qualities;
-    Known m_times;
-};
-
-Companions companionsOf(const ReportStream::Taken &taken)
-{
-    Companions companions;
-    for (std::size_t i = 0; i < taken.references.size(); ++i) {
-        const mms::AccessResult &value = taken.report->members[i].value;
-        if (value.ok())
-            companions.add(taken.references[i], value.data());
-    }
-    return companions;
-}
-
 /// A member as an event tells it, leaf by leaf.
-QVector<ReportEventMember> eventMembers(const OnlineModel *model, const acsi::Reference &reference,
-                                        const acsi::ReportMember &member,
-                                        const Companions &companions)
+QVector<ReportEventMember> eventMembers(const OnlineModel *model, const ReportedValues &values,
+                                        std::size_t place, const acsi::ReportMember &member)
 {
+    const ReportedMembers::Member &known = values.member(place);
     ReportEventMember common;
-    common.reference = reference.node.empty() ? text(member.reference) : text(reference);
+    common.reference = known.reference.node.empty() ? text(member.reference) : known.found.name;
     if (common.reference.isEmpty())
         common.reference = Texts::tr("member %1").arg(member.index + 1);
     if (member.reason)
@@ -138,15 +77,13 @@ QVector<ReportEventMember> eventMembers(const OnlineModel *model, const acsi::Re
                 beside.insert(each);
         }
     };
-    const bool fits =
-        model && !reference.node.empty() && model->forEachLeaf(reference, data, visit);
+    const bool fits = model && model->forEachLeaf(known.found, data, visit);
     if (!fits || leaves.empty()) {
         common.value = text(mms::toText(data));
         common.error = Texts::tr("the value does not have the form of its type");
         return {common};
     }
     QVector<ReportEventMember> result;
-    const std::string whole = acsi::toText(reference);
     const bool areAllBeside = std::ranges::all_of(
         leaves, [&](const OnlineModel::Leaf &leaf) { return beside.count(leaf.data) != 0; });
     for (const OnlineModel::Leaf &leaf : leaves) {
@@ -157,20 +94,13 @@ QVector<ReportEventMember> eventMembers(const OnlineModel *model, const acsi::Re
         each.value = ValueConversion::toVariant(
             leaf.attribute ? leaf.attribute->basicType : ValueConversion::basicTypeOf(*leaf.type),
             *leaf.data);
-        if (const mms::Data *quality = leaf.quality ? leaf.quality : companions.quality(whole))
+        if (const mms::Data *quality = leaf.quality ? leaf.quality : values.quality(place))
             each.quality = ValueConversion::qualityText(*quality);
-        if (const mms::Data *time = leaf.time ? leaf.time : companions.time(whole))
+        if (const mms::Data *time = leaf.time ? leaf.time : values.time(place))
             each.timeStamp = ValueConversion::timeText(*time);
         result.append(each);
     }
     return result;
-}
-
-/// Whether nobody told the order of what the data has, so that only its parts can be understood.
-bool isDescribedInParts(const OnlineModel *model, const acsi::Reference &reference)
-{
-    return model && !reference.node.empty() && !model->isWholeKnown(reference) &&
-           !model->readableParts(reference).empty();
 }
 
 bool isMissing(ReportFault fault)
@@ -184,12 +114,6 @@ bool isMissing(ReportFault fault)
     default:
         return false;
     }
-}
-
-/// Not made good by reading the data: what came between is gone.
-bool outlastsReading(ReportFault fault)
-{
-    return fault == ReportFault::Overflow;
 }
 
 QString sentenceOf(ReportFault fault, const QString &block, const QString &detail)
@@ -225,20 +149,15 @@ QString sentenceOf(ReportFault fault, const QString &block, const QString &detai
 
 } // namespace
 
-/// What came of reading a data set.
-struct ReportSubscriptions::Mended
+bool ReportSubscriptions::take(mms::InformationReport &information)
 {
-    bool isRead = false; ///< an answer for every member has come
-    QString disturbance; ///< the first member that could not be taken all the same, one sentence
-};
-
-bool ReportSubscriptions::take(const mms::InformationReport &information)
-{
-    if (!acsi::isReport(information) || m_subscriptions.empty())
+    // Whose it is not keeps its values.
+    if (!acsi::isReport(information) || m_stream.isEmpty())
         return false;
-    mms::Result<acsi::Report> segment = acsi::decodeReport(information);
+    const std::string rptId = acsi::reportIdOf(information);
+    mms::Result<acsi::Report> segment = acsi::decodeReport(std::move(information));
     if (!segment) {
-        takeUnreadable(information, segment.error());
+        takeUnreadable(rptId, segment.error());
         return true;
     }
     const ReportStream::Taken taken = m_stream.take(*std::move(segment), steady_clock::now());
@@ -252,7 +171,7 @@ bool ReportSubscriptions::take(const mms::InformationReport &information)
     }
     const SubscriptionPointer subscription = find(taken.block);
     if (!subscription)
-        return !taken.ambiguous.empty();
+        return true;
     for (const ReportFault each : taken.faults) {
         if (each == ReportFault::OtherDataSet)
             subscription->needsMembers = true;
@@ -262,10 +181,15 @@ bool ReportSubscriptions::take(const mms::InformationReport &information)
     if (!taken.report)
         return true;
     ++subscription->reports;
-    publish(*subscription, taken);
-    post(*subscription, taken);
+    // Looked up for this report alone only when it says itself what it brings.
+    ReportedMembers given(taken.references);
+    ReportedMembers &reported = taken.areInPlace ? subscription->members : given;
+    reported.use(m_connection.model());
+    const ReportedValues values(reported, taken.areInPlace, *taken.report);
+    publish(*subscription, taken, values);
+    post(*subscription, *taken.report, values);
     if (!taken.report->entryId.empty())
-        m_entries.set(text(subscription->reference), subscription->terms, taken.report->entryId);
+        m_entries.set(subscription->name, subscription->terms, taken.report->entryId);
     const std::vector<acsi::ReportMember> &members = taken.report->members;
     const bool isWhole = !members.empty() && members.size() == taken.report->dataSetSize;
     const bool isInterrogation =
@@ -282,11 +206,10 @@ bool ReportSubscriptions::take(const mms::InformationReport &information)
     return true;
 }
 
-void ReportSubscriptions::takeUnreadable(const mms::InformationReport &information,
-                                         const mms::Error &error)
+void ReportSubscriptions::takeUnreadable(const std::string &rptId, const mms::Error &error)
 {
     m_connection.count(&DeviceCounters::unreadableReports);
-    for (const std::string &each : m_stream.named(acsi::reportIdOf(information))) {
+    for (const std::string &each : m_stream.named(rptId)) {
         const SubscriptionPointer subscription = find(each);
         if (!subscription)
             continue;
@@ -297,21 +220,26 @@ void ReportSubscriptions::takeUnreadable(const mms::InformationReport &informati
     }
 }
 
-void ReportSubscriptions::publish(Subscription &subscription, const ReportStream::Taken &taken)
+void ReportSubscriptions::publish(Subscription &subscription, const ReportStream::Taken &taken,
+                                  const ReportedValues &values)
 {
     const acsi::Report &report = *taken.report;
-    const QString block = text(subscription.reference);
-    const Companions companions = companionsOf(taken);
+    const QString &block = subscription.name;
     const std::optional<mms::Data> entryTime =
         report.timeOfEntry ? std::optional(mms::Data::binaryTime(*report.timeOfEntry))
                            : std::nullopt;
+    const bool isOther = std::ranges::count(taken.faults, ReportFault::OtherDataSet) != 0;
+    ValuePublishing &publishing = m_connection.values();
+    ValuePublishing::Publication publication;
+    publication.asOf = steady_clock::now();
+    std::vector<MMSValue> records;
+    records.reserve(report.members.size());
     QString unknown;
     QString valueless;
     for (std::size_t i = 0; i < report.members.size(); ++i) {
         const acsi::ReportMember &member = report.members[i];
-        const acsi::Reference &reference = taken.references[i];
-        if (reference.node.empty()) {
-            const bool isOther = std::ranges::count(taken.faults, ReportFault::OtherDataSet) != 0;
+        const ReportedMembers::Member &known = values.member(i);
+        if (known.reference.node.empty()) {
             if (!isOther)
                 unknown =
                     Texts::tr("The member %1 of the data set of %2 is no data of the device's "
@@ -323,29 +251,32 @@ void ReportSubscriptions::publish(Subscription &subscription, const ReportStream
         if (!member.value.ok()) {
             valueless =
                 Texts::tr("The reports of %1 have no value for %2: %3.")
-                    .arg(block, text(reference),
+                    .arg(block, text(known.reference),
                          ConnectionText::withoutPeriod(text(mms::describe(member.value.error()))));
             continue;
         }
-        const std::string name = acsi::toText(reference);
-        ValuePublishing::Publication publication;
+        const mms::Data &data = member.value.data();
         publication.cause = causeOf(member);
-        publication.quality = companions.quality(name);
-        publication.time = companions.time(name);
+        publication.quality = values.quality(i);
+        publication.time = values.time(i);
         if (!publication.time && entryTime)
             publication.time = &*entryTime;
-        if (isDescribedInParts(m_connection.model(), reference)) {
+        if (known.isInParts) {
             unknown = Texts::tr("The device described %1 in parts only, so what the reports of %2 "
                                 "say of it cannot be understood; it is polled.")
-                          .arg(text(name), block);
-        } else if (!m_connection.values().publish(reference, member.value.data(), publication)) {
+                          .arg(text(known.reference), block);
+        } else if (!publishing.add(records, known.found, data, publication)) {
             unknown = Texts::tr("A value of %1 in the reports of %2 does not have the form of its "
                                 "type.")
-                          .arg(text(name), block);
-        } else if (member.index < subscription.reportedAt.size()) {
-            subscription.reportedAt[member.index] = subscription.reports;
+                          .arg(text(known.reference), block);
+        } else {
+            if (data.kind() == mms::Data::Kind::BitString)
+                publishing.addQualityOf(records, known.qualityOf, data, publication.cause);
+            if (member.index < subscription.reportedAt.size())
+                subscription.reportedAt[member.index] = subscription.reports;
         }
     }
+    publishing.send(std::move(records));
     const SubscriptionPointer self = find(subscription.reference);
     const auto tellOf = [&](ReportFault kind, const QString &sentence) {
         const bool isNew = !sentence.isEmpty() && subscription.faults[kind] != sentence;
@@ -362,16 +293,16 @@ void ReportSubscriptions::publish(Subscription &subscription, const ReportStream
         trust(subscription, true);
 }
 
-void ReportSubscriptions::post(const Subscription &subscription, const ReportStream::Taken &taken)
+void ReportSubscriptions::post(const Subscription &subscription, const acsi::Report &report,
+                               const ReportedValues &values)
 {
     const ConnectionEnvironment &environment = m_connection.environment();
     if (!environment.wantsReports || !environment.wantsReports())
         return;
-    const acsi::Report &report = *taken.report;
     ReportEvent event;
     event.number = m_connection.configuration().number;
     event.device = m_connection.configuration().name;
-    event.block = text(subscription.reference);
+    event.block = subscription.name;
     event.rptId = text(report.rptId);
     if (report.sqNum)
         event.sequenceNumber = *report.sqNum;
@@ -381,11 +312,8 @@ void ReportSubscriptions::post(const Subscription &subscription, const ReportStr
         event.timeOfEntry = ValueConversion::timeText(mms::Data::binaryTime(*report.timeOfEntry));
     event.arrival = QDateTime::currentDateTime();
     event.bufferOverflow = report.bufOvfl.value_or(false);
-    const Companions companions = companionsOf(taken);
-    for (std::size_t i = 0; i < report.members.size(); ++i) {
-        event.members +=
-            eventMembers(m_connection.model(), taken.references[i], report.members[i], companions);
-    }
+    for (std::size_t i = 0; i < report.members.size(); ++i)
+        event.members += eventMembers(m_connection.model(), values, i, report.members[i]);
     m_connection.count(&DeviceCounters::droppedEvents, environment.reportReceived(event));
 }
 
@@ -397,7 +325,7 @@ void ReportSubscriptions::post(const Subscription &subscription, const QString &
     ReportEvent event;
     event.number = m_connection.configuration().number;
     event.device = m_connection.configuration().name;
-    event.block = text(subscription.reference);
+    event.block = subscription.name;
     event.arrival = QDateTime::currentDateTime();
     event.missing = missing;
     m_connection.count(&DeviceCounters::droppedEvents, environment.reportReceived(event));
@@ -406,7 +334,7 @@ void ReportSubscriptions::post(const Subscription &subscription, const QString &
 void ReportSubscriptions::fault(const SubscriptionPointer &subscription, ReportFault fault,
                                 const QString &detail)
 {
-    const QString sentence = sentenceOf(fault, text(subscription->reference), detail);
+    const QString sentence = sentenceOf(fault, subscription->name, detail);
     subscription->faults[fault] = sentence;
     if (isMissing(fault)) {
         m_connection.count(&DeviceCounters::reportGaps);
@@ -438,165 +366,4 @@ void ReportSubscriptions::trust(Subscription &subscription, bool trusted)
         members = block->members;
     m_connection.polling().setReported(text(subscription.reference), members,
                                        subscription.coverage);
-}
-
-void ReportSubscriptions::mend(const SubscriptionPointer &subscription)
-{
-    subscription->mending.need();
-    const ClientPointer client = m_connection.client();
-    if (subscription->isMending || !client || !subscription->life.isTaking())
-        return;
-    subscription->isMending = true;
-    asio::co_spawn(m_connection.strand(),
-                   mendWhileNeeded(m_connection.shared_from_this(), subscription, client),
-                   [subscription](const std::exception_ptr &) { subscription->isMending = false; });
-}
-
-asio::awaitable<void>
-ReportSubscriptions::mendWhileNeeded(std::shared_ptr<DeviceConnection> connection,
-                                     SubscriptionPointer subscription, ClientPointer client)
-{
-    const DataSetMending &mending = subscription->mending;
-    while (client->isOpen() && isCurrent(subscription) && subscription->life.isTaking() &&
-           mending.isNeeded()) {
-        const auto now = steady_clock::now();
-        if (mending.isDue(now)) {
-            co_await mendOnce(subscription, client);
-        } else {
-            const auto left = std::chrono::ceil<milliseconds>(mending.next() - now);
-            co_await connection->pause(std::max(left, shortestPause));
-        }
-    }
-}
-
-asio::awaitable<void> ReportSubscriptions::mendOnce(SubscriptionPointer subscription,
-                                                    ClientPointer client)
-{
-    subscription->mending.begin(steady_clock::now());
-    const bool isRepair = !subscription->faults.empty();
-    if (subscription->needsMembers) {
-        subscription->needsMembers = false;
-        const mms::Result<acsi::ReportBlock> live =
-            co_await acsi::readReportBlock(client, subscription->block);
-        if (live && isCurrent(subscription)) {
-            subscription->datSet = live->datSet;
-            std::vector<acsi::Reference> members =
-                co_await membersOf(client, subscription->block, live->datSet);
-            subscription->reportedAt.assign(members.size(), subscription->reports);
-            m_stream.setMembers(subscription->reference, std::move(members));
-            m_stream.settle(subscription->reference, live->rptId, live->optFlds, live->confRev);
-            if (subscription->isTrusted) {
-                trust(*subscription, false);
-                trust(*subscription, true);
-            }
-        }
-    }
-    const Mended mended = co_await readMembers(subscription, client);
-    const bool isWell = subscription->mending.ended(mended.isRead, steady_clock::now());
-    if (!isCurrent(subscription) || !subscription->life.isTaking())
-        co_return;
-    if (mended.isRead && isRepair)
-        m_connection.count(&DeviceCounters::dataSetReadings);
-    if (isWell)
-        std::erase_if(subscription->faults,
-                      [](const auto &each) { return !outlastsReading(each.first); });
-    if (!mended.disturbance.isEmpty())
-        subscription->faults[ReportFault::NoValue] = mended.disturbance;
-    tell(*subscription);
-}
-
-asio::awaitable<ReportSubscriptions::Mended>
-ReportSubscriptions::readMembers(SubscriptionPointer subscription, ClientPointer client)
-{
-    Mended mended;
-    const QString block = text(subscription->reference);
-    const ReportStream::Block *const followed = m_stream.find(subscription->reference);
-    const mms::Result<mms::ObjectName> name =
-        acsi::dataSetName(subscription->block.device, subscription->datSet);
-    if (!followed || !name) {
-        mended.isRead = true;
-        co_return mended;
-    }
-    const std::vector<acsi::Reference> members = followed->members;
-    if (members.empty()) {
-        // Only reports say what is in the data set.
-        mended.isRead = true;
-        if (subscription->faults.empty())
-            co_return mended;
-        const auto change = ChangeGate::own(
-            m_connection, intentOf(subscription->block, "GI", "true", ChangeIntent::Kind::Wanted));
-        const auto changing = change->client();
-        Outcome outcome;
-        if (!changing) {
-            outcome = change->refusal();
-        } else {
-            const mms::Result<void> interrogated = co_await acsi::writeReportAttribute(
-                changing, subscription->block, "GI", mms::Data::boolean(true));
-            if (!interrogated)
-                outcome = Outcome::failed(interrogated.error());
-        }
-        change->end(outcome);
-        if (!outcome)
-            mended.disturbance =
-                Texts::tr("The data set of %1 cannot be read: %2").arg(block, outcome.error);
-        co_return mended;
-    }
-    const std::uint64_t asked = subscription->reports;
-    ValuePublishing::Publication publication;
-    publication.cause = PublishCause::Polled;
-    publication.onlyChanges = true;
-    publication.asOf = steady_clock::now();
-    mms::Result<std::vector<mms::AccessResult>> values = co_await client->readList(*name);
-    const bool areAllNamed = std::ranges::all_of(
-        members, [](const acsi::Reference &member) { return !member.node.empty(); });
-    if (!values && areAllNamed && client->isOpen()) {
-        // The device cannot give them together.
-        std::vector<mms::VariableAccess> single;
-        for (const acsi::Reference &member : members)
-            single.push_back(acsi::accessOf(member));
-        values = co_await client->read(std::move(single));
-    }
-    if (!values || values->size() != members.size()) {
-        subscription->needsMembers = values.ok();
-        mended.disturbance = values ? Texts::tr("The data set of %1 has %2 members instead of %3.")
-                                          .arg(block)
-                                          .arg(values->size())
-                                          .arg(members.size())
-                                    : Texts::tr("The data set of %1 cannot be read: %2")
-                                          .arg(block, text(values.error().message));
-        co_return mended;
-    }
-    mended.isRead = true;
-    std::vector<acsi::Reference> inParts;
-    for (std::size_t i = 0; i < values->size(); ++i) {
-        // What a report has brought meanwhile is newer.
-        const bool isNewer =
-            i < subscription->reportedAt.size() && subscription->reportedAt[i] > asked;
-        const mms::AccessResult &value = (*values)[i];
-        if (members[i].node.empty()) {
-            mended.disturbance =
-                Texts::tr("The member %1 of the data set of %2 is no data of the device's model.")
-                    .arg(i + 1)
-                    .arg(block);
-        } else if (!value.ok()) {
-            mended.disturbance =
-                Texts::tr("The data set of %1 has no value for %2: %3.")
-                    .arg(block, text(members[i]),
-                         ConnectionText::withoutPeriod(text(mms::describe(value.error()))));
-        } else if (isDescribedInParts(m_connection.model(), members[i])) {
-            inParts.push_back(members[i]);
-        } else if (!isNewer &&
-                   !m_connection.values().publish(members[i], value.data(), publication)) {
-            mended.disturbance =
-                Texts::tr("A value of %1 in the data set of %2 does not have the form of its type.")
-                    .arg(text(members[i]), block);
-        }
-    }
-    if (!inParts.empty()) {
-        const Outcome outcome =
-            co_await m_connection.values().readAndPublish(std::move(inParts), publication);
-        if (!outcome)
-            mended.disturbance = outcome.error;
-    }
-    co_return mended;
 }

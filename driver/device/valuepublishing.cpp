@@ -102,21 +102,6 @@ bool isQuality(const acsi::Reference &reference, const mms::Data &data)
            data.kind() == mms::Data::Kind::BitString;
 }
 
-/// The quality or time, by @p name, that goes with a leaf: the nearest beside or above it.
-const DataAttribute *companionOf(const PhysicalDevice &device, const QString &leaf,
-                                 const QString &name)
-{
-    QString place = leaf;
-    // Not above the data object: "LD/LN$FC$Object".
-    while (place.count(QLatin1Char('$')) > 2) {
-        place.truncate(place.lastIndexOf(QLatin1Char('$')));
-        const QString companion = place + QLatin1Char('$') + name;
-        if (const DataAttribute *found = device.findTag(companion))
-            return companion == leaf ? nullptr : found;
-    }
-    return nullptr;
-}
-
 } // namespace
 
 ValuePublishing::ValuePublishing(DeviceConnection &connection)
@@ -150,17 +135,28 @@ bool ValuePublishing::publish(const acsi::Reference &reference, const mms::Data 
     OnlineModel *const known = model();
     if (!known)
         return false;
+    std::vector<MMSValue> records;
+    const bool fits = add(records, known->find(reference), data, publication);
+    if (fits && isQuality(reference, data))
+        addQualityOf(records, known->leavesWithQuality(reference), data, publication.cause);
+    send(std::move(records));
+    return fits;
+}
+
+bool ValuePublishing::add(std::vector<MMSValue> &records, const OnlineModel::Found &found,
+                          const mms::Data &data, const Publication &publication)
+{
+    OnlineModel *const known = model();
     ValueCurrency *const account = currency();
     const ValueCurrency::Source source = sourceOf(publication.cause);
     const Time asOf = publication.asOf == Time() ? steady_clock::now() : publication.asOf;
-    std::vector<MMSValue> records;
     const auto visit = [&](const OnlineModel::Leaf &leaf) {
         const bool isNew = !account || account->take(leaf.number, source, asOf);
         if (!leaf.attribute)
             return;
         if (!isNew) {
             if (!publication.onlyChanges && leaf.attribute->value.isValid())
-                records.push_back(knownRecord(*leaf.attribute, publication.cause));
+                records.push_back(knownRecord(known->accompanied(leaf.number), publication.cause));
             return;
         }
         QVariant value = ValueConversion::toVariant(leaf.attribute->basicType, *leaf.data);
@@ -170,7 +166,7 @@ bool ValuePublishing::publish(const acsi::Reference &reference, const mms::Data 
             m_unwritten.count(leaf.number) == 0)
             return;
         leaf.attribute->value = value;
-        MMSValue record;
+        MMSValue &record = records.emplace_back();
         record.value = std::move(value);
         record.reference = leaf.attribute->reference;
         if (quality)
@@ -179,47 +175,34 @@ bool ValuePublishing::publish(const acsi::Reference &reference, const mms::Data 
             record.timeStamp = ValueConversion::timeText(*time);
         record.deviceNo = m_connection.configuration().number;
         record.cause = publication.cause;
-        records.push_back(std::move(record));
     };
-    const bool fits = known->forEachLeaf(reference, data, visit);
-    send(std::move(records));
-    if (fits && isQuality(reference, data))
-        publishQualityOf(reference, data, publication);
-    return fits;
+    // By reference: what it captures need not be put anywhere for each value.
+    return known && known->forEachLeaf(found, data, std::cref(visit), OnlineModel::Names::LeftOut);
 }
 
-MMSValue ValuePublishing::knownRecord(const DataAttribute &attribute, std::uint32_t cause) const
+MMSValue ValuePublishing::knownRecord(const OnlineModel::Accompanied &leaf,
+                                      std::uint32_t cause) const
 {
     MMSValue record;
-    record.value = attribute.value;
-    record.reference = attribute.reference;
+    record.value = leaf.attribute->value;
+    record.reference = leaf.attribute->reference;
     record.deviceNo = m_connection.configuration().number;
     record.cause = cause;
-    const PhysicalDevice &device = model()->device();
-    if (const auto *quality = companionOf(device, attribute.reference, QStringLiteral("q")))
-        record.quality = quality->value.toString().left(qualityLength);
-    if (const auto *time = companionOf(device, attribute.reference, QStringLiteral("t")))
-        record.timeStamp = time->value.toString();
+    if (leaf.quality)
+        record.quality = leaf.quality->value.toString().left(qualityLength);
+    if (leaf.time)
+        record.timeStamp = leaf.time->value.toString();
     return record;
 }
 
-/// A quality that came alone belongs to values that are known already.
-void ValuePublishing::publishQualityOf(const acsi::Reference &quality, const mms::Data &data,
-                                       const Publication &publication)
+void ValuePublishing::addQualityOf(std::vector<MMSValue> &records,
+                                   const std::vector<OnlineModel::Accompanied> &leaves,
+                                   const mms::Data &data, std::uint32_t cause)
 {
-    acsi::Reference parent = quality;
-    parent.path.pop_back();
-    const QString own = text(acsi::toText(quality));
-    std::vector<MMSValue> records;
-    for (const OnlineModel::Leaf &leaf : model()->leavesOf(parent)) {
-        if (!leaf.attribute || !leaf.attribute->value.isValid() || leaf.reference == own)
-            continue;
-        const DataAttribute *companion =
-            companionOf(model()->device(), leaf.reference, QStringLiteral("q"));
-        if (companion && companion->reference == own && model()->setQuality(leaf.number, data))
-            records.push_back(knownRecord(*leaf.attribute, publication.cause));
+    for (const OnlineModel::Accompanied &each : leaves) {
+        if (each.attribute->value.isValid() && model()->setQuality(each.leaf, data))
+            records.push_back(knownRecord(each, cause));
     }
-    send(std::move(records));
 }
 
 void ValuePublishing::publishKnown(const LeafRange &leaves, std::uint32_t cause)
@@ -228,7 +211,7 @@ void ValuePublishing::publishKnown(const LeafRange &leaves, std::uint32_t cause)
     for (std::uint32_t leaf = leaves.first; model() && leaf < leaves.end(); ++leaf) {
         const DataAttribute *attribute = model()->attribute(leaf);
         if (attribute && attribute->value.isValid())
-            records.push_back(knownRecord(*attribute, cause));
+            records.push_back(knownRecord(model()->accompanied(leaf), cause));
     }
     send(std::move(records));
 }

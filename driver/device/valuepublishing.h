@@ -3,6 +3,7 @@
 
 #include "driver/administration/publishcause.h"
 #include "driver/model/leafrange.h"
+#include "driver/model/onlinemodel.h"
 #include "outcome.h"
 
 #include "acsi/reference.h"
@@ -22,7 +23,6 @@
 #include <vector>
 
 class DeviceConnection;
-class OnlineModel;
 class ValueCurrency;
 
 /// The way from what a device answers to published values: taking data apart to the leaves of the
@@ -55,6 +55,14 @@ public:
     /// data does not fit the live type.
     bool publish(const acsi::Reference &reference, const mms::Data &data,
                  const Publication &publication);
+    /// The same for what was looked up before, in records that send() publishes together.
+    bool add(std::vector<MMSValue> &records, const OnlineModel::Found &found, const mms::Data &data,
+             const Publication &publication);
+    /// A quality that came alone belongs to values that are known already.
+    void addQualityOf(std::vector<MMSValue> &records,
+                      const std::vector<OnlineModel::Accompanied> &leaves, const mms::Data &data,
+                      std::uint32_t cause);
+    void send(std::vector<MMSValue> records);
     /// Reads the variables and publishes what came; one sentence names those that failed. What is
     /// refused or too large as a whole is read in parts.
     asio::awaitable<Outcome> readAndPublish(std::vector<acsi::Reference> references,
@@ -74,12 +82,9 @@ public:
 private:
     OnlineModel *model() const;
     ValueCurrency *currency() const;
-    MMSValue knownRecord(const DataAttribute &attribute, std::uint32_t cause) const;
+    MMSValue knownRecord(const OnlineModel::Accompanied &leaf, std::uint32_t cause) const;
     void publishKnown(const LeafRange &leaves, std::uint32_t cause);
-    void publishQualityOf(const acsi::Reference &quality, const mms::Data &data,
-                          const Publication &publication);
     asio::awaitable<void> keepShowing(acsi::Reference reference);
-    void send(std::vector<MMSValue> records);
     asio::awaitable<void> republish();
     /// The references, each as what has to be read to get it; those that the model does not know as
     /// they are.

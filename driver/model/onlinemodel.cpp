@@ -124,6 +124,7 @@ struct OnlineModel::Walk
     const LeafVisitor &visitor;
     QString reference;
     std::uint32_t number = 0; ///< of the next leaf
+    bool isNamed = true;      ///< gives the references of leaves
     bool fits = true;
 
     void visit(const TypeDescription &type, const Data *data, const Data *quality, const Data *time)
@@ -153,8 +154,10 @@ struct OnlineModel::Walk
         }
         const int length = reference.size();
         for (std::size_t i = 0; i < type.components.size(); ++i) {
-            reference += QLatin1Char('$');
-            reference += text(type.components[i].name);
+            if (isNamed) {
+                reference += QLatin1Char('$');
+                reference += text(type.components[i].name);
+            }
             visit(type.components[i].type, data ? &data->children()[i] : nullptr, quality, time);
             reference.truncate(length);
         }
@@ -194,7 +197,8 @@ struct OnlineModel::Walk
         }
         const int length = reference.size();
         for (std::uint32_t i = 0; i < type.elementCount; ++i) {
-            reference += QLatin1Char('(') + QString::number(i) + QLatin1Char(')');
+            if (isNamed)
+                reference += QLatin1Char('(') + QString::number(i) + QLatin1Char(')');
             visit(type.components.front().type, data ? &data->children()[i] : nullptr, quality,
                   time);
             reference.truncate(length);
@@ -414,14 +418,60 @@ ReportControlBlock *OnlineModel::reportControlBlock(const QString &device,
     return nullptr;
 }
 
-bool OnlineModel::forEachLeaf(const acsi::Reference &reference, const mms::Data &data,
-                              const LeafVisitor &visitor) const
+/// The quality or time, by @p name, that goes with a leaf: the nearest beside or above it; null
+/// without, and for itself.
+const DataAttribute *OnlineModel::companionOf(const QString &leaf, const QString &name) const
 {
-    const TypeDescription *described = type(reference);
-    if (!described)
+    QString place = leaf;
+    // Not above the data object: "LD/LN$FC$Object".
+    while (place.count(QLatin1Char('$')) > 2) {
+        place.truncate(place.lastIndexOf(QLatin1Char('$')));
+        const QString companion = place + QLatin1Char('$') + name;
+        if (const DataAttribute *found = m_device->findTag(companion))
+            return companion == leaf ? nullptr : found;
+    }
+    return nullptr;
+}
+
+OnlineModel::Accompanied OnlineModel::accompanied(std::uint32_t leaf) const
+{
+    const DataAttribute *const shown = attribute(leaf);
+    if (!shown)
+        return {leaf};
+    return {leaf, shown, companionOf(shown->reference, QStringLiteral("q")),
+            companionOf(shown->reference, QStringLiteral("t"))};
+}
+
+std::vector<OnlineModel::Accompanied>
+OnlineModel::leavesWithQuality(const acsi::Reference &quality) const
+{
+    std::vector<Accompanied> leaves;
+    acsi::Reference parent = quality;
+    parent.path.pop_back();
+    const QString own = text(acsi::toText(quality));
+    for (const Leaf &leaf : leavesOf(parent)) {
+        if (!leaf.attribute || leaf.reference == own)
+            continue;
+        const Accompanied each = accompanied(leaf.number);
+        if (each.quality && each.quality->reference == own)
+            leaves.push_back(each);
+    }
+    return leaves;
+}
+
+OnlineModel::Found OnlineModel::find(const acsi::Reference &reference) const
+{
+    return {type(reference), leafRange(reference).first, text(acsi::toText(reference))};
+}
+
+bool OnlineModel::forEachLeaf(const Found &found, const mms::Data &data, const LeafVisitor &visitor,
+                              Names names) const
+{
+    if (!found.type)
         return false;
-    Walk walk{m_attributes, visitor, text(acsi::toText(reference)), leafRange(reference).first};
-    walk.visit(*described, &data, nullptr, nullptr);
+    const bool isNamed = names == Names::Given;
+    Walk walk{m_attributes, visitor, isNamed ? found.name : QString(), found.firstLeaf, isNamed};
+    walk.visit(*found.type, &data, nullptr, nullptr);
     return walk.fits;
 }
 

@@ -19,14 +19,15 @@
 #include <vector>
 
 /// What the driver knows of a connected device: what the device told of itself, and the model that
-/// the browser shows, with the last known values. In the strand of the device's connection.
-class OnlineModel
+/// the browser shows, with the last known values. In the strand of the device's connection. Shared
+/// so that who has looked something up in it can see whether it is still there.
+class OnlineModel : public std::enable_shared_from_this<OnlineModel>
 {
 public:
     /// A leaf of structured data.
     struct Leaf
     {
-        QString reference;                          ///< full
+        QString reference;                          ///< full; empty where nobody asked for it
         std::uint32_t number = 0;                   ///< as in leafRange()
         DataAttribute *attribute = nullptr;         ///< null for one that the model does not show
         const mms::TypeDescription *type = nullptr; ///< of the leaf
@@ -54,6 +55,11 @@ public:
     /// What has to be read to get all of the reference: itself, or the largest parts of it of which
     /// the device told the order; nothing for what it did not describe.
     std::vector<acsi::Reference> readableParts(const acsi::Reference &reference) const;
+    /// Whether it has to be read, and understood, in parts.
+    bool isInParts(const acsi::Reference &reference) const
+    {
+        return !isWholeKnown(reference) && !readableParts(reference).empty();
+    }
     /// All leaves, those included that the model does not show.
     std::uint32_t leafCount() const { return static_cast<std::uint32_t>(m_attributes.size()); }
     /// Null for one that the model does not show.
@@ -69,11 +75,38 @@ public:
     LogicalNode *node(const QString &device, const QString &node) const;
     ReportControlBlock *reportControlBlock(const QString &device, const QString &reference) const;
 
+    /// What a reference names, looked up once. Valid as long as the model is.
+    struct Found
+    {
+        const mms::TypeDescription *type = nullptr; ///< as type() gives it
+        std::uint32_t firstLeaf = 0;
+        QString name; ///< the reference as a text
+    };
+    Found find(const acsi::Reference &reference) const;
+    /// A leaf that is shown, with what goes with it.
+    struct Accompanied
+    {
+        std::uint32_t leaf = 0;
+        const DataAttribute *attribute = nullptr;
+        const DataAttribute *quality = nullptr; ///< may be null
+        const DataAttribute *time = nullptr;    ///< may be null
+    };
+    Accompanied accompanied(std::uint32_t leaf) const;
+    /// The leaves that have their quality from the attribute @p quality ("...$q"): those below its
+    /// parent that have none nearer to them.
+    std::vector<Accompanied> leavesWithQuality(const acsi::Reference &quality) const;
+
+    enum class Names { Given, LeftOut };
     /// Takes structured data apart to the leaves of the model, in the order of the type. False when
     /// the value does not have the shape of the live type, and when that is not known as a whole;
     /// leaves before the mistake were visited.
+    bool forEachLeaf(const Found &found, const mms::Data &data, const LeafVisitor &visitor,
+                     Names names = Names::Given) const;
     bool forEachLeaf(const acsi::Reference &reference, const mms::Data &data,
-                     const LeafVisitor &visitor) const;
+                     const LeafVisitor &visitor) const
+    {
+        return forEachLeaf(find(reference), data, visitor);
+    }
     /// The leaves of a data set member or of whatever a reference names, without values.
     std::vector<Leaf> leavesOf(const acsi::Reference &reference) const;
 
@@ -106,6 +139,7 @@ private:
     Place placeOf(const acsi::Reference &reference) const;
     const mms::TypeDescription *describedType(const acsi::Reference &reference) const;
     std::uint32_t firstLeafOf(const mms::TypeDescription *type) const;
+    const DataAttribute *companionOf(const QString &leaf, const QString &name) const;
 
     std::unique_ptr<acsi::ServerDescription> m_description;
     std::unique_ptr<PhysicalDevice> m_device;

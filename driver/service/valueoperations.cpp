@@ -83,8 +83,7 @@ asio::awaitable<Outcome> readDataSet(DevicePointer device, QString ldName, QStri
     for (std::size_t i = 0; i < values->size(); ++i) {
         const mms::AccessResult &value = (*values)[i];
         const mms::Result<acsi::Reference> member = acsi::referenceOf(directory->members[i]);
-        if (member && device->model() && !device->model()->isWholeKnown(*member) &&
-            !device->model()->readableParts(*member).empty()) {
+        if (member && device->model() && device->model()->isInParts(*member)) {
             inParts.push_back(*member);
             continue;
         }

@@ -126,7 +126,7 @@ mms::Association::Handlers Client::handlers()
             association->reject(invokeId, mms::rejectcodes::requestUnrecognizedService);
         }
     };
-    result.report = [weak](const mms::InformationReport &report) {
+    result.report = [weak](mms::InformationReport report) {
         const auto self = weak.lock();
         if (self && !offer(self->m_informationHandlers, report))
             ++self->m_unclaimed;
@@ -380,7 +380,7 @@ void Client::removeFrom(std::shared_ptr<const Entries<Function>> &entries, Regis
 }
 
 template <typename Function, typename... Arguments>
-bool Client::offer(std::shared_ptr<const Entries<Function>> entries, const Arguments &...arguments)
+bool Client::offer(std::shared_ptr<const Entries<Function>> entries, Arguments &...arguments)
 {
     return std::ranges::any_of(*entries, [&](const auto &entry) {
         return !entry->removed && entry->handler(arguments...);

@@ -46,7 +46,8 @@ class Client : public std::enable_shared_from_this<Client>
     };
 
 public:
-    using InformationHandler = std::function<bool(const mms::InformationReport &report)>;
+    /// One that takes the report may move the values out of it.
+    using InformationHandler = std::function<bool(mms::InformationReport &report)>;
     using RequestHandler =
         std::function<bool(std::uint32_t invokeId, const mms::RequestService &request)>;
     using EndHandler = std::function<void(const mms::Text &reason)>;
@@ -160,8 +161,7 @@ private:
     template <typename Function>
     static void removeFrom(std::shared_ptr<const Entries<Function>> &entries, Registration id);
     template <typename Function, typename... Arguments>
-    static bool offer(std::shared_ptr<const Entries<Function>> entries,
-                      const Arguments &...arguments);
+    static bool offer(std::shared_ptr<const Entries<Function>> entries, Arguments &...arguments);
 
     static asio::awaitable<mms::Result<void>> open(std::shared_ptr<Client> client, std::string host,
                                                    std::uint16_t port);

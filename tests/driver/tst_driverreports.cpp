@@ -126,6 +126,7 @@ private slots:
     void blocksAreReleasedOnLeaving();
     void aBufferedBlockResumesBehindItsLastEntry();
     void anUnbufferedBlockIsEnabledAgainAfterALoss();
+    void aSubscriptionGoesOnWhenTheDeviceComesBackWithAnotherModel();
     void aBlockThatTheDeviceDisablesIsNoticed();
     void aReadOnlyDriverEnablesNothing();
     void segmentedReportsAreJoined();
@@ -542,6 +543,56 @@ void tst_DriverReports::anUnbufferedBlockIsEnabledAgainAfterALoss()
         ied.set("BAY1E1CTRL", "SIMG1$ST$InsAlm$stVal", mms::Data::boolean(true));
         QVERIFY(station.listener().waitForValue("BAY1E1CTRL/SIMG1$ST$InsAlm$stVal", isReported));
     }
+}
+
+void tst_DriverReports::aSubscriptionGoesOnWhenTheDeviceComesBackWithAnotherModel()
+{
+    const QTemporaryDir folder;
+    const IndicatorFile file("OTHER", 1, 3);
+    const QString block = QStringLiteral("LLN0$RP$urcb1");
+    QVERIFY(file.write(folder.filePath("before.icd")));
+    // The same data set, before whose data others have come, and a status of another type.
+    QByteArray text = file.text();
+    const QByteArray node = "<LNodeType id=\"GGIO_1\" lnClass=\"GGIO\">";
+    QVERIFY(text.contains(node));
+    text.replace(node,
+                 node + "<DO name=\"Alm\" type=\"SPS_1\"/><DO name=\"IntIn1\" type=\"INS_1\"/>");
+    text.replace("<DOType id=\"SPS_1\" cdc=\"SPS\">",
+                 "<DOType id=\"INS_1\" cdc=\"INS\"><DA name=\"stVal\" bType=\"INT32\" fc=\"ST\" "
+                 "dchg=\"true\"/></DOType><DOType id=\"SPS_1\" cdc=\"SPS\">"
+                 "<DA name=\"subEna\" bType=\"BOOLEAN\" fc=\"ST\"/>");
+    QFile other(folder.filePath("after.icd"));
+    QVERIFY(other.open(QIODevice::WriteOnly) && other.write(text) == text.size());
+    other.close();
+
+    SimulatedIed before(folder.filePath("before.icd"));
+    Station station(before);
+    QVERIFY(station.isOnline());
+    QVERIFY2(station.enable(block, dialogBlock(false), file.domain()), qPrintable(station.error()));
+    const std::string domain = file.domain().toStdString();
+    const std::string item = file.item(1).toStdString() + "$stVal";
+    const QString reference = file.reference(1) + "$stVal";
+    const auto isReportedAsTrue = [](const MMSValue &value) {
+        return isReported(value) && value.value == true;
+    };
+    before.set(domain, item, mms::Data::boolean(true));
+    QVERIFY(station.listener().waitForValue(reference, isReportedAsTrue));
+
+    before.stop();
+    QVERIFY(station.listener().waitForState(1, DeviceState::Waiting));
+    station.listener().clear();
+    sim::DeviceOptions options;
+    options.server.port = before.port();
+    SimulatedIed after(other.fileName(), {}, {}, options);
+    QVERIFY(station.listener().waitForChanges(1));
+    QVERIFY(station.block(block, file.domain()).rptEna);
+    after.set(domain, item, mms::Data::boolean(true));
+    QVERIFY(station.listener().waitForValue(reference, isReportedAsTrue));
+    const QHash<QString, MMSValue> values = station.listener().values();
+    QVERIFY(std::none_of(values.begin(), values.end(), [&](const MMSValue &value) {
+        return isReported(value) && !value.reference.startsWith(file.reference(1));
+    }));
+    QCOMPARE(station.driver().status(1).reason, QString());
 }
 
 void tst_DriverReports::aBlockThatTheDeviceDisablesIsNoticed()

@@ -44,6 +44,14 @@ acsi::Report report(const std::string &rptId, std::optional<std::uint32_t> sqNum
     return result;
 }
 
+/// What the first member of the report is.
+std::string firstOf(const ReportStream &stream, const ReportStream::Taken &taken)
+{
+    const std::size_t index = taken.report->members.front().index;
+    return acsi::toText(taken.areInPlace ? stream.find(taken.block)->members[index]
+                                         : taken.references.front());
+}
+
 acsi::Report part(std::uint32_t sqNum, std::uint32_t subSqNum, bool moreFollow)
 {
     acsi::Report result = report("id", sqNum);
@@ -63,6 +71,7 @@ class tst_ReportStream : public QObject
 private slots:
     void aReportIsThatOfTheBlockWithItsName();
     void aReportOfNobodyIsNobodys();
+    void theValuesOfAReportAreMovedNotCopied();
     void consecutiveNumbersAreWell_data();
     void consecutiveNumbersAreWell();
     void missingNumbersAreAGap_data();
@@ -97,7 +106,8 @@ void tst_ReportStream::aReportIsThatOfTheBlockWithItsName()
     QCOMPARE(taken.block, second);
     QVERIFY(taken.report);
     QVERIFY(taken.faults.empty());
-    QCOMPARE(acsi::toText(taken.references.front()), std::string("LD/B$ST$Ind2"));
+    QVERIFY(taken.areInPlace);
+    QCOMPARE(firstOf(stream, taken), std::string("LD/B$ST$Ind2"));
     // Blocks without an identifier of their own report under their reference.
     QCOMPARE(stream.take(report(first, 0), {}).block, first);
     QCOMPARE(stream.take(report("LD/LLN0.first", 1), {}).block, first);
@@ -110,6 +120,31 @@ void tst_ReportStream::aReportOfNobodyIsNobodys()
     QVERIFY(taken.block.empty());
     QVERIFY(taken.ambiguous.empty());
     QVERIFY(taken.faults.empty());
+}
+
+void tst_ReportStream::theValuesOfAReportAreMovedNotCopied()
+{
+    // A value that is not inside its Data stays where the decoder has put it.
+    ReportStream stream;
+    stream.start(block(first, "id", "A"));
+    const std::string longText(100, 'x');
+    std::vector<const char *> decoded;
+    std::optional<acsi::Report> whole;
+    for (std::uint32_t i = 0; i < 3; ++i) {
+        acsi::Report segment = part(0, i, i < 2);
+        segment.members.front().value = mms::Data::visibleString(longText);
+        mms::InformationReport information = acsi::encodeReport(segment);
+        decoded.push_back(information.results.back().data().text().data());
+        auto read = acsi::decodeReport(std::move(information));
+        QVERIFY(read);
+        whole = stream.take(*std::move(read), {}).report;
+    }
+    QVERIFY(whole);
+    QCOMPARE(whole->members.size(), decoded.size());
+    for (std::size_t i = 0; i < decoded.size(); ++i) {
+        QVERIFY(whole->members[i].value.data().text() == longText);
+        QVERIFY(whole->members[i].value.data().text().data() == decoded[i]);
+    }
 }
 
 void tst_ReportStream::consecutiveNumbersAreWell_data()
@@ -177,7 +212,8 @@ void tst_ReportStream::partsBecomeOneReport()
     const ReportStream::Taken taken = stream.take(part(4, 1, false), {});
     QVERIFY(taken.faults.empty());
     QVERIFY(taken.report);
-    QCOMPARE(taken.references.size(), std::size_t(2));
+    QCOMPARE(taken.report->members.size(), std::size_t(2));
+    QVERIFY(taken.areInPlace);
     QVERIFY(stream.take(report("id", 5), {}).faults.empty());
 }
 
@@ -249,7 +285,8 @@ void tst_ReportStream::blocksOfOneNameAreToldApartByTheirDataSet()
     named.datSet = "LD/LLN0$B";
     const ReportStream::Taken taken = stream.take(named, {});
     QCOMPARE(taken.block, second);
-    QCOMPARE(acsi::toText(taken.references.front()), std::string("LD/B$ST$Ind2"));
+    QVERIFY(taken.areInPlace);
+    QCOMPARE(firstOf(stream, taken), std::string("LD/B$ST$Ind2"));
     // The block that was enabled first does not name its data set: what has no name is its report.
     QCOMPARE(stream.take(report("id", 0), {}).block, first);
 }
@@ -315,11 +352,13 @@ void tst_ReportStream::aReportOfAnotherDataSetIsTold()
     QCOMPARE(taken.block, first);
     QVERIFY(taken.faults == Faults{ReportFault::OtherDataSet});
     // Nothing of it goes by the members of the known data set.
+    QVERIFY(!taken.areInPlace);
     QVERIFY(taken.references.front().node.empty());
     acsi::Report longer = report("id", 1);
     longer.dataSetSize = 4;
     taken = stream.take(longer, {});
     QVERIFY(taken.faults == Faults{ReportFault::OtherDataSet});
+    QVERIFY(!taken.areInPlace);
     QVERIFY(taken.references.front().node.empty());
 }
 
@@ -334,6 +373,7 @@ void tst_ReportStream::anotherRevisionOfTheDataSetIsTold()
     revised.confRev = 6;
     const ReportStream::Taken taken = stream.take(revised, {});
     QVERIFY(taken.faults == Faults{ReportFault::OtherDataSet});
+    QVERIFY(!taken.areInPlace);
     QVERIFY(taken.references.front().node.empty());
 }
 
@@ -347,7 +387,7 @@ void tst_ReportStream::dataReferencesAreBelieved()
     const ReportStream::Taken taken = stream.take(named, {});
     QCOMPARE(taken.block, first);
     QVERIFY(taken.faults == Faults{ReportFault::OtherDataSet});
-    QCOMPARE(acsi::toText(taken.references.front()), std::string("LD/C$ST$Ind9"));
+    QCOMPARE(firstOf(stream, taken), std::string("LD/C$ST$Ind9"));
     // Of a data set that the device did not tell, they are all that is known.
     ReportStream::Block untold = block(second, "untold", "B");
     untold.members.clear();
@@ -355,7 +395,7 @@ void tst_ReportStream::dataReferencesAreBelieved()
     named.rptId = "untold";
     const ReportStream::Taken known = stream.take(named, {});
     QVERIFY(known.faults.empty());
-    QCOMPARE(acsi::toText(known.references.front()), std::string("LD/C$ST$Ind9"));
+    QCOMPARE(firstOf(stream, known), std::string("LD/C$ST$Ind9"));
 }
 
 void tst_ReportStream::aMemberThatIsNoDataIsTold()
