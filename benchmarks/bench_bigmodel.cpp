@@ -8,9 +8,10 @@
 // over our own client doing what the foreign one does. Medians of rounds in turn; "quickest" is the
 // first of the quickest rounds, for a machine that is busy otherwise.
 //
-// "bytes_per_attribute": heap that the driver keeps once the device is online, values of its
-// configuration and the capture of the last PDUs included (limit 800). "resident_per_attribute" is
-// the same as the system sees it, and "with_values" the heap after the first round of polling.
+// "heap_per_attribute": heap that the driver keeps once the device is online, values of its
+// configuration and the capture of the last PDUs included (limit 800); "heap_with_values" after the
+// first round of polling. "resident_per_attribute" and "with_values" are the same as the system
+// sees it.
 #include "clientloop.h"
 
 #include "driver/service/ieddriver.h"
