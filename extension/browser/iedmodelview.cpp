@@ -137,7 +137,11 @@ bool IEDModelView::init()
 
     m_model->setDevice(&m_device);
     m_attributeIndex = m_model->attributeIndex();
-    m_form->modelView->expandToDepth(1);
+    {
+        // One resize at the end instead of one for each node that is expanded.
+        const QSignalBlocker quiet(m_form->modelView);
+        m_form->modelView->expandToDepth(1);
+    }
     m_form->modelView->resizeColumnToContents(0);
 
     m_listener = new MMSListener(this);
