@@ -92,12 +92,6 @@ void LiveValues::flush()
     asio::post(m_strand, [self = shared_from_this()] { self->m_timer.cancel(); });
 }
 
-std::uint64_t LiveValues::posted() const
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_posted;
-}
-
 void LiveValues::post()
 {
     std::vector<MMSValue> values;
@@ -106,7 +100,6 @@ void LiveValues::post()
         values.swap(m_gathered);
         m_position.clear();
         m_timerRuns = false;
-        m_posted += values.size();
     }
     RecordWriter writer;
     QList<QByteArray> records;

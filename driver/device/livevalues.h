@@ -12,7 +12,6 @@
 #include <QtCore/QList>
 
 #include <chrono>
-#include <cstdint>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -40,8 +39,6 @@ public:
     void publish(std::vector<MMSValue> values);
     /// Post what is gathered now.
     void flush();
-    /// Values handed to the poster so far.
-    std::uint64_t posted() const;
 
 private:
     void post();
@@ -49,9 +46,8 @@ private:
     asio::strand<asio::any_io_executor> m_strand;
     asio::steady_timer m_timer; ///< in the strand
     Poster m_poster;
-    mutable std::mutex m_mutex;
+    std::mutex m_mutex;
     std::vector<MMSValue> m_gathered;       ///< in the order of first appearance
     QHash<QString, std::size_t> m_position; ///< by reference
     bool m_timerRuns = false;
-    std::uint64_t m_posted = 0;
 };
