@@ -6,6 +6,7 @@
 #include <QtCore/QVarLengthArray>
 
 #include <cstddef>
+#include <initializer_list>
 #include <type_traits>
 #include <utility>
 #include <variant>
@@ -52,8 +53,9 @@ enum class DriverOperation {
 #undef DRIVER_OPERATION
 };
 
-#define DRIVER_OPERATION(name, effect) +1
-constexpr int driverOperationCount = 0 DRIVER_OPERATIONS(DRIVER_OPERATION);
+#define DRIVER_OPERATION(name, effect) DriverOperation::name,
+constexpr int driverOperationCount = static_cast<int>(
+    std::initializer_list<DriverOperation>{DRIVER_OPERATIONS(DRIVER_OPERATION)}.size());
 #undef DRIVER_OPERATION
 
 /// What an operation does to a device.
