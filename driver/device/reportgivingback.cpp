@@ -118,13 +118,13 @@ ReportSubscriptions::undone([[maybe_unused]] std::shared_ptr<DeviceConnection> c
                                                   steady_clock::now() + undoPatience);
     if (!isUndone) {
         QStringList left;
-        for (const acsi::ReportBlockTrace::Change &change : trace->changes) {
+        for (const acsi::ReportBlockTrace::Change &each : trace->changes) {
             // Ends with the association.
-            const bool endsByItself = change.attribute == "RptEna" || change.attribute == "Resv";
+            const bool endsByItself = each.attribute == "RptEna" || each.attribute == "Resv";
             if (!client->isOpen() && endsByItself)
                 continue;
-            left.append(text(change.attribute));
-            if (change.attribute == "RptEna")
+            left.append(text(each.attribute));
+            if (each.attribute == "RptEna")
                 m_leftEnabled.insert(subscription->reference);
         }
         if (!left.isEmpty()) {
