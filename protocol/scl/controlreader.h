@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "pathpart.h"
-#include "typeresolver.h"
+#include "fcdaresolver.h"
 
 #include <unordered_map>
 
@@ -12,36 +11,19 @@ namespace scl {
 class ControlReader : private ResolverPart
 {
 public:
-    ControlReader(ResolverState &state, const TypeResolver &types)
+    /// @param fcdas is given the members of data sets, and outlives the reader
+    ControlReader(ResolverState &state, FcdaResolver &fcdas)
         : ResolverPart(state)
-        , m_types(types)
+        , m_fcdas(fcdas)
     {
     }
 
-    /// Fills the data sets and control blocks of @p node. Members stay unresolved, since they can
-    /// name nodes that come later in the file.
-    /// @param deviceInst logical device of the node, for members that name none
+    /// Fills the data sets and control blocks of @p node. Members stay unresolved.
+    /// @param deviceInst logical device of the node
     void readControls(std::uint32_t element, std::string_view deviceInst, LogicalNode &node);
-
-    /// Resolves the FCDAs of all data sets read since the last call, when the IED is complete.
-    void resolveFcdas(const Ied &ied);
 
 private:
     static constexpr std::uint32_t maxReportInstances = 99;
-
-    struct PendingSet
-    {
-        std::uint32_t element;
-        Fcda *members;
-        std::string_view deviceInst;
-    };
-
-    struct KnownDevice
-    {
-        const LogicalDevice *device = nullptr;
-        std::unordered_map<std::string_view, const LogicalNode *> nodes;
-    };
-    using KnownDevices = std::unordered_map<std::string_view, KnownDevice>;
 
     const DataSet *dataSetOf(std::uint32_t element, const LogicalNode &node, std::string_view name);
     ConfiguredTriggers readTriggers(std::uint32_t element);
@@ -51,14 +33,8 @@ private:
     SampledValueControlBlock readSampledValueControl(std::uint32_t element,
                                                      const LogicalNode &node);
     void readSettingControl(std::uint32_t element, LogicalNode &node);
-    void resolveFcda(std::uint32_t element, const Ied &ied, const KnownDevices &devices,
-                     std::string_view homeDevice, Fcda &member);
-    /// Empty when the member exists, else what is wrong, as the begin of a sentence.
-    wording::Text walkFcda(const LogicalNode &node, std::size_t objectParts,
-                           std::vector<PathPart> &parts, std::int32_t arrayIndex, Fcda &member);
 
-    const TypeResolver &m_types;
-    std::vector<PendingSet> m_pendingSets;
+    FcdaResolver &m_fcdas;
     std::unordered_map<std::string_view, std::size_t> m_dataSets; // of the node being read
 };
 

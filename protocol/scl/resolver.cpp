@@ -23,7 +23,8 @@ public:
         , m_progress(progress)
         , m_types(state)
         , m_instances(state)
-        , m_controls(state, m_types)
+        , m_fcdas(state, m_types)
+        , m_controls(state, m_fcdas)
         , m_communication(state)
     {
     }
@@ -102,7 +103,7 @@ private:
         }
         const std::span<const AccessPoint> kept = keep(points);
         ied.accessPoints = kept;
-        m_controls.resolveFcdas(ied);
+        m_fcdas.resolve(ied);
         return ied;
     }
 
@@ -303,6 +304,7 @@ private:
     const std::function<void(double)> &m_progress;
     TypeResolver m_types;
     InstanceReader m_instances;
+    FcdaResolver m_fcdas;
     ControlReader m_controls;
     CommunicationReader m_communication;
     std::string_view m_currentDevice;
