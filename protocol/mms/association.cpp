@@ -23,7 +23,7 @@ constexpr std::int32_t unconfirmedInvalidArgument = 2;
 std::shared_ptr<Association> Association::create(asio::any_io_executor executor,
                                                  AssociationOptions options, Handlers handlers)
 {
-    auto strand = asio::make_strand(std::move(executor));
+    auto strand = osi::Link::strandOn(executor);
     const auto association =
         std::make_shared<Association>(Private(), strand, std::move(options), std::move(handlers));
     association->m_link = std::make_shared<osi::Link>(strand, association->m_options.link);
@@ -88,7 +88,7 @@ asio::awaitable<Result<InitiateParameters>> Association::connect(std::string hos
         [&](auto handler) {
             auto shared = std::make_shared<decltype(handler)>(std::move(handler));
             self->connect(std::move(host), port,
-                          completing<Result<InitiateParameters>>(std::move(shared)));
+                          completing<Result<InitiateParameters>>(self->m_link, std::move(shared)));
         },
         asio::use_awaitable);
 }
@@ -228,7 +228,7 @@ asio::awaitable<Result<void>> Association::conclude()
     co_return co_await asio::async_initiate<const asio::use_awaitable_t<>, void(Result<void>)>(
         [&](auto handler) {
             auto shared = std::make_shared<decltype(handler)>(std::move(handler));
-            self->conclude(completing<Result<void>>(std::move(shared)));
+            self->conclude(completing<Result<void>>(self->m_link, std::move(shared)));
         },
         asio::use_awaitable);
 }

@@ -68,7 +68,7 @@ Association::call(RequestService request, std::chrono::milliseconds timeout, Giv
                 });
             }
             *target = self->call(std::move(request), timeout,
-                                 completing<CallOutcome>(std::move(shared)), givenUp);
+                                 completing<CallOutcome>(self->m_link, std::move(shared)), givenUp);
         },
         asio::use_awaitable);
 }

@@ -2,10 +2,12 @@
 // Shared by the sources of associations; not for the folder's users.
 #pragma once
 
+#include "osi/link.h"
+
 #include <asio/associated_cancellation_slot.hpp>
 #include <asio/associated_executor.hpp>
 #include <asio/async_result.hpp>
-#include <asio/post.hpp>
+#include <asio/dispatch.hpp>
 #include <asio/use_awaitable.hpp>
 
 #include <functional>
@@ -14,17 +16,21 @@
 
 namespace mms {
 
-/// A completion token's handler as a copyable function that completes in the handler's executor.
+/// A completion token's handler as a copyable function that completes in the handler's executor:
+/// never within the function itself, but before @p link looks at the network again.
 template <typename Value, typename Handler>
-std::function<void(Value)> completing(std::shared_ptr<Handler> handler)
+std::function<void(Value)> completing(std::shared_ptr<osi::Link> link,
+                                      std::shared_ptr<Handler> handler)
 {
-    return [handler = std::move(handler)](Value value) {
-        const auto executor = asio::get_associated_executor(*handler);
-        asio::post(executor, [handler, value = std::move(value)]() mutable {
-            auto slot = asio::get_associated_cancellation_slot(*handler);
-            if (slot.is_connected())
-                slot.clear();
-            (*handler)(std::move(value));
+    return [link = std::move(link), handler = std::move(handler)](Value value) {
+        link->whenTold([handler, value = std::move(value)]() mutable {
+            const auto executor = asio::get_associated_executor(*handler);
+            asio::dispatch(executor, [handler, value = std::move(value)]() mutable {
+                auto slot = asio::get_associated_cancellation_slot(*handler);
+                if (slot.is_connected())
+                    slot.clear();
+                (*handler)(std::move(value));
+            });
         });
     };
 }

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <exception>
+#include <typeinfo>
 #include <utility>
 
 namespace osi {
@@ -53,6 +54,48 @@ void prepare(asio::ip::tcp::socket &socket)
 }
 
 } // namespace
+
+/// While it lives, handlers wait until everything has been told.
+class Link::Telling
+{
+public:
+    explicit Telling(Link &link)
+        : m_link(link)
+    {
+        m_link.m_isTelling = true;
+    }
+    Telling(const Telling &) = delete;
+    Telling &operator=(const Telling &) = delete;
+
+    /// A handler that throws leaves the others to the execution context.
+    ~Telling()
+    {
+        m_link.m_isTelling = false;
+        for (std::function<void()> &handler : std::exchange(m_link.m_whenTold, {}))
+            asio::post(m_link.m_strand, std::move(handler));
+    }
+
+    void end()
+    {
+        m_link.m_isTelling = false;
+        while (!m_link.m_whenTold.empty()) {
+            const std::function<void()> handler = std::move(m_link.m_whenTold.front());
+            m_link.m_whenTold.pop_front();
+            handler();
+        }
+    }
+
+private:
+    Link &m_link;
+};
+
+Link::Strand Link::strandOn(const asio::any_io_executor &executor)
+{
+    // target() believes what it is asked for.
+    if (executor.target_type() == typeid(Strand))
+        return *executor.target<Strand>();
+    return asio::make_strand(executor);
+}
 
 Link::Link(Strand strand, LinkOptions options)
     : m_strand(std::move(strand))
@@ -110,6 +153,14 @@ void Link::tellQueued()
     }
     for (const QueueWatch &watch : due)
         watch.handler();
+}
+
+void Link::whenTold(std::function<void()> handler)
+{
+    if (m_isTelling)
+        m_whenTold.push_back(std::move(handler));
+    else
+        asio::post(m_strand, std::move(handler));
 }
 
 void Link::connect(std::string host, std::uint16_t port, Octets pdu, Handler handler)
@@ -365,7 +416,9 @@ asio::awaitable<void> Link::readLoop()
             lose(say("The peer speaks TLS, which is not configured here."));
             co_return;
         }
+        Telling telling(*this);
         apply(m_stack.receive(Bytes(buffer).first(count)));
+        telling.end();
         if (m_stack.isClosed())
             co_return;
     }

@@ -14,6 +14,7 @@
 #include <asio/strand.hpp>
 
 #include <chrono>
+#include <deque>
 #include <exception>
 #include <functional>
 #include <list>
@@ -57,6 +58,9 @@ public:
     using Strand = asio::strand<asio::any_io_executor>;
     using Handler = std::function<void(StackEvent event)>;
 
+    /// The executor itself where it is a strand already: one in another costs two turns for each.
+    static Strand strandOn(const asio::any_io_executor &executor);
+
     /// The end that connects.
     Link(Strand strand, LinkOptions options);
     /// The end that was connected to. @p tls is what LinkOptions::tls describes, where it is loaded
@@ -81,6 +85,10 @@ public:
     /// Calls @p handler once at most @p octets wait, at once when they do already; never after the
     /// end.
     void whenQueued(std::size_t octets, std::function<void()> handler);
+    /// Calls @p handler when the handler has been told all that came from the network in one piece,
+    /// before the network is looked at again; apart, later in the strand, when nothing is being
+    /// told now. What waits for an answer goes on so without a turn of the execution context.
+    void whenTold(std::function<void()> handler);
 
     /// Initiator: connect to @p host (a name or an address) and ask for an association. Addresses
     /// are taken as they are; names are looked up apart (HostLookup).
@@ -101,6 +109,8 @@ public:
 
 private:
     enum class Watch : std::uint8_t { Establish, Send, Release };
+
+    class Telling;
 
     struct QueueWatch
     {
@@ -146,6 +156,8 @@ private:
     Octets m_queue;
     Octets m_writing;
     std::vector<QueueWatch> m_queueWatches;
+    bool m_isTelling = false;
+    std::deque<std::function<void()>> m_whenTold;
     std::chrono::steady_clock::time_point m_lastSent;
     bool m_isWriting = false;
     bool m_closeWhenSent = false;
