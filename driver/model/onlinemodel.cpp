@@ -5,9 +5,6 @@
 
 #include "acsi/typedvalue.h"
 
-#include <QtCore/QDataStream>
-#include <QtCore/QIODevice>
-
 #include <algorithm>
 #include <limits>
 #include <map>
@@ -505,8 +502,5 @@ void OnlineModel::setDataSets(const acsi::ServerDescription &read, const Physica
 
 QByteArray OnlineModel::toBytes() const
 {
-    QByteArray bytes;
-    QDataStream stream(&bytes, QIODevice::WriteOnly);
-    m_device->toStream(stream);
-    return bytes;
+    return m_device->toBytes();
 }

@@ -64,10 +64,7 @@ QByteArray OfflineDriverService::offlineModel(PhysicalDevice &device)
                 markAsOffline(object->attributes);
         }
     }
-    QByteArray bytes;
-    QDataStream stream(&bytes, QIODevice::WriteOnly);
-    device.toStream(stream);
-    return bytes;
+    return device.toBytes();
 }
 
 OperationResult OfflineDriverService::getIEDModel(long deviceNo, QByteArray &model, QString &error)

@@ -13,6 +13,7 @@
 #include <cstddef>
 #include <cstring>
 #include <type_traits>
+#include <utility>
 
 /// Writes to memory what QDataStream would write (version Qt_5_12, big endian, double precision).
 /// QDataStream hands each number to its device on its own, which takes most of the time that a
@@ -28,6 +29,13 @@ public:
 
     const char *data() const { return m_bytes.constData(); }
     int size() const { return m_size; }
+
+    /// What was written; nothing is left.
+    QByteArray takeBytes()
+    {
+        m_bytes.truncate(std::exchange(m_size, 0));
+        return std::move(m_bytes);
+    }
 
     template <typename Number, typename = std::enable_if_t<std::is_arithmetic<Number>::value>>
     ByteWriter &operator<<(Number number)

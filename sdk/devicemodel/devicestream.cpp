@@ -277,6 +277,7 @@ class DeviceWriter
 {
 public:
     const ByteWriter &out() const { return m_out; }
+    QByteArray takeBytes() { return m_out.takeBytes(); }
     /// Whether something is nested too deeply to be written.
     bool hasLeftOut() const { return m_leftOut; }
 
@@ -420,4 +421,11 @@ void DeviceStream::write(QDataStream &stream, const PhysicalDevice &device)
     // Not before the end: a stream takes no more bytes once its status is bad.
     if (writer.hasLeftOut())
         stream.setStatus(QDataStream::WriteFailed);
+}
+
+QByteArray DeviceStream::bytes(const PhysicalDevice &device)
+{
+    DeviceWriter writer;
+    writer.write(device);
+    return writer.takeBytes();
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <QtCore/QByteArray>
+
 class AttributeIndex;
 class PhysicalDevice;
 class QDataStream;
@@ -15,5 +17,8 @@ void read(QDataStream &stream, PhysicalDevice &device, AttributeIndex &index);
 /// Write the device. Data nested deeper than read() accepts is left out, and the stream's status
 /// says so.
 void write(QDataStream &stream, const PhysicalDevice &device);
+
+/// What write() writes.
+QByteArray bytes(const PhysicalDevice &device);
 
 } // namespace DeviceStream

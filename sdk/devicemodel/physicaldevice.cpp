@@ -31,6 +31,11 @@ void PhysicalDevice::toStream(QDataStream &stream) const
     DeviceStream::write(stream, *this);
 }
 
+QByteArray PhysicalDevice::toBytes() const
+{
+    return DeviceStream::bytes(*this);
+}
+
 void PhysicalDevice::clear()
 {
     m_index->clear();

@@ -5,6 +5,7 @@
 #include "enumtype.h"
 #include "logicalnode.h"
 
+#include <QtCore/QByteArray>
 #include <QtCore/QList>
 #include <QtCore/QMap>
 #include <QtCore/QString>
@@ -50,6 +51,10 @@ public:
     /// left out, and the stream's status becomes WriteFailed. A value of a type by which no
     /// attribute is represented is written as its text.
     void toStream(QDataStream &stream) const;
+
+    /// What toStream() writes, for whom needs only the bytes: a large device is not copied once
+    /// more. Data nested too deeply is left out.
+    QByteArray toBytes() const;
 
     /// Delete the whole content.
     void clear();

@@ -93,6 +93,7 @@ private slots:
     void valuesAreWrittenAsQDataStreamWritesThem_data();
     void valuesAreWrittenAsQDataStreamWritesThem();
     void everyFieldComesBack();
+    void bytesAloneAreThoseOfAStream();
     void aWholeDeviceComesBackIdentical();
     void anEmptyDeviceComesBack();
     void readingTwiceReplacesTheContent();
@@ -326,6 +327,13 @@ void tst_DeviceStream::readingFromTheMiddleOfAStreamEndsBehindTheDevice()
     QVERIFY(stream.atEnd());
 }
 
+void tst_DeviceStream::bytesAloneAreThoseOfAStream()
+{
+    const auto device = exampleDevice().make();
+    QVERIFY(device->toBytes() == deviceBytes(*device));
+    QVERIFY(PhysicalDevice().toBytes() == deviceBytes(PhysicalDevice()));
+}
+
 void tst_DeviceStream::theStreamsOwnSettingsNeitherMatterNorChange()
 {
     const auto device = exampleDevice().make();
@@ -472,6 +480,7 @@ void tst_DeviceStream::dataNestedTooDeepIsLeftOutAndReported()
     QDataStream out(&bytes, QIODevice::WriteOnly);
     deviceOfDepth(10000)->toStream(out);
     QCOMPARE(out.status(), QDataStream::WriteFailed);
+    QVERIFY(deviceOfDepth(10000)->toBytes() == bytes);
     PhysicalDevice device;
     QCOMPARE(read(device, bytes), QDataStream::Ok);
     QCOMPARE(deepestName(device), QStringLiteral("level 32"));
