@@ -12,7 +12,7 @@ namespace {
 class AsioTimer : public Timer
 {
 public:
-    explicit AsioTimer(const asio::strand<asio::any_io_executor> &strand)
+    explicit AsioTimer(const osi::Strand &strand)
         : m_timer(strand)
     {
     }
@@ -50,7 +50,7 @@ private:
 
 } // namespace
 
-AsioClock::AsioClock(asio::strand<asio::any_io_executor> strand)
+AsioClock::AsioClock(osi::Strand strand)
     : m_strand(std::move(strand))
 {
 }

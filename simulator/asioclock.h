@@ -3,8 +3,7 @@
 
 #include "simulator/clock.h"
 
-#include <asio/any_io_executor.hpp>
-#include <asio/strand.hpp>
+#include "osi/strand.h"
 
 namespace sim {
 
@@ -12,7 +11,7 @@ namespace sim {
 class AsioClock : public Clock
 {
 public:
-    explicit AsioClock(asio::strand<asio::any_io_executor> strand);
+    explicit AsioClock(osi::Strand strand);
 
     WallTime now() const override;
     SteadyTime steadyNow() const override;
@@ -22,7 +21,7 @@ public:
     void jump(std::chrono::nanoseconds step) { m_offset += step; }
 
 private:
-    asio::strand<asio::any_io_executor> m_strand;
+    osi::Strand m_strand;
     std::chrono::nanoseconds m_offset{0};
 };
 

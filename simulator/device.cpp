@@ -129,18 +129,19 @@ private:
     std::vector<std::uint8_t> m_address; ///< also once the connection is closed
 };
 
-std::shared_ptr<Device> Device::create(asio::any_io_executor executor, const scl::Ied &ied,
+std::shared_ptr<Device> Device::create(const asio::any_io_executor &executor, const scl::Ied &ied,
                                        DeviceOptions options)
 {
-    auto device = std::make_unique<Device>(Private(), std::move(executor), ied, std::move(options));
+    auto device = std::make_unique<Device>(Private(), executor, ied, std::move(options));
     Strand strand = device->m_strand;
     return std::shared_ptr<Device>(device.release(), [strand](Device *last) {
         asio::post(strand, [owned = std::unique_ptr<Device>(last)] {});
     });
 }
 
-Device::Device(Private, asio::any_io_executor executor, const scl::Ied &ied, DeviceOptions options)
-    : m_strand(asio::make_strand(std::move(executor)))
+Device::Device(Private, const asio::any_io_executor &executor, const scl::Ied &ied,
+               DeviceOptions options)
+    : m_strand(osi::strandOn(executor))
     , m_options(std::move(options))
     , m_clock(std::make_unique<AsioClock>(m_strand))
     , m_model(ied, m_clock->utcTime(), m_options.firstEdition)

@@ -46,16 +46,17 @@ class Device : public mms::ServerHandler, public std::enable_shared_from_this<De
     };
 
 public:
-    using Strand = asio::strand<asio::any_io_executor>;
+    using Strand = osi::Strand;
     /// Sees a request before the device: true when it has taken it, to answer it or not.
     using RequestFilter = std::function<bool(const std::shared_ptr<mms::Association> &association,
                                              std::uint32_t invokeId, mms::RequestService &request)>;
 
     /// Nothing of @p ied is kept. The device is destroyed in its strand, after the last association
     /// has ended; the execution context outlives it.
-    static std::shared_ptr<Device> create(asio::any_io_executor executor, const scl::Ied &ied,
-                                          DeviceOptions options);
-    Device(Private, asio::any_io_executor executor, const scl::Ied &ied, DeviceOptions options);
+    static std::shared_ptr<Device> create(const asio::any_io_executor &executor,
+                                          const scl::Ied &ied, DeviceOptions options);
+    Device(Private, const asio::any_io_executor &executor, const scl::Ied &ied,
+           DeviceOptions options);
     ~Device() override;
 
     /// Listen; the port that is used.

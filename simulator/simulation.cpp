@@ -75,7 +75,7 @@ void logControls(const Log &log, const mms::VariableAccessSpecification &variabl
 
 } // namespace
 
-mms::Result<ListeningDevice> simulate(asio::any_io_executor executor, const scl::Ied &ied,
+mms::Result<ListeningDevice> simulate(const asio::any_io_executor &executor, const scl::Ied &ied,
                                       SimulationOptions options)
 {
     DeviceOptions device;
@@ -130,7 +130,7 @@ mms::Result<ListeningDevice> simulate(asio::any_io_executor executor, const scl:
         };
     }
     ListeningDevice result;
-    result.device = Device::create(std::move(executor), ied, std::move(device));
+    result.device = Device::create(executor, ied, std::move(device));
     *target = result.device;
     if (options.animation) {
         result.device->addEngine(

@@ -54,7 +54,7 @@ struct ListeningDevice
 
 /// Makes a device of @p ied, of which nothing is kept, and lets it listen. The error says what of
 /// the options is wrong. Any thread; keep the executor running until the device has gone.
-mms::Result<ListeningDevice> simulate(asio::any_io_executor executor, const scl::Ied &ied,
+mms::Result<ListeningDevice> simulate(const asio::any_io_executor &executor, const scl::Ied &ied,
                                       SimulationOptions options);
 
 } // namespace sim

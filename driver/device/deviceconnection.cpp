@@ -66,20 +66,20 @@ struct DeviceConnection::Attempt
     asio::cancellation_signal cancel;
 };
 
-std::shared_ptr<DeviceConnection> DeviceConnection::create(asio::any_io_executor executor,
+std::shared_ptr<DeviceConnection> DeviceConnection::create(const asio::any_io_executor &executor,
                                                            DeviceConfiguration configuration,
                                                            ConnectionEnvironment environment)
 {
-    return std::make_shared<DeviceConnection>(Private(), std::move(executor),
-                                              std::move(configuration), std::move(environment));
+    return std::make_shared<DeviceConnection>(Private(), executor, std::move(configuration),
+                                              std::move(environment));
 }
 
-DeviceConnection::DeviceConnection(Private, asio::any_io_executor executor,
+DeviceConnection::DeviceConnection(Private, const asio::any_io_executor &executor,
                                    DeviceConfiguration configuration,
                                    ConnectionEnvironment environment)
     : m_configuration(std::move(configuration))
     , m_environment(std::move(environment))
-    , m_strand(asio::make_strand(std::move(executor)))
+    , m_strand(osi::strandOn(executor))
     , m_capture(std::make_shared<PduCapture>(m_environment.captureOctets))
     , m_board(m_configuration, m_capture,
               [this] {

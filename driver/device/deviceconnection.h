@@ -57,11 +57,11 @@ public:
     /// What an operation waits for before it begins.
     enum class Need { Association, Model };
 
-    static std::shared_ptr<DeviceConnection> create(asio::any_io_executor executor,
+    static std::shared_ptr<DeviceConnection> create(const asio::any_io_executor &executor,
                                                     DeviceConfiguration configuration,
                                                     ConnectionEnvironment environment);
-    DeviceConnection(Private, asio::any_io_executor executor, DeviceConfiguration configuration,
-                     ConnectionEnvironment environment);
+    DeviceConnection(Private, const asio::any_io_executor &executor,
+                     DeviceConfiguration configuration, ConnectionEnvironment environment);
     ~DeviceConnection();
 
     // Any thread:

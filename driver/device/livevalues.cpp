@@ -48,13 +48,13 @@ private:
 
 static_assert(LiveValues::recordsPerEvent <= Tavrix::maxRecordsPerEvent);
 
-std::shared_ptr<LiveValues> LiveValues::create(asio::any_io_executor executor, Poster poster)
+std::shared_ptr<LiveValues> LiveValues::create(const asio::any_io_executor &executor, Poster poster)
 {
-    return std::make_shared<LiveValues>(Private(), std::move(executor), std::move(poster));
+    return std::make_shared<LiveValues>(Private(), executor, std::move(poster));
 }
 
-LiveValues::LiveValues(Private, asio::any_io_executor executor, Poster poster)
-    : m_strand(asio::make_strand(std::move(executor)))
+LiveValues::LiveValues(Private, const asio::any_io_executor &executor, Poster poster)
+    : m_strand(osi::strandOn(executor))
     , m_timer(m_strand)
     , m_poster(poster ? std::move(poster) : Poster(postToBrowsers))
 {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "osi/strand.h"
+
 #include <devicemodel/mmsvalue.h>
 
-#include <asio/any_io_executor.hpp>
 #include <asio/steady_timer.hpp>
-#include <asio/strand.hpp>
 
 #include <QtCore/QByteArray>
 #include <QtCore/QHash>
@@ -33,8 +33,9 @@ public:
     static constexpr int recordsPerEvent = 4096;
 
     /// Posts to the boxes of the event middleware unless @p poster is given.
-    static std::shared_ptr<LiveValues> create(asio::any_io_executor executor, Poster poster = {});
-    LiveValues(Private, asio::any_io_executor executor, Poster poster);
+    static std::shared_ptr<LiveValues> create(const asio::any_io_executor &executor,
+                                              Poster poster = {});
+    LiveValues(Private, const asio::any_io_executor &executor, Poster poster);
 
     void publish(std::vector<MMSValue> values);
     /// Post what is gathered now.
@@ -43,7 +44,7 @@ public:
 private:
     void post();
 
-    asio::strand<asio::any_io_executor> m_strand;
+    osi::Strand m_strand;
     asio::steady_timer m_timer; ///< in the strand
     Poster m_poster;
     std::mutex m_mutex;

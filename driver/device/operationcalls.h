@@ -3,9 +3,9 @@
 
 #include "outcome.h"
 
-#include <asio/any_io_executor.hpp>
+#include "osi/strand.h"
+
 #include <asio/awaitable.hpp>
-#include <asio/strand.hpp>
 
 #include <chrono>
 #include <functional>
@@ -17,7 +17,7 @@
 class OperationCalls
 {
 public:
-    using Strand = asio::strand<asio::any_io_executor>;
+    using Strand = osi::Strand;
     using Deadline = std::chrono::steady_clock::time_point;
     using Work = std::function<asio::awaitable<Outcome>()>;
 

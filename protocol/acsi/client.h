@@ -65,7 +65,7 @@ public:
     Client(const Client &) = delete;
     Client &operator=(const Client &) = delete;
 
-    const osi::Link::Strand &strand() const { return m_association->strand(); }
+    const osi::Strand &strand() const { return m_association->strand(); }
     const ClientOptions &options() const { return m_options; }
     /// What was agreed, and who is at either end.
     const mms::Association &association() const { return *m_association; }

@@ -26,8 +26,7 @@ struct ControlCall
         Over,
     };
 
-    ControlCall(const osi::Link::Strand &strand, std::string wanted,
-                std::optional<std::uint8_t> number)
+    ControlCall(const osi::Strand &strand, std::string wanted, std::optional<std::uint8_t> number)
         : component(std::move(wanted))
         , ctlNum(number)
         , wake(strand, asio::steady_timer::time_point::max())

@@ -20,20 +20,21 @@ constexpr std::int32_t unconfirmedInvalidArgument = 2;
 
 } // namespace
 
-std::shared_ptr<Association> Association::create(asio::any_io_executor executor,
+std::shared_ptr<Association> Association::create(const asio::any_io_executor &executor,
                                                  AssociationOptions options, Handlers handlers)
 {
-    auto strand = osi::Link::strandOn(executor);
+    auto strand = osi::strandOn(executor);
     const auto association =
         std::make_shared<Association>(Private(), strand, std::move(options), std::move(handlers));
     association->m_link = std::make_shared<osi::Link>(strand, association->m_options.link);
     return association;
 }
 
-std::shared_ptr<Association>
-Association::serve(osi::Link::Strand strand, asio::ip::tcp::socket socket,
-                   AssociationOptions options, Handlers handlers, OpenHandler opened,
-                   std::weak_ptr<Association> &self, std::shared_ptr<const osi::TlsContext> tls)
+std::shared_ptr<Association> Association::serve(osi::Strand strand, asio::ip::tcp::socket socket,
+                                                AssociationOptions options, Handlers handlers,
+                                                OpenHandler opened,
+                                                std::weak_ptr<Association> &self,
+                                                std::shared_ptr<const osi::TlsContext> tls)
 {
     const auto association =
         std::make_shared<Association>(Private(), strand, std::move(options), std::move(handlers));
@@ -55,8 +56,7 @@ constexpr std::int32_t uselessPduSize = 64;
 
 } // namespace
 
-Association::Association(Private, osi::Link::Strand strand, AssociationOptions options,
-                         Handlers handlers)
+Association::Association(Private, osi::Strand strand, AssociationOptions options, Handlers handlers)
     : m_strand(std::move(strand))
     , m_options(std::move(options))
     , m_handlers(std::move(handlers))

@@ -128,17 +128,16 @@ public:
     };
 
     /// The side that connects.
-    static std::shared_ptr<Association> create(asio::any_io_executor executor,
+    static std::shared_ptr<Association> create(const asio::any_io_executor &executor,
                                                AssociationOptions options, Handlers handlers);
     /// The side that was connected to. The executor of @p socket is @p strand; @p self is set
     /// before the first handler is called. @p tls is what osi::LinkOptions::tls describes, where it
     /// is loaded already.
-    static std::shared_ptr<Association> serve(osi::Link::Strand strand,
-                                              asio::ip::tcp::socket socket,
+    static std::shared_ptr<Association> serve(osi::Strand strand, asio::ip::tcp::socket socket,
                                               AssociationOptions options, Handlers handlers,
                                               OpenHandler opened, std::weak_ptr<Association> &self,
                                               std::shared_ptr<const osi::TlsContext> tls = {});
-    Association(Private, osi::Link::Strand strand, AssociationOptions options, Handlers handlers);
+    Association(Private, osi::Strand strand, AssociationOptions options, Handlers handlers);
     ~Association();
 
     /// Ask for an association. Not again on the same object.
@@ -189,7 +188,7 @@ public:
     /// The network address of this end, in the same form: what a device sees of this client, unless
     /// something between them translates addresses.
     std::vector<std::uint8_t> localAddress() const { return m_link->localAddress(); }
-    const osi::Link::Strand &strand() const { return m_strand; }
+    const osi::Strand &strand() const { return m_strand; }
     AssociationCounters counters() const;
 
 private:
@@ -226,7 +225,7 @@ private:
     void cancelInStrand(CallId id);
     void giveUp(CallTable::Ticket ticket, Text reason);
 
-    osi::Link::Strand m_strand;
+    osi::Strand m_strand;
     AssociationOptions m_options;
     Handlers m_handlers;
     std::shared_ptr<osi::Link> m_link;

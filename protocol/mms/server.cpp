@@ -42,7 +42,7 @@ Server::Server(Private, asio::any_io_executor executor, ServerOptions options,
     : m_executor(std::move(executor))
     , m_options(std::move(options))
     , m_handler(std::move(handler))
-    , m_strand(osi::Link::strandOn(m_executor))
+    , m_strand(osi::strandOn(m_executor))
     , m_acceptor(m_strand)
 {
 }
@@ -107,7 +107,7 @@ asio::awaitable<void> Server::acceptLoop()
     const auto self = shared_from_this();
     asio::steady_timer pause(m_strand);
     while (!m_stopped) {
-        auto strand = osi::Link::strandOn(m_executor);
+        auto strand = osi::strandOn(m_executor);
         asio::ip::tcp::socket socket(strand);
         const auto [error] = co_await m_acceptor.async_accept(socket, asTuple);
         if (m_stopped)
@@ -134,8 +134,7 @@ asio::awaitable<void> Server::acceptLoop()
     }
 }
 
-void Server::take(osi::Link::Strand strand, asio::ip::tcp::socket socket,
-                  const asio::ip::address &peer)
+void Server::take(osi::Strand strand, asio::ip::tcp::socket socket, const asio::ip::address &peer)
 {
     ++m_halfOpen[peer];
     const auto complete = [self = shared_from_this(), peer] {

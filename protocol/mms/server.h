@@ -79,13 +79,12 @@ public:
 
 private:
     asio::awaitable<void> acceptLoop();
-    void take(osi::Link::Strand strand, asio::ip::tcp::socket socket,
-              const asio::ip::address &peer);
+    void take(osi::Strand strand, asio::ip::tcp::socket socket, const asio::ip::address &peer);
 
     asio::any_io_executor m_executor;
     ServerOptions m_options;
     std::shared_ptr<ServerHandler> m_handler;
-    osi::Link::Strand m_strand;
+    osi::Strand m_strand;
     asio::ip::tcp::acceptor m_acceptor;
     std::shared_ptr<const osi::TlsContext> m_tls;
     std::set<std::shared_ptr<Association>> m_associations;

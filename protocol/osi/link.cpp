@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <array>
 #include <exception>
-#include <typeinfo>
 #include <utility>
 
 namespace osi {
@@ -88,14 +87,6 @@ public:
 private:
     Link &m_link;
 };
-
-Link::Strand Link::strandOn(const asio::any_io_executor &executor)
-{
-    // target() believes what it is asked for.
-    if (executor.target_type() == typeid(Strand))
-        return *executor.target<Strand>();
-    return asio::make_strand(executor);
-}
 
 Link::Link(Strand strand, LinkOptions options)
     : m_strand(std::move(strand))

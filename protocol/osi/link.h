@@ -5,13 +5,12 @@
 #include "osi/interference.h"
 #include "osi/networkstream.h"
 #include "osi/stack.h"
+#include "osi/strand.h"
 #include "osi/trace.h"
 
-#include <asio/any_io_executor.hpp>
 #include <asio/awaitable.hpp>
 #include <asio/ip/tcp.hpp>
 #include <asio/steady_timer.hpp>
-#include <asio/strand.hpp>
 
 #include <chrono>
 #include <deque>
@@ -55,11 +54,7 @@ struct LinkOptions
 class Link : public std::enable_shared_from_this<Link>
 {
 public:
-    using Strand = asio::strand<asio::any_io_executor>;
     using Handler = std::function<void(StackEvent event)>;
-
-    /// The executor itself where it is a strand already: one in another costs two turns for each.
-    static Strand strandOn(const asio::any_io_executor &executor);
 
     /// The end that connects.
     Link(Strand strand, LinkOptions options);

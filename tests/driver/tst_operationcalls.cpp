@@ -86,8 +86,7 @@ void tst_OperationCalls::init()
     m_context = std::make_unique<asio::io_context>();
     m_work = std::make_unique<asio::executor_work_guard<asio::io_context::executor_type>>(
         m_context->get_executor());
-    m_strand = std::make_unique<OperationCalls::Strand>(
-        asio::make_strand(asio::any_io_executor(m_context->get_executor())));
+    m_strand = std::make_unique<OperationCalls::Strand>(osi::strandOn(m_context->get_executor()));
     m_calls = std::make_shared<OperationCalls>(*m_strand);
     m_thread = std::thread([this] { m_context->run(); });
 }

@@ -5,6 +5,7 @@
 
 #include <asio/co_spawn.hpp>
 #include <asio/detached.hpp>
+#include <asio/post.hpp>
 
 #include <future>
 #include <stdexcept>
@@ -293,6 +294,34 @@ TEST_F(AssociationTest, theFirstCallAfterASilenceIsOnItsWayBeforeTheCallerGoesOn
     ASSERT_TRUE(peer.feed(stack, events));
     arrived.set_value();
     EXPECT_TRUE(wasInTime.get());
+}
+
+TEST_F(AssociationTest, whoWaitsForAnAnswerGoesOnBeforeTheContextTurnsToOthers)
+{
+    const std::uint16_t port = startServer();
+    const auto haveOthersRun = std::make_shared<bool>(false);
+    AssociationOptions options = quickOptions();
+    options.link.trace = [this, haveOthersRun](osi::Direction direction, Bytes) {
+        if (direction == osi::Direction::Received)
+            asio::post(m_client->strand(), [haveOthersRun] { *haveOthersRun = true; });
+    };
+    ASSERT_TRUE(connect(port, options).ok());
+    Awaited<bool> wasLast;
+    const auto wait = [haveOthersRun, client = m_client,
+                       tell = wasLast.setter()]() -> asio::awaitable<void> {
+        *haveOthersRun = false;
+        const CallOutcome outcome = co_await client->call(IdentifyRequest(), 10s);
+        tell(*haveOthersRun || !answerOf<IdentifyResponse>(outcome));
+    };
+    asio::co_spawn(m_client->strand(), wait, asio::detached);
+    EXPECT_FALSE(wasLast.get());
+}
+
+TEST_F(AssociationTest, anAssociationInAStrandUsesThatStrand)
+{
+    const osi::Strand strand = osi::strandOn(m_loop.executor());
+    EXPECT_EQ(Association::create(strand, quickOptions(), {})->strand(), strand);
+    EXPECT_NE(Association::create(m_loop.executor(), quickOptions(), {})->strand(), strand);
 }
 
 TEST_F(AssociationTest, whatTheNetworkDoesNotTakeAtOnceFollowsWhole)
