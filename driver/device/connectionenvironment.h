@@ -3,6 +3,7 @@
 
 #include "driver/administration/devicechange.h"
 #include "driver/administration/reportevent.h"
+#include "driver/core/associationlife.h"
 #include "livevalues.h"
 #include "pducapture.h"
 
@@ -11,6 +12,7 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -43,4 +45,9 @@ struct ConnectionEnvironment
     std::size_t captureOctets = PduCapture::defaultLimit;
     /// Looks up hosts' names; without, the system does.
     osi::HostLookup::Function lookUp;
+    /// What time it is, for everything that is decided about the device. Only how long a caller, or
+    /// a call to the device, is waited for goes by the clock of the system in any case.
+    std::function<std::chrono::steady_clock::time_point()> now = &std::chrono::steady_clock::now;
+    /// By which devices that are lost together come back apart; without, from the system's source.
+    AssociationLife::Random random;
 };

@@ -87,7 +87,7 @@ DeviceConnection::DeviceConnection(Private, const asio::any_io_executor &executo
                       m_environment.statusChanged(*this);
               })
     , m_operations(m_strand)
-    , m_life(randomSource())
+    , m_life(m_environment.random ? m_environment.random : randomSource())
     , m_gate(std::make_unique<ChangeGate>())
     , m_reading(std::make_unique<ModelReading>(*this))
     , m_polling(std::make_unique<ValuePolling>(*this))
@@ -105,7 +105,7 @@ void DeviceConnection::connect()
 void DeviceConnection::want()
 {
     const bool isAtRest = m_life.phase() == Phase::Left;
-    m_life.want(steady_clock::now());
+    m_life.want(now());
     wake();
     if (!isAtRest)
         return;
@@ -181,7 +181,7 @@ void DeviceConnection::cancelOperations()
 void DeviceConnection::namesReleased()
 {
     asio::post(m_strand, [self = shared_from_this()] {
-        self->m_life.namesReleased(steady_clock::now());
+        self->m_life.namesReleased(self->now());
         self->wake();
     });
 }
@@ -195,7 +195,7 @@ void DeviceConnection::fail(const ClientPointer &client, const std::exception_pt
 asio::awaitable<void> DeviceConnection::reconnectWhileWanted()
 {
     for (;;) {
-        const AssociationLife::Step step = m_life.next(steady_clock::now());
+        const AssociationLife::Step step = m_life.next(now());
         if (step.what == AssociationLife::Step::What::Rest)
             co_return;
         try {
@@ -214,7 +214,7 @@ asio::awaitable<void> DeviceConnection::carryOut(AssociationLife::Step step)
     case What::Rest:
         break;
     case What::Wait:
-        co_await pause(std::chrono::ceil<milliseconds>(step.until - steady_clock::now()));
+        co_await pause(std::chrono::ceil<milliseconds>(step.until - now()));
         break;
     case What::Connect:
         co_await makeAssociation();
@@ -276,9 +276,9 @@ asio::awaitable<void> DeviceConnection::attempt(std::shared_ptr<DeviceConnection
     acsi::ClientOptions options = clientOptionsFor(self->m_configuration);
     options.association.link.lookUp = self->m_environment.lookUp;
     options.association.link.trace =
-        [capture = self->m_capture,
+        [capture = self->m_capture, now = self->m_environment.now,
          exchanged = self->m_environment.exchanged](osi::Direction direction, mms::Bytes pdu) {
-            capture->add(direction, pdu);
+            capture->add(direction, pdu, now());
             if (exchanged)
                 exchanged();
         };
@@ -309,7 +309,7 @@ asio::awaitable<void> DeviceConnection::readModel()
     const ModelReading::Refusal refusal = co_await m_reading->read(m_client);
     if (!refusal.sentence.isEmpty())
         m_life.failed(refusal.sentence, refusal.kind);
-    m_life.ready(steady_clock::now());
+    m_life.ready(now());
     show();
 }
 
@@ -353,7 +353,7 @@ void DeviceConnection::clearUp()
         for (const auto &part : m_parts)
             part.second->closed(m_life.reason());
     }
-    m_life.clearedUp(steady_clock::now());
+    m_life.clearedUp(now());
     show();
     const std::vector<std::function<void()>> left = std::exchange(m_left, {});
     for (const std::function<void()> &each : left)
@@ -367,6 +367,7 @@ Outcome DeviceConnection::perform(Need need, Operation operation)
 
 Outcome DeviceConnection::perform(Need need, milliseconds limit, Operation operation)
 {
+    // The caller's thread waits by the clock of the system.
     const Deadline deadline = steady_clock::now() + limit;
     OperationCalls::Work work = [self = shared_from_this(), need, deadline,
                                  operation = std::move(operation)] {
@@ -390,9 +391,9 @@ asio::awaitable<Outcome> DeviceConnection::run(std::shared_ptr<DeviceConnection>
 asio::awaitable<Outcome> DeviceConnection::waitFor(Need need, Deadline deadline)
 {
     using What = AssociationLife::Admission::What;
-    const Deadline since = steady_clock::now();
+    const Deadline since = this->now();
     for (;;) {
-        const Deadline now = steady_clock::now();
+        const Deadline now = this->now();
         const auto admission = m_life.admit(need == Need::Model, now, since, deadline);
         switch (admission.what) {
         case What::Enter:
@@ -454,7 +455,7 @@ void DeviceConnection::wake()
 
 void DeviceConnection::show()
 {
-    m_board.show(m_life, steady_clock::now());
+    m_board.show(m_life, now());
     wake();
 }
 

@@ -76,6 +76,8 @@ public:
     /// Adds to one of the counters of the status.
     void count(std::uint64_t DeviceCounters::*counter, std::uint64_t by = 1);
     bool isReadOnly() const { return m_environment.isReadOnly && m_environment.isReadOnly(); }
+    /// By which everything about the device is decided.
+    Deadline now() const { return m_environment.now(); }
 
     /// Want an association from now on.
     void connect();

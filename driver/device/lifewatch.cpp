@@ -9,7 +9,6 @@
 #include <QtCore/QCoreApplication>
 
 using std::chrono::milliseconds;
-using std::chrono::steady_clock;
 using ClientPointer = std::shared_ptr<acsi::Client>;
 
 namespace {
@@ -58,9 +57,9 @@ asio::awaitable<mms::CallOutcome> askForSignOfLife(DeviceConnection &connection,
 asio::awaitable<void> watchOverLife(DeviceConnection &connection, ClientPointer client)
 {
     const QString waiting = QStringLiteral("life");
-    SignOfLife sign(steady_clock::now());
+    SignOfLife sign(connection.now());
     while (connection.isKept() && client->isOpen()) {
-        const SignOfLife::Time now = steady_clock::now();
+        const SignOfLife::Time now = connection.now();
         const SignOfLife::Time due = sign.due(connection.capture().lastReceived());
         if (due > now) {
             co_await connection.pause(std::chrono::ceil<milliseconds>(due - now));
@@ -86,7 +85,7 @@ asio::awaitable<void> watchOverLife(DeviceConnection &connection, ClientPointer 
                                             .toStdString()));
         } else if (!failure) {
             const auto time =
-                std::chrono::duration_cast<std::chrono::microseconds>(steady_clock::now() - now);
+                std::chrono::duration_cast<std::chrono::microseconds>(connection.now() - now);
             connection.board().update([&](DeviceStatus &status) {
                 status.roundTrip = time;
                 status.counters.unclaimedReports = client->unclaimedReports();

@@ -23,7 +23,6 @@
 using acsi::FunctionalConstraint;
 using ConnectionText::text;
 using std::chrono::milliseconds;
-using std::chrono::steady_clock;
 
 namespace {
 
@@ -83,7 +82,7 @@ void ModelReading::beginIdentifying(const ClientPointer &client)
 
 asio::awaitable<void> ModelReading::identify(ClientPointer client)
 {
-    const auto before = steady_clock::now();
+    const auto before = m_connection.now();
     const mms::CallOutcome outcome = co_await client->call(
         mms::IdentifyRequest(), std::min(identifyLimit, m_connection.configuration().callTimeout),
         mms::GivenUpCall::LeavesItsPlace);
@@ -94,7 +93,7 @@ asio::awaitable<void> ModelReading::identify(ClientPointer client)
         m_answersIdentify = false;
     const auto *answer = mms::answerOf<mms::IdentifyResponse>(outcome);
     const auto time =
-        std::chrono::duration_cast<std::chrono::microseconds>(steady_clock::now() - before);
+        std::chrono::duration_cast<std::chrono::microseconds>(m_connection.now() - before);
     m_connection.board().update([&](DeviceStatus &status) {
         if (!failure)
             status.roundTrip = time;

@@ -49,13 +49,13 @@ PduCapture::PduCapture(std::size_t limit)
 {
 }
 
-void PduCapture::add(osi::Direction direction, mms::Bytes pdu)
+void PduCapture::add(osi::Direction direction, osi::Bytes pdu, Time now)
 {
     if (direction == osi::Direction::Sent) {
         ++m_sent;
     } else {
         ++m_received;
-        m_lastReceived = std::chrono::steady_clock::now().time_since_epoch().count();
+        m_lastReceived = now.time_since_epoch().count();
     }
     Entry entry{0, std::chrono::system_clock::now(), direction, {pdu.begin(), pdu.end()}};
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -101,10 +101,9 @@ std::size_t PduCapture::octets() const
     return m_octets;
 }
 
-std::chrono::steady_clock::time_point PduCapture::lastReceived() const
+PduCapture::Time PduCapture::lastReceived() const
 {
-    return std::chrono::steady_clock::time_point(
-        std::chrono::steady_clock::duration(m_lastReceived.load()));
+    return Time(Time::duration(m_lastReceived.load()));
 }
 
 std::vector<PduCapture::Entry> PduCapture::newest(std::size_t most, std::uint64_t after) const

@@ -21,11 +21,13 @@ class QIODevice;
 class PduCapture : public TraceSource
 {
 public:
+    using Time = std::chrono::steady_clock::time_point;
+
     static constexpr std::size_t defaultLimit = 4U << 20;
 
     explicit PduCapture(std::size_t limit = defaultLimit);
 
-    void add(osi::Direction direction, osi::Bytes pdu);
+    void add(osi::Direction direction, osi::Bytes pdu, Time now);
 
     /// Writes what is there as a capture that protocol analysers open (pcapng). False when the
     /// device does not take it; its error text says why.
@@ -37,7 +39,7 @@ public:
     std::uint64_t sent() const { return m_sent; }
     std::uint64_t received() const { return m_received; }
     /// When the last PDU came; the clock's epoch before the first.
-    std::chrono::steady_clock::time_point lastReceived() const;
+    Time lastReceived() const;
 
 private:
     struct Entry
@@ -57,5 +59,5 @@ private:
     std::size_t m_octets = 0;
     std::atomic<std::uint64_t> m_sent{0};
     std::atomic<std::uint64_t> m_received{0};
-    std::atomic<std::chrono::steady_clock::rep> m_lastReceived{0};
+    std::atomic<Time::rep> m_lastReceived{0};
 };

@@ -116,9 +116,9 @@ asio::awaitable<void> SettingGroups::watch(std::shared_ptr<acsi::Client> client)
 {
     const milliseconds poll = m_connection.configuration().pollInterval;
     const milliseconds interval = std::max(poll, lookInterval);
-    steady_clock::time_point next = steady_clock::now() + interval;
+    steady_clock::time_point next = m_connection.now() + interval;
     while (client->isOpen() && m_connection.client() == client) {
-        const steady_clock::time_point now = steady_clock::now();
+        const steady_clock::time_point now = m_connection.now();
         QStringList overdue;
         for (auto each = m_edits.cbegin(); each != m_edits.cend(); ++each) {
             if (each->isOverdue(now))

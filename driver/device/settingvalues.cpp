@@ -114,7 +114,7 @@ SettingValues::read(std::shared_ptr<DeviceConnection> device, QString ldName,
     for (const acsi::Reference &node : nodes)
         variables.push_back(acsi::accessOf(node));
     ValuePublishing::Publication publication;
-    publication.asOf = std::chrono::steady_clock::now();
+    publication.asOf = device->now();
     const mms::Result<std::vector<mms::AccessResult>> values =
         co_await client->read(std::move(variables));
     if (!values)

@@ -16,7 +16,6 @@
 using acsi::FunctionalConstraint;
 using ConnectionText::text;
 using std::chrono::milliseconds;
-using std::chrono::steady_clock;
 using Pace = ValueCurrency::Pace;
 
 namespace {
@@ -36,9 +35,9 @@ bool isControlBlock(const acsi::Reference &reference)
            reference.path.size() == 1 && reference.path.front().name == "SGCB";
 }
 
-QString localTime(ValueCurrency::Time time, QDateTime &asDate)
+QString localTime(ValueCurrency::Time time, ValueCurrency::Time now, QDateTime &asDate)
 {
-    const auto ago = std::chrono::duration_cast<milliseconds>(steady_clock::now() - time);
+    const auto ago = std::chrono::duration_cast<milliseconds>(now - time);
     asDate = QDateTime::currentDateTime().addMSecs(-ago.count());
     return asDate.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
 }
@@ -119,7 +118,7 @@ asio::awaitable<void> ValuePolling::readConfiguration(ClientPointer client)
 
 asio::awaitable<void> ValuePolling::poll(ClientPointer client)
 {
-    m_polling->start(steady_clock::now());
+    m_polling->start(m_connection.now());
     co_await carryOut(client);
 }
 
@@ -139,7 +138,7 @@ asio::awaitable<void> ValuePolling::carryOut(ClientPointer client)
                m_polling == polling;
     };
     while (goesOn()) {
-        const Time now = steady_clock::now();
+        const Time now = m_connection.now();
         followReports(polling->currency());
         Polling::Step step = polling->next(now);
         std::optional<milliseconds> patience;
@@ -177,7 +176,7 @@ asio::awaitable<void> ValuePolling::carryOut(ClientPointer client)
             polling->answered(
                 answered.question,
                 acsi::readAnswer(std::move(arrival->outcome), answered.question.parts.size()),
-                steady_clock::now(), [&](const acsi::Reference &part, const mms::Data &value) {
+                m_connection.now(), [&](const acsi::Reference &part, const mms::Data &value) {
                     return m_connection.values().publish(part, value, publication);
                 });
             break;
@@ -237,7 +236,7 @@ void ValuePolling::tell(const ValueCurrency &currency)
     QDateTime since;
     QString sentence;
     if (summary.stale > 0) {
-        const QString time = localTime(summary.staleSince, since);
+        const QString time = localTime(summary.staleSince, m_connection.now(), since);
         const QString reference = text(acsi::toText(*summary.firstStale));
         sentence = (summary.isSilent
                         ? Texts::tr("Values that are not current since %1: %2. The device does "

@@ -20,7 +20,6 @@
 using ConnectionText::text;
 using ConnectionText::withoutPeriod;
 using std::chrono::milliseconds;
-using std::chrono::steady_clock;
 
 namespace {
 
@@ -149,7 +148,7 @@ bool ValuePublishing::add(std::vector<MMSValue> &records, const OnlineModel::Fou
     OnlineModel *const known = model();
     ValueCurrency *const account = currency();
     const ValueCurrency::Source source = sourceOf(publication.cause);
-    const Time asOf = publication.asOf == Time() ? steady_clock::now() : publication.asOf;
+    const Time asOf = publication.asOf == Time() ? m_connection.now() : publication.asOf;
     const auto visit = [&](const OnlineModel::Leaf &leaf) {
         const bool isNew = !account || account->take(leaf.number, source, asOf);
         if (!leaf.attribute)
@@ -222,7 +221,7 @@ void ValuePublishing::haveWritten(const acsi::Reference &reference)
         return;
     const LeafRange leaves = model()->leafRange(reference);
     for (std::uint32_t leaf = leaves.first; leaf < leaves.end(); ++leaf) {
-        currency()->take(leaf, ValueCurrency::Source::Write, steady_clock::now());
+        currency()->take(leaf, ValueCurrency::Source::Write, m_connection.now());
         m_unwritten.erase(leaf);
     }
 }
@@ -247,7 +246,7 @@ asio::awaitable<void> ValuePublishing::keepShowing(acsi::Reference reference)
     const std::shared_ptr<acsi::Client> client = m_connection.client();
     if (!client || !model())
         co_return;
-    const Time end = steady_clock::now() + showingTime;
+    const Time end = m_connection.now() + showingTime;
     const std::uint32_t leaf = model()->leafRange(reference).first;
     const Publication publication;
     std::vector<acsi::Reference> references;
@@ -257,9 +256,9 @@ asio::awaitable<void> ValuePublishing::keepShowing(acsi::Reference reference)
         return m_connection.client() == client && client->isOpen() && model() &&
                m_unwritten.count(leaf) != 0;
     };
-    for (Time next = steady_clock::now(); isWanted() && next < end;) {
+    for (Time next = m_connection.now(); isWanted() && next < end;) {
         next += showingInterval;
-        for (Time now = steady_clock::now(); isWanted() && now < next; now = steady_clock::now())
+        for (Time now = m_connection.now(); isWanted() && now < next; now = m_connection.now())
             co_await m_connection.pause(std::chrono::ceil<milliseconds>(next - now));
         if (isWanted())
             publishKnown(model()->leafRange(reference), PublishCause::Polled);
@@ -316,7 +315,7 @@ asio::awaitable<Outcome> ValuePublishing::readAndPublish(std::vector<acsi::Refer
         std::vector<mms::VariableAccess> variables;
         for (const Part &part : parts)
             variables.push_back(acsi::accessOf(part.reference));
-        publication.asOf = steady_clock::now();
+        publication.asOf = m_connection.now();
         mms::Result<std::vector<acsi::ReadResult>> results =
             co_await acsi::readEach(client, std::move(variables));
         if (!results)
@@ -336,7 +335,7 @@ asio::awaitable<Outcome> ValuePublishing::readAndPublish(std::vector<acsi::Refer
             } else {
                 origin.hasValues = true;
                 if (currency() && model())
-                    currency()->haveRead(model()->leafRange(reference), steady_clock::now());
+                    currency()->haveRead(model()->leafRange(reference), m_connection.now());
                 continue;
             }
             if (origin.error.isEmpty())
@@ -372,10 +371,10 @@ QByteArray ValuePublishing::modelBytes()
 
 asio::awaitable<void> ValuePublishing::republish()
 {
-    const Time end = steady_clock::now() + browserStart;
+    const Time end = m_connection.now() + browserStart;
     // Without an association nothing is left to change the values.
-    for (Time now = steady_clock::now(); now < end && m_connection.client();
-         now = steady_clock::now())
+    for (Time now = m_connection.now(); now < end && m_connection.client();
+         now = m_connection.now())
         co_await m_connection.pause(std::chrono::ceil<milliseconds>(end - now));
     std::vector<MMSValue> values;
     values.reserve(static_cast<std::size_t>(m_recent.size()));

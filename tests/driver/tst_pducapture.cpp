@@ -7,7 +7,11 @@
 #include <QtCore/QBuffer>
 #include <QtTest/QtTest>
 
+using namespace std::chrono_literals;
+
 namespace {
+
+const PduCapture::Time noon = PduCapture::Time() + 12h;
 
 std::vector<std::uint8_t> statusRequest(std::uint32_t invokeId)
 {
@@ -46,13 +50,14 @@ private slots:
 void tst_PduCapture::theNewestPdusAreToldAsTextOldestFirst()
 {
     PduCapture capture;
-    QVERIFY(capture.lastReceived() == std::chrono::steady_clock::time_point());
-    capture.add(osi::Direction::Sent, statusRequest(1));
-    capture.add(osi::Direction::Received, statusRequest(2));
-    capture.add(osi::Direction::Sent, statusRequest(3));
+    QVERIFY(capture.lastReceived() == PduCapture::Time());
+    capture.add(osi::Direction::Sent, statusRequest(1), noon - 2s);
+    QVERIFY(capture.lastReceived() == PduCapture::Time());
+    capture.add(osi::Direction::Received, statusRequest(2), noon);
+    capture.add(osi::Direction::Sent, statusRequest(3), noon + 2s);
     QCOMPARE(capture.sent(), std::uint64_t(2));
     QCOMPARE(capture.received(), std::uint64_t(1));
-    QVERIFY(capture.lastReceived() > std::chrono::steady_clock::time_point());
+    QVERIFY(capture.lastReceived() == noon);
 
     const QVector<TraceLine> lines = capture.trace(2, 0);
     QCOMPARE(lines.size(), 2);
@@ -69,13 +74,13 @@ void tst_PduCapture::theOldestPdusGiveWay()
 {
     PduCapture capture(10000);
     for (int i = 0; i < 100; ++i)
-        capture.add(osi::Direction::Received, std::vector<std::uint8_t>(1000, 0));
+        capture.add(osi::Direction::Received, std::vector<std::uint8_t>(1000, 0), noon);
     QVERIFY(capture.octets() <= 10000);
     const QVector<TraceLine> kept = capture.trace(1000, 0);
     QVERIFY(!kept.isEmpty() && kept.size() <= 10);
     QCOMPARE(kept.first().number, std::uint64_t(101 - kept.size()));
     QCOMPARE(kept.last().number, std::uint64_t(100));
-    capture.add(osi::Direction::Received, std::vector<std::uint8_t>(50000, 0));
+    capture.add(osi::Direction::Received, std::vector<std::uint8_t>(50000, 0), noon);
     QCOMPARE(capture.trace(1000, 0).size(), 1);
 }
 
@@ -83,7 +88,7 @@ void tst_PduCapture::whatIsNoPduIsShownWithItsFault()
 {
     PduCapture capture;
     const std::vector<std::uint8_t> octets = {0xFF, 0x01};
-    capture.add(osi::Direction::Received, octets);
+    capture.add(osi::Direction::Received, octets, noon);
     QCOMPARE(capture.trace(1, 0).first().text,
              QString::fromStdString(mms::decodePdu(octets).error().message.english()));
 }
@@ -91,8 +96,8 @@ void tst_PduCapture::whatIsNoPduIsShownWithItsFault()
 void tst_PduCapture::aSavedCaptureHoldsEveryPdu()
 {
     PduCapture capture;
-    capture.add(osi::Direction::Sent, statusRequest(1));
-    capture.add(osi::Direction::Received, statusRequest(2));
+    capture.add(osi::Direction::Sent, statusRequest(1), noon);
+    capture.add(osi::Direction::Received, statusRequest(2), noon);
     QBuffer buffer;
     QVERIFY(buffer.open(QIODevice::WriteOnly));
     QVERIFY(capture.save(buffer));
@@ -112,7 +117,7 @@ void tst_PduCapture::aSavedCaptureHoldsEveryPdu()
 void tst_PduCapture::aPlaceThatTakesNothingIsReported()
 {
     PduCapture capture;
-    capture.add(osi::Direction::Sent, statusRequest(1));
+    capture.add(osi::Direction::Sent, statusRequest(1), noon);
     FullDevice device;
     QVERIFY(!capture.save(device));
     QCOMPARE(device.errorString(), QStringLiteral("full"));
