@@ -16,7 +16,6 @@
 #include <algorithm>
 
 using std::chrono::milliseconds;
-using std::chrono::steady_clock;
 
 namespace {
 
@@ -71,7 +70,7 @@ ReportSubscriptions::mendWhileNeeded(std::shared_ptr<DeviceConnection> connectio
     const DataSetMending &mending = subscription->mending;
     while (client->isOpen() && isCurrent(subscription) && subscription->life.isTaking() &&
            mending.isNeeded()) {
-        const auto now = steady_clock::now();
+        const auto now = m_connection.now();
         if (mending.isDue(now)) {
             co_await mendOnce(subscription, client);
         } else {
@@ -84,7 +83,7 @@ ReportSubscriptions::mendWhileNeeded(std::shared_ptr<DeviceConnection> connectio
 asio::awaitable<void> ReportSubscriptions::mendOnce(SubscriptionPointer subscription,
                                                     ClientPointer client)
 {
-    subscription->mending.begin(steady_clock::now());
+    subscription->mending.begin(m_connection.now());
     const bool isRepair = !subscription->faults.empty();
     if (subscription->needsMembers) {
         subscription->needsMembers = false;
@@ -106,7 +105,7 @@ asio::awaitable<void> ReportSubscriptions::mendOnce(SubscriptionPointer subscrip
         }
     }
     const Mended mended = co_await readMembers(subscription, client);
-    const bool isWell = subscription->mending.ended(mended.isRead, steady_clock::now());
+    const bool isWell = subscription->mending.ended(mended.isRead, m_connection.now());
     if (!isCurrent(subscription) || !subscription->life.isTaking())
         co_return;
     if (mended.isRead && isRepair)
@@ -159,7 +158,7 @@ ReportSubscriptions::readMembers(SubscriptionPointer subscription, ClientPointer
     ValuePublishing::Publication publication;
     publication.cause = PublishCause::Polled;
     publication.onlyChanges = true;
-    publication.asOf = steady_clock::now();
+    publication.asOf = m_connection.now();
     mms::Result<std::vector<mms::AccessResult>> values = co_await client->readList(*name);
     const bool areAllNamed = std::ranges::all_of(
         members, [](const acsi::Reference &member) { return !member.node.empty(); });

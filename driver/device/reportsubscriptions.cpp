@@ -18,7 +18,6 @@
 #include <algorithm>
 
 using std::chrono::milliseconds;
-using std::chrono::steady_clock;
 
 namespace {
 
@@ -158,12 +157,11 @@ asio::awaitable<void> ReportSubscriptions::opened()
         wanted.push_back(each.second);
     for (const SubscriptionPointer &each : wanted) {
         const ClientPointer client = m_connection.client();
-        const auto before = steady_clock::now();
+        const auto before = m_connection.now();
         if (client && client->isOpen())
             co_await resume(each, Texts::tr("enabled again after the association was lost"));
         // Whether a silent device is there is asked once this has ended; watch() does the rest.
-        const bool isLong =
-            steady_clock::now() - before >= m_connection.configuration().callTimeout;
+        const bool isLong = m_connection.now() - before >= m_connection.configuration().callTimeout;
         if (isLong && m_connection.capture().lastReceived() < before)
             co_return;
     }
@@ -232,7 +230,7 @@ Outcome ReportSubscriptions::ended(const SubscriptionPointer &subscription, Chan
                                    SubscriptionLife::Result result, const QString &oldValue,
                                    const QString &newValue, const QString &error)
 {
-    const bool isNews = subscription->life.ended(result, error, steady_clock::now());
+    const bool isNews = subscription->life.ended(result, error, m_connection.now());
     const bool isEnabled = result == SubscriptionLife::Result::Enabled;
     const Outcome outcome = isEnabled ? Outcome() : Outcome::failed(error);
     if (change) {
@@ -467,7 +465,7 @@ asio::awaitable<void> ReportSubscriptions::resume(SubscriptionPointer subscripti
     const std::string reference = subscription->reference;
     Turn turn = co_await this->turn(reference);
     if (!isCurrent(subscription) || subscription->isUnwanted ||
-        !subscription->life.isDue(steady_clock::now()))
+        !subscription->life.isDue(m_connection.now()))
         co_return;
     Outcome outcome;
     if (m_connection.isReadOnly()) {

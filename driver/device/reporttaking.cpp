@@ -15,8 +15,6 @@
 #include <algorithm>
 #include <set>
 
-using std::chrono::steady_clock;
-
 namespace {
 
 struct Texts
@@ -160,7 +158,7 @@ bool ReportSubscriptions::take(mms::InformationReport &information)
         takeUnreadable(rptId, segment.error());
         return true;
     }
-    const ReportStream::Taken taken = m_stream.take(*std::move(segment), steady_clock::now());
+    const ReportStream::Taken taken = m_stream.take(*std::move(segment), m_connection.now());
     for (const std::string &each : taken.ambiguous) {
         const SubscriptionPointer subscription = find(each);
         if (!subscription)
@@ -231,7 +229,7 @@ void ReportSubscriptions::publish(Subscription &subscription, const ReportStream
     const bool isOther = std::ranges::count(taken.faults, ReportFault::OtherDataSet) != 0;
     ValuePublishing &publishing = m_connection.values();
     ValuePublishing::Publication publication;
-    publication.asOf = steady_clock::now();
+    publication.asOf = m_connection.now();
     std::vector<MMSValue> records;
     records.reserve(report.members.size());
     QString unknown;

@@ -9,7 +9,6 @@
 
 using std::chrono::milliseconds;
 using std::chrono::seconds;
-using std::chrono::steady_clock;
 
 namespace {
 
@@ -49,7 +48,7 @@ void ReportSubscriptions::setShown(const acsi::Reference &block, Shown shown)
     const std::string reference = acsi::toText(block);
     const QString holder = holderSentence(block, shown.block);
     if (shown.block.rptEna && !holder.isEmpty()) {
-        m_noted[reference] = steady_clock::now() + notedTime;
+        m_noted[reference] = m_connection.now() + notedTime;
         m_connection.setProblem(text(reference) + QStringLiteral(" holder"), holder);
         listen();
     }
@@ -80,13 +79,13 @@ QString ReportSubscriptions::holderSentence(const acsi::Reference &block,
 asio::awaitable<void> ReportSubscriptions::watch(ClientPointer client)
 {
     while (client->isOpen() && m_connection.isKept()) {
-        const auto next = steady_clock::now() + watchInterval;
-        for (auto now = steady_clock::now();
-             now < next && client->isOpen() && m_connection.isKept(); now = steady_clock::now())
+        const auto next = m_connection.now() + watchInterval;
+        for (auto now = m_connection.now(); now < next && client->isOpen() && m_connection.isKept();
+             now = m_connection.now())
             co_await m_connection.pause(std::chrono::ceil<milliseconds>(next - now));
         if (!client->isOpen() || !m_connection.isKept())
             break;
-        const auto now = steady_clock::now();
+        const auto now = m_connection.now();
         const bool stoodStill = now - next > standstill;
         const std::vector<std::string> expired = m_stream.expire(now);
         for (const std::string &each : expired) {
@@ -101,7 +100,7 @@ asio::awaitable<void> ReportSubscriptions::watch(ClientPointer client)
         for (const SubscriptionPointer &each : all) {
             if (!client->isOpen() || !m_connection.isKept())
                 break;
-            if (each->life.isDue(steady_clock::now()))
+            if (each->life.isDue(m_connection.now()))
                 co_await resume(each, Texts::tr("enabled again"));
             else if (stoodStill && each->life.isTaking())
                 mend(each);
@@ -147,7 +146,7 @@ asio::awaitable<void> ReportSubscriptions::lookAtBlocks(ClientPointer client)
         if (!value.ok() || value.data().toBoolean() != false || !isStill(watched[i]))
             continue;
         stop(*watched[i]);
-        watched[i]->life.stopped(steady_clock::now());
+        watched[i]->life.stopped(m_connection.now());
         const QString sentence =
             Texts::tr("The device has disabled %1 by itself.").arg(text(watched[i]->block));
         m_connection.setProblem(text(watched[i]->reference), sentence);
@@ -196,7 +195,7 @@ asio::awaitable<void> ReportSubscriptions::lookAtHolders(ClientPointer client)
         const auto found = m_noted.find(reference);
         if (found == m_noted.end())
             continue;
-        if (steady_clock::now() >= found->second)
+        if (m_connection.now() >= found->second)
             sentence.clear();
         if (sentence.isEmpty())
             m_noted.erase(found);

@@ -169,7 +169,7 @@ asio::awaitable<Outcome> fetch(DevicePointer device, QString name, FileSink *sin
     QString refusal; // of the sink
     quint64 octets = 0;
     bool isTooSlow = false;
-    const TransferPace pace(steady_clock::now());
+    const TransferPace pace(device->now());
     const auto announced = [&](std::uint32_t size) { refusal = sink->begin(size); };
     const auto take = [&](std::span<const std::uint8_t> block) {
         if (refusal.isEmpty()) {
@@ -177,7 +177,7 @@ asio::awaitable<Outcome> fetch(DevicePointer device, QString name, FileSink *sin
                                  static_cast<int>(block.size()));
         }
         octets += block.size();
-        isTooSlow = pace.isTooSlow(steady_clock::now(), octets);
+        isTooSlow = pace.isTooSlow(device->now(), octets);
         return refusal.isEmpty() && !isTooSlow;
     };
     QString notClosed;

@@ -208,13 +208,13 @@ DeviceTestResult IedDriver::test(const DeviceConfiguration &configuration)
         configuration.connectTimeout + configuration.callTimeout,
         [answer](std::shared_ptr<DeviceConnection> self) -> asio::awaitable<Outcome> {
             const std::shared_ptr<acsi::Client> client = self->client();
-            const auto before = std::chrono::steady_clock::now();
+            const auto before = self->now();
             mms::Result<std::vector<std::string>> devices =
                 co_await client->nameList(mms::ObjectClass::Domain, mms::Scope::Vmd);
             if (!devices)
                 co_return Outcome::failed(devices.error());
-            answer->roundTrip = std::chrono::duration_cast<std::chrono::microseconds>(
-                std::chrono::steady_clock::now() - before);
+            answer->roundTrip =
+                std::chrono::duration_cast<std::chrono::microseconds>(self->now() - before);
             answer->logicalDevices = static_cast<int>(devices->size());
             answer->iedName = commonName(*devices);
             // The connection asks who is there by itself.

@@ -143,7 +143,7 @@ asio::awaitable<Outcome> checkEdit(DevicePointer device, QString ldName, acsi::R
     const Verdict verdict = edit.verdict(tool, read->editSG);
     const QString refusal = refusalOf(verdict, ldName, edit.group(), read->editSG);
     if (refusal.isEmpty()) {
-        edit.used(steady_clock::now());
+        edit.used(device->now());
         co_return Outcome();
     }
     if (verdict == Verdict::GivenUp)
@@ -425,7 +425,7 @@ asio::awaitable<Outcome> selectEdited(ChangePointer change, acsi::Reference bloc
     if (!outcome)
         co_return outcome;
     if (group > 0)
-        groups.edit(ldName).chosen(tool, number, steady_clock::now());
+        groups.edit(ldName).chosen(tool, number, device->now());
     else
         groups.edit(ldName).ended();
     co_return Outcome();

@@ -69,7 +69,7 @@ asio::awaitable<Outcome> readDataSet(DevicePointer device, QString ldName, QStri
     if (!directory)
         co_return Outcome::failed(directory.error());
     ValuePublishing::Publication publication;
-    publication.asOf = std::chrono::steady_clock::now();
+    publication.asOf = device->now();
     const mms::Result<std::vector<mms::AccessResult>> values = co_await client->readList(*set);
     if (!values)
         co_return Outcome::failed(values.error());
