@@ -7,6 +7,105 @@
 #include <limits>
 #include <utility>
 
+using acsi::ControlModel;
+using acsi::ControlOutcome;
+using std::chrono::milliseconds;
+
+bool ControlState::Manner::terminates() const
+{
+    return model == ControlModel::DirectEnhanced || model == ControlModel::SelectEnhanced;
+}
+
+ControlState::Obstacle ControlState::obstacle(Service service, const ControlBlock &block,
+                                              Caller caller, Time now) const
+{
+    const auto model = static_cast<ControlModel>(block.controlModel);
+    if (service == Service::Cancel) {
+        return needsRecord(service, now) && model == ControlModel::SelectEnhanced
+                   ? Obstacle::NotSelected
+                   : Obstacle::None;
+    }
+    if (service != Service::Operate)
+        return Obstacle::None;
+    if (model == ControlModel::SelectNormal)
+        return isSelectedByOther(caller, now) ? Obstacle::SelectedByOther : Obstacle::None;
+    if (model != ControlModel::SelectEnhanced)
+        return Obstacle::None;
+    const Command *selected = selection(now);
+    if (!selected)
+        return Obstacle::NotSelected;
+    if (isSelectedByOther(caller, now))
+        return Obstacle::SelectedByOther;
+    const bool areKnown = caller != 0 && selected->caller != 0;
+    if (m_isAmbiguous && !areKnown && ControlOrder::isEmpty(block))
+        return Obstacle::SelectedAgain;
+    if (!ControlOrder::repeats(block, selected->block))
+        return Obstacle::NotTheSelected;
+    return Obstacle::None;
+}
+
+bool ControlState::needsRecord(Service service, Time now) const
+{
+    return service != Service::Cancel || !cancellable(now);
+}
+
+bool ControlState::isSelectedByOther(Caller caller, Time now) const
+{
+    const Command *selected = selection(now);
+    return selected && caller != 0 && selected->caller != 0 && caller != selected->caller;
+}
+
+const ControlState::Command *ControlState::repeated(Service service, ControlModel model,
+                                                    Time now) const
+{
+    const bool isEnhancedSelect = model == ControlModel::SelectEnhanced;
+    switch (service) {
+    case Service::Select:
+        break;
+    case Service::Operate:
+        return isEnhancedSelect ? selection(now) : nullptr;
+    case Service::Cancel:
+        // Of another selection the device knows no more than the number.
+        return isRunning() || isEnhancedSelect ? cancellable(now) : nullptr;
+    }
+    return nullptr;
+}
+
+std::uint8_t ControlState::numberFor(Service service, ControlModel model, Time now)
+{
+    const Command *about = nullptr;
+    if (service == Service::Operate && model == ControlModel::SelectNormal)
+        about = selection(now);
+    else if (service == Service::Cancel)
+        about = cancellable(now);
+    return about ? about->request.ctlNum : newNumber();
+}
+
+void ControlState::sent(Service service, Command command)
+{
+    if (service == Service::Select)
+        selectSent(std::move(command));
+    else if (service == Service::Operate)
+        operateSent(std::move(command));
+}
+
+void ControlState::ended(Service service, std::uint8_t ctlNum, ControlOutcome outcome,
+                         const Manner &manner, Time now)
+{
+    switch (service) {
+    case Service::Select:
+        selectEnded(ctlNum, outcome, manner, now);
+        break;
+    case Service::Operate:
+        operateEnded(ctlNum, outcome, manner, now);
+        break;
+    case Service::Cancel:
+        if (outcome == ControlOutcome::Done)
+            cancelled(ctlNum);
+        break;
+    }
+}
+
 std::uint8_t ControlState::newNumber()
 {
     for (int tries = 0; tries <= std::numeric_limits<std::uint8_t>::max(); ++tries) {
@@ -17,6 +116,14 @@ std::uint8_t ControlState::newNumber()
     m_lastNumber = m_commands.front().command.request.ctlNum;
     forget(m_lastNumber);
     return m_lastNumber;
+}
+
+void ControlState::Selection::grant(milliseconds timeout, Time now)
+{
+    phase = SelectPhase::Granted;
+    end.reset();
+    if (timeout > milliseconds(0))
+        end = now + timeout;
 }
 
 void ControlState::selectSent(Command command)
@@ -36,35 +143,33 @@ void ControlState::selectSent(Command command)
     m_selection = Selection{std::move(command), ++m_order, SelectPhase::Sent, std::nullopt};
 }
 
-void ControlState::selectWithdrawn(std::uint8_t ctlNum)
+void ControlState::selectEnded(std::uint8_t ctlNum, ControlOutcome outcome, const Manner &manner,
+                               Time now)
 {
     if (!m_selection || m_selection->command.request.ctlNum != ctlNum)
         return;
-    m_selection = std::exchange(m_replaced, std::nullopt);
-    m_isAmbiguous = m_wasAmbiguous;
-}
-
-void ControlState::selectGranted(std::uint8_t ctlNum, std::chrono::milliseconds timeout, Time now)
-{
-    if (!m_selection || m_selection->command.request.ctlNum != ctlNum)
-        return;
-    m_selection->phase = SelectPhase::Granted;
-    m_selection->end.reset();
-    if (timeout > std::chrono::milliseconds(0))
-        m_selection->end = now + timeout;
-    // An object that can be selected executes nothing.
-    forgetOlder(m_selection->order);
-}
-
-void ControlState::selectRefused(std::uint8_t ctlNum)
-{
-    if (!m_selection || m_selection->command.request.ctlNum != ctlNum)
-        return;
-    // The device may still have what it granted before.
-    if (m_replaced && m_replaced->isGranted())
+    switch (outcome) {
+    case ControlOutcome::Done:
+        m_selection->grant(manner.selectTimeout, now);
+        // An object that can be selected executes nothing.
+        forgetOlder(m_selection->order);
+        break;
+    case ControlOutcome::NotSent:
         m_selection = std::exchange(m_replaced, std::nullopt);
-    m_selection->phase = SelectPhase::Refused;
-    m_isAmbiguous = false;
+        m_isAmbiguous = m_wasAmbiguous;
+        break;
+    case ControlOutcome::Refused:
+    case ControlOutcome::Failed:
+        // The device may still have what it granted before.
+        if (m_replaced && m_replaced->isGranted())
+            m_selection = std::exchange(m_replaced, std::nullopt);
+        m_selection->phase = SelectPhase::Refused;
+        m_isAmbiguous = false;
+        break;
+    case ControlOutcome::Accepted:
+    case ControlOutcome::Unknown:
+        break;
+    }
 }
 
 bool ControlState::isLive(Time now) const
@@ -76,28 +181,6 @@ bool ControlState::isLive(Time now) const
 const ControlState::Command *ControlState::selection(Time now) const
 {
     return isLive(now) ? &m_selection->command : nullptr;
-}
-
-ControlState::Obstacle ControlState::obstacle(const ControlBlock &block, Caller caller,
-                                              Time now) const
-{
-    const Command *selected = selection(now);
-    if (!selected)
-        return Obstacle::NotSelected;
-    if (isSelectedByOther(caller, now))
-        return Obstacle::SelectedByOther;
-    const bool areKnown = caller != 0 && selected->caller != 0;
-    if (m_isAmbiguous && !areKnown && ControlOrder::isEmpty(block))
-        return Obstacle::SelectedAgain;
-    if (!ControlOrder::repeats(block, selected->block))
-        return Obstacle::NotTheSelected;
-    return Obstacle::None;
-}
-
-bool ControlState::isSelectedByOther(Caller caller, Time now) const
-{
-    const Command *selected = selection(now);
-    return selected && caller != 0 && selected->caller != 0 && caller != selected->caller;
 }
 
 void ControlState::operateSent(Command command)
@@ -113,57 +196,65 @@ void ControlState::operateSent(Command command)
     m_commands.push_back(std::move(sent));
 }
 
-void ControlState::operateWithdrawn(std::uint8_t ctlNum)
+void ControlState::operateEnded(std::uint8_t ctlNum, ControlOutcome outcome, const Manner &manner,
+                                Time now)
 {
-    Entry *withdrawn = entry(ctlNum);
-    if (!withdrawn)
+    Entry *const ended = entry(ctlNum);
+    if (!ended)
         return;
-    if (withdrawn->selection && !m_selection)
-        m_selection = std::move(withdrawn->selection);
-    forget(ctlNum);
-}
-
-void ControlState::operateAccepted(std::uint8_t ctlNum, bool terminates, bool staysSelected,
-                                   std::chrono::milliseconds timeout, Time now)
-{
-    Entry *accepted = entry(ctlNum);
-    if (!accepted)
-        return;
-    accepted->phase = terminates ? Phase::Running : Phase::CarriedOut;
-    const std::uint64_t order = accepted->order;
-    if (staysSelected && accepted->selection && !m_selection) {
-        m_selection = accepted->selection;
-        m_selection->end.reset();
-        if (timeout > std::chrono::milliseconds(0))
-            m_selection->end = now + timeout;
+    switch (outcome) {
+    case ControlOutcome::NotSent:
+        // The selection is what it was.
+        if (ended->selection && !m_selection)
+            m_selection = std::move(ended->selection);
+        forget(ctlNum);
+        break;
+    case ControlOutcome::Refused:
+    case ControlOutcome::Failed:
+        forget(ctlNum);
+        break;
+    case ControlOutcome::Accepted:
+        leave(*ended, manner.terminates() ? Phase::Running : Phase::CarriedOut);
+        forgetOlder(ended->order);
+        break;
+    case ControlOutcome::Unknown:
+        leave(*ended, ended->phase == Phase::Sent ? Phase::Unknown : ended->phase);
+        break;
+    case ControlOutcome::Done:
+        if (manner.isOperateMany && ended->selection && !m_selection) {
+            m_selection = ended->selection;
+            m_selection->grant(manner.selectTimeout, now);
+        }
+        ended->phase = Phase::CarriedOut;
+        forgetOlder(ended->order);
+        if (manner.terminates())
+            forget(ctlNum);
+        break;
     }
-    // An object executes one command at a time.
-    forgetOlder(order);
 }
 
-void ControlState::operateRefused(std::uint8_t ctlNum)
+void ControlState::leave(Entry &which, Phase phase)
 {
-    forget(ctlNum);
+    which.isLeft = true;
+    which.phase = phase;
 }
 
-void ControlState::operateUnknown(std::uint8_t ctlNum)
+void ControlState::heardLate(std::uint8_t ctlNum, ControlOutcome outcome)
 {
-    Entry *unknown = entry(ctlNum);
-    if (!unknown)
+    Entry *const heard = entry(ctlNum);
+    if (!heard)
         return;
-    unknown->isLeft = true;
-    if (unknown->phase == Phase::Sent)
-        unknown->phase = Phase::Unknown;
+    if (outcome != ControlOutcome::Accepted) {
+        forget(ctlNum);
+        return;
+    }
+    leave(*heard, Phase::Running);
+    forgetOlder(heard->order);
 }
 
 bool ControlState::isInDoubt() const
 {
     return std::ranges::any_of(m_commands, &Entry::isLeft);
-}
-
-void ControlState::operateEnded(std::uint8_t ctlNum)
-{
-    forget(ctlNum);
 }
 
 const ControlState::Command *ControlState::command(std::uint8_t ctlNum) const

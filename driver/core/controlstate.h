@@ -12,15 +12,17 @@
 #include <optional>
 #include <vector>
 
-/// What one controllable object was told in an association, and what became of it: which selection
-/// an operate may use, and which command a cancel is about. It is told of what is sent and of what
-/// the device answers; sockets and clocks are others' business.
+/// What one controllable object was told in an association, and what became of it: whether a
+/// service may be asked for, which command it is about, and what its outcome leaves. It is told of
+/// what is sent and of what the device answers; sockets and clocks are others' business.
 class ControlState
 {
 public:
     using Time = std::chrono::steady_clock::time_point;
     /// Who asks (ControllerCaller); 0 where that is not known.
     using Caller = quint64;
+
+    enum class Service { Select, Operate, Cancel };
 
     /// A selection or command as it was sent.
     struct Command
@@ -30,21 +32,16 @@ public:
         Caller caller = 0;
     };
 
-    /// A number for the next selection or command: never 0, and none of a command whose end is not
-    /// known.
-    std::uint8_t newNumber();
+    /// How the device treats commands of the object.
+    struct Manner
+    {
+        acsi::ControlModel model = acsi::ControlModel::DirectNormal;
+        std::chrono::milliseconds selectTimeout{0}; ///< 0 for as long as it is not used
+        bool isOperateMany = false;                 ///< the selection may be used again
 
-    // Selections. A new one takes the place of the one before: when the device refuses it, the one
-    // before is operated no more either, but it can be given back.
-
-    void selectSent(Command command);
-    /// It was not sent after all; what was selected before is.
-    void selectWithdrawn(std::uint8_t ctlNum);
-    /// @p timeout how long it lasts, 0 for as long as it is not used
-    void selectGranted(std::uint8_t ctlNum, std::chrono::milliseconds timeout, Time now);
-    void selectRefused(std::uint8_t ctlNum);
-    /// Null when nothing is selected, or no longer.
-    const Command *selection(Time now) const;
+        /// The device tells of the end of a command.
+        bool terminates() const;
+    };
 
     enum class Obstacle {
         None,
@@ -53,39 +50,41 @@ public:
         SelectedAgain,   ///< which of several selections an empty record means is not known
         NotTheSelected,  ///< the record is another command than the selected one
     };
-    /// Why the selection may not be operated with this record.
-    Obstacle obstacle(const ControlBlock &block, Caller caller, Time now) const;
+    /// Why the service may not be asked for with this record.
+    Obstacle obstacle(Service service, const ControlBlock &block, Caller caller, Time now) const;
+    /// The record says what is sent: all of it, or what the state does not know.
+    bool needsRecord(Service service, Time now) const;
 
-    bool isSelectedByOther(Caller caller, Time now) const;
+    /// The command that the service sends again as it was sent before; null where the record says
+    /// what is sent.
+    const Command *repeated(Service service, acsi::ControlModel model, Time now) const;
+    /// The number of what the record says: that of the selection it is about, otherwise a new one,
+    /// never 0, and none of a command whose end is not known.
+    std::uint8_t numberFor(Service service, acsi::ControlModel model, Time now);
 
-    // Commands. One is forgotten when it is known to be over.
+    /// It is on its way. A new selection takes the place of the one before: when the device refuses
+    /// it, the one before is operated no more either, but it can be given back. An operate uses up
+    /// the selection.
+    void sent(Service service, Command command);
+    /// What became of it, or that nobody waits any more: the device may say something of a command
+    /// later all the same.
+    void ended(Service service, std::uint8_t ctlNum, acsi::ControlOutcome outcome,
+               const Manner &manner, Time now);
+    /// The device says of a command what nobody has waited for.
+    void heardLate(std::uint8_t ctlNum, acsi::ControlOutcome outcome);
+    void associationEnded();
 
-    /// Uses up the selection.
-    void operateSent(Command command);
-    /// It was not sent after all; the selection is what it was.
-    void operateWithdrawn(std::uint8_t ctlNum);
-    /// @p terminates the device will tell of its end
-    /// @p staysSelected the selection that it used may be used again
-    void operateAccepted(std::uint8_t ctlNum, bool terminates, bool staysSelected,
-                         std::chrono::milliseconds timeout, Time now);
-    void operateRefused(std::uint8_t ctlNum);
-    /// Nobody waits any more for its answer or termination, which may come all the same.
-    void operateUnknown(std::uint8_t ctlNum);
-    /// Whether there is a command of which nobody knows what became of it.
-    bool isInDoubt() const;
-    void operateEnded(std::uint8_t ctlNum);
-    /// The command with that number, as long as it is not forgotten.
+    /// Null when nothing is selected, or no longer.
+    const Command *selection(Time now) const;
+    /// The command with that number, as long as it is not forgotten: until it is known to be over.
     const Command *command(std::uint8_t ctlNum) const;
-
     /// Whether a command may be moving something.
     bool isRunning() const { return running() != nullptr; }
+    /// Whether there is a command of which nobody knows what became of it.
+    bool isInDoubt() const;
     /// What a cancel is about: the command that runs, else the selection, else the select that was
     /// sent last, whatever the device made of it. Null when there is nothing.
     const Command *cancellable(Time now) const;
-    /// The device has accepted the cancel of that number.
-    void cancelled(std::uint8_t ctlNum);
-
-    void associationEnded();
 
 private:
     enum class Phase {
@@ -103,6 +102,7 @@ private:
         std::optional<Time> end;
 
         bool isGranted() const { return phase == SelectPhase::Granted; }
+        void grant(std::chrono::milliseconds timeout, Time now);
     };
 
     struct Entry
@@ -113,9 +113,21 @@ private:
         bool isLeft = false;                ///< nobody waits for it any more
         std::optional<Selection> selection; ///< that it used
     };
+    std::uint8_t newNumber();
+    bool isSelectedByOther(Caller caller, Time now) const;
+    void selectSent(Command command);
+    void selectEnded(std::uint8_t ctlNum, acsi::ControlOutcome outcome, const Manner &manner,
+                     Time now);
+    void operateSent(Command command);
+    void operateEnded(std::uint8_t ctlNum, acsi::ControlOutcome outcome, const Manner &manner,
+                      Time now);
+    /// Its end is not awaited any more.
+    void leave(Entry &which, Phase phase);
+    void cancelled(std::uint8_t ctlNum);
     Entry *entry(std::uint8_t ctlNum);
     const Entry *running() const;
     void forget(std::uint8_t ctlNum);
+    /// An object executes one command at a time.
     void forgetOlder(std::uint64_t order);
     bool isLive(Time now) const;
 

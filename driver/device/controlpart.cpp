@@ -10,9 +10,6 @@
 
 #include <QtCore/QCoreApplication>
 
-using std::chrono::milliseconds;
-using std::chrono::steady_clock;
-
 namespace Controls {
 
 namespace {
@@ -128,21 +125,18 @@ void Part::heardLate(const acsi::Reference &reference, const std::string &name, 
     QString problem;
     switch (result.outcome) {
     case acsi::ControlOutcome::Accepted:
-        state.operateAccepted(ctlNum, true, false, milliseconds(0), steady_clock::now());
-        state.operateUnknown(ctlNum);
         change.error = text(result.message) + QLatin1Char(' ') + unknownSentence(Service::Operate);
         problem = change.error;
         break;
     case acsi::ControlOutcome::Done:
         problem =
             Texts::tr("%1: the command that was not answered in time was carried out.").arg(object);
-        state.operateEnded(ctlNum);
         break;
     default:
         change.error = text(result.message);
         problem = change.error;
-        state.operateEnded(ctlNum);
     }
+    state.heardLate(ctlNum, result.outcome);
     if (result.applError)
         change.additionalCause = text(acsi::additionalCauseText(result.applError->addCause));
     ChangeGate::tell(m_device, std::move(change));

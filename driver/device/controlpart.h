@@ -13,7 +13,7 @@
 /// What the operations on controllable objects share, and what outlives them.
 namespace Controls {
 
-enum class Service { Select, Operate, Cancel };
+using Service = ControlState::Service;
 
 /// The controller operation, for the journal.
 QString operationName(Service service);

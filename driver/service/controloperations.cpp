@@ -19,7 +19,6 @@
 using acsi::ControlModel;
 using Controls::Service;
 using std::chrono::milliseconds;
-using std::chrono::steady_clock;
 
 namespace {
 
@@ -109,7 +108,7 @@ public:
         if (const QString refusal = beforehand(); !refusal.isEmpty())
             co_return failed(refusal);
         const ControlState::Command *known =
-            m_service == Service::Cancel ? m_state.cancellable(steady_clock::now()) : nullptr;
+            m_service == Service::Cancel ? m_state.cancellable(m_device->now()) : nullptr;
         const bool isUrgent = known && m_object.control && m_object.control->client() == m_client;
         if (!isUrgent) {
             const auto looked = co_await look();
@@ -122,18 +121,7 @@ public:
             if (const QString refusal = afterwards(); !refusal.isEmpty())
                 co_return failed(refusal);
         }
-        acsi::ControlResult result;
-        switch (m_service) {
-        case Service::Select:
-            result = co_await select();
-            break;
-        case Service::Operate:
-            result = co_await operate();
-            break;
-        case Service::Cancel:
-            result = co_await cancel();
-            break;
-        }
+        acsi::ControlResult result = co_await send();
         m_request->isOnTheWay = false;
         if (isUnknown(result.outcome)) {
             result.message = wording::sentences(
@@ -172,23 +160,17 @@ private:
     {
         if (const Outcome permission = m_change->permission(kind()); !permission)
             return permission.error;
-        const auto now = steady_clock::now();
+        const auto now = m_device->now();
+        if (const QString why =
+                obstacle(m_state.obstacle(m_service, m_block, m_request->tool, now));
+            !why.isEmpty())
+            return why;
+        return m_state.needsRecord(m_service, now) ? faultOfRecord() : QString();
+    }
+
+    QString faultOfRecord() const
+    {
         const auto valid = ControlOrder::toRequest(m_block, originator(), 0);
-        const auto model = static_cast<ControlModel>(m_block.controlModel);
-        if (m_service == Service::Cancel) {
-            if (m_state.cancellable(now))
-                return {};
-            if (model == ControlModel::SelectEnhanced)
-                return Texts::tr("Select the object first");
-        }
-        if (m_service == Service::Operate && model == ControlModel::SelectEnhanced) {
-            if (const QString why = obstacle(m_state.obstacle(m_block, m_request->tool, now));
-                !why.isEmpty())
-                return why;
-        }
-        if (m_service == Service::Operate && model == ControlModel::SelectNormal &&
-            m_state.isSelectedByOther(m_request->tool, now))
-            return obstacle(ControlState::Obstacle::SelectedByOther);
         return valid ? QString() : text(valid.error().message);
     }
 
@@ -279,9 +261,34 @@ private:
 
     QByteArray originator() const { return m_device->configuration().originatorIdentification; }
 
-    ControlState::Command command(const ControlBlock &block, std::uint8_t ctlNum) const
+    /// What is sent now; a sentence when that is nothing.
+    QString choose(ControlState::Command &command)
     {
-        return {block, *ControlOrder::toRequest(block, originator(), ctlNum), m_request->tool};
+        const auto now = m_device->now();
+        const ControlModel model = m_object.control->model();
+        if (const ControlState::Command *again = m_state.repeated(m_service, model, now)) {
+            command = *again;
+            command.request.time = ControlOrder::now();
+            m_block = command.block;
+        } else {
+            if (const QString why =
+                    obstacle(m_state.obstacle(m_service, m_block, m_request->tool, now));
+                !why.isEmpty())
+                return why;
+            // Of what it cancels the device knows no more than the number; the record says the
+            // rest.
+            if (m_service == Service::Cancel && ControlOrder::isEmpty(m_block))
+                m_block.orCat = static_cast<quint8>(m_device->configuration().originatorCategory);
+            const auto request = ControlOrder::toRequest(m_block, originator(),
+                                                         m_state.numberFor(m_service, model, now));
+            if (!request)
+                return text(request.error().message);
+            command = {m_block, *request, m_request->tool};
+        }
+        // No Cancel has a place for them.
+        if (m_service == Service::Cancel)
+            m_block.check = 0;
+        return {};
     }
 
     /// The right to send it; null when there is none. From now on nobody knows what becomes of it
@@ -299,113 +306,42 @@ private:
 
     acsi::ControlResult refusal() const { return failed(m_change->refusal().error); }
 
-    asio::awaitable<acsi::ControlResult> select()
+    static ControlState::Manner mannerOf(const acsi::ControlObject &control)
     {
-        const auto client = goes();
-        if (!client)
-            co_return refusal();
-        const auto control = m_object.control;
-        const ControlState::Command command = this->command(m_block, m_state.newNumber());
-        const std::uint8_t number = command.request.ctlNum;
-        m_state.selectSent(command);
-        const acsi::ControlResult result = co_await control->select(client, command.request);
-        if (m_device->client() != m_client)
-            co_return result;
-        if (result)
-            m_state.selectGranted(number, control->selectTimeout().value_or(milliseconds(0)),
-                                  steady_clock::now());
-        else if (result.outcome == acsi::ControlOutcome::NotSent)
-            m_state.selectWithdrawn(number);
-        else if (!isUnknown(result.outcome))
-            m_state.selectRefused(number);
-        co_return result;
+        return {control.model(), control.selectTimeout().value_or(milliseconds(0)),
+                control.isOperateMany()};
     }
 
-    asio::awaitable<acsi::ControlResult> operate()
+    asio::awaitable<acsi::ControlResult> send()
     {
-        const auto control = m_object.control;
-        const ControlState::Command *selection = m_state.selection(steady_clock::now());
         ControlState::Command command;
-        if (control->model() == ControlModel::SelectEnhanced) {
-            // It may have run out since it was looked at.
-            if (!selection)
-                co_return failed(obstacle(ControlState::Obstacle::NotSelected));
-            command = *selection;
-            command.request.time = ControlOrder::now();
-            m_block = command.block;
-        } else {
-            const bool uses = selection && control->model() == ControlModel::SelectNormal;
-            command =
-                this->command(m_block, uses ? selection->request.ctlNum : m_state.newNumber());
-        }
-        const std::uint8_t number = command.request.ctlNum;
-        const bool terminates = isEnhanced(static_cast<quint8>(control->model()));
+        if (const QString why = choose(command); !why.isEmpty())
+            co_return failed(why);
         const auto client = goes();
         if (!client)
             co_return refusal();
-        m_state.operateSent(command);
+        const auto control = m_object.control;
+        const std::uint8_t number = command.request.ctlNum;
+        m_state.sent(m_service, command);
         Given given(*this, number);
-        const acsi::ControlResult result = co_await control->operate(
-            client, command.request, ControlOrder::terminationPatience(control->operateTimeout()));
+        acsi::ControlResult result;
+        switch (m_service) {
+        case Service::Select:
+            result = co_await control->select(client, command.request);
+            break;
+        case Service::Operate: {
+            const milliseconds patience =
+                ControlOrder::terminationPatience(control->operateTimeout());
+            result = co_await control->operate(client, command.request, patience);
+            break;
+        }
+        case Service::Cancel:
+            result = co_await control->cancel(client, command.request);
+            break;
+        }
         given.isOver = true;
-        if (m_device->client() != m_client)
-            co_return result;
-        switch (result.outcome) {
-        case acsi::ControlOutcome::NotSent:
-            m_state.operateWithdrawn(number);
-            break;
-        case acsi::ControlOutcome::Refused:
-            m_state.operateRefused(number);
-            break;
-        case acsi::ControlOutcome::Accepted:
-            m_state.operateAccepted(number, terminates, false, milliseconds(0),
-                                    steady_clock::now());
-            m_state.operateUnknown(number);
-            break;
-        case acsi::ControlOutcome::Done:
-            m_state.operateAccepted(number, terminates, control->isOperateMany(),
-                                    control->selectTimeout().value_or(milliseconds(0)),
-                                    steady_clock::now());
-            if (terminates)
-                m_state.operateEnded(number);
-            break;
-        case acsi::ControlOutcome::Failed:
-            m_state.operateEnded(number);
-            break;
-        case acsi::ControlOutcome::Unknown:
-            m_state.operateUnknown(number);
-            break;
-        }
-        co_return result;
-    }
-
-    asio::awaitable<acsi::ControlResult> cancel()
-    {
-        const auto control = m_object.control;
-        const auto now = steady_clock::now();
-        const ControlState::Command *known = m_state.cancellable(now);
-        ControlState::Command command;
-        if (known && (m_state.isRunning() || control->model() == ControlModel::SelectEnhanced)) {
-            command = *known;
-        } else {
-            // Of such a selection the device knows no more than the number; the record says the
-            // rest.
-            if (ControlOrder::isEmpty(m_block))
-                m_block.orCat = static_cast<quint8>(m_device->configuration().originatorCategory);
-            if (const auto valid = ControlOrder::toRequest(m_block, originator(), 0); !valid)
-                co_return failed(text(valid.error().message));
-            command = this->command(m_block, known ? known->request.ctlNum : m_state.newNumber());
-        }
-        command.request.time = ControlOrder::now();
-        m_block = command.block;
-        // No Cancel has a place for them.
-        m_block.check = 0;
-        const auto client = goes();
-        if (!client)
-            co_return refusal();
-        const acsi::ControlResult result = co_await control->cancel(client, command.request);
-        if (result && m_device->client() == m_client)
-            m_state.cancelled(command.request.ctlNum);
+        if (m_device->client() == m_client)
+            m_state.ended(m_service, number, result.outcome, mannerOf(*control), m_device->now());
         co_return result;
     }
 
@@ -419,9 +355,10 @@ private:
         }
         ~Given()
         {
-            if (isOver)
+            if (isOver || control.m_service != Service::Operate)
                 return;
-            control.m_state.operateUnknown(number);
+            control.m_state.ended(Service::Operate, number, acsi::ControlOutcome::Unknown, {},
+                                  control.m_device->now());
             control.m_part.setProblem(
                 control.m_name,
                 QString::fromStdString(acsi::objectReferenceText(control.m_reference)) +

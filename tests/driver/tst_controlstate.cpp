@@ -7,7 +7,10 @@
 using std::chrono::milliseconds;
 using std::chrono::seconds;
 using Command = ControlState::Command;
+using Model = acsi::ControlModel;
 using Obstacle = ControlState::Obstacle;
+using Outcome = acsi::ControlOutcome;
+using Service = ControlState::Service;
 
 namespace {
 
@@ -37,43 +40,45 @@ struct Bench
 {
     ControlState state;
     ControlState::Time now{seconds(1000)};
+    ControlState::Manner manner{Model::SelectEnhanced, seconds(30), false};
 
     int select(double value, ControlState::Caller caller = 0, bool granted = true)
     {
         const int number = sendSelect(value, caller);
-        if (granted)
-            state.selectGranted(static_cast<std::uint8_t>(number), seconds(30), now);
-        else
-            state.selectRefused(static_cast<std::uint8_t>(number));
+        end(Service::Select, number, granted ? Outcome::Done : Outcome::Refused);
         return number;
     }
     int sendSelect(double value, ControlState::Caller caller = 0)
     {
-        const Command command = made(value, state.newNumber(), caller);
-        state.selectSent(command);
-        return command.request.ctlNum;
+        return sendNew(Service::Select, value, caller);
     }
-    int send(double value)
-    {
-        const Command command = made(value, state.newNumber(), 0);
-        state.operateSent(command);
-        return command.request.ctlNum;
-    }
+    int send(double value) { return sendNew(Service::Operate, value, 0); }
     /// Operates what is selected, under its number.
     int sendSelected()
     {
-        const Command command = *state.selection(now);
-        state.operateSent(command);
+        const Command command = *state.repeated(Service::Operate, manner.model, now);
+        state.sent(Service::Operate, command);
         return command.request.ctlNum;
     }
-    void accept(int number, bool terminates = true, bool staysSelected = false)
+    /// The device has taken it, and nobody waits for its end.
+    void accept(int number) { end(Service::Operate, number, Outcome::Accepted); }
+    void carryOut(int number) { end(Service::Operate, number, Outcome::Done); }
+    void refuse(int number) { end(Service::Operate, number, Outcome::Refused); }
+    void loseSight(int number) { end(Service::Operate, number, Outcome::Unknown); }
+    void cancel(int number) { end(Service::Cancel, number, Outcome::Done); }
+    void hear(int number, Outcome outcome)
     {
-        state.operateAccepted(static_cast<std::uint8_t>(number), terminates, staysSelected,
-                              seconds(30), now);
+        state.heardLate(static_cast<std::uint8_t>(number), outcome);
     }
-    void refuse(int number) { state.operateRefused(static_cast<std::uint8_t>(number)); }
-    void end(int number) { state.operateEnded(static_cast<std::uint8_t>(number)); }
-    void loseSight(int number) { state.operateUnknown(static_cast<std::uint8_t>(number)); }
+    void end(Service service, int number, Outcome outcome)
+    {
+        state.ended(service, static_cast<std::uint8_t>(number), outcome, manner, now);
+    }
+
+    Obstacle toOperate(const ControlBlock &record, ControlState::Caller caller = 0) const
+    {
+        return state.obstacle(Service::Operate, record, caller, now);
+    }
 
     /// The number that a cancel carries; 0 for none.
     int cancels() const
@@ -83,13 +88,14 @@ struct Bench
     }
 
 private:
-    static Command made(double value, std::uint8_t number, ControlState::Caller caller)
+    int sendNew(Service service, double value, ControlState::Caller caller)
     {
         Command command;
         command.block = block(value);
-        command.request.ctlNum = number;
+        command.request.ctlNum = state.numberFor(service, manner.model, now);
         command.caller = caller;
-        return command;
+        state.sent(service, command);
+        return command.request.ctlNum;
     }
 };
 
@@ -120,6 +126,12 @@ private slots:
     void aCommandThatWasNotSentLeavesTheSelection();
     void aSelectionForManyCommandsStays();
     void doubtLastsUntilTheCommandIsKnownToBeOver();
+    void onlyASelectedObjectOfTheEnhancedModelIsOperatedOrGivenBack();
+    void theNormalModelRefusesWhatAnotherWindowHasSelected();
+    void aDirectCommandIsWhatTheRecordSays();
+    void aCommandGoesUnderTheNumberOfItsSelection();
+    void aCancelRepeatsWhatRuns();
+    void whatNobodyKnowsIsHeardLateForNothing();
     void nothingOutlivesTheAssociation();
     void theEndOfACommandIsAwaitedAsLongAsTheDeviceSays();
 };
@@ -131,8 +143,8 @@ void tst_ControlState::numbersAreNeverZeroAndNeverThoseOfACommandThatRuns()
     QCOMPARE(running, 1);
     bench.accept(running);
     for (int i = 2; i <= 255; ++i)
-        QCOMPARE(int(bench.state.newNumber()), i);
-    QCOMPARE(int(bench.state.newNumber()), 2);
+        QCOMPARE(int(bench.state.numberFor(Service::Select, bench.manner.model, bench.now)), i);
+    QCOMPARE(int(bench.state.numberFor(Service::Select, bench.manner.model, bench.now)), 2);
 }
 
 void tst_ControlState::aRefusedCommandIsNeverCancelledInsteadOfTheOneThatRuns()
@@ -156,23 +168,25 @@ void tst_ControlState::aCommandWhoseOutcomeIsUnknownCanBeCancelled()
     bench.now += seconds(3600);
     QCOMPARE(bench.cancels(), operated);
     QVERIFY(bench.state.isRunning());
-    bench.accept(operated);
-    bench.loseSight(operated);
+    bench.hear(operated, Outcome::Accepted);
     QCOMPARE(bench.cancels(), operated);
+    QVERIFY(bench.state.isInDoubt());
 }
 
 void tst_ControlState::aCommandIsForgottenAfterItsEndOrRefusal()
 {
     Bench bench;
-    const int first = bench.send(1);
-    bench.accept(first);
-    bench.end(first);
-    QCOMPARE(bench.cancels(), 0);
-    QVERIFY(!bench.state.isRunning());
-    const int second = bench.send(1);
-    bench.loseSight(second);
-    bench.refuse(second);
-    QCOMPARE(bench.cancels(), 0);
+    for (const Outcome outcome : {Outcome::Done, Outcome::Failed, Outcome::Refused}) {
+        bench.end(Service::Operate, bench.send(1), outcome);
+        QCOMPARE(bench.cancels(), 0);
+        QVERIFY(!bench.state.isRunning());
+        const int lost = bench.send(1);
+        bench.loseSight(lost);
+        QCOMPARE(bench.cancels(), lost);
+        bench.hear(lost, outcome);
+        QCOMPARE(bench.cancels(), 0);
+        QVERIFY(!bench.state.isInDoubt());
+    }
 }
 
 void tst_ControlState::aCommandThatRunsGoesBeforeOneWithoutAnswer()
@@ -183,21 +197,22 @@ void tst_ControlState::aCommandThatRunsGoesBeforeOneWithoutAnswer()
     const int off = bench.send(0);
     bench.loseSight(off);
     QCOMPARE(bench.cancels(), on);
-    bench.end(on);
+    bench.hear(on, Outcome::Done);
     QCOMPARE(bench.cancels(), off);
 }
 
 void tst_ControlState::anObjectThatTellsOfNoEndKeepsTheLastAcceptedCommand()
 {
     Bench bench;
+    bench.manner.model = Model::DirectNormal;
     const int first = bench.send(1);
-    bench.accept(first, false);
+    bench.carryOut(first);
     QCOMPARE(bench.cancels(), first);
     const int second = bench.send(0);
-    bench.accept(second, false);
+    bench.carryOut(second);
     QCOMPARE(bench.cancels(), second);
     QVERIFY(!bench.state.command(static_cast<std::uint8_t>(first)));
-    bench.state.cancelled(static_cast<std::uint8_t>(second));
+    bench.cancel(second);
     QCOMPARE(bench.cancels(), 0);
 }
 
@@ -207,7 +222,7 @@ void tst_ControlState::aSelectThatWasRefusedOrUnansweredCanBeCancelled()
     const int refused = bench.select(1, 0, false);
     QVERIFY(!bench.state.selection(bench.now));
     QCOMPARE(bench.cancels(), refused);
-    bench.state.cancelled(static_cast<std::uint8_t>(refused));
+    bench.cancel(refused);
     QCOMPARE(bench.cancels(), 0);
     const int unanswered = bench.sendSelect(1);
     QCOMPARE(bench.cancels(), unanswered);
@@ -232,9 +247,9 @@ void tst_ControlState::aSelectThatWasNotSentLeavesTheOneBefore()
 {
     Bench bench;
     const int granted = bench.select(1);
-    bench.state.selectWithdrawn(static_cast<std::uint8_t>(bench.sendSelect(0)));
+    bench.end(Service::Select, bench.sendSelect(0), Outcome::NotSent);
     QVERIFY(bench.state.selection(bench.now));
-    QCOMPARE(bench.state.obstacle(emptyBlock(), 0, bench.now), Obstacle::None);
+    QCOMPARE(bench.toOperate(emptyBlock(), 0), Obstacle::None);
     QCOMPARE(bench.cancels(), granted);
 }
 
@@ -243,7 +258,7 @@ void tst_ControlState::aRefusedSelectLeavesNoDoubtOfTheNext()
     Bench bench;
     bench.select(1, 0, false);
     bench.select(0);
-    QCOMPARE(bench.state.obstacle(emptyBlock(), 0, bench.now), Obstacle::None);
+    QCOMPARE(bench.toOperate(emptyBlock(), 0), Obstacle::None);
 }
 
 void tst_ControlState::theSelectionIsCancelledUntilItIsUsed()
@@ -253,8 +268,7 @@ void tst_ControlState::theSelectionIsCancelledUntilItIsUsed()
     QCOMPARE(bench.cancels(), selected);
     QCOMPARE(bench.sendSelected(), selected);
     QVERIFY(!bench.state.selection(bench.now));
-    bench.accept(selected);
-    bench.end(selected);
+    bench.carryOut(selected);
     QCOMPARE(bench.cancels(), 0);
 }
 
@@ -276,11 +290,12 @@ void tst_ControlState::aSelectionLastsAsLongAsTheDeviceSays()
     QVERIFY(bench.state.selection(bench.now));
     bench.now += milliseconds(1);
     QVERIFY(!bench.state.selection(bench.now));
-    QCOMPARE(bench.state.obstacle(emptyBlock(), 0, bench.now), Obstacle::NotSelected);
+    QCOMPARE(bench.toOperate(emptyBlock(), 0), Obstacle::NotSelected);
     // The device's clock may be another.
     QCOMPARE(bench.cancels(), selected);
     const int endless = bench.sendSelect(1);
-    bench.state.selectGranted(static_cast<std::uint8_t>(endless), milliseconds(0), bench.now);
+    bench.manner.selectTimeout = milliseconds(0);
+    bench.end(Service::Select, endless, Outcome::Done);
     bench.now += seconds(100000);
     QVERIFY(bench.state.selection(bench.now));
 }
@@ -289,20 +304,20 @@ void tst_ControlState::anEmptyRecordUsesTheSelectionOfItsOwnWindowOnly()
 {
     Bench bench;
     bench.select(1, windowA);
-    QCOMPARE(bench.state.obstacle(emptyBlock(), windowA, bench.now), Obstacle::None);
+    QCOMPARE(bench.toOperate(emptyBlock(), windowA), Obstacle::None);
     bench.select(0, windowB);
-    QCOMPARE(bench.state.obstacle(emptyBlock(), windowA, bench.now), Obstacle::SelectedByOther);
-    QCOMPARE(bench.state.obstacle(block(1), windowA, bench.now), Obstacle::SelectedByOther);
-    QCOMPARE(bench.state.obstacle(emptyBlock(), windowB, bench.now), Obstacle::None);
+    QCOMPARE(bench.toOperate(emptyBlock(), windowA), Obstacle::SelectedByOther);
+    QCOMPARE(bench.toOperate(block(1), windowA), Obstacle::SelectedByOther);
+    QCOMPARE(bench.toOperate(emptyBlock(), windowB), Obstacle::None);
     // Also when the first has run out before.
     Bench late;
     late.select(1, windowA);
     late.now += seconds(31);
     late.select(0, windowB);
-    QCOMPARE(late.state.obstacle(emptyBlock(), windowA, late.now), Obstacle::SelectedByOther);
+    QCOMPARE(late.toOperate(emptyBlock(), windowA), Obstacle::SelectedByOther);
     // One window may change its mind.
     bench.select(1, windowB);
-    QCOMPARE(bench.state.obstacle(emptyBlock(), windowB, bench.now), Obstacle::None);
+    QCOMPARE(bench.toOperate(emptyBlock(), windowB), Obstacle::None);
 }
 
 void tst_ControlState::anEmptyRecordAfterADifferentSelectIsRefusedWhereNobodyIsKnown()
@@ -310,13 +325,13 @@ void tst_ControlState::anEmptyRecordAfterADifferentSelectIsRefusedWhereNobodyIsK
     Bench bench;
     bench.select(1);
     bench.select(0);
-    QCOMPARE(bench.state.obstacle(emptyBlock(), 0, bench.now), Obstacle::SelectedAgain);
+    QCOMPARE(bench.toOperate(emptyBlock(), 0), Obstacle::SelectedAgain);
     // A record that says what it means is clear.
-    QCOMPARE(bench.state.obstacle(block(0), 0, bench.now), Obstacle::None);
-    QCOMPARE(bench.state.obstacle(block(1), 0, bench.now), Obstacle::NotTheSelected);
-    bench.state.cancelled(static_cast<std::uint8_t>(bench.cancels()));
+    QCOMPARE(bench.toOperate(block(0), 0), Obstacle::None);
+    QCOMPARE(bench.toOperate(block(1), 0), Obstacle::NotTheSelected);
+    bench.cancel(bench.cancels());
     bench.select(1);
-    QCOMPARE(bench.state.obstacle(emptyBlock(), 0, bench.now), Obstacle::None);
+    QCOMPARE(bench.toOperate(emptyBlock(), 0), Obstacle::None);
 }
 
 void tst_ControlState::selectingTheSameAgainLeavesNoDoubt()
@@ -324,18 +339,18 @@ void tst_ControlState::selectingTheSameAgainLeavesNoDoubt()
     Bench bench;
     bench.select(1);
     bench.select(1);
-    QCOMPARE(bench.state.obstacle(emptyBlock(), 0, bench.now), Obstacle::None);
+    QCOMPARE(bench.toOperate(emptyBlock(), 0), Obstacle::None);
 }
 
 void tst_ControlState::anotherCommandThanTheSelectedOneIsRefused()
 {
     Bench bench;
     bench.select(1, windowA);
-    QCOMPARE(bench.state.obstacle(block(1), windowA, bench.now), Obstacle::None);
-    QCOMPARE(bench.state.obstacle(block(0), windowA, bench.now), Obstacle::NotTheSelected);
+    QCOMPARE(bench.toOperate(block(1), windowA), Obstacle::None);
+    QCOMPARE(bench.toOperate(block(0), windowA), Obstacle::NotTheSelected);
     ControlBlock tested = block(1);
     tested.test = 1;
-    QCOMPARE(bench.state.obstacle(tested, windowA, bench.now), Obstacle::NotTheSelected);
+    QCOMPARE(bench.toOperate(tested, windowA), Obstacle::NotTheSelected);
 }
 
 void tst_ControlState::aCommandThatWasNotSentLeavesTheSelection()
@@ -343,7 +358,7 @@ void tst_ControlState::aCommandThatWasNotSentLeavesTheSelection()
     Bench bench;
     bench.select(1);
     const int number = bench.sendSelected();
-    bench.state.operateWithdrawn(static_cast<std::uint8_t>(number));
+    bench.end(Service::Operate, number, Outcome::NotSent);
     QVERIFY(!bench.state.isRunning());
     QVERIFY(bench.state.selection(bench.now));
     bench.now += seconds(30);
@@ -356,32 +371,32 @@ void tst_ControlState::aSelectionForManyCommandsStays()
     bench.select(1);
     const int number = bench.sendSelected();
     bench.now += seconds(20);
-    bench.accept(number, true, true);
     // While the command runs a cancel is about it.
     QVERIFY(bench.state.isRunning());
-    bench.end(number);
+    bench.manner.isOperateMany = true;
+    bench.carryOut(number);
     bench.now += seconds(20);
     QVERIFY(bench.state.selection(bench.now));
-    QCOMPARE(bench.state.obstacle(emptyBlock(), 0, bench.now), Obstacle::None);
+    QCOMPARE(bench.toOperate(emptyBlock(), 0), Obstacle::None);
 }
 
 void tst_ControlState::doubtLastsUntilTheCommandIsKnownToBeOver()
 {
     Bench bench;
     const int running = bench.send(1);
-    bench.accept(running);
     QVERIFY(!bench.state.isInDoubt());
-    bench.loseSight(running);
+    bench.accept(running);
     QVERIFY(bench.state.isInDoubt());
     // That another one is refused says nothing of it.
     bench.refuse(bench.send(0));
     QVERIFY(bench.state.isInDoubt());
-    bench.end(running);
+    bench.hear(running, Outcome::Failed);
     QVERIFY(!bench.state.isInDoubt());
     const int silent = bench.send(1);
     bench.loseSight(silent);
     QVERIFY(bench.state.isInDoubt());
-    bench.accept(bench.send(0), false);
+    bench.manner.model = Model::DirectNormal;
+    bench.carryOut(bench.send(0));
     QVERIFY(!bench.state.isInDoubt());
 }
 
@@ -395,6 +410,101 @@ void tst_ControlState::theEndOfACommandIsAwaitedAsLongAsTheDeviceSays()
     QCOMPARE(terminationPatience(seconds(100000)).count(), 3602000);
 }
 
+void tst_ControlState::onlyASelectedObjectOfTheEnhancedModelIsOperatedOrGivenBack()
+{
+    Bench bench;
+    const auto obstacle = [&bench](Service service) {
+        return bench.state.obstacle(service, block(1), 0, bench.now);
+    };
+    QCOMPARE(obstacle(Service::Select), Obstacle::None);
+    QCOMPARE(obstacle(Service::Operate), Obstacle::NotSelected);
+    QCOMPARE(obstacle(Service::Cancel), Obstacle::NotSelected);
+    QVERIFY(!bench.state.repeated(Service::Operate, Model::SelectEnhanced, bench.now));
+    bench.select(1);
+    for (const Service service : {Service::Select, Service::Operate, Service::Cancel})
+        QCOMPARE(obstacle(service), Obstacle::None);
+    QVERIFY(!bench.state.needsRecord(Service::Cancel, bench.now));
+    QVERIFY(bench.state.needsRecord(Service::Operate, bench.now));
+}
+
+void tst_ControlState::theNormalModelRefusesWhatAnotherWindowHasSelected()
+{
+    Bench bench;
+    bench.manner.model = Model::SelectNormal;
+    ControlBlock record = block(1);
+    record.controlModel = 2;
+    // The device itself knows whether it is selected.
+    QCOMPARE(bench.toOperate(record, windowA), Obstacle::None);
+    bench.select(1, windowB);
+    QCOMPARE(bench.toOperate(record, windowA), Obstacle::SelectedByOther);
+    QCOMPARE(bench.toOperate(record, windowB), Obstacle::None);
+    QCOMPARE(bench.toOperate(record), Obstacle::None);
+}
+
+void tst_ControlState::aDirectCommandIsWhatTheRecordSays()
+{
+    Bench bench;
+    bench.select(1, windowB);
+    for (const Model model : {Model::DirectNormal, Model::DirectEnhanced}) {
+        ControlBlock record = block(0);
+        record.controlModel = static_cast<quint8>(model);
+        QCOMPARE(bench.toOperate(record, windowA), Obstacle::None);
+        QVERIFY(!bench.state.repeated(Service::Operate, model, bench.now));
+        QCOMPARE(bench.state.obstacle(Service::Cancel, record, windowA, bench.now), Obstacle::None);
+    }
+}
+
+void tst_ControlState::aCommandGoesUnderTheNumberOfItsSelection()
+{
+    Bench bench;
+    bench.manner.model = Model::SelectNormal;
+    const int selected = bench.select(1);
+    // Selecting again is another one.
+    QVERIFY(bench.state.numberFor(Service::Select, Model::SelectNormal, bench.now) != selected);
+    QCOMPARE(int(bench.state.numberFor(Service::Cancel, Model::SelectNormal, bench.now)), selected);
+    QCOMPARE(bench.send(1), selected);
+    bench.carryOut(selected);
+    bench.now += seconds(31);
+    QVERIFY(bench.send(1) != selected);
+}
+
+void tst_ControlState::aCancelRepeatsWhatRuns()
+{
+    Bench bench;
+    bench.manner.model = Model::SelectNormal;
+    const auto repeated = [&bench] {
+        const Command *command =
+            bench.state.repeated(Service::Cancel, bench.manner.model, bench.now);
+        return command ? int(command->request.ctlNum) : 0;
+    };
+    // Of a selection by reading the device knows no more than the number.
+    const int selected = bench.select(1);
+    QCOMPARE(repeated(), 0);
+    QCOMPARE(bench.send(1), selected);
+    QCOMPARE(repeated(), selected);
+    bench.carryOut(selected);
+    bench.cancel(selected);
+    QCOMPARE(repeated(), 0);
+    bench.manner.model = Model::SelectEnhanced;
+    QCOMPARE(repeated(), 0);
+    const int again = bench.select(1);
+    QCOMPARE(repeated(), again);
+}
+
+void tst_ControlState::whatNobodyKnowsIsHeardLateForNothing()
+{
+    Bench bench;
+    const int running = bench.send(1);
+    bench.accept(running);
+    for (const Outcome outcome : {Outcome::Accepted, Outcome::Done, Outcome::Failed})
+        bench.hear(running + 1, outcome);
+    bench.end(Service::Operate, running + 1, Outcome::Done);
+    bench.end(Service::Select, running + 1, Outcome::Done);
+    QCOMPARE(bench.cancels(), running);
+    QVERIFY(bench.state.isInDoubt());
+    QVERIFY(!bench.state.selection(bench.now));
+}
+
 void tst_ControlState::nothingOutlivesTheAssociation()
 {
     Bench bench;
@@ -405,7 +515,7 @@ void tst_ControlState::nothingOutlivesTheAssociation()
     QVERIFY(!bench.state.isRunning());
     QVERIFY(!bench.state.selection(bench.now));
     // Numbers go on: the device may remember the last one.
-    QCOMPARE(int(bench.state.newNumber()), 3);
+    QCOMPARE(int(bench.state.numberFor(Service::Select, bench.manner.model, bench.now)), 3);
 }
 
 QTEST_APPLESS_MAIN(tst_ControlState)
