@@ -114,11 +114,12 @@ asio::awaitable<void> ModelReading::identified(ClientPointer client)
 QString ModelReading::loadFile(const QStringList &logicalDevices)
 {
     const DeviceConfiguration &configuration = m_connection.configuration();
-    if (configuration.sclFile.isEmpty() || (m_fileRead && m_fileFor == logicalDevices))
+    if (m_fileFor == logicalDevices)
         return {};
-    m_fileRead = true;
     m_fileFor = logicalDevices;
     m_fromFile.reset();
+    if (configuration.sclFile.isEmpty())
+        return {};
     const scl::ReadResult read = SclImport::readFile(configuration.sclFile);
     if (!read.document)
         return SclImport::errorText(read);

@@ -15,6 +15,7 @@
 
 #include <atomic>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class DeviceConnection;
@@ -80,8 +81,7 @@ private:
     DeviceIdentity m_identity;
     QHash<QString, QString> m_revisions; ///< configuration revisions by logical device
     std::unique_ptr<PhysicalDevice> m_fromFile;
-    bool m_fileRead = false;
-    QStringList m_fileFor; ///< the logical devices that the file was chosen for
+    std::optional<QStringList> m_fileFor; ///< the logical devices that the file was chosen for
     std::shared_ptr<std::atomic<bool>> m_cancelled; ///< while names and types are read
     bool m_isIdentifying = false;
     bool m_answersIdentify = true;

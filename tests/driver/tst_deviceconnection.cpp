@@ -223,6 +223,7 @@ private slots:
     void cleanup();
     void anAssociationIsMadeServedAndLeft();
     void aLostDeviceIsWaitedForInGrowingPausesUntilItIsBack();
+    void aDeviceThatComesBackTheSameKeepsItsModel();
     void pausesAreShortAgainAfterAWhileOnlineOnly();
     void namesOfAnotherDeviceAreWaitedForUntilTheyAreReleased();
     void whatHappensInEachState_data();
@@ -359,6 +360,26 @@ void tst_DeviceConnection::aLostDeviceIsWaitedForInGrowingPausesUntilItIsBack()
     QCOMPARE(rig.status.reason, QString());
     QVERIFY(!rig.status.lostSince.isValid());
     QCOMPARE(rig.status.counters.connections, std::uint64_t(2));
+}
+
+void tst_DeviceConnection::aDeviceThatComesBackTheSameKeepsItsModel()
+{
+    Rig rig(configuration());
+    QVERIFY(bringTo(Place::Online, rig));
+    const OnlineModel *const model = rig.connection().model();
+    QVERIFY(model);
+    const QString reference = "LIFELD/GGIO1$ST$Ind1$stVal";
+    const DataAttribute *const value = model->device().findTag(reference);
+    QVERIFY(value && value->value.isValid());
+    m_ied->stop();
+    QVERIFY(rig.runUntil(DeviceState::Waiting));
+    QCOMPARE(rig.connection().model(), model);
+    m_ied->start();
+    rig.pass(200ms);
+    QVERIFY(rig.runUntil(DeviceState::Online));
+    QCOMPARE(rig.connection().model(), model);
+    QCOMPARE(model->device().findTag(reference), value);
+    QVERIFY(value->value.isValid());
 }
 
 void tst_DeviceConnection::pausesAreShortAgainAfterAWhileOnlineOnly()
@@ -537,10 +558,14 @@ bool tst_DeviceConnection::bringTo(Place place, IedDriver &driver, Observed &obs
     case Place::Connecting:
         m_links.silenceAfter(0);
         driver.connectDevice(1);
+        if (!observed.waitFor(DeviceState::Connecting))
+            return false;
         break;
     case Place::Reading:
         m_links.silenceAfter(1);
         driver.connectDevice(1);
+        if (!observed.waitFor(DeviceState::ReadingModel))
+            return false;
         break;
     case Place::Online:
         driver.connectDevice(1);
