@@ -93,24 +93,44 @@ const DataAttribute *statusOf(const PhysicalDevice &device, const QString &objec
     return device.findTag(path + QLatin1String("$stVal"));
 }
 
-/// The words for a command, whose value stands in front of everything else that goes with it.
-QString commandWords(const PhysicalDevice &device, const DataAttribute *status, const QString &raw)
+/// The words for the value of a command; empty where it says all itself.
+QString commandedWords(const PhysicalDevice &device, const DataAttribute *status,
+                       const QString &value)
 {
     if (!status)
         return {};
-    const QString value = raw.section(QLatin1Char(','), 0, 0);
-    const QString rest = raw.mid(value.size());
     const bool isSwitch = status->basicType == QLatin1String("Dbpos") ||
                           status->basicType == QLatin1String("BOOLEAN");
-    if (!isSwitch) {
-        const QString words = wordsOf(device, status, value);
-        return words.isEmpty() ? QString() : words + rest;
-    }
+    if (!isSwitch)
+        return wordsOf(device, status, value);
     bool isNumber = false;
     const double number = value.toDouble(&isNumber);
     if (!isNumber)
         return {};
-    return withRaw(number != 0 ? QStringLiteral("on") : QStringLiteral("off"), value) + rest;
+    return withRaw(number != 0 ? QStringLiteral("on") : QStringLiteral("off"), value);
+}
+
+/// What goes with the value of a command, with words for the originator category, which is the
+/// first of it.
+QString conditionWords(const QString &raw)
+{
+    static const QRegularExpression category(QStringLiteral("^,[^,\\d]*(\\d+)"));
+    const QRegularExpressionMatch match = category.match(raw);
+    const QString name = StandardTypes::enumeration(QStringLiteral("OriginatorCategoryKind"))
+                             .value(match.captured(1).toInt());
+    if (!match.hasMatch() || name.isEmpty())
+        return raw;
+    return QString(raw).replace(match.capturedStart(1), match.capturedLength(1),
+                                withRaw(name, match.captured(1)));
+}
+
+/// The words for a command, whose value stands in front of everything else that goes with it.
+QString commandWords(const PhysicalDevice &device, const DataAttribute *status, const QString &raw)
+{
+    const QString value = raw.section(QLatin1Char(','), 0, 0);
+    const QString said = commandedWords(device, status, value);
+    const QString words = (said.isEmpty() ? value : said) + conditionWords(raw.mid(value.size()));
+    return words == raw ? QString() : words;
 }
 
 } // namespace

@@ -64,16 +64,19 @@ void tst_ValueWords::changesAreSaidInWords_data()
     QTest::addColumn<QStringList>("words");
     QTest::newRow("switch") << "controlObject"
                             << "LD0/X1$CO$Pos" << QStringList{"1", "1, category 3, test"}
-                            << QStringList{"off (1)", "on (1), category 3, test"};
+                            << QStringList{"off (1)", "on (1), category remote-control (3), test"};
     QTest::newRow("boolean") << "selectObject"
                              << "LD0/X1$CO$Ind" << QStringList{"false", "0"}
                              << QStringList{"", "off (0)"};
     QTest::newRow("mode") << "controlObject"
                           << "LD0/X1$CO$Mod" << QStringList{"1", "3, category 2"}
-                          << QStringList{"on (1)", "test (3), category 2"};
+                          << QStringList{"on (1)", "test (3), category station-control (2)"};
     QTest::newRow("set point") << "controlObject"
                                << "LD0/X1$CO$A" << QStringList{"1.5", "12.5, category 3"}
-                               << QStringList{"", ""};
+                               << QStringList{"", "12.5, category remote-control (3)"};
+    QTest::newRow("unknown category")
+        << "controlObject"
+        << "LD0/X9$CO$Pos" << QStringList{"", "1, category 9, test"} << QStringList{"", ""};
     QTest::newRow("cancel") << "cancelObject"
                             << "LD0/X1$CO$Pos" << QStringList{"", ""} << QStringList{"", ""};
     QTest::newRow("enumeration") << "writeVariable"
