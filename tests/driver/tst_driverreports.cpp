@@ -7,7 +7,6 @@
 #include <tavrix/tavrix.h>
 
 #include <QtCore/QDeadlineTimer>
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
@@ -131,7 +130,7 @@ private slots:
     void aReadOnlyDriverEnablesNothing();
     void segmentedReportsAreJoined();
     void reportedDataIsNotPolled();
-    void twentyThousandChangesASecondArriveComplete();
+    void aBurstOfTwentyThousandChangesArrivesComplete();
     void aBrowserThatNeverReadsCostsNothing();
 };
 
@@ -726,7 +725,7 @@ void tst_DriverReports::reportedDataIsNotPolled()
     QVERIFY(std::none_of(polled.begin(), polled.end(), isReported));
 }
 
-void tst_DriverReports::twentyThousandChangesASecondArriveComplete()
+void tst_DriverReports::aBurstOfTwentyThousandChangesArrivesComplete()
 {
     const QTemporaryDir folder;
     const IndicatorFile file("BURST", 10, 100);
@@ -741,8 +740,6 @@ void tst_DriverReports::twentyThousandChangesASecondArriveComplete()
     }
     station.listener().clear();
     constexpr int rounds = 20;
-    QElapsedTimer timer;
-    timer.start();
     for (int round = 0; round < rounds; ++round) {
         ied.act([&](sim::Device &device) {
             const sim::Model::Batch batch(device.model());
@@ -755,14 +752,12 @@ void tst_DriverReports::twentyThousandChangesASecondArriveComplete()
             }
         });
     }
-    qInfo("%d changes made in %lld ms", rounds * file.size(), timer.elapsed());
     for (int i = 0; i < file.size(); ++i) {
         const bool expected = i % 3 == 0;
         // An indication that the last round left as it was is not reported by it.
         const QString reference = file.reference(i) + "$stVal";
         QVERIFY2(station.listener().waitForValue(reference, expected), qPrintable(reference));
     }
-    qInfo("complete after %lld ms, %d values", timer.elapsed(), station.listener().published());
     QCOMPARE(station.driver().status(1).state, DeviceState::Online);
 }
 

@@ -8,7 +8,6 @@
 #include <asio/io_context.hpp>
 #include <asio/steady_timer.hpp>
 
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 

@@ -4,7 +4,6 @@
 #include <remoteclient/records.h>
 
 #include <QtCore/QBuffer>
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 

@@ -6,7 +6,6 @@
 
 #include <devicemodel/physicaldevice.h>
 
-#include <QtCore/QElapsedTimer>
 #include <QtTest/QtTest>
 
 #include <atomic>
@@ -24,8 +23,8 @@ namespace {
 constexpr milliseconds callTimeout{400};
 constexpr milliseconds operationTimeout{1500};
 constexpr milliseconds connectTimeout{1500};
-/// What a busy machine may be late.
-constexpr int tolerance = 10000;
+/// Of somebody who waits on a busy machine for what the driver ends by itself.
+constexpr std::chrono::seconds patience{20};
 constexpr int honestNumber = 100;
 /// What a flood may take; most of it is what sanitizers and allocators keep.
 constexpr qint64 tolerableGrowth = 96 << 20;
@@ -45,15 +44,12 @@ struct Ending
 {
     OperationResult result = OperationSucceeded;
     QString error;
-    qint64 elapsed = 0;
 };
 
 /// What an operator does to bring about a step.
 Ending perform(ServedDriver &driver, int number, HostileDevice &device, Step step)
 {
     Ending ending;
-    QElapsedTimer timer;
-    timer.start();
     switch (step) {
     case Step::Read:
         ending.result =
@@ -81,7 +77,6 @@ Ending perform(ServedDriver &driver, int number, HostileDevice &device, Step ste
         driver.disconnectDevice(number);
         break;
     }
-    ending.elapsed = timer.elapsed();
     return ending;
 }
 
@@ -233,9 +228,9 @@ void tst_HostileServers::everyStepEndsWithASentenceAndHarmsNobody()
             QVERIFY2(status.reason.isEmpty() || isSentence(status.reason),
                      says(status.reason).constData());
         } else {
+            QVERIFY2(endings[i].wait_for(patience) == std::future_status::ready,
+                     says("does not end").constData());
             const Ending ending = endings[i].get();
-            QVERIFY2(ending.elapsed < operationTimeout.count() + tolerance,
-                     says(QString::number(ending.elapsed)).constData());
             QVERIFY2((ending.result == OperationSucceeded) == ending.error.isEmpty(),
                      says(ending.error).constData());
             QVERIFY2(ending.error.isEmpty() || isSentence(ending.error),

@@ -8,7 +8,6 @@
 #include "mms/pdu.h"
 #include "osi/interference.h"
 
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
