@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "osi/link.h"
 
+#include "osi/certifiedname.h"
+
 #include <asio/co_spawn.hpp>
 #include <asio/connect.hpp>
 #include <asio/experimental/as_tuple.hpp>
@@ -30,19 +32,6 @@ constexpr bool endsAssociation =
 bool isTls(std::uint8_t firstOctet)
 {
     return firstOctet == 0x15 || firstOctet == 0x16;
-}
-
-/// What a certificate of the host has to be made out to.
-std::string certifiedName(const std::string &host)
-{
-    const auto address = numericAddress(host);
-    if (!address)
-        return host;
-    if (!address->is_v6())
-        return address->to_string();
-    asio::ip::address_v6 withoutScope = address->to_v6();
-    withoutScope.scope_id(0);
-    return withoutScope.to_string();
 }
 
 void prepare(asio::ip::tcp::socket &socket)
