@@ -27,8 +27,7 @@ public:
     asio::any_io_executor executor() { return m_loop.executor(); }
 
     /// Throws when there is no association.
-    std::shared_ptr<acsi::ChangingClient> connect(std::uint16_t port,
-                                                  acsi::ClientOptions options = {})
+    std::shared_ptr<acsi::Client> connect(std::uint16_t port, acsi::ClientOptions options = {})
     {
         auto connecting =
             acsi::Client::connect(m_loop.executor(), "127.0.0.1", port, std::move(options));
