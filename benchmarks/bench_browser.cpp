@@ -129,7 +129,6 @@ public:
     }
 
     drivertest::SimulatedIed &ied() { return m_ied; }
-    IedDriver &driver() { return *m_driver; }
     DriverService &service() { return *m_service; }
     std::unique_ptr<IEDModelView> open()
     {
@@ -354,8 +353,8 @@ void latency(benchmark::State &state)
         const QString device = QStringLiteral("IEDLD");
         if (host.service().getBRCBValues(deviceNo, device, name, block, error) !=
                 OperationSucceeded ||
-            host.driver().enableReportBlock(deviceNo, device, name, block.rptId, QString(), block,
-                                            error) != OperationSucceeded) {
+            host.service().enableReportBlock(deviceNo, device, name, block.rptId, QString(), block,
+                                             error) != OperationSucceeded) {
             state.SkipWithError(qPrintable(error));
             return;
         }
