@@ -236,7 +236,6 @@ public:
         configuration.port = serverPort;
         configuration.pollInterval = pollInterval;
         m_driver.setDevice(configuration);
-        const auto start = steady_clock::now();
         m_driver.connectDevice(1);
         std::unique_lock<std::mutex> lock(m_mutex);
         const bool isOnline =

@@ -79,7 +79,7 @@ public:
     }
 
     ClientLoop &loop() { return m_loop; }
-    const std::shared_ptr<acsi::Client> &client() { return m_ours; }
+    const std::shared_ptr<acsi::ChangingClient> &client() { return m_ours; }
     /// A file of the server, and one that the foreign client may send.
     QString served(const QString &name) const { return m_server->filePath(name); }
     QString own(const QString &name) const { return m_folder.filePath(name); }
@@ -95,7 +95,7 @@ private:
     std::unique_ptr<interop::ForeignServer> m_server;
     std::unique_ptr<interop::ForeignPeer> m_client;
     ClientLoop m_loop;
-    std::shared_ptr<acsi::Client> m_ours;
+    std::shared_ptr<acsi::ChangingClient> m_ours;
 };
 
 double median(std::vector<double> values)

@@ -27,12 +27,14 @@ public:
     asio::any_io_executor executor() { return m_loop.executor(); }
 
     /// Throws when there is no association.
-    std::shared_ptr<acsi::Client> connect(std::uint16_t port, acsi::ClientOptions options = {})
+    std::shared_ptr<acsi::ChangingClient> connect(std::uint16_t port,
+                                                  acsi::ClientOptions options = {})
     {
         auto connecting =
             acsi::Client::connect(m_loop.executor(), "127.0.0.1", port, std::move(options));
-        m_clients.push_back(value(run(m_loop.executor(), std::move(connecting))));
-        return m_clients.back();
+        auto client = value(run(m_loop.executor(), std::move(connecting)));
+        m_clients.push_back(client);
+        return client;
     }
 
     void disconnect(const std::shared_ptr<acsi::Client> &client)
@@ -46,8 +48,8 @@ public:
     }
 
     /// What a coroutine comes to. A result without a value throws.
-    template <typename T>
-    auto run(const std::shared_ptr<acsi::Client> &client, asio::awaitable<mms::Result<T>> work)
+    template <typename Client, typename T>
+    auto run(const std::shared_ptr<Client> &client, asio::awaitable<mms::Result<T>> work)
     {
         return value(run(client->strand(), std::move(work)));
     }
