@@ -30,12 +30,6 @@ QByteArray encoded(const QVariant &value)
     return bytes;
 }
 
-/// As the tools have it.
-std::shared_ptr<DriverService> service()
-{
-    return DriverServiceRegistry::find(EmbeddedConsole::address);
-}
-
 } // namespace
 
 class tst_ConnectedDevices : public QObject
