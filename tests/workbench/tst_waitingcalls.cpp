@@ -113,12 +113,13 @@ void tst_WaitingCalls::aCallThatEndsSoonShowsNothing()
     install(forLong);
     m_service->setAnswer(QStringLiteral("deleteFile"), OperationFailed, QStringLiteral("No."));
     m_mayAnswer.release();
-    bool hasRun = false;
-    QTimer::singleShot(0, this, [&hasRun] { hasRun = true; });
+    // It runs when this function has ended.
+    const auto hasRun = std::make_shared<bool>(false);
+    QTimer::singleShot(0, this, [hasRun] { *hasRun = true; });
     QString error;
     QCOMPARE(m_controller.deleteFile(7, QStringLiteral("a"), error), OperationFailed);
     QCOMPARE(error, QStringLiteral("No."));
-    QVERIFY2(!hasRun, "the caller is blocked, as it expects to be");
+    QVERIFY2(!*hasRun, "the caller is blocked, as it expects to be");
     QVERIFY(m_cancelled.isEmpty());
 }
 
