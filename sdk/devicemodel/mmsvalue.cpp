@@ -69,15 +69,36 @@ bool narrow(const QString &text, NarrowText &result)
     return true;
 }
 
-QString widened(quint16 alphabet, const QByteArray &octets)
+/// False for characters that there are not. The text ends at a zero, as one in UTF-8 does.
+bool widen(quint16 alphabet, const QByteArray &octets, QString &text)
 {
-    QString text;
+    text.clear();
     text.reserve(octets.size());
     for (const char c : octets) {
-        const int number = static_cast<uchar>(c);
-        text.append(QChar(number < asciiEnd ? number : alphabet + number - asciiEnd));
+        const int octet = static_cast<uchar>(c);
+        const int character = octet < asciiEnd ? octet : alphabet + octet - asciiEnd;
+        if (character > 0xFFFF)
+            return false;
+        if (character == 0)
+            break;
+        text.append(QChar(character));
     }
-    return text;
+    return true;
+}
+
+/// As QString::fromUtf8(), but a byte order mark at the beginning stays: it is part of the text,
+/// and goes back as such.
+QString fromUtf8(const QByteArray &bytes)
+{
+    static const QByteArray mark = QByteArrayLiteral("\xEF\xBB\xBF");
+    int marks = 0;
+    while (std::strncmp(bytes.constData() + marks * mark.size(), mark.constData(),
+                        static_cast<std::size_t>(mark.size())) == 0)
+        ++marks;
+    if (marks == 0)
+        return QString::fromUtf8(bytes);
+    return QString(marks, QChar(QChar::ByteOrderMark)) +
+           QString::fromUtf8(bytes.mid(marks * mark.size()));
 }
 
 /// UTF-8 in at most `limit` bytes; a text that has more ends in "…" behind its last whole
@@ -179,7 +200,7 @@ public:
     template <typename Length>
     QString text()
     {
-        return QString::fromUtf8(bytes<Length>());
+        return fromUtf8(bytes<Length>());
     }
 
     QVariant value()
@@ -207,7 +228,10 @@ public:
             return bytes<quint16>();
         case narrowText: {
             const auto alphabet = number<quint16>();
-            return widened(alphabet, bytes<quint16>());
+            QString text;
+            if (!widen(alphabet, bytes<quint16>(), text))
+                m_stream.setStatus(QDataStream::ReadCorruptData);
+            return text;
         }
         default:
             m_stream.setStatus(QDataStream::ReadCorruptData);

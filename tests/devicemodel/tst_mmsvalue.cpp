@@ -169,6 +169,29 @@ private slots:
         QCOMPARE(read.timeStamp, written.timeStamp);
     }
 
+    void aNarrowTextHasOnlyCharactersThatThereAre()
+    {
+        const auto read = [](const QByteArray &bytes) {
+            MMSValue value;
+            QDataStream stream(bytes);
+            value.fromStream(stream);
+            return value.value;
+        };
+        const QByteArray rest(14, '\0');
+        QCOMPARE(read(QByteArray("\x01\xFE\x04\x00\x00\x02\x41\x80", 8) + rest),
+                 QVariant(QStringLiteral("A") + QChar(0x0400)));
+        QCOMPARE(read(QByteArray("\x01\xFE\xFF\x91\x00\x01\xFD", 7) + rest), QVariant());
+        QCOMPARE(read(QByteArray("\x01\xFE\x04\x00\x00\x02\x41\x00", 8) + rest),
+                 QVariant(QStringLiteral("A")));
+    }
+
+    void aByteOrderMarkIsPartOfTheText()
+    {
+        MMSValue written = example();
+        written.value = QString(2, QChar(QChar::ByteOrderMark)) + QLatin1Char('a');
+        QCOMPARE(throughRecord(written).value, written.value);
+    }
+
     void aValueThatIsCutCanBeTold()
     {
         MMSValue written = example();
